@@ -1,0 +1,5 @@
+option(KESTREL_SANITIZE "Build everything with the address and undefined-behaviour sanitizers" OFF)
+if(KESTREL_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()

@@ -1,0 +1,18 @@
+# `wx`: the toolkit, for the folders that show windows.  `wx_pch` compiles its headers once for all of them.
+find_package(wxWidgets 3.2 REQUIRED COMPONENTS stc aui core base)
+add_library(wx INTERFACE)
+target_include_directories(wx SYSTEM INTERFACE ${wxWidgets_INCLUDE_DIRS})
+target_compile_definitions(wx INTERFACE ${wxWidgets_DEFINITIONS})
+target_compile_options(wx INTERFACE ${wxWidgets_CXX_FLAGS})
+target_link_libraries(wx INTERFACE ${wxWidgets_LIBRARIES})
+
+file(WRITE ${CMAKE_BINARY_DIR}/wx_pch.cpp "")
+add_library(wx_pch STATIC ${CMAKE_BINARY_DIR}/wx_pch.cpp)
+target_link_libraries(wx_pch PUBLIC warnings wx)
+target_precompile_headers(wx_pch PRIVATE <wx/wx.h> <functional> <map> <memory> <string> <vector>)
+
+# use_wx(target): links the toolkit and reuses its precompiled header.
+function(use_wx target)
+  target_link_libraries(${target} PRIVATE warnings wx)
+  target_precompile_headers(${target} REUSE_FROM wx_pch)
+endfunction()

@@ -1,0 +1,72 @@
+// What the file-list and comment dialogs show and answer, without a window: a file command fills it, a dialog edits it,
+// the command reads it again.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+#include "host/Text.h"
+#include "provider/sccapiintf.h"
+
+/// Results of every modal form of the system.
+inline constexpr int mrOk = 1;
+inline constexpr int mrCancel = 2;
+
+/// The candidate files of one command.  Up to kMaxFiles rows; every operation but the All ones is constant time.
+class TFileListModel {
+ public:
+  /// Which of the two boxes under the list the command shows.
+  enum class ExtraBox { None, KeepCheckedOut, CheckOutAfterAdd };
+  /// What the buttons may do.
+  struct TButtons {
+    bool Ok = false;
+    bool CheckAll = false;
+    bool UncheckAll = false;
+    bool operator==(const TButtons&) const = default;
+  };
+
+  std::string Caption;
+  std::string HelpKeyword;
+  TCommandOptions CommandKind = coGet;
+  bool HasOptions = false;  ///< the provider offers an options dialog for this command
+  ExtraBox Extra = ExtraBox::None;
+  bool KeepCheckedOut = true;
+  bool CheckOutAfterAdd = true;
+
+  void AddFile(const std::string& fileName, const std::string& status);
+  std::size_t Count() const { return rows_.size(); }
+  /// The full path of a row; empty for an index outside the list.
+  std::string GetFile(int index) const;
+  const std::string& NameOf(std::size_t row) const { return rows_[row].Name; }
+  const std::string& StatusOf(std::size_t row) const { return rows_[row].Status; }
+  const std::string& DirectoryOf(std::size_t row) const { return rows_[row].Directory; }
+
+  bool IsChecked(std::size_t row) const { return rows_[row].Checked; }
+  void SetChecked(std::size_t row, bool checked);
+  int ItemsChecked() const { return static_cast<int>(checked_); }
+  void ChangeAllCheckedStates(bool checked);
+
+  /// First ticks: every row that is `currentFile` (a form file stands for its unit), or the only row.
+  void TickCurrent(const std::string& currentFile);
+  /// Empty lists leave the buttons as they were, that is disabled.
+  TButtons CheckState() const;
+
+ private:
+  struct TRow {
+    std::string Name;
+    std::string Status;
+    std::string Directory;  // without trailing delimiter
+    bool Checked = false;
+  };
+  std::vector<TRow> rows_;
+  std::size_t checked_ = 0;
+};
+
+/// One comment asked for.
+struct TCommentModel {
+  std::string Caption;  ///< empty keeps the dialog's own
+  std::string Text;     ///< in: what is offered; out: what the user typed, at most 128 bytes
+  bool ShowApplyToAll = false;
+  bool ApplyToAll = true;
+};

@@ -1,0 +1,32 @@
+// What the system asks of the operating system.  Implemented once per platform in posix/ and windows/.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+/// The logged-on user's name.  Empty when it does not fit `bufferSize` characters, terminator included.
+std::string GetUserNameText(std::size_t bufferSize);
+/// The process's current directory.  Empty when it does not fit `bufferSize` characters, terminator included.
+std::string GetCurrentDirectoryText(std::size_t bufferSize);
+
+bool FileExists(const std::string& path);
+bool DirectoryExists(const std::string& path);
+
+/// File attributes of the SCC world, as far as the system changes them.
+inline constexpr std::uint32_t faReadOnly = 0x01;
+inline constexpr std::uint32_t faArchive = 0x20;
+/// faReadOnly, faArchive or both; 0 for a file that is not there.
+std::uint32_t GetFileAttributesOf(const std::string& path);
+/// Sets exactly `attributes`.  Archive without read-only makes the file writable by its owner.  False when the file
+/// is missing or may not be changed.
+bool SetFileAttributesOf(const std::string& path, std::uint32_t attributes);
+
+/// The system's beeps (values of the Windows MessageBeep call).
+enum class TBeep : unsigned { Hand = 16, Question = 32, Exclamation = 48, Asterisk = 64 };
+void MessageBeep(TBeep kind);
+
+/// Writes the whole file, or leaves the old one as it was: temporary file beside it, synced, renamed over it.
+/// Keeps the old file's permissions.  Throws std::runtime_error with a sentence that names the file.
+void WriteFileAtomically(const std::string& path, const std::string& contents);
+/// The whole file.  Throws std::runtime_error with a sentence that names the file when it cannot be read.
+std::string ReadWholeFile(const std::string& path);

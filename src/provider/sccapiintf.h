@@ -1,0 +1,231 @@
+// Providers, their sessions and their answers, as the rest of the add-in sees them.
+//
+// Everything behind these classes is somebody else's code loaded into the IDE, so this is the border: texts cross it in
+// guarded copies, a missing entry point answers -14 (operation not supported), and a C++ exception of the provider
+// becomes an error text.  All calls are synchronous and made on the user-interface thread.
+#pragma once
+
+#include <array>
+#include <bitset>
+#include <cstddef>
+#include <memory>
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "host/Services.h"
+#include "provider/sccdefs.h"
+
+// ---------------------------------------------------------------------------------------------- discovery
+
+/// The registry layout that programs share; keys are relative to the local-machine root.
+inline constexpr const char* kProviderKey = "Software\\SourceCodeControlProvider";
+inline constexpr const char* kInstalledProvidersKey = "Software\\SourceCodeControlProvider\\InstalledSCCProviders";
+inline constexpr const char* kProviderRegKey = "ProviderRegKey";
+inline constexpr const char* kServerName = "SccServerName";
+inline constexpr const char* kServerPath = "SccServerPath";
+
+/// Whether at least one provider is installed.
+bool SCCProviderInstalled();
+/// Display name and library path of the machine's default provider; what is missing comes back empty.
+void GetDefaultProvider(std::string& name, std::string& path);
+
+// ---------------------------------------------------------------------------------------------- messages
+
+/// Filled after every provider call: [0] the operation's own success line, [1] an informational text, [2] an error.
+using TStateMessages = std::array<std::string, 3>;
+using TStringList = std::vector<std::string>;
+
+/// Fills all three texts from a return code.
+void DecodeReturnCode(scc::Long code, TStateMessages& messages);
+
+/// One flag per status bit; the values are bit numbers of TQueryStatus.
+enum TQueryFlags {
+  qsNone,
+  qsNotControlled,
+  qsControlled,
+  qsCheckedOutByCurrentUser,
+  qsCheckedOutToAnotherUser,
+  qsCheckedOutExclusivelyToSomeone,
+  qsCheckedOutToMultipleUsers,
+  qsOutOfDate,
+  qsDeletedFromProject,
+  qsNoMoreVersionsAllowed,
+  qsHasBeenMerged,
+  qsSharedBetweenProjects,
+  qsSharedToExplicitVersion,
+  qsHasBeenModified,
+  qsCheckedOutToCurrentUser,
+};
+using TQueryStatus = std::bitset<15>;
+
+TQueryStatus ToQueryStatus(scc::Long status);
+/// Writes one information line per matching status bit of the file to the message sink.  -1 (no information) writes
+/// its own line and all bit lines too: that is meant.
+void DecodeQueryStatus(const std::string& fileName, scc::Long status);
+
+/// The most files that one query or list population may carry.
+inline constexpr std::size_t kMaxFiles = 65536;
+/// Caller-owned status words, one per file; always kMaxFiles of them.
+class TStatusArray {
+ public:
+  TStatusArray() : words_(kMaxFiles, 0) {}
+  scc::Long* data() { return words_.data(); }
+  scc::Long operator[](std::size_t i) const { return words_[i]; }
+  scc::Long& operator[](std::size_t i) { return words_[i]; }
+
+ private:
+  std::vector<scc::Long> words_;
+};
+
+/// Where the provider's texts go.  The layer above installs one; without one they are dropped.
+class IProviderSink {
+ public:
+  enum class Kind { Info, Warning, Error };
+  virtual ~IProviderSink() = default;
+  virtual void Line(Kind kind, const std::string& text) = 0;
+  /// A modal box with an OK button.
+  virtual void Box(const std::string& text) = 0;
+};
+/// Borrowed until replaced; nullptr removes it.  Returns the one before.
+IProviderSink* SetProviderSink(IProviderSink* sink);
+
+/// The callback handed to providers.  Tolerates null texts, late calls and any kind; always returns 0.
+scc::Long SCC_CALL TextOutProc(const char* text, scc::Dword kind) noexcept;
+
+// ---------------------------------------------------------------------------------------------- sessions
+
+/// Commands whose options can be asked for; equal to SCCCommand.
+enum TCommandOptions : std::int32_t {
+  coGet,
+  coCheckOut,
+  coCheckIn,
+  coUnCheckout,
+  coAdd,
+  coRemove,
+  coDiff,
+  coHistory,
+  coRename,
+  coProperties,
+  coOptions,
+};
+enum TCommandOptionFlags { coQuery, coShowAdvDialog };
+
+/// One provider project bound to one local directory.  Created and owned by TSCCProviderList.
+class TSCCProviderProject {
+ public:
+  TSCCProviderProject(const std::string& localPath, TWindowHandle window, const std::string& userName);
+  ~TSCCProviderProject();
+  TSCCProviderProject(const TSCCProviderProject&) = delete;
+  TSCCProviderProject& operator=(const TSCCProviderProject&) = delete;
+
+  // Identity texts.  Each is a buffer of the size in brackets (bytes); a setter copies what fits, a getter returns the
+  // text up to its terminator.  The provider may rewrite them in GetProjectPath and OpenProject.
+  std::string get_ProjName() const;  // [261]
+  void set_ProjName(const std::string& value);
+  std::string get_ProjPath() const;  // [301] the auxiliary project path
+  void set_ProjPath(const std::string& value);
+  std::string get_LocalPath() const;  // [261]
+  void set_LocalPath(const std::string& value);
+  std::string get_UserName() const;  // [33]
+  void set_UserName(const std::string& value);
+
+  scc::Long GetProjectPath(TStateMessages& messages, bool mayCreate, bool mayChangePath);
+  scc::Long OpenProject(TStateMessages& messages);
+  /// The same with another local path, which leaves the session's own untouched.
+  scc::Long OpenProject(TStateMessages& messages, const std::string& localPath);
+  bool CloseProject(TStateMessages& messages);
+  std::string GetVersion();
+  void Properties(const std::string& fileName, TStateMessages& messages);
+  void GetEvents(TStateMessages& messages);
+  scc::Long RunSCC();
+
+  /// Status words of `files` into `statuses`, in order.  Throws EAbort for an empty list or more than kMaxFiles.
+  bool Query(const TStringList& files, TStatusArray& statuses, TStateMessages& messages);
+
+  // File commands.  All throw EAbort for an empty list (a blank name for the history) before the provider is called;
+  // provider results never throw.  Comments are cut at 128 bytes.
+  bool CheckOutFile(const TStringList& files, const std::string& comment, TStateMessages& messages);
+  bool AddFile(const TStringList& files, const std::string& comment, bool keepCheckedOut, TStateMessages& messages);
+  bool CheckInFile(const TStringList& files, const std::string& comment, bool keepCheckedOut, TStateMessages& messages);
+  bool RemoveFile(const TStringList& files, TStateMessages& messages);
+  bool UnCheckOutFile(const TStringList& files, TStateMessages& messages);
+  scc::Long GetFile(const TStringList& files, TStateMessages& messages);
+  scc::Long GetFilesAndDirs(const TStringList& names, TStateMessages& messages);
+  scc::Long ShowDiff(const std::string& fileName, scc::Long flags, TStateMessages& messages);
+  bool SilentDiff(const std::string& fileName, TStateMessages& messages);
+  scc::Long ShowHistory(const std::string& fileName, TStateMessages& messages);
+  bool PopulateList(scc::SCCCommand command, const TStringList& files, scc::TPopListFunc callback, TStatusArray& statuses,
+                    TStateMessages& messages);
+  bool PopulateDirectoriesList(scc::SCCCommand command, const TStringList& files, scc::TPopListFunc callback,
+                               TStatusArray& statuses, TStateMessages& messages);
+  bool GetCommandOptions(TCommandOptions command, TCommandOptionFlags flag, TStateMessages& messages);
+  void AddFromScc(TStateMessages& messages);
+
+ private:
+  friend class TSCCProviderList;
+  // (the implementation's own members)
+};
+
+/// What a provider can do, decoded from its capability word.
+enum TProviderCapabilityFlags {
+  pcReEntrant,
+  pcSccRemove,
+  pcSccRename,
+  pcSccDiff,
+  pcSccHistory,
+  pcSccProperties,
+  pcSccRunScc,
+  pcSccGetCommandOptions,
+  pcSccQueryInfo,
+  pcSccGetEvents,
+  pcSccGetProjPath,
+  pcSccAddFromScc,
+  pcSccTextOut,
+  pcCommentCheckOut,
+  pcCommentCheckIn,
+  pcCommentAdd,
+  pcCommentRemove,
+  pcCommentProject,
+  pcAddStoreLatest,
+  pcHistoryMultiFile,
+  pcSccPopulateList,
+  pcSccDiffAlways,
+  pcSccNoGetUI,
+  pcIgnoreCase,
+  pcIgnoreWhiteSpace,
+};
+using TProviderCapabilities = std::bitset<25>;
+
+/// Owner of one loaded provider: library, context, capabilities and one session per local directory.
+class TSCCProviderList {
+ public:
+  /// Throws EAbort when the path is blank or nothing loadable; a failing SccInitialize does not throw.
+  TSCCProviderList(const std::string& providerPath, TWindowHandle window, const std::string& userName);
+  ~TSCCProviderList();
+  TSCCProviderList(const TSCCProviderList&) = delete;
+  TSCCProviderList& operator=(const TSCCProviderList&) = delete;
+
+  void Add(const std::string& localPath);
+  void Add(const std::string& localPath, const std::string& userName);
+  /// Frees the first session of that directory.  Does not touch the current project, even if it was the one freed:
+  /// call SetCurrentProject afterwards.
+  void Remove(const std::string& localPath);
+  bool SetCurrentProject(const std::string& localPath);
+  /// Frees all sessions without closing their projects.
+  void CloseAll();
+
+  int GetCount() const;
+  TSCCProviderProject* GetItem(int index) const;
+  /// Replaces the entry; the one replaced is handed back to the caller.
+  std::unique_ptr<TSCCProviderProject> PutItem(int index, std::unique_ptr<TSCCProviderProject> project);
+
+  const TProviderCapabilities& Capabilities() const;
+  TSCCProviderProject* CurrentProject() const;
+  const std::string& UserName() const;
+
+ private:
+  // (the implementation's own members)
+};
+
