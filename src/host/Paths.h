@@ -2,12 +2,17 @@
 // extension is, which delimiter ends a directory) is stated once.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
 /// The platform's path delimiter.
 extern const char PathDelim;
 bool IsPathDelim(char c);
+/// How many bytes of `path` name its root (1 for "/x"); 0 when it is relative.
+std::size_t RootLength(std::string_view path);
+/// Whether the platform takes both spellings for the same name (POSIX: only when they are equal).
+bool SameFileName(std::string_view a, std::string_view b);
 
 /// The part behind the last delimiter.
 std::string ExtractFileName(std::string_view path);
@@ -17,7 +22,9 @@ std::string ExtractFileDir(std::string_view path);
 std::string ExtractFileExt(std::string_view path);
 /// Replaces that part by `extension` (which need not begin with a dot), or appends it.
 std::string ChangeFileExt(std::string_view path, std::string_view extension);
+/// `path` with a delimiter at its end; the empty path becomes a lone delimiter.
 std::string IncludeTrailingPathDelimiter(std::string_view path);
+/// `path` without delimiters at its end, except that a root keeps its own.
 std::string ExcludeTrailingPathDelimiter(std::string_view path);
 bool IsAbsolutePath(std::string_view path);
 /// `path` as seen from directory `base`, when it lies below it (compared as the platform compares names); otherwise

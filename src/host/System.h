@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 
 /// The logged-on user's name.  Empty when it does not fit `bufferSize` characters, terminator included.
@@ -23,10 +24,15 @@ bool SetFileAttributesOf(const std::string& path, std::uint32_t attributes);
 
 /// The system's beeps (values of the Windows MessageBeep call).
 enum class TBeep : unsigned { Hand = 16, Question = 32, Exclamation = 48, Asterisk = 64 };
+/// Sounds a beep and returns at once.  User-interface thread.  Where the system has no beeps of its own (POSIX), the
+/// host's toolkit sounds them: silent until the host has installed a handler.
 void MessageBeep(TBeep kind);
+/// Installs what sounds a beep; an empty function removes it.  User-interface thread.
+void SetBeepHandler(std::function<void(TBeep)> handler);
 
 /// Writes the whole file, or leaves the old one as it was: temporary file beside it, synced, renamed over it.
-/// Keeps the old file's permissions.  Throws std::runtime_error with a sentence that names the file.
+/// Keeps the old file's permissions and writes through symbolic links.  A read-only file is refused.  Throws
+/// std::runtime_error with a sentence that names the file.
 void WriteFileAtomically(const std::string& path, const std::string& contents);
 /// The whole file.  Throws std::runtime_error with a sentence that names the file when it cannot be read.
 std::string ReadWholeFile(const std::string& path);

@@ -1,0 +1,19 @@
+#include "host/Library.h"
+
+#include <dlfcn.h>
+
+#include "host/Paths.h"
+
+TModuleHandle LoadModule(const std::string& path, std::string* error) {
+  const bool absolute = IsAbsolutePath(path);
+  // RTLD_NOW: a library that lacks something fails here, with a message, not in the middle of a command.
+  const auto module = absolute ? dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL) : nullptr;
+  if (!module && error) *error = absolute ? dlerror() : path + ": not an absolute path";
+  return module;
+}
+
+void* FindSymbol(TModuleHandle module, const char* name) { return module ? dlsym(module, name) : nullptr; }
+
+void FreeModule(TModuleHandle module) {
+  if (module) dlclose(module);
+}

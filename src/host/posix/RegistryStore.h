@@ -1,0 +1,44 @@
+// One file of the registry store: INI text, one section per key path, one line per value.
+//
+//   [Software\SourceCodeControlProvider\InstalledSCCProviders]
+//   Subversion=Software\Subversion\SCC
+//
+// What INI text cannot hold is written so that the rest stays as a person would type it: a text that begins or ends
+// with a blank or is quoted itself stands in double quotes; control characters, and in names '=' and ']', stand as %XX
+// (two hexadecimal digits), and a percent sign that would read as such an escape stands as %25.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+/// The contents of one store file.  Keys and names compare ignoring case; order is the file's.
+class TRegistryStore {
+ public:
+  /// Parses INI text; lines that are none are ignored.
+  explicit TRegistryStore(const std::string& text);
+  ~TRegistryStore();
+  /// What can be read of the file; nothing of it when it is missing, unreadable or no text.
+  static TRegistryStore Read(const std::string& path);
+  /// Reads the file, lets `change` work on it and writes it back when that answers true.  Others that update it wait
+  /// meanwhile.  Creates the file and its directory when missing.  Returns what `change` answered.  Throws
+  /// std::runtime_error with a sentence that names the file when it cannot be read or written.
+  static bool Update(const std::string& path, const std::function<bool(TRegistryStore&)>& change);
+
+  /// A key exists when it has a section or lies above one.
+  bool HasKey(const std::string& key) const;
+  std::optional<std::string> Value(const std::string& key, const std::string& name) const;
+  std::vector<std::string> ValueNames(const std::string& key) const;
+  void SetValue(const std::string& key, const std::string& name, const std::string& value);
+  bool DeleteValue(const std::string& key, const std::string& name);
+  /// Deletes the key with everything below it.
+  bool DeleteKey(const std::string& key);
+
+  std::string Text() const;
+
+ private:
+  struct TIni;
+  std::unique_ptr<TIni> ini_;
+};
