@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "host/Services.h"
+#include "provider/BoundedText.h"
 #include "provider/sccdefs.h"
 
 // ---------------------------------------------------------------------------------------------- discovery
@@ -67,13 +68,18 @@ void DecodeQueryStatus(const std::string& fileName, scc::Long status);
 
 /// The most files that one query or list population may carry.
 inline constexpr std::size_t kMaxFiles = 65536;
-/// Caller-owned status words, one per file; always kMaxFiles of them.
+/// Caller-owned status words, one per file; always kMaxFiles of them, and a guard behind.
 class TStatusArray {
  public:
-  TStatusArray() : words_(kMaxFiles, 0) {}
+  TStatusArray();
   scc::Long* data() { return words_.data(); }
   scc::Long operator[](std::size_t i) const { return words_[i]; }
   scc::Long& operator[](std::size_t i) { return words_[i]; }
+
+  /// Sets all words to 0.
+  void Clear();
+  /// Whether somebody wrote behind the words since the last time; repairs the guard.
+  bool TakeOverrun();
 
  private:
   std::vector<scc::Long> words_;
@@ -93,6 +99,10 @@ IProviderSink* SetProviderSink(IProviderSink* sink);
 
 /// The callback handed to providers.  Tolerates null texts, late calls and any kind; always returns 0.
 scc::Long SCC_CALL TextOutProc(const char* text, scc::Dword kind) noexcept;
+
+/// Whether a provider function is on the call stack.  A provider may pump messages in its dialogs; whoever is called
+/// then must not close a project or unload the library.
+bool ProviderCallInProgress();
 
 // ---------------------------------------------------------------------------------------------- sessions
 
@@ -165,7 +175,25 @@ class TSCCProviderProject {
 
  private:
   friend class TSCCProviderList;
-  // (the implementation's own members)
+
+  scc::Long OpenAt(TStateMessages& messages, const TBoundedText& localPath);
+  scc::Long Get(const TStringList& names, scc::Long flags, TStateMessages& messages);
+  scc::Long Diff(const std::string& fileName, scc::Long flags, TStateMessages& messages);
+  bool Populate(scc::SCCCommand command, const TStringList& files, scc::TPopListFunc callback, TStatusArray& statuses,
+                scc::Long flags, TStateMessages& messages);
+  scc::WindowHandle Window() const;
+  void* Options() { return options_.data(); }
+
+  void* context_ = nullptr;  // the list's; it outlives the session
+  TWindowHandle window_;
+  TBoundedText localPath_{261};
+  TBoundedText userName_{33};
+  TBoundedText projName_{261};
+  TBoundedText projPath_{301};
+  // Commands pass the address of this block, and an advanced-options dialog stores the provider's pointer in it.  The
+  // API's authors meant four bytes; a pointer has eight here, and a provider that takes the block for its own
+  // structure reads zeros instead of whatever lies behind.
+  std::array<void*, 16> options_{};
 };
 
 /// What a provider can do, decoded from its capability word.
@@ -226,6 +254,18 @@ class TSCCProviderList {
   const std::string& UserName() const;
 
  private:
-  // (the implementation's own members)
+  void Initialize(const std::string& providerPath);
+  void SetOptions();
+  void UnInitialize();
+
+  using TProjects = std::vector<std::unique_ptr<TSCCProviderProject>>;
+  TProjects::iterator Find(const std::string& localPath);
+
+  TProjects projects_;
+  void* context_ = nullptr;
+  TWindowHandle window_;
+  TSCCProviderProject* current_ = nullptr;
+  TProviderCapabilities capabilities_;
+  std::string userName_;
 };
 

@@ -1,0 +1,17 @@
+#include "host/Registry.h"
+#include "provider/sccapiintf.h"
+
+bool SCCProviderInstalled() {
+  TRegistry registry;
+  return registry.OpenKeyReadOnly(kInstalledProvidersKey) && !registry.GetValueNames().empty();
+}
+
+void GetDefaultProvider(std::string& name, std::string& path) {
+  TRegistry registry;
+  // No opening is checked: what is missing reads as the empty text, and so does everything behind it.
+  registry.OpenKeyReadOnly(kProviderKey);
+  const std::string providerKey = registry.ReadString(kProviderRegKey);
+  registry.OpenKeyReadOnly(providerKey);
+  name = registry.ReadString(kServerName);
+  path = registry.ReadString(kServerPath);
+}

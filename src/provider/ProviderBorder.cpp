@@ -1,0 +1,118 @@
+#include "provider/ProviderBorder.h"
+
+#include <algorithm>
+#include <cstring>
+#include <numeric>
+#include <utility>
+
+#include "host/Errors.h"
+#include "provider/ProviderStrings.h"
+
+namespace {
+
+IProviderSink* sink = nullptr;
+std::string providerName;
+
+constexpr char kGuardByte = '\x5A';
+
+std::string_view UpToNul(std::string_view text) { return text.substr(0, text.find('\0')); }
+
+struct TTextKind {
+  scc::Dword Value;
+  IProviderSink::Kind Kind;
+};
+constexpr TTextKind kTextKinds[] = {
+    {scc::SCC_MSG_INFO, IProviderSink::Kind::Info},
+    {scc::SCC_MSG_WARNING, IProviderSink::Kind::Warning},
+    {scc::SCC_MSG_ERROR, IProviderSink::Kind::Error},
+};
+
+}  // namespace
+
+void TBoundedText::Set(std::string_view text) { text_ = CutAtCharacter(UpToNul(text), size_ - 1); }
+
+bool TBoundedText::TakeBack(std::string_view text) {
+  const std::string_view whole = UpToNul(text);
+  text_ = whole.substr(0, size_);
+  return whole.size() <= size_;
+}
+
+IProviderSink* SetProviderSink(IProviderSink* newSink) { return std::exchange(sink, newSink); }
+
+IProviderSink* ProviderSink() { return sink; }
+
+void SetProviderName(const std::string& name) { providerName = name; }
+
+void WriteProviderLine(IProviderSink::Kind kind, const std::string& text) noexcept {
+  try {
+    if (sink != nullptr) sink->Line(kind, text);
+  } catch (...) {
+  }
+}
+
+void ReportOverrun(const char* entry) noexcept {
+  WriteProviderLine(IProviderSink::Kind::Warning, Format(sBufferOverrun.str(), {providerName, entry}));
+}
+
+scc::Long SCC_CALL TextOutProc(const char* text, scc::Dword kind) noexcept {
+  const auto known = std::ranges::find(kTextKinds, kind, &TTextKind::Value);
+  if (text == nullptr || known == std::end(kTextKinds)) return scc::SCC_MSG_RTN_OK;
+  // Providers end their lines as if they wrote to a console; the message window has lines of its own.
+  std::string_view line = text;
+  line.remove_suffix(line.size() - (line.find_last_not_of("\r\n") + 1));
+  WriteProviderLine(known->Kind, std::string(line));
+  return scc::SCC_MSG_RTN_OK;
+}
+
+TScratchText::TScratchText(const char* entry, std::string_view text)
+    : entry_(entry), bytes_(kRoom + kGuard, '\0') {
+  std::ranges::copy(UpToNul(text).substr(0, kRoom - 1), bytes_.begin());
+  // The last byte stays a terminator: who reads on after filling the room stops there.
+  std::fill(bytes_.begin() + kRoom, bytes_.end() - 1, kGuardByte);
+}
+
+TScratchText::~TScratchText() {
+  const auto guard = bytes_.begin() + kRoom;
+  if (std::any_of(guard, bytes_.end() - 1, [](char c) { return c != kGuardByte; })) ReportOverrun(entry_);
+}
+
+std::string_view TScratchText::Text() const { return UpToNul({bytes_.data(), kRoom}); }
+
+void TScratchText::MoveTo(TBoundedText& field) const {
+  if (field.TakeBack(Text())) return;
+  WriteProviderLine(IProviderSink::Kind::Warning,
+                    Format(sTextCut.str(), {providerName, entry_, static_cast<long long>(field.Size())}));
+}
+
+TFileArray::TFileArray(const TStringList& files) {
+  const auto bytes = [](std::size_t sum, const std::string& name) { return sum + name.size() + 1; };
+  texts_.resize(std::accumulate(files.begin(), files.end(), std::size_t{0}, bytes));
+  names_.reserve(files.size() + 1);
+  char* place = texts_.data();
+  for (const std::string& name : files) {
+    std::memcpy(place, name.c_str(), name.size() + 1);
+    names_.push_back(place);
+    place += name.size() + 1;
+  }
+  names_.push_back(nullptr);
+}
+
+void RequireFiles(const TStringList& files, const TResString& message) {
+  if (files.empty()) throw EAbort(message);
+}
+
+void RequireAtMostMaxFiles(const TStringList& files) {
+  const auto number = [](std::size_t n) { return static_cast<long long>(n); };
+  if (files.size() > kMaxFiles)
+    throw EAbort(Format(sTooManyFiles.str(), {number(files.size()), number(kMaxFiles)}));
+}
+
+std::string CurrentFault() {
+  try {
+    throw;
+  } catch (const std::exception& error) {
+    if (error.what() != nullptr && *error.what() != '\0') return error.what();
+  } catch (...) {
+  }
+  return sUnknownFault;
+}

@@ -1,0 +1,137 @@
+// What a call needs on its way to a provider and back.  Everything that crosses is handed over as a copy, and whatever
+// the provider does with it stays in that copy.
+#pragma once
+
+#include <cstddef>
+#include <exception>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "host/Text.h"
+#include "provider/BoundedText.h"
+#include "provider/sccapi.h"
+#include "provider/sccapiintf.h"
+
+/// The name that lines about the provider carry.
+void SetProviderName(const std::string& name);
+/// The installed sink, or nullptr.
+IProviderSink* ProviderSink();
+/// Sends a line to the sink, if there is one.  A sink that fails has nowhere else to report it.
+void WriteProviderLine(IProviderSink::Kind kind, const std::string& text) noexcept;
+/// Warns that the provider wrote behind a buffer handed to `entry`.
+void ReportOverrun(const char* entry) noexcept;
+
+/// An in/out text on its way through a provider.  The room is far larger than any field, zeroed, and followed by guard
+/// bytes; damage to them is reported when the object goes.
+class TScratchText {
+ public:
+  static constexpr std::size_t kRoom = 4096;
+  static constexpr std::size_t kGuard = 1024;
+
+  /// `entry` names the entry point in the report and outlives the object.
+  TScratchText(const char* entry, std::string_view text);
+  TScratchText(const char* entry, const TBoundedText& field) : TScratchText(entry, field.Str()) {}
+  ~TScratchText();
+  TScratchText(const TScratchText&) = delete;
+  TScratchText& operator=(const TScratchText&) = delete;
+
+  char* Data() { return bytes_.data(); }
+  /// What stands there now, up to the terminator or the end of the room.
+  std::string_view Text() const;
+  /// Moves it into the field; warns when it was longer than the field.
+  void MoveTo(TBoundedText& field) const;
+
+ private:
+  const char* entry_;
+  std::vector<char> bytes_;
+};
+
+/// A word that a provider fills.  Providers built where `long` has 64 bits write eight bytes: the spare words take them.
+struct TOutWord {
+  alignas(std::int64_t) scc::Long Value = 0;
+  scc::Long Spare[3] = {};
+};
+
+/// The file names of one call as the API wants them: an array of pointers to copies, a null pointer behind the last.
+class TFileArray {
+ public:
+  explicit TFileArray(const TStringList& files);
+  TFileArray(const TFileArray&) = delete;
+  TFileArray& operator=(const TFileArray&) = delete;
+
+  scc::Long Count() const { return static_cast<scc::Long>(names_.size() - 1); }
+  const char** Data() { return names_.data(); }
+
+ private:
+  std::vector<char> texts_;  // all copies one behind the other
+  std::vector<const char*> names_;
+};
+
+/// A comment as it may reach a provider: at most 128 bytes, cut at a character border.
+class TComment {
+ public:
+  explicit TComment(std::string_view text) : text_(kSize) { text_.Set(text); }
+  const char* Data() const { return text_.Str().c_str(); }
+
+ private:
+  static constexpr std::size_t kSize = 129;
+  TBoundedText text_;
+};
+
+/// How a call ended: the provider's code, or the text of the exception that it let out.
+struct TAnswer {
+  scc::Long Code = scc::SCC_E_NONSPECIFICERROR;
+  std::string Fault;
+};
+
+/// The text of the exception being handled; never empty.
+std::string CurrentFault();
+
+/// Throws EAbort with `message` when there are no files.
+void RequireFiles(const TStringList& files, const TResString& message);
+/// Throws EAbort when one request cannot carry that many.
+void RequireAtMostMaxFiles(const TStringList& files);
+
+/// Calls an entry point.  One that the library lacks, or that went away with the library, answers "not supported".
+template <class... Parameters, class... Arguments>
+scc::Long Invoke(scc::Long(SCC_CALL* entry)(Parameters...), Arguments... arguments) {
+  if (scc::hSosScc == nullptr || entry == nullptr) return scc::SCC_E_OPNOTSUPPORTED;
+  return entry(arguments...);
+}
+
+/// Runs a call with its preparations.  No exception leaves here, of whatever type.
+template <class Body>
+TAnswer Attempt(Body&& body) {
+  try {
+    return {body(), {}};
+  } catch (...) {
+    return {scc::SCC_E_NONSPECIFICERROR, CurrentFault()};
+  }
+}
+
+/// Attempt for calls whose caller takes texts: fills them.  Returns the provider's code, `faultCode` after an exception.
+template <class Body>
+scc::Long AttemptWith(TStateMessages& messages, Body&& body,
+                      scc::Long faultCode = scc::SCC_E_NONSPECIFICERROR) {
+  const TAnswer answer = Attempt(body);
+  if (answer.Fault.empty()) {
+    DecodeReturnCode(answer.Code, messages);
+    return answer.Code;
+  }
+  messages = {"", "", answer.Fault};
+  return faultCode;
+}
+
+/// Attempt for calls whose caller takes none: an exception becomes an error line that begins with the entry's name.
+template <class Body>
+scc::Long AttemptLogged(const char* entry, Body&& body) {
+  const TAnswer answer = Attempt(body);
+  if (!answer.Fault.empty())
+    WriteProviderLine(IProviderSink::Kind::Error, std::string(entry) + "; " + answer.Fault);
+  return answer.Code;
+}
+
+inline scc::WindowHandle ToWindow(TWindowHandle window) {
+  return reinterpret_cast<scc::WindowHandle>(window);
+}

@@ -1,0 +1,185 @@
+// The file half of a session: status and the file commands.
+#include <algorithm>
+#include <ctime>
+
+#include "host/Errors.h"
+#include "provider/ProviderBorder.h"
+#include "provider/ProviderStrings.h"
+
+using namespace scc;
+
+namespace {
+
+constexpr std::size_t kGuardWords = 256;
+constexpr Long kGuardWord = 0x5A5A5A5A;
+
+/// The comment that takes the place of an empty one.
+std::string Dated(const TResString& format) {
+  return Format(format.str(), {DateTimeToStr(std::time(nullptr))});
+}
+
+}  // namespace
+
+TStatusArray::TStatusArray() : words_(kMaxFiles + kGuardWords, kGuardWord) { Clear(); }
+
+void TStatusArray::Clear() { std::fill_n(words_.begin(), kMaxFiles, 0); }
+
+bool TStatusArray::TakeOverrun() {
+  const auto guard = words_.begin() + kMaxFiles;
+  if (std::all_of(guard, words_.end(), [](Long word) { return word == kGuardWord; })) return false;
+  std::fill(guard, words_.end(), kGuardWord);
+  return true;
+}
+
+bool TSCCProviderProject::Query(const TStringList& files, TStatusArray& statuses, TStateMessages& messages) {
+  RequireFiles(files, sQueryListEmpty);
+  RequireAtMostMaxFiles(files);
+  const Long code = AttemptWith(messages, [&] {
+    statuses.Clear();
+    TFileArray names(files);
+    return Invoke(SccQueryInfo, context_, names.Count(), names.Data(), statuses.data());
+  });
+  if (statuses.TakeOverrun()) ReportOverrun("SccQueryInfo");
+  return code == SCC_OK;
+}
+
+bool TSCCProviderProject::CheckOutFile(const TStringList& files, const std::string& comment,
+                                       TStateMessages& messages) {
+  RequireFiles(files, sCheckOutListEmpty);
+  const Long code = AttemptWith(messages, [&] {
+    const TComment text(comment.empty() ? Dated(sCheckOutComment) : comment);
+    TFileArray names(files);
+    return Invoke(SccCheckOut, context_, Window(), names.Count(), names.Data(), text.Data(), 0, Options());
+  });
+  return code == SCC_OK;
+}
+
+bool TSCCProviderProject::AddFile(const TStringList& files, const std::string& comment, bool keepCheckedOut,
+                                  TStateMessages& messages) {
+  RequireFiles(files, sAddListEmpty);
+  const Long code = AttemptWith(messages, [&] {
+    const TComment text(comment);
+    TFileArray names(files);
+    // One choice for all files; but a provider may read one word per file, so there is one for each.
+    std::vector<Long> flags(files.size(), keepCheckedOut ? SCC_KEEP_CHECKEDOUT : 0);
+    return Invoke(SccAdd, context_, Window(), names.Count(), names.Data(), text.Data(), flags.data(),
+                  Options());
+  });
+  return code == SCC_OK;
+}
+
+bool TSCCProviderProject::CheckInFile(const TStringList& files, const std::string& comment,
+                                      bool keepCheckedOut, TStateMessages& messages) {
+  RequireFiles(files, sCheckInListEmpty);
+  const Long code = AttemptWith(messages, [&] {
+    const TComment text(comment.empty() ? Dated(sCheckInComment) : comment);
+    TFileArray names(files);
+    const Long flags = keepCheckedOut ? SCC_KEEP_CHECKEDOUT : 0;
+    return Invoke(SccCheckin, context_, Window(), names.Count(), names.Data(), text.Data(), flags, Options());
+  });
+  return code == SCC_OK;
+}
+
+bool TSCCProviderProject::RemoveFile(const TStringList& files, TStateMessages& messages) {
+  RequireFiles(files, sRemoveListEmpty);
+  const Long code = AttemptWith(messages, [&] {
+    const TComment text(Dated(sRemoveComment));
+    TFileArray names(files);
+    return Invoke(SccRemove, context_, Window(), names.Count(), names.Data(), text.Data(), 0, Options());
+  });
+  return code == SCC_OK;
+}
+
+bool TSCCProviderProject::UnCheckOutFile(const TStringList& files, TStateMessages& messages) {
+  RequireFiles(files, sAddListEmpty);  // the add message is meant
+  const Long code = AttemptWith(messages, [&] {
+    TFileArray names(files);
+    return Invoke(SccUncheckout, context_, Window(), names.Count(), names.Data(), 0, Options());
+  });
+  return code == SCC_OK;
+}
+
+Long TSCCProviderProject::GetFile(const TStringList& files, TStateMessages& messages) {
+  return Get(files, 0, messages);
+}
+
+Long TSCCProviderProject::GetFilesAndDirs(const TStringList& names, TStateMessages& messages) {
+  return Get(names, SCC_GET_ALL | SCC_GET_RECURSIVE, messages);
+}
+
+Long TSCCProviderProject::Get(const TStringList& names, Long flags, TStateMessages& messages) {
+  RequireFiles(names, sGetListEmpty);
+  return AttemptWith(messages, [&] {
+    TFileArray array(names);
+    return Invoke(SccGet, context_, Window(), array.Count(), array.Data(), flags, Options());
+  });
+}
+
+Long TSCCProviderProject::ShowDiff(const std::string& fileName, Long flags, TStateMessages& messages) {
+  return Diff(fileName, flags, messages);
+}
+
+bool TSCCProviderProject::SilentDiff(const std::string& fileName, TStateMessages& messages) {
+  return Diff(fileName, SCC_DIFF_QD_CONTENTS, messages) == SCC_I_FILEDIFFERS;
+}
+
+Long TSCCProviderProject::Diff(const std::string& fileName, Long flags, TStateMessages& messages) {
+  return AttemptWith(messages, [&] {
+    TFileArray name({fileName});
+    return Invoke(SccDiff, context_, Window(), *name.Data(), flags, Options());
+  });
+}
+
+Long TSCCProviderProject::ShowHistory(const std::string& fileName, TStateMessages& messages) {
+  if (Trim(fileName).empty()) throw EAbort(sHistoryNameBlank);
+  return AttemptWith(messages, [&] {
+    TFileArray name({fileName});
+    return Invoke(SccHistory, context_, Window(), name.Count(), name.Data(), 0, Options());
+  });
+}
+
+bool TSCCProviderProject::PopulateList(SCCCommand command, const TStringList& files, TPopListFunc callback,
+                                       TStatusArray& statuses, TStateMessages& messages) {
+  return Populate(command, files, callback, statuses, 0, messages);
+}
+
+bool TSCCProviderProject::PopulateDirectoriesList(SCCCommand command, const TStringList& files,
+                                                  TPopListFunc callback, TStatusArray& statuses,
+                                                  TStateMessages& messages) {
+  return Populate(command, files, callback, statuses, SCC_PL_DIR, messages);
+}
+
+bool TSCCProviderProject::Populate(SCCCommand command, const TStringList& files, TPopListFunc callback,
+                                   TStatusArray& statuses, Long flags, TStateMessages& messages) {
+  RequireAtMostMaxFiles(files);
+  bool answered = false;
+  AttemptWith(messages, [&] {
+    TFileArray names(files);
+    const Long code = Invoke(SccPopulateList, context_, command, names.Count(), names.Data(), callback,
+                             nullptr, statuses.data(), flags);
+    answered = true;
+    return code;
+  });
+  if (statuses.TakeOverrun()) ReportOverrun("SccPopulateList");
+  return answered;  // the provider's code does not matter: it may decline, and the list stays as it was
+}
+
+bool TSCCProviderProject::GetCommandOptions(TCommandOptions command, TCommandOptionFlags flag,
+                                            TStateMessages& messages) {
+  const Long code = AttemptWith(messages, [&] {
+    void** block = flag == coShowAdvDialog ? options_.data() : nullptr;
+    return Invoke(SccGetCommandOptions, context_, Window(), static_cast<SCCCommand>(command), block);
+  });
+  return flag == coQuery && code == SCC_I_ADV_SUPPORT;
+}
+
+void TSCCProviderProject::AddFromScc(TStateMessages& messages) {
+  const Long code = AttemptWith(messages, [&] {
+    TOutWord count;
+    const char** names = nullptr;  // the provider's afterwards, and neither used nor freed here
+    return Invoke(SccAddFromScc, context_, Window(), &count.Value, &names);
+  });
+  if (ProviderSink() == nullptr) return;
+  if (code == SCC_OK) ProviderSink()->Box(sAddFromSccOk);
+  if (code == SCC_I_OPERATIONCANCELED) ProviderSink()->Box(sOperationCancelled);
+}

@@ -1,0 +1,158 @@
+// The owner of one loaded provider.
+#include <algorithm>
+
+#include "host/Errors.h"
+#include "host/Paths.h"
+#include "provider/ProviderBorder.h"
+#include "provider/ProviderStrings.h"
+
+using namespace scc;
+
+namespace {
+
+constexpr const char* kCallerName = "TSCCProvider";
+constexpr std::size_t kNameSize = 129;
+
+struct TCapabilityRow {
+  TProviderCapabilityFlags Flag;
+  Dword Bit;
+};
+
+constexpr TCapabilityRow kCapabilities[] = {
+    {pcReEntrant, SCC_CAP_REENTRANT},
+    {pcSccRemove, SCC_CAP_REMOVE},
+    {pcSccRename, SCC_CAP_RENAME},
+    {pcSccDiff, SCC_CAP_DIFF},
+    {pcSccHistory, SCC_CAP_HISTORY},
+    {pcSccProperties, SCC_CAP_PROPERTIES},
+    {pcSccRunScc, SCC_CAP_RUNSCC},
+    {pcSccGetCommandOptions, SCC_CAP_GETCOMMANDOPTIONS},
+    {pcSccQueryInfo, SCC_CAP_QUERYINFO},
+    {pcSccGetEvents, SCC_CAP_GETEVENTS},
+    {pcSccGetProjPath, SCC_CAP_GETPROJPATH},
+    {pcSccAddFromScc, SCC_CAP_ADDFROMSCC},
+    {pcSccTextOut, SCC_CAP_TEXTOUT},
+    {pcCommentCheckOut, SCC_CAP_COMMENTCHECKOUT},
+    {pcCommentCheckIn, SCC_CAP_COMMENTCHECKIN},
+    {pcCommentAdd, SCC_CAP_COMMENTADD},
+    {pcCommentRemove, SCC_CAP_COMMENTREMOVE},
+    {pcCommentProject, SCC_CAP_COMMENTPROJECT},
+    {pcAddStoreLatest, SCC_CAP_ADD_STORELATEST},
+    {pcHistoryMultiFile, SCC_CAP_HISTORY_MULTFILE},
+    {pcSccPopulateList, SCC_CAP_POPULATELIST},
+    {pcSccDiffAlways, SCC_CAP_DIFFALWAYS},
+    {pcSccNoGetUI, SCC_CAP_GET_NOUI},
+    {pcIgnoreCase, SCC_CAP_IGNORECASE},
+    {pcIgnoreWhiteSpace, SCC_CAP_IGNORESPACE},
+};
+
+/// One row per flag in the flags' order, each with a bit of its own.
+constexpr bool CapabilitiesAreDistinct() {
+  Dword seen = 0;
+  int expected = 0;
+  for (const TCapabilityRow& row : kCapabilities) {
+    if (row.Flag != expected++ || (row.Bit & (row.Bit - 1)) != 0 || row.Bit == 0 || (seen & row.Bit) != 0)
+      return false;
+    seen |= row.Bit;
+  }
+  return std::size(kCapabilities) == TProviderCapabilities().size();
+}
+static_assert(CapabilitiesAreDistinct());
+
+struct TOptionRow {
+  Option Number;
+  Long Value;
+};
+constexpr TOptionRow kOptions[] = {
+    {SCC_OPT_EVENTQUEUE, 1},     // the provider may collect events
+    {SCC_OPT_HASCANCELMODE, 0},  // there is no Cancel button for it
+    {SCC_OPT_SHARESUBPROJ, 1},
+};
+
+}  // namespace
+
+TSCCProviderList::TSCCProviderList(const std::string& providerPath, TWindowHandle window,
+                                   const std::string& userName)
+    : window_(window), userName_(userName) {
+  if (Trim(providerPath).empty()) throw EAbort(sNoProviderPath);
+  if (!LoadSCCDLL(providerPath)) throw EAbort(sLoadLibraryFailed);
+  Initialize(providerPath);
+  SetOptions();
+}
+
+TSCCProviderList::~TSCCProviderList() {
+  projects_.clear();
+  UnInitialize();
+  UnloadSCCDLL();
+}
+
+void TSCCProviderList::Initialize(const std::string& providerPath) {
+  SetProviderName(ExtractFileName(providerPath));
+  TOutWord capabilities;
+  // A failure ends nothing here: the calls that follow fail with codes of their own, and those are shown.
+  AttemptLogged("SccInitialize", [&] {
+    constexpr const char* entry = "SccInitialize";
+    TScratchText caller(entry, kCallerName), name(entry, ""), auxLabel(entry, "");
+    TOutWord checkOutCommentLength, commentLength;
+    const Long code =
+        Invoke(SccInitialize, &context_, ToWindow(window_), caller.Data(), name.Data(), &capabilities.Value,
+               auxLabel.Data(), &checkOutCommentLength.Value, &commentLength.Value);
+    TBoundedText given(kNameSize);
+    if (given.TakeBack(name.Text()); !Trim(given.Str()).empty()) SetProviderName(given.Str());
+    return code;
+  });
+  for (const TCapabilityRow& row : kCapabilities)
+    if ((static_cast<Dword>(capabilities.Value) & row.Bit) != 0) capabilities_.set(row.Flag);
+}
+
+void TSCCProviderList::SetOptions() {
+  for (const TOptionRow& row : kOptions)
+    AttemptLogged("SccSetOption", [&] { return Invoke(SccSetOption, context_, row.Number, row.Value); });
+}
+
+void TSCCProviderList::UnInitialize() {
+  AttemptLogged("SccUninitialize", [&] { return Invoke(SccUninitialize, context_); });
+}
+
+void TSCCProviderList::Add(const std::string& localPath) { Add(localPath, userName_); }
+
+void TSCCProviderList::Add(const std::string& localPath, const std::string& userName) {
+  auto project = std::make_unique<TSCCProviderProject>(localPath, window_, userName);
+  project->context_ = context_;
+  projects_.push_back(std::move(project));
+}
+
+TSCCProviderList::TProjects::iterator TSCCProviderList::Find(const std::string& localPath) {
+  return std::ranges::find_if(
+      projects_, [&](const auto& project) { return SameText(project->localPath_.Str(), localPath); });
+}
+
+void TSCCProviderList::Remove(const std::string& localPath) {
+  if (const auto found = Find(localPath); found != projects_.end()) projects_.erase(found);
+}
+
+bool TSCCProviderList::SetCurrentProject(const std::string& localPath) {
+  const auto found = Find(localPath);
+  current_ = found != projects_.end() ? found->get() : nullptr;
+  return current_ != nullptr;
+}
+
+void TSCCProviderList::CloseAll() {
+  projects_.clear();
+  current_ = nullptr;
+}
+
+int TSCCProviderList::GetCount() const { return static_cast<int>(projects_.size()); }
+
+TSCCProviderProject* TSCCProviderList::GetItem(int index) const {
+  return projects_.at(static_cast<std::size_t>(index)).get();
+}
+
+std::unique_ptr<TSCCProviderProject> TSCCProviderList::PutItem(int index,
+                                                               std::unique_ptr<TSCCProviderProject> project) {
+  return std::exchange(projects_.at(static_cast<std::size_t>(index)), std::move(project));
+}
+
+const TProviderCapabilities& TSCCProviderList::Capabilities() const { return capabilities_; }
+TSCCProviderProject* TSCCProviderList::CurrentProject() const { return current_; }
+const std::string& TSCCProviderList::UserName() const { return userName_; }

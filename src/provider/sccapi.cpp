@@ -1,0 +1,48 @@
+#include "provider/sccapi.h"
+
+namespace scc {
+
+TModuleHandle hSosScc = nullptr;
+
+#define SCC_ENTRY(variable, name, result, arguments) result(SCC_CALL* variable) arguments = nullptr;
+#include "provider/entry_points.def"
+#undef SCC_ENTRY
+
+TTextOutProc callBackTextOutProc = nullptr;
+TPopListFunc callBackPopListFunc = nullptr;
+
+namespace {
+
+#define SCC_ENTRY(variable, name, result, arguments) +1
+constexpr int kEntryCount = 0
+#include "provider/entry_points.def"
+    ;
+#undef SCC_ENTRY
+static_assert(kEntryCount == 23);
+
+template <class Function>
+void Bind(Function*& variable, const char* name) {
+  variable = reinterpret_cast<Function*>(FindSymbol(hSosScc, name));
+}
+
+}  // namespace
+
+bool LoadSCCDLL(const std::string& path) {
+  if (hSosScc == nullptr) hSosScc = LoadModule(path);
+  if (hSosScc == nullptr) return false;
+#define SCC_ENTRY(variable, name, result, arguments) Bind(variable, name);
+#include "provider/entry_points.def"
+#undef SCC_ENTRY
+  return true;
+}
+
+void UnloadSCCDLL() {
+  FreeModule(hSosScc);
+  hSosScc = nullptr;
+}
+
+Dword SCC_VER_NUM() { return 0x00010001; }
+Dword SCC_GET_MAJOR_VER(Dword version) { return version >> 16; }
+Dword SCC_GET_MINOR_VER(Dword version) { return version & 0xFFFF; }
+
+}  // namespace scc
