@@ -28,10 +28,13 @@ class TRegistry {
   std::string ReadString(const std::string& name) const;
   std::vector<std::string> GetValueNames() const;
 
-  /// Changes one value at once and for good.  Throws std::runtime_error with a readable text when it cannot be stored.
+  // Changes are stored at once and for good, and seen by every other TRegistry, also of other programs.  They throw
+  // std::runtime_error with a readable text when they cannot be stored or no key is open for writing.
+
   void WriteString(const std::string& name, const std::string& value);
+  /// False when there was nothing that the user may delete: what the machine's administrator set stays.
   bool DeleteValue(const std::string& name);
-  /// Removes a key with its values.  False when it was not there.
+  /// Removes a key with its values and everything below it.  Needs no open key.  False when it was not there.
   bool DeleteKey(const std::string& key);
 
  private:

@@ -52,8 +52,8 @@ class TTemporaryFile {
 
   void TakePermissionsOf(const struct stat& old) const {
     // Only root may give a file away: for others the file becomes theirs, which is what saving does everywhere.
-    if (fchown(file_.Get(), old.st_uid, old.st_gid) != 0) errno = 0;
-    Check(fchmod(file_.Get(), old.st_mode & 07777) == 0);
+    [[maybe_unused]] const int given = fchown(file_.Get(), old.st_uid, old.st_gid);
+    Check(fchmod(file_.Get(), old.st_mode & 0777) == 0);
   }
 
   void Write(std::string_view contents) const {

@@ -209,8 +209,10 @@ std::vector<std::string> TRegistryStore::ValueNames(const std::string& key) cons
   return names;
 }
 
-void TRegistryStore::SetValue(const std::string& key, const std::string& name, const std::string& value) {
+bool TRegistryStore::SetValue(const std::string& key, const std::string& name, const std::string& value) {
+  if (Value(key, name) == value) return false;
   ini_->SetValue(SectionOf(key).c_str(), EncodeName(name).c_str(), EncodeValue(value).c_str());
+  return true;
 }
 
 bool TRegistryStore::DeleteValue(const std::string& key, const std::string& name) {

@@ -31,7 +31,9 @@ class TRegistryStore {
   bool HasKey(const std::string& key) const;
   std::optional<std::string> Value(const std::string& key, const std::string& name) const;
   std::vector<std::string> ValueNames(const std::string& key) const;
-  void SetValue(const std::string& key, const std::string& name, const std::string& value);
+
+  // These answer whether they changed anything.
+  bool SetValue(const std::string& key, const std::string& name, const std::string& value);
   bool DeleteValue(const std::string& key, const std::string& name);
   /// Deletes the key with everything below it.
   bool DeleteKey(const std::string& key);
