@@ -8,10 +8,7 @@
 
 #include "host/Text.h"
 #include "provider/sccapiintf.h"
-
-/// Results of every modal form of the system.
-inline constexpr int mrOk = 1;
-inline constexpr int mrCancel = 2;
+#include "ui/ModalResult.h"
 
 /// The candidate files of one command.  Up to kMaxFiles rows; every operation but the All ones is constant time.
 class TFileListModel {
@@ -70,3 +67,17 @@ struct TCommentModel {
   bool ShowApplyToAll = false;
   bool ApplyToAll = true;
 };
+
+/// The most bytes of a comment that a provider is handed.
+inline constexpr std::size_t kMaxComment = 128;
+
+/// A comment while it is edited: the text on both sides of the caret.
+struct TCommentEdit {
+  std::string Before;
+  std::string After;
+  bool operator==(const TCommentEdit&) const = default;
+};
+/// What the comment memo may hold of `edit`: line breaks become blanks, and what stands before the caret (typed or
+/// pasted just now) is cut at a character border so that the whole fits kMaxComment bytes.  What stood behind the caret
+/// gives way only when it is too long by itself.
+TCommentEdit FitComment(TCommentEdit edit);

@@ -1,0 +1,13 @@
+// The windows that the expert is given in the IDE.
+#pragma once
+
+#include "expert/ExpertForms.h"
+
+class TExpertForms final : public IExpertForms {
+ public:
+  std::unique_ptr<IMessageWindow> CreateMessageWindow() override;
+  void ShowMsgDialog(const std::string& title, const std::string& text, TMsgType kind) override;
+  void ShowBox(const std::string& text, TMsgType kind) override;
+  int ShowFileList(TSccExpert& expert, TFileListModel& model) override;
+  int ShowComments(TCommentModel& model) override;
+};

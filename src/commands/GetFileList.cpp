@@ -1,0 +1,209 @@
+#include "commands/GetFileList.h"
+
+#include <wx/wx.h>
+
+#include <algorithm>
+
+#include "commands/GetFileListStrings.h"
+#include "expert/SccExpert.h"
+#include "expert/SccSystem.h"
+#include "ui/WxText.h"
+
+TGetFileListForm* GetFileListForm = nullptr;
+
+namespace {
+
+enum TColumn { colName, colStatus, colPath };
+constexpr int kNameWidth = 180;
+constexpr int kStatusWidth = 100;
+constexpr int kMinPathWidth = 120;
+
+std::size_t Row(long item) { return static_cast<std::size_t>(item); }
+
+}  // namespace
+
+TFilesListView::TFilesListView(wxWindow* parent, TFileListModel& model)
+    : wxListView(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxLC_REPORT | wxLC_VIRTUAL),
+      model_(model) {
+  EnableCheckBoxes();
+  AppendColumn(ToWx(sNameColumn), wxLIST_FORMAT_LEFT, FromDIP(kNameWidth));
+  AppendColumn(ToWx(sStatusColumn), wxLIST_FORMAT_LEFT, FromDIP(kStatusWidth));
+  AppendColumn(ToWx(sPathColumn), wxLIST_FORMAT_LEFT, FromDIP(kMinPathWidth));
+  SetItemCount(static_cast<long>(model_.Count()));
+}
+
+void TFilesListView::ToggleSelected() {
+  const long focused = GetFocusedItem();
+  if (focused < 0) return;
+  const bool check = !model_.IsChecked(Row(focused));
+  model_.SetChecked(Row(focused), check);
+  for (long i = GetFirstSelected(); i >= 0; i = GetNextSelected(i)) model_.SetChecked(Row(i), check);
+  Refresh();
+}
+
+void TFilesListView::FocusFirstChecked() {
+  if (model_.Count() == 0) return;
+  std::size_t row = 0;
+  while (row < model_.Count() && !model_.IsChecked(row)) ++row;
+  const long item = row < model_.Count() ? static_cast<long>(row) : 0;
+  Select(item);
+  Focus(item);
+}
+
+void TFilesListView::FitColumns() {
+  const int scrollBar = wxSystemSettings::GetMetric(wxSYS_VSCROLL_X, this);
+  const int left =
+      GetClientSize().GetWidth() - GetColumnWidth(colName) - GetColumnWidth(colStatus) - scrollBar;
+  SetColumnWidth(colPath, std::max(FromDIP(kMinPathWidth), left));
+}
+
+wxString TFilesListView::OnGetItemText(long item, long column) const {
+  switch (column) {
+    case colName:
+      return ToWx(model_.NameOf(Row(item)));
+    case colStatus:
+      return ToWx(model_.StatusOf(Row(item)));
+    default:
+      return ToWx(model_.DirectoryOf(Row(item)));
+  }
+}
+
+bool TFilesListView::OnGetItemIsChecked(long item) const { return model_.IsChecked(Row(item)); }
+
+TGetFileListForm::TGetFileListForm(TSccExpert& expert, TFileListModel& model)
+    : TModalForm(ToWx(model.Caption.empty() ? sGetFileListCaption.str() : model.Caption),
+                 wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER),
+      Expert(expert),
+      model_(model) {
+  CreateControls();
+  LayOut();
+  BindEvents();
+  GetFileListForm = this;
+}
+
+TGetFileListForm::~TGetFileListForm() { GetFileListForm = nullptr; }
+
+void TGetFileListForm::CreateControls() {
+  const auto button = [this](wxWindowID id, const TResString& label) {
+    auto* made = new wxButton(this, id, ToWx(label), wxDefaultPosition, FromDIP(wxSize(101, 30)));
+    made->Disable();
+    return made;
+  };
+  const auto box = [this](const TResString& label, bool ticked, bool shown) {
+    auto* made = new wxCheckBox(this, wxID_ANY, ToWx(label));
+    made->SetValue(ticked);
+    made->Show(shown);
+    return made;
+  };
+  using enum TFileListModel::ExtraBox;
+  FilesListView = new TFilesListView(this, model_);
+  cbKeepCheckedOut = box(sKeepCheckedOut, model_.KeepCheckedOut, model_.Extra == KeepCheckedOut);
+  cbCheckOut = box(sCheckOutAfterAdd, model_.CheckOutAfterAdd, model_.Extra == CheckOutAfterAdd);
+  btnOK = button(wxID_OK, sFileListOk);
+  btnCancel = button(wxID_CANCEL, sFileListCancel);
+  btnCancel->Enable();
+  btnCheckAll = button(wxID_ANY, sCheckAll);
+  btnUncheckAll = button(wxID_ANY, sUncheckAll);
+  btnAdvanced = button(wxID_ANY, sAdvanced);
+  btnAdvanced->Enable(model_.HasOptions);
+  btnAdvanced->Show(model_.HasOptions);
+  btnOK->SetDefault();
+}
+
+void TGetFileListForm::LayOut() {
+  const int gap = FromDIP(6);
+  auto* left = new wxBoxSizer(wxVERTICAL);
+  left->Add(new wxStaticText(this, wxID_ANY, ToWx(sFilesLabel)), wxSizerFlags().Border(wxBOTTOM, FromDIP(2)));
+  left->Add(FilesListView, wxSizerFlags(1).Expand());
+  for (auto* box : {cbKeepCheckedOut, cbCheckOut}) left->Add(box, wxSizerFlags().Border(wxTOP, gap));
+
+  auto* right = new wxBoxSizer(wxVERTICAL);
+  for (auto* button : {btnOK, btnCancel, btnCheckAll, btnUncheckAll})
+    right->Add(button, wxSizerFlags().Expand().Border(wxBOTTOM, gap));
+  right->Add(btnAdvanced, wxSizerFlags().Expand().Border(wxTOP, FromDIP(24)));
+
+  auto* all = new wxBoxSizer(wxHORIZONTAL);
+  all->Add(left, wxSizerFlags(1).Expand().Border(wxALL, gap));
+  all->Add(right, wxSizerFlags().Border(wxTOP | wxRIGHT, gap));
+  SetSizer(all);
+  SetMinSize(FromDIP(wxSize(569, 274)));
+  SetSize(FromDIP(wxSize(662, 359)));
+  CentreOnScreen();
+}
+
+void TGetFileListForm::BindEvents() {
+  Bind(wxEVT_INIT_DIALOG, [this](wxInitDialogEvent&) { FormShow(); });
+  FilesListView->Bind(wxEVT_LIST_ITEM_CHECKED, &TGetFileListForm::FilesListViewClick, this);
+  FilesListView->Bind(wxEVT_LIST_ITEM_UNCHECKED, &TGetFileListForm::FilesListViewClick, this);
+  FilesListView->Bind(wxEVT_SIZE, [this](wxSizeEvent& event) {
+    event.Skip();
+    FilesListView->CallAfter([this] { FilesListView->FitColumns(); });
+  });
+  btnOK->Bind(wxEVT_BUTTON, &TGetFileListForm::btnOKClick, this);
+  btnCancel->Bind(wxEVT_BUTTON, &TGetFileListForm::btnCancelClick, this);
+  btnCheckAll->Bind(wxEVT_BUTTON, &TGetFileListForm::btnCheckAllClick, this);
+  btnUncheckAll->Bind(wxEVT_BUTTON, &TGetFileListForm::btnUncheckAllClick, this);
+  btnAdvanced->Bind(wxEVT_BUTTON, &TGetFileListForm::btnAdvancedClick, this);
+}
+
+void TGetFileListForm::ChangeAllCheckedStates(bool checked) {
+  model_.ChangeAllCheckedStates(checked);
+  FilesListView->Refresh();
+  CheckState();
+}
+
+void TGetFileListForm::CheckState() {
+  const auto buttons = model_.CheckState();
+  const auto* focused = FindFocus();
+  // A button that disables itself would leave the keyboard nowhere.
+  if ((focused == btnCheckAll && !buttons.CheckAll) || (focused == btnUncheckAll && !buttons.UncheckAll))
+    FilesListView->SetFocus();
+  btnOK->Enable(buttons.Ok);
+  btnCheckAll->Enable(buttons.CheckAll);
+  btnUncheckAll->Enable(buttons.UncheckAll);
+}
+
+void TGetFileListForm::FormShow() {
+  model_.TickCurrent(rv_GetCurrentFile());
+  FilesListView->FocusFirstChecked();
+  FilesListView->SetFocus();
+  CheckState();
+}
+
+void TGetFileListForm::FormKeyDown(wxKeyEvent& event) {
+  const bool inList = FilesListView->IsDescendant(FindFocus());
+  if (event.GetKeyCode() == WXK_F1 && !model_.HelpKeyword.empty()) {
+    if (auto* application = IdeService<IOTAApplication>()) application->HelpKeyword(model_.HelpKeyword);
+  } else if (event.GetKeyCode() == WXK_SPACE && !event.HasAnyModifiers() && inList) {
+    FilesListView->ToggleSelected();
+    CheckState();
+  } else {
+    TModalForm::FormKeyDown(event);
+  }
+}
+
+void TGetFileListForm::btnOKClick(wxCommandEvent&) {
+  model_.KeepCheckedOut = cbKeepCheckedOut->GetValue();
+  model_.CheckOutAfterAdd = cbCheckOut->GetValue();
+  CloseWith(mrOk);
+}
+
+void TGetFileListForm::btnCancelClick(wxCommandEvent&) { CloseWith(mrCancel); }
+
+void TGetFileListForm::btnCheckAllClick(wxCommandEvent&) { ChangeAllCheckedStates(true); }
+
+void TGetFileListForm::btnUncheckAllClick(wxCommandEvent&) { ChangeAllCheckedStates(false); }
+
+void TGetFileListForm::btnAdvancedClick(wxCommandEvent&) {
+  // The host may have closed the project while the list was open.
+  auto* providers = Expert.ProviderList();
+  auto* project = providers ? providers->CurrentProject() : nullptr;
+  TStateMessages messages;
+  if (project) project->GetCommandOptions(model_.CommandKind, coShowAdvDialog, messages);
+}
+
+void TGetFileListForm::FilesListViewClick(wxListEvent& event) {
+  model_.SetChecked(Row(event.GetIndex()), event.GetEventType() == wxEVT_LIST_ITEM_CHECKED);
+  FilesListView->RefreshItem(event.GetIndex());
+  CheckState();
+}

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "host/Text.h"
+
+inline constexpr TResString sGetFileListCaption{"Get File List"};
+inline constexpr TResString sFilesLabel{"Files"};
+inline constexpr TResString sNameColumn{"Name"};
+inline constexpr TResString sStatusColumn{"Status"};
+inline constexpr TResString sPathColumn{"Path"};
+inline constexpr TResString sKeepCheckedOut{"&Keep checked out"};
+inline constexpr TResString sCheckOutAfterAdd{"Ch&eckout files after add"};
+inline constexpr TResString sFileListOk{"&OK"};
+inline constexpr TResString sFileListCancel{"&Cancel"};
+inline constexpr TResString sCheckAll{"C&heck All"};
+inline constexpr TResString sUncheckAll{"U&ncheck All"};
+inline constexpr TResString sAdvanced{"&Advanced..."};

@@ -1,0 +1,60 @@
+#include "expert/FileListModel.h"
+
+#include <algorithm>
+
+#include "host/Paths.h"
+
+namespace {
+
+constexpr const char* kFormExtension = ".kfm";
+constexpr const char* kUnitExtension = ".pas";
+
+/// Makes one line of a pasted text: each line break, of whatever system, becomes one blank.
+void JoinLines(std::string& text) {
+  for (std::size_t cr = text.find("\r\n"); cr != text.npos; cr = text.find("\r\n", cr)) text.erase(cr, 1);
+  std::ranges::replace_if(
+      text, [](char c) { return c == '\r' || c == '\n'; }, ' ');
+}
+
+}  // namespace
+
+void TFileListModel::AddFile(const std::string& fileName, const std::string& status) {
+  rows_.push_back({ExtractFileName(fileName), status, ExtractFileDir(fileName)});
+}
+
+std::string TFileListModel::GetFile(int index) const {
+  if (index < 0 || static_cast<std::size_t>(index) >= rows_.size()) return {};
+  const auto& row = rows_[static_cast<std::size_t>(index)];
+  return IncludeTrailingPathDelimiter(row.Directory) + row.Name;
+}
+
+void TFileListModel::SetChecked(std::size_t row, bool checked) {
+  if (rows_[row].Checked == checked) return;
+  rows_[row].Checked = checked;
+  checked ? ++checked_ : --checked_;
+}
+
+void TFileListModel::ChangeAllCheckedStates(bool checked) {
+  for (auto& row : rows_) row.Checked = checked;
+  checked_ = checked ? rows_.size() : 0;
+}
+
+void TFileListModel::TickCurrent(const std::string& currentFile) {
+  if (rows_.size() == 1) return ChangeAllCheckedStates(true);
+  const bool form = ExtractFileExt(currentFile) == kFormExtension;
+  const auto file = FoldCase(form ? ChangeFileExt(currentFile, kUnitExtension) : currentFile);
+  for (std::size_t i = 0; i < rows_.size(); ++i)
+    if (FoldCase(GetFile(static_cast<int>(i))) == file) SetChecked(i, true);
+}
+
+TFileListModel::TButtons TFileListModel::CheckState() const {
+  return {.Ok = checked_ > 0, .CheckAll = checked_<rows_.size(), .UncheckAll = checked_> 0};
+}
+
+TCommentEdit FitComment(TCommentEdit edit) {
+  JoinLines(edit.Before);
+  JoinLines(edit.After);
+  edit.After = CutAtCharacter(edit.After, kMaxComment);
+  edit.Before = CutAtCharacter(edit.Before, kMaxComment - edit.After.size());
+  return edit;
+}

@@ -1,0 +1,72 @@
+#include "ui/MsgDialog.h"
+
+#include <wx/statbmp.h>
+#include <wx/wx.h>
+
+#include <array>
+
+#include "host/System.h"
+#include "ui/Icons.h"
+#include "ui/MsgDialogStrings.h"
+#include "ui/WxText.h"
+
+TMsgDialogForm* MsgDialogForm = nullptr;
+
+namespace {
+
+/// By kind, as the icons are.
+constexpr std::array kBeeps{TBeep::Hand, TBeep::Exclamation, TBeep::Asterisk, TBeep::Question};
+static_assert(kBeeps.size() == kDialogIcons.size());
+
+constexpr int kTitleWidth = 222;
+constexpr int kTitleHeight = 13;
+
+}  // namespace
+
+TMsgDialogForm::TMsgDialogForm(const std::string& title, const std::string& msg, TMsgType kind)
+    : TModalForm(ToWx(sMsgDialogCaption), wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER) {
+  CreateControls(title, msg, kind);
+  LayOut();
+  btnOK->SetDefault();
+  btnOK->SetFocus();
+  btnOK->Bind(wxEVT_BUTTON, &TMsgDialogForm::btnOKClick, this);
+  MsgDialogForm = this;
+}
+
+TMsgDialogForm::~TMsgDialogForm() { MsgDialogForm = nullptr; }
+
+void TMsgDialogForm::btnOKClick(wxCommandEvent&) { CloseWith(mrOk); }
+
+void TMsgDialogForm::CreateControls(const std::string& title, const std::string& msg, TMsgType kind) {
+  const auto icon = wxBitmapBundle::FromSVG(kDialogIcons[kind], {kDialogIconSize, kDialogIconSize});
+  MsgIcon = new wxStaticBitmap(this, wxID_ANY, icon, wxDefaultPosition, FromDIP(wxSize(37, 37)));
+  TitleLabel = new wxStaticText(this, wxID_ANY, {});
+  TitleLabel->SetFont(TitleLabel->GetFont().Bold());
+  TitleLabel->SetLabelText(ToWx(title));
+  TitleLabel->Wrap(FromDIP(kTitleWidth));
+  MessageText = new wxTextCtrl(this, wxID_ANY, ToWx(msg), wxDefaultPosition, FromDIP(wxSize(377, 124)),
+                               wxTE_MULTILINE | wxTE_READONLY);
+  MessageText->SetBackgroundColour(wxSystemSettings::GetColour(wxSYS_COLOUR_BTNFACE));
+  btnOK = new wxButton(this, wxID_OK, ToWx(sMsgDialogOk));
+}
+
+void TMsgDialogForm::LayOut() {
+  const int gap = FromDIP(8);
+  auto* head = new wxBoxSizer(wxHORIZONTAL);
+  head->Add(MsgIcon, wxSizerFlags().Top());
+  head->Add(TitleLabel, wxSizerFlags(1).CentreVertical().Border(wxLEFT | wxRIGHT, gap));
+  head->Add(btnOK, wxSizerFlags().Top());
+  auto* all = new wxBoxSizer(wxVERTICAL);
+  all->Add(head, wxSizerFlags().Expand().Border(wxALL, gap));
+  all->Add(MessageText, wxSizerFlags(1).Expand().Border(wxLEFT | wxRIGHT | wxBOTTOM, gap));
+  SetSizer(all);
+  SetClientSize(FromDIP(wxSize(393, 182)));
+  SetMinClientSize(GetClientSize());
+  CentreOnScreen();
+}
+
+void ShowMsgDialog(const std::string& title, const std::string& msg, TMsgType kind) {
+  TMsgDialogForm form(title, msg, kind);
+  MessageBeep(kBeeps[kind]);
+  form.ShowModal();
+}

@@ -1,0 +1,35 @@
+// The modal message dialog: a titled box with an icon, a beep and a read-only text.
+#pragma once
+
+#include <string>
+
+#include "ui/Messages.h"
+#include "ui/ModalForm.h"
+
+class wxButton;
+class wxStaticBitmap;
+class wxStaticText;
+class wxTextCtrl;
+
+class TMsgDialogForm final : public TModalForm {
+ public:
+  TMsgDialogForm(const std::string& title, const std::string& msg, TMsgType kind);
+  ~TMsgDialogForm() override;
+
+  void btnOKClick(wxCommandEvent& event);
+
+  wxStaticBitmap* MsgIcon;
+  wxStaticText* TitleLabel;
+  wxTextCtrl* MessageText;
+  wxButton* btnOK;
+
+ private:
+  void CreateControls(const std::string& title, const std::string& msg, TMsgType kind);
+  void LayOut();
+};
+
+/// The dialog that is shown, or nullptr.
+extern TMsgDialogForm* MsgDialogForm;
+
+/// Shows the dialog modally and returns when it is closed.
+void ShowMsgDialog(const std::string& title, const std::string& msg, TMsgType kind);

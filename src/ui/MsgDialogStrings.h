@@ -1,0 +1,6 @@
+#pragma once
+
+#include "host/Text.h"
+
+inline constexpr TResString sMsgDialogCaption{"Source Code Control"};
+inline constexpr TResString sMsgDialogOk{"&OK"};

@@ -1,0 +1,66 @@
+// The message window: a running log, one line a message.
+#pragma once
+
+#include <wx/frame.h>
+#include <wx/listctrl.h>
+#include <wx/menu.h>
+
+#include <string>
+#include <vector>
+
+#include "ui/Messages.h"
+
+/// The lines.  The list control asks for what it shows, so that a long log costs no more than a short one.
+class TMessageListView final : public wxListView {
+ public:
+  explicit TMessageListView(wxWindow* parent);
+  void Append(TMsgWinType kind, const std::string& text);
+  void Clear();
+  void SelectAll();
+  /// The selected lines as text, message and date separated by a tab.
+  wxString SelectedText() const;
+  /// Lets the messages have the width that the dates leave.
+  void FitColumns();
+
+ protected:
+  wxString OnGetItemText(long item, long column) const override;
+  int OnGetItemImage(long item) const override;
+  int OnGetItemColumnImage(long item, long column) const override;
+
+ private:
+  struct TLine {
+    TMsgWinType Kind;
+    std::string Text;
+    std::string Date;
+  };
+  std::vector<TLine> lines_;
+};
+
+/// Modeless; hidden until it is asked for, and hidden again by Escape or its close button, never destroyed by them.
+class TMsgWinForm final : public wxFrame, public IMessageWindow {
+ public:
+  /// `helpFile` is the full path of the help file of this window, or empty.
+  explicit TMsgWinForm(const std::string& helpFile);
+  ~TMsgWinForm() override;
+
+  using IMessageWindow::SendMessage;
+  void SendMessage(TMsgWinType kind, const std::string& text) override;
+  void ShowWindow(bool show) override;
+  /// A log that is still open does not keep the host running.
+  bool ShouldPreventAppExit() const override { return false; }
+
+  void ClearMessagesExecute(wxCommandEvent& event);
+  void FormKeyDown(wxKeyEvent& event);
+
+  TMessageListView* const MessageListView;
+  wxMenu VCMPopupMenu;
+  const std::string HelpFile;
+  static constexpr int HelpContext = 25016;
+
+ private:
+  void ShowPopupMenu(wxContextMenuEvent& event);
+  void CopySelection() const;
+};
+
+/// The message window, or nullptr.  Its owner is whoever created it.
+extern TMsgWinForm* MsgWinForm;
