@@ -11,6 +11,7 @@
 struct TResString {
   const char* Text;
   operator std::string() const { return Text; }
+  operator std::string_view() const { return Text; }
   std::string str() const { return Text; }
 };
 
