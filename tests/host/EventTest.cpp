@@ -1,0 +1,41 @@
+#include <gmock/gmock.h>
+
+#include <string>
+#include <vector>
+
+#include "host/Event.h"
+
+using testing::ElementsAre;
+
+TEST(Event, RunsHandlersInOrderUntilTheyUnsubscribe) {
+  TEvent<std::string> event;
+  std::vector<std::string> heard;
+  const int first = event.Subscribe([&](const std::string& text) { heard.push_back("first " + text); });
+  event.Subscribe([&](const std::string& text) { heard.push_back("second " + text); });
+
+  event.Fire("a");
+  event.Unsubscribe(first);
+  event.Subscribe([&](const std::string& text) { heard.push_back("third " + text); });
+  event.Fire("b");
+
+  EXPECT_THAT(heard, ElementsAre("first a", "second a", "second b", "third b"));
+}
+
+TEST(Event, HandlersMayUnsubscribeThemselvesAndLaterOnesAndSubscribeWhileItFires) {
+  TEvent<> event;
+  std::vector<std::string> heard;
+  int self = 0;
+  int later = 0;
+  self = event.Subscribe([&, owned = std::string("a text too long to be kept inside the handler itself")] {
+    event.Unsubscribe(self);
+    event.Unsubscribe(later);
+    event.Subscribe([&] { heard.push_back("new"); });
+    heard.push_back(owned.substr(0, 6));
+  });
+  later = event.Subscribe([&] { heard.push_back("later"); });
+
+  event.Fire();
+  EXPECT_THAT(heard, ElementsAre("a text")) << "one that was just unsubscribed or subscribed is not called";
+  event.Fire();
+  EXPECT_THAT(heard, ElementsAre("a text", "new"));
+}

@@ -1,0 +1,124 @@
+#include <gmock/gmock.h>
+#include <sys/resource.h>
+
+#include <csignal>
+#include <filesystem>
+#include <functional>
+#include <stdexcept>
+#include <thread>
+#include <vector>
+
+#include "host/System.h"
+#include "support/TemporaryFolder.h"
+
+namespace fs = std::filesystem;
+using testing::HasSubstr;
+using testing::ThrowsMessage;
+using testing::UnorderedElementsAre;
+
+namespace {
+
+std::vector<std::string> NamesIn(const std::string& folder) {
+  std::vector<std::string> names;
+  for (const auto& entry : fs::directory_iterator(folder)) names.push_back(entry.path().filename().string());
+  return names;
+}
+
+/// As if the disk were full: this process may write no file longer than that.
+class TDiskLimit {
+ public:
+  explicit TDiskLimit(rlim_t bytes) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
+    getrlimit(RLIMIT_FSIZE, &before_);
+    const rlimit limit{bytes, before_.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &limit);
+  }
+  TDiskLimit(const TDiskLimit&) = delete;
+  TDiskLimit& operator=(const TDiskLimit&) = delete;
+  ~TDiskLimit() {
+    setrlimit(RLIMIT_FSIZE, &before_);
+    std::signal(SIGXFSZ, handler_);
+  }
+
+ private:
+  rlimit before_{};
+  void (*handler_)(int);
+};
+
+}  // namespace
+
+TEST(Files, ComeBackAsTheyWereWritten) {
+  const TTemporaryFolder folder;
+  const std::string longName = folder / (std::string(251, 'x') + ".pas");
+  const std::string rows[] = {"", "one line\r\nno end", std::string("\0\xFF\n", 3),
+                              std::string(1'000'000, 'x')};
+  for (const auto& contents : rows) {
+    WriteFileAtomically(longName, contents);
+    EXPECT_EQ(ReadWholeFile(longName), contents);
+  }
+  EXPECT_EQ(NamesIn(folder.Path()).size(), 1u) << "no temporary file stays";
+}
+
+TEST(Files, KeepPermissionsAndLinksWhenTheyAreWritten) {
+  const TTemporaryFolder folder;
+  const auto file = folder.Write("real/a.cdp", "old");
+  const auto link = folder / "a.cdp";
+  fs::create_symlink("real/a.cdp", link);
+  fs::permissions(file, fs::perms(0640));
+
+  WriteFileAtomically(link, "new");
+
+  EXPECT_TRUE(fs::is_symlink(link));
+  EXPECT_EQ(ReadWholeFile(file), "new");
+  EXPECT_EQ(fs::status(file).permissions(), fs::perms(0640));
+}
+
+TEST(Files, FailWithASentenceThatNamesThem) {
+  const TTemporaryFolder folder;
+  const auto file = folder.Write("file", "old");
+  const auto readOnly = folder.Write("read-only", "old");
+  SetFileAttributesOf(readOnly, faReadOnly);
+  const struct {
+    std::function<void(const std::string&)> act;
+    std::string path;
+    const char* text;
+  } rows[] = {
+      {ReadWholeFile, folder / "missing", "Cannot read "},
+      {ReadWholeFile, folder.Path(), "Cannot read "},
+      {[](const std::string& path) { WriteFileAtomically(path, "new"); }, folder / "no folder/file",
+       "Cannot write "},
+      {[](const std::string& path) { WriteFileAtomically(path, "new"); }, file + "/below a file",
+       "Cannot write "},
+      {[](const std::string& path) { WriteFileAtomically(path, "new"); }, folder.Path(), "Cannot write "},
+      {[](const std::string& path) { WriteFileAtomically(path, "new"); }, readOnly, "Cannot write "},
+  };
+  for (const auto& row : rows)
+    EXPECT_THAT([&] { row.act(row.path); },
+                ThrowsMessage<std::runtime_error>(HasSubstr(row.text + row.path + ": ")));
+  EXPECT_EQ(ReadWholeFile(readOnly), "old");
+  EXPECT_THAT(NamesIn(folder.Path()), UnorderedElementsAre("file", "read-only"));
+}
+
+TEST(Files, StayAsTheyWereWhenTheDiskIsFull) {
+  const TTemporaryFolder folder;
+  const auto file = folder.Write("a.cdp", "old");
+  {
+    const TDiskLimit limit(100'000);
+    EXPECT_THROW(WriteFileAtomically(file, std::string(1'000'000, 'x')), std::runtime_error);
+  }
+  EXPECT_EQ(ReadWholeFile(file), "old");
+  EXPECT_THAT(NamesIn(folder.Path()), UnorderedElementsAre("a.cdp"));
+}
+
+TEST(Files, AreNeverSeenHalfWritten) {
+  const TTemporaryFolder folder;
+  const std::string contents[] = {std::string(300'000, 'a'), std::string(200'000, 'b')};
+  const auto file = folder.Write("a.cdp", contents[0]);
+  std::vector<std::thread> writers;
+  for (const auto& text : contents)
+    writers.emplace_back([&] {
+      for (int i = 0; i < 20; ++i) WriteFileAtomically(file, text);
+    });
+  for (int i = 0; i < 50; ++i) EXPECT_THAT(ReadWholeFile(file), testing::AnyOf(contents[0], contents[1]));
+  for (auto& writer : writers) writer.join();
+  EXPECT_THAT(NamesIn(folder.Path()), UnorderedElementsAre("a.cdp"));
+}

@@ -1,0 +1,46 @@
+#include <gmock/gmock.h>
+
+#include <filesystem>
+
+#include "host/Library.h"
+#include "host/Paths.h"
+#include "support/TemporaryFolder.h"
+
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+
+TEST(Library, LoadsFindsAndReleases) {
+  const auto module = LoadModule(TINY_PROVIDER);
+  ASSERT_TRUE(module);
+  EXPECT_TRUE(FindSymbol(module, "SccInitialize"));
+  EXPECT_FALSE(FindSymbol(module, "SccNoSuchThing"));
+  FreeModule(module);
+}
+
+TEST(Library, RefusesWhatIsNoAbsolutePathOfALibrary) {
+  const TTemporaryFolder folder;
+  const std::string rows[] = {"", ExtractFileName(CORVANE_LIBRARY), folder / "missing.so", folder.Path(),
+                              folder.Write("text.so", "not a library")};
+  for (const auto& path : rows) {
+    std::string error;
+    EXPECT_FALSE(LoadModule(path, &error)) << path;
+    EXPECT_THAT(error, Not(IsEmpty())) << path;
+    EXPECT_FALSE(LoadModule(path)) << path;
+  }
+}
+
+TEST(Library, RefusesARelativePathThatLeadsToALibrary) {
+  const auto before = std::filesystem::current_path();
+  std::filesystem::current_path(ExtractFileDir(TINY_PROVIDER));
+  std::string error;
+  const auto module = LoadModule("./" + ExtractFileName(TINY_PROVIDER), &error);
+  std::filesystem::current_path(before);
+  EXPECT_FALSE(module);
+  EXPECT_THAT(error, HasSubstr("absolute"));
+}
+
+TEST(Library, ToleratesNoLibrary) {
+  EXPECT_FALSE(FindSymbol(nullptr, "SccInitialize"));
+  FreeModule(nullptr);
+}

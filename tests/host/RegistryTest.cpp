@@ -1,0 +1,232 @@
+#include <gmock/gmock.h>
+
+#include <filesystem>
+#include <stdexcept>
+#include <thread>
+#include <vector>
+
+#include "host/Registry.h"
+#include "host/posix/RegistryLayers.h"
+#include "support/Environment.h"
+#include "support/TemporaryFolder.h"
+
+namespace fs = std::filesystem;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::ThrowsMessage;
+
+namespace {
+
+constexpr const char* kInstalled = "Software\\SourceCodeControlProvider\\InstalledSCCProviders";
+
+class Registry : public testing::Test {
+ protected:
+  static std::string Read(const std::string& key, const std::string& name,
+                          TRegRoot root = TRegRoot::LocalMachine) {
+    TRegistry registry(root);
+    return registry.OpenKeyReadOnly(key) ? registry.ReadString(name) : "no such key";
+  }
+  static std::vector<std::string> Names(const std::string& key) {
+    TRegistry registry;
+    return registry.OpenKeyReadOnly(key) ? registry.GetValueNames() : std::vector<std::string>{"no such key"};
+  }
+  static void Write(const std::string& key, const std::string& name, const std::string& value,
+                    TRegRoot root = TRegRoot::LocalMachine) {
+    TRegistry registry(root);
+    registry.OpenKey(key);
+    registry.WriteString(name, value);
+  }
+  static bool KeyExists(const std::string& key) { return TRegistry().OpenKeyReadOnly(key); }
+
+  const TTemporaryFolder folder_;
+  const std::string directory_ = folder_ / "registry";
+  const std::string machine_ = folder_ / "registry/local-machine.ini";
+  const TEnvironmentVariable variable_{"CORVANE_REGISTRY_DIR", directory_.c_str()};
+};
+
+}  // namespace
+
+TEST_F(Registry, ReadsWhatAPersonTyped) {
+  folder_.Write("registry/local-machine.ini",
+                "\xEF\xBB\xBF# Providers of this machine\r\n"
+                "[software\\sourcecodecontrolprovider\\InstalledSCCProviders]\r\n"
+                "Zebra SCC = Software\\Zebra\\SCC\r\n"
+                "; the one for Windows\r\n"
+                "Über = Software\\Über\r\n"
+                "alpha=Software\\Alpha\r\n"
+                "a line that is none\r\n"
+                "[Software\\Zebra\\SCC]\r\n"
+                "SccServerPath=\"C:\\Program Files\\100%20;x = y # z.dll\"");
+  EXPECT_THAT(Names(kInstalled), ElementsAre("Zebra SCC", "Über", "alpha"));
+  EXPECT_EQ(Read(kInstalled, "ÜBER"), "Software\\Über");
+  EXPECT_EQ(Read("\\SOFTWARE\\zebra\\scc\\", "SCCServerPath"), "C:\\Program Files\\100%20;x = y # z.dll");
+  EXPECT_EQ(Read("Software\\Zebra\\SCC", "SccServerName"), "");
+}
+
+TEST_F(Registry, KeepsEveryTextThatIsWritten) {
+  const std::string texts[] = {"plain",
+                               "",
+                               " blanks ",
+                               "\ttabs\t",
+                               "\"quoted\"",
+                               "\"",
+                               "\"\"",
+                               "half \"",
+                               "<<<END",
+                               "; no comment",
+                               "#none",
+                               "[section]",
+                               "a=b",
+                               "two\r\nlines",
+                               "100%",
+                               "%41%3D%25%0A",
+                               "\\\\server\\share\\",
+                               "Größe 名前 😀",
+                               "no UTF-8 \xFF\xC3",
+                               std::string("nul \0 inside", 12)};
+  std::vector<std::string> names;
+  for (const auto& text : texts) {
+    Write("Key", text, text);
+    Write("Keys\\" + text + "x", "name", text);
+    names.push_back(text);
+  }
+  EXPECT_EQ(Names("Key"), names);
+  for (const auto& text : texts) {
+    EXPECT_EQ(Read("Key", text), text);
+    EXPECT_EQ(Read("Keys\\" + text + "x", "name"), text);
+  }
+}
+
+TEST_F(Registry, ChangesOneValueAndLeavesTheRestOfTheFile) {
+  const std::string before =
+      "# Mine\n\n\n# Installed\n[Software\\A]\nFirst=1\n\n# why\nSecond=2\n\n\n[Other]\nx=y\n";
+  folder_.Write("registry/local-machine.ini", before);
+  Write("SOFTWARE\\a", "FIRST", "one");
+  Write("Software\\A", "Third", "3");
+  EXPECT_EQ(
+      ReadWholeFile(machine_),
+      "# Mine\n\n\n# Installed\n[Software\\A]\nFirst=one\n\n# why\nSecond=2\nThird=3\n\n\n[Other]\nx=y\n");
+}
+
+TEST_F(Registry, DeletesValuesAndKeysWithAllBelow) {
+  for (const char* key : {"Software\\A", "Software\\A\\SCC", "Software\\AB"}) Write(key, "name", "value");
+  EXPECT_TRUE(KeyExists("Software")) << "a key above one that exists";
+  EXPECT_FALSE(KeyExists("Soft"));
+
+  TRegistry registry;
+  EXPECT_FALSE(registry.DeleteKey("Software\\A\\SC"));
+  EXPECT_TRUE(registry.DeleteKey("software\\a"));
+  EXPECT_FALSE(registry.DeleteKey("Software\\A"));
+  EXPECT_FALSE(KeyExists("Software\\A\\SCC"));
+  EXPECT_EQ(Read("Software\\AB", "name"), "value");
+
+  registry.OpenKey("Software\\AB");
+  EXPECT_TRUE(registry.DeleteValue("NAME"));
+  EXPECT_FALSE(registry.DeleteValue("name"));
+  EXPECT_THAT(Names("Software\\AB"), IsEmpty()) << "the key itself stays";
+}
+
+TEST_F(Registry, LooksIntoAKeyOnlyWhileItIsOpen) {
+  Write("Key", "name", "value");
+  TRegistry registry;
+  EXPECT_EQ(registry.ReadString("name"), "");
+  ASSERT_TRUE(registry.OpenKeyReadOnly("Key"));
+  EXPECT_THROW(registry.WriteString("name", "other"), std::runtime_error);
+  EXPECT_THROW(registry.DeleteValue("name"), std::runtime_error);
+  EXPECT_FALSE(registry.OpenKeyReadOnly("Missing"));
+  EXPECT_THAT(registry.GetValueNames(), IsEmpty()) << "the key opened before is closed";
+  registry.OpenKey("Key");
+  EXPECT_EQ(registry.ReadString("name"), "value");
+  registry.CloseKey();
+  EXPECT_THROW(registry.WriteString("name", "other"), std::runtime_error);
+  EXPECT_EQ(Read("Key", "name"), "value");
+}
+
+TEST_F(Registry, KeepsItsRootsApartInTheUsersConfiguration) {
+  const TEnvironmentVariable noDirectory("CORVANE_REGISTRY_DIR", nullptr);
+  const TEnvironmentVariable config("XDG_CONFIG_HOME", folder_.Path().c_str());
+  Write("Kestrel host test\\A", "name", "user", TRegRoot::CurrentUser);
+  Write("Kestrel host test\\A", "name", "machine", TRegRoot::LocalMachine);
+  EXPECT_TRUE(fs::exists(folder_ / "corvane/current-user.ini"));
+  EXPECT_TRUE(fs::exists(folder_ / "corvane/local-machine.ini"));
+  EXPECT_EQ(Read("Kestrel host test\\A", "name", TRegRoot::CurrentUser), "user");
+  EXPECT_EQ(Read("Kestrel host test\\A", "name"), "machine");
+
+  const TEnvironmentVariable home("HOME", (folder_ / "home").c_str());
+  for (const char* none : {static_cast<const char*>(nullptr), "", "relative"}) {
+    const TEnvironmentVariable noConfig("XDG_CONFIG_HOME", none);
+    Write("A", "name", "home", TRegRoot::CurrentUser);
+    EXPECT_TRUE(fs::remove_all(folder_ / "home/.config/corvane")) << (none ? none : "unset");
+  }
+}
+
+TEST_F(Registry, LaysTheUsersValuesOverTheMachines) {
+  const auto user = folder_.Write("user.ini", "[Installed]\nMine=u1\nSHARED=u2\n[Only\\Mine]\na=b\n");
+  const auto machine =
+      folder_.Write("machine.ini", "[installed]\nFirst=m1\nshared=m2\nLast=m3\n[Software\\M]\na=b\n");
+  const TRegistryLayers layers({user, machine});
+
+  EXPECT_THAT(layers.ValueNames("Installed"), ElementsAre("Mine", "SHARED", "First", "Last"));
+  EXPECT_EQ(layers.Value("Installed", "Shared"), "u2");
+  EXPECT_EQ(layers.Value("Installed", "first"), "m1");
+  EXPECT_TRUE(layers.HasKey("Only") && layers.HasKey("Software\\M"));
+
+  layers.SetValue("Installed", "First", "changed");
+  EXPECT_EQ(layers.Value("Installed", "First"), "changed");
+  EXPECT_TRUE(layers.DeleteValue("Installed", "Shared"));
+  EXPECT_EQ(layers.Value("Installed", "Shared"), "m2") << "the machine's shines through again";
+  EXPECT_FALSE(layers.DeleteValue("Installed", "Last"));
+  EXPECT_FALSE(layers.DeleteKey("Software\\M"));
+  EXPECT_EQ(ReadWholeFile(machine), "[installed]\nFirst=m1\nshared=m2\nLast=m3\n[Software\\M]\na=b\n");
+}
+
+TEST_F(Registry, ReadsNothingFromAFileThatIsNoneAndPutsItAsideBeforeWriting) {
+  EXPECT_FALSE(KeyExists("Key")) << "no file at all";
+  const auto broken = std::string("[Key]\nname=value\n") + std::string(4096, '\0') +
+                      "\x7F"
+                      "ELF";
+  folder_.Write("registry/local-machine.ini", broken);
+  EXPECT_FALSE(KeyExists("Key"));
+  Write("Key", "name", "new");
+  EXPECT_EQ(Read("Key", "name"), "new");
+  EXPECT_EQ(ReadWholeFile(machine_ + ".broken"), broken);
+
+  for (const char* text :
+       {"[", "[Key", "=", "]\n[]\n==", "[Key]\nname", "\xFF\xFE[\n", "[Key\nname=value\n[Key"}) {
+    folder_.Write("registry/local-machine.ini", text);
+    Names("Key");
+    Write("Key", "other", "kept");
+    EXPECT_EQ(Read("Key", "other"), "kept") << text;
+  }
+}
+
+TEST_F(Registry, SaysWhatItCannotStoreAndKeepsWhatWasThere) {
+  Write("Key", "name", "old");
+  SetFileAttributesOf(machine_, faReadOnly);
+  EXPECT_THAT([] { Write("Key", "name", "new"); }, ThrowsMessage<std::runtime_error>(HasSubstr(machine_)));
+  EXPECT_THAT([] { TRegistry().DeleteKey("Key"); }, ThrowsMessage<std::runtime_error>(HasSubstr(machine_)));
+  EXPECT_EQ(Read("Key", "name"), "old");
+
+  fs::remove(machine_);
+  fs::create_directory(machine_);
+  EXPECT_THAT([] { Write("Key", "name", "new"); }, ThrowsMessage<std::runtime_error>(HasSubstr(machine_)));
+  EXPECT_FALSE(KeyExists("Key"));
+
+  fs::remove_all(directory_);
+  folder_.Write("registry", "a file where the folder should be");
+  EXPECT_THAT([] { Write("Key", "name", "new"); }, ThrowsMessage<std::runtime_error>(HasSubstr(directory_)));
+  EXPECT_FALSE(TRegistry().DeleteKey("Key")) << "nothing there to delete is no failure";
+}
+
+TEST_F(Registry, LosesNothingWhenManyWriteAtOnce) {
+  constexpr int kWriters = 8;
+  constexpr int kValues = 10;
+  std::vector<std::thread> writers;
+  for (int writer = 0; writer < kWriters; ++writer)
+    writers.emplace_back([writer] {
+      for (int i = 0; i < kValues; ++i) Write("Key", std::to_string(writer * kValues + i), "value");
+    });
+  for (auto& writer : writers) writer.join();
+  EXPECT_EQ(Names("Key").size(), std::size_t{kWriters * kValues});
+}

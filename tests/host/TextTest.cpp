@@ -1,0 +1,69 @@
+#include <gtest/gtest.h>
+
+#include <ctime>
+
+#include "host/Text.h"
+#include "support/Environment.h"
+
+TEST(Text, FormatNeverFails) {
+  EXPECT_EQ(Format("Get of \"%s\" %s (%d)", {"/a.pas", "SUCCEEDED", -14}),
+            "Get of \"/a.pas\" SUCCEEDED (-14)");
+  EXPECT_EQ(Format("%s", {65536}), "65536") << "an argument of the other kind is shown all the same";
+  EXPECT_EQ(Format("100%% of %s", {"%s"}), "100% of %s") << "an argument is no format";
+  EXPECT_EQ(Format("%s and %s", {"one"}), "one and %s");
+  EXPECT_EQ(Format("%x %", {"unused"}), "%x %");
+  EXPECT_EQ(Format("%%s", {"x"}), "%s");
+  EXPECT_EQ(Format("", {}), "");
+}
+
+TEST(Text, TrimTakesBlanksOfEveryKindFromBothEnds) {
+  EXPECT_EQ(Trim(" \t\r\n a b \n"), "a b");
+  EXPECT_EQ(Trim(std::string_view("\0x\0", 3)), "x");
+  EXPECT_EQ(Trim("\xC3\xA9"), "\xC3\xA9") << "bytes above the control characters are text";
+  EXPECT_EQ(Trim(" \t "), "");
+}
+
+TEST(Text, ComparesIgnoringCase) {
+  const struct {
+    const char *a, *b;
+    bool same;
+  } rows[] = {
+      {"", "", true},
+      {"SccServerPath", "SCCServerPath", true},
+      {"Subversion", "Subversion ", false},
+      {"GRÖSSE.PAS", "größe.pas", false},  // one letter is not two
+      {"Größe.pas", "GRÖßE.PAS", true},
+      {"ΑΒΓ", "αβγ", true},
+      {"ЖУК", "жук", true},
+      {"a", "ä", false},
+      {"\xFF\xC3", "\xFF\xC3", true},  // no UTF-8: compared as they stand
+      {"\xFF"
+       "A",
+       "\xFF"
+       "a",
+       true},
+      {"\xC3", "\xC4", false},
+  };
+  for (const auto& row : rows) EXPECT_EQ(SameText(row.a, row.b), row.same) << row.a << " " << row.b;
+}
+
+TEST(Text, FoldsTheSameInEveryLocale) {
+  // The tests run in the "C" locale, where towlower alone knows ASCII only.
+  EXPECT_EQ(FoldCase("ÄÖÜ É Ж"), "äöü é ж");
+  EXPECT_EQ(FoldCase(std::string("A\0B", 3)), std::string("a\0b", 3));
+}
+
+TEST(Text, CutsAtCharacters) {
+  const std::string text = "aé€😀";  // 1, 2, 3 and 4 bytes
+  const std::size_t kept[] = {0, 1, 1, 3, 3, 3, 6, 6, 6, 6, 10, 10};
+  for (std::size_t bytes = 0; bytes < std::size(kept); ++bytes)
+    EXPECT_EQ(CutAtCharacter(text, bytes), text.substr(0, kept[bytes])) << bytes;
+  EXPECT_EQ(CutAtCharacter(std::string(9, '\x80'), 5).size(), 5u) << "no characters, no borders";
+}
+
+TEST(Text, ShowsMomentsInLocalTime) {
+  const TEnvironmentVariable zone("TZ", "KST-3");
+  tzset();
+  EXPECT_EQ(DateTimeToStr(0), "01/01/70 03:00:00");
+  EXPECT_EQ(DateTimeToStr(1'000'000'000), "09/09/01 04:46:40");
+}

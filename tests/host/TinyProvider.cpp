@@ -1,0 +1,3 @@
+#include <cstdint>
+
+extern "C" std::int32_t SccInitialize() { return 0; }

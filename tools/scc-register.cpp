@@ -1,0 +1,216 @@
+// scc-register: installs, removes and lists the machine's source control providers.
+#include <algorithm>
+#include <iostream>
+#include <set>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "SccRegisterStrings.h"
+#include "host/Library.h"
+#include "host/Paths.h"
+#include "host/Registry.h"
+#include "host/System.h"
+#include "provider/sccapiintf.h"
+
+namespace {
+
+/// A command that cannot be done as it was asked for; its text is a sentence.
+struct EFailure : std::runtime_error {
+  using std::runtime_error::runtime_error;
+};
+/// A command line that means nothing.
+struct EUsage : std::runtime_error {
+  using std::runtime_error::runtime_error;
+};
+
+constexpr const char* kDefaultOption = "--default";
+constexpr const char* kForceOption = "--force";
+constexpr const char* kEntryPoint = "SccInitialize";
+
+struct TCommandLine {
+  std::vector<std::string> Words;  ///< the command and its arguments
+  std::set<std::string> Options;
+};
+
+// ------------------------------------------------------------------------------------------------- registry
+
+std::string ReadValue(const std::string& key, const std::string& name) {
+  TRegistry registry;
+  return registry.OpenKeyReadOnly(key) ? registry.ReadString(name) : std::string();
+}
+
+void WriteValue(const std::string& key, const std::string& name, const std::string& value) {
+  TRegistry registry;
+  registry.OpenKey(key);
+  registry.WriteString(name, value);
+}
+
+void DeleteValue(const std::string& key, const std::string& name) {
+  TRegistry registry;
+  registry.OpenKey(key);
+  registry.DeleteValue(name);
+}
+
+std::vector<std::string> InstalledProviders() {
+  TRegistry registry;
+  return registry.OpenKeyReadOnly(kInstalledProvidersKey) ? registry.GetValueNames()
+                                                          : std::vector<std::string>();
+}
+
+/// The key that this program makes for a provider; an installer of its own may have chosen another.
+std::string OwnKey(const std::string& name) { return "Software\\" + name + "\\SCC"; }
+
+/// The key of an installed provider; empty when none of that name is.
+std::string KeyOf(const std::string& name) { return ReadValue(kInstalledProvidersKey, name); }
+
+std::string InstalledKeyOf(const std::string& name) {
+  const auto key = KeyOf(name);
+  if (key.empty()) throw EFailure(Format(sNotInstalled, {name}));
+  return key;
+}
+
+bool IsDefault(const std::string& key) { return SameText(ReadValue(kProviderKey, kProviderRegKey), key); }
+
+// ------------------------------------------------------------------------------------------------- commands
+
+void CheckName(const std::string& name) {
+  const auto isForbidden = [](char c) {
+    return c == '\\' || static_cast<unsigned char>(c) < ' ' || c == 0x7F;
+  };
+  if (name.empty() || Trim(name) != name || std::any_of(name.begin(), name.end(), isForbidden))
+    throw EFailure(Format(sBadName, {name}));
+}
+
+void CheckLibrary(const std::string& path) {
+  if (!FileExists(path)) throw EFailure(Format(sFileNotFound, {path}));
+  std::string error;
+  const auto module = LoadModule(path, &error);
+  if (!module) throw EFailure(Format(sNotLoadable, {path, error}));
+  const bool isProvider = FindSymbol(module, kEntryPoint);
+  FreeModule(module);
+  if (!isProvider) throw EFailure(Format(sNotAProvider, {path, kEntryPoint}));
+}
+
+void Choose(const std::string& name) {
+  WriteValue(kProviderKey, kProviderRegKey, InstalledKeyOf(name));
+  std::cout << Format(sIsDefault, {name});
+}
+
+void Add(const TCommandLine& line) {
+  const auto& name = line.Words[1];
+  const auto& path = line.Words[2];
+  CheckName(name);
+  if (!IsAbsolutePath(path)) throw EFailure(Format(sPathNotAbsolute, {path}));
+  if (!line.Options.contains(kForceOption)) CheckLibrary(path);
+
+  const bool isFirst = InstalledProviders().empty();
+  const auto known = KeyOf(name);
+  const auto key = known.empty() ? OwnKey(name) : known;
+  // The list comes last: whoever reads it meanwhile finds complete entries only.
+  WriteValue(key, kServerName, name);
+  WriteValue(key, kServerPath, path);
+  WriteValue(kInstalledProvidersKey, name, key);
+  std::cout << Format(sAdded, {name});
+  if (isFirst || line.Options.contains(kDefaultOption)) Choose(name);
+}
+
+void Remove(const TCommandLine& line) {
+  const auto& name = line.Words[1];
+  const auto key = InstalledKeyOf(name);
+  const bool wasDefault = IsDefault(key);
+  DeleteValue(kInstalledProvidersKey, name);
+  if (!KeyOf(name).empty()) throw EFailure(Format(sInstalledForAll, {name}));
+  if (wasDefault) DeleteValue(kProviderKey, kProviderRegKey);
+  if (SameText(key, OwnKey(name))) {
+    TRegistry().DeleteKey(key);
+  } else {
+    // A key that its own installer made may hold more than what this program knows about.
+    DeleteValue(key, kServerName);
+    DeleteValue(key, kServerPath);
+  }
+  std::cout << Format(sRemoved, {name});
+  if (wasDefault && !InstalledProviders().empty()) std::cout << sNoDefault.str();
+}
+
+void MakeDefault(const TCommandLine& line) { Choose(line.Words[1]); }
+
+void List(const TCommandLine&) {
+  const auto names = InstalledProviders();
+  if (names.empty()) std::cout << sNoProviders.str();
+  for (const auto& name : names) {
+    const auto key = KeyOf(name);
+    const auto path = ReadValue(key, kServerPath);
+    const auto& text = FileExists(path) ? sProviderLine : sMissingProviderLine;
+    std::cout << Format(text, {IsDefault(key) ? "*" : " ", name, path});
+  }
+}
+
+// --------------------------------------------------------------------------------------------- command line
+
+struct TCommand {
+  const char* Name;
+  std::size_t Arguments;
+  std::set<std::string> Options;
+  void (*Run)(const TCommandLine&);
+};
+
+const TCommand kCommands[] = {
+    {"add", 2, {kDefaultOption, kForceOption}, Add},
+    {"remove", 1, {}, Remove},
+    {"default", 1, {}, MakeDefault},
+    {"list", 0, {}, List},
+};
+
+const std::set<std::string> kHelpOptions{"--help", "-h"};
+
+TCommandLine Parse(const std::vector<std::string>& arguments) {
+  TCommandLine line;
+  bool optionsEnded = false;
+  for (const auto& argument : arguments) {
+    if (optionsEnded || argument.size() < 2 || argument.front() != '-')
+      line.Words.push_back(argument);
+    else if (argument == "--")
+      optionsEnded = true;
+    else
+      line.Options.insert(argument);
+  }
+  return line;
+}
+
+const TCommand& CommandOf(const TCommandLine& line) {
+  if (line.Words.empty())
+    throw EUsage(line.Options.empty() ? "" : Format(sUnknownOption, {*line.Options.begin()}));
+  const auto& word = line.Words.front();
+  const auto command = std::find_if(std::begin(kCommands), std::end(kCommands),
+                                    [&](const TCommand& c) { return c.Name == word; });
+  if (command == std::end(kCommands)) throw EUsage(Format(sUnknownCommand, {word}));
+  for (const auto& option : line.Options)
+    if (!command->Options.contains(option)) throw EUsage(Format(sOptionNotForCommand, {word, option}));
+  if (line.Words.size() != command->Arguments + 1) throw EUsage(Format(sWrongArguments, {word}));
+  return *command;
+}
+
+void Run(const TCommandLine& line) {
+  const auto asksForHelp = [](const std::string& option) { return kHelpOptions.contains(option); };
+  if (std::any_of(line.Options.begin(), line.Options.end(), asksForHelp))
+    std::cout << sUsage.str() << '\n' << sHelp.str();
+  else
+    CommandOf(line).Run(line);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  try {
+    Run(Parse({argv + 1, argv + argc}));
+    return 0;
+  } catch (const EUsage& error) {
+    if (*error.what()) std::cerr << Format(sMessage, {error.what()});
+    std::cerr << sUsage.str();
+    return 2;
+  } catch (const std::exception& error) {
+    std::cerr << Format(sMessage, {error.what()});
+    return 1;
+  }
+}
