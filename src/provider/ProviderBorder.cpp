@@ -12,6 +12,7 @@ namespace {
 
 IProviderSink* sink = nullptr;
 std::string providerName;
+int callDepth = 0;
 
 constexpr char kGuardByte = '\x5A';
 
@@ -40,6 +41,10 @@ bool TBoundedText::TakeBack(std::string_view text) {
 IProviderSink* SetProviderSink(IProviderSink* newSink) { return std::exchange(sink, newSink); }
 
 IProviderSink* ProviderSink() { return sink; }
+
+TCallMark::TCallMark() noexcept { ++callDepth; }
+TCallMark::~TCallMark() { --callDepth; }
+bool ProviderCallInProgress() { return callDepth > 0; }
 
 void SetProviderName(const std::string& name) { providerName = name; }
 

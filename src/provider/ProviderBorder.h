@@ -93,10 +93,20 @@ void RequireFiles(const TStringList& files, const TResString& message);
 /// Throws EAbort when one request cannot carry that many.
 void RequireAtMostMaxFiles(const TStringList& files);
 
+/// Marks that a provider function is on the call stack; see ProviderCallInProgress().
+class TCallMark {
+ public:
+  TCallMark() noexcept;
+  ~TCallMark();
+  TCallMark(const TCallMark&) = delete;
+  TCallMark& operator=(const TCallMark&) = delete;
+};
+
 /// Calls an entry point.  One that the library lacks, or that went away with the library, answers "not supported".
 template <class... Parameters, class... Arguments>
 scc::Long Invoke(scc::Long(SCC_CALL* entry)(Parameters...), Arguments... arguments) {
   if (scc::hSosScc == nullptr || entry == nullptr) return scc::SCC_E_OPNOTSUPPORTED;
+  const TCallMark mark;
   return entry(arguments...);
 }
 

@@ -1,5 +1,7 @@
 // The owner of one loaded provider.
 #include <algorithm>
+#include <iterator>
+#include <utility>
 
 #include "host/Errors.h"
 #include "host/Paths.h"
@@ -59,6 +61,16 @@ constexpr bool CapabilitiesAreDistinct() {
 }
 static_assert(CapabilitiesAreDistinct());
 
+struct TInitializeRow {
+  Long Code;
+  TResString Text;
+};
+constexpr TInitializeRow kInitializeErrors[] = {
+    {SCC_E_NOTAUTHORIZED, sInitNotAuthorized},
+    {SCC_E_NONSPECIFICERROR, sInitNonSpecific},
+    {SCC_E_INITIALIZEFAILED, sInitFailed},
+};
+
 struct TOptionRow {
   Option Number;
   Long Value;
@@ -89,8 +101,7 @@ TSCCProviderList::~TSCCProviderList() {
 void TSCCProviderList::Initialize(const std::string& providerPath) {
   SetProviderName(ExtractFileName(providerPath));
   TOutWord capabilities;
-  // A failure ends nothing here: the calls that follow fail with codes of their own, and those are shown.
-  AttemptLogged("SccInitialize", [&] {
+  const Long result = AttemptLogged("SccInitialize", [&] {
     constexpr const char* entry = "SccInitialize";
     TScratchText caller(entry, kCallerName), name(entry, ""), auxLabel(entry, "");
     TOutWord checkOutCommentLength, commentLength;
@@ -101,6 +112,9 @@ void TSCCProviderList::Initialize(const std::string& providerPath) {
     if (given.TakeBack(name.Text()); !Trim(given.Str()).empty()) SetProviderName(given.Str());
     return code;
   });
+  // A failure ends nothing and is not shown: the calls that follow fail with codes of their own, and those are.
+  const auto error = std::ranges::find(kInitializeErrors, result, &TInitializeRow::Code);
+  if (error != std::end(kInitializeErrors)) initializeError_ = error->Text;
   for (const TCapabilityRow& row : kCapabilities)
     if ((static_cast<Dword>(capabilities.Value) & row.Bit) != 0) capabilities_.set(row.Flag);
 }
@@ -155,4 +169,5 @@ std::unique_ptr<TSCCProviderProject> TSCCProviderList::PutItem(int index,
 
 const TProviderCapabilities& TSCCProviderList::Capabilities() const { return capabilities_; }
 TSCCProviderProject* TSCCProviderList::CurrentProject() const { return current_; }
+const std::string& TSCCProviderList::InitializeError() const { return initializeError_; }
 const std::string& TSCCProviderList::UserName() const { return userName_; }

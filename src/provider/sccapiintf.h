@@ -252,6 +252,8 @@ class TSCCProviderList {
   const TProviderCapabilities& Capabilities() const;
   TSCCProviderProject* CurrentProject() const;
   const std::string& UserName() const;
+  /// Why the provider did not start; empty when it did, or when its code says nothing about that.
+  const std::string& InitializeError() const;
 
  private:
   void Initialize(const std::string& providerPath);
@@ -267,5 +269,6 @@ class TSCCProviderList {
   TSCCProviderProject* current_ = nullptr;
   TProviderCapabilities capabilities_;
   std::string userName_;
+  std::string initializeError_;
 };
 

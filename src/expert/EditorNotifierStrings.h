@@ -1,0 +1,10 @@
+// Texts of the editor and form notifiers.
+#pragma once
+
+#include "host/Text.h"
+
+inline constexpr TResString sAddNotifierFailed{"AddNotifier failed"};
+inline constexpr TResString sFormModuleNil{"Form notifier, Module is nil"};
+inline constexpr TResString sFormEditorNil{"Form notifier, FormEditor is nil"};
+inline constexpr TResString sFormAddNotifierFailed{"Form AddNotifier failed"};
+inline constexpr TResString sFormActivatedNil{"FormActivated; FormEditor is nil"};

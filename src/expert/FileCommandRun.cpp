@@ -1,0 +1,183 @@
+#include "expert/FileCommandRun.h"
+
+#include <algorithm>
+#include <array>
+
+#include "expert/FileCommandStrings.h"
+#include "expert/SccExpertStrings.h"
+#include "host/Errors.h"
+#include "host/Paths.h"
+#include "host/System.h"
+
+namespace {
+
+/// The quick difference that fills the status column.
+constexpr scc::Long kQuickTimeDiff = 32;
+
+struct TProbeText {
+  scc::Long Code;
+  TResString Text;
+};
+constexpr std::array kProbeTexts{
+    TProbeText{scc::SCC_OK, sStatusCurrent},
+    TProbeText{scc::SCC_I_FILEDIFFERS, sStatusModified},
+    TProbeText{scc::SCC_E_FILENOTCONTROLLED, sStatusNotControlled},
+    TProbeText{scc::SCC_E_NOTAUTHORIZED, sStatusUnauthorized},
+    TProbeText{scc::SCC_E_ACCESSFAILURE, sStatusAccessFailure},
+    TProbeText{scc::SCC_E_NONSPECIFICERROR, sStatusError},
+    TProbeText{scc::SCC_E_FILENOTEXIST, sStatusLocalFileMissing},
+};
+
+const TResString& ProbeText(scc::Long code) {
+  const auto found = std::ranges::find(kProbeTexts, code, &TProbeText::Code);
+  return found == kProbeTexts.end() ? sStatusUnknown : found->Text;
+}
+
+}  // namespace
+
+TFileCommandRun::TFileCommandRun(TSccExpert& expert, const TFileCommand& command, const std::string& fileName)
+    : expert_(expert), command_(command), file_name_(Trim(fileName)) {}
+
+void TFileCommandRun::Execute() {
+  directory_ = ExtractFileDir(expert_.GetCurrentProjectFile());
+  Project();
+  if (command_.SaveAllFirst) expert_.SaveAll();
+  Gather();
+  TStateMessages messages;
+  const auto option = static_cast<TCommandOptions>(command_.Command);
+  const bool hasOptions = Project().GetCommandOptions(option, coQuery, messages);
+  SelectEligible();
+  if (selected_.empty()) {
+    Box(command_.Single, sNoFilesAvailable);
+    throw EAbort(sNoFilesAvailable);
+  }
+
+  TFileListModel model;
+  model.HelpKeyword = command_.HelpKeyword;
+  FillList(model);
+  if (model.Count() == 0) {
+    Box(command_.List, sNoFilesAvailable);
+    return;
+  }
+  model.Caption = command_.List;
+  model.HasOptions = hasOptions;
+  model.CommandKind = option;
+  model.Extra = command_.Extra;
+  const int result = expert_.Forms().ShowFileList(expert_, model);
+  selected_.clear();
+  if (result == mrOk) TakeTicked(model);
+  if (result == mrCancel) throw EAbort(sUserCancelledDialog);
+  if (selected_.empty()) return;
+  if (command_.CallKind == TFileCommand::Calls::PerFileCounting)
+    CallCounting();
+  else
+    CallTogether();
+}
+
+TSCCProviderProject& TFileCommandRun::Project() { return expert_.RequireProject(directory_, command_.NoProvider); }
+
+void TFileCommandRun::Gather() {
+  expert_.AddAssociatedFiles(&all_files_, command_.OnlyExisting);
+  if (command_.ProviderPopulates) expert_.ProviderAddRemove(all_files_, command_.Command);
+  all_index_ = TFileIndex(all_files_);
+  TStateMessages messages;
+  Project().Query(all_files_, statuses_, messages);
+}
+
+void TFileCommandRun::SelectEligible() {
+  if (!file_name_.empty()) {
+    selected_ = {file_name_};
+    return;
+  }
+  for (std::size_t i = 0; i < all_files_.size(); ++i)
+    if (command_.Eligible(statuses_[i])) selected_.push_back(all_files_[i]);
+}
+
+void TFileCommandRun::FillList(TFileListModel& model) {
+  auto& project = Project();
+  for (const auto& file : selected_) {
+    TStateMessages messages;
+    model.AddFile(file, ProbeText(project.ShowDiff(file, kQuickTimeDiff, messages)));
+  }
+}
+
+void TFileCommandRun::TakeTicked(const TFileListModel& model) {
+  for (std::size_t row = 0; row < model.Count(); ++row) {
+    if (!model.IsChecked(row)) continue;
+    auto file = model.GetFile(static_cast<int>(row));
+    selected_.push_back(file);
+    expert_.GetAssociatedFiles(file, all_index_, selected_, command_.OnlyExisting, statuses_);
+  }
+  keep_checked_out_ = command_.Extra == TFileListModel::ExtraBox::KeepCheckedOut     ? model.KeepCheckedOut
+                      : command_.Extra == TFileListModel::ExtraBox::CheckOutAfterAdd ? model.CheckOutAfterAdd
+                                                                                     : false;
+}
+
+void TFileCommandRun::AskComment(const std::string& caption, bool showApplyToAll) {
+  TCommentModel model;
+  model.Caption = caption;
+  model.ShowApplyToAll = showApplyToAll;
+  if (expert_.Forms().ShowComments(model) != mrOk) {
+    Box(command_.Single, sUserCancelledDialog);
+    throw EAbort(sUserCancelledDialog);
+  }
+  comment_ = model.Text;
+  apply_to_all_ = showApplyToAll && model.ApplyToAll;
+}
+
+bool TFileCommandRun::WantsComment() {
+  Project();
+  return command_.CommentCapability && expert_.ProviderList()->Capabilities().test(*command_.CommentCapability);
+}
+
+bool TFileCommandRun::CallProvider(const TStringList& files) {
+  TStateMessages messages;
+  const bool done = command_.Run(Project(), {files, comment_, keep_checked_out_, messages});
+  expert_.DisplayMessages(command_.Single, messages);
+  return done;
+}
+
+void TFileCommandRun::CallTogether() {
+  if (WantsComment()) AskComment({}, false);
+  for (const auto& file : selected_) expert_.SaveIfModified(file);
+  bool done = false;
+  if (command_.CallKind == TFileCommand::Calls::Batch)
+    done = CallProvider(selected_);
+  else  // only the last call decides about the report; earlier failures have shown their messages
+    for (const auto& file : selected_) done = CallProvider({file});
+  if (done && command_.ClearReadOnly && !keep_checked_out_)
+    for (const auto& file : selected_) SetFileAttributesOf(file, faArchive);
+  Reload(done);
+  if (done) ReportDone();
+}
+
+void TFileCommandRun::CallCounting() {
+  std::size_t succeeded = 0;
+  for (const auto& file : selected_) {
+    expert_.SaveIfModified(file);
+    if (WantsComment() && !apply_to_all_) AskComment(Format(sCommentsFor.Text, {ExtractFileName(file)}), true);
+    if (CallProvider({file})) ++succeeded;
+  }
+  Reload(succeeded == selected_.size());
+  if (succeeded == selected_.size())
+    ReportDone();
+  else
+    Box(command_.FinalSeveral, sNotAllFilesAdded, metError);
+}
+
+void TFileCommandRun::Reload(bool done) {
+  const auto kind = command_.ReloadKind;
+  if (kind == TFileCommand::Reload::Always || (kind == TFileCommand::Reload::OnSuccess && done))
+    expert_.ReloadFiles(selected_);
+}
+
+void TFileCommandRun::ReportDone() {
+  if (selected_.size() == 1)
+    Box(command_.FinalOne, ExtractFileName(selected_.front()) + command_.OneDone.str());
+  else
+    Box(command_.FinalSeveral, command_.SeveralDone);
+}
+
+void TFileCommandRun::Box(const TResString& caption, const std::string& text, TMsgType kind) {
+  expert_.Forms().ShowMsgDialog(caption, text, kind);
+}

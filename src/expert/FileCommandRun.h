@@ -1,0 +1,49 @@
+// One run of a file command: gather, ask the provider, let the user pick, call the provider, reload, report.
+#pragma once
+
+#include <string>
+
+#include "expert/FileCommands.h"
+#include "expert/FileIndex.h"
+#include "expert/SccExpert.h"
+
+/// Used once and thrown away.  Execute() throws EAbort when the command cannot go on.
+///
+/// Between its steps dialogs run message loops in which the host may close the project: the provider project is looked
+/// up again before every call.
+class TFileCommandRun {
+ public:
+  TFileCommandRun(TSccExpert& expert, const TFileCommand& command, const std::string& fileName);
+  void Execute();
+
+ private:
+  TSCCProviderProject& Project();
+  void Gather();
+  void SelectEligible();
+  void FillList(TFileListModel& model);
+  void TakeTicked(const TFileListModel& model);
+  bool WantsComment();
+  /// Throws EAbort when the user cancels.
+  void AskComment(const std::string& caption, bool showApplyToAll);
+  /// Calls the provider for these files and shows what it says.
+  bool CallProvider(const TStringList& files);
+  /// All commands but add: one comment, everything saved first, then the files in one call or one by one.
+  void CallTogether();
+  /// Add: each file is saved, given its comment and added alone; the count of successes decides about the report.
+  void CallCounting();
+  void Reload(bool done);
+  void ReportDone();
+  void Box(const TResString& caption, const std::string& text, TMsgType kind = metInfo);
+
+  TSccExpert& expert_;
+  const TFileCommand& command_;
+  const std::string file_name_;
+  std::string directory_;
+  TStringList all_files_;
+  TFileIndex all_index_;
+  TStringList selected_;
+  TStatusArray statuses_;
+  std::string comment_;
+  bool apply_to_all_ = false;
+  bool keep_checked_out_ = false;
+};

@@ -1,0 +1,163 @@
+#include "expert/FileCommands.h"
+
+#include "expert/FileCommandStrings.h"
+#include "expert/SccExpertStrings.h"
+
+namespace {
+
+using namespace scc;
+using enum TFileCommand::Calls;
+using enum TFileCommand::Reload;
+using ExtraBox = TFileListModel::ExtraBox;
+
+// Bits are tested as they stand, so a status of -1 (no information) has all of them: it may be added, fetched, checked
+// in and undone, but not removed or checked out.  That is meant.
+constexpr bool All(Long status, Long bits) { return (status & bits) == bits; }
+constexpr bool None(Long status, Long bits) { return (status & bits) == 0; }
+
+}  // namespace
+
+bool CanAdd(Long status) { return status == SCC_STATUS_NOTCONTROLLED || All(status, SCC_STATUS_DELETED); }
+bool CanRemove(Long status) { return All(status, SCC_STATUS_CONTROLLED) && None(status, SCC_STATUS_DELETED); }
+bool CanGet(Long status) { return All(status, SCC_STATUS_CONTROLLED); }
+bool CanCheckIn(Long status) {
+  return All(status, SCC_STATUS_CONTROLLED | SCC_STATUS_CHECKEDOUT | SCC_STATUS_OUTBYUSER);
+}
+// A file that another user has out, but not exclusively, may be checked out.
+bool CanCheckOut(Long status) {
+  return All(status, SCC_STATUS_CONTROLLED) && None(status, SCC_STATUS_OUTBYUSER | SCC_STATUS_DELETED) &&
+         !All(status, SCC_STATUS_OUTOTHER | SCC_STATUS_OUTEXCLUSIVE);
+}
+bool CanUndoCheckOut(Long status) { return All(status, SCC_STATUS_OUTBYUSER | SCC_STATUS_CHECKEDOUT); }
+
+const TFileCommand kAddFiles{
+    .Command = SCC_COMMAND_ADD,
+    .Eligible = CanAdd,
+    .Run = [](auto& project, auto& c) { return project.AddFile(c.Files, c.Comment, c.KeepCheckedOut, c.Messages); },
+    .CallKind = PerFileCounting,
+    .CommentCapability = pcCommentAdd,
+    .SaveAllFirst = true,
+    .OnlyExisting = true,
+    .ProviderPopulates = false,
+    .Extra = ExtraBox::CheckOutAfterAdd,
+    .ClearReadOnly = false,
+    .ReloadKind = Never,
+    .HelpKeyword = "HC_TeamAddFiles",
+    .NoProvider = sAddFilesNoProvider,
+    .Single = sAddFile,
+    .List = sAddFiles,
+    .FinalOne = sAddFile,
+    .FinalSeveral = sAddFile,
+    .OneDone = sAddFileSucceeded,
+    .SeveralDone = sAddFilesSucceeded,
+};
+
+const TFileCommand kRemoveFiles{
+    .Command = SCC_COMMAND_REMOVE,
+    .Eligible = CanRemove,
+    .Run = [](auto& project, auto& c) { return project.RemoveFile(c.Files, c.Messages); },
+    .CallKind = Batch,
+    .CommentCapability = {},
+    .SaveAllFirst = false,
+    .OnlyExisting = false,
+    .ProviderPopulates = true,
+    .Extra = ExtraBox::None,
+    .ClearReadOnly = false,
+    .ReloadKind = Never,
+    .HelpKeyword = "HC_TeamRemoveFiles",
+    .NoProvider = sRemoveFilesNoProvider,
+    .Single = sRemoveFile,
+    .List = sRemoveFiles,
+    .FinalOne = sRemoveFile,
+    .FinalSeveral = sRemoveFile,
+    .OneDone = sRemoveFileSucceeded,
+    .SeveralDone = sRemoveFilesSucceeded,
+};
+
+const TFileCommand kGetLatestVersion{
+    .Command = SCC_COMMAND_GET,
+    .Eligible = CanGet,
+    .Run = [](auto& project, auto& c) { return project.GetFile(c.Files, c.Messages) == SCC_OK; },
+    .CallKind = Batch,
+    .CommentCapability = {},
+    .SaveAllFirst = false,
+    .OnlyExisting = false,
+    .ProviderPopulates = true,
+    .Extra = ExtraBox::None,
+    .ClearReadOnly = false,
+    .ReloadKind = OnSuccess,
+    .HelpKeyword = "",  // there is no topic for it
+    .NoProvider = sGetFilesNoProvider,
+    .Single = sGetFile,
+    .List = sGetLatestVersion,
+    .FinalOne = sGetLatestVersion,
+    .FinalSeveral = sGetLatestVersion,
+    .OneDone = sGetFileSucceeded,
+    .SeveralDone = sGetFilesSucceeded,
+};
+
+const TFileCommand kCheckInFiles{
+    .Command = SCC_COMMAND_CHECKIN,
+    .Eligible = CanCheckIn,
+    .Run = [](auto& project, auto& c) { return project.CheckInFile(c.Files, c.Comment, c.KeepCheckedOut, c.Messages); },
+    .CallKind = Batch,
+    .CommentCapability = pcCommentCheckIn,
+    .SaveAllFirst = true,
+    .OnlyExisting = false,
+    .ProviderPopulates = true,
+    .Extra = ExtraBox::KeepCheckedOut,
+    .ClearReadOnly = true,
+    .ReloadKind = OnSuccess,
+    .HelpKeyword = "HC_TeamCheckInFiles",
+    .NoProvider = sCheckInFilesNoProvider,
+    .Single = sCheckInFile,
+    .List = sCheckInFiles,
+    .FinalOne = sCheckInFile,
+    .FinalSeveral = sCheckInFiles,
+    .OneDone = sCheckInFileSucceeded,
+    .SeveralDone = sCheckInFilesSucceeded,
+};
+
+const TFileCommand kCheckOutFiles{
+    .Command = SCC_COMMAND_CHECKOUT,
+    .Eligible = CanCheckOut,
+    .Run = [](auto& project, auto& c) { return project.CheckOutFile(c.Files, c.Comment, c.Messages); },
+    .CallKind = PerFile,
+    .CommentCapability = pcCommentCheckOut,
+    .SaveAllFirst = false,
+    .OnlyExisting = false,
+    .ProviderPopulates = true,
+    .Extra = ExtraBox::None,
+    .ClearReadOnly = false,
+    .ReloadKind = Always,
+    .HelpKeyword = "HC_TeamCheckOutFiles",
+    .NoProvider = sCheckOutFilesNoProvider,
+    .Single = sCheckOutFile,
+    .List = sCheckOutFiles,
+    .FinalOne = sCheckOutFile,
+    .FinalSeveral = sCheckOutFiles,
+    .OneDone = sCheckOutFileSucceeded,
+    .SeveralDone = sCheckOutFilesSucceeded,
+};
+
+const TFileCommand kUndoCheckOut{
+    .Command = SCC_COMMAND_UNCHECKOUT,
+    .Eligible = CanUndoCheckOut,
+    .Run = [](auto& project, auto& c) { return project.UnCheckOutFile(c.Files, c.Messages); },
+    .CallKind = Batch,
+    .CommentCapability = {},
+    .SaveAllFirst = false,
+    .OnlyExisting = false,
+    .ProviderPopulates = true,
+    .Extra = ExtraBox::None,
+    .ClearReadOnly = true,
+    .ReloadKind = OnSuccess,
+    .HelpKeyword = "HC_TeamUndoCheckOut",
+    .NoProvider = sUndoCheckOutNoProvider,
+    .Single = sUndoCheckOutFile,
+    .List = sUndoCheckOutFiles,
+    .FinalOne = sUndoCheckOutFile,
+    .FinalSeveral = sUndoCheckOutFiles,
+    .OneDone = sUndoCheckOutFileSucceeded,
+    .SeveralDone = sUndoCheckOutFilesSucceeded,
+};

@@ -1,0 +1,53 @@
+// The run-time package: what the host calls when it loads and unloads the add-in.  The one place that knows both the
+// expert and the real windows.
+#include <memory>
+#include <optional>
+
+#include "commands/ExpertFormsWx.h"
+#include "expert/SccExpert.h"
+#include "host/Services.h"
+#include "ui/Debug.h"
+
+namespace {
+
+/// Waits for the host's main form, then creates the expert and hands it to the host.  Created by IDERegister.
+class TProductStartup {
+ public:
+  TProductStartup() {
+    if (auto* application = IdeService<IOTAApplication>())
+      cookie_ = application->MainFormCreated().Subscribe([this] { MainFormCreated(); });
+  }
+  TProductStartup(const TProductStartup&) = delete;
+  TProductStartup& operator=(const TProductStartup&) = delete;
+  ~TProductStartup() {
+    auto* wizards = IdeService<IOTAWizardServices>();
+    if (wizards && wizard_index_) wizards->RemoveWizard(*wizard_index_);  // the host lets go, and the expert goes
+    auto* application = IdeService<IOTAApplication>();
+    if (application && cookie_) application->MainFormCreated().Unsubscribe(*cookie_);
+  }
+
+ private:
+  void MainFormCreated() {
+    if (aSccExpert) return;
+    auto expert = std::make_shared<TSccExpert>(forms_);
+    aSccExpert = expert.get();
+    if (auto* wizards = IdeService<IOTAWizardServices>()) wizard_index_ = wizards->AddWizard(std::move(expert));
+  }
+
+  TExpertForms forms_;
+  std::optional<int> cookie_;
+  std::optional<int> wizard_index_;
+};
+
+std::unique_ptr<TProductStartup> startup;
+
+}  // namespace
+
+extern "C" {
+void Initialize() { CreateDebugForm(); }
+void IDERegister() { startup = std::make_unique<TProductStartup>(); }
+void Finalize() {
+  startup.reset();
+  FreeDebugForm();
+}
+}

@@ -1,0 +1,83 @@
+#include "expert/MappingFile.h"
+
+#include <sstream>
+#include <stdexcept>
+
+#include "expert/MappingFileStrings.h"
+#include "host/Ini.h"
+#include "host/Paths.h"
+#include "host/System.h"
+#include "host/Text.h"
+
+// Section and key names compare ignoring case, as INI files always did.
+struct TMappingFile::TIni {
+  CSimpleIniA Data;
+
+  TIni() {
+    Data.SetUnicode();  // bytes go through unchanged
+    Data.SetSpaces(false);
+    Data.SetQuotes();        // project strings are the provider's: blanks and quotes at their ends are kept
+    Data.SetAllowKeyOnly();  // a line that is only a word survives a rewrite
+  }
+};
+
+std::string MappingFileName(const std::string& projectFile) {
+  return ExtractFileDir(projectFile) + PathDelim + ChangeFileExt(ExtractFileName(projectFile), kMappingExtension);
+}
+
+TMappingFile::TMappingFile(std::string path) : path_(std::move(path)), ini_(std::make_unique<TIni>()) {
+  if (!FileExists(path_)) return;
+  text_ = ReadWholeFile(path_);
+  if (text_.find('\0') != std::string::npos) throw std::runtime_error(Format(sMappingFileBinary.Text, {path_}));
+  ini_->Data.LoadData(text_);
+}
+
+TMappingFile::~TMappingFile() = default;
+
+std::vector<std::string> TMappingFile::Sections() const {
+  CSimpleIniA::TNamesDepend names;
+  ini_->Data.GetAllSections(names);
+  names.sort(CSimpleIniA::Entry::LoadOrder());
+  std::vector<std::string> result;
+  for (const auto& name : names)
+    if (*name.pItem) result.emplace_back(name.pItem);
+  return result;
+}
+
+bool TMappingFile::HasSection(const std::string& section) const {
+  return !section.empty() && ini_->Data.SectionExists(section.c_str());
+}
+
+bool TMappingFile::HasKey(const std::string& section, const std::string& key) const {
+  return ini_->Data.KeyExists(section.c_str(), key.c_str());
+}
+
+std::string TMappingFile::Read(const std::string& section, const std::string& key) const {
+  return ini_->Data.GetValue(section.c_str(), key.c_str(), "");
+}
+
+namespace {
+
+/// The parser skips a section header that was cut off; writing the file again would lose it and give the lines below
+/// it to the section above.
+void RefuseCutHeaders(const std::string& path, const std::string& text) {
+  std::istringstream lines(text);
+  std::string line;
+  for (long long number = 1; std::getline(lines, line); ++number) {
+    const auto trimmed = Trim(line);
+    if (trimmed.starts_with('[') && trimmed.find(']') == std::string::npos)
+      throw std::runtime_error(Format(sMappingFileDamaged.Text, {path, number, trimmed}));
+  }
+}
+
+}  // namespace
+
+void TMappingFile::Write(const std::string& section, const std::string& key, const std::string& value) {
+  if (HasKey(section, key) && Read(section, key) == value) return;
+  RefuseCutHeaders(path_, text_);
+  ini_->Data.SetValue(section.c_str(), key.c_str(), value.c_str());
+  std::string text;
+  ini_->Data.Save(text);
+  WriteFileAtomically(path_, text);
+  text_ = std::move(text);
+}

@@ -1,0 +1,59 @@
+// Which menu items are available, from the current project, its mapping file and the status of its files.
+#include <algorithm>
+#include <array>
+#include <span>
+
+#include "expert/FileCommands.h"
+#include "expert/MappingFile.h"
+#include "expert/SccExpert.h"
+#include "host/Paths.h"
+#include "host/System.h"
+#include "ui/ExpertMainMenu.h"
+
+void TSccExpert::MainMenu() {
+  if (project_not_mapped_) {
+    ReleaseProvider();
+    project_not_mapped_ = false;
+  }
+  const auto project = Trim(GetCurrentProjectFile());
+  if (!provider_list_) {
+    menu_->EnableMenus(false);  // holds if the provider cannot be created
+    if (project.empty())
+      ReadSettings();
+    else
+      ReadProjectSettings(project);
+    if (!ProviderCreate(0)) return;
+    if (!project.empty()) FileNotifyProjectOpen(project);
+  }
+  const bool mapped = FileExists(ChangeFileExt(project, kMappingExtension));
+  if (mapped && provider_list_ && provider_list_->GetCount() > 0)
+    EnableActiveMenu();
+  else
+    menu_->EnableMenus(false);
+  menu_->EnablePlaceMenu(!mapped && !project.empty());
+  menu_->EnableRunScc(provider_list_ != nullptr);
+}
+
+void TSccExpert::EnableActiveMenu() {
+  menu_->EnableMenus(true);
+  TStringList files;
+  AddAssociatedFiles(&files, false);
+  TStatusArray statuses;
+  TStateMessages messages;
+  RequireCurrentProject().Query(files, statuses, messages);
+
+  struct TRule {
+    TAction& Action;
+    bool (*Eligible)(scc::Long status);
+  };
+  const std::array rules{
+      TRule{menu_->actAddFiles, CanAdd},
+      TRule{menu_->actRemoveFiles, CanRemove},
+      TRule{menu_->actCheckInFiles, CanCheckIn},
+      TRule{menu_->actCheckOutFiles, CanCheckOut},
+      // Undo wants a controlled file here although the command itself does not ask: the menu follows check-in.
+      TRule{menu_->actUndoCheckOutFiles, CanCheckIn},
+  };
+  const std::span words(statuses.data(), files.size());
+  for (const auto& rule : rules) rule.Action.Enabled = std::ranges::any_of(words, rule.Eligible);
+}

@@ -1,0 +1,124 @@
+// Opening and closing the provider project as the host opens, switches and closes projects.
+#include "expert/MappingFile.h"
+#include "expert/SccExpert.h"
+#include "expert/SccExpertStrings.h"
+#include "expert/SccIDENotifier.h"
+#include "expert/SccSystem.h"
+#include "host/Errors.h"
+#include "host/Paths.h"
+#include "ui/ExpertMainMenu.h"
+
+void* TSccIDENotifier::QueryInterface(const TGuid& iid) noexcept {
+  return FindInterface<IOTAIDENotifier, IOTANotifier>(this, iid);
+}
+
+void TSccIDENotifier::FileNotification(TOTAFileNotification code, const std::string& fileName, bool&) {
+  // The host discards what a notifier throws, so the reason is kept where the user can find it.
+  try {
+    expert_.HandleNotification(code, fileName);
+  } catch (const std::exception& error) {
+    WriteMessageFmt(mwtError, sFileNotificationError.Text, {error.what()});
+  }
+}
+
+void TSccExpert::HandleNotification(TOTAFileNotification code, const std::string& fileName) {
+  if (ProviderCallInProgress()) {
+    pending_.push_back({code, fileName});
+    return;
+  }
+  switch (code) {
+    case TOTAFileNotification::fnFileOpened:
+      if (IsProject(fileName) && fileName == GetCurrentProjectFile()) FileNotifyProjectOpen(fileName);
+      break;
+    case TOTAFileNotification::fnFileClosing:
+      if (IsProject(fileName)) FileNotifyProjectClose(fileName);
+      break;
+    case TOTAFileNotification::fnActiveProjectChanged:
+      FileNotifyProjectClose(OpenProjectFile());
+      if (IsProject(fileName)) FileNotifyProjectOpen(fileName);
+      break;
+  }
+}
+
+void TSccExpert::HandlePendingNotifications() {
+  if (ProviderCallInProgress()) return;
+  for (const auto& [code, fileName] : std::exchange(pending_, {})) HandleNotification(code, fileName);
+}
+
+std::string TSccExpert::GetCurrentProjectFile() {
+  auto* project = CurrentProject();
+  return project ? project->GetFileName() : std::string();
+}
+
+// A host may name the new project as current before it says so; the provider project to close is the one opened here.
+std::string TSccExpert::OpenProjectFile() {
+  return open_project_file_.empty() ? GetCurrentProjectFile() : open_project_file_;
+}
+
+void TSccExpert::FileNotifyProjectOpen(const std::string& fileName) {
+  if (!IsProject(fileName)) return;
+  if (!ProjectExists(ChangeFileExt(fileName, kMappingExtension))) return;
+  if (provider_list_) FileNotifyProjectClose(OpenProjectFile());
+  if (Trim(fileName).empty())
+    ReadSettings();
+  else
+    ReadProjectSettings(fileName);
+  if (!ProviderCreate(0)) throw EAbort(sProviderNotAssigned);
+  OpenProviderProject(fileName);
+}
+
+void TSccExpert::OpenProviderProject(const std::string& fileName) {
+  std::string projName;
+  std::string auxProjPath;
+  std::string userName = provider_list_->UserName();
+  ReadSCCIniFile(fileName, projName, userName, auxProjPath);
+
+  const auto directory = ExtractFileDir(fileName);
+  provider_list_->Add(directory);
+  if (!provider_list_->SetCurrentProject(directory)) throw EAbort(sNoMatchingPath);
+  auto& project = *provider_list_->CurrentProject();
+  project.set_ProjName(projName);
+  project.set_ProjPath(auxProjPath);
+  project.set_UserName(userName);
+
+  TStateMessages messages;
+  const auto code = project.OpenProject(messages);
+  if (code == scc::SCC_OK) {
+    open_project_file_ = fileName;
+    UpdateSCCIniFile(fileName, project.get_UserName());
+    return;
+  }
+  const bool refused = code == scc::SCC_E_INVALIDUSER;
+  forms_.ShowMsgDialog(sOpenProject, refused ? sInvalidUserName : sUnknownOpenError, metError);
+  CloseFailedProject(directory);
+}
+
+void TSccExpert::CloseFailedProject(const std::string& directory) {
+  HideMessages();
+  // The box that was just shown ran a message loop, in which the host may have closed the project.
+  if (provider_list_ && provider_list_->SetCurrentProject(directory)) {
+    TStateMessages messages;
+    provider_list_->CurrentProject()->CloseProject(messages);
+    provider_list_->Remove(directory);
+    provider_list_->SetCurrentProject(directory);  // drops the reference to the one removed
+  }
+  if (menu_) menu_->EnableMenus(false);
+}
+
+void TSccExpert::ReleaseProvider() {
+  provider_list_.reset();
+  open_project_file_.clear();
+}
+
+void TSccExpert::FileNotifyProjectClose(const std::string& fileName) {
+  if (!provider_list_) return;
+  const auto directory = ExtractFileDir(fileName);
+  if (provider_list_->SetCurrentProject(directory)) {
+    TStateMessages messages;
+    provider_list_->CurrentProject()->CloseProject(messages);
+    DisplayMessages(sCloseProject, messages);
+    // The boxes ran a message loop, in which the host may have closed the project already.
+    if (provider_list_) provider_list_->Remove(directory);
+  }
+  ReleaseProvider();
+}

@@ -1,0 +1,128 @@
+// The provider's own windows, and its say in the file lists of the commands.
+#include <unordered_map>
+#include <unordered_set>
+
+#include "expert/SccExpert.h"
+#include "expert/SccExpertStrings.h"
+#include "expert/SccSystem.h"
+#include "host/Errors.h"
+#include "host/Paths.h"
+
+TSCCProviderProject& TSccExpert::RequireCurrentProject() {
+  const auto project = Trim(GetCurrentProjectFile());
+  if (project.empty()) throw EAbort(sNoProjectFile);
+  return RequireProject(ExtractFileDir(project), sNoMatchingPath);
+}
+
+void TSccExpert::ShowDiff(const std::string& fileName) {
+  RequireCurrentProject();
+  SaveIfModified(fileName);
+  TStateMessages messages;
+  RequireCurrentProject().ShowDiff(fileName, scc::SCC_DIFF_IGNORECASE, messages);
+  DisplayMessages(sShowDiff, messages);
+}
+
+void TSccExpert::ShowHistory(const std::string& fileName) {
+  TStateMessages messages;
+  if (RequireCurrentProject().ShowHistory(fileName, messages) == scc::SCC_I_RELOADFILE) ReloadFile(fileName);
+  DisplayMessages(sShowHistory, messages);
+}
+
+void TSccExpert::Properties(const std::string& fileName) {
+  TStateMessages messages;
+  RequireCurrentProject().Properties(fileName, messages);
+  DisplayMessages(sProperties, messages);
+}
+
+void TSccExpert::RunSccApp() {
+  if (!provider_list_ && !ProviderCreate(0)) return;
+  std::string added;
+  const auto project = GetCurrentProjectFile();
+  if (!project.empty() && provider_list_->GetCount() > 0 && provider_list_->CurrentProject()) {
+    RequireCurrentProject();
+  } else {
+    auto* services = IdeService<IOTAServices>();
+    added = services ? services->GetStartupDirectory() : std::string();
+    provider_list_->Add(added);
+    if (!provider_list_->SetCurrentProject(added)) throw EAbort(sNoProjectFile);
+  }
+  auto& session = *provider_list_->CurrentProject();
+  session.set_UserName(user_name_);
+  TStateMessages messages;
+  DecodeReturnCode(session.RunSCC(), messages);
+  DisplayMessages(sRunScc, messages);
+  HandlePendingNotifications();
+  if (added.empty() || !provider_list_) return;
+  provider_list_->Remove(added);
+  provider_list_->SetCurrentProject(added);  // drops the reference to the one removed
+}
+
+namespace {
+
+// What the provider said in one population; only one runs at a time.
+TStringList addList;
+TStringList removeList;
+
+// A provider that never stops calling must not eat the IDE's memory.
+constexpr std::size_t kMaxPopulated = 4 * kMaxFiles;
+
+scc::Bool SCC_CALL PopListFunc(void*, scc::Bool addKeep, scc::Long, const char* fileName) noexcept try {
+  auto& list = addKeep ? addList : removeList;
+  if (list.size() >= kMaxPopulated) return 0;
+  if (fileName) list.emplace_back(fileName);
+  return -1;
+} catch (...) {
+  return 0;
+}
+
+/// Deletes from `list`, for each of `names`, the first entry that matches it.
+void DeleteFirstMatches(TStringList& list, const TStringList& names) {
+  std::unordered_map<std::string, int> due;
+  for (const auto& name : names) ++due[FoldCase(name)];
+  if (due.empty()) return;
+  std::erase_if(list, [&](const std::string& entry) {
+    const auto found = due.find(FoldCase(entry));
+    return found != due.end() && found->second-- > 0;
+  });
+}
+
+/// Appends, in order, the entries of `names` that are not blank and not yet in `list`.
+void AppendMissing(TStringList& list, const TStringList& names) {
+  std::unordered_set<std::string> known;
+  known.reserve(list.size() + names.size());
+  for (const auto& entry : list) known.insert(FoldCase(entry));
+  for (const auto& name : names)
+    if (!Trim(name).empty() && known.insert(FoldCase(name)).second) list.push_back(name);
+}
+
+}  // namespace
+
+void TSccExpert::ProviderAddRemove(TStringList& list, scc::SCCCommand command) {
+  if (!provider_list_) throw EAbort(sAddRemoveNoProvider);
+  addList.clear();
+  removeList.clear();
+  TStringList working;
+  rv_EnumProjectUnits(&working);
+  if (provider_list_->Capabilities().test(pcSccPopulateList)) {
+    TStateMessages messages;
+    TStatusArray statuses;
+    auto& project = RequireCurrentProject();
+    project.PopulateList(command, working, PopListFunc, statuses, messages);
+    DisplayMessages(sSccPopulateList, messages);
+  }
+  DeleteFirstMatches(working, removeList);
+  AppendMissing(working, addList);
+  AppendMissing(list, working);
+}
+
+void TSccExpert::ViewChange(const std::string& fileName) {
+  try {
+    if (!provider_list_) return;
+    if (!provider_list_->SetCurrentProject(ExtractFileDir(GetCurrentProjectFile()))) return;
+    TStatusArray statuses;
+    TStateMessages messages;
+    if (provider_list_->CurrentProject()->Query({fileName}, statuses, messages)) DecodeQueryStatus(fileName, statuses[0]);
+  } catch (const std::exception& error) {
+    WriteMessageFmt(mwtError, sViewChangeError.Text, {error.what()});
+  }
+}

@@ -1,0 +1,20 @@
+// The host's file notifications, passed on to the expert.
+#pragma once
+
+#include "host/Notifiers.h"
+
+class TSccExpert;
+
+class TSccIDENotifier final : public TNotifierObject, public IOTAIDENotifier {
+ public:
+  /// `expert` is borrowed; the expert removes the notifier from the host before it goes.
+  explicit TSccIDENotifier(TSccExpert& expert) : expert_(expert) {}
+
+  void* QueryInterface(const TGuid& iid) noexcept override;
+  void FileNotification(TOTAFileNotification code, const std::string& fileName, bool& cancel) override;
+  void BeforeCompile(IOTAProject*, bool&) override {}
+  void AfterCompile(bool) override {}
+
+ private:
+  TSccExpert& expert_;
+};

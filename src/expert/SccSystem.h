@@ -1,0 +1,38 @@
+// What the rest of the add-in asks the host about: user, current project and its units, editors, help file.  Hides the
+// host's interface calls.  User-interface thread only; nothing but IsUnitModified raises.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "host/Modules.h"
+
+/// The logged-on user's name; empty when it is longer than 127 characters.
+std::string GetUser();
+/// The process's current directory; empty when it is longer than 127 characters.
+std::string GetCurrentDir();
+
+/// The active project of the first project group among the open modules; without a group the last open module that is a
+/// project; nullptr with neither.
+IOTAProject* CurrentProject();
+
+/// Whether the unit's source editor has unsaved changes; false when the file is not open.  Throws std::runtime_error
+/// when the module's first editor is no source editor.
+bool IsUnitModified(const std::string& fileName);
+
+/// The file name of the front-most editor buffer; empty when there is none or it is not open as a module.
+std::string rv_GetCurrentFile();
+/// The number of modules of the current project.
+int rv_GetUnitCount();
+/// Replaces `list` by the current project's module file names in the project's order, without libraries and programs.
+/// Leaves it alone without a project.
+void rv_EnumProjectUnits(std::vector<std::string>* list);
+
+/// The module's form editor whose file has that extension (exact comparison).  Without a match: the last editor, if it
+/// is a form editor.
+IOTAFormEditor* GetFormEditor(IOTAModule* module, const std::string& extension);
+/// The first form editor of the host's current module.
+IOTAFormEditor* GetActiveFormEditor();
+
+/// Full path of an installed help file; empty when the machine's help key is missing.
+std::string GetRVHelpFile(const std::string& helpFile);

@@ -1,0 +1,53 @@
+// The "Team" menu: its items, actions and the rules that enable them.  No windows: the host shows the menu.
+#pragma once
+
+#include "host/Menus.h"
+
+class TSccExpert;
+
+/// Created by the expert and installed in the host for as long as it lives.  User-interface thread only.
+class TExpertMainMenuModule {
+ public:
+  /// `expert` is borrowed.  Throws std::runtime_error when the host has no menu services.
+  explicit TExpertMainMenuModule(TSccExpert& expert);
+  ~TExpertMainMenuModule();
+  TExpertMainMenuModule(const TExpertMainMenuModule&) = delete;
+  TExpertMainMenuModule& operator=(const TExpertMainMenuModule&) = delete;
+
+  /// The file commands, the commit browser and the provider's application.  Pulling stays enabled, and the message
+  /// item goes out of sight, whatever `enable` is.
+  void EnableMenus(bool enable);
+  void EnablePlaceMenu(bool enable);
+  void EnableRunScc(bool enable);
+  /// Shows the provider's application only when the provider has one; does nothing without a provider.
+  void SetMenuCapabilities();
+
+  // Handlers of the per-file variants, for the host's context menus.
+  void actAddSingleExecute(const std::string& fileName);
+  void actRemoveSingleExecute(const std::string& fileName);
+  void actGetSingleExecute(const std::string& fileName);
+  void actCheckInSingleExecute(const std::string& fileName);
+  void actCheckOutSingleExecute(const std::string& fileName);
+  void actUndoCheckOutSingleExecute(const std::string& fileName);
+
+  TMenuItem Map;
+  TMenuItem MainSep2, MainSep3, MainSep4;
+  TMenuItem PlaceProject, PullProject, CommitBrowser;
+  TMenuItem AddFiles, RemoveFiles, GetFiles, CheckInFiles, CheckOutFiles, UndoCheckOutFiles;
+  TMenuItem ShowDifferences1, ShowHistory1, RunSccApplication1, Messages1;
+
+  TAction actPlaceProject, actPullProject;
+  TAction actAddFiles, actRemoveFiles, actCheckInFiles, actCheckOutFiles, actUndoCheckOutFiles;
+  TAction actRunSccApp, actCommitBrowser, actMessages;
+
+ private:
+  void MapClick();
+  void actGetFilesExecute();
+  void actShowDiffExecute();
+  void actShowHistoryExecute();
+  void CreateActions();
+  void CreateItems();
+  std::vector<TAction*> Actions();
+
+  TSccExpert& expert_;
+};

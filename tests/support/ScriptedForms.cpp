@@ -1,0 +1,52 @@
+#include "support/ScriptedForms.h"
+
+namespace {
+
+class TScriptedWindow final : public IMessageWindow {
+ public:
+  explicit TScriptedWindow(TScriptedForms& forms) : forms_(forms) {}
+  using IMessageWindow::SendMessage;
+  void SendMessage(TMsgWinType kind, const std::string& text) override {
+    if (forms_.Recording) forms_.Lines.emplace_back(kind, text);
+  }
+  void ShowWindow(bool show) override { forms_.WindowShown = show; }
+
+ private:
+  TScriptedForms& forms_;
+};
+
+int Next(auto& script, auto& model, const std::string& what, std::vector<std::string>& unexpected) {
+  if (script.empty()) {
+    unexpected.push_back(what);
+    return mrCancel;
+  }
+  const auto act = std::move(script.front());
+  script.pop_front();
+  return act(model);
+}
+
+}  // namespace
+
+std::vector<std::string> TScriptedForms::LinesOf(TMsgWinType kind) const {
+  std::vector<std::string> texts;
+  for (const auto& [lineKind, text] : Lines)
+    if (lineKind == kind) texts.push_back(text);
+  return texts;
+}
+
+std::unique_ptr<IMessageWindow> TScriptedForms::CreateMessageWindow() {
+  return std::make_unique<TScriptedWindow>(*this);
+}
+
+void TScriptedForms::ShowMsgDialog(const std::string& title, const std::string& text, TMsgType kind) {
+  if (Recording) Boxes.push_back({title, text, kind});
+  if (WhileBoxShown) WhileBoxShown();
+}
+
+int TScriptedForms::ShowFileList(TSccExpert&, TFileListModel& model) {
+  return Next(OnFileList, model, model.Caption, Unexpected);
+}
+
+int TScriptedForms::ShowComments(TCommentModel& model) {
+  return Next(OnComments, model, model.Caption.empty() ? "Comments" : model.Caption, Unexpected);
+}

@@ -1,0 +1,292 @@
+// The scripted provider's side of the API.
+#include <algorithm>
+#include <cstring>
+
+#include "support/ScriptedProvider.h"
+
+using namespace scc;
+
+// Declared from the table that the client binds by, so that a wrong signature does not compile.  The one variable that
+// is spelled differently from its export is declared by hand.
+#define SccCheckOut SccCheckout
+extern "C" {
+#define SCC_ENTRY(variable, name, result, arguments) SCC_EXPORT result SCC_CALL variable arguments;
+#include "provider/entry_points.def"
+#undef SCC_ENTRY
+SCC_EXPORT ScriptedProvider* ScriptedProviderControl();
+}
+#undef SccCheckOut
+
+namespace {
+
+ScriptedProvider script;
+
+constexpr int kScratchRoom = 4096;
+constexpr int kMaxFiles = 65536;
+
+std::string Text(const char* text) { return text != nullptr ? text : ""; }
+
+void TakeFiles(ScriptedCall& call, Long count, const char** names) {
+  if (!script.Record && script.OnCall.empty()) return;
+  call.Files.assign(names, names + count);
+  call.Terminated = names == nullptr || names[count] == nullptr;
+}
+
+void WriteTexts(const std::string& entry) {
+  const auto texts = script.Texts.find(entry);
+  if (texts == script.Texts.end() || script.TextOut == nullptr) return;
+  for (const ScriptedText& text : texts->second)
+    script.TextOut(text.Text ? text.Text->c_str() : nullptr, text.Kind);
+}
+
+/// What every entry point does: keep the call, write its texts, fail if told to.  The scripted result, or `result`.
+Long Play(const ScriptedCall& call, Long result = SCC_OK) {
+  if (script.Record) script.Calls.push_back(call);
+  if (const auto hook = script.OnCall.find(call.Entry); hook != script.OnCall.end()) hook->second(call);
+  WriteTexts(call.Entry);
+  if (script.Faults.ThrowException.contains(call.Entry))
+    throw std::runtime_error("scripted failure in " + call.Entry);
+  if (script.Faults.ThrowInt.contains(call.Entry)) throw 42;
+  const auto scripted = script.Results.find(call.Entry);
+  return scripted != script.Results.end() ? scripted->second : result;
+}
+
+ScriptedCall Called(const char* entry, WindowHandle window = nullptr) {
+  ScriptedCall call;
+  call.Entry = entry;
+  call.Window = window;
+  return call;
+}
+
+Long PlayFiles(const char* entry, WindowHandle window, Long count, const char** names, const char* comment,
+               Long flags, const void* options) {
+  ScriptedCall call = Called(entry, window);
+  TakeFiles(call, count, names);
+  call.Comment = Text(comment);
+  call.Flags = flags;
+  call.Options = options;
+  return Play(call);
+}
+
+/// Writes an in/out text of `size` bytes, in the way that the faults ask for.
+void PutText(char* place, const std::optional<std::string>& text, int size) {
+  if (text) std::strcpy(place, text->c_str());
+  if (script.Faults.Unterminated) std::memset(place, 'u', static_cast<std::size_t>(size));
+  if (script.Faults.WriteFarBehind) std::memset(place, 'o', kScratchRoom + 100);
+}
+
+void PutIdentity(const ScriptedIdentity& identity, char* user, char* name, char* aux) {
+  PutText(user, identity.User, SCC_USER_SIZE);
+  PutText(name, identity.ProjName, SCC_PRJPATH_SIZE);
+  PutText(aux, identity.AuxPath, SCC_PRJPATH_SIZE);
+  if (script.Faults.LongProjName) std::strcpy(name, std::string(SCC_PRJPATH_SIZE - 1, 'n').c_str());
+}
+
+void PutWord(Long* place, Long value) {
+  const std::int64_t wide = value;
+  std::memcpy(place, &wide, script.Faults.WideWords ? sizeof wide : sizeof value);
+}
+
+Long StatusOf(const char* name) {
+  if (script.Statuses.empty() && !script.StatusOf) return script.DefaultStatus;
+  const auto known = script.Statuses.find(name);
+  if (known != script.Statuses.end()) return known->second;
+  return script.StatusOf ? script.StatusOf(name) : script.DefaultStatus;
+}
+
+void PutStatuses(Long count, const char** names, Long* statuses) {
+  std::transform(names, names + count, statuses, StatusOf);
+  if (script.Faults.WriteBehindStatuses) statuses[kMaxFiles] = 1;
+}
+
+void CallBack(TPopListFunc populate, void* data) {
+  for (const ScriptedListEntry& entry : script.List) {
+    ++script.ListAnswers;
+    if (!populate(data, entry.Add ? 1 : 0, entry.Status, entry.File ? entry.File->c_str() : nullptr)) return;
+  }
+  for (int i = 0; script.Faults.FloodList && i < 100'000; ++i, ++script.ListAnswers)
+    populate(data, 1, SCC_STATUS_CONTROLLED, ("flood" + std::to_string(i)).c_str());
+}
+
+void WriteLate() {
+  if (script.Faults.LateText && script.TextOut != nullptr) script.TextOut("late", SCC_MSG_INFO);
+}
+
+}  // namespace
+
+ScriptedProvider* ScriptedProviderControl() { return &script; }
+
+Long SCC_CALL SccInitialize(void** context, WindowHandle window, const char* caller, char* sccName,
+                            Long* capabilities, char* auxPathLabel, Long* checkOutCommentLength,
+                            Long* commentLength) {
+  ScriptedCall call = Called("SccInitialize", window);
+  call.User = Text(caller);
+  *context = &script;
+  PutText(sccName, script.Name, SCC_NAME_SIZE);
+  PutText(auxPathLabel, "Scripted path:", SCC_AUXLABEL_SIZE);
+  PutWord(capabilities, static_cast<Long>(script.Capabilities));
+  PutWord(checkOutCommentLength, 128);
+  PutWord(commentLength, 128);
+  const Long result = Play(call);
+  script.Initialized = result == SCC_OK;
+  return result;
+}
+
+Long SCC_CALL SccUninitialize(void*) {
+  WriteLate();
+  script.Initialized = false;
+  return Play(Called("SccUninitialize"));
+}
+
+Long SCC_CALL SccGetVersion() { return Play(Called("SccGetVersion"), script.Version); }
+
+Long SCC_CALL SccSetOption(void*, Long option, Long value) {
+  ScriptedCall call = Called("SccSetOption");
+  call.Command = option;
+  call.Flags = value;
+  return Play(call, option == SCC_OPT_SHARESUBPROJ ? SCC_I_SHARESUBPROJOK : SCC_OK);
+}
+
+Long SCC_CALL SccGetProjPath(void*, WindowHandle window, char* user, char* projectName, char* localPath,
+                             char* auxPath, Bool allowChangePath, Bool* isNew) {
+  ScriptedCall call = Called("SccGetProjPath", window);
+  call.User = user;
+  call.ProjName = projectName;
+  call.LocalPath = localPath;
+  call.AuxPath = auxPath;
+  call.Allowed = allowChangePath == -1;
+  call.IsNew = *isNew == -1;
+  PutIdentity(script.GetProjPath, user, projectName, auxPath);
+  PutText(localPath, script.GetProjPath.LocalPath, SCC_LOCALPATH_SIZE);
+  if (script.IsNew) PutWord(isNew, *script.IsNew ? 1 : 0);
+  return Play(call);
+}
+
+Long SCC_CALL SccOpenProject(void*, WindowHandle window, char* user, char* projectName, const char* localPath,
+                             char* auxPath, const char* comment, TTextOutProc textOut, Long flags) {
+  ScriptedCall call = Called("SccOpenProject", window);
+  call.User = user;
+  call.ProjName = projectName;
+  call.LocalPath = localPath;
+  call.AuxPath = auxPath;
+  call.Comment = Text(comment);
+  call.Flags = flags;
+  call.TextOut = textOut != nullptr;
+  script.TextOut = textOut;
+  PutIdentity(script.OpenProject, user, projectName, auxPath);
+  const Long result = Play(call, script.Open ? SCC_E_PROJECTALREADYOPEN : SCC_OK);
+  script.Open = script.Open || result >= SCC_OK;
+  return result;
+}
+
+Long SCC_CALL SccCloseProject(void*) {
+  const Long result = Play(Called("SccCloseProject"), script.Open ? SCC_OK : SCC_E_PROJNOTOPEN);
+  script.Open = false;
+  WriteLate();
+  return result;
+}
+
+Long SCC_CALL SccQueryInfo(void*, Long count, const char** names, Long* statuses) {
+  ScriptedCall call = Called("SccQueryInfo");
+  TakeFiles(call, count, names);
+  PutStatuses(count, names, statuses);
+  return Play(call);
+}
+
+Long SCC_CALL SccPopulateList(void*, SCCCommand command, Long count, const char** names,
+                              TPopListFunc populate, void* callerData, Long* statuses, Long flags) {
+  ScriptedCall call = Called("SccPopulateList");
+  TakeFiles(call, count, names);
+  call.Command = command;
+  call.Flags = flags;
+  PutStatuses(count, names, statuses);
+  CallBack(populate, callerData);
+  return Play(call);
+}
+
+Long SCC_CALL SccCheckout(void*, WindowHandle window, Long count, const char** names, const char* comment,
+                          Long flags, void* options) {
+  return PlayFiles("SccCheckout", window, count, names, comment, flags, options);
+}
+
+Long SCC_CALL SccCheckin(void*, WindowHandle window, Long count, const char** names, const char* comment,
+                         Long flags, void* options) {
+  return PlayFiles("SccCheckin", window, count, names, comment, flags, options);
+}
+
+Long SCC_CALL SccRemove(void*, WindowHandle window, Long count, const char** names, const char* comment,
+                        Long flags, void* options) {
+  return PlayFiles("SccRemove", window, count, names, comment, flags, options);
+}
+
+Long SCC_CALL SccGet(void*, WindowHandle window, Long count, const char** names, Long flags, void* options) {
+  return PlayFiles("SccGet", window, count, names, nullptr, flags, options);
+}
+
+Long SCC_CALL SccUncheckout(void*, WindowHandle window, Long count, const char** names, Long flags,
+                            void* options) {
+  return PlayFiles("SccUncheckout", window, count, names, nullptr, flags, options);
+}
+
+Long SCC_CALL SccHistory(void*, WindowHandle window, Long count, const char** names, Long flags,
+                         void* options) {
+  return PlayFiles("SccHistory", window, count, names, nullptr, flags, options);
+}
+
+Long SCC_CALL SccAdd(void*, WindowHandle window, Long count, const char** names, const char* comment,
+                     Long* flags, void* options) {
+  ScriptedCall call = Called("SccAdd", window);
+  TakeFiles(call, count, names);
+  call.Comment = Text(comment);
+  call.Flags = *flags;
+  call.FileFlags.assign(flags, flags + count);
+  call.Options = options;
+  return Play(call);
+}
+
+Long SCC_CALL SccDiff(void*, WindowHandle window, const char* name, Long flags, void* options) {
+  ScriptedCall call = Called("SccDiff", window);
+  call.Files = {name};
+  call.Flags = flags;
+  call.Options = options;
+  return Play(call, script.Differing.contains(name) ? SCC_I_FILEDIFFERS : SCC_OK);
+}
+
+Long SCC_CALL SccProperties(void*, WindowHandle window, const char* name) {
+  ScriptedCall call = Called("SccProperties", window);
+  call.Files = {name};
+  return Play(call);
+}
+
+Long SCC_CALL SccRename(void*, WindowHandle window, const char* name, const char* newName) {
+  ScriptedCall call = Called("SccRename", window);
+  call.Files = {name, newName};
+  return Play(call);
+}
+
+Long SCC_CALL SccRunScc(void*, WindowHandle window, Long count, const char** names) {
+  ScriptedCall call = Called("SccRunScc", window);
+  if (names != nullptr) TakeFiles(call, count, names);
+  return Play(call);
+}
+
+Long SCC_CALL SccGetCommandOptions(void*, WindowHandle window, SCCCommand command, void** options) {
+  ScriptedCall call = Called("SccGetCommandOptions", window);
+  call.Command = command;
+  call.Options = options;
+  if (options != nullptr) *options = script.AdvancedBlock;
+  return Play(call, options == nullptr && script.Advanced.contains(command) ? SCC_I_ADV_SUPPORT : SCC_OK);
+}
+
+Long SCC_CALL SccGetEvents(void*, char* name, Long* status, Long* remaining) {
+  PutText(name, std::string(), SCC_LOCALPATH_SIZE + 1);
+  PutWord(status, 0);
+  PutWord(remaining, 0);
+  return Play(Called("SccGetEvents"));
+}
+
+Long SCC_CALL SccAddFromScc(void*, WindowHandle window, Long* count, const char*** names) {
+  PutWord(count, 0);
+  *names = nullptr;
+  return Play(Called("SccAddFromScc", window));
+}
