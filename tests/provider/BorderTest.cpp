@@ -1,0 +1,203 @@
+// What a provider may do wrong, and what is left of it on this side.
+#include <cstring>
+
+#include "provider/Fixture.h"
+
+namespace {
+
+using testing::Each;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+using testing::SizeIs;
+
+scc::Bool SCC_CALL Ignore(void*, scc::Bool, scc::Long, const char*) noexcept { return -1; }
+
+/// Every operation of a session, with what it returns after an exception of the provider.
+struct Operation {
+  const char* Entry;
+  std::function<scc::Long(TSCCProviderProject&, TStateMessages&)> Run;
+  scc::Long AfterException;
+};
+
+const TStringList kFiles = {"/p/a.pas"};
+
+const Operation kOperations[] = {
+    {"SccGetProjPath", [](auto& p, auto& m) { return p.GetProjectPath(m, true, true); }, -15},
+    {"SccOpenProject", [](auto& p, auto& m) { return p.OpenProject(m); }, 0},
+    {"SccCloseProject", [](auto& p, auto& m) { return p.CloseProject(m); }, false},
+    {"SccProperties", [](auto& p, auto& m) { return p.Properties("/p/a.pas", m), 0; }, 0},
+    {"SccGetEvents", [](auto& p, auto& m) { return p.GetEvents(m), 0; }, 0},
+    {"SccQueryInfo",
+     [](auto& p, auto& m) {
+       TStatusArray statuses;
+       return p.Query(kFiles, statuses, m);
+     },
+     false},
+    {"SccPopulateList",
+     [](auto& p, auto& m) {
+       TStatusArray statuses;
+       return p.PopulateList(scc::SCC_COMMAND_GET, kFiles, Ignore, statuses, m);
+     },
+     false},
+    {"SccCheckout", [](auto& p, auto& m) { return p.CheckOutFile(kFiles, "c", m); }, false},
+    {"SccAdd", [](auto& p, auto& m) { return p.AddFile(kFiles, "c", true, m); }, false},
+    {"SccCheckin", [](auto& p, auto& m) { return p.CheckInFile(kFiles, "c", true, m); }, false},
+    {"SccRemove", [](auto& p, auto& m) { return p.RemoveFile(kFiles, m); }, false},
+    {"SccUncheckout", [](auto& p, auto& m) { return p.UnCheckOutFile(kFiles, m); }, false},
+    {"SccGet", [](auto& p, auto& m) { return p.GetFile(kFiles, m); }, -15},
+    {"SccGet", [](auto& p, auto& m) { return p.GetFilesAndDirs(kFiles, m); }, -15},
+    {"SccDiff", [](auto& p, auto& m) { return p.ShowDiff("/p/a.pas", 0, m); }, -15},
+    {"SccDiff", [](auto& p, auto& m) { return p.SilentDiff("/p/a.pas", m); }, false},
+    {"SccHistory", [](auto& p, auto& m) { return p.ShowHistory("/p/a.pas", m); }, -15},
+    {"SccGetCommandOptions", [](auto& p, auto& m) { return p.GetCommandOptions(coGet, coQuery, m); }, false},
+    {"SccAddFromScc", [](auto& p, auto& m) { return p.AddFromScc(m), 0; }, 0},
+};
+
+using Border = SessionTest;
+
+TEST_F(Border, ExceptionsOfTheProviderBecomeTheErrorText) {
+  for (const Operation& operation : kOperations) {
+    SCOPED_TRACE(operation.Entry);
+    provider->Faults = {};
+    provider->Faults.ThrowException = {operation.Entry};
+    EXPECT_EQ(operation.Run(session(), messages), operation.AfterException);
+    EXPECT_THAT(messages, ElementsAre("", "", std::string("scripted failure in ") + operation.Entry));
+    provider->Faults = {};
+    provider->Faults.ThrowInt = {operation.Entry};
+    EXPECT_EQ(operation.Run(session(), messages), operation.AfterException);
+    EXPECT_THAT(messages,
+                ElementsAre("", "", "The source code control provider failed for an unknown reason"));
+  }
+  EXPECT_THAT(sink.Boxes, IsEmpty());
+}
+
+TEST_F(Border, ExceptionsWithoutATextToFillAreLogged) {
+  list.reset();
+  provider->Faults.ThrowException = {"SccInitialize", "SccSetOption", "SccGetVersion", "SccRunScc",
+                                     "SccUninitialize"};
+  list = std::make_unique<TSCCProviderList>(provider.Path(), 0, "ann");
+  list->Add("/p");
+  EXPECT_EQ(session().GetVersion(), "");
+  EXPECT_EQ(session().RunSCC(), -15);
+  list.reset();
+  std::vector<std::string> expected;
+  for (const char* entry : {"SccInitialize", "SccSetOption", "SccSetOption", "SccSetOption", "SccGetVersion",
+                            "SccRunScc", "SccUninitialize"})
+    expected.push_back(std::string(entry) + "; scripted failure in " + entry);
+  EXPECT_EQ(sink.Of(Kind::Error), expected);
+}
+
+TEST_F(Border, AHalfWrittenAnswerOfAFailedCallIsDropped) {
+  session().set_ProjName("$/mine");
+  provider->OpenProject.ProjName = "$/half";
+  provider->Faults.ThrowInt = {"SccOpenProject"};
+  session().OpenProject(messages);
+  EXPECT_EQ(session().get_ProjName(), "$/mine");
+}
+
+TEST_F(Border, MissingEntryPointsAreNotSupported) {
+  list.reset();
+  list = std::make_unique<TSCCProviderList>(PARTIAL_LIBRARY_PATH, 0, "ann");
+  list->Add("/p");
+  EXPECT_EQ(list->Capabilities(), TProviderCapabilities().set(pcSccRemove));
+  for (const Operation& operation : kOperations) {
+    if (operation.Entry == std::string("SccGet")) continue;  // the one that it has
+    SCOPED_TRACE(operation.Entry);
+    messages = {};
+    operation.Run(session(), messages);
+    EXPECT_THAT(messages,
+                ElementsAre("", "", "The source code control system does not support this operation"));
+  }
+  EXPECT_EQ(session().RunSCC(), scc::SCC_E_OPNOTSUPPORTED);
+  EXPECT_EQ(session().GetFile(kFiles, messages), 0);
+}
+
+TEST_F(Border, AnOverrunIsReportedByTheLibrarysNameWhenTheProviderHasNone) {
+  list.reset();
+  sink.Lines.clear();
+  list = std::make_unique<TSCCProviderList>(PARTIAL_LIBRARY_PATH, 0, "ann");
+  EXPECT_THAT(
+      sink.Of(Kind::Warning),
+      ElementsAre(
+          "The provider \"partial_library.so\" wrote past the end of a buffer (SccInitialize). Nothing "
+          "was damaged, but its answer may be wrong."));
+}
+
+TEST_F(Border, TextsWithoutTerminatorEndAtTheFieldsSize) {
+  provider->Faults.Unterminated = true;
+  session().GetProjectPath(messages, true, true);
+  EXPECT_EQ(session().get_UserName(), std::string(32, 'u'));
+  EXPECT_EQ(session().get_LocalPath(), std::string(260, 'u'));
+  EXPECT_EQ(session().get_ProjPath(), std::string(301, 'u'));
+  EXPECT_EQ(session().get_ProjName(), std::string(261, 'u'));
+  session().OpenProject(messages);
+  EXPECT_EQ(provider->Last("SccOpenProject").AuxPath, std::string(301, 'u')) << "what it gave, it gets back";
+}
+
+TEST_F(Border, ATextLongerThanItsFieldIsCutAndSaidSo) {
+  provider->Faults.LongProjName = true;
+  EXPECT_EQ(session().OpenProject(messages), 0);
+  EXPECT_EQ(session().get_ProjName(), std::string(261, 'n'));
+  EXPECT_EQ(session().get_ProjPath(), "");
+  EXPECT_THAT(sink.Of(Kind::Warning),
+              ElementsAre("The provider \"Scripted provider\" gave a text that is too long "
+                          "(SccOpenProject): it was cut to 261 bytes."));
+}
+
+TEST_F(Border, WritingFarBehindABufferIsCaughtByTheGuard) {
+  provider->Faults.WriteFarBehind = true;
+  session().GetEvents(messages);
+  EXPECT_THAT(sink.Of(Kind::Warning), ElementsAre(HasSubstr("\"Scripted provider\" wrote past the end")));
+  sink.Lines.clear();
+  session().GetProjectPath(messages, true, true);
+  EXPECT_EQ(session().get_UserName(), std::string(33, 'o'));
+  EXPECT_THAT(sink.Of(Kind::Warning), SizeIs(8)) << "four texts, each overrun and cut";
+}
+
+TEST_F(Border, WritingBehindTheStatusesIsCaughtOnceEach) {
+  TStatusArray statuses;
+  provider->Faults.WriteBehindStatuses = true;
+  EXPECT_TRUE(session().Query(kFiles, statuses, messages));
+  EXPECT_TRUE(session().PopulateList(scc::SCC_COMMAND_GET, kFiles, Ignore, statuses, messages));
+  EXPECT_THAT(sink.Of(Kind::Warning),
+              ElementsAre(HasSubstr("(SccQueryInfo)"), HasSubstr("(SccPopulateList)")));
+  sink.Lines.clear();
+  provider->Faults = {};
+  session().Query(kFiles, statuses, messages);
+  EXPECT_THAT(sink.Lines, IsEmpty());
+}
+
+TEST_F(Border, WordsWrittenTwiceTooWideDoNoHarm) {
+  list.reset();
+  provider->Faults.WideWords = true;
+  provider->Capabilities = 0x40000001;
+  list = std::make_unique<TSCCProviderList>(provider.Path(), 0, "ann");
+  list->Add("/p");
+  EXPECT_EQ(list->Capabilities().count(), 2u);
+  provider->IsNew = true;
+  EXPECT_EQ(session().GetProjectPath(messages, false, true), 0);
+  EXPECT_EQ(messages[0], "A new project was created");
+  session().GetEvents(messages);
+  session().AddFromScc(messages);
+  EXPECT_THAT(sink.Boxes, SizeIs(1));
+}
+
+TEST_F(Border, AProviderMayFloodTheListCallback) {
+  static int calls;
+  calls = 0;
+  provider->Faults.FloodList = true;
+  TStatusArray statuses;
+  const auto count = [](void*, scc::Bool, scc::Long, const char*) -> scc::Bool { return ++calls, 0; };
+  EXPECT_TRUE(session().PopulateList(scc::SCC_COMMAND_GET, kFiles, count, statuses, messages));
+  EXPECT_EQ(calls, 100'000);
+}
+
+TEST_F(Border, ArbitraryCodesComeBackAsTheyAre) {
+  provider->Results["SccGet"] = -77;
+  EXPECT_EQ(session().GetFile(kFiles, messages), -77);
+  EXPECT_EQ(messages[2], "Undefined error or warning");
+}
+
+}  // namespace

@@ -1,0 +1,59 @@
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+
+#include "host/Registry.h"
+#include "provider/sccapiintf.h"
+
+namespace {
+
+/// A registry of its own in a fresh folder.
+struct Discovery : testing::Test {
+  Discovery() {
+    std::string folder = (std::filesystem::temp_directory_path() / "discovery-XXXXXX").string();
+    folder_ = mkdtemp(folder.data());
+    setenv("CORVANE_REGISTRY_DIR", folder_.c_str(), 1);
+  }
+  ~Discovery() override {
+    unsetenv("CORVANE_REGISTRY_DIR");
+    std::filesystem::remove_all(folder_);
+  }
+
+  static void Write(const std::string& key, const std::string& name, const std::string& value) {
+    TRegistry registry;
+    registry.OpenKey(key);
+    registry.WriteString(name, value);
+  }
+  static std::pair<std::string, std::string> Default() {
+    std::string name = "old", path = "old";
+    GetDefaultProvider(name, path);
+    return {name, path};
+  }
+
+  std::filesystem::path folder_;
+};
+
+using Pair = std::pair<std::string, std::string>;
+
+TEST_F(Discovery, SomethingIsInstalledWhenTheKeyHoldsAValue) {
+  EXPECT_FALSE(SCCProviderInstalled());
+  Write(kInstalledProvidersKey, "Example", "Software\\Example");
+  EXPECT_TRUE(SCCProviderInstalled());
+  TRegistry registry;
+  registry.OpenKey(kInstalledProvidersKey);
+  registry.DeleteValue("Example");
+  EXPECT_FALSE(SCCProviderInstalled());
+}
+
+TEST_F(Discovery, TheDefaultProviderIsWhatItsKeySays) {
+  EXPECT_EQ(Default(), Pair("", ""));
+  Write(kProviderKey, kProviderRegKey, "Software\\Example");
+  EXPECT_EQ(Default(), Pair("", "")) << "the provider's own key is missing";
+  Write("Software\\Example", kServerName, "Example");
+  EXPECT_EQ(Default(), Pair("Example", ""));
+  Write("Software\\Example", "SCCServerPath", "/opt/example.so");
+  EXPECT_EQ(Default(), Pair("Example", "/opt/example.so"));
+}
+
+}  // namespace

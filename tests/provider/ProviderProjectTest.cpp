@@ -1,0 +1,111 @@
+#include "provider/Fixture.h"
+
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::StartsWith;
+
+using ProviderProject = SessionTest;
+
+TEST_F(ProviderProject, ChoosingAProjectBringsBackWhatTheProviderWrote) {
+  session().set_ProjName("$/old");
+  session().set_ProjPath("aux");
+  provider->GetProjPath = {"bob", "$/new", "/elsewhere", "other aux"};
+  provider->IsNew = true;
+
+  EXPECT_EQ(session().GetProjectPath(messages, true, false), 0);
+  EXPECT_THAT(messages, ElementsAre("A new project was created", "", ""));
+  const ScriptedCall& call = provider->Last("SccGetProjPath");
+  EXPECT_EQ(call.User, "ann");
+  EXPECT_EQ(call.ProjName, "$/old");
+  EXPECT_EQ(call.LocalPath, "/p");
+  EXPECT_EQ(call.AuxPath, "aux");
+  EXPECT_TRUE(call.IsNew);
+  EXPECT_FALSE(call.Allowed);
+  EXPECT_EQ(call.Window, reinterpret_cast<void*>(77));
+  EXPECT_EQ(session().get_UserName(), "bob");
+  EXPECT_EQ(session().get_ProjName(), "$/new");
+  EXPECT_EQ(session().get_LocalPath(), "/elsewhere");
+  EXPECT_EQ(session().get_ProjPath(), "other aux");
+
+  provider->IsNew = false;
+  EXPECT_EQ(session().GetProjectPath(messages, true, true), 0);
+  EXPECT_EQ(messages[0], "An existing project was selected");
+  EXPECT_TRUE(provider->Last("SccGetProjPath").Allowed);
+
+  provider->Results["SccGetProjPath"] = scc::SCC_I_OPERATIONCANCELED;
+  EXPECT_EQ(session().GetProjectPath(messages, true, true), 2);
+  EXPECT_THAT(messages, ElementsAre("", "Operation was cancelled", ""));
+}
+
+TEST_F(ProviderProject, OpensWithACommentAndTheTextCallback) {
+  provider->OpenProject.AuxPath = "rewritten";
+  provider->Texts["SccOpenProject"] = {{scc::SCC_MSG_INFO, "welcome"}};
+  EXPECT_EQ(session().OpenProject(messages), 0);
+  const ScriptedCall& call = provider->Last("SccOpenProject");
+  EXPECT_THAT(call.Comment, StartsWith("Project Comment; Date: "));
+  EXPECT_GT(call.Comment.size(), 30u) << "no date in it";
+  EXPECT_EQ(call.Flags, scc::SCC_OP_CREATEIFNEW);
+  EXPECT_EQ(call.LocalPath, "/p");
+  EXPECT_EQ(session().get_ProjPath(), "rewritten");
+  EXPECT_THAT(sink.Of(Kind::Info), ElementsAre("welcome"));
+
+  EXPECT_EQ(session().OpenProject(messages), scc::SCC_E_PROJECTALREADYOPEN);
+  EXPECT_THAT(messages, ElementsAre("", "", "Project already open"));
+  EXPECT_TRUE(session().CloseProject(messages));
+  EXPECT_FALSE(session().CloseProject(messages));
+  EXPECT_EQ(messages[2], "No project is currently open");
+
+  EXPECT_EQ(session().OpenProject(messages, "/other"), 0);
+  EXPECT_EQ(provider->Last("SccOpenProject").LocalPath, "/other");
+  EXPECT_EQ(session().get_LocalPath(), "/p");
+}
+
+TEST_F(ProviderProject, TextsOfTheProviderMayBeNullUnknownOrLate) {
+  provider->Texts["SccGet"] = {
+      {scc::SCC_MSG_INFO, {}}, {scc::SCC_MSG_DOCANCEL, {}}, {99, "?"}, {2, "careful"}};
+  provider->Faults.LateText = true;
+  session().OpenProject(messages);
+  session().GetFile({"/p/a"}, messages);
+  EXPECT_THAT(sink.Of(Kind::Warning), ElementsAre("careful"));
+  EXPECT_TRUE(session().CloseProject(messages));
+  list.reset();
+  EXPECT_THAT(sink.Of(Kind::Info), ElementsAre("late", "late"));
+  EXPECT_THAT(sink.Of(Kind::Error), IsEmpty());
+}
+
+TEST_F(ProviderProject, VersionIsMajorDotMinor) {
+  provider->Version = 0x00010002;
+  EXPECT_EQ(session().GetVersion(), "1.2");
+  provider->Results["SccGetVersion"] = scc::SCC_E_OPNOTSUPPORTED;
+  EXPECT_EQ(session().GetVersion(), "");
+}
+
+TEST_F(ProviderProject, SmallCallsReachTheProvider) {
+  session().Properties("/p/unit 1.pas", messages);
+  EXPECT_THAT(provider->Last("SccProperties").Files, ElementsAre("/p/unit 1.pas"));
+  EXPECT_THAT(messages, ElementsAre("", "", ""));
+
+  provider->Results["SccGetEvents"] = scc::SCC_E_NONSPECIFICERROR;
+  session().GetEvents(messages);
+  EXPECT_EQ(messages[2], "Non-specific failure, no action was taken");
+
+  provider->Results["SccRunScc"] = scc::SCC_E_SHELLFAILURE;
+  EXPECT_EQ(session().RunSCC(), -20);
+  EXPECT_THAT(provider->Last("SccRunScc").Files, IsEmpty());
+}
+
+TEST_F(ProviderProject, IdentityTextsAreCutAtTheirBuffers) {
+  session().set_ProjPath(std::string(299, 'x') + "\u00fc" + "tail");
+  EXPECT_EQ(session().get_ProjPath(), std::string(299, 'x')) << "half a character is none";
+  session().set_ProjName(std::string(400, 'x'));
+  EXPECT_EQ(session().get_ProjName().size(), 260u);
+  session().set_UserName(std::string("ann\0bob", 7));
+  EXPECT_EQ(session().get_UserName(), "ann");
+  session().set_LocalPath(std::string(400, 'x'));
+  session().OpenProject(messages, std::string(400, 'y'));
+  EXPECT_EQ(provider->Last("SccOpenProject").LocalPath, std::string(260, 'y'));
+}
+
+}  // namespace

@@ -1,0 +1,96 @@
+#include <limits>
+
+#include "provider/Fixture.h"
+
+namespace {
+
+using testing::ElementsAre;
+using testing::SizeIs;
+
+TStateMessages Decoded(scc::Long code) {
+  TStateMessages messages{"old", "old", "old"};
+  DecodeReturnCode(code, messages);
+  return messages;
+}
+
+TEST(ReturnCode, FillsExactlyTheElementOfItsKind) {
+  for (scc::Long code = -40; code <= 40; ++code) {
+    SCOPED_TRACE(code);
+    const bool informational = code >= 1 && code <= 7;
+    const TStateMessages messages = Decoded(code);
+    EXPECT_EQ(messages[0], "");
+    EXPECT_EQ(messages[1].empty(), !informational);
+    EXPECT_EQ(messages[2].empty(), informational || code == 0);
+  }
+}
+
+TEST(ReturnCode, UnlistedOnesAreErrors) {
+  const auto extremes = std::numeric_limits<scc::Long>();
+  for (scc::Long code : {8, 100, -30, extremes.min(), extremes.max()})
+    EXPECT_EQ(Decoded(code)[2], "Undefined error or warning") << code;
+}
+
+TEST(ReturnCode, TheRowsStandAtTheirNumbers) {
+  EXPECT_EQ(Decoded(-29)[2], "Connection failure");
+  EXPECT_EQ(Decoded(-14)[2], "The source code control system does not support this operation");
+  EXPECT_EQ(Decoded(-1)[2], "Project could not be initialized");
+  EXPECT_EQ(Decoded(2)[1], "Operation was cancelled");
+  EXPECT_EQ(Decoded(4), Decoded(5)) << "'not affected' speaks of reloading as well";
+  EXPECT_EQ(Decoded(7)[1], "Share subproject ok");
+}
+
+TEST(QueryStatus, WritesALinePerBit) {
+  RecordingSink sink;
+  DecodeQueryStatus("/src/unit1.pas", 0x1003);
+  EXPECT_THAT(sink.Of(Kind::Info),
+              ElementsAre("[unit1.pas]: Under source code control", "[unit1.pas]: Checked out by you",
+                          "[unit1.pas]: Checked out to current user"));
+
+  sink.Lines.clear();
+  DecodeQueryStatus("/src/100%s.pas", 0);
+  EXPECT_THAT(sink.Of(Kind::Info), ElementsAre("[100%s.pas]: Not under source code control"));
+
+  sink.Lines.clear();
+  DecodeQueryStatus("/src/unit1.pas", -1);
+  EXPECT_THAT(sink.Lines, SizeIs(14)) << "its own line and all thirteen bits";
+  EXPECT_EQ(sink.Lines.front().second, "[unit1.pas]: No status information available");
+}
+
+TEST(QueryStatus, MapsToFlags) {
+  struct {
+    scc::Long Status;
+    TQueryStatus Flags;
+  } const rows[] = {
+      {0, TQueryStatus().set(qsNotControlled)},
+      {-1, TQueryStatus().set().reset(qsNotControlled)},
+      {0x0001, TQueryStatus().set(qsControlled)},
+      {0x1840,
+       TQueryStatus().set(qsDeletedFromProject).set(qsHasBeenModified).set(qsCheckedOutToCurrentUser)},
+      {0x6000, TQueryStatus()},  // bits of later versions
+  };
+  for (const auto& row : rows) EXPECT_EQ(ToQueryStatus(row.Status), row.Flags) << row.Status;
+}
+
+TEST(TextOut, WritesKnownKindsAndIgnoresTheRest) {
+  RecordingSink sink;
+  const struct {
+    const char* Text;
+    scc::Dword Kind;
+  } calls[] = {{"a", 1},      {"b\r\n", 2}, {"", 3},     {nullptr, 1},
+               {"status", 4}, {nullptr, 5}, {"zero", 0}, {"far", 0xFFFFFFFF}};
+  for (const auto& call : calls) EXPECT_EQ(TextOutProc(call.Text, call.Kind), 0);
+  using Line = std::pair<Kind, std::string>;
+  EXPECT_THAT(sink.Lines,
+              ElementsAre(Line{Kind::Info, "a"}, Line{Kind::Warning, "b"}, Line{Kind::Error, ""}));
+}
+
+TEST(TextOut, SurvivesAMissingAndAFailingSink) {
+  struct FailingSink : RecordingSink {
+    void Line(Kind, const std::string&) override { throw std::runtime_error("the window is gone"); }
+  };
+  EXPECT_EQ(TextOutProc("nobody listens", 1), 0);
+  FailingSink sink;
+  EXPECT_EQ(TextOutProc("somebody fails", 1), 0);
+}
+
+}  // namespace
