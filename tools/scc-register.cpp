@@ -120,8 +120,6 @@ void Remove(const TCommandLine& line) {
   const auto key = InstalledKeyOf(name);
   const bool wasDefault = IsDefault(key);
   DeleteValue(kInstalledProvidersKey, name);
-  if (!KeyOf(name).empty()) throw EFailure(Format(sInstalledForAll, {name}));
-  if (wasDefault) DeleteValue(kProviderKey, kProviderRegKey);
   if (SameText(key, OwnKey(name))) {
     TRegistry().DeleteKey(key);
   } else {
@@ -129,6 +127,8 @@ void Remove(const TCommandLine& line) {
     DeleteValue(key, kServerName);
     DeleteValue(key, kServerPath);
   }
+  if (!KeyOf(name).empty()) throw EFailure(Format(sInstalledForAll, {name}));
+  if (wasDefault) DeleteValue(kProviderKey, kProviderRegKey);
   std::cout << Format(sRemoved, {name});
   if (wasDefault && !InstalledProviders().empty()) std::cout << sNoDefault.str();
 }
