@@ -47,10 +47,10 @@ class TScratchText {
   std::vector<char> bytes_;
 };
 
-/// A word that a provider fills.  Providers built where `long` has 64 bits write eight bytes: the spare words take them.
+/// A word that a provider fills.  Providers built where `long` has 64 bits write eight bytes: the spare word takes them.
 struct TOutWord {
   alignas(std::int64_t) scc::Long Value = 0;
-  scc::Long Spare[3] = {};
+  scc::Long Spare = 0;
 };
 
 /// The file names of one call as the API wants them: an array of pointers to copies, a null pointer behind the last.

@@ -1,15 +1,11 @@
 // What a provider may do wrong, and what is left of it on this side.
-#include <cstring>
-
 #include "provider/Fixture.h"
 
 namespace {
 
-using testing::Each;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
-using testing::Not;
 using testing::SizeIs;
 
 scc::Bool SCC_CALL Ignore(void*, scc::Bool, scc::Long, const char*) noexcept { return -1; }
@@ -156,7 +152,7 @@ TEST_F(Border, WritingFarBehindABufferIsCaughtByTheGuard) {
   EXPECT_THAT(sink.Of(Kind::Warning), SizeIs(8)) << "four texts, each overrun and cut";
 }
 
-TEST_F(Border, WritingBehindTheStatusesIsCaughtOnceEach) {
+TEST_F(Border, WritingBehindTheStatusesIsReportedByTheCallThatDidIt) {
   TStatusArray statuses;
   provider->Faults.WriteBehindStatuses = true;
   EXPECT_TRUE(session().Query(kFiles, statuses, messages));
@@ -192,6 +188,16 @@ TEST_F(Border, AProviderMayFloodTheListCallback) {
   const auto count = [](void*, scc::Bool, scc::Long, const char*) -> scc::Bool { return ++calls, 0; };
   EXPECT_TRUE(session().PopulateList(scc::SCC_COMMAND_GET, kFiles, count, statuses, messages));
   EXPECT_EQ(calls, 100'000);
+}
+
+TEST_F(Border, ACallInProgressIsKnownUntilItEndsHoweverItEnds) {
+  bool inside = false;
+  provider->OnCall["SccGet"] = [&](const ScriptedCall&) { inside = ProviderCallInProgress(); };
+  session().GetFile(kFiles, messages);
+  EXPECT_TRUE(inside);
+  provider->Faults.ThrowInt = {"SccGet"};
+  session().GetFile(kFiles, messages);
+  EXPECT_FALSE(ProviderCallInProgress());
 }
 
 TEST_F(Border, ArbitraryCodesComeBackAsTheyAre) {

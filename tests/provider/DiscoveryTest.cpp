@@ -1,25 +1,14 @@
 #include <gtest/gtest.h>
 
-#include <cstdlib>
-#include <filesystem>
-
 #include "host/Registry.h"
 #include "provider/sccapiintf.h"
+#include "support/Environment.h"
+#include "support/TemporaryFolder.h"
 
 namespace {
 
 /// A registry of its own in a fresh folder.
 struct Discovery : testing::Test {
-  Discovery() {
-    std::string folder = (std::filesystem::temp_directory_path() / "discovery-XXXXXX").string();
-    folder_ = mkdtemp(folder.data());
-    setenv("CORVANE_REGISTRY_DIR", folder_.c_str(), 1);
-  }
-  ~Discovery() override {
-    unsetenv("CORVANE_REGISTRY_DIR");
-    std::filesystem::remove_all(folder_);
-  }
-
   static void Write(const std::string& key, const std::string& name, const std::string& value) {
     TRegistry registry;
     registry.OpenKey(key);
@@ -31,7 +20,8 @@ struct Discovery : testing::Test {
     return {name, path};
   }
 
-  std::filesystem::path folder_;
+  TTemporaryFolder folder;
+  TEnvironmentVariable redirection{"CORVANE_REGISTRY_DIR", folder.Path().c_str()};
 };
 
 using Pair = std::pair<std::string, std::string>;
