@@ -4,8 +4,9 @@
 //   Subversion=Software\Subversion\SCC
 //
 // What INI text cannot hold is written so that the rest stays as a person would type it: a text that begins or ends
-// with a blank or is quoted itself stands in double quotes; control characters, and in names '=' and ']', stand as %XX
-// (two hexadecimal digits), and a percent sign that would read as such an escape stands as %25.
+// with a blank or is quoted itself, and a name that is empty or begins like a comment or a section, stands in double
+// quotes; control characters, and in names '=' and ']', stand as %XX (two upper-case hexadecimal digits), and a percent
+// sign that would read as such an escape stands as %25.
 #pragma once
 
 #include <functional>
