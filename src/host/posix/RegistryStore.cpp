@@ -10,12 +10,7 @@
 #include <string_view>
 #include <system_error>
 
-// The store's text is UTF-8 and stays UTF-8.
-#define SI_NO_CONVERSION
-// Debian's header holds the code of the templates only for who asks for it.
-#define SI_IMPLEMENTATION
-#include <SimpleIni.h>
-
+#include "host/Ini.h"
 #include "host/Paths.h"
 #include "host/System.h"
 #include "host/Text.h"
