@@ -1,4 +1,5 @@
 // What a provider may do wrong, and what is left of it on this side.
+#include "host/Paths.h"
 #include "provider/Fixture.h"
 
 namespace {
@@ -116,9 +117,9 @@ TEST_F(Border, AnOverrunIsReportedByTheLibrarysNameWhenTheProviderHasNone) {
   list = std::make_unique<TSCCProviderList>(PARTIAL_LIBRARY_PATH, 0, "ann");
   EXPECT_THAT(
       sink.Of(Kind::Warning),
-      ElementsAre(
-          "The provider \"partial_library.so\" wrote past the end of a buffer (SccInitialize). Nothing "
-          "was damaged, but its answer may be wrong."));
+      ElementsAre("The provider \"" + ExtractFileName(PARTIAL_LIBRARY_PATH) +
+                  "\" wrote past the end of a buffer (SccInitialize). Nothing was damaged, but its answer "
+                  "may be wrong."));
 }
 
 TEST_F(Border, TextsWithoutTerminatorEndAtTheFieldsSize) {

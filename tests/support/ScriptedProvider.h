@@ -37,6 +37,7 @@ struct ScriptedCall {
   bool Terminated = true;         ///< the name array had a null entry behind its last
   const void* Options = nullptr;  ///< the command-options argument
   scc::WindowHandle Window = nullptr;
+  const void* Context = nullptr;  ///< a call with another than SccInitialize gave answers -15
 };
 
 /// What an in/out call writes back; what is not set stays as it came.

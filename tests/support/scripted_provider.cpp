@@ -47,20 +47,22 @@ Long Play(const ScriptedCall& call, Long result = SCC_OK) {
   if (script.Faults.ThrowException.contains(call.Entry))
     throw std::runtime_error("scripted failure in " + call.Entry);
   if (script.Faults.ThrowInt.contains(call.Entry)) throw 42;
+  if (call.Context != &script) return SCC_E_NONSPECIFICERROR;
   const auto scripted = script.Results.find(call.Entry);
   return scripted != script.Results.end() ? scripted->second : result;
 }
 
-ScriptedCall Called(const char* entry, WindowHandle window = nullptr) {
+ScriptedCall Called(const char* entry, const void* context, WindowHandle window = nullptr) {
   ScriptedCall call;
   call.Entry = entry;
+  call.Context = context;
   call.Window = window;
   return call;
 }
 
-Long PlayFiles(const char* entry, WindowHandle window, Long count, const char** names, const char* comment,
-               Long flags, const void* options) {
-  ScriptedCall call = Called(entry, window);
+Long PlayFiles(const char* entry, const void* context, WindowHandle window, Long count, const char** names,
+               const char* comment, Long flags, const void* options) {
+  ScriptedCall call = Called(entry, context, window);
   TakeFiles(call, count, names);
   call.Comment = Text(comment);
   call.Flags = flags;
@@ -119,7 +121,7 @@ ScriptedProvider* ScriptedProviderControl() { return &script; }
 Long SCC_CALL SccInitialize(void** context, WindowHandle window, const char* caller, char* sccName,
                             Long* capabilities, char* auxPathLabel, Long* checkOutCommentLength,
                             Long* commentLength) {
-  ScriptedCall call = Called("SccInitialize", window);
+  ScriptedCall call = Called("SccInitialize", &script, window);
   call.User = Text(caller);
   *context = &script;
   PutText(sccName, script.Name, SCC_NAME_SIZE);
@@ -132,24 +134,24 @@ Long SCC_CALL SccInitialize(void** context, WindowHandle window, const char* cal
   return result;
 }
 
-Long SCC_CALL SccUninitialize(void*) {
+Long SCC_CALL SccUninitialize(void* context) {
   WriteLate();
   script.Initialized = false;
-  return Play(Called("SccUninitialize"));
+  return Play(Called("SccUninitialize", context));
 }
 
-Long SCC_CALL SccGetVersion() { return Play(Called("SccGetVersion"), script.Version); }
+Long SCC_CALL SccGetVersion() { return Play(Called("SccGetVersion", &script), script.Version); }
 
-Long SCC_CALL SccSetOption(void*, Long option, Long value) {
-  ScriptedCall call = Called("SccSetOption");
+Long SCC_CALL SccSetOption(void* context, Long option, Long value) {
+  ScriptedCall call = Called("SccSetOption", context);
   call.Command = option;
   call.Flags = value;
   return Play(call, option == SCC_OPT_SHARESUBPROJ ? SCC_I_SHARESUBPROJOK : SCC_OK);
 }
 
-Long SCC_CALL SccGetProjPath(void*, WindowHandle window, char* user, char* projectName, char* localPath,
-                             char* auxPath, Bool allowChangePath, Bool* isNew) {
-  ScriptedCall call = Called("SccGetProjPath", window);
+Long SCC_CALL SccGetProjPath(void* context, WindowHandle window, char* user, char* projectName,
+                             char* localPath, char* auxPath, Bool allowChangePath, Bool* isNew) {
+  ScriptedCall call = Called("SccGetProjPath", context, window);
   call.User = user;
   call.ProjName = projectName;
   call.LocalPath = localPath;
@@ -162,9 +164,10 @@ Long SCC_CALL SccGetProjPath(void*, WindowHandle window, char* user, char* proje
   return Play(call);
 }
 
-Long SCC_CALL SccOpenProject(void*, WindowHandle window, char* user, char* projectName, const char* localPath,
-                             char* auxPath, const char* comment, TTextOutProc textOut, Long flags) {
-  ScriptedCall call = Called("SccOpenProject", window);
+Long SCC_CALL SccOpenProject(void* context, WindowHandle window, char* user, char* projectName,
+                             const char* localPath, char* auxPath, const char* comment, TTextOutProc textOut,
+                             Long flags) {
+  ScriptedCall call = Called("SccOpenProject", context, window);
   call.User = user;
   call.ProjName = projectName;
   call.LocalPath = localPath;
@@ -179,23 +182,23 @@ Long SCC_CALL SccOpenProject(void*, WindowHandle window, char* user, char* proje
   return result;
 }
 
-Long SCC_CALL SccCloseProject(void*) {
-  const Long result = Play(Called("SccCloseProject"), script.Open ? SCC_OK : SCC_E_PROJNOTOPEN);
+Long SCC_CALL SccCloseProject(void* context) {
+  const Long result = Play(Called("SccCloseProject", context), script.Open ? SCC_OK : SCC_E_PROJNOTOPEN);
   script.Open = false;
   WriteLate();
   return result;
 }
 
-Long SCC_CALL SccQueryInfo(void*, Long count, const char** names, Long* statuses) {
-  ScriptedCall call = Called("SccQueryInfo");
+Long SCC_CALL SccQueryInfo(void* context, Long count, const char** names, Long* statuses) {
+  ScriptedCall call = Called("SccQueryInfo", context);
   TakeFiles(call, count, names);
   PutStatuses(count, names, statuses);
   return Play(call);
 }
 
-Long SCC_CALL SccPopulateList(void*, SCCCommand command, Long count, const char** names,
+Long SCC_CALL SccPopulateList(void* context, SCCCommand command, Long count, const char** names,
                               TPopListFunc populate, void* callerData, Long* statuses, Long flags) {
-  ScriptedCall call = Called("SccPopulateList");
+  ScriptedCall call = Called("SccPopulateList", context);
   TakeFiles(call, count, names);
   call.Command = command;
   call.Flags = flags;
@@ -204,38 +207,39 @@ Long SCC_CALL SccPopulateList(void*, SCCCommand command, Long count, const char*
   return Play(call);
 }
 
-Long SCC_CALL SccCheckout(void*, WindowHandle window, Long count, const char** names, const char* comment,
-                          Long flags, void* options) {
-  return PlayFiles("SccCheckout", window, count, names, comment, flags, options);
+Long SCC_CALL SccCheckout(void* context, WindowHandle window, Long count, const char** names,
+                          const char* comment, Long flags, void* options) {
+  return PlayFiles("SccCheckout", context, window, count, names, comment, flags, options);
 }
 
-Long SCC_CALL SccCheckin(void*, WindowHandle window, Long count, const char** names, const char* comment,
-                         Long flags, void* options) {
-  return PlayFiles("SccCheckin", window, count, names, comment, flags, options);
+Long SCC_CALL SccCheckin(void* context, WindowHandle window, Long count, const char** names,
+                         const char* comment, Long flags, void* options) {
+  return PlayFiles("SccCheckin", context, window, count, names, comment, flags, options);
 }
 
-Long SCC_CALL SccRemove(void*, WindowHandle window, Long count, const char** names, const char* comment,
-                        Long flags, void* options) {
-  return PlayFiles("SccRemove", window, count, names, comment, flags, options);
+Long SCC_CALL SccRemove(void* context, WindowHandle window, Long count, const char** names,
+                        const char* comment, Long flags, void* options) {
+  return PlayFiles("SccRemove", context, window, count, names, comment, flags, options);
 }
 
-Long SCC_CALL SccGet(void*, WindowHandle window, Long count, const char** names, Long flags, void* options) {
-  return PlayFiles("SccGet", window, count, names, nullptr, flags, options);
+Long SCC_CALL SccGet(void* context, WindowHandle window, Long count, const char** names, Long flags,
+                     void* options) {
+  return PlayFiles("SccGet", context, window, count, names, nullptr, flags, options);
 }
 
-Long SCC_CALL SccUncheckout(void*, WindowHandle window, Long count, const char** names, Long flags,
+Long SCC_CALL SccUncheckout(void* context, WindowHandle window, Long count, const char** names, Long flags,
                             void* options) {
-  return PlayFiles("SccUncheckout", window, count, names, nullptr, flags, options);
+  return PlayFiles("SccUncheckout", context, window, count, names, nullptr, flags, options);
 }
 
-Long SCC_CALL SccHistory(void*, WindowHandle window, Long count, const char** names, Long flags,
+Long SCC_CALL SccHistory(void* context, WindowHandle window, Long count, const char** names, Long flags,
                          void* options) {
-  return PlayFiles("SccHistory", window, count, names, nullptr, flags, options);
+  return PlayFiles("SccHistory", context, window, count, names, nullptr, flags, options);
 }
 
-Long SCC_CALL SccAdd(void*, WindowHandle window, Long count, const char** names, const char* comment,
+Long SCC_CALL SccAdd(void* context, WindowHandle window, Long count, const char** names, const char* comment,
                      Long* flags, void* options) {
-  ScriptedCall call = Called("SccAdd", window);
+  ScriptedCall call = Called("SccAdd", context, window);
   TakeFiles(call, count, names);
   call.Comment = Text(comment);
   call.Flags = *flags;
@@ -244,49 +248,49 @@ Long SCC_CALL SccAdd(void*, WindowHandle window, Long count, const char** names,
   return Play(call);
 }
 
-Long SCC_CALL SccDiff(void*, WindowHandle window, const char* name, Long flags, void* options) {
-  ScriptedCall call = Called("SccDiff", window);
+Long SCC_CALL SccDiff(void* context, WindowHandle window, const char* name, Long flags, void* options) {
+  ScriptedCall call = Called("SccDiff", context, window);
   call.Files = {name};
   call.Flags = flags;
   call.Options = options;
   return Play(call, script.Differing.contains(name) ? SCC_I_FILEDIFFERS : SCC_OK);
 }
 
-Long SCC_CALL SccProperties(void*, WindowHandle window, const char* name) {
-  ScriptedCall call = Called("SccProperties", window);
+Long SCC_CALL SccProperties(void* context, WindowHandle window, const char* name) {
+  ScriptedCall call = Called("SccProperties", context, window);
   call.Files = {name};
   return Play(call);
 }
 
-Long SCC_CALL SccRename(void*, WindowHandle window, const char* name, const char* newName) {
-  ScriptedCall call = Called("SccRename", window);
+Long SCC_CALL SccRename(void* context, WindowHandle window, const char* name, const char* newName) {
+  ScriptedCall call = Called("SccRename", context, window);
   call.Files = {name, newName};
   return Play(call);
 }
 
-Long SCC_CALL SccRunScc(void*, WindowHandle window, Long count, const char** names) {
-  ScriptedCall call = Called("SccRunScc", window);
+Long SCC_CALL SccRunScc(void* context, WindowHandle window, Long count, const char** names) {
+  ScriptedCall call = Called("SccRunScc", context, window);
   if (names != nullptr) TakeFiles(call, count, names);
   return Play(call);
 }
 
-Long SCC_CALL SccGetCommandOptions(void*, WindowHandle window, SCCCommand command, void** options) {
-  ScriptedCall call = Called("SccGetCommandOptions", window);
+Long SCC_CALL SccGetCommandOptions(void* context, WindowHandle window, SCCCommand command, void** options) {
+  ScriptedCall call = Called("SccGetCommandOptions", context, window);
   call.Command = command;
   call.Options = options;
   if (options != nullptr) *options = script.AdvancedBlock;
   return Play(call, options == nullptr && script.Advanced.contains(command) ? SCC_I_ADV_SUPPORT : SCC_OK);
 }
 
-Long SCC_CALL SccGetEvents(void*, char* name, Long* status, Long* remaining) {
+Long SCC_CALL SccGetEvents(void* context, char* name, Long* status, Long* remaining) {
   PutText(name, std::string(), SCC_LOCALPATH_SIZE + 1);
   PutWord(status, 0);
   PutWord(remaining, 0);
-  return Play(Called("SccGetEvents"));
+  return Play(Called("SccGetEvents", context));
 }
 
-Long SCC_CALL SccAddFromScc(void*, WindowHandle window, Long* count, const char*** names) {
+Long SCC_CALL SccAddFromScc(void* context, WindowHandle window, Long* count, const char*** names) {
   PutWord(count, 0);
   *names = nullptr;
-  return Play(Called("SccAddFromScc", window));
+  return Play(Called("SccAddFromScc", context, window));
 }
