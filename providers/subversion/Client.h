@@ -1,0 +1,54 @@
+// libsvn_client set up for one user: configuration, login, notices and log message.
+#pragma once
+
+#include <svn_client.h>
+
+#include <exception>
+#include <functional>
+#include <string>
+
+#include "SvnHandles.h"
+
+namespace svnscc {
+
+/// Readies APR and Subversion for this process, once; later calls do nothing.  Nothing undoes it: see nodelete in
+/// CMakeLists.txt.  Throws Failure.
+void EnsureRuntime();
+
+/// Not movable: libsvn keeps its address.
+class Client {
+ public:
+  using NoticeHandler = std::function<void(const svn_wc_notify_t&)>;
+
+  /// `user` names whoever commits and locks.  Nothing is asked and nothing is stored.
+  explicit Client(const std::string& user);
+  Client(const Client&) = delete;
+  Client& operator=(const Client&) = delete;
+
+  svn_client_ctx_t* Context() const { return context_; }
+  const std::string& User() const { return user_; }
+  /// What libsvn reports while it works.  An exception of the handler ends the call in progress.
+  void OnNotice(NoticeHandler handler) { notice_ = std::move(handler); }
+
+  /// Throws what `error` or a callback's exception says.  Every call that uses Context() goes through here.
+  void Run(svn_error_t* error);
+  /// Commits what `commit(callback, baton)` commits, with `log` as its message; the revision it made, or
+  /// SVN_INVALID_REVNUM when there was nothing to do.  `warning` receives what a server's hook said afterwards.
+  svn_revnum_t Commit(const std::string& log, std::string& warning,
+                      const std::function<svn_error_t*(svn_commit_callback2_t, void*)>& commit);
+
+ private:
+  static void Notify(void* baton, const svn_wc_notify_t* notice, apr_pool_t* pool) noexcept;
+  static svn_error_t* GiveLogMessage(const char** message, const char** file, const apr_array_header_t* items,
+                                     void* baton, apr_pool_t* pool) noexcept;
+  static svn_error_t* CheckCancelled(void* baton) noexcept;
+
+  Pool pool_;
+  std::string user_;
+  svn_client_ctx_t* context_ = nullptr;
+  NoticeHandler notice_;
+  std::string log_;
+  std::exception_ptr kept_;  // of a callback, rethrown by Run
+};
+
+}  // namespace svnscc

@@ -1,0 +1,41 @@
+// The file commands.  Each works on all files it is given, tells the user about every one that fails, and returns the
+// last failure's code or SCC_OK.  A Failure thrown out of one concerns the whole call.
+#pragma once
+
+#include <string>
+
+#include "Session.h"
+
+namespace svnscc {
+
+enum class AfterCommit { Release, KeepCheckedOut };
+
+scc::Long CheckOut(Session& session, Names names, const std::string& comment);
+scc::Long UndoCheckOut(Session& session, Names names);
+scc::Long CheckIn(Session& session, Names names, const std::string& comment, AfterCommit after);
+/// `type` holds at most one of the SCC_FILETYPE flags.
+scc::Long Add(Session& session, Names names, const std::string& comment, scc::Long type, AfterCommit after);
+scc::Long Remove(Session& session, Names names, const std::string& comment);
+scc::Long GetFiles(Session& session, Names names);
+
+enum class Below { FilesOnly, Everything };
+scc::Long GetFolders(Session& session, Names names, Below below);
+
+/// Compares the file with what was last fetched, without asking the repository: SCC_OK or SCC_I_FILEDIFFERS.
+scc::Long QuickDiff(Session& session, const char* name);
+
+// Steps that several commands share.
+
+/// Brings a path up to date, fetching it and its parent folders when only the repository has them.  A local file that
+/// stands in the way is kept and counts as an edit.
+void Update(Session& session, const std::vector<std::string>& paths);
+/// Commits `paths`, each on its own, in one revision.  Throws Failure when nothing was committed.
+void Commit(Session& session, const std::vector<std::string>& paths, const std::string& log,
+            AfterCommit locks);
+/// Locks controlled files and makes them writable; a file that is out of date is updated first.
+void Lock(Session& session, const std::vector<std::string>& paths, const std::string& comment,
+          Outcome& outcome);
+/// Releases locks that the working copy holds.
+void Unlock(Session& session, const std::vector<std::string>& paths, Outcome& outcome);
+
+}  // namespace svnscc

@@ -1,0 +1,104 @@
+// Check-out and its undoing: locks.
+#include "Commands.h"
+#include "LocalStatus.h"
+#include "SubversionSccStrings.h"
+
+namespace svnscc {
+namespace {
+
+/// Tries to lock all of `paths`; who was refused, and why.
+std::map<std::string, Failure> TryLock(Session& session, const std::vector<std::string>& paths,
+                                       const std::string& comment) {
+  const Pool pool;
+  session.TakeRefusals();
+  if (paths.empty()) return {};
+  session.Svn().Run(
+      svn_client_lock(ToArray(paths, pool), comment.c_str(), /*steal_lock*/ FALSE, session.Context(), pool));
+  return session.TakeRefusals();
+}
+
+/// A refused lock in the words of the API: whose is it?
+Failure Explain(Session& session, const std::string& path, const Failure& refusal) {
+  if (refusal.Has(SVN_ERR_FS_PATH_ALREADY_LOCKED)) {
+    const scc::Long bits = AskStatus(session, path).Bits;
+    if ((bits & scc::SCC_STATUS_OUTBYUSER) != 0)
+      return Failure(scc::SCC_E_ALREADYCHECKEDOUT,
+                     (bits & scc::SCC_STATUS_CHECKEDOUT) != 0 ? sAlreadyOut.Text : sOutElsewhere.Text);
+  }
+  if (refusal.Has(SVN_ERR_FS_NOT_FOUND)) return Failure(scc::SCC_E_FILENOTCONTROLLED, sDeletedInRepository);
+  return refusal;
+}
+
+/// Fetches what is not here yet; false, with the failure noted, when there is nothing to lock.
+bool Prepare(Session& session, const std::string& path, Outcome& outcome) {
+  return outcome.Try(path, [&] {
+    if (AskLocal(session, path).State != LocalState::Controlled) Update(session, {path});
+    if (!AskLocal(session, path).IsControlled()) throw Failure(scc::SCC_E_FILENOTCONTROLLED, sNotControlled);
+  });
+}
+
+}  // namespace
+
+void Lock(Session& session, const std::vector<std::string>& paths, const std::string& comment,
+          Outcome& outcome) {
+  auto refused = TryLock(session, paths, comment);
+  std::vector<std::string> updated;
+  for (const auto& [path, refusal] : refused)
+    if (refusal.Result() == scc::SCC_E_CHECKINCONFLICT && outcome.Try(path, [&] { Update(session, {path}); }))
+      updated.push_back(path);
+  for (const auto& path : updated) refused.erase(path);
+  refused.merge(TryLock(session, updated, comment));
+
+  for (const auto& path : paths) {
+    const auto refusal = refused.find(path);
+    outcome.Try(path, [&] {
+      if (refusal != refused.end()) throw Explain(session, path, refusal->second);
+      MakeWritable(path);
+    });
+  }
+}
+
+void Unlock(Session& session, const std::vector<std::string>& paths, Outcome& outcome) {
+  if (paths.empty()) return;
+  const Pool pool;
+  session.TakeRefusals();
+  session.Svn().Run(svn_client_unlock(ToArray(paths, pool), /*break_lock*/ FALSE, session.Context(), pool));
+  for (const auto& [path, refusal] : session.TakeRefusals()) {
+    // Someone broke the lock: what was wanted has happened.
+    if (refusal.Has(SVN_ERR_FS_NO_SUCH_LOCK) || refusal.Has(SVN_ERR_FS_BAD_LOCK_TOKEN))
+      session.Out().Warning(Format(sLockGone.Text, {session.Label(path)}));
+    else
+      outcome.Fail(path, refusal);
+  }
+}
+
+scc::Long CheckOut(Session& session, Names names, const std::string& comment) {
+  Outcome outcome(session);
+  std::vector<std::string> wanted;
+  for (const auto& path : outcome.PathsOf(names))
+    if (Prepare(session, path, outcome)) wanted.push_back(path);
+  Lock(session, wanted, comment, outcome);
+  return outcome.Result();
+}
+
+scc::Long UndoCheckOut(Session& session, Names names) {
+  Outcome outcome(session);
+  std::vector<std::string> wanted;
+  for (const auto& path : outcome.PathsOf(names)) {
+    outcome.Try(path, [&] {
+      const LocalStatus local = AskLocal(session, path);
+      if (!local.IsControlled()) throw Failure(scc::SCC_E_FILENOTCONTROLLED, sNotControlled);
+      if (!local.HasLock) throw Failure(scc::SCC_E_NOTCHECKEDOUT, sNotCheckedOut);
+      wanted.push_back(path);
+    });
+  }
+  if (wanted.empty()) return outcome.Result();
+  const Pool pool;
+  session.Svn().Run(svn_client_revert4(ToArray(wanted, pool), svn_depth_empty, nullptr, FALSE,
+                                       /*metadata_only*/ FALSE,
+                                       /*added_keep_local*/ TRUE, session.Context(), pool));
+  Unlock(session, wanted, outcome);
+  return outcome.Result();
+}
+
+}  // namespace svnscc

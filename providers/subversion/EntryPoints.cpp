@@ -1,0 +1,259 @@
+// The 23 exported names.  Nothing happens here but the crossing: arguments become types, exceptions become codes.
+#include <algorithm>
+#include <cstring>
+
+#include "Commands.h"
+#include "OpenProject.h"
+#include "Populate.h"
+#include "ProjectPrompt.h"
+#include "SubversionSccStrings.h"
+
+using namespace scc;
+using svnscc::AfterCommit;
+using svnscc::Failure;
+using svnscc::Names;
+using svnscc::Session;
+
+namespace {
+
+constexpr Long kVersion = 0x00010001;
+constexpr Long kLongestComment = 0x7FFF;
+constexpr Dword kCapabilities = SCC_CAP_REMOVE | SCC_CAP_QUERYINFO | SCC_CAP_GETPROJPATH | SCC_CAP_TEXTOUT |
+                                SCC_CAP_COMMENTCHECKOUT | SCC_CAP_COMMENTCHECKIN | SCC_CAP_COMMENTADD |
+                                SCC_CAP_COMMENTREMOVE | SCC_CAP_COMMENTPROJECT | SCC_CAP_POPULATELIST;
+
+std::string Text(const char* text) { return text != nullptr ? text : ""; }
+
+/// Writes into a client's buffer of `size` bytes, which may be missing.
+void Return(char* buffer, const std::string& text, std::size_t size) {
+  if (buffer == nullptr) return;
+  const auto cut = CutAtCharacter(text, size - 1);
+  std::memcpy(buffer, cut.data(), cut.size());
+  buffer[cut.size()] = '\0';
+}
+
+/// No exception leaves an entry point: it becomes a sentence for the user and a code for the client.
+template <class Body>
+Long Guard(void* context, Body&& body) noexcept {
+  auto* session = static_cast<Session*>(context);
+  if (session == nullptr) return SCC_E_INITIALIZEFAILED;
+  try {
+    return body(*session);
+  } catch (const Failure& failure) {
+    session->Out().Error(failure.what());
+    return failure.Result();
+  } catch (const std::exception& exception) {
+    session->Out().Error(exception.what());
+  } catch (...) {
+    session->Out().Error(sUnknownFault);
+  }
+  return SCC_E_NONSPECIFICERROR;
+}
+
+template <class Body>
+Long GuardOpen(void* context, Body&& body) noexcept {
+  return Guard(context, [&](Session& session) -> Long {
+    return session.IsOpen() ? body(session) : static_cast<Long>(SCC_E_PROJNOTOPEN);
+  });
+}
+
+/// The same for a list of files.
+template <class Body>
+Long GuardFiles(void* context, Long count, const char** names, Body&& body) noexcept {
+  return GuardOpen(context, [&](Session& session) -> Long {
+    if (count < 0 || (count > 0 && names == nullptr)) return SCC_E_NONSPECIFICERROR;
+    return body(session, Names(names, static_cast<std::size_t>(count)));
+  });
+}
+
+AfterCommit AfterFlags(Long flags) {
+  return (flags & SCC_KEEP_CHECKEDOUT) != 0 ? AfterCommit::KeepCheckedOut : AfterCommit::Release;
+}
+
+}  // namespace
+
+extern "C" {
+
+// ------------------------------------------------------------------------------------------------ life
+
+SCC_EXPORT Long SCC_CALL SccGetVersion() { return kVersion; }
+
+SCC_EXPORT Long SCC_CALL SccInitialize(void** context, WindowHandle, const char*, char* sccName,
+                                       Long* capabilities, char* auxPathLabel, Long* checkOutCommentLength,
+                                       Long* commentLength) {
+  if (context == nullptr) return SCC_E_INITIALIZEFAILED;
+  *context = nullptr;
+  try {
+    svnscc::EnsureRuntime();
+    *context = new Session;
+  } catch (...) {  // no text-out yet: the code must do
+    return SCC_E_INITIALIZEFAILED;
+  }
+  Return(sccName, sProviderName, SCC_NAME_SIZE);
+  Return(auxPathLabel, sAuxPathLabel, SCC_AUXLABEL_SIZE);
+  if (capabilities != nullptr) *capabilities = static_cast<Long>(kCapabilities);
+  if (checkOutCommentLength != nullptr) *checkOutCommentLength = kLongestComment;
+  if (commentLength != nullptr) *commentLength = kLongestComment;
+  return SCC_OK;
+}
+
+SCC_EXPORT Long SCC_CALL SccUninitialize(void* context) {
+  delete static_cast<Session*>(context);
+  return SCC_OK;
+}
+
+SCC_EXPORT Long SCC_CALL SccSetOption(void* context, Long option, Long value) {
+  return Guard(context, [&](Session&) -> Long {
+    const bool known = option == SCC_OPT_EVENTQUEUE || (option == SCC_OPT_HASCANCELMODE && value == 0);
+    return known ? SCC_OK : SCC_E_OPNOTSUPPORTED;
+  });
+}
+
+// ------------------------------------------------------------------------------------------------ projects
+
+SCC_EXPORT Long SCC_CALL SccGetProjPath(void* context, WindowHandle window, char* user, char* projectName,
+                                        char* localPath, char* auxPath, Bool, Bool* isNew) {
+  return Guard(context, [&](Session& session) -> Long {
+    svnscc::ProjectRequest request;
+    request.User = Text(user);
+    request.ProjectName = Text(projectName);
+    request.Repository = Text(auxPath);
+    request.LocalFolder = Text(localPath);
+    request.MayCreate = isNew != nullptr && *isNew != 0;
+    const Long result = svnscc::PromptForProject(session, window, request);
+    Return(user, request.User, SCC_USER_SIZE);
+    if (result != SCC_OK) return result;
+    Return(projectName, request.ProjectName, SCC_PRJPATH_SIZE);
+    Return(auxPath, request.Repository, SCC_PRJPATH_SIZE);
+    if (isNew != nullptr) *isNew = request.IsNew ? 1 : 0;
+    return SCC_OK;
+  });
+}
+
+SCC_EXPORT Long SCC_CALL SccOpenProject(void* context, WindowHandle, char* user, char* projectName,
+                                        const char* localPath, char* auxPath, const char* comment,
+                                        TTextOutProc textOut, Long flags) {
+  bool opened = false;
+  bool busy = false;
+  const Long result = Guard(context, [&](Session& session) -> Long {
+    busy = session.IsOpen();
+    if (busy) return SCC_E_PROJECTALREADYOPEN;
+    session.Out().Attach(textOut);
+    svnscc::ProjectNames names{Text(user), Text(projectName), Text(auxPath), Text(localPath), Text(comment)};
+    const auto given = names;
+    svnscc::OpenProject(
+        session, names,
+        (flags & SCC_OP_CREATEIFNEW) != 0 ? svnscc::IfUnknown::Create : svnscc::IfUnknown::Refuse);
+    // The client's strings are its own: only what it left open is filled in.
+    if (given.User.empty()) Return(user, names.User, SCC_USER_SIZE);
+    if (given.ProjectName.empty()) Return(projectName, names.ProjectName, SCC_PRJPATH_SIZE);
+    if (given.Repository.empty()) Return(auxPath, names.Repository, SCC_PRJPATH_SIZE);
+    opened = true;
+    return SCC_OK;
+  });
+  if (!opened && !busy && context != nullptr) static_cast<Session*>(context)->Close();
+  return result;
+}
+
+SCC_EXPORT Long SCC_CALL SccCloseProject(void* context) {
+  return GuardOpen(context, [](Session& session) -> Long {
+    session.Close();
+    return SCC_OK;
+  });
+}
+
+// ------------------------------------------------------------------------------------------------ status
+
+SCC_EXPORT Long SCC_CALL SccQueryInfo(void* context, Long count, const char** names, Long* statuses) {
+  if (statuses != nullptr && count > 0)
+    std::fill_n(statuses, count, static_cast<Long>(SCC_STATUS_NOTCONTROLLED));
+  return GuardFiles(context, count, names, [&](Session& session, Names files) -> Long {
+    if (statuses == nullptr) return SCC_E_NONSPECIFICERROR;
+    const svnscc::StatusTable& table = svnscc::WalkProject(session);
+    for (std::size_t i = 0; i < files.size(); ++i) statuses[i] = table.Of(session.InsidePath(files[i])).Bits;
+    return table.Result;
+  });
+}
+
+SCC_EXPORT Long SCC_CALL SccPopulateList(void* context, SCCCommand command, Long count, const char** names,
+                                         TPopListFunc populate, void* callerData, Long* statuses,
+                                         Long flags) {
+  return GuardFiles(context, count, names, [&](Session& session, Names files) {
+    const auto named = (flags & SCC_PL_DIR) != 0 ? svnscc::Named::Folders : svnscc::Named::Files;
+    return svnscc::Populate(session, command, files, named, populate, callerData, statuses);
+  });
+}
+
+SCC_EXPORT Long SCC_CALL SccDiff(void* context, WindowHandle, const char* name, Long flags, void*) {
+  return GuardOpen(context, [&](Session& session) -> Long {
+    return (flags & SCC_DIFF_QUICK_DIFF) != 0 ? svnscc::QuickDiff(session, name) : SCC_E_OPNOTSUPPORTED;
+  });
+}
+
+// ------------------------------------------------------------------------------------------------ commands
+
+SCC_EXPORT Long SCC_CALL SccGet(void* context, WindowHandle, Long count, const char** names, Long flags,
+                                void*) {
+  return GuardFiles(context, count, names, [&](Session& session, Names files) {
+    if ((flags & SCC_GET_ALL) == 0) return svnscc::GetFiles(session, files);
+    const bool recursive = (flags & SCC_GET_RECURSIVE) != 0;
+    return svnscc::GetFolders(session, files,
+                              recursive ? svnscc::Below::Everything : svnscc::Below::FilesOnly);
+  });
+}
+
+SCC_EXPORT Long SCC_CALL SccCheckout(void* context, WindowHandle, Long count, const char** names,
+                                     const char* comment, Long, void*) {
+  return GuardFiles(context, count, names, [&](Session& session, Names files) {
+    return svnscc::CheckOut(session, files, Text(comment));
+  });
+}
+
+SCC_EXPORT Long SCC_CALL SccUncheckout(void* context, WindowHandle, Long count, const char** names, Long,
+                                       void*) {
+  return GuardFiles(context, count, names,
+                    [](Session& session, Names files) { return svnscc::UndoCheckOut(session, files); });
+}
+
+SCC_EXPORT Long SCC_CALL SccCheckin(void* context, WindowHandle, Long count, const char** names,
+                                    const char* comment, Long flags, void*) {
+  return GuardFiles(context, count, names, [&](Session& session, Names files) {
+    return svnscc::CheckIn(session, files, Text(comment), AfterFlags(flags));
+  });
+}
+
+// Clients pass one flag word whatever the number of files, so only the first is read.
+SCC_EXPORT Long SCC_CALL SccAdd(void* context, WindowHandle, Long count, const char** names,
+                                const char* comment, Long* flags, void*) {
+  return GuardFiles(context, count, names, [&](Session& session, Names files) {
+    const Long word = flags != nullptr ? *flags : 0;
+    return svnscc::Add(session, files, Text(comment), word, AfterFlags(word));
+  });
+}
+
+SCC_EXPORT Long SCC_CALL SccRemove(void* context, WindowHandle, Long count, const char** names,
+                                   const char* comment, Long, void*) {
+  return GuardFiles(context, count, names, [&](Session& session, Names files) {
+    return svnscc::Remove(session, files, Text(comment));
+  });
+}
+
+// ------------------------------------------------------------------------------------------------ not supported
+
+SCC_EXPORT Long SCC_CALL SccAddFromScc(void*, WindowHandle, Long*, const char***) {
+  return SCC_E_OPNOTSUPPORTED;
+}
+SCC_EXPORT Long SCC_CALL SccGetCommandOptions(void*, WindowHandle, SCCCommand, void**) {
+  return SCC_E_OPNOTSUPPORTED;
+}
+SCC_EXPORT Long SCC_CALL SccGetEvents(void*, char*, Long*, Long*) { return SCC_E_OPNOTSUPPORTED; }
+SCC_EXPORT Long SCC_CALL SccHistory(void*, WindowHandle, Long, const char**, Long, void*) {
+  return SCC_E_OPNOTSUPPORTED;
+}
+SCC_EXPORT Long SCC_CALL SccProperties(void*, WindowHandle, const char*) { return SCC_E_OPNOTSUPPORTED; }
+SCC_EXPORT Long SCC_CALL SccRename(void*, WindowHandle, const char*, const char*) {
+  return SCC_E_OPNOTSUPPORTED;
+}
+SCC_EXPORT Long SCC_CALL SccRunScc(void*, WindowHandle, Long, const char**) { return SCC_E_OPNOTSUPPORTED; }
+
+}  // extern "C"

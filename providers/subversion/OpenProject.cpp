@@ -1,0 +1,109 @@
+#include "OpenProject.h"
+
+#include <svn_dirent_uri.h>
+
+#include "Repository.h"
+#include "SubversionSccStrings.h"
+#include "host/System.h"
+
+namespace svnscc {
+namespace {
+
+std::string LocalFolderOf(const std::string& text) {
+  const Pool pool;
+  const char* path = svn_dirent_internal_style(text.c_str(), pool);
+  const char* absolute = nullptr;
+  if (!svn_dirent_is_absolute(path))
+    throw Failure(scc::SCC_E_INVALIDFILEPATH, Format(sNoLocalFolder.Text, {text}));
+  Check(svn_dirent_get_absolute(&absolute, path, pool));
+  return absolute;
+}
+
+/// A client may leave both names empty and expect the provider to know them.
+void FillNamesFromWorkingCopy(Client& client, const std::string& folder, ProjectNames& names) {
+  const auto url = UrlOfWorkingCopy(client, folder);
+  if (!url) throw Failure(scc::SCC_E_UNKNOWNPROJECT, sNoProjectNamed);
+  const RepositoryPlace place = PlaceOf(client, *url);
+  names.Repository = place.Root;
+  names.ProjectName = ToProjectName(place.Path);
+}
+
+void CreateProject(Session& session, Client& client, const std::string& url, const ProjectNames& names) {
+  try {
+    const std::string log = names.Comment.empty() ? std::string(sCreateProjectLog) : names.Comment;
+    const svn_revnum_t revision = MakeFolder(client, url, log);
+    session.Out().Info(Format(sProjectCreated.Text, {ReadableUrl(url)}));
+    session.Out().Info(Format(sCommitted.Text, {static_cast<long long>(revision)}));
+  } catch (const Failure& failure) {
+    const bool refused =
+        failure.Result() == scc::SCC_E_INVALIDUSER || failure.Result() == scc::SCC_E_NOTAUTHORIZED;
+    throw Failure(refused ? failure.Result() : static_cast<scc::Long>(scc::SCC_E_COULDNOTCREATEPROJECT),
+                  Format(sCouldNotCreate.Text, {names.ProjectName, failure.what()}));
+  }
+}
+
+void RequireProject(Session& session, Client& client, const std::string& url, const ProjectNames& names,
+                    IfUnknown ifUnknown) {
+  switch (KindOf(client, url)) {
+    case svn_node_dir:
+      return;
+    case svn_node_none:
+      if (ifUnknown == IfUnknown::Create) return CreateProject(session, client, url, names);
+      throw Failure(scc::SCC_E_UNKNOWNPROJECT,
+                    Format(sUnknownProject.Text, {names.Repository, names.ProjectName}));
+    default:
+      throw Failure(scc::SCC_E_PROJSYNTAXERR,
+                    Format(sProjectIsFile.Text, {names.ProjectName, names.Repository}));
+  }
+}
+
+/// True when `project.Folder` is a working copy of the project already; throws when it is one of something else.
+bool IsWorkingCopyOf(Client& client, const Project& project) {
+  const auto url = UrlOfWorkingCopy(client, project.Folder);
+  if (!url) return false;
+  if (*url == project.Url) return true;
+  throw Failure(scc::SCC_E_INVALIDFILEPATH, Format(sOtherWorkingCopy.Text, {project.Folder, ReadableUrl(*url),
+                                                                            ReadableUrl(project.Url)}));
+}
+
+// Nothing is fetched here: files come with the first get, and those of the same name that are here stay.
+void MakeWorkingCopy(Client& client, const Project& project) {
+  const Pool pool;
+  svn_opt_revision_t head{};
+  head.kind = svn_opt_revision_head;
+  client.Run(svn_client_checkout3(
+      nullptr, project.Url.c_str(), project.Folder.c_str(), &head, &head, svn_depth_empty,
+      /*ignore_externals*/ TRUE, /*allow_unver_obstructions*/ TRUE, client.Context(), pool));
+}
+
+}  // namespace
+
+std::string SystemUser() { return GetUserNameText(scc::SCC_USER_SIZE); }
+
+void OpenProject(Session& session, ProjectNames& names, IfUnknown ifUnknown) {
+  if (names.User.empty()) names.User = SystemUser();
+  auto client = std::make_unique<Client>(names.User);
+  Project project;
+  project.Folder = LocalFolderOf(names.LocalFolder);
+  if (names.Repository.empty() && names.ProjectName.empty())
+    FillNamesFromWorkingCopy(*client, project.Folder, names);
+
+  const auto root = ToRepositoryUrl(names.Repository);
+  if (!root) throw Failure(scc::SCC_E_PROJSYNTAXERR, Format(sBadUrl.Text, {names.Repository}));
+  const auto path = ToProjectPath(names.ProjectName);
+  if (!path) throw Failure(scc::SCC_E_PROJSYNTAXERR, Format(sBadProjectPath.Text, {names.ProjectName}));
+  project.Url = UrlOf(*root, *path);
+
+  const bool bound = IsWorkingCopyOf(*client, project);  // before anything is made in the repository
+  RequireProject(session, *client, project.Url, names, ifUnknown);
+  if (!bound) MakeWorkingCopy(*client, project);
+  session.Out().Info(Format(sProjectOpened.Text, {ReadableUrl(project.Url)}));
+  session.Open(std::move(client), std::move(project));
+}
+
+void EnsureWorkingCopy(Session& session) {
+  const Project& project = session.CurrentProject();
+  if (!IsWorkingCopyOf(session.Svn(), project)) MakeWorkingCopy(session.Svn(), project);
+}
+
+}  // namespace svnscc

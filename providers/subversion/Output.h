@@ -1,0 +1,25 @@
+// Where the provider's sentences go: the client's text-out callback.
+#pragma once
+
+#include <string>
+
+#include "provider/sccdefs.h"
+
+namespace svnscc {
+
+/// Valid from opening a project to closing it; silent without a callback.
+class Output {
+ public:
+  void Attach(scc::TTextOutProc callback) { callback_ = callback; }
+  void Info(const std::string& text) const { Write(text, scc::SCC_MSG_INFO); }
+  void Warning(const std::string& text) const { Write(text, scc::SCC_MSG_WARNING); }
+  void Error(const std::string& text) const { Write(text, scc::SCC_MSG_ERROR); }
+  void Write(const std::string& text, scc::MessageKind kind) const {
+    if (callback_ != nullptr) callback_(text.c_str(), kind);
+  }
+
+ private:
+  scc::TTextOutProc callback_ = nullptr;
+};
+
+}  // namespace svnscc

@@ -1,0 +1,152 @@
+#include "Repository.h"
+
+#include <svn_dirent_uri.h>
+#include <svn_path.h>
+#include <svn_ra.h>
+#include <svn_repos.h>
+
+#include <algorithm>
+
+#include "host/Text.h"
+
+namespace svnscc {
+namespace {
+
+svn_opt_revision_t Head() {
+  svn_opt_revision_t head{};
+  head.kind = svn_opt_revision_head;
+  return head;
+}
+
+struct Listing {
+  std::vector<std::string> names;
+  std::exception_ptr kept;
+};
+
+svn_error_t* TakeEntry(void* baton, const char* path, const svn_dirent_t* entry, const svn_lock_t*,
+                       const char*, const char*, const char*, apr_pool_t*) noexcept {
+  auto& listing = *static_cast<Listing*>(baton);
+  return Contain(listing.kept, [&] {
+    if (entry->kind == svn_node_dir && *path != '\0') listing.names.emplace_back(path);
+  });
+}
+
+/// nullopt instead of an error: the text comes from a user or a client.
+template <class Convert>
+std::optional<std::string> Canonical(const std::string& text, Convert convert) {
+  const Pool pool;
+  const char* result = nullptr;
+  svn_error_t* error = convert(&result, text.c_str(), pool);
+  svn_error_clear(error);
+  if (error != SVN_NO_ERROR || result == nullptr) return std::nullopt;
+  return result;
+}
+
+svn_error_t* UrlFromText(const char** url, const char* text, apr_pool_t* pool) {
+  const char* escaped = svn_path_uri_autoescape(svn_path_uri_from_iri(text, pool), pool);
+  return svn_uri_canonicalize_safe(url, nullptr, escaped, pool, pool);
+}
+
+svn_error_t* UrlFromFolder(const char** url, const char* text, apr_pool_t* pool) {
+  return svn_uri_get_file_url_from_dirent(url, svn_dirent_internal_style(text, pool), pool);
+}
+
+svn_error_t* RelativeFromText(const char** path, const char* text, apr_pool_t* pool) {
+  return svn_relpath_canonicalize_safe(path, nullptr, text, pool, pool);
+}
+
+}  // namespace
+
+std::optional<std::string> ToRepositoryUrl(const std::string& text) {
+  const Pool pool;
+  const std::string trimmed = Trim(text);
+  if (svn_path_is_url(trimmed.c_str())) {
+    const auto url = Canonical(trimmed, UrlFromText);
+    return url && svn_path_is_url(url->c_str()) && !svn_path_is_backpath_present(url->c_str()) ? url
+                                                                                               : std::nullopt;
+  }
+  if (!svn_dirent_is_absolute(svn_dirent_internal_style(trimmed.c_str(), pool))) return std::nullopt;
+  return Canonical(trimmed, UrlFromFolder);
+}
+
+std::optional<std::string> ToProjectPath(const std::string& text) {
+  std::string path = Trim(text);
+  path.erase(0, std::min(path.find_first_not_of('/'), path.size()));
+  const auto canonical = Canonical(path, RelativeFromText);
+  if (!canonical || svn_path_is_backpath_present(canonical->c_str())) return std::nullopt;
+  return canonical;
+}
+
+std::string ToProjectName(const std::string& path) { return path.empty() ? "/" : path; }
+
+std::string UrlOf(const std::string& url, const std::string& path) {
+  const Pool pool;
+  return svn_path_url_add_component2(url.c_str(), path.c_str(), pool);
+}
+
+std::string ReadableUrl(const std::string& url) {
+  const Pool pool;
+  return svn_path_uri_decode(url.c_str(), pool);
+}
+
+RepositoryPlace PlaceOf(Client& client, const std::string& url) {
+  const Pool pool;
+  const char* root = nullptr;
+  svn_ra_session_t* session = nullptr;
+  client.Run(svn_client_open_ra_session2(&session, url.c_str(), nullptr, client.Context(), pool, pool));
+  client.Run(svn_ra_get_repos_root2(session, &root, pool));
+  return {root, svn_uri_skip_ancestor(root, url.c_str(), pool)};
+}
+
+svn_node_kind_t KindOf(Client& client, const std::string& url) {
+  const Pool pool;
+  svn_ra_session_t* session = nullptr;
+  client.Run(svn_client_open_ra_session2(&session, url.c_str(), nullptr, client.Context(), pool, pool));
+  svn_node_kind_t kind = svn_node_none;
+  client.Run(svn_ra_check_path(session, "", SVN_INVALID_REVNUM, &kind, pool));
+  return kind;
+}
+
+std::vector<std::string> FoldersIn(Client& client, const std::string& url) {
+  const Pool pool;
+  const svn_opt_revision_t head = Head();
+  Listing listing;
+  svn_error_t* error = svn_client_list4(
+      url.c_str(), &head, &head, nullptr, svn_depth_immediates, SVN_DIRENT_KIND, /*fetch_locks*/ FALSE,
+      /*include_externals*/ FALSE, TakeEntry, &listing, client.Context(), pool);
+  if (listing.kept != nullptr) Check(error, listing.kept);
+  client.Run(error);
+  std::sort(listing.names.begin(), listing.names.end());
+  return listing.names;
+}
+
+svn_revnum_t MakeFolder(Client& client, const std::string& url, const std::string& log) {
+  const Pool pool;
+  std::string warning;
+  return client.Commit(log, warning, [&](svn_commit_callback2_t callback, void* baton) {
+    return svn_client_mkdir4(ToArray({url}, pool), /*make_parents*/ TRUE, nullptr, callback, baton,
+                             client.Context(), pool);
+  });
+}
+
+std::string CreateRepository(const std::string& folder) {
+  EnsureRuntime();
+  const Pool pool;
+  const char* path = svn_dirent_internal_style(folder.c_str(), pool);
+  svn_repos_t* repository = nullptr;
+  Check(svn_repos_create(&repository, path, nullptr, nullptr, nullptr, nullptr, pool));
+  const char* url = nullptr;
+  Check(svn_uri_get_file_url_from_dirent(&url, path, pool));
+  return url;
+}
+
+std::optional<std::string> UrlOfWorkingCopy(Client& client, const std::string& folder) {
+  const Pool pool;
+  const char* url = nullptr;
+  svn_error_t* error = svn_client_url_from_path2(&url, folder.c_str(), client.Context(), pool, pool);
+  svn_error_clear(error);
+  if (error != SVN_NO_ERROR || url == nullptr) return std::nullopt;
+  return url;
+}
+
+}  // namespace svnscc

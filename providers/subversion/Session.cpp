@@ -1,0 +1,73 @@
+#include "Session.h"
+
+#include <svn_dirent_uri.h>
+
+#include "Notices.h"
+#include "SubversionSccStrings.h"
+
+namespace svnscc {
+
+void Session::Open(std::unique_ptr<Client> client, Project project) {
+  client_ = std::move(client);
+  project_ = std::move(project);
+  client_->OnNotice([this](const svn_wc_notify_t& notice) { HandleNotice(notice); });
+}
+
+void Session::Close() {
+  client_.reset();
+  project_ = {};
+  lastStatuses_ = {};
+  refusals_.clear();
+  output_.Attach(nullptr);
+}
+
+std::string Session::InsidePath(const char* name) const {
+  if (name == nullptr || *name == '\0') return {};
+  const Pool pool;
+  const char* path = svn_dirent_internal_style(name, pool);
+  if (!svn_dirent_is_absolute(path)) return {};
+  const char* absolute = nullptr;  // also takes ".." out
+  svn_error_t* error = svn_dirent_get_absolute(&absolute, path, pool);
+  svn_error_clear(error);
+  if (error != SVN_NO_ERROR || !svn_dirent_is_ancestor(project_.Folder.c_str(), absolute)) return {};
+  return absolute;
+}
+
+std::string Session::Label(const std::string& path) const {
+  const Pool pool;
+  const char* inside = svn_dirent_skip_ancestor(project_.Folder.c_str(), path.c_str());
+  return svn_dirent_local_style(inside != nullptr ? inside : path.c_str(), pool);
+}
+
+void Session::HandleNotice(const svn_wc_notify_t& notice) {
+  if (notice.action == svn_wc_notify_failed_lock || notice.action == svn_wc_notify_failed_unlock) {
+    if (notice.err != nullptr) refusals_.insert_or_assign(notice.path, ToFailure(notice.err));
+    return;
+  }
+  if (const auto sentence = ToSentence(notice, Label(notice.path)))
+    output_.Write(sentence->Text, sentence->Kind);
+}
+
+void Outcome::Fail(const std::string& path, const Failure& failure) {
+  result_ = failure.Result();
+  session_.Out().Error(Format(sFileFailed.Text, {session_.Label(path), failure.what()}));
+}
+
+void Outcome::Fail(const std::string& path, scc::Long result, const char* reason) {
+  Fail(path, Failure(result, reason));
+}
+
+std::vector<std::string> Outcome::PathsOf(Names names) {
+  std::vector<std::string> paths;
+  paths.reserve(names.size());
+  for (const char* name : names) {
+    std::string path = session_.InsidePath(name);
+    if (path.empty())
+      Fail(name != nullptr ? name : "", scc::SCC_E_FILENOTCONTROLLED, sOutsideProject.Text);
+    else
+      paths.push_back(std::move(path));
+  }
+  return paths;
+}
+
+}  // namespace svnscc

@@ -1,0 +1,136 @@
+#include "Status.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "Session.h"
+#include "SubversionSccStrings.h"
+
+namespace svnscc {
+namespace {
+
+// The working copy's lock is the repository's lock when both carry the same token: it can have been broken meanwhile.
+scc::Long LockBits(const svn_lock_t* here, const svn_lock_t* lock, const std::string& user) {
+  if (lock == nullptr) return 0;
+  if (here != nullptr && std::strcmp(here->token, lock->token) == 0)
+    return scc::SCC_STATUS_OUTBYUSER | scc::SCC_STATUS_CHECKEDOUT | scc::SCC_STATUS_OUTEXCLUSIVE;
+  return scc::SCC_STATUS_OUTEXCLUSIVE |
+         (user == lock->owner ? scc::SCC_STATUS_OUTBYUSER : scc::SCC_STATUS_OUTOTHER);
+}
+
+bool IsHere(const svn_client_status_t& status) {
+  return status.versioned && status.node_status != svn_wc_status_added &&
+         status.node_status != svn_wc_status_none;
+}
+
+bool IsChange(svn_wc_status_kind kind) { return kind != svn_wc_status_none && kind != svn_wc_status_normal; }
+
+bool IsLocalEdit(svn_wc_status_kind kind) {
+  return kind == svn_wc_status_modified || kind == svn_wc_status_conflicted || kind == svn_wc_status_replaced;
+}
+
+struct Walk {
+  const std::string& user;
+  bool online;
+  StatusTable& table;
+  std::exception_ptr kept;
+};
+
+svn_error_t* TakeStatus(void* baton, const char*, const svn_client_status_t* status, apr_pool_t*) noexcept {
+  auto& walk = *static_cast<Walk*>(baton);
+  return Contain(walk.kept, [&] {
+    svn_client_status_t seen = *status;
+    if (!walk.online) seen.repos_lock = seen.lock;
+    const FileStatus file = ToFileStatus(seen, walk.user);
+    if (file.Bits != 0) walk.table.Put(seen.local_abspath, file);
+  });
+}
+
+enum class Ask { Repository, WorkingCopy };
+
+void WalkInto(StatusTable& table, Session& session, const std::string& path, svn_depth_t depth, Ask ask) {
+  const Pool pool;
+  const bool online = ask == Ask::Repository;
+  Walk walk{session.Svn().User(), online, table, nullptr};
+  svn_opt_revision_t head{};
+  head.kind = svn_opt_revision_head;
+  svn_error_t* error = svn_client_status6(
+      nullptr, session.Context(), path.c_str(), &head, depth, /*get_all*/ TRUE,
+      /*check_out_of_date*/ online, /*check_working_copy*/ TRUE, /*no_ignore*/ TRUE,
+      /*ignore_externals*/ TRUE, /*depth_as_sticky*/ TRUE, nullptr, TakeStatus, &walk, pool);
+  if (walk.kept != nullptr) {
+    svn_error_clear(error);
+    std::rethrow_exception(walk.kept);
+  }
+  session.Svn().Run(error);
+}
+
+StatusTable LocalWalk(Session& session) {
+  StatusTable table;
+  try {
+    WalkInto(table, session, session.CurrentProject().Folder, svn_depth_infinity, Ask::WorkingCopy);
+  } catch (const Failure& failure) {
+    session.Out().Error(failure.what());
+  }
+  return table;
+}
+
+}  // namespace
+
+void StatusTable::Put(const std::string& path, const FileStatus& status) { entries_[path] = status; }
+
+FileStatus StatusTable::Of(const std::string& path) const {
+  const auto found = entries_.find(path);
+  return found != entries_.end() ? found->second : FileStatus{};
+}
+
+std::vector<std::string> StatusTable::Files() const {
+  std::vector<std::string> files;
+  for (const auto& [path, status] : entries_)
+    if (!status.IsFolder) files.push_back(path);
+  std::sort(files.begin(), files.end());
+  return files;
+}
+
+FileStatus ToFileStatus(const svn_client_status_t& status, const std::string& user) {
+  const bool onlyInRepository = !IsHere(status) && status.repos_node_status == svn_wc_status_added;
+  if (status.file_external || status.node_status == svn_wc_status_external) return {};
+  if (!IsHere(status) && !onlyInRepository) return {};
+
+  const bool deleted = status.repos_node_status == svn_wc_status_deleted;
+  const bool newer = onlyInRepository ||
+                     (!deleted && (IsChange(status.repos_node_status) || IsChange(status.repos_text_status) ||
+                                   IsChange(status.repos_prop_status)));
+  FileStatus result;
+  result.Bits = scc::SCC_STATUS_CONTROLLED | LockBits(status.lock, status.repos_lock, user);
+  if (deleted) result.Bits |= scc::SCC_STATUS_DELETED;
+  if (newer) result.Bits |= scc::SCC_STATUS_OUTOFDATE;
+  if (status.conflicted) result.Bits |= scc::SCC_STATUS_MERGED;
+  if (IsLocalEdit(status.node_status) || IsLocalEdit(status.text_status) || IsLocalEdit(status.prop_status))
+    result.Bits |= scc::SCC_STATUS_MODIFIED;
+  result.IsFolder = (onlyInRepository ? status.ood_kind : status.kind) == svn_node_dir;
+  result.NeedsGet = newer || deleted || status.node_status == svn_wc_status_missing;
+  return result;
+}
+
+const StatusTable& WalkProject(Session& session) {
+  StatusTable table;
+  try {
+    WalkInto(table, session, session.CurrentProject().Folder, svn_depth_infinity, Ask::Repository);
+  } catch (const Failure& failure) {
+    session.Out().Error(Format(sStatusFailed, {failure.what()}));
+    table = LocalWalk(session);
+    table.Result = failure.Result() == scc::SCC_E_CONNECTIONFAILURE
+                       ? static_cast<scc::Long>(scc::SCC_E_ACCESSFAILURE)
+                       : failure.Result();
+  }
+  return session.LastStatuses() = std::move(table);
+}
+
+FileStatus AskStatus(Session& session, const std::string& path) {
+  StatusTable table;
+  WalkInto(table, session, path, svn_depth_empty, Ask::Repository);
+  return table.Of(path);
+}
+
+}  // namespace svnscc

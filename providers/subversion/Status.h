@@ -1,0 +1,45 @@
+// The status of a project's files, in the API's bits.
+#pragma once
+
+#include <svn_client.h>
+
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+#include "provider/sccdefs.h"
+
+namespace svnscc {
+
+class Session;
+
+struct FileStatus {
+  scc::Long Bits = 0;
+  bool IsFolder = false;
+  /// The local copy is not what the repository holds: to be fetched by a get.
+  bool NeedsGet = false;
+};
+
+/// Statuses by absolute path as libsvn spells it.
+class StatusTable {
+ public:
+  void Put(const std::string& path, const FileStatus& status);
+  /// The status of a path; one that is not listed is not controlled.
+  FileStatus Of(const std::string& path) const;
+  /// All controlled files, sorted.
+  std::vector<std::string> Files() const;
+  /// SCC_OK, or why the repository could not be asked: then the table holds what the working copy knows.
+  scc::Long Result = scc::SCC_OK;
+
+ private:
+  std::unordered_map<std::string, FileStatus> entries_;
+};
+
+/// One walk over the whole project folder and the repository.  Also keeps a copy as the session's last statuses.
+const StatusTable& WalkProject(Session& session);
+/// The status of one path, asked of the repository.  Throws Failure.
+FileStatus AskStatus(Session& session, const std::string& path);
+/// The bits of one libsvn status for `user`.
+FileStatus ToFileStatus(const svn_client_status_t& status, const std::string& user);
+
+}  // namespace svnscc

@@ -1,0 +1,80 @@
+// Owners for what libsvn hands out, and the one place where its errors become exceptions.
+#pragma once
+
+#include <apr_tables.h>
+#include <svn_error.h>
+#include <svn_pools.h>
+
+#include <exception>
+#include <stdexcept>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "provider/sccdefs.h"
+
+namespace svnscc {
+
+/// A memory pool of APR: everything allocated in it lives as long as it does.
+class Pool {
+ public:
+  Pool() : pool_(svn_pool_create(nullptr)) {}
+  explicit Pool(apr_pool_t* parent) : pool_(svn_pool_create(parent)) {}
+  Pool(Pool&& other) noexcept : pool_(std::exchange(other.pool_, nullptr)) {}
+  Pool& operator=(Pool&& other) noexcept {
+    std::swap(pool_, other.pool_);
+    return *this;
+  }
+  ~Pool() {
+    if (pool_ != nullptr) svn_pool_destroy(pool_);
+  }
+  operator apr_pool_t*() const { return pool_; }
+  void Clear() { svn_pool_clear(pool_); }
+
+ private:
+  apr_pool_t* pool_;
+};
+
+/// A failure as the API and the user see it: a return code and a sentence.
+class Failure : public std::runtime_error {
+ public:
+  Failure(scc::Long result, const std::string& text, std::vector<apr_status_t> codes = {})
+      : std::runtime_error(text), result_(result), codes_(std::move(codes)) {}
+  scc::Long Result() const { return result_; }
+  /// Whether `code` is anywhere in libsvn's chain of errors.
+  bool Has(apr_status_t code) const;
+
+ private:
+  scc::Long result_;
+  std::vector<apr_status_t> codes_;
+};
+
+/// The failure that a chain of errors means.  Borrows `error`.
+Failure ToFailure(svn_error_t* error);
+/// Takes ownership of `error`; throws its Failure unless it is SVN_NO_ERROR.
+void Check(svn_error_t* error);
+
+/// What a callback called from C must keep in: runs `body`, keeps its exception, and tells libsvn to stop.
+template <class Body>
+svn_error_t* Contain(std::exception_ptr& kept, Body&& body) noexcept {
+  try {
+    body();
+    return SVN_NO_ERROR;
+  } catch (...) {
+    kept = std::current_exception();
+    return svn_error_create(SVN_ERR_CANCELLED, nullptr, nullptr);
+  }
+}
+/// Check() for a call whose callbacks used Contain.
+inline void Check(svn_error_t* error, const std::exception_ptr& kept) {
+  if (kept != nullptr) {
+    svn_error_clear(error);
+    std::rethrow_exception(kept);
+  }
+  Check(error);
+}
+
+/// The texts as libsvn takes lists; copied into `pool`.
+apr_array_header_t* ToArray(const std::vector<std::string>& texts, apr_pool_t* pool);
+
+}  // namespace svnscc
