@@ -14,5 +14,11 @@ target_precompile_headers(wx_pch PRIVATE <wx/wx.h> <functional> <map> <memory> <
 # use_wx(target): links the toolkit and reuses its precompiled header.
 function(use_wx target)
   target_link_libraries(${target} PRIVATE warnings wx)
+  get_target_property(type ${target} TYPE)
+  if(type STREQUAL "EXECUTABLE" AND NOT WIN32)
+    # -fPIC as in the libraries instead of -fPIE: the precompiled header takes no other.
+    set_target_properties(${target} PROPERTIES POSITION_INDEPENDENT_CODE OFF)
+    target_compile_options(${target} PRIVATE -fPIC)
+  endif()
   target_precompile_headers(${target} REUSE_FROM wx_pch)
 endfunction()
