@@ -36,7 +36,8 @@ void TEditorManager<TNotifier>::Add(const std::string& fileName) {
 
 template <class TNotifier>
 void TEditorManager<TNotifier>::Remove(const std::string& fileName) {
-  const auto found = std::ranges::find_if(items_, [&](auto& item) { return SameText(item->FileName(), fileName); });
+  const auto found =
+      std::ranges::find_if(items_, [&](auto& item) { return SameText(item->FileName(), fileName); });
   if (found == items_.end()) return;
   const auto removed = *found;  // alive until it is detached
   items_.erase(found);
@@ -50,7 +51,8 @@ std::shared_ptr<TNotifier> TEditorManager<TNotifier>::GetItem(int index) const {
 
 template <class TNotifier>
 void TEditorManager<TNotifier>::PutItem(int index, std::shared_ptr<TNotifier> notifier) {
-  if (index >= 0 && index < GetCount() && notifier) items_[static_cast<std::size_t>(index)] = std::move(notifier);
+  if (index >= 0 && index < GetCount() && notifier)
+    items_[static_cast<std::size_t>(index)] = std::move(notifier);
 }
 
 template class TEditorManager<TSccEditorNotifier>;

@@ -40,7 +40,8 @@ class TEditorManager {
 /// What both kinds share: the file, the expert, and the place at the host's editor.
 class TAttachedNotifier : public TNotifierObject {
  public:
-  TAttachedNotifier(TSccExpert& expert, std::string fileName) : expert_(expert), file_name_(std::move(fileName)) {}
+  TAttachedNotifier(TSccExpert& expert, std::string fileName)
+      : expert_(expert), file_name_(std::move(fileName)) {}
   const std::string& FileName() const { return file_name_; }
 
   /// Attaches `self`, which is this object, to the editor.

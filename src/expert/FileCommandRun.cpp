@@ -74,7 +74,9 @@ void TFileCommandRun::Execute() {
     CallTogether();
 }
 
-TSCCProviderProject& TFileCommandRun::Project() { return expert_.RequireProject(directory_, command_.NoProvider); }
+TSCCProviderProject& TFileCommandRun::Project() {
+  return expert_.RequireProject(directory_, command_.NoProvider);
+}
 
 void TFileCommandRun::Gather() {
   expert_.AddAssociatedFiles(&all_files_, command_.OnlyExisting);
@@ -127,7 +129,8 @@ void TFileCommandRun::AskComment(const std::string& caption, bool showApplyToAll
 
 bool TFileCommandRun::WantsComment() {
   Project();
-  return command_.CommentCapability && expert_.ProviderList()->Capabilities().test(*command_.CommentCapability);
+  return command_.CommentCapability &&
+         expert_.ProviderList()->Capabilities().test(*command_.CommentCapability);
 }
 
 bool TFileCommandRun::CallProvider(const TStringList& files) {
@@ -155,7 +158,8 @@ void TFileCommandRun::CallCounting() {
   std::size_t succeeded = 0;
   for (const auto& file : selected_) {
     expert_.SaveIfModified(file);
-    if (WantsComment() && !apply_to_all_) AskComment(Format(sCommentsFor.Text, {ExtractFileName(file)}), true);
+    if (WantsComment() && !apply_to_all_)
+      AskComment(Format(sCommentsFor.Text, {ExtractFileName(file)}), true);
     if (CallProvider({file})) ++succeeded;
   }
   Reload(succeeded == selected_.size());

@@ -33,7 +33,8 @@ bool CanUndoCheckOut(Long status) { return All(status, SCC_STATUS_OUTBYUSER | SC
 const TFileCommand kAddFiles{
     .Command = SCC_COMMAND_ADD,
     .Eligible = CanAdd,
-    .Run = [](auto& project, auto& c) { return project.AddFile(c.Files, c.Comment, c.KeepCheckedOut, c.Messages); },
+    .Run = [](auto& project,
+              auto& c) { return project.AddFile(c.Files, c.Comment, c.KeepCheckedOut, c.Messages); },
     .CallKind = PerFileCounting,
     .CommentCapability = pcCommentAdd,
     .SaveAllFirst = true,
@@ -99,7 +100,8 @@ const TFileCommand kGetLatestVersion{
 const TFileCommand kCheckInFiles{
     .Command = SCC_COMMAND_CHECKIN,
     .Eligible = CanCheckIn,
-    .Run = [](auto& project, auto& c) { return project.CheckInFile(c.Files, c.Comment, c.KeepCheckedOut, c.Messages); },
+    .Run = [](auto& project,
+              auto& c) { return project.CheckInFile(c.Files, c.Comment, c.KeepCheckedOut, c.Messages); },
     .CallKind = Batch,
     .CommentCapability = pcCommentCheckIn,
     .SaveAllFirst = true,

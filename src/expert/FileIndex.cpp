@@ -7,7 +7,9 @@ TFileIndex::TFileIndex(const std::vector<std::string>& files) {
   for (std::size_t row = 0; row < files.size(); ++row) Add(files[row], row);
 }
 
-void TFileIndex::Add(const std::string& fileName, std::size_t row) { rows_[FoldCase(fileName)].push_back(row); }
+void TFileIndex::Add(const std::string& fileName, std::size_t row) {
+  rows_[FoldCase(fileName)].push_back(row);
+}
 
 std::span<const std::size_t> TFileIndex::Rows(const std::string& fileName) const {
   const auto found = rows_.find(FoldCase(fileName));

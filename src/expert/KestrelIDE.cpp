@@ -21,7 +21,8 @@ class TProductStartup {
   TProductStartup& operator=(const TProductStartup&) = delete;
   ~TProductStartup() {
     auto* wizards = IdeService<IOTAWizardServices>();
-    if (wizards && wizard_index_) wizards->RemoveWizard(*wizard_index_);  // the host lets go, and the expert goes
+    if (wizards && wizard_index_)
+      wizards->RemoveWizard(*wizard_index_);  // the host lets go, and the expert goes
     auto* application = IdeService<IOTAApplication>();
     if (application && cookie_) application->MainFormCreated().Unsubscribe(*cookie_);
   }
@@ -31,7 +32,8 @@ class TProductStartup {
     if (aSccExpert) return;
     auto expert = std::make_shared<TSccExpert>(forms_);
     aSccExpert = expert.get();
-    if (auto* wizards = IdeService<IOTAWizardServices>()) wizard_index_ = wizards->AddWizard(std::move(expert));
+    if (auto* wizards = IdeService<IOTAWizardServices>())
+      wizard_index_ = wizards->AddWizard(std::move(expert));
   }
 
   TExpertForms forms_;

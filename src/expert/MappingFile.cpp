@@ -13,24 +13,33 @@
 struct TMappingFile::TIni {
   CSimpleIniA Data;
 
-  TIni() {
+  explicit TIni(const std::string& text) {
     Data.SetUnicode();  // bytes go through unchanged
     Data.SetSpaces(false);
     Data.SetQuotes();        // project strings are the provider's: blanks and quotes at their ends are kept
     Data.SetAllowKeyOnly();  // a line that is only a word survives a rewrite
+    Data.LoadData(text);
   }
 };
 
 std::string MappingFileName(const std::string& projectFile) {
-  return ExtractFileDir(projectFile) + PathDelim + ChangeFileExt(ExtractFileName(projectFile), kMappingExtension);
+  return ExtractFileDir(projectFile) + PathDelim +
+         ChangeFileExt(ExtractFileName(projectFile), kMappingExtension);
 }
 
-TMappingFile::TMappingFile(std::string path) : path_(std::move(path)), ini_(std::make_unique<TIni>()) {
-  if (!FileExists(path_)) return;
-  text_ = ReadWholeFile(path_);
-  if (text_.find('\0') != std::string::npos) throw std::runtime_error(Format(sMappingFileBinary.Text, {path_}));
-  ini_->Data.LoadData(text_);
+namespace {
+
+std::string ReadText(const std::string& path) {
+  if (!FileExists(path)) return {};
+  auto text = ReadWholeFile(path);
+  if (text.find('\0') != std::string::npos) throw std::runtime_error(Format(sMappingFileBinary.Text, {path}));
+  return text;
 }
+
+}  // namespace
+
+TMappingFile::TMappingFile(std::string path)
+    : path_(std::move(path)), text_(ReadText(path_)), ini_(std::make_unique<TIni>(text_)) {}
 
 TMappingFile::~TMappingFile() = default;
 
@@ -70,14 +79,21 @@ void RefuseCutHeaders(const std::string& path, const std::string& text) {
   }
 }
 
+/// The parser takes one pair of quotes off a value; one that has its own is given another.
+std::string Quoted(const std::string& value) {
+  const bool own = value.size() >= 2 && value.starts_with('"') && value.ends_with('"');
+  return own ? '"' + value + '"' : value;
+}
+
 }  // namespace
 
 void TMappingFile::Write(const std::string& section, const std::string& key, const std::string& value) {
   if (HasKey(section, key) && Read(section, key) == value) return;
   RefuseCutHeaders(path_, text_);
-  ini_->Data.SetValue(section.c_str(), key.c_str(), value.c_str());
+  ini_->Data.SetValue(section.c_str(), key.c_str(), Quoted(value).c_str());
   std::string text;
   ini_->Data.Save(text);
   WriteFileAtomically(path_, text);
   text_ = std::move(text);
+  ini_ = std::make_unique<TIni>(text_);
 }

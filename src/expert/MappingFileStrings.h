@@ -6,4 +6,5 @@
 inline constexpr TResString sMappingFileBinary{
     "The project mapping file %s holds binary data. It was left as it is; restore it or delete it."};
 inline constexpr TResString sMappingFileDamaged{
-    "The project mapping file %s is damaged in line %d (\"%s\"). It was left as it is; mend that line first."};
+    "The project mapping file %s is damaged in line %d (\"%s\"). It was left as it is; mend that line "
+    "first."};

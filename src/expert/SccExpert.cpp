@@ -26,6 +26,14 @@ void WriteMessageFmt(TMsgWinType kind, std::string_view format, std::initializer
   WriteMessage(kind, Format(format, args));
 }
 
+void Guarded(TMsgWinType kind, const TResString& format, const std::function<void()>& body) {
+  try {
+    body();
+  } catch (const std::exception& error) {
+    WriteMessageFmt(kind, format.Text, {error.what()});
+  }
+}
+
 /// Brings what providers say to the message window.
 class TProviderMessages final : public IProviderSink {
  public:

@@ -25,13 +25,17 @@ class TSourceEditorManager;
 
 /// Files that travel with a source unit, and those that travel with a project: the extension is replaced by each entry.
 inline constexpr std::array SRC_EXTENSIONS{".kdp", ".kfm", ".kcr", ".tlb", ".xfm", "_tlb.pas", ".nfm"};
-inline constexpr std::array PRJ_EXTENSIONS{".kpr", ".cfg",  ".kof", ".dsk",     ".res",
+inline constexpr std::array PRJ_EXTENSIONS{".kpr",  ".cfg", ".kof", ".dsk",     ".res",
                                            ".todo", ".tlb", ".kcr", "_tlb.pas", "_tlb.kcr"};
 
 /// Writes one line to the message window; an all-blank text is dropped.  Throws std::runtime_error when there is no
 /// message window.
 void WriteMessage(TMsgWinType kind, const std::string& text);
 void WriteMessageFmt(TMsgWinType kind, std::string_view format, std::initializer_list<TFormatArg> args);
+
+/// The boundary of a routine: whatever `body` throws becomes one line of the message window, `format` with the error's
+/// message in place of %s.
+void Guarded(TMsgWinType kind, const TResString& format, const std::function<void()>& body);
 
 class TSccExpert final : public TNotifierObject, public IOTAWizard {
  public:
@@ -70,8 +74,9 @@ class TSccExpert final : public TNotifierObject, public IOTAWizard {
   bool ProjectExists(const std::string& mappingFile);
 
   // Opening and closing of projects.
-  /// Handles one notification of the host.  While a provider call is running (a provider may pump messages) it is kept
-  /// and handled when the call has returned: the library must not go away under its own feet.
+  /// Handles one notification of the host.  One that arrives while another is being handled, or while a provider call
+  /// is running (a provider may pump messages), waits until that is over: the library must not go away under its own
+  /// feet.
   void HandleNotification(TOTAFileNotification code, const std::string& fileName);
   void FileNotifyProjectOpen(const std::string& fileName);
   void FileNotifyProjectClose(const std::string& fileName);
@@ -94,8 +99,8 @@ class TSccExpert final : public TNotifierObject, public IOTAWizard {
   /// Appends to `dest` the companions of `fileName` that are among the gathered files and are on disk (when `checkDisk`
   /// asks for that) or controlled.  A companion may then stand in `dest` twice: that is meant.  `source` is the index of
   /// the gathered files, `statuses` is parallel to them.
-  void GetAssociatedFiles(const std::string& fileName, const TFileIndex& source, TStringList& dest, bool checkDisk,
-                          const TStatusArray& statuses) const;
+  void GetAssociatedFiles(const std::string& fileName, const TFileIndex& source, TStringList& dest,
+                          bool checkDisk, const TStatusArray& statuses) const;
 
   // The file commands.  A blank name means every eligible file of the current project, otherwise that one file.
   void AddFiles(const std::string& fileName);
@@ -156,6 +161,7 @@ class TSccExpert final : public TNotifierObject, public IOTAWizard {
   std::string OpenProjectFile();
   void ReleaseProvider();
   void HandlePendingNotifications();
+  void Handle(TOTAFileNotification code, const std::string& fileName);
   /// The provider project of that directory, made current.  Throws EAbort with `noProvider` without a provider list,
   /// or when no provider project matches.
   TSCCProviderProject& RequireProject(const std::string& directory, const std::string& noProvider);
@@ -189,6 +195,7 @@ class TSccExpert final : public TNotifierObject, public IOTAWizard {
     std::string FileName;
   };
   std::vector<TNotification> pending_;
+  bool handling_ = false;
   bool command_running_ = false;
 };
 

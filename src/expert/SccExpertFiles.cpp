@@ -10,8 +10,12 @@
 #include "host/Paths.h"
 #include "host/System.h"
 
-void TSccExpert::AddFiles(const std::string& fileName) { TFileCommandRun(*this, kAddFiles, fileName).Execute(); }
-void TSccExpert::RemoveFiles(const std::string& fileName) { TFileCommandRun(*this, kRemoveFiles, fileName).Execute(); }
+void TSccExpert::AddFiles(const std::string& fileName) {
+  TFileCommandRun(*this, kAddFiles, fileName).Execute();
+}
+void TSccExpert::RemoveFiles(const std::string& fileName) {
+  TFileCommandRun(*this, kRemoveFiles, fileName).Execute();
+}
 void TSccExpert::GetLatestVersion(const std::string& fileName) {
   TFileCommandRun(*this, kGetLatestVersion, fileName).Execute();
 }

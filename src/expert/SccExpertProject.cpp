@@ -13,19 +13,27 @@ void* TSccIDENotifier::QueryInterface(const TGuid& iid) noexcept {
 }
 
 void TSccIDENotifier::FileNotification(TOTAFileNotification code, const std::string& fileName, bool&) {
-  // The host discards what a notifier throws, so the reason is kept where the user can find it.
-  try {
-    expert_.HandleNotification(code, fileName);
-  } catch (const std::exception& error) {
-    WriteMessageFmt(mwtError, sFileNotificationError.Text, {error.what()});
-  }
+  expert_.HandleNotification(code, fileName);
 }
 
 void TSccExpert::HandleNotification(TOTAFileNotification code, const std::string& fileName) {
-  if (ProviderCallInProgress()) {
-    pending_.push_back({code, fileName});
-    return;
+  pending_.push_back({code, fileName});
+  HandlePendingNotifications();
+}
+
+void TSccExpert::HandlePendingNotifications() {
+  if (handling_ || ProviderCallInProgress()) return;
+  handling_ = true;
+  while (!pending_.empty()) {
+    const auto [code, fileName] = pending_.front();
+    pending_.erase(pending_.begin());
+    // The host discards what a notifier throws, so the reason is kept where the user can find it.
+    Guarded(mwtError, sFileNotificationError, [&] { Handle(code, fileName); });
   }
+  handling_ = false;
+}
+
+void TSccExpert::Handle(TOTAFileNotification code, const std::string& fileName) {
   switch (code) {
     case TOTAFileNotification::fnFileOpened:
       if (IsProject(fileName) && fileName == GetCurrentProjectFile()) FileNotifyProjectOpen(fileName);
@@ -38,11 +46,6 @@ void TSccExpert::HandleNotification(TOTAFileNotification code, const std::string
       if (IsProject(fileName)) FileNotifyProjectOpen(fileName);
       break;
   }
-}
-
-void TSccExpert::HandlePendingNotifications() {
-  if (ProviderCallInProgress()) return;
-  for (const auto& [code, fileName] : std::exchange(pending_, {})) HandleNotification(code, fileName);
 }
 
 std::string TSccExpert::GetCurrentProjectFile() {
@@ -95,14 +98,11 @@ void TSccExpert::OpenProviderProject(const std::string& fileName) {
 
 void TSccExpert::CloseFailedProject(const std::string& directory) {
   HideMessages();
-  // The box that was just shown ran a message loop, in which the host may have closed the project.
-  if (provider_list_ && provider_list_->SetCurrentProject(directory)) {
-    TStateMessages messages;
-    provider_list_->CurrentProject()->CloseProject(messages);
-    provider_list_->Remove(directory);
-    provider_list_->SetCurrentProject(directory);  // drops the reference to the one removed
-  }
+  TStateMessages messages;
+  provider_list_->CurrentProject()->CloseProject(messages);
   if (menu_) menu_->EnableMenus(false);
+  provider_list_->Remove(directory);
+  provider_list_->SetCurrentProject(directory);  // drops the reference to the one removed
 }
 
 void TSccExpert::ReleaseProvider() {
@@ -117,8 +117,7 @@ void TSccExpert::FileNotifyProjectClose(const std::string& fileName) {
     TStateMessages messages;
     provider_list_->CurrentProject()->CloseProject(messages);
     DisplayMessages(sCloseProject, messages);
-    // The boxes ran a message loop, in which the host may have closed the project already.
-    if (provider_list_) provider_list_->Remove(directory);
+    provider_list_->Remove(directory);
   }
   ReleaseProvider();
 }

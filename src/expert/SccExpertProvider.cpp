@@ -121,7 +121,8 @@ void TSccExpert::ViewChange(const std::string& fileName) {
     if (!provider_list_->SetCurrentProject(ExtractFileDir(GetCurrentProjectFile()))) return;
     TStatusArray statuses;
     TStateMessages messages;
-    if (provider_list_->CurrentProject()->Query({fileName}, statuses, messages)) DecodeQueryStatus(fileName, statuses[0]);
+    if (provider_list_->CurrentProject()->Query({fileName}, statuses, messages))
+      DecodeQueryStatus(fileName, statuses[0]);
   } catch (const std::exception& error) {
     WriteMessageFmt(mwtError, sViewChangeError.Text, {error.what()});
   }

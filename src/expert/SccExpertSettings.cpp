@@ -11,15 +11,6 @@ namespace {
 
 constexpr std::size_t kUserNameBuffer = 37;  // characters, terminator included
 
-/// The boundary of a routine: whatever `body` throws becomes one line of the message window.
-void Guarded(TMsgWinType kind, const TResString& format, const auto& body) {
-  try {
-    body();
-  } catch (const std::exception& error) {
-    WriteMessageFmt(kind, format.Text, {error.what()});
-  }
-}
-
 std::string ReadRegistry(const std::string& key, const std::string& name) {
   TRegistry registry;
   return registry.OpenKeyReadOnly(key) ? registry.ReadString(name) : std::string();

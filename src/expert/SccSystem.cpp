@@ -21,7 +21,8 @@ constexpr std::array EXCLUDE_EXTENSIONS{".dll", ".exe"};
 
 bool IsExcluded(const std::string& fileName) {
   const auto extension = ExtractFileExt(fileName);
-  return std::ranges::any_of(EXCLUDE_EXTENSIONS, [&](auto excluded) { return SameText(extension, excluded); });
+  return std::ranges::any_of(EXCLUDE_EXTENSIONS,
+                             [&](auto excluded) { return SameText(extension, excluded); });
 }
 
 }  // namespace

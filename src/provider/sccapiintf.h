@@ -22,7 +22,8 @@
 
 /// The registry layout that programs share; keys are relative to the local-machine root.
 inline constexpr const char* kProviderKey = "Software\\SourceCodeControlProvider";
-inline constexpr const char* kInstalledProvidersKey = "Software\\SourceCodeControlProvider\\InstalledSCCProviders";
+inline constexpr const char* kInstalledProvidersKey =
+    "Software\\SourceCodeControlProvider\\InstalledSCCProviders";
 inline constexpr const char* kProviderRegKey = "ProviderRegKey";
 inline constexpr const char* kServerName = "SccServerName";
 inline constexpr const char* kServerPath = "SccServerPath";
@@ -157,8 +158,10 @@ class TSCCProviderProject {
   // File commands.  All throw EAbort for an empty list (a blank name for the history) before the provider is called;
   // provider results never throw.  Comments are cut at 128 bytes.
   bool CheckOutFile(const TStringList& files, const std::string& comment, TStateMessages& messages);
-  bool AddFile(const TStringList& files, const std::string& comment, bool keepCheckedOut, TStateMessages& messages);
-  bool CheckInFile(const TStringList& files, const std::string& comment, bool keepCheckedOut, TStateMessages& messages);
+  bool AddFile(const TStringList& files, const std::string& comment, bool keepCheckedOut,
+               TStateMessages& messages);
+  bool CheckInFile(const TStringList& files, const std::string& comment, bool keepCheckedOut,
+                   TStateMessages& messages);
   bool RemoveFile(const TStringList& files, TStateMessages& messages);
   bool UnCheckOutFile(const TStringList& files, TStateMessages& messages);
   scc::Long GetFile(const TStringList& files, TStateMessages& messages);
@@ -166,8 +169,8 @@ class TSCCProviderProject {
   scc::Long ShowDiff(const std::string& fileName, scc::Long flags, TStateMessages& messages);
   bool SilentDiff(const std::string& fileName, TStateMessages& messages);
   scc::Long ShowHistory(const std::string& fileName, TStateMessages& messages);
-  bool PopulateList(scc::SCCCommand command, const TStringList& files, scc::TPopListFunc callback, TStatusArray& statuses,
-                    TStateMessages& messages);
+  bool PopulateList(scc::SCCCommand command, const TStringList& files, scc::TPopListFunc callback,
+                    TStatusArray& statuses, TStateMessages& messages);
   bool PopulateDirectoriesList(scc::SCCCommand command, const TStringList& files, scc::TPopListFunc callback,
                                TStatusArray& statuses, TStateMessages& messages);
   bool GetCommandOptions(TCommandOptions command, TCommandOptionFlags flag, TStateMessages& messages);
@@ -179,8 +182,8 @@ class TSCCProviderProject {
   scc::Long OpenAt(TStateMessages& messages, const TBoundedText& localPath);
   scc::Long Get(const TStringList& names, scc::Long flags, TStateMessages& messages);
   scc::Long Diff(const std::string& fileName, scc::Long flags, TStateMessages& messages);
-  bool Populate(scc::SCCCommand command, const TStringList& files, scc::TPopListFunc callback, TStatusArray& statuses,
-                scc::Long flags, TStateMessages& messages);
+  bool Populate(scc::SCCCommand command, const TStringList& files, scc::TPopListFunc callback,
+                TStatusArray& statuses, scc::Long flags, TStateMessages& messages);
   scc::WindowHandle Window() const;
   void* Options() { return options_.data(); }
 
@@ -271,4 +274,3 @@ class TSCCProviderList {
   std::string userName_;
   std::string initializeError_;
 };
-

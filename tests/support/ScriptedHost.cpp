@@ -6,9 +6,12 @@
 
 void* TScriptedModule::QueryInterface(const TGuid& iid) noexcept {
   switch (ModuleKind) {
-    case Kind::Unit: return FindInterface<IOTAModule>(static_cast<IOTAProject*>(this), iid);
-    case Kind::Project: return FindInterface<IOTAProject, IOTAModule>(static_cast<IOTAProject*>(this), iid);
-    case Kind::Group: return FindInterface<IOTAProjectGroup, IOTAModule>(static_cast<IOTAProjectGroup*>(this), iid);
+    case Kind::Unit:
+      return FindInterface<IOTAModule>(static_cast<IOTAProject*>(this), iid);
+    case Kind::Project:
+      return FindInterface<IOTAProject, IOTAModule>(static_cast<IOTAProject*>(this), iid);
+    case Kind::Group:
+      return FindInterface<IOTAProjectGroup, IOTAModule>(static_cast<IOTAProjectGroup*>(this), iid);
   }
   return nullptr;
 }
@@ -25,8 +28,8 @@ TScriptedHost::~TScriptedHost() { CorvaneIDEServices = nullptr; }
 
 void* TScriptedHost::QueryInterface(const TGuid& iid) noexcept {
   if (!HasServices && iid == IOTAServices::IID) return nullptr;
-  return FindInterface<IOTAServices, IOTAModuleServices, IOTAActionServices, IOTAEditorServices, IOTAMenuServices,
-                       IOTAOptionsServices, IOTAWizardServices, IOTAApplication>(this, iid);
+  return FindInterface<IOTAServices, IOTAModuleServices, IOTAActionServices, IOTAEditorServices,
+                       IOTAMenuServices, IOTAOptionsServices, IOTAWizardServices, IOTAApplication>(this, iid);
 }
 
 TScriptedModule& TScriptedHost::Add(std::unique_ptr<TScriptedModule> module) {

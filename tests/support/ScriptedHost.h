@@ -58,13 +58,15 @@ class TScriptedModule : public IOTAProject, public IOTAProjectGroup {
   std::string FileName;
   Kind ModuleKind;
   std::deque<TScriptedEditor> Editors;
-  std::vector<std::string> Modules;  // of a project
+  std::vector<std::string> Modules;   // of a project
   TScriptedModule* Active = nullptr;  // of a group
 };
 
 class TScriptedPropertySet : public IOTAPropertySet {
  public:
-  void* QueryInterface(const TGuid& iid) noexcept override { return FindInterface<IOTAPropertySet>(this, iid); }
+  void* QueryInterface(const TGuid& iid) noexcept override {
+    return FindInterface<IOTAPropertySet>(this, iid);
+  }
   std::string GetValue(const std::string& field) override { return Values[field]; }
   void SetValue(const std::string& field, const std::string& value) override { Values[field] = value; }
   void Load() override {}

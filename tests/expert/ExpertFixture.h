@@ -1,0 +1,127 @@
+// An expert in a host in memory, on the scripted provider: a mapped project App in a temporary folder, and a script for
+// every window.
+#pragma once
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "expert/SccExpert.h"
+#include "host/Errors.h"
+#include "host/Paths.h"
+#include "host/Registry.h"
+#include "support/Environment.h"
+#include "support/ScriptedForms.h"
+#include "support/ScriptedHost.h"
+#include "support/ScriptedProvider.h"
+#include "support/TemporaryFolder.h"
+#include "ui/ExpertMainMenu.h"
+
+using testing::Contains;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+
+inline constexpr const char* kScripted = "Scripted";
+
+class TExpertTest : public testing::Test {
+ protected:
+  TExpertTest() {
+    InstallProvider(kScripted, ScriptedProviderLibrary::Path(), true);
+    project_file_ = folder_.Write("work/App.qvxproj", "[Modules]\n");
+    WriteMapping("[Scripted]\nProjName=trunk/App\nAuxProjPath=repo\nUserName=ann\n");
+    for (const char* unit : {"unit1.pas", "unit2.pas"})
+      units_.push_back(folder_.Write(std::string("work/") + unit, "x"));
+    folder_.Write("work/unit1.kfm", "form");
+  }
+  ~TExpertTest() override {
+    EXPECT_THAT(forms_.Unexpected, IsEmpty());
+    expert_.reset();
+  }
+
+  void InstallProvider(const std::string& name, const std::string& path, bool isDefault) {
+    TRegistry registry;
+    const auto key = "Software\\" + name;
+    registry.OpenKey(key);
+    registry.WriteString("SccServerName", name);
+    registry.WriteString("SccServerPath", path);
+    registry.OpenKey(kInstalledProvidersKey);
+    registry.WriteString(name, key);
+    registry.OpenKey(kProviderKey);
+    if (isDefault) registry.WriteString(kProviderRegKey, key);
+  }
+  void WriteMapping(const std::string& text) { folder_.Write("work/App.cdp", text); }
+  std::string Mapping() const { return ReadWholeFile(folder_ / "work/App.cdp"); }
+  std::string At(const std::string& name) const { return folder_ / ("work/" + name); }
+
+  /// Creates the expert, as the host's main form does.
+  TSccExpert& Start() {
+    expert_ = std::make_unique<TSccExpert>(forms_);
+    return *expert_;
+  }
+  /// Starts and opens the project in the host.
+  TSccExpert& Open() {
+    Start();
+    host_.AddProject(project_file_, units_);
+    host_.Notify(TOTAFileNotification::fnFileOpened, project_file_);
+    return *expert_;
+  }
+  /// A script for the file list: ticks these names and presses OK.
+  void WillTick(std::vector<std::string> names) {
+    forms_.OnFileList.push_back([names](TFileListModel& model) {
+      for (std::size_t row = 0; row < model.Count(); ++row)
+        model.SetChecked(row, std::ranges::count(names, model.NameOf(row)) > 0);
+      return mrOk;
+    });
+  }
+  void WillComment(const std::string& text) {
+    forms_.OnComments.push_back([text](TCommentModel& model) {
+      model.Text = text;
+      return mrOk;
+    });
+  }
+  /// The names that the next file list offers; the user cancels it.
+  std::vector<std::string> Offered(void (TSccExpert::*command)(const std::string&),
+                                   const std::string& file = {}) {
+    std::vector<std::string> names;
+    forms_.OnFileList.push_back([&](TFileListModel& model) {
+      for (std::size_t row = 0; row < model.Count(); ++row) names.push_back(model.NameOf(row));
+      return mrCancel;
+    });
+    try {
+      (expert_.get()->*command)(file);
+    } catch (const EAbort&) {
+      forms_.OnFileList.clear();
+    }
+    return names;
+  }
+  std::vector<std::string> NamesOf(const ScriptedCall& call) const {
+    std::vector<std::string> names;
+    for (const auto& file : call.Files) names.push_back(ExtractFileName(file));
+    return names;
+  }
+
+  TTemporaryFolder folder_;
+  TEnvironmentVariable registry_{"CORVANE_REGISTRY_DIR", folder_.MakeFolder("registry").c_str()};
+  ScriptedProviderLibrary provider_;
+  TScriptedHost host_;
+  TScriptedForms forms_;
+  std::string project_file_;
+  std::vector<std::string> units_;
+  std::unique_ptr<TSccExpert> expert_;
+};
+
+/// The message of the EAbort that `action` ends with.
+inline std::string AbortOf(const std::function<void()>& action) {
+  try {
+    action();
+  } catch (const EAbort& abort) {
+    return abort.what();
+  }
+  return "(no abort)";
+}

@@ -1,0 +1,365 @@
+// The file commands from gathering to the final box.
+#include <map>
+
+#include "expert/ExpertFixture.h"
+#include "expert/FileCommands.h"
+#include "host/System.h"
+
+namespace {
+
+using namespace scc;
+constexpr Long kMine = SCC_STATUS_CONTROLLED | SCC_STATUS_CHECKEDOUT | SCC_STATUS_OUTBYUSER;
+
+class FileCommand : public TExpertTest {};
+
+TEST(FileCommandRules, DecideByStatusBits) {
+  struct TRow {
+    const char* Name;
+    Long Status;
+    bool Add, Remove, Get, CheckIn, CheckOut, Undo;
+  };
+  const TRow rows[] = {
+      {"not controlled", 0, true, false, false, false, false, false},
+      {"checked in", 0x1, false, true, true, false, true, false},
+      {"mine, here", kMine, false, true, true, true, false, true},
+      {"mine, elsewhere", 0x1001, false, true, true, false, false, false},
+      {"another's, shared", 0x5, false, true, true, false, true, false},
+      {"another's, exclusive", 0xD, false, true, true, false, false, false},
+      {"exclusive to nobody named", 0x9, false, true, true, false, true, false},
+      {"deleted", 0x41, true, false, true, false, false, false},
+      {"no information", -1, true, false, true, true, false, true},
+      {"mine but not controlled", 0x1002, false, false, false, false, false, true},
+  };
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.Name);
+    EXPECT_EQ(CanAdd(row.Status), row.Add);
+    EXPECT_EQ(CanRemove(row.Status), row.Remove);
+    EXPECT_EQ(CanGet(row.Status), row.Get);
+    EXPECT_EQ(CanCheckIn(row.Status), row.CheckIn);
+    EXPECT_EQ(CanCheckOut(row.Status), row.CheckOut);
+    EXPECT_EQ(CanUndoCheckOut(row.Status), row.Undo);
+  }
+}
+
+TEST_F(FileCommand, CheckOutTakesTickedFilesWithTheirCompanionsOneByOne) {
+  auto& expert = Open();
+  provider_->StatusOf = [](const std::string& file) {
+    const auto name = ExtractFileName(file);
+    return name == "unit1.pas" || name == "unit2.pas" || name == "unit1.kfm" ? Long{1} : Long{0};
+  };
+  WillTick({"unit1.pas"});
+  WillComment("because");
+  expert.CheckOutFiles("  ");
+
+  std::vector<std::string> checkedOut;
+  for (const auto& call : provider_->Calls) {
+    if (call.Entry != "SccCheckout") continue;
+    EXPECT_EQ(call.Files.size(), 1U);
+    EXPECT_EQ(call.Comment, "because");
+    checkedOut.push_back(ExtractFileName(call.Files.front()));
+  }
+  EXPECT_THAT(checkedOut, ElementsAre("unit1.pas", "unit1.kfm"));
+  EXPECT_EQ(forms_.Boxes.back(),
+            (TShownBox{"Check Out File(s)", "Selected files were checked out successfully", metInfo}));
+}
+
+TEST_F(FileCommand, TickedCompanionGoesToTheProviderTwice) {
+  auto& expert = Open();
+  WillTick({"unit1.pas", "unit1.kfm"});
+  WillComment("");
+  expert.CheckOutFiles({});
+  std::map<std::string, int> times;
+  for (const auto& call : provider_->Calls)
+    if (call.Entry == "SccCheckout") ++times[ExtractFileName(call.Files.front())];
+  EXPECT_EQ(times["unit1.kfm"], 2);  // meant
+}
+
+TEST_F(FileCommand, OffersEligibleFilesInOrderOfGathering) {
+  Open();
+  provider_->StatusOf = [](const std::string& file) {
+    const std::map<std::string, Long> statuses{
+        {"unit1.pas", 0x5}, {"unit2.pas", 0xD}, {"App.qvxproj", 1}, {"unit2.kfm", 0x41}};
+    const auto found = statuses.find(ExtractFileName(file));
+    return found == statuses.end() ? Long{0} : found->second;
+  };
+  EXPECT_THAT(Offered(&TSccExpert::CheckOutFiles), ElementsAre("unit1.pas", "App.qvxproj"));
+  EXPECT_THAT(Offered(&TSccExpert::CheckOutFiles, At("unit2.pas")), ElementsAre("unit2.pas"))
+      << "a single file is offered whatever its status";
+  EXPECT_THAT(Offered(&TSccExpert::RemoveFiles), ElementsAre("unit1.pas", "unit2.pas", "App.qvxproj"));
+  // Only what is on disk can be added: the form of unit1 is, the others are not.
+  EXPECT_THAT(Offered(&TSccExpert::AddFiles), ElementsAre("unit1.kfm"));
+}
+
+TEST_F(FileCommand, StatusColumnShowsTheQuickDifference) {
+  auto& expert = Open();
+  const std::map<Long, std::string> texts{
+      {0, "Current"},         {6, "Modified"}, {-11, "Not controlled"},     {-26, "Unauthorized"},
+      {-8, "Access failure"}, {-15, "Error"},  {-28, "Local file missing"}, {-7, "Unknown"}};
+  for (const auto& [code, text] : texts) {
+    provider_->Results["SccDiff"] = code;
+    std::string status;
+    forms_.OnFileList.push_back([&](TFileListModel& model) {
+      status = model.StatusOf(0);
+      return mrCancel;
+    });
+    EXPECT_EQ(AbortOf([&] { expert.CheckOutFiles(units_[0]); }), "User cancelled dialog");
+    EXPECT_EQ(status, text);
+  }
+  EXPECT_EQ(provider_->Last("SccDiff").Flags, 32);
+}
+
+TEST_F(FileCommand, NothingEligibleShowsABoxAndAborts) {
+  auto& expert = Open();
+  provider_->DefaultStatus = 0;
+  EXPECT_EQ(AbortOf([&] { expert.CheckInFiles({}); }), "No files available");
+  EXPECT_EQ(forms_.Boxes.back(), (TShownBox{"Check In File", "No files available", metInfo}));
+}
+
+TEST_F(FileCommand, CommentIsAskedOnlyWhenTheProviderWantsOne) {
+  provider_->Capabilities = 0;
+  auto& expert = Open();
+  WillTick({"unit2.pas"});
+  expert.CheckOutFiles({});  // a comment dialog would be unexpected
+  EXPECT_THAT(provider_->Last("SccCheckout").Comment, HasSubstr("CheckOut File: "));
+}
+
+TEST_F(FileCommand, CancelledCommentCallsNothing) {
+  auto& expert = Open();
+  provider_->DefaultStatus = kMine;
+  WillTick({"unit2.pas"});
+  forms_.OnComments.push_back([](TCommentModel&) { return mrCancel; });
+  EXPECT_EQ(AbortOf([&] { expert.CheckInFiles({}); }), "User cancelled dialog");
+  EXPECT_EQ(provider_->Count("SccCheckin"), 0);
+  EXPECT_EQ(forms_.Boxes.back(), (TShownBox{"Check In File", "User cancelled dialog", metInfo}));
+}
+
+TEST_F(FileCommand, CheckInIsOneCallThenMakesFilesWritableAndReloads) {
+  auto& expert = Open();
+  host_.AddUnit(units_[1]);
+  provider_->DefaultStatus = kMine;
+  provider_->OnCall["SccCheckin"] = [](const ScriptedCall& call) {
+    for (const auto& file : call.Files) SetFileAttributesOf(file, faReadOnly);
+  };
+  forms_.OnFileList.push_back([](TFileListModel& model) {
+    EXPECT_EQ(model.Extra, TFileListModel::ExtraBox::KeepCheckedOut);
+    EXPECT_TRUE(model.KeepCheckedOut);
+    model.KeepCheckedOut = false;
+    model.SetChecked(0, true);
+    model.SetChecked(1, true);
+    return mrOk;
+  });
+  WillComment("done");
+  expert.CheckInFiles({});
+
+  const auto& call = provider_->Last("SccCheckin");
+  EXPECT_EQ(provider_->Count("SccCheckin"), 1);
+  EXPECT_EQ(call.Comment, "done");
+  EXPECT_EQ(call.Flags, 0);
+  EXPECT_EQ(GetFileAttributesOf(units_[0]), faArchive);
+  EXPECT_THAT(host_.Log, ElementsAre("SaveAll", "ReloadFile " + units_[1]));
+  EXPECT_EQ(forms_.Boxes.back().Title, "Check In File(s)");
+}
+
+TEST_F(FileCommand, KeptCheckedOutFilesKeepTheirAttributes) {
+  auto& expert = Open();
+  provider_->DefaultStatus = kMine;
+  SetFileAttributesOf(units_[1], faReadOnly);
+  WillTick({"unit2.pas"});
+  WillComment("more to come");
+  expert.CheckInFiles(units_[1]);
+  EXPECT_EQ(provider_->Last("SccCheckin").Flags, SCC_KEEP_CHECKEDOUT);
+  EXPECT_NE(GetFileAttributesOf(units_[1]) & faReadOnly, 0U);
+}
+
+TEST_F(FileCommand, FailedSaveAllStopsBeforeTheProvider) {
+  auto& expert = Open();
+  provider_->Calls.clear();
+  host_.SaveSucceeds = false;
+  EXPECT_THAT(AbortOf([&] { expert.CheckInFiles({}); }), HasSubstr("Unkown save error."));
+  EXPECT_THAT(provider_->Entries(), IsEmpty());
+}
+
+TEST_F(FileCommand, CheckOutSavesModifiedUnitsAndProjectsFirst) {
+  provider_->Capabilities = 0;
+  auto& expert = Open();
+  host_.AddUnit(units_[0]).Editors.front().Modified = true;
+  host_.AddUnit(units_[1]);
+  provider_->OnCall["SccCheckout"] = [&](const ScriptedCall&) { host_.Log.emplace_back("SccCheckout"); };
+  WillTick({"unit1.pas", "unit2.pas"});
+  provider_->StatusOf = [](const std::string& file) { return Long{ExtractFileExt(file) == ".pas"}; };
+  expert.CheckOutFiles({});
+  EXPECT_EQ(host_.Log.front(), "SaveFile " + units_[0]);
+  EXPECT_EQ(std::ranges::count(host_.Log, "SaveFile " + units_[1]), 0);
+}
+
+TEST_F(FileCommand, OnlyTheLastCheckOutDecidesAboutTheReport) {
+  auto& expert = Open();
+  int calls = 0;
+  const auto failOn = [&](int which) {
+    calls = 0;
+    provider_->OnCall["SccCheckout"] = [&, which](const ScriptedCall&) {
+      provider_->Results["SccCheckout"] = ++calls == which ? SCC_E_FILEOUTEXCLUSIVE : SCC_OK;
+    };
+    forms_.Boxes.clear();
+    provider_->StatusOf = [&](const std::string& file) { return Long{std::ranges::count(units_, file) > 0}; };
+    WillTick({"unit1.pas", "unit2.pas"});
+    WillComment("x");
+    expert.CheckOutFiles({});
+  };
+  failOn(1);
+  EXPECT_THAT(
+      forms_.Boxes,
+      ElementsAre(
+          TShownBox{"Check Out File", "Someone else has done an exclusive checkout on this file", metError},
+          TShownBox{"Check Out File(s)", "Selected files were checked out successfully", metInfo}));
+  failOn(2);
+  EXPECT_THAT(forms_.Boxes,
+              ElementsAre(TShownBox{"Check Out File",
+                                    "Someone else has done an exclusive checkout on this file", metError}));
+}
+
+TEST_F(FileCommand, AddAsksPerFileUntilTheCommentIsToldToServeAll) {
+  auto& expert = Open();
+  provider_->DefaultStatus = 0;
+  folder_.Write("work/unit2.kfm", "form");
+  WillTick({"unit1.pas", "unit2.pas"});
+  std::vector<std::string> captions;
+  for (const bool all : {false, true})
+    forms_.OnComments.push_back([&, all](TCommentModel& model) {
+      EXPECT_TRUE(model.ShowApplyToAll);
+      captions.push_back(model.Caption);
+      model.Text = "comment " + std::to_string(captions.size());
+      model.ApplyToAll = all;
+      return mrOk;
+    });
+  expert.AddFiles({});
+
+  std::vector<std::string> comments;
+  for (const auto& call : provider_->Calls)
+    if (call.Entry == "SccAdd") comments.push_back(ExtractFileName(call.Files.front()) + ": " + call.Comment);
+  EXPECT_THAT(captions, ElementsAre("Comments for unit1.pas", "Comments for unit1.kfm"));
+  EXPECT_THAT(comments, ElementsAre("unit1.pas: comment 1", "unit1.kfm: comment 2", "unit2.pas: comment 2",
+                                    "unit2.kfm: comment 2"));
+  EXPECT_EQ(provider_->Last("SccAdd").Flags, SCC_KEEP_CHECKEDOUT);
+  EXPECT_EQ(forms_.Boxes.back(), (TShownBox{"Add File", "All files were added successfully", metInfo}));
+}
+
+TEST_F(FileCommand, AddCountsSuccesses) {
+  provider_->Capabilities = 0;
+  auto& expert = Open();
+  provider_->DefaultStatus = 0;
+  provider_->OnCall["SccAdd"] = [&](const ScriptedCall& call) {
+    provider_->Results["SccAdd"] =
+        ExtractFileName(call.Files[0]) == "unit1.pas" ? SCC_E_FILEALREADYEXISTS : SCC_OK;
+  };
+  WillTick({"unit1.pas", "unit2.pas"});
+  expert.AddFiles({});
+  EXPECT_EQ(forms_.Boxes.back(), (TShownBox{"Add File", "Not all files were added", metError}));
+}
+
+TEST_F(FileCommand, BatchCommandsReportAndReloadOnlyOnSuccess) {
+  struct TRow {
+    void (TSccExpert::*Command)(const std::string&);
+    const char* Entry;
+    TShownBox Final;
+    bool Reloads;
+  };
+  const TRow rows[] = {
+      {&TSccExpert::RemoveFiles,
+       "SccRemove",
+       {"Remove File", "unit2.pas was removed successfully", metInfo},
+       false},
+      {&TSccExpert::GetLatestVersion,
+       "SccGet",
+       {"Get Latest Version", "unit2.pas was successfully retrieved", metInfo},
+       true},
+      {&TSccExpert::UndoCheckOut,
+       "SccUncheckout",
+       {"Undo Check out File", "unit2.pas was checked back in successfully", metInfo},
+       true},
+  };
+  auto& expert = Open();
+  host_.AddUnit(units_[1]);
+  provider_->StatusOf = [&](const std::string& file) { return file == units_[1] ? kMine : Long{0}; };
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.Entry);
+    for (const bool succeeds : {true, false}) {
+      provider_->Results[row.Entry] = succeeds ? SCC_OK : SCC_E_ACCESSFAILURE;
+      host_.Log.clear();
+      forms_.Boxes.clear();
+      WillTick({"unit2.pas"});
+      (expert.*row.Command)({});
+      EXPECT_EQ(provider_->Last(row.Entry).Files, std::vector{units_[1]});
+      EXPECT_EQ(forms_.Boxes.size(), 1U);
+      EXPECT_EQ(forms_.Boxes.back() == row.Final, succeeds);
+      EXPECT_EQ(!host_.Log.empty(), succeeds && row.Reloads);
+    }
+  }
+}
+
+TEST_F(FileCommand, ProjectClosedWhileTheListIsOpenCallsNothing) {
+  auto& expert = Open();
+  forms_.OnFileList.push_back([&](TFileListModel& model) {
+    host_.Notify(TOTAFileNotification::fnFileClosing, project_file_);
+    host_.CloseModule(project_file_);
+    model.ChangeAllCheckedStates(true);
+    return mrOk;
+  });
+  EXPECT_EQ(AbortOf([&] { expert.CheckOutFiles({}); }), "Unable to checkout files, provider not assigned");
+  EXPECT_EQ(provider_->Count("SccCheckout"), 0);
+}
+
+TEST_F(FileCommand, ProjectClosedInsideAProviderCallIsClosedAfterIt) {
+  auto& expert = Open();
+  bool openInside = false;
+  provider_->OnCall["SccCheckout"] =
+      [&](const ScriptedCall&) {  // a provider's dialog pumps the host's messages
+        host_.Notify(TOTAFileNotification::fnFileClosing, project_file_);
+        openInside = provider_->Open;
+      };
+  WillTick({"unit1.pas", "unit2.pas"});
+  WillComment("x");
+  expert.RunCommand("%s", [&] { expert.CheckOutFiles({}); });
+  EXPECT_TRUE(openInside);
+  EXPECT_FALSE(provider_->Open);
+  EXPECT_EQ(provider_->Count("SccCheckout"), 1) << "the second file has no provider any more";
+  EXPECT_THAT(forms_.LinesOf(mwtInfo), Contains("Unable to checkout files, provider not assigned"));
+}
+
+TEST_F(FileCommand, SecondCommandIsRefusedWhileOneRuns) {
+  auto& expert = Open();
+  forms_.OnFileList.push_back([&](TFileListModel&) {
+    expert.Menu()->actCheckInFiles.OnExecute();
+    return mrCancel;
+  });
+  expert.Menu()->actCheckOutFiles.OnExecute();
+  EXPECT_THAT(forms_.LinesOf(mwtInfo),
+              Contains("CheckFilesInClick; Another source control command is still running"));
+  EXPECT_THAT(forms_.LinesOf(mwtInfo), Contains("CheckFilesOutClick; User cancelled dialog"));
+}
+
+TEST_F(FileCommand, MoreFilesThanOneQueryCarriesAreRefused) {
+  auto& expert = Open();
+  for (int i = 0; i < 10000; ++i) units_.push_back(At("u" + std::to_string(i) + ".pas"));
+  host_.CloseModule(project_file_);
+  host_.AddProject(project_file_, units_);
+  provider_->Calls.clear();
+  EXPECT_THAT(AbortOf([&] { expert.RemoveFiles({}); }), HasSubstr("65"));
+  EXPECT_EQ(provider_->Count("SccQueryInfo"), 0);
+}
+
+TEST_F(FileCommand, ProviderWidensAndNarrowsTheList) {
+  auto& expert = Open();
+  provider_->List = {{false, 0, units_[0]},   {true, 1, At("server-only.pas")}, {true, 1, units_[1]},
+                     {true, 1, std::nullopt}, {true, 1, At("SERVER-ONLY.pas")}, {true, 1, "  "}};
+  TStringList list{units_[0]};
+  expert.ProviderAddRemove(list, SCC_COMMAND_GET);
+  EXPECT_THAT(list, ElementsAre(units_[0], units_[1], At("server-only.pas")));
+
+  provider_->List = {{false, 0, units_[1]}, {true, 1, units_[1]}};
+  list.clear();
+  expert.ProviderAddRemove(list, SCC_COMMAND_GET);
+  EXPECT_THAT(list, ElementsAre(units_[0], units_[1])) << "removed and added: present once";
+}
+
+}  // namespace

@@ -1,0 +1,67 @@
+// Differences, history, properties, the provider's application; reloading what they changed.
+#include "expert/ExpertFixture.h"
+
+namespace {
+
+using namespace scc;
+
+class ProviderWindows : public TExpertTest {};
+
+TEST_F(ProviderWindows, DifferencesSaveFirstAndPassTheFlag) {
+  auto& expert = Open();
+  host_.AddUnit(units_[0]).Editors.front().Modified = true;
+  expert.ShowDiff(units_[0]);
+  EXPECT_THAT(host_.Log, ElementsAre("SaveFile " + units_[0]));
+  EXPECT_EQ(provider_->Last("SccDiff").Flags, 2);
+}
+
+TEST_F(ProviderWindows, HistoryReloadsOnlyWhenTheProviderSaysSo) {
+  auto& expert = Open();
+  host_.AddUnit(units_[0]);
+  expert.ShowHistory(units_[0]);
+  EXPECT_THAT(host_.Log, IsEmpty());
+  provider_->Results["SccHistory"] = SCC_I_RELOADFILE;
+  expert.ShowHistory(units_[0]);
+  EXPECT_THAT(host_.Log, ElementsAre("ReloadFile " + units_[0]));
+  EXPECT_EQ(forms_.Boxes.back().Title, "Show History");
+}
+
+TEST_F(ProviderWindows, NeedAProjectWithAProviderProject) {
+  auto& expert = Start();
+  EXPECT_EQ(AbortOf([&] { expert.Properties(units_[0]); }),
+            "No project or package file found in current project");
+  host_.AddProject(project_file_, units_);
+  EXPECT_EQ(AbortOf([&] { expert.Properties(units_[0]); }),
+            "Unable to set current project, no matching path");
+}
+
+TEST_F(ProviderWindows, ApplicationRunsInATemporaryProjectWithoutOne) {
+  auto& expert = Start();
+  expert.RunSccApp();
+  EXPECT_EQ(provider_->Count("SccRunScc"), 1);
+  EXPECT_EQ(expert.ProviderList()->GetCount(), 0);
+  EXPECT_EQ(expert.ProviderList()->CurrentProject(), nullptr);
+}
+
+TEST_F(ProviderWindows, ReloadingAProjectFileReopensTheGroupOrTheProject) {
+  auto& expert = Open();
+  host_.AddUnit(units_[0]);
+  expert.ReloadFiles({units_[0], At("APP.QVXPROJ"), At("notopen.pas")});
+  EXPECT_THAT(host_.Log, ElementsAre("CloseAll", "OpenProject " + project_file_));
+  host_.Log.clear();
+
+  const auto group = folder_.Write("work/All.qvxgroup", "");
+  host_.AddGroup(group, nullptr);
+  expert.ReloadFile(project_file_);
+  EXPECT_THAT(host_.Log, ElementsAre("CloseAll", "OpenFile " + group));
+  host_.Log.clear();
+
+  host_.AddProject(At("Other.qvxproj"), {});
+  host_.CloseModule(project_file_);
+  host_.CloseModule(group);
+  host_.AddProject(project_file_, units_);
+  expert.ReloadFiles({At("Other.qvxproj"), units_[0], At("notopen.pas")});
+  EXPECT_THAT(host_.Log, ElementsAre("ReloadFile " + units_[0]));
+}
+
+}  // namespace

@@ -1,0 +1,97 @@
+// Which provider, library and user: registry, user's settings and mapping file.
+#include "expert/ExpertFixture.h"
+
+namespace {
+
+class Settings : public TExpertTest {};
+
+TEST_F(Settings, EmptyOptionsAreFilledFromTheMachine) {
+  auto& expert = Start();
+  EXPECT_EQ(expert.ProviderName(), kScripted);
+  EXPECT_EQ(expert.ProviderPath(), ScriptedProviderLibrary::Path());
+  EXPECT_EQ(host_.Options.Values["SCCProvider"], kScripted);
+  EXPECT_FALSE(expert.UserName().empty());
+  EXPECT_EQ(host_.Options.Values["UserName"], expert.UserName());
+  EXPECT_EQ(host_.Options.Saves, 1);
+}
+
+TEST_F(Settings, ChosenOptionsStay) {
+  InstallProvider("Second", "/second.so", false);
+  host_.Options.Values = {{"SCCProvider", "Second"}, {"UserName", "bob"}};
+  auto& expert = Start();
+  EXPECT_EQ(expert.ProviderPath(), "/second.so");
+  EXPECT_EQ(expert.UserName(), "bob");
+  EXPECT_EQ(host_.Options.Saves, 0);
+}
+
+TEST_F(Settings, DefaultIsFoundByItsKeyIgnoringCase) {
+  TRegistry registry;
+  registry.OpenKey(kProviderKey);
+  registry.WriteString(kProviderRegKey, "SOFTWARE\\SCRIPTED");
+  EXPECT_EQ(Start().ProviderName(), kScripted);
+  registry.WriteString(kProviderRegKey, "Software\\Nobody");
+  host_.Options.Values.clear();
+  expert_->ReadSettings();
+  EXPECT_EQ(expert_->ProviderName(), "");
+  EXPECT_FALSE(expert_->ProviderCreate(0));
+}
+
+TEST_F(Settings, FirstSectionOfTheMappingWins) {
+  InstallProvider("Second", "/second.so", false);
+  host_.Options.Values = {{"SCCProvider", "Second"}, {"UserName", "bob"}};
+  WriteMapping("[Scripted]\nUserName=ann\n[Second]\nUserName=carl\n");
+  auto& expert = Start();
+  expert.ReadProjectSettings(project_file_);
+  EXPECT_EQ(expert.ProviderName(), kScripted);
+  EXPECT_EQ(expert.UserName(), "ann");
+  EXPECT_EQ(expert.ProviderPath(), ScriptedProviderLibrary::Path());
+
+  for (const char* nothing : {"", "no sections here\n"}) {
+    WriteMapping(nothing);
+    expert.ReadProjectSettings(project_file_);
+    EXPECT_EQ(expert.ProviderName(), "Second");
+    EXPECT_EQ(expert.UserName(), "bob");
+  }
+}
+
+TEST_F(Settings, MissingUserNameIsWrittenBeforeItIsRead) {
+  WriteMapping("[Scripted]\nProjName=p\n");
+  auto& expert = Start();
+  std::string project, user = "dora", aux;
+  EXPECT_TRUE(expert.ReadSCCIniFile(project_file_, project, user, aux));
+  EXPECT_EQ(project, "p");
+  EXPECT_THAT(Mapping(), HasSubstr("UserName=dora"));
+  EXPECT_FALSE(expert.UpdateSCCIniFile(project_file_, "   "));
+  EXPECT_THAT(Mapping(), HasSubstr("UserName=dora"));
+}
+
+TEST_F(Settings, BrokenMappingIsALineAndStaysAsItIs) {
+  auto& expert = Start();
+  const std::string binary("[Scripted]\n\0\xFF\xFE", 14);
+  WriteMapping(binary);
+  EXPECT_FALSE(expert.ProjectExists(At("App.cdp")));
+  EXPECT_THAT(forms_.LinesOf(mwtInfo),
+              Contains(HasSubstr("ProjectExists exception: The project mapping file")));
+  expert.ReadProjectSettings(project_file_);
+  EXPECT_THAT(forms_.LinesOf(mwtError), Contains(HasSubstr("ReadSettings; The project mapping file")));
+  EXPECT_FALSE(expert.UpdateSCCIniFile(project_file_, "ann"));
+  EXPECT_EQ(Mapping(), binary);
+}
+
+TEST_F(Settings, MappingThatCannotBeWrittenIsALine) {
+  auto& expert = Start();
+  // A folder in the file's place: nobody, not even root, can write it.
+  EXPECT_FALSE(expert.UpdateSCCIniFile(folder_ / "missing/App.qvxproj", "ann"));
+  EXPECT_THAT(forms_.LinesOf(mwtInfo), Contains(HasSubstr("UpdateSCCIniFile; ")));
+}
+
+TEST_F(Settings, NoRegistryMeansNoProviderAndNoCrash) {
+  std::filesystem::remove_all(folder_ / "registry");
+  auto& expert = Open();
+  EXPECT_EQ(expert.ProviderName(), "");
+  expert.Menu()->Map.OnClick();
+  EXPECT_FALSE(expert.Menu()->actCheckOutFiles.Enabled);
+  EXPECT_THAT(forms_.LinesOf(mwtError), IsEmpty());
+}
+
+}  // namespace

@@ -1,0 +1,92 @@
+// The expert's start, end, and its window for messages.
+#include "expert/EditorNotifiers.h"
+#include "expert/ExpertFixture.h"
+
+namespace {
+
+class StartUp : public TExpertTest {};
+
+TEST_F(StartUp, InstallsMenuAndNotifierAndTakesThemAway) {
+  Start();
+  EXPECT_EQ(host_.Menus.size(), 1U);
+  EXPECT_EQ(host_.Notifiers.size(), 1U);
+  EXPECT_THAT(forms_.Lines,
+              ElementsAre(std::pair(mwtInfo, "SccExpert; Quillon 7 Source Code Control Interface"),
+                          std::pair(mwtInfo, "Provider: Scripted")));
+  EXPECT_EQ(provider_->Count("SccInitialize"), 0) << "no provider at start-up";
+  EXPECT_EQ(expert_->SourceEditors()->GetCount(), 0);
+  expert_.reset();
+  EXPECT_THAT(host_.Menus, IsEmpty());
+  EXPECT_THAT(host_.Actions, IsEmpty());
+  EXPECT_THAT(host_.Notifiers, IsEmpty());
+}
+
+TEST_F(StartUp, WithoutServicesTheExpertExistsAndSaysWhy) {
+  host_.HasServices = false;
+  auto& expert = Start();
+  EXPECT_THAT(forms_.PlainBoxes, ElementsAre("Expert create error: Unable to get IDE services"));
+  EXPECT_EQ(expert.Menu(), nullptr);
+  EXPECT_EQ(expert.ProviderName(), kScripted) << "what came before the failure was set";
+}
+
+TEST_F(StartUp, BlankLinesAreDroppedAndNoWindowIsAnError) {
+  Start();
+  const auto lines = forms_.Lines.size();
+  WriteMessage(mwtInfo, " \t ");
+  EXPECT_EQ(forms_.Lines.size(), lines);
+  WriteMessageFmt(mwtWarning, "%s is %d", {"x", 3});
+  EXPECT_EQ(forms_.Lines.back(), std::pair(mwtWarning, std::string("x is 3")));
+  expert_.reset();
+  EXPECT_THROW(WriteMessage(mwtInfo, "x"), std::runtime_error);
+}
+
+TEST_F(StartUp, ProviderTextReachesTheWindowWithItsKind) {
+  provider_->Texts["SccOpenProject"] = {
+      {1, "hello"}, {2, "careful"}, {3, "broken"}, {4, "status"}, {1, std::nullopt}};
+  Open();
+  EXPECT_THAT(forms_.Lines, testing::IsSupersetOf({std::pair(mwtInfo, std::string("hello")),
+                                                   std::pair(mwtWarning, std::string("careful")),
+                                                   std::pair(mwtError, std::string("broken"))}));
+}
+
+TEST_F(StartUp, MessagesComeErrorFirst) {
+  auto& expert = Start();
+  expert.DisplayMessages("Title", {"line", "info", "error"});
+  EXPECT_THAT(forms_.Boxes,
+              ElementsAre(TShownBox{"Title", "error", metError}, TShownBox{"Title", "line", metWarning},
+                          TShownBox{"Title", "info", metWarning}));
+  EXPECT_EQ(forms_.Lines.back(), std::pair(mwtInfo, std::string("line")));
+  forms_.Boxes.clear();
+  expert.DisplayMessages("Title", {});
+  EXPECT_THAT(forms_.Boxes, IsEmpty());
+}
+
+TEST_F(StartUp, EditorNotifiersAttachAndDetach) {
+  auto& expert = Open();
+  auto& unit = host_.AddUnit(units_[0]);
+  unit.Editors.emplace_back(At("unit1.kfm"), true);
+  host_.TopBuffer = units_[0];
+  auto& editors = *expert.SourceEditors();
+  editors.Add(units_[0]);
+  ASSERT_EQ(editors.GetCount(), 1);
+
+  editors.GetItem(0)->ViewNotification(TOTAOperation::opInsert);
+  EXPECT_EQ(expert.FormEditors()->GetCount(), 1);
+  editors.GetItem(0)->ViewActivated();
+  EXPECT_THAT(forms_.LinesOf(mwtInfo), Contains("[unit1.pas]: Under source code control"));
+
+  const auto notifier = unit.Editors[0].Notifiers[0];
+  notifier->Destroyed();
+  EXPECT_EQ(editors.GetCount(), 0);
+  EXPECT_EQ(unit.Editors[0].Notifiers[0], nullptr) << "detached from the host";
+  EXPECT_THROW(editors.Add(At("nowhere.pas")), EAbort);
+}
+
+TEST_F(StartUp, WizardIdentity) {
+  auto& expert = Start();
+  EXPECT_EQ(expert.GetIDString(), "Corvane SoftwarePull project wizard");
+  EXPECT_EQ(Supports<IOTAWizard>(static_cast<IOTAWizard*>(&expert)), &expert);
+  EXPECT_EQ(expert.GetState(), 1U);
+}
+
+}  // namespace

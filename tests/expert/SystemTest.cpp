@@ -1,0 +1,68 @@
+// What the host is asked.
+#include "expert/ExpertFixture.h"
+#include "expert/SccSystem.h"
+
+namespace {
+
+TEST(HostAccess, CurrentProjectIsTheGroupsActiveOneElseTheLast) {
+  TScriptedHost host;
+  EXPECT_EQ(CurrentProject(), nullptr);
+  auto& first = host.AddProject("/a.qvxproj", {});
+  host.AddProject("/b.qvxproj", {});
+  EXPECT_EQ(CurrentProject()->GetFileName(), "/b.qvxproj");
+  auto& group = host.AddGroup("/g.qvxgroup", nullptr);
+  EXPECT_EQ(CurrentProject()->GetFileName(), "/b.qvxproj")
+      << "a group without an active project does not count";
+  group.Active = &first;
+  EXPECT_EQ(CurrentProject()->GetFileName(), "/a.qvxproj");
+}
+
+TEST(HostAccess, ProjectUnitsLeaveOutLibrariesAndPrograms) {
+  TScriptedHost host;
+  TStringList units{"kept"};
+  rv_EnumProjectUnits(&units);
+  EXPECT_THAT(units, ElementsAre("kept")) << "no project";
+  host.AddProject("/a.qvxproj", {"/u.pas", "/x.DLL", "/tool.exe", "/r.res"});
+  rv_EnumProjectUnits(&units);
+  EXPECT_THAT(units, ElementsAre("/u.pas", "/r.res"));
+  EXPECT_EQ(rv_GetUnitCount(), 4);
+}
+
+TEST(HostAccess, EditorsAndTheirState) {
+  TScriptedHost host;
+  EXPECT_FALSE(IsUnitModified("/u.pas"));
+  auto& unit = host.AddUnit("/u.pas");
+  unit.Editors.front().Modified = true;
+  EXPECT_TRUE(IsUnitModified("/U.PAS"));
+
+  host.TopBuffer = "/loose.txt";
+  EXPECT_EQ(rv_GetCurrentFile(), "") << "shown, but not open as a module";
+  host.TopBuffer = "/u.pas";
+  EXPECT_EQ(rv_GetCurrentFile(), "/u.pas");
+
+  EXPECT_EQ(GetFormEditor(nullptr, ".kfm"), nullptr);
+  EXPECT_EQ(GetFormEditor(&static_cast<IOTAProject&>(unit), ".kfm"), nullptr);
+  unit.Editors.emplace_back("/u.KFM", true);
+  EXPECT_NE(GetFormEditor(&static_cast<IOTAProject&>(unit), ".kfm"), nullptr)
+      << "no match: the last editor is a form";
+  EXPECT_EQ(GetActiveFormEditor()->GetFileName(), "/u.KFM");
+  unit.Editors.emplace_back("/u.txt", false);
+  EXPECT_EQ(GetFormEditor(&static_cast<IOTAProject&>(unit), ".kfm"), nullptr);
+
+  auto& form = host.AddUnit("/f.pas");
+  form.Editors.front().IsForm = true;
+  EXPECT_THROW(IsUnitModified("/f.pas"), std::runtime_error);
+}
+
+TEST(HostAccess, HelpFileComesFromTheMachinesHelpKey) {
+  TTemporaryFolder folder;
+  TEnvironmentVariable registry("CORVANE_REGISTRY_DIR", folder.Path().c_str());
+  EXPECT_EQ(GetRVHelpFile("RavelinDSP.hlp"), "");
+  TRegistry writer;
+  writer.OpenKey("SOFTWARE\\Microsoft\\Windows\\Help");
+  writer.WriteString("RavelinDSP.hlp", "/opt/help");
+  EXPECT_EQ(GetRVHelpFile("RavelinDSP.hlp"), "/opt/help/RavelinDSP.hlp");
+  EXPECT_EQ(GetRVHelpFile("other.hlp"), "/other.hlp");
+}
+
+}  // namespace
