@@ -142,11 +142,16 @@ class TSCCProviderProject {
   std::string get_UserName() const;  // [33]
   void set_UserName(const std::string& value);
 
+  // When the provider lets an exception out, its message becomes element 2 of the messages, booleans are false, and
+  // codes are -15 (non-specific failure); only OpenProject still answers 0, so look at element 2 there.
+
+  /// Lets the user choose or create a provider project.  On 0 (OK) element 0 tells which of the two it was.
   scc::Long GetProjectPath(TStateMessages& messages, bool mayCreate, bool mayChangePath);
   scc::Long OpenProject(TStateMessages& messages);
   /// The same with another local path, which leaves the session's own untouched.
   scc::Long OpenProject(TStateMessages& messages, const std::string& localPath);
   bool CloseProject(TStateMessages& messages);
+  /// "major.minor" of the provider's interface; empty when it does not tell.
   std::string GetVersion();
   void Properties(const std::string& fileName, TStateMessages& messages);
   void GetEvents(TStateMessages& messages);
@@ -169,11 +174,16 @@ class TSCCProviderProject {
   scc::Long ShowDiff(const std::string& fileName, scc::Long flags, TStateMessages& messages);
   bool SilentDiff(const std::string& fileName, TStateMessages& messages);
   scc::Long ShowHistory(const std::string& fileName, TStateMessages& messages);
+  /// Lets the provider widen or narrow the list through `callback`.  True whatever its code; at most kMaxFiles files,
+  /// none allowed.  Throws EAbort for more.
   bool PopulateList(scc::SCCCommand command, const TStringList& files, scc::TPopListFunc callback,
                     TStatusArray& statuses, TStateMessages& messages);
+  /// The same for names of directories.
   bool PopulateDirectoriesList(scc::SCCCommand command, const TStringList& files, scc::TPopListFunc callback,
                                TStatusArray& statuses, TStateMessages& messages);
+  /// coQuery: whether the provider has advanced options for the command.  coShowAdvDialog: shows them; false.
   bool GetCommandOptions(TCommandOptions command, TCommandOptionFlags flag, TStateMessages& messages);
+  /// Opens the provider's browser for files under control; a box tells how it ended.
   void AddFromScc(TStateMessages& messages);
 
  private:
