@@ -74,7 +74,10 @@ void TCommentsForm::FitMemo() {
   Layout();
 }
 
-void TCommentsForm::FormShow() { CommentsMemo->SetFocus(); }
+void TCommentsForm::FormShow() {
+  CommentsMemo->SetFocus();
+  CommentsMemo->SetInsertionPointEnd();
+}
 
 void TCommentsForm::btnOKClick(wxCommandEvent&) {
   FitMemo();  // what was typed last may still wait for it

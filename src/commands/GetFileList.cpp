@@ -3,6 +3,8 @@
 #include <wx/wx.h>
 
 #include <algorithm>
+#include <set>
+#include <string_view>
 
 #include "commands/GetFileListStrings.h"
 #include "expert/SccExpert.h"
@@ -17,6 +19,7 @@ enum TColumn { colName, colStatus, colPath };
 constexpr int kNameWidth = 180;
 constexpr int kStatusWidth = 100;
 constexpr int kMinPathWidth = 120;
+constexpr int kCellMargins = 16;
 
 std::size_t Row(long item) { return static_cast<std::size_t>(item); }
 
@@ -27,9 +30,18 @@ TFilesListView::TFilesListView(wxWindow* parent, TFileListModel& model)
       model_(model) {
   EnableCheckBoxes();
   AppendColumn(ToWx(sNameColumn), wxLIST_FORMAT_LEFT, FromDIP(kNameWidth));
-  AppendColumn(ToWx(sStatusColumn), wxLIST_FORMAT_LEFT, FromDIP(kStatusWidth));
+  AppendColumn(ToWx(sStatusColumn), wxLIST_FORMAT_LEFT, StatusWidth());
   AppendColumn(ToWx(sPathColumn), wxLIST_FORMAT_LEFT, FromDIP(kMinPathWidth));
   SetItemCount(static_cast<long>(model_.Count()));
+}
+
+int TFilesListView::StatusWidth() const {
+  std::set<std::string_view> texts;  // a handful, however many rows there are
+  for (std::size_t row = 0; row < model_.Count(); ++row) texts.insert(model_.StatusOf(row));
+  int width = FromDIP(kStatusWidth);
+  for (const auto text : texts)
+    width = std::max(width, GetTextExtent(ToWx(std::string(text))).GetWidth() + FromDIP(kCellMargins));
+  return width;
 }
 
 void TFilesListView::ToggleSelected() {
@@ -112,19 +124,19 @@ void TGetFileListForm::CreateControls() {
 
 void TGetFileListForm::LayOut() {
   const int gap = FromDIP(6);
-  auto* left = new wxBoxSizer(wxVERTICAL);
-  left->Add(new wxStaticText(this, wxID_ANY, ToWx(sFilesLabel)), wxSizerFlags().Border(wxBOTTOM, FromDIP(2)));
-  left->Add(FilesListView, wxSizerFlags(1).Expand());
-  for (auto* box : {cbKeepCheckedOut, cbCheckOut}) left->Add(box, wxSizerFlags().Border(wxTOP, gap));
-
   auto* right = new wxBoxSizer(wxVERTICAL);
   for (auto* button : {btnOK, btnCancel, btnCheckAll, btnUncheckAll})
     right->Add(button, wxSizerFlags().Expand().Border(wxBOTTOM, gap));
   right->Add(btnAdvanced, wxSizerFlags().Expand().Border(wxTOP, FromDIP(24)));
+  auto* client = new wxBoxSizer(wxHORIZONTAL);
+  client->Add(FilesListView, wxSizerFlags(1).Expand().Border(wxRIGHT, gap));
+  client->Add(right);
 
-  auto* all = new wxBoxSizer(wxHORIZONTAL);
-  all->Add(left, wxSizerFlags(1).Expand().Border(wxALL, gap));
-  all->Add(right, wxSizerFlags().Border(wxTOP | wxRIGHT, gap));
+  auto* all = new wxBoxSizer(wxVERTICAL);
+  all->Add(new wxStaticText(this, wxID_ANY, ToWx(sFilesLabel)), wxSizerFlags().Border(wxLEFT | wxTOP, gap));
+  all->Add(client, wxSizerFlags(1).Expand().Border(wxLEFT | wxRIGHT | wxBOTTOM, gap));
+  for (auto* box : {cbKeepCheckedOut, cbCheckOut})
+    all->Add(box, wxSizerFlags().Border(wxLEFT | wxRIGHT | wxBOTTOM, gap));
   SetSizer(all);
   SetMinSize(FromDIP(wxSize(569, 274)));
   SetSize(FromDIP(wxSize(662, 359)));
@@ -172,14 +184,24 @@ void TGetFileListForm::FormShow() {
 
 void TGetFileListForm::FormKeyDown(wxKeyEvent& event) {
   const bool inList = FilesListView->IsDescendant(FindFocus());
-  if (event.GetKeyCode() == WXK_F1 && !model_.HelpKeyword.empty()) {
-    if (auto* application = IdeService<IOTAApplication>()) application->HelpKeyword(model_.HelpKeyword);
-  } else if (event.GetKeyCode() == WXK_SPACE && !event.HasAnyModifiers() && inList) {
-    FilesListView->ToggleSelected();
-    CheckState();
-  } else {
+  if (event.GetKeyCode() == WXK_F1)
+    ShowHelp();
+  else if (inList && event.GetKeyCode() == WXK_SPACE && !event.HasAnyModifiers())
+    ToggleSelected();
+  else if (inList && event.GetKeyCode() == 'A' && event.GetModifiers() == wxMOD_CONTROL)
+    FilesListView->SetItemState(-1, wxLIST_STATE_SELECTED, wxLIST_STATE_SELECTED);
+  else
     TModalForm::FormKeyDown(event);
-  }
+}
+
+void TGetFileListForm::ShowHelp() {
+  auto* application = IdeService<IOTAApplication>();
+  if (application && !model_.HelpKeyword.empty()) application->HelpKeyword(model_.HelpKeyword);
+}
+
+void TGetFileListForm::ToggleSelected() {
+  FilesListView->ToggleSelected();
+  CheckState();
 }
 
 void TGetFileListForm::btnOKClick(wxCommandEvent&) {

@@ -28,6 +28,9 @@ class TFilesListView final : public wxListView {
   bool OnGetItemIsChecked(long item) const override;
 
  private:
+  /// Wide enough for the longest status.
+  int StatusWidth() const;
+
   TFileListModel& model_;
 };
 
@@ -63,6 +66,8 @@ class TGetFileListForm final : public TModalForm {
   void CreateControls();
   void LayOut();
   void BindEvents();
+  void ShowHelp();
+  void ToggleSelected();
 
   TSccExpert& Expert;
   TFileListModel& model_;

@@ -19,7 +19,6 @@ constexpr std::array kBeeps{TBeep::Hand, TBeep::Exclamation, TBeep::Asterisk, TB
 static_assert(kBeeps.size() == kDialogIcons.size());
 
 constexpr int kTitleWidth = 222;
-constexpr int kTitleHeight = 13;
 
 }  // namespace
 
@@ -44,7 +43,7 @@ void TMsgDialogForm::CreateControls(const std::string& title, const std::string&
   TitleLabel->SetFont(TitleLabel->GetFont().Bold());
   TitleLabel->SetLabelText(ToWx(title));
   TitleLabel->Wrap(FromDIP(kTitleWidth));
-  MessageText = new wxTextCtrl(this, wxID_ANY, ToWx(msg), wxDefaultPosition, FromDIP(wxSize(377, 124)),
+  MessageText = new wxTextCtrl(this, wxID_ANY, ToWx(msg), wxDefaultPosition, FromDIP(wxSize(377, 120)),
                                wxTE_MULTILINE | wxTE_READONLY);
   MessageText->SetBackgroundColour(wxSystemSettings::GetColour(wxSYS_COLOUR_BTNFACE));
   btnOK = new wxButton(this, wxID_OK, ToWx(sMsgDialogOk));
@@ -60,7 +59,10 @@ void TMsgDialogForm::LayOut() {
   all->Add(head, wxSizerFlags().Expand().Border(wxALL, gap));
   all->Add(MessageText, wxSizerFlags(1).Expand().Border(wxLEFT | wxRIGHT | wxBOTTOM, gap));
   SetSizer(all);
-  SetClientSize(FromDIP(wxSize(393, 182)));
+  auto client =
+      all->ComputeFittingClientSize(this);  // more only for a title of several lines or of long words
+  client.IncTo(FromDIP(wxSize(393, 182)));
+  SetClientSize(client);
   SetMinClientSize(GetClientSize());
   CentreOnScreen();
 }

@@ -69,6 +69,13 @@ wxString TMessageListView::SelectedText() const {
   return ToWx(text);
 }
 
+wxPoint TMessageListView::FocusedPosition() const {
+  wxRect row;
+  const long item = GetFocusedItem();
+  if (item >= 0 && IsVisible(item)) GetItemRect(item, row);
+  return ClientToScreen(row.GetBottomLeft() + FromDIP(wxPoint(16, 0)));
+}
+
 void TMessageListView::FitColumns() {
   const int scrollBar = wxSystemSettings::GetMetric(wxSYS_VSCROLL_X, this);
   const int left = GetClientSize().GetWidth() - GetColumnWidth(colDate) - scrollBar;
@@ -134,7 +141,12 @@ void TMsgWinForm::FormKeyDown(wxKeyEvent& event) {
     event.Skip();
 }
 
-void TMsgWinForm::ShowPopupMenu(wxContextMenuEvent&) { PopupMenu(&VCMPopupMenu); }
+void TMsgWinForm::ShowPopupMenu(wxContextMenuEvent& event) {
+  // Asked for by the keyboard, the menu belongs to the line that the keyboard is at.
+  const bool byKeyboard = event.GetPosition() == wxDefaultPosition;
+  PopupMenu(&VCMPopupMenu,
+            byKeyboard ? ScreenToClient(MessageListView->FocusedPosition()) : wxDefaultPosition);
+}
 
 void TMsgWinForm::CopySelection() const {
   const auto text = MessageListView->SelectedText();

@@ -19,6 +19,8 @@ class TMessageListView final : public wxListView {
   void SelectAll();
   /// The selected lines as text, message and date separated by a tab.
   wxString SelectedText() const;
+  /// Where the focused line is on the screen; the list's top without a line in view.
+  wxPoint FocusedPosition() const;
   /// Lets the messages have the width that the dates leave.
   void FitColumns();
 

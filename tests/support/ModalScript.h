@@ -25,8 +25,9 @@ inline void Click(wxButton* button) {
   button->Command(event);
 }
 
-/// Sends a key the way of the key preview: from the control with the focus upwards.  True when it was handled there.
+/// Focuses the control and sends a key the way of the key preview, from there upwards.  True when it was handled there.
 inline bool Preview(wxWindow* focused, int key, int modifiers = wxMOD_NONE) {
+  focused->SetFocus();
   wxKeyEvent event(wxEVT_CHAR_HOOK);
   event.m_keyCode = key;
   event.SetControlDown(modifiers & wxMOD_CONTROL);

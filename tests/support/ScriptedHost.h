@@ -99,7 +99,7 @@ class TScriptedHost final : public IOTAServices,
   void Notify(TOTAFileNotification code, const std::string& fileName);
 
   // What the add-in did, one line each: "SaveAll", "SaveFile NAME", "ReloadFile NAME", "CloseAll", "OpenFile NAME",
-  // "OpenProject NAME".
+  // "OpenProject NAME", "HelpKeyword WORD".
   std::vector<std::string> Log;
   // What the host answers.
   bool SaveSucceeds = true;
@@ -140,7 +140,7 @@ class TScriptedHost final : public IOTAServices,
   int AddWizard(std::shared_ptr<IOTAWizard> wizard) override;
   void RemoveWizard(int index) override { Wizards.erase(index); }
   TEvent<>& MainFormCreated() override { return main_form_created_; }
-  bool HelpKeyword(const std::string&) override { return false; }
+  bool HelpKeyword(const std::string& keyword) override { return Did("HelpKeyword", keyword); }
 
  private:
   bool Did(const char* what, const std::string& fileName);

@@ -1,0 +1,32 @@
+#include <gtest/gtest.h>
+
+#include "commands/Comments.h"
+#include "commands/ExpertFormsWx.h"
+#include "support/ModalScript.h"
+#include "ui/MsgDialog.h"
+#include "ui/MsgWin.h"
+#include "ui/WxText.h"
+
+namespace {
+
+TEST(ExpertForms, BringUpTheRealWindows) {
+  TExpertForms forms;
+  const auto window = forms.CreateMessageWindow();
+  EXPECT_EQ(window.get(), MsgWinForm);
+  EXPECT_FALSE(MsgWinForm->IsShown());
+
+  TModalScript script;
+  script.Expect<TMsgDialogForm>([](TMsgDialogForm& form) { Click(form.btnOK); });
+  forms.ShowMsgDialog("Add File", "text", metError);
+  script.Expect<wxMessageDialog>([](wxMessageDialog& box) {
+    EXPECT_EQ(box.GetMessage(), "no host");
+    box.SetReturnCode(wxID_OK);
+  });
+  forms.ShowBox("no host", metWarning);
+  script.Expect<TCommentsForm>([](TCommentsForm& form) { Click(form.btnCancel); });
+  TCommentModel comment;
+  EXPECT_EQ(forms.ShowComments(comment), mrCancel);
+  EXPECT_EQ(CommentsForm, nullptr);
+}
+
+}  // namespace

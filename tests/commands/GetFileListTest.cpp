@@ -1,0 +1,157 @@
+#include <gmock/gmock.h>
+
+#include "commands/GetFileList.h"
+#include "expert/SccExpert.h"
+#include "host/Registry.h"
+#include "support/Environment.h"
+#include "support/ModalScript.h"
+#include "support/ScriptedForms.h"
+#include "support/ScriptedHost.h"
+#include "support/ScriptedProvider.h"
+#include "support/TemporaryFolder.h"
+#include "ui/WxText.h"
+
+using testing::ElementsAre;
+
+namespace {
+
+/// A list dialog of an expert in a scripted host, with the scripted provider installed.
+struct FileList : testing::Test {
+  void Fill(std::size_t rows) {
+    for (std::size_t i = 0; i < rows; ++i) model.AddFile("/p/unit" + std::to_string(i) + ".pas", "Current");
+  }
+  int Show(std::function<void(TGetFileListForm&)> user) {
+    TGetFileListForm form(*expert, model);
+    return ShowAndPlay(form, std::move(user));
+  }
+  static TFileListModel::TButtons Buttons(const TGetFileListForm& form) {
+    return {form.btnOK->IsEnabled(), form.btnCheckAll->IsEnabled(), form.btnUncheckAll->IsEnabled()};
+  }
+
+  TTemporaryFolder folder;
+  TEnvironmentVariable registry{"CORVANE_REGISTRY_DIR", folder.Path().c_str()};
+  TScriptedHost host;
+  TScriptedForms forms;
+  std::unique_ptr<TSccExpert> expert = std::make_unique<TSccExpert>(forms);
+  TFileListModel model;
+};
+
+using B = TFileListModel::TButtons;
+
+TEST_F(FileList, HoldsAFullProjectAndIsWorkedByKeyboard) {
+  Fill(kMaxFiles);
+  const int result = Show([this](TGetFileListForm& form) {
+    EXPECT_EQ(Buttons(form), (B{false, true, false}));
+    auto& list = *form.FilesListView;
+    Preview(&list, WXK_RETURN);
+    EXPECT_TRUE(form.IsModal()) << "Enter does nothing while OK is disabled";
+    Preview(&list, WXK_SPACE);
+    EXPECT_TRUE(list.IsItemChecked(0));
+    EXPECT_EQ(Buttons(form), (B{true, true, true}));
+    list.Select(0, false);
+    for (const long row : {7L, 9L, 65535L}) list.Select(row);
+    list.Focus(65535);
+    Preview(&list, WXK_SPACE);
+    EXPECT_EQ(model.ItemsChecked(), 4) << "the selected rows follow the focused one";
+    EXPECT_EQ(FromWx(list.GetItemText(65535, 2)), "/p");
+    Click(form.btnCheckAll);
+    EXPECT_EQ(model.ItemsChecked(), 65536);
+    EXPECT_EQ(Buttons(form), (B{true, false, true}));
+    list.CheckItem(3, false);  // as the mouse does
+    EXPECT_EQ(model.ItemsChecked(), 65535);
+    EXPECT_EQ(Buttons(form), (B{true, true, true}));
+    Preview(&list, WXK_RETURN);
+  });
+  EXPECT_EQ(result, mrOk);
+  EXPECT_FALSE(model.IsChecked(3));
+}
+
+TEST_F(FileList, AButtonThatDisablesItselfGivesTheFocusToTheList) {
+  Fill(3);
+  Show([](TGetFileListForm& form) {
+    for (auto* button : {form.btnCheckAll, form.btnUncheckAll}) {
+      button->SetFocus();
+      Click(button);
+      EXPECT_FALSE(button->IsEnabled());
+      EXPECT_TRUE(form.FilesListView->IsDescendant(wxWindow::FindFocus()));
+    }
+    EXPECT_EQ(Buttons(form), (B{false, true, false}));
+    form.Close();
+  });
+}
+
+TEST_F(FileList, OpensAtTheFileThatIsBeingEdited) {
+  Fill(5000);
+  host.AddUnit("/p/unit4321.kfm");
+  host.TopBuffer = "/p/unit4321.kfm";
+  Show([this](TGetFileListForm& form) {
+    EXPECT_TRUE(model.IsChecked(4321));
+    EXPECT_TRUE(form.FilesListView->IsVisible(4321));
+    EXPECT_EQ(form.FilesListView->GetFocusedItem(), 4321);
+    EXPECT_EQ(Buttons(form), (B{true, true, true}));
+    form.Close();
+  });
+}
+
+TEST_F(FileList, EscapeCancelsFromEveryControl) {
+  Fill(1);
+  model.HasOptions = true;
+  model.Extra = TFileListModel::ExtraBox::KeepCheckedOut;
+  using TControl = std::function<wxWindow*(TGetFileListForm&)>;
+  const TControl controls[] = {
+      [](auto& form) { return form.FilesListView; }, [](auto& form) { return form.cbKeepCheckedOut; },
+      [](auto& form) { return form.btnOK; },         [](auto& form) { return form.btnCancel; },
+      [](auto& form) { return form.btnUncheckAll; }, [](auto& form) { return form.btnAdvanced; }};
+  for (const auto& control : controls) {
+    EXPECT_EQ(Show([&](TGetFileListForm& form) {
+                form.cbKeepCheckedOut->SetValue(false);
+                control(form)->SetFocus();
+                Preview(control(form), WXK_ESCAPE);
+              }),
+              mrCancel);
+  }
+  EXPECT_TRUE(model.KeepCheckedOut) << "what was cancelled does not count";
+}
+
+TEST_F(FileList, ShowsTheBoxOfTheCommand) {
+  using enum TFileListModel::ExtraBox;
+  Fill(1);
+  for (const auto extra : {None, KeepCheckedOut, CheckOutAfterAdd}) {
+    model.Extra = extra;
+    Show([&](TGetFileListForm& form) {
+      EXPECT_EQ(form.cbKeepCheckedOut->IsShown(), extra == KeepCheckedOut);
+      EXPECT_EQ(form.cbCheckOut->IsShown(), extra == CheckOutAfterAdd);
+      if (extra == KeepCheckedOut) form.cbKeepCheckedOut->SetValue(false);
+      if (extra == CheckOutAfterAdd) form.cbCheckOut->SetValue(false);
+      Click(form.btnOK);
+    });
+    EXPECT_EQ(model.KeepCheckedOut, extra == None);
+    EXPECT_EQ(model.CheckOutAfterAdd, extra != CheckOutAfterAdd);
+  }
+}
+
+TEST_F(FileList, CannotBeMadeSmallerThanItsMinimum) {
+  TGetFileListForm form(*expert, model);
+  EXPECT_EQ(form.GetSize(), form.FromDIP(wxSize(662, 359)));
+  form.Show();
+  form.SetSize(100, 100);
+  wxYield();
+  EXPECT_EQ(form.GetSize(), form.FromDIP(wxSize(569, 274)));
+  const auto client = form.GetClientRect();
+  for (auto* control :
+       {static_cast<wxWindow*>(form.btnUncheckAll), static_cast<wxWindow*>(form.FilesListView)})
+    EXPECT_TRUE(client.Contains(control->GetRect()));
+}
+
+TEST_F(FileList, F1OpensTheHelpOfTheCommand) {
+  Fill(1);
+  Show([this](TGetFileListForm& form) {
+    Preview(form.btnOK, WXK_F1);
+    model.HelpKeyword = "HC_TeamCheckInFiles";
+    Preview(form.btnOK, WXK_F1);
+    form.Close();
+  });
+  EXPECT_THAT(host.Log, ElementsAre("HelpKeyword HC_TeamCheckInFiles"));
+}
+
+}  // namespace

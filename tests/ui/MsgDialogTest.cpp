@@ -1,0 +1,68 @@
+#include <gtest/gtest.h>
+
+#include "support/ModalScript.h"
+#include "ui/MsgDialog.h"
+#include "ui/WxText.h"
+
+namespace {
+
+using User = std::function<void(TMsgDialogForm&)>;
+
+TEST(MsgDialog, EndsAsTheUserEndsIt) {
+  const struct {
+    const char* Case;
+    int Result;
+    User Act;
+  } rows[] = {
+      {"OK", mrOk, [](auto& form) { Click(form.btnOK); }},
+      {"Enter in the text", mrOk, [](auto& form) { Preview(form.MessageText, WXK_RETURN); }},
+      {"Escape on the button", mrCancel, [](auto& form) { Preview(form.btnOK, WXK_ESCAPE); }},
+      {"Escape in the text", mrCancel, [](auto& form) { Preview(form.MessageText, WXK_ESCAPE); }},
+      {"close button", mrCancel, [](auto& form) { form.Close(); }},
+  };
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.Case);
+    TMsgDialogForm form("Check Out File", "unit1.pas", metInfo);
+    EXPECT_EQ(ShowAndPlay(form, row.Act), row.Result);
+  }
+}
+
+TEST(MsgDialog, ShowsTitleAndTextReadOnlyWithTheFocusOnOk) {
+  TMsgDialogForm form("Tom & Jerry", "line one\nübung\nlatin \xe4", metError);
+  ShowAndPlay<TMsgDialogForm>(form, [](TMsgDialogForm& shown) {
+    shown.Raise();
+    EXPECT_EQ(FromWx(shown.GetTitle()), "Source Code Control");
+    EXPECT_EQ(FromWx(shown.TitleLabel->GetLabelText()), "Tom & Jerry");
+    EXPECT_EQ(FromWx(shown.MessageText->GetLineText(2)), "latin ä");
+    EXPECT_FALSE(shown.MessageText->IsEditable());
+    EXPECT_EQ(wxWindow::FindFocus(), shown.btnOK);
+    EXPECT_EQ(shown.GetDefaultItem(), shown.btnOK);
+    shown.Close();
+  });
+}
+
+TEST(MsgDialog, MakesRoomForALongTitle) {
+  const std::string longTitle =
+      "A title of many words that needs more than the two lines that it usually has, and "
+      "one_word_that_is_wider_than_the_title_usually_is_in_this_dialog";
+  const TMsgDialogForm normal("Check Out File", "", metInfo), high(longTitle, "", metInfo);
+  EXPECT_EQ(normal.GetClientSize(), normal.FromDIP(wxSize(393, 182)));
+  EXPECT_GT(high.GetClientSize().GetHeight(), normal.GetClientSize().GetHeight());
+  EXPECT_LE(high.TitleLabel->GetRect().GetRight(), high.btnOK->GetRect().GetLeft());
+  EXPECT_GE(high.TitleLabel->GetSize().GetWidth(), high.TitleLabel->GetBestSize().GetWidth());
+  EXPECT_LE(high.btnOK->GetRect().GetRight(), high.GetClientSize().GetWidth());
+}
+
+TEST(ShowMsgDialog, ShowsOneDialogAndFreesIt) {
+  TModalScript script;
+  script.Expect<TMsgDialogForm>([](TMsgDialogForm& form) {
+    EXPECT_EQ(MsgDialogForm, &form);
+    EXPECT_EQ(FromWx(form.TitleLabel->GetLabelText()), "Add File");
+    EXPECT_EQ(FromWx(form.MessageText->GetValue()), "unit1.pas was added successfully");
+    Click(form.btnOK);
+  });
+  ShowMsgDialog("Add File", "unit1.pas was added successfully", metQuestion);
+  EXPECT_EQ(MsgDialogForm, nullptr);
+}
+
+}  // namespace
