@@ -1,0 +1,120 @@
+// The macro steps that do something.
+#include <wx/menu.h>
+
+#include <stdexcept>
+
+#include "host/System.h"
+#include "workbench/macro/MacroControls.h"
+#include "workbench/macro/MacroMenus.h"
+#include "workbench/macro/MacroPlayer.h"
+#include "workbench/macro/MacroStrings.h"
+#include "workbench/macro/WindowFinder.h"
+#include "workbench/windows/EditorBook.h"
+#include "workbench/windows/MainFrame.h"
+#include "workbench/windows/ModalStack.h"
+
+namespace {
+
+wxString Text(const std::string& text) { return wxString::FromUTF8(text); }
+
+void Require(bool done, const TResString& text, const std::string& what = {}) {
+  if (!done) throw std::runtime_error(Format(text, {what}));
+}
+
+TOpenModule& OpenModule(TMainFrame& frame, const std::string& file) {
+  TOpenModule* module = frame.Session().Modules().Find(FullPath(file));
+  Require(module != nullptr, sNotOpen, file);
+  return *module;
+}
+
+}  // namespace
+
+std::string TMacroPlayer::DoOpen(const TArguments& arguments) {
+  Require(frame_.Session().Open(arguments[0]), sNotOpened, arguments[0]);
+  return {};
+}
+
+std::string TMacroPlayer::DoClose(const TArguments& arguments) {
+  Require(frame_.Session().Close(OpenModule(frame_, arguments[0])), sNotDone);
+  return {};
+}
+
+std::string TMacroPlayer::DoActivate(const TArguments& arguments) {
+  auto* project = dynamic_cast<TProject*>(&OpenModule(frame_, arguments[0]));
+  Require(project != nullptr, sNotOpen, arguments[0]);
+  frame_.Session().SetActiveProject(*project);
+  return {};
+}
+
+std::string TMacroPlayer::DoEdit(const TArguments& arguments) {
+  Require(frame_.Session().Open(arguments[0]), sNotOpened, arguments[0]);
+  TEditorPage* page = frame_.Book().FrontPage();
+  Require(page && page->TypeAtEnd(arguments[1]), sIsReadOnly, arguments[0]);
+  return {};
+}
+
+std::string TMacroPlayer::DoSave(const TArguments&) {
+  TTextEditor* editor = frame_.Session().ActiveEditor();
+  Require(editor != nullptr, sNotDone);
+  frame_.Session().Save(*editor);
+  return {};
+}
+
+std::string TMacroPlayer::DoSaveAll(const TArguments&) {
+  Require(frame_.Session().SaveAll(), sNotDone);
+  return {};
+}
+
+std::string TMacroPlayer::DoWriteFile(const TArguments& arguments) {
+  WriteFileAtomically(arguments[0], arguments[1]);
+  return {};
+}
+
+std::string TMacroPlayer::DoSetReadOnly(const TArguments& arguments) {
+  Require(SetFileAttributesOf(arguments[0], arguments[1] == "yes" ? faReadOnly : faArchive), sNotDone);
+  return {};
+}
+
+std::string TMacroPlayer::DoRefocus(const TArguments&) {
+  frame_.LookAtDisk();
+  return {};
+}
+
+std::string TMacroPlayer::DoMenu(const TArguments& arguments) {
+  if (const wxDialog* dialog = TModalStack::Top())
+    return Format(sDialogOpen, {dialog->GetTitle().utf8_string()});
+  const wxMenuItem* item = OpenMenuItem(frame_, Text(arguments[0]));
+  if (!item) return Format(sNoMenu, {arguments[0]});
+  if (!item->IsEnabled()) return Format(sControlDisabled, {arguments[0]});
+  ClickMenuItem(frame_, *item);
+  return {};
+}
+
+std::string TMacroPlayer::DoPress(const TArguments& arguments) {
+  return PressButton(Front(), Text(arguments[0]));
+}
+std::string TMacroPlayer::DoTick(const TArguments& arguments) {
+  return TickBox(Front(), Text(arguments[0]), true);
+}
+std::string TMacroPlayer::DoUntick(const TArguments& arguments) {
+  return TickBox(Front(), Text(arguments[0]), false);
+}
+std::string TMacroPlayer::DoSelect(const TArguments& arguments) {
+  return SelectRow(Front(), Text(arguments[0]));
+}
+std::string TMacroPlayer::DoPage(const TArguments& arguments) {
+  return TurnToPage(Front(), Text(arguments[0]));
+}
+std::string TMacroPlayer::DoKey(const TArguments& arguments) { return PressKey(Front(), Text(arguments[0])); }
+
+std::string TMacroPlayer::DoCell(const TArguments& arguments) {
+  return EditCell(Front(), Text(arguments[0]), Text(arguments[1]), Text(arguments[2]));
+}
+
+std::string TMacroPlayer::DoType(const TArguments& arguments) {
+  return TypeText(Front(), Text(arguments[0]), Text(arguments[1]));
+}
+
+std::string TMacroPlayer::DoChoose(const TArguments& arguments) {
+  return ChooseItem(Front(), Text(arguments[0]), Text(arguments[1]));
+}

@@ -1,0 +1,146 @@
+// The macro steps that look whether something is so.
+#include <wx/listctrl.h>
+#include <wx/menu.h>
+
+#include "host/System.h"
+#include "workbench/macro/MacroControls.h"
+#include "workbench/macro/MacroMenus.h"
+#include "workbench/macro/MacroPlayer.h"
+#include "workbench/macro/MacroStrings.h"
+#include "workbench/macro/WindowFinder.h"
+#include "workbench/windows/EditorBook.h"
+#include "workbench/windows/MainFrame.h"
+#include "workbench/windows/ModalStack.h"
+
+namespace {
+
+wxString Text(const std::string& text) { return wxString::FromUTF8(text); }
+
+bool IsShownSomewhere(const std::string& text) {
+  const wxString wanted = Text(text);
+  for (wxTopLevelWindow* window : ShownWindows()) {
+    const auto shows = [&](wxWindow& control) { return TextOf(control).Contains(wanted); };
+    if (window->GetTitle().Contains(wanted) || VisitControls(*window, shows)) return true;
+  }
+  return false;
+}
+
+/// Message windows are frames with a list; a log counts whether its window is on the screen or not.
+bool IsInMessages(const std::string& text) {
+  const wxString wanted = Text(text);
+  for (wxWindow* window : wxTopLevelWindows) {
+    const auto shows = [&](wxWindow& control) {
+      return dynamic_cast<wxListCtrl*>(&control) && TextOf(control).Contains(wanted);
+    };
+    if (dynamic_cast<wxFrame*>(window) && VisitControls(*window, shows, true)) return true;
+  }
+  return false;
+}
+
+/// Empty when the box is there in that state.
+std::string CheckTick(wxWindow& window, const std::string& text, bool ticked) {
+  const auto state = IsTicked(window, Text(text));
+  if (!state) return Format(sNoControl, {window.GetLabel().utf8_string(), sKindBox, text});
+  if (*state == ticked) return {};
+  return Format(ticked ? sIsNotTicked : sIsTicked, {text});
+}
+
+/// Empty when the file and its editor, if it is open, have that attribute.
+std::string CheckReadOnly(TMainFrame& frame, const std::string& file, bool readOnly) {
+  const TOpenModule* module = frame.Session().Modules().Find(FullPath(file));
+  const TDocument* document = module ? module->FindDocument(FullPath(file)) : nullptr;
+  const bool onDisk = (GetFileAttributesOf(file) & faReadOnly) != 0;
+  const bool inEditor = document ? document->IsReadOnly() : onDisk;
+  if (!FileExists(file)) return Format(sNotOpen, {file});
+  if (onDisk == readOnly && inEditor == readOnly) return {};
+  return Format(readOnly ? sIsWritable : sIsReadOnly, {file});
+}
+
+std::string CheckMenu(TMainFrame& frame, const std::string& path, bool enabled) {
+  const wxMenuItem* item = OpenMenuItem(frame, Text(path));
+  if (!item) return Format(sNoMenu, {path});
+  if (item->IsEnabled() == enabled) return {};
+  return Format(enabled ? sControlDisabled : sControlEnabled, {path});
+}
+
+}  // namespace
+
+std::string TMacroPlayer::DoExpect(const TArguments& arguments) {
+  const wxDialog* front = TModalStack::Top();
+  for (wxTopLevelWindow* window : ShownWindows())
+    if (window->GetTitle() == Text(arguments[0]) && (!front || front == window)) {
+      expected_ = window;
+      return {};
+    }
+  return front && front->GetTitle() != Text(arguments[0])
+             ? Format(sDialogOpen, {front->GetTitle().utf8_string()})
+             : Format(sNoWindow, {arguments[0]});
+}
+
+std::string TMacroPlayer::DoExpectNoDialog(const TArguments&) {
+  const wxDialog* dialog = TModalStack::Top();
+  return dialog ? Format(sDialogOpen, {dialog->GetTitle().utf8_string()}) : std::string();
+}
+
+std::string TMacroPlayer::DoExpectText(const TArguments& arguments) {
+  return IsShownSomewhere(arguments[0]) ? std::string() : Format(sNoText, {arguments[0]});
+}
+
+std::string TMacroPlayer::DoExpectNoText(const TArguments& arguments) {
+  return IsShownSomewhere(arguments[0]) ? Format(sHasText, {arguments[0]}) : std::string();
+}
+
+std::string TMacroPlayer::DoExpectMessage(const TArguments& arguments) {
+  return IsInMessages(arguments[0]) ? std::string() : Format(sNoMessage, {arguments[0]});
+}
+
+std::string TMacroPlayer::DoExpectEnabled(const TArguments& arguments) {
+  return CheckMenu(frame_, arguments[0], true);
+}
+
+std::string TMacroPlayer::DoExpectDisabled(const TArguments& arguments) {
+  return CheckMenu(frame_, arguments[0], false);
+}
+
+std::string TMacroPlayer::DoExpectHidden(const TArguments& arguments) {
+  return OpenMenuItem(frame_, Text(arguments[0])) ? Format(sMenuVisible, {arguments[0]}) : std::string();
+}
+
+std::string TMacroPlayer::DoExpectTicked(const TArguments& arguments) {
+  return CheckTick(Front(), arguments[0], true);
+}
+std::string TMacroPlayer::DoExpectUnticked(const TArguments& arguments) {
+  return CheckTick(Front(), arguments[0], false);
+}
+
+std::string TMacroPlayer::DoExpectEditor(const TArguments& arguments) {
+  TOpenModule* module = frame_.Session().Modules().Find(FullPath(arguments[0]));
+  const auto* editor =
+      module ? dynamic_cast<TTextEditor*>(module->FindDocument(FullPath(arguments[0]))) : nullptr;
+  const TEditorPage* page = editor ? frame_.Book().FindPage(*editor) : nullptr;
+  if (!page) return Format(sNotOpen, {arguments[0]});
+  const bool found = page->ReadText().find(arguments[1]) != std::string::npos;
+  return found ? std::string() : Format(sNoEditorText, {arguments[0], arguments[1]});
+}
+
+std::string TMacroPlayer::DoExpectFile(const TArguments& arguments) {
+  const bool found =
+      FileExists(arguments[0]) && ReadWholeFile(arguments[0]).find(arguments[1]) != std::string::npos;
+  return found ? std::string() : Format(sNoFileText, {arguments[0], arguments[1]});
+}
+
+std::string TMacroPlayer::DoExpectReadOnly(const TArguments& arguments) {
+  return CheckReadOnly(frame_, arguments[0], true);
+}
+
+std::string TMacroPlayer::DoExpectWritable(const TArguments& arguments) {
+  return CheckReadOnly(frame_, arguments[0], false);
+}
+
+std::string TMacroPlayer::DoExpectButton(const TArguments& arguments) {
+  return HasButton(Front(), Text(arguments[0])) ? std::string() : Format(sControlDisabled, {arguments[0]});
+}
+
+std::string TMacroPlayer::DoExpectNoButton(const TArguments& arguments) {
+  return HasButton(Front(), Text(arguments[0])) ? Format(sHasButton, {arguments[0]}) : std::string();
+}

@@ -1,0 +1,49 @@
+#include "workbench/macro/MacroMenus.h"
+
+#include <wx/frame.h>
+#include <wx/menu.h>
+#include <wx/tokenzr.h>
+
+#include "workbench/macro/WindowFinder.h"
+
+namespace {
+
+wxMenu* TopMenu(const wxMenuBar& bar, const wxString& label) {
+  for (std::size_t i = 0; i < bar.GetMenuCount(); ++i)
+    if (SameLabel(bar.GetMenuLabel(i), label)) return bar.GetMenu(i);
+  return nullptr;
+}
+
+wxMenuItem* ItemOf(const wxMenu& menu, const wxString& label) {
+  for (wxMenuItem* item : menu.GetMenuItems())
+    if (!item->IsSeparator() && SameLabel(item->GetItemLabelText(), label)) return item;
+  return nullptr;
+}
+
+void Open(wxFrame& frame, wxMenu& menu) {
+  wxMenuEvent event(wxEVT_MENU_OPEN, 0, &menu);
+  event.SetEventObject(&menu);
+  frame.HandleWindowEvent(event);
+  menu.UpdateUI();
+}
+
+}  // namespace
+
+wxMenuItem* OpenMenuItem(wxFrame& frame, const wxString& path) {
+  wxStringTokenizer parts(path, "|");
+  wxMenu* menu = TopMenu(*frame.GetMenuBar(), parts.GetNextToken());
+  wxMenuItem* item = nullptr;
+  while (menu) {
+    Open(frame, *menu);
+    item = ItemOf(*menu, parts.GetNextToken());
+    if (!parts.HasMoreTokens()) return item;
+    menu = item ? item->GetSubMenu() : nullptr;
+  }
+  return nullptr;
+}
+
+void ClickMenuItem(wxFrame& frame, const wxMenuItem& item) {
+  wxCommandEvent event(wxEVT_MENU, item.GetId());
+  event.SetEventObject(item.GetMenu());
+  frame.GetMenuBar()->HandleWindowEvent(event);
+}

@@ -1,0 +1,12 @@
+// Working the main menu as a user does: open the menu, look, click.
+#pragma once
+
+#include <wx/string.h>
+
+class wxFrame;
+class wxMenuItem;
+
+/// Opens the menus of a path "Menu|Item" one after the other, so that each is brought up to date, and answers the last
+/// part's item; nullptr when there is none.  The item is borrowed until the menu changes.
+wxMenuItem* OpenMenuItem(wxFrame& frame, const wxString& path);
+void ClickMenuItem(wxFrame& frame, const wxMenuItem& item);

@@ -1,0 +1,76 @@
+// Macro files: one step per line, a verb and its arguments.
+//
+//   # a comment
+//   open tour/Demo.qvxproj
+//   menu "Team|Check Out Files..."
+//   type "Comment" "first line\nsecond \"quoted\" line"
+//
+// An argument with blanks stands in double quotes; \n, \t, \" and \\ work inside them.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+enum class TMacroVerb {
+  Open,
+  Close,
+  Activate,
+  Edit,
+  Save,
+  SaveAll,
+  WriteFile,
+  SetReadOnly,
+  Refocus,
+  Menu,
+  Press,
+  Tick,
+  Untick,
+  Select,
+  Cell,
+  Page,
+  Type,
+  Choose,
+  Key,
+  Expect,
+  ExpectNoDialog,
+  ExpectText,
+  ExpectNoText,
+  ExpectMessage,
+  ExpectEnabled,
+  ExpectDisabled,
+  ExpectHidden,
+  ExpectTicked,
+  ExpectUnticked,
+  ExpectEditor,
+  ExpectFile,
+  ExpectReadOnly,
+  ExpectWritable,
+  ExpectButton,
+  ExpectNoButton,
+  Screenshot,
+  Note,
+  Wait,
+  Limit,
+  Quit
+};
+
+/// One verb as users write it.
+struct TMacroVerbRow {
+  TMacroVerb Verb;
+  std::string_view Name;
+  std::size_t Arguments;  ///< exactly that many
+  std::string_view Help;  ///< the arguments, and what the step does
+};
+/// Every verb, in the order of the enumeration.
+const std::vector<TMacroVerbRow>& MacroVerbs();
+
+struct TMacroStep {
+  TMacroVerb Verb{};
+  std::vector<std::string> Arguments;
+  int Line = 0;
+  std::string Text;  ///< the line as written
+};
+
+/// Throws std::runtime_error that names the first line that cannot be understood.
+std::vector<TMacroStep> ParseMacro(std::string_view text);

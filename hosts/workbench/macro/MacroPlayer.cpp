@@ -1,0 +1,152 @@
+#include "workbench/macro/MacroPlayer.h"
+
+#include <cstdio>
+#include <filesystem>
+
+#include "host/System.h"
+#include "workbench/macro/MacroStrings.h"
+#include "workbench/macro/WindowFinder.h"
+#include "workbench/windows/App.h"
+#include "workbench/windows/MainFrame.h"
+#include "workbench/windows/ModalStack.h"
+#include "workbench/windows/Screenshot.h"
+
+namespace {
+
+constexpr int kStepMs = 40;  // lets the toolkit lay out and paint between steps
+constexpr int kRetryMs = 100;
+constexpr int kStartMs = 300;
+constexpr long long kDefaultLimitMs = 10'000;
+constexpr long long kSettleMs = 400;  // before a picture is taken
+constexpr const char* kFailedPicture = "failed.png";
+
+void Print(std::FILE* to, const std::string& line) {
+  std::fprintf(to, "%s\n", line.c_str());
+  std::fflush(to);
+}
+
+}  // namespace
+
+TMacroPlayer::TMacroPlayer(TMainFrame& frame, const TCommandLine& line, std::function<void(int)> end)
+    : frame_(frame), end_(std::move(end)), screenshots_(line.Screenshots), limitMs_(kDefaultLimitMs) {
+  try {
+    steps_ = ParseMacro(ReadWholeFile(line.Macro));
+    StartOnce(kStartMs);
+  } catch (const std::exception& e) {
+    Print(stderr, line.Macro + ": " + e.what());
+    frame_.CallAfter([this] { End(kExitUsage); });
+  }
+}
+
+long long TMacroPlayer::Elapsed() const {
+  return std::chrono::duration_cast<std::chrono::milliseconds>(TClock::now() - started_).count();
+}
+
+void TMacroPlayer::Notify() {
+  if (ended_) return;
+  if (next_ == steps_.size()) {
+    Print(stdout, Format(sMacroPassed, {static_cast<long long>(steps_.size())}));
+    return End(0);
+  }
+  const std::size_t mine = next_++;
+  const TMacroStep& step = steps_[mine];
+  if (!retrying_) {
+    started_ = TClock::now();
+    Print(stdout, Format(sStepDone, {static_cast<long long>(step.Line), step.Text}));
+  }
+  retrying_ = false;
+  StartOnce(kStepMs);  // before the step: it may run a modal dialog, and the next steps go on inside
+  const std::string problem = RunGuarded(step);
+  if (problem.empty() || ended_) return;
+  if (next_ != mine + 1 || Elapsed() >= limitMs_) return Fail(step, problem);
+  next_ = mine;
+  retrying_ = true;
+  StartOnce(kRetryMs);
+}
+
+std::string TMacroPlayer::RunGuarded(const TMacroStep& step) {
+  try {
+    return Run(step);
+  } catch (const std::exception& e) {
+    limitMs_ = 0;  // an exception is an answer, there is nothing to wait for
+    return e.what();
+  }
+}
+
+void TMacroPlayer::Fail(const TMacroStep& step, const std::string& reason) {
+  Print(stderr, Format(sStepFailed, {static_cast<long long>(step.Line), step.Text, reason}));
+  Print(stderr, sOpenWindows);
+  Print(stderr, DescribeWindows());
+  Screenshot(kFailedPicture);
+  End(kExitFailed);
+}
+
+void TMacroPlayer::End(int exitCode) {
+  if (std::exchange(ended_, true)) return;
+  Stop();
+  end_(exitCode);
+}
+
+wxTopLevelWindow& TMacroPlayer::Front() const {
+  if (wxDialog* dialog = TModalStack::Top()) return *dialog;
+  if (auto* window = dynamic_cast<wxTopLevelWindow*>(expected_.get()); window && window->IsShown())
+    return *window;
+  return frame_;
+}
+
+std::string TMacroPlayer::Screenshot(const std::string& file) {
+  const std::filesystem::path path = std::filesystem::path(screenshots_) / file;
+  std::error_code ignored;
+  std::filesystem::create_directories(path.parent_path(), ignored);
+  return SaveScreenshot(path.string()) ? std::string() : Format(sNoScreenshot, {path.string()});
+}
+
+std::string TMacroPlayer::Run(const TMacroStep& step) {
+  using P = TMacroPlayer;
+  static constexpr TAction kActions[] = {// in the order of TMacroVerb
+                                         &P::DoOpen,          &P::DoClose,          &P::DoActivate,
+                                         &P::DoEdit,          &P::DoSave,           &P::DoSaveAll,
+                                         &P::DoWriteFile,     &P::DoSetReadOnly,    &P::DoRefocus,
+                                         &P::DoMenu,          &P::DoPress,          &P::DoTick,
+                                         &P::DoUntick,        &P::DoSelect,         &P::DoCell,
+                                         &P::DoPage,          &P::DoType,           &P::DoChoose,
+                                         &P::DoKey,           &P::DoExpect,         &P::DoExpectNoDialog,
+                                         &P::DoExpectText,    &P::DoExpectNoText,   &P::DoExpectMessage,
+                                         &P::DoExpectEnabled, &P::DoExpectDisabled, &P::DoExpectHidden,
+                                         &P::DoExpectTicked,  &P::DoExpectUnticked, &P::DoExpectEditor,
+                                         &P::DoExpectFile,    &P::DoExpectReadOnly, &P::DoExpectWritable,
+                                         &P::DoExpectButton,  &P::DoExpectNoButton, &P::DoScreenshot,
+                                         &P::DoNote,          &P::DoWait,           &P::DoLimit,
+                                         &P::DoQuit};
+  static_assert(std::size(kActions) == static_cast<std::size_t>(TMacroVerb::Quit) + 1);
+  return (this->*kActions[static_cast<std::size_t>(step.Verb)])(step.Arguments);
+}
+
+std::string TMacroPlayer::DoScreenshot(const TArguments& arguments) {
+  // Waits for windows to be painted; the text is never seen unless the limit is shorter than that.
+  if (Elapsed() < kSettleMs) return sNotDone;
+  return Screenshot(arguments[0]);
+}
+
+std::string TMacroPlayer::DoNote(const TArguments& arguments) {
+  Print(stdout, arguments[0]);
+  return {};
+}
+
+std::string TMacroPlayer::DoWait(const TArguments& arguments) {
+  StartOnce(std::max(1, std::stoi(arguments[0])));
+  return {};
+}
+
+std::string TMacroPlayer::DoLimit(const TArguments& arguments) {
+  limitMs_ = std::stoi(arguments[0]);
+  return {};
+}
+
+std::string TMacroPlayer::DoQuit(const TArguments&) {
+  if (const wxDialog* dialog = TModalStack::Top())
+    return Format(sDialogOpen, {dialog->GetTitle().utf8_string()});
+  Print(stdout, Format(sMacroPassed, {static_cast<long long>(next_)}));
+  End(0);
+  return {};
+}

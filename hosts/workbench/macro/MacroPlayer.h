@@ -1,0 +1,94 @@
+// Plays a macro on the running program, from outside the packages: window titles, menu paths and control labels.
+#pragma once
+
+#include <wx/timer.h>
+#include <wx/weakref.h>
+
+#include <chrono>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "workbench/macro/MacroParser.h"
+#include "workbench/macro/MessageBoxes.h"
+#include "workbench/model/CommandLine.h"
+
+class TMainFrame;
+class wxTopLevelWindow;
+
+/// One step per timer tick, inside modal dialogs too: a step that opens one does not return before it is closed, and
+/// the following steps run meanwhile.
+class TMacroPlayer final : public wxTimer {
+ public:
+  /// Starts playing at once.  `end` is called once, with the program's exit code.
+  TMacroPlayer(TMainFrame& frame, const TCommandLine& line, std::function<void(int)> end);
+  void Notify() override;
+
+ private:
+  using TClock = std::chrono::steady_clock;
+  using TAction = std::string (TMacroPlayer::*)(const std::vector<std::string>&);
+
+  /// Does the step; empty, or why it could not (yet).
+  std::string Run(const TMacroStep& step);
+  std::string RunGuarded(const TMacroStep& step);
+  void Fail(const TMacroStep& step, const std::string& reason);
+  void End(int exitCode);
+  long long Elapsed() const;
+  /// The window that a user works in: the innermost dialog, else the window expected last, else the main window.
+  wxTopLevelWindow& Front() const;
+  std::string Screenshot(const std::string& file);
+
+  using TArguments = std::vector<std::string>;
+  std::string DoOpen(const TArguments& arguments);
+  std::string DoClose(const TArguments& arguments);
+  std::string DoActivate(const TArguments& arguments);
+  std::string DoEdit(const TArguments& arguments);
+  std::string DoSave(const TArguments& arguments);
+  std::string DoSaveAll(const TArguments& arguments);
+  std::string DoWriteFile(const TArguments& arguments);
+  std::string DoSetReadOnly(const TArguments& arguments);
+  std::string DoRefocus(const TArguments& arguments);
+  std::string DoMenu(const TArguments& arguments);
+  std::string DoPress(const TArguments& arguments);
+  std::string DoTick(const TArguments& arguments);
+  std::string DoUntick(const TArguments& arguments);
+  std::string DoSelect(const TArguments& arguments);
+  std::string DoCell(const TArguments& arguments);
+  std::string DoPage(const TArguments& arguments);
+  std::string DoType(const TArguments& arguments);
+  std::string DoChoose(const TArguments& arguments);
+  std::string DoKey(const TArguments& arguments);
+  std::string DoExpect(const TArguments& arguments);
+  std::string DoExpectNoDialog(const TArguments& arguments);
+  std::string DoExpectText(const TArguments& arguments);
+  std::string DoExpectNoText(const TArguments& arguments);
+  std::string DoExpectMessage(const TArguments& arguments);
+  std::string DoExpectEnabled(const TArguments& arguments);
+  std::string DoExpectDisabled(const TArguments& arguments);
+  std::string DoExpectHidden(const TArguments& arguments);
+  std::string DoExpectTicked(const TArguments& arguments);
+  std::string DoExpectUnticked(const TArguments& arguments);
+  std::string DoExpectEditor(const TArguments& arguments);
+  std::string DoExpectFile(const TArguments& arguments);
+  std::string DoExpectReadOnly(const TArguments& arguments);
+  std::string DoExpectWritable(const TArguments& arguments);
+  std::string DoExpectButton(const TArguments& arguments);
+  std::string DoExpectNoButton(const TArguments& arguments);
+  std::string DoScreenshot(const TArguments& arguments);
+  std::string DoNote(const TArguments& arguments);
+  std::string DoWait(const TArguments& arguments);
+  std::string DoLimit(const TArguments& arguments);
+  std::string DoQuit(const TArguments& arguments);
+
+  TMainFrame& frame_;
+  std::function<void(int)> end_;
+  std::string screenshots_;
+  TMessageBoxes messageBoxes_;
+  std::vector<TMacroStep> steps_;
+  std::size_t next_ = 0;
+  bool retrying_ = false;
+  bool ended_ = false;
+  long long limitMs_;
+  TClock::time_point started_;
+  wxWeakRef<wxWindow> expected_;
+};

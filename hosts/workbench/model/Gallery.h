@@ -1,0 +1,52 @@
+// The gallery's headings, and which wizards stand under which.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "workbench/model/Notifications.h"
+
+class TGalleryCategory final : public IOTAGalleryCategory {
+ public:
+  TGalleryCategory(std::string id, std::string name) : id_(std::move(id)), name_(std::move(name)) {}
+  std::string GetIDString() override { return id_; }
+  std::string GetDisplayName() override { return name_; }
+  void* QueryInterface(const TGuid& iid) noexcept override {
+    return FindInterface<IOTAGalleryCategory>(this, iid);
+  }
+
+ private:
+  std::string id_;
+  std::string name_;
+};
+
+class TGalleryCategories final : public IOTAGalleryCategoryManager {
+ public:
+  TGalleryCategories();
+  IOTAGalleryCategory* FindCategory(const std::string& idString) override;
+  const std::vector<std::unique_ptr<TGalleryCategory>>& InOrder() const { return categories_; }
+  /// Where wizards without a category of their own stand.
+  TGalleryCategory& Other() { return *categories_.back(); }
+  void* QueryInterface(const TGuid& iid) noexcept override {
+    return FindInterface<IOTAGalleryCategoryManager>(this, iid);
+  }
+
+ private:
+  std::vector<std::unique_ptr<TGalleryCategory>> categories_;
+};
+
+class TWizardServices final : public IOTAWizardServices {
+ public:
+  explicit TWizardServices(const TPackageGuard& guard) : guard_(guard) {}
+  int AddWizard(std::shared_ptr<IOTAWizard> wizard) override { return wizards_.Add(std::move(wizard)); }
+  void RemoveWizard(int index) override;
+  TRegistrations<IOTAWizard>& Wizards() { return wizards_; }
+  void* QueryInterface(const TGuid& iid) noexcept override {
+    return FindInterface<IOTAWizardServices>(this, iid);
+  }
+
+ private:
+  const TPackageGuard& guard_;
+  TRegistrations<IOTAWizard> wizards_;
+};

@@ -1,0 +1,17 @@
+#include "workbench/model/MenuRows.h"
+
+std::vector<const TMenuItem*> VisibleRows(const std::vector<TMenuItem*>& items) {
+  std::vector<const TMenuItem*> rows;
+  const TMenuItem* separator = nullptr;  // shown as soon as an item follows it
+  for (const TMenuItem* item : items) {
+    if (!item->IsVisible()) continue;
+    if (item->IsSeparator()) {
+      separator = rows.empty() ? nullptr : item;
+      continue;
+    }
+    if (separator) rows.push_back(separator);
+    separator = nullptr;
+    rows.push_back(item);
+  }
+  return rows;
+}

@@ -1,0 +1,38 @@
+#include "workbench/model/Notifications.h"
+
+#include "host/Errors.h"
+#include "workbench/model/ModelStrings.h"
+
+bool TPackageGuard::Run(const std::string& what, const std::function<void()>& code) const {
+  try {
+    code();
+    return true;
+  } catch (const EAbort&) {
+    // Aborting is how a package ends a command that cannot go on; it has told the user what it wanted to tell.
+  } catch (const std::exception& e) {
+    log_(Format(sPackageFailure, {what, e.what()}));
+  } catch (...) {
+    log_(Format(sPackageFailure, {what, sUnknownFailure}));
+  }
+  return false;
+}
+
+bool TNotifications::Send(TOTAFileNotification code, const std::string& fileName) {
+  bool cancel = false;
+  notifiers_.ForEach([&](IOTAIDENotifier& notifier) {
+    guard_.Run("FileNotification", [&] { notifier.FileNotification(code, fileName, cancel); });
+  });
+  return !cancel;
+}
+
+void TNotifications::FileOpened(const std::string& fileName) {
+  Send(TOTAFileNotification::fnFileOpened, fileName);
+}
+
+bool TNotifications::FileClosing(const std::string& fileName) {
+  return Send(TOTAFileNotification::fnFileClosing, fileName);
+}
+
+void TNotifications::ActiveProjectChanged(const std::string& fileName) {
+  Send(TOTAFileNotification::fnActiveProjectChanged, fileName);
+}

@@ -1,0 +1,55 @@
+#include "workbench/model/PackageLoader.h"
+
+#include <bit>
+#include <ranges>
+
+#include "host/Services.h"
+#include "host/System.h"
+#include "workbench/model/ModelStrings.h"
+#include "workbench/model/ProjectFile.h"
+
+namespace {
+
+TPackageEntry Entry(TModuleHandle module, const char* name) {
+  return std::bit_cast<TPackageEntry>(FindSymbol(module, name));
+}
+
+}  // namespace
+
+bool TPackageLoader::Load(const std::string& path) {
+  const std::string full = FullPath(path);
+  if (!FileExists(full)) {
+    guard_.Log(Format(sPackageNotFound, {full}));
+    return false;
+  }
+  std::string error;
+  TModuleHandle module = LoadModule(full, &error);
+  if (!module) {
+    guard_.Log(Format(sPackageNotLoaded, {full, error}));
+    return false;
+  }
+  for (const char* name : {kPackageInitialize, kPackageRegister, kPackageFinalize})
+    if (!FindSymbol(module, name)) {
+      guard_.Log(Format(sPackageNoEntry, {full, name}));
+      FreeModule(module);
+      return false;
+    }
+  packages_.push_back({full, module});
+  guard_.Run(full, [&] {
+    Entry(module, kPackageInitialize)();
+    Entry(module, kPackageRegister)();
+  });
+  return true;
+}
+
+void TPackageLoader::Finalize() {
+  for (TPackage& package : std::views::reverse(packages_)) {
+    if (std::exchange(package.Finalized, true)) continue;
+    guard_.Run(package.Path, [&] { Entry(package.Module, kPackageFinalize)(); });
+  }
+}
+
+void TPackageLoader::Unload() {
+  Finalize();
+  for (; !packages_.empty(); packages_.pop_back()) FreeModule(packages_.back().Module);
+}

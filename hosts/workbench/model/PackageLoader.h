@@ -1,0 +1,32 @@
+// Run-time packages: loading, their three entry points, unloading.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "host/Library.h"
+#include "workbench/model/Notifications.h"
+
+class TPackageLoader {
+ public:
+  explicit TPackageLoader(const TPackageGuard& guard) : guard_(guard) {}
+  TPackageLoader(const TPackageLoader&) = delete;
+  TPackageLoader& operator=(const TPackageLoader&) = delete;
+  ~TPackageLoader() { Unload(); }
+
+  /// Loads the package and calls Initialize and IDERegister.  False, and a line for the user, when it cannot be loaded.
+  bool Load(const std::string& path);
+  /// Calls Finalize of each package, the last loaded first.  Their code stays in memory until Unload.
+  void Finalize();
+  /// Releases the libraries.  No object of theirs may be left.
+  void Unload();
+
+ private:
+  struct TPackage {
+    std::string Path;
+    TModuleHandle Module = nullptr;
+    bool Finalized = false;
+  };
+  const TPackageGuard& guard_;
+  std::vector<TPackage> packages_;
+};

@@ -1,0 +1,50 @@
+// Per-user settings: named sets of string fields in the registry, the workbench's own and those of add-ins.
+#pragma once
+
+#include <map>
+#include <memory>
+#include <string>
+
+#include "host/Options.h"
+#include "workbench/model/Notifications.h"
+
+/// Fields under HKCU\Software\Corvane\Workbench\<key>.  Names compare ignoring case, as the registry's do.
+class TPropertySet final : public IOTAPropertySet {
+ public:
+  explicit TPropertySet(std::string key);
+  std::string GetValue(const std::string& field) override;
+  void SetValue(const std::string& field, const std::string& value) override;
+  void Load() override;
+  void Save() override;
+  /// The field as a number; `fallback` when it is not one or outside [low, high].
+  int GetNumber(const std::string& field, int fallback, int low, int high);
+  void SetNumber(const std::string& field, int value) { SetValue(field, std::to_string(value)); }
+  void* QueryInterface(const TGuid& iid) noexcept override {
+    return FindInterface<IOTAPropertySet>(this, iid);
+  }
+
+ private:
+  struct TField {
+    std::string Name;
+    std::string Value;
+  };
+  std::string key_;
+  std::map<std::string, TField> fields_;  // by folded name
+};
+
+class TOptionsServices final : public IOTAOptionsServices {
+ public:
+  TPropertySet& PropertySet(const std::string& key) override;
+  int AddOptions(std::shared_ptr<IOTAAddInOptions> options) override {
+    return addIns_.Add(std::move(options));
+  }
+  void RemoveOptions(int index) override { addIns_.Remove(index); }
+  TRegistrations<IOTAAddInOptions>& AddIns() { return addIns_; }
+  void* QueryInterface(const TGuid& iid) noexcept override {
+    return FindInterface<IOTAOptionsServices>(this, iid);
+  }
+
+ private:
+  std::map<std::string, std::unique_ptr<TPropertySet>> sets_;  // by folded key
+  TRegistrations<IOTAAddInOptions> addIns_;
+};

@@ -1,0 +1,150 @@
+#include "workbench/model/Session.h"
+
+#include <stdexcept>
+
+#include "host/Paths.h"
+#include "host/System.h"
+#include "host/Text.h"
+#include "workbench/model/ModelStrings.h"
+
+void TSession::Save(TDocument& document) {
+  document.Save();
+  if (group_ && &document == &group_->Definition()) group_->NoteSaved();
+  if (auto* text = dynamic_cast<TTextEditor*>(&document))
+    ui_.EditorChanged(*text);
+  else
+    ui_.ProjectsChanged();
+}
+
+bool TSession::SaveAll() {
+  for (const auto& module : index_.InOrder())
+    for (const auto& document : module->Documents()) {
+      const bool needsName = group_ && document.get() == &group_->Definition() && group_->IsUnsaved();
+      // A group that was never saved is not what the user is working on; closing asks for its name.
+      if (document->GetModified() && !needsName) Save(*document);
+    }
+  return true;
+}
+
+bool TSession::SaveUnitAs(TUnit& unit) {
+  const std::string before = unit.FileName();
+  const std::string name = ui_.AskSaveName(before);
+  if (name.empty()) return false;
+  const std::string after = FullPath(name);
+  if (TOpenModule* other = index_.Find(after); other && other != &unit)
+    throw std::runtime_error(Format(sOpenElsewhere, {after}));
+  index_.Renaming(unit);
+  unit.Rename(after);
+  index_.Renamed(unit);
+  for (const auto& document : unit.Documents()) Save(*document);
+  TProject* project = ActiveProject();
+  const int listed = project ? project->IndexOfModuleFile(before) : -1;
+  if (listed >= 0) {
+    project->Definition().Edit().Items()[static_cast<std::size_t>(listed)] =
+        ToStoredPath(ExtractFileDir(project->FileName()), after);
+    ui_.ProjectsChanged();
+  }
+  return true;
+}
+
+bool TSession::SaveGroupAs() {
+  if (!group_) throw std::runtime_error(sNoProject);
+  const std::string name = ui_.AskSaveName(group_->FileName());
+  if (name.empty()) return false;
+  index_.Renaming(*group_);
+  group_->Rename(FullPath(name));
+  index_.Renamed(*group_);
+  Save(group_->Definition());
+  return true;
+}
+
+void TSession::ReloadDocument(TDocument& document) {
+  document.Load();
+  if (auto* text = dynamic_cast<TTextEditor*>(&document))
+    ui_.EditorChanged(*text);
+  else
+    ui_.ProjectsChanged();
+}
+
+bool TSession::Reload(const std::string& fileName) {
+  TOpenModule* module = index_.Find(fileName);
+  TDocument* document = module ? module->FindDocument(fileName) : nullptr;
+  if (!document) return false;
+  if (module == group_)
+    ReopenGroup();
+  else
+    ReloadDocument(*document);
+  return true;
+}
+
+void TSession::ReopenGroup() {
+  const std::string file = group_->FileName();
+  if (CloseAll()) Open(file);
+}
+
+void TSession::CheckDocument(TDocument& document) {
+  auto* text = dynamic_cast<TTextEditor*>(&document);
+  switch (document.CheckDisk()) {
+    case TDiskChange::None:
+      return;
+    case TDiskChange::Attributes:
+      break;
+    case TDiskChange::Gone:
+      document.AcceptDisk();
+      if (text) text->KeepWithoutFile();
+      Log(Format(sGone, {document.FileName()}));
+      break;
+    case TDiskChange::Contents:
+      if (document.GetModified() && !ui_.AskReload(document.FileName())) {
+        document.AcceptDisk();
+        break;
+      }
+      Log(Format(sReloaded, {document.FileName()}));
+      return ReloadDocument(document);
+  }
+  if (text) ui_.EditorChanged(*text);
+}
+
+void TSession::CheckDisk() {
+  // The names are taken first: answering a question can close modules.
+  std::vector<std::string> names;
+  for (const auto& module : index_.InOrder())
+    for (const auto& document : module->Documents()) names.push_back(document->FileName());
+  for (const auto& name : names) {
+    TOpenModule* module = index_.Find(name);
+    if (!module || (module == group_ && group_->IsUnsaved())) continue;
+    if (module == group_ && group_->Definition().CheckDisk() == TDiskChange::Contents) return ReopenGroup();
+    try {
+      if (TDocument* document = module->FindDocument(name)) CheckDocument(*document);
+    } catch (const std::exception& e) {
+      Log(Format(sCannotReload, {name, e.what()}));
+    }
+  }
+}
+
+void TSession::SetActiveProject(TProject& project) {
+  if (!group_ || group_->Active() == &project) return;
+  group_->SetActive(project);
+  ui_.ProjectsChanged();
+  notifications_.ActiveProjectChanged(project.FileName());
+}
+
+std::size_t TSession::AddToProject(const std::vector<std::string>& fileNames) {
+  TProject* project = ActiveProject();
+  if (!project) throw std::runtime_error(sNoProject);
+  std::vector<std::string> full;
+  for (const auto& name : fileNames) full.push_back(FullPath(name));
+  const std::size_t added = project->AddModuleFiles(full);
+  if (added) ui_.ProjectsChanged();
+  return added;
+}
+
+void TSession::RemoveFromProject(TProject& project, int index) {
+  project.RemoveModuleFile(index);
+  ui_.ProjectsChanged();
+}
+
+TOpenModule* TSession::CurrentModule() {
+  TTextEditor* editor = ui_.ActiveEditor();
+  return editor ? index_.Find(editor->FileName()) : nullptr;
+}

@@ -1,0 +1,115 @@
+// What is open in the workbench, and every operation on it: opening, closing, saving, reloading, the active project.
+// It knows no windows; it tells ISessionUi what to show and asks it what only the user can answer.
+#pragma once
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include "workbench/model/ModuleIndex.h"
+
+enum class TSaveAnswer { Save, Discard, Cancel };
+
+/// The windows as the session sees them.
+class ISessionUi {
+ public:
+  virtual ~ISessionUi() = default;
+  /// Shows a page for the editor and attaches its view, without bringing it to the front.
+  virtual void EditorOpened(TTextEditor& editor) = 0;
+  /// Takes the page away; called while the editor still exists.
+  virtual void EditorClosing(TTextEditor& editor) = 0;
+  virtual void ShowEditor(TTextEditor& editor) = 0;
+  /// The editor in front, or nullptr.
+  virtual TTextEditor* ActiveEditor() = 0;
+  /// Name, modified or read-only state changed.
+  virtual void EditorChanged(TTextEditor& editor) = 0;
+  /// Projects, their modules or the active project changed.
+  virtual void ProjectsChanged() = 0;
+  virtual TSaveAnswer AskSave(const std::string& fileName) = 0;
+  /// Whether to drop the user's changes for what is on disk now.
+  virtual bool AskReload(const std::string& fileName) = 0;
+  /// A file name to save under; empty when the user cancelled.
+  virtual std::string AskSaveName(const std::string& proposed) = 0;
+};
+
+/// User-interface thread only.  Operations throw std::runtime_error with a sentence for the user when they fail, and
+/// answer false when the user, or a package, stopped them.
+class TSession {
+ public:
+  TSession(ISessionUi& ui, const TPackageGuard& guard, TNotifications& notifications)
+      : ui_(ui), guard_(guard), notifications_(notifications) {}
+
+  /// Opens by extension: a group, a project in a new group, or a unit; brings forward what is open already.
+  bool Open(const std::string& fileName);
+  /// `newGroup` closes everything first; otherwise the project joins the group that is open.
+  bool OpenProject(const std::string& fileName, bool newGroup);
+  /// Writes an empty project and opens it in a new group.
+  bool NewProject(const std::string& fileName);
+  /// Creates an unsaved unit named Unit1, Unit2, ... in the active project, or in `directory` without one.
+  TUnit& NewUnit(const std::string& directory);
+
+  void Save(TDocument& document);
+  /// Saves everything modified.  False when the user cancelled; throws at the first that cannot be saved.
+  bool SaveAll();
+  bool SaveUnitAs(TUnit& unit);
+  bool SaveGroupAs();
+
+  bool Close(TOpenModule& module);
+  /// Asks about everything modified first; nothing is closed when the user cancels there.
+  bool CloseAll();
+  /// Closes what is left without asking: the program ends and has asked, or may not ask.
+  void DropAll();
+
+  /// Shows what is on disk.  False when the file is not open.
+  bool Reload(const std::string& fileName);
+  /// Looks at the disk for every open document and takes over what changed there.
+  void CheckDisk();
+
+  void SetActiveProject(TProject& project);
+  /// Adds files to the active project; how many were new.  Throws without a project.
+  std::size_t AddToProject(const std::vector<std::string>& fileNames);
+  void RemoveFromProject(TProject& project, int index);
+
+  TModuleIndex& Modules() { return index_; }
+  const TModuleIndex& Modules() const { return index_; }
+  TProjectGroup* Group() const { return group_; }
+  TProject* ActiveProject() const { return group_ ? group_->Active() : nullptr; }
+  TOpenModule* CurrentModule();
+  TTextEditor* ActiveEditor() { return ui_.ActiveEditor(); }
+  void Log(const std::string& line) const { guard_.Log(line); }
+
+ private:
+  template <class T>
+  T& AddModule(std::unique_ptr<T> module) {
+    T& added = *module;
+    index_.Add(std::move(module));
+    return added;
+  }
+  bool OpenGroup(const std::string& fileName);
+  bool OpenUnit(const std::string& fileName);
+  void ShowUnit(TUnit& unit);
+  TProjectGroup& MakeGroup(const std::string& projectFile);
+  void AttachListedProjects(TProjectGroup& group);
+  void AnnounceOpened(const std::vector<std::string>& fileNames);
+
+  bool AskAboutModified(const std::vector<TOpenModule*>& modules);
+  bool AskAboutGroup();
+  bool CloseEach(const std::vector<TOpenModule*>& modules);
+  bool CloseOne(TOpenModule& module);
+  void Forget(TOpenModule& module);
+  bool CloseProject(TProject& project);
+  std::vector<TOpenModule*> ClosingOrder() const;
+  std::vector<TOpenModule*> OpenUnitsOf(TProject& project) const;
+  void RememberActive();
+
+  void ReloadDocument(TDocument& document);
+  void ReopenGroup();
+  void CheckDocument(TDocument& document);
+
+  ISessionUi& ui_;
+  const TPackageGuard& guard_;
+  TNotifications& notifications_;
+  TModuleIndex index_;
+  TProjectGroup* group_ = nullptr;
+  std::map<std::string, std::string> lastActive_;  // by group file: its active project when it was closed
+};

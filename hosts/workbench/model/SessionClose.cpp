@@ -1,0 +1,130 @@
+// Closing: the half of the session that takes modules away.
+#include <algorithm>
+
+#include "host/Paths.h"
+#include "host/Text.h"
+#include "workbench/model/Session.h"
+
+bool TSession::AskAboutModified(const std::vector<TOpenModule*>& modules) {
+  for (TOpenModule* module : modules) {
+    if (module == group_ && group_->IsUnsaved()) continue;
+    for (const auto& document : module->Documents()) {
+      if (!document->GetModified()) continue;
+      const TSaveAnswer answer = ui_.AskSave(document->FileName());
+      if (answer == TSaveAnswer::Cancel) return false;
+      if (answer == TSaveAnswer::Save) Save(*document);
+    }
+  }
+  return true;
+}
+
+bool TSession::AskAboutGroup() {
+  // One project alone opens again without its group; several together are work that would be lost.
+  if (!group_ || !group_->IsUnsaved() || group_->Projects().size() < 2) return true;
+  switch (ui_.AskSave(group_->FileName())) {
+    case TSaveAnswer::Save:
+      return SaveGroupAs();
+    case TSaveAnswer::Discard:
+      return true;
+    case TSaveAnswer::Cancel:
+      break;
+  }
+  return false;
+}
+
+std::vector<TOpenModule*> TSession::ClosingOrder() const {
+  // Units first, the last opened first; then the active project, so that what hangs on it ends with it; then the
+  // other projects; the group last.
+  const auto rank = [&](const TOpenModule* module) {
+    if (module == group_) return 3;
+    if (!dynamic_cast<const TProject*>(module)) return 0;
+    return group_ && group_->Active() == module ? 1 : 2;
+  };
+  std::vector<TOpenModule*> order;
+  for (auto module = index_.InOrder().rbegin(); module != index_.InOrder().rend(); ++module)
+    order.push_back(module->get());
+  std::ranges::stable_sort(order, {}, rank);
+  return order;
+}
+
+bool TSession::CloseAll() {
+  const auto order = ClosingOrder();
+  if (!AskAboutModified(order) || !AskAboutGroup()) return false;
+  RememberActive();
+  const bool closed = CloseEach(order);
+  ui_.ProjectsChanged();
+  return closed;
+}
+
+void TSession::DropAll() {
+  for (TOpenModule* module : ClosingOrder()) {
+    notifications_.FileClosing(module->FileName());
+    Forget(*module);
+  }
+  ui_.ProjectsChanged();
+}
+
+void TSession::RememberActive() {
+  if (!group_ || !group_->Active() || group_->IsUnsaved()) return;
+  TDefinitionEditor<TGroupFile>& definition = group_->Definition();
+  lastActive_[group_->FileName()] = definition.Get().Active();
+  if (definition.IsReadOnly() || definition.GetModified() || !group_->ActiveDiffersFromFile()) return;
+  try {
+    Save(definition);
+  } catch (const std::exception& e) {
+    Log(e.what());
+  }
+}
+
+bool TSession::CloseEach(const std::vector<TOpenModule*>& modules) {
+  // By name: a package that hears of one closing may close others.
+  std::vector<std::string> names;
+  for (const TOpenModule* module : modules) names.push_back(module->FileName());
+  return std::ranges::all_of(names, [&](const std::string& name) {
+    TOpenModule* module = index_.Find(name);
+    return !module || CloseOne(*module);
+  });
+}
+
+bool TSession::CloseOne(TOpenModule& module) {
+  if (!notifications_.FileClosing(module.FileName())) return false;
+  Forget(module);
+  return true;
+}
+
+void TSession::Forget(TOpenModule& module) {
+  for (const auto& document : module.Documents())
+    if (auto* text = dynamic_cast<TTextEditor*>(document.get())) ui_.EditorClosing(*text);
+  if (&module == group_) group_ = nullptr;
+  index_.Remove(module);
+}
+
+std::vector<TOpenModule*> TSession::OpenUnitsOf(TProject& project) const {
+  std::vector<TOpenModule*> units;
+  for (int i = 0; i < project.GetModuleCount(); ++i) {
+    TOpenModule* unit = index_.Find(project.GetModuleFileName(i));
+    if (unit && std::ranges::find(units, unit) == units.end()) units.push_back(unit);
+  }
+  return units;
+}
+
+bool TSession::Close(TOpenModule& module) {
+  if (&module == group_) return CloseAll();
+  if (auto* project = dynamic_cast<TProject*>(&module)) return CloseProject(*project);
+  return AskAboutModified({&module}) && CloseOne(module);
+}
+
+bool TSession::CloseProject(TProject& project) {
+  if (group_->Projects().size() == 1) return CloseAll();
+  auto modules = OpenUnitsOf(project);
+  modules.push_back(&project);
+  if (!AskAboutModified(modules)) return false;
+  modules.pop_back();
+  if (!CloseEach(modules) || !notifications_.FileClosing(project.FileName())) return false;
+  const bool wasActive = group_->Active() == &project;
+  group_->Remove(project);
+  Forget(project);
+  ui_.ProjectsChanged();
+  if (wasActive && group_->Active()) notifications_.ActiveProjectChanged(group_->Active()->FileName());
+  return true;
+}

@@ -1,0 +1,51 @@
+// The session as packages see it: the host's module, editor and action services.
+#pragma once
+
+#include "workbench/model/Session.h"
+
+class TModuleServices final : public IOTAModuleServices {
+ public:
+  explicit TModuleServices(TSession& session) : session_(session) {}
+  int GetModuleCount() override;
+  IOTAModule* GetModule(int index) override;
+  IOTAModule* FindModule(const std::string& fileName) override;
+  IOTAModule* CurrentModule() override;
+  IOTAProjectGroup* GetMainProjectGroup() override;
+  bool SaveAll() override;
+  bool CloseAll() override;
+  void* QueryInterface(const TGuid& iid) noexcept override {
+    return FindInterface<IOTAModuleServices>(this, iid);
+  }
+
+ private:
+  TSession& session_;
+};
+
+/// There is one object for the front-most buffer, whichever that is at the time of a call.
+class TEditorServices final : public IOTAEditorServices, public IOTAEditBuffer {
+ public:
+  explicit TEditorServices(TSession& session) : session_(session) {}
+  IOTAEditBuffer* GetTopBuffer() override { return session_.ActiveEditor() ? this : nullptr; }
+  std::string GetFileName() override;
+  void* QueryInterface(const TGuid& iid) noexcept override {
+    return FindInterface<IOTAEditorServices, IOTAEditBuffer>(this, iid);
+  }
+
+ private:
+  TSession& session_;
+};
+
+class TActionServices final : public IOTAActionServices {
+ public:
+  explicit TActionServices(TSession& session) : session_(session) {}
+  bool OpenFile(const std::string& fileName) override;
+  bool OpenProject(const std::string& fileName, bool newProjectGroup) override;
+  bool SaveFile(const std::string& fileName) override;
+  bool ReloadFile(const std::string& fileName) override;
+  void* QueryInterface(const TGuid& iid) noexcept override {
+    return FindInterface<IOTAActionServices>(this, iid);
+  }
+
+ private:
+  TSession& session_;
+};

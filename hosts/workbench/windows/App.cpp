@@ -1,0 +1,111 @@
+#include "workbench/windows/App.h"
+
+#include <wx/image.h>
+#include <wx/stdpaths.h>
+#include <wx/timer.h>
+
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+
+#include "host/Paths.h"
+#include "host/System.h"
+#include "workbench/macro/MacroPlayer.h"
+#include "workbench/model/ModelStrings.h"
+#include "workbench/model/PackageLoader.h"
+#include "workbench/model/Settings.h"
+#include "workbench/windows/IdeServices.h"
+#include "workbench/windows/MainFrame.h"
+#include "workbench/windows/ModalStack.h"
+
+namespace {
+
+constexpr const char* kDefaultPackage = "KestrelIDE" PACKAGE_SUFFIX;
+constexpr int kEndStepMs = 50;
+constexpr int kMaxEndSteps = 100;
+constexpr int kExitTerminated = 128 + SIGTERM;
+
+/// The packages to load: those asked for, else those of the settings, else the one beside the program.
+std::vector<std::string> PackagesToLoad(const TCommandLine& line, TOptionsServices& options) {
+  if (!line.Packages.empty()) return line.Packages;
+  auto configured = SplitPaths(options.PropertySet(kGeneralSet).GetValue(kPackagesField));
+  if (!configured.empty()) return configured;
+  const std::string program = wxStandardPaths::Get().GetExecutablePath().utf8_string();
+  const std::string beside = IncludeTrailingPathDelimiter(ExtractFileDir(program)) + kDefaultPackage;
+  return FileExists(beside) ? std::vector{beside} : std::vector<std::string>();
+}
+
+}  // namespace
+
+TWorkbenchApp::TWorkbenchApp(TCommandLine line) : line_(std::move(line)) {}
+TWorkbenchApp::~TWorkbenchApp() = default;
+
+bool TWorkbenchApp::OnInit() {
+  SetAppName("workbench");
+  SetExitOnFrameDelete(false);
+  wxImage::AddHandler(new wxPNGHandler);
+  SetSignalHandler(SIGTERM, [](int) { static_cast<TWorkbenchApp&>(*wxTheApp).EndProgram(kExitTerminated); });
+  SetBeepHandler([](TBeep) { wxBell(); });
+  modals_ = std::make_unique<TModalStack>();
+  services_ = std::make_unique<TIdeServices>([this](const std::string& line) { Log(line); });
+  packages_ = std::make_unique<TPackageLoader>(services_->Guard());
+  for (const auto& package : PackagesToLoad(line_, services_->Options())) packages_->Load(package);
+  frame_ = new TMainFrame(*services_);
+  SetTopWindow(frame_);
+  for (const auto& line : early_) frame_->AddMessage(line);
+  frame_->Show();
+  services_->Guard().Run("MainFormCreated", [this] { services_->Application().MainFormCreated().Fire(); });
+  if (!line_.File.empty()) frame_->CallAfter([this] { frame_->OpenForUser(line_.File); });
+  if (!line_.Macro.empty())
+    player_ = std::make_unique<TMacroPlayer>(*frame_, line_, [this](int exitCode) { EndProgram(exitCode); });
+  return true;
+}
+
+void TWorkbenchApp::Log(const std::string& line) {
+  if (frame_)
+    frame_->AddMessage(line);
+  else
+    early_.push_back(line);
+  // Nobody looks at the message pane of a program that fails to start its packages, or that plays a macro.
+  if (!frame_ || player_) std::fprintf(stderr, "workbench: %s\n", line.c_str());
+}
+
+int TWorkbenchApp::OnRun() {
+  wxApp::OnRun();
+  TakeApart();
+  return exitCode_;
+}
+
+void TWorkbenchApp::TakeApart() {
+  player_.reset();
+  packages_->Finalize();  // with the frame alive: packages take their menus and windows away
+  delete frame_;
+  frame_ = nullptr;
+  if (const std::size_t left = services_->DropRegistrations())
+    Log(Format(sPackageLeftovers, {static_cast<long long>(left)}));
+  DeletePendingObjects();  // windows of packages whose code is about to go
+  packages_->Unload();
+  SetBeepHandler({});
+  services_.reset();
+}
+
+void TWorkbenchApp::EndProgram(int exitCode) {
+  exitCode_ = exitCode;
+  EndStep();
+}
+
+void TWorkbenchApp::EndStep() {
+  // A dialog returns to the code that opened it, and that may open the next one: so one per round.
+  if (++endSteps_ > kMaxEndSteps) std::_Exit(exitCode_ ? exitCode_ : kExitFailed);
+  if (wxDialog* dialog = TModalStack::Top()) {
+    dialog->EndModal(wxID_CANCEL);
+    auto* next = new wxTimer;
+    next->Bind(wxEVT_TIMER, [this, next](wxTimerEvent&) {
+      CallAfter([next] { delete next; });
+      CallAfter([this] { EndStep(); });
+    });
+    next->StartOnce(kEndStepMs);
+    return;
+  }
+  frame_->Close(true);
+}

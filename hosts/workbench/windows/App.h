@@ -1,0 +1,45 @@
+// The program: puts the parts together and takes them apart in the right order.
+#pragma once
+
+#include <wx/app.h>
+
+#include <memory>
+
+#include "workbench/model/CommandLine.h"
+
+/// The exit codes of the program.
+inline constexpr int kExitFailed = 1;
+inline constexpr int kExitUsage = 2;
+inline constexpr int kExitNoDisplay = 3;
+
+class TMacroPlayer;
+class TMainFrame;
+class TIdeServices;
+class TPackageLoader;
+class TModalStack;
+
+class TWorkbenchApp final : public wxApp {
+ public:
+  explicit TWorkbenchApp(TCommandLine line);
+  ~TWorkbenchApp() override;
+  bool OnInit() override;
+  int OnRun() override;
+  /// Cancels the dialogs that are open, then ends the program without asking about unsaved changes.
+  void EndProgram(int exitCode);
+
+ private:
+  void LoadPackages();
+  void Log(const std::string& line);
+  void TakeApart();
+  void EndStep();
+
+  TCommandLine line_;
+  std::unique_ptr<TModalStack> modals_;
+  std::unique_ptr<TIdeServices> services_;
+  std::unique_ptr<TPackageLoader> packages_;
+  std::unique_ptr<TMacroPlayer> player_;
+  std::vector<std::string> early_;  // lines from before there was a message pane
+  TMainFrame* frame_ = nullptr;
+  int exitCode_ = 0;
+  int endSteps_ = 0;
+};

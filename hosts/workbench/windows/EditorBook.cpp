@@ -1,0 +1,96 @@
+#include "workbench/windows/EditorBook.h"
+
+#include "host/Paths.h"
+#include "host/Text.h"
+#include "workbench/windows/FrameStrings.h"
+#include "workbench/windows/Icons.h"
+#include "workbench/windows/PascalStyle.h"
+
+class TEditorBook::TPageOwner final : public IEditorPageOwner {
+ public:
+  explicit TPageOwner(TEditorBook& book) : book_(book) {}
+  void PageChanged(TTextEditor& editor) override { book_.RefreshEditor(editor); }
+  void CaretMoved() override { book_.hooks_.StateChanged(); }
+  void TypingRefused(TTextEditor& editor) override {
+    wxBell();
+    book_.hooks_.Status(Format(sCannotType, {ExtractFileName(editor.FileName())}));
+  }
+
+ private:
+  TEditorBook& book_;
+};
+
+TEditorBook::TEditorBook(wxWindow* parent, THooks hooks, int fontSize)
+    : wxAuiNotebook(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize,
+                    wxAUI_NB_TOP | wxAUI_NB_TAB_MOVE | wxAUI_NB_SCROLL_BUTTONS |
+                        wxAUI_NB_CLOSE_ON_ACTIVE_TAB | wxAUI_NB_WINDOWLIST_BUTTON |
+                        wxAUI_NB_MIDDLE_CLICK_CLOSE | wxBORDER_NONE),
+      hooks_(std::move(hooks)),
+      owner_(std::make_shared<TPageOwner>(*this)),
+      fontSize_(fontSize) {
+  Bind(wxEVT_AUINOTEBOOK_PAGE_CHANGED, [this](wxAuiNotebookEvent& event) {
+    event.Skip();
+    if (TEditorPage* page = FrontPage()) {
+      page->SetFocus();
+      page->Editor().Activated();
+    }
+    hooks_.StateChanged();
+  });
+  Bind(wxEVT_AUINOTEBOOK_PAGE_CLOSE, [this](wxAuiNotebookEvent& event) {
+    // The session decides; it takes the page away when this event is over.
+    event.Veto();
+    const std::string file = PageAt(static_cast<std::size_t>(event.GetSelection()))->Editor().FileName();
+    CallAfter([this, file] {
+      for (std::size_t i = 0; i < GetPageCount(); ++i)
+        if (PageAt(i)->Editor().FileName() == file) return hooks_.CloseWanted(PageAt(i)->Editor());
+    });
+  });
+}
+
+TEditorPage* TEditorBook::FrontPage() const {
+  const int front = GetSelection();
+  return front == wxNOT_FOUND ? nullptr : PageAt(static_cast<std::size_t>(front));
+}
+
+TEditorPage* TEditorBook::FindPage(const TTextEditor& editor) const {
+  for (std::size_t i = 0; i < GetPageCount(); ++i)
+    if (&PageAt(i)->Editor() == &editor) return PageAt(i);
+  return nullptr;
+}
+
+void TEditorBook::AddEditor(TTextEditor& editor) {
+  auto* page = new TEditorPage(this, *owner_, editor, fontSize_);
+  AddPage(page, wxString::FromUTF8(ExtractFileName(editor.FileName())), false);
+  RefreshEditor(editor);
+}
+
+void TEditorBook::RemoveEditor(TTextEditor& editor) {
+  TEditorPage* page = FindPage(editor);
+  if (!page) return;
+  page->Detach();
+  DeletePage(static_cast<std::size_t>(GetPageIndex(page)));
+  hooks_.StateChanged();
+}
+
+void TEditorBook::ShowEditor(TTextEditor& editor) {
+  TEditorPage* page = FindPage(editor);
+  if (!page) return;
+  SetSelection(static_cast<std::size_t>(GetPageIndex(page)));
+  page->SetFocus();
+}
+
+void TEditorBook::RefreshEditor(TTextEditor& editor) {
+  TEditorPage* page = FindPage(editor);
+  if (!page) return;
+  const auto index = static_cast<std::size_t>(GetPageIndex(page));
+  const std::string name = ExtractFileName(editor.FileName());
+  SetPageText(index, wxString::FromUTF8(editor.GetModified() ? "*" + name : name));
+  SetPageBitmap(index, editor.IsReadOnly() ? IconBundle(TIcon::Lock) : wxBitmapBundle());
+  SetPageToolTip(index, wxString::FromUTF8(editor.FileName()));
+  hooks_.StateChanged();
+}
+
+void TEditorBook::SetFontSize(int points) {
+  fontSize_ = points;
+  for (std::size_t i = 0; i < GetPageCount(); ++i) ApplyPascalStyle(*PageAt(i), points);
+}

@@ -1,0 +1,37 @@
+// The tabbed editors.
+#pragma once
+
+#include <wx/aui/auibook.h>
+
+#include <functional>
+
+#include "workbench/windows/EditorPage.h"
+
+class TEditorBook final : public wxAuiNotebook {
+ public:
+  /// What the book asks of the frame.
+  struct THooks {
+    std::function<void()> StateChanged;              ///< another page, caret, modified or read-only state
+    std::function<void(TTextEditor&)> CloseWanted;   ///< the user clicked a tab's close button
+    std::function<void(const std::string&)> Status;  ///< a hint for the status bar
+  };
+  TEditorBook(wxWindow* parent, THooks hooks, int fontSize);
+
+  void AddEditor(TTextEditor& editor);
+  void RemoveEditor(TTextEditor& editor);
+  void ShowEditor(TTextEditor& editor);
+  /// Caption, lock picture and tool tip follow the editor's state.
+  void RefreshEditor(TTextEditor& editor);
+  void SetFontSize(int points);
+
+  /// The page in front, or nullptr.
+  TEditorPage* FrontPage() const;
+  TEditorPage* FindPage(const TTextEditor& editor) const;
+
+ private:
+  class TPageOwner;
+  TEditorPage* PageAt(std::size_t index) const { return static_cast<TEditorPage*>(GetPage(index)); }
+  THooks hooks_;
+  std::shared_ptr<IEditorPageOwner> owner_;
+  int fontSize_;
+};

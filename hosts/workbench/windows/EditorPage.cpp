@@ -1,0 +1,64 @@
+#include "workbench/windows/EditorPage.h"
+
+#include "workbench/windows/PascalStyle.h"
+
+TEditorPage::TEditorPage(wxWindow* parent, IEditorPageOwner& owner, TTextEditor& editor, int fontSize)
+    : wxStyledTextCtrl(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxBORDER_NONE),
+      owner_(owner),
+      editor_(editor) {
+  SetName(wxString::FromUTF8(editor.FileName()));
+  ApplyPascalStyle(*this, fontSize);
+  editor_.AttachView(this);
+  Bind(wxEVT_STC_CHANGE, [this](wxStyledTextEvent&) {
+    if (!replacing_) editor_.TextModified();
+  });
+  const auto stateChanged = [this](wxStyledTextEvent&) { owner_.PageChanged(editor_); };
+  Bind(wxEVT_STC_SAVEPOINTLEFT, stateChanged);
+  Bind(wxEVT_STC_SAVEPOINTREACHED, stateChanged);
+  Bind(wxEVT_STC_UPDATEUI, [this](wxStyledTextEvent&) { owner_.CaretMoved(); });
+  Bind(wxEVT_STC_ROMODIFYATTEMPT, [this](wxStyledTextEvent&) { owner_.TypingRefused(editor_); });
+}
+
+std::string TEditorPage::ReadText() const {
+  // Bytes, not characters: text that is not UTF-8 goes back to the disk as it came.
+  auto* self = const_cast<TEditorPage*>(this);
+  const wxCharBuffer raw = self->GetTextRaw();
+  return {raw.data(), raw.length()};
+}
+
+void TEditorPage::ShowText(const std::string& text) {
+  replacing_ = true;
+  const bool readOnly = GetReadOnly();
+  SetReadOnly(false);
+  if (!filled_) {
+    AddTextRaw(text.data(), static_cast<int>(text.size()));
+    EmptyUndoBuffer();
+    GotoPos(0);
+    SetEOLMode(text.find("\r\n") == std::string::npos ? wxSTC_EOL_LF : wxSTC_EOL_CRLF);
+  } else if (ReadText() != text) {
+    ReplaceText(text);
+  }
+  filled_ = true;
+  SetSavePoint();
+  SetReadOnly(readOnly);
+  replacing_ = false;
+}
+
+void TEditorPage::ReplaceText(const std::string& text) {
+  // In one undoable step, so that even a reload over unsaved changes can be taken back.
+  const int line = GetCurrentLine();
+  const int top = GetFirstVisibleLine();
+  BeginUndoAction();
+  ClearAll();
+  AddTextRaw(text.data(), static_cast<int>(text.size()));
+  EndUndoAction();
+  GotoLine(line);
+  SetFirstVisibleLine(top);
+}
+
+bool TEditorPage::TypeAtEnd(const std::string& text) {
+  if (GetReadOnly()) return false;
+  DocumentEnd();
+  AddTextRaw(text.data(), static_cast<int>(text.size()));
+  return true;
+}

@@ -1,0 +1,38 @@
+// One editor page: a text with syntax colouring.
+#pragma once
+
+#include <wx/stc/stc.h>
+
+#include "workbench/model/Editors.h"
+
+/// What the pages tell the window that holds them.
+class IEditorPageOwner {
+ public:
+  virtual ~IEditorPageOwner() = default;
+  virtual void PageChanged(TTextEditor& editor) = 0;
+  virtual void CaretMoved() = 0;
+  virtual void TypingRefused(TTextEditor& editor) = 0;
+};
+
+class TEditorPage final : public wxStyledTextCtrl, public IDocumentView {
+ public:
+  /// Attaches itself to `editor`, which must outlive it or be released by Detach().
+  TEditorPage(wxWindow* parent, IEditorPageOwner& owner, TTextEditor& editor, int fontSize);
+  TTextEditor& Editor() const { return editor_; }
+  void Detach() { editor_.AttachView(nullptr); }
+
+  std::string ReadText() const override;
+  void ShowText(const std::string& text) override;
+  bool HasChanges() const override { return GetModify(); }
+  void MarkSaved() override { SetSavePoint(); }
+  void LockText(bool locked) override { SetReadOnly(locked); }
+  /// Types at the end, as the user would.  False when the page is read-only.
+  bool TypeAtEnd(const std::string& text);
+
+ private:
+  void ReplaceText(const std::string& text);
+  IEditorPageOwner& owner_;
+  TTextEditor& editor_;
+  bool filled_ = false;
+  bool replacing_ = false;
+};

@@ -1,0 +1,32 @@
+// Find and replace in the editor in front.
+#pragma once
+
+#include <wx/fdrepdlg.h>
+
+#include <functional>
+#include <string>
+
+class wxStyledTextCtrl;
+
+class TFindReplace final : public wxEvtHandler {
+ public:
+  /// `editor` answers the editor to search, nullptr for none; `status` shows a line to the user.
+  TFindReplace(wxWindow* parent, std::function<wxStyledTextCtrl*()> editor,
+               std::function<void(const std::string&)> status);
+  void Show(bool replace);
+  /// Finds the last text again; asks for one when there was none.
+  void FindNext();
+
+ private:
+  bool Step();
+  void ReplaceOne();
+  void ReplaceAll();
+  int SearchFlags() const;
+  bool SelectionMatches(wxStyledTextCtrl& editor) const;
+
+  wxWindow* parent_;
+  std::function<wxStyledTextCtrl*()> editor_;
+  std::function<void(const std::string&)> status_;
+  wxFindReplaceData data_{wxFR_DOWN};
+  wxWeakRef<wxFindReplaceDialog> dialog_;
+};

@@ -1,0 +1,61 @@
+#include "workbench/windows/IdeServices.h"
+
+#include <wx/app.h>
+#include <wx/msgdlg.h>
+
+#include <filesystem>
+
+#include "host/Paths.h"
+#include "host/Text.h"
+#include "workbench/windows/FrameStrings.h"
+
+bool TApplicationService::HelpKeyword(const std::string& keyword) {
+  wxMessageBox(wxString::FromUTF8(Format(sNoHelp, {keyword})), wxString::FromUTF8(sProgramName.str()),
+               wxOK | wxICON_INFORMATION, wxGetActiveWindow());
+  return false;
+}
+
+TIdeServices::TIdeServices(TLogLine log)
+    : guard_(std::move(log)),
+      startupDirectory_(ExcludeTrailingPathDelimiter(std::filesystem::current_path().string())) {
+  Publish<IOTAServices>(*this);
+  Publish<IOTAWizardServices>(wizards_);
+  Publish<IOTAOptionsServices>(options_);
+  Publish<IOTAGalleryCategoryManager>(categories_);
+  Publish<IOTAApplication>(application_);
+  windowless_ = published_.size();
+  CorvaneIDEServices = this;
+}
+
+TIdeServices::~TIdeServices() { CorvaneIDEServices = nullptr; }
+
+void TIdeServices::WithdrawWindowServices() { published_.resize(windowless_); }
+
+std::size_t TIdeServices::DropRegistrations() {
+  const std::size_t left =
+      notifications_.Notifiers().Count() + wizards_.Wizards().Count() + options_.AddIns().Count();
+  notifications_.Notifiers().Clear();
+  wizards_.Wizards().Clear();
+  options_.AddIns().Clear();
+  return left;
+}
+
+int TIdeServices::AddNotifier(std::shared_ptr<IOTAIDENotifier> notifier) {
+  return notifications_.Notifiers().Add(std::move(notifier));
+}
+
+void TIdeServices::RemoveNotifier(int index) {
+  if (const auto notifier = notifications_.Notifiers().Remove(index))
+    guard_.Run("Destroyed", [&] { notifier->Destroyed(); });
+}
+
+TWindowHandle TIdeServices::GetParentHandle() {
+  const wxWindow* window = wxTheApp->GetTopWindow();
+  return window ? reinterpret_cast<TWindowHandle>(window->GetHandle()) : 0;
+}
+
+void* TIdeServices::QueryInterface(const TGuid& iid) noexcept {
+  for (const auto& row : published_)
+    if (row.Iid == iid) return row.Service;
+  return nullptr;
+}

@@ -1,0 +1,67 @@
+// The root of the host's services, and those that need no window.
+#pragma once
+
+#include <functional>
+#include <map>
+#include <memory>
+
+#include "workbench/model/Gallery.h"
+#include "workbench/model/PropertySets.h"
+
+/// The host program: main-form event and help.
+class TApplicationService final : public IOTAApplication {
+ public:
+  TEvent<>& MainFormCreated() override { return created_; }
+  bool HelpKeyword(const std::string& keyword) override;
+  void* QueryInterface(const TGuid& iid) noexcept override {
+    return FindInterface<IOTAApplication>(this, iid);
+  }
+
+ private:
+  TEvent<> created_;
+};
+
+/// What CorvaneIDEServices points to.  Services that work on windows are found once the main form exists.
+class TIdeServices final : public IOTAServices {
+ public:
+  explicit TIdeServices(TLogLine log);
+  ~TIdeServices() override;
+
+  /// Makes a service findable until Withdraw; borrowed.
+  template <class T>
+  void Publish(T& service) {
+    published_.push_back({T::IID, &service});
+  }
+  /// The main form goes: its services are no longer found.
+  void WithdrawWindowServices();
+  /// Drops what packages did not take back; how much there was.
+  std::size_t DropRegistrations();
+
+  int AddNotifier(std::shared_ptr<IOTAIDENotifier> notifier) override;
+  void RemoveNotifier(int index) override;
+  TWindowHandle GetParentHandle() override;
+  std::string GetStartupDirectory() override { return startupDirectory_; }
+  void* QueryInterface(const TGuid& iid) noexcept override;
+
+  const TPackageGuard& Guard() const { return guard_; }
+  TNotifications& Notifications() { return notifications_; }
+  TOptionsServices& Options() { return options_; }
+  TWizardServices& Wizards() { return wizards_; }
+  TGalleryCategories& Categories() { return categories_; }
+  TApplicationService& Application() { return application_; }
+
+ private:
+  struct TPublished {
+    TGuid Iid;
+    void* Service;
+  };
+  TPackageGuard guard_;
+  TNotifications notifications_{guard_};
+  TWizardServices wizards_{guard_};
+  TOptionsServices options_;
+  TGalleryCategories categories_;
+  TApplicationService application_;
+  std::vector<TPublished> published_;
+  std::size_t windowless_;
+  std::string startupDirectory_;
+};

@@ -1,0 +1,253 @@
+#include "workbench/windows/MainFrame.h"
+
+#include <wx/filedlg.h>
+#include <wx/msgdlg.h>
+#include <wx/sizer.h>
+#include <wx/stattext.h>
+
+#include "host/Paths.h"
+#include "host/Text.h"
+#include "workbench/windows/EditorBook.h"
+#include "workbench/windows/FindDialog.h"
+#include "workbench/windows/FrameStrings.h"
+#include "workbench/windows/Icons.h"
+#include "workbench/windows/MessagePane.h"
+#include "workbench/windows/ModalStack.h"
+#include "workbench/windows/ProjectTree.h"
+
+namespace {
+
+enum TStatusField { sfText, sfPosition, sfState, sfProject, sfCount };
+constexpr int kStatusWidths[] = {-1, 120, 90, 180};
+
+wxString Text(const std::string& text) { return wxString::FromUTF8(text); }
+
+/// A pane with its caption above it.
+wxPanel* CaptionedPanel(wxWindow* parent, const TResString& caption) {
+  auto* panel = new wxPanel(parent);
+  auto* label = new wxStaticText(panel, wxID_ANY, Text(caption));
+  label->SetFont(label->GetFont().Bold().Smaller());
+  auto* sizer = new wxBoxSizer(wxVERTICAL);
+  sizer->Add(label, wxSizerFlags().Border(wxALL, panel->FromDIP(4)));
+  panel->SetSizer(sizer);
+  return panel;
+}
+
+void FillPanel(wxPanel* panel, wxWindow* content) {
+  panel->GetSizer()->Add(content, wxSizerFlags(1).Expand());
+}
+
+}  // namespace
+
+TMainFrame::TMainFrame(TIdeServices& services)
+    : wxFrame(nullptr, wxID_ANY, Text(sProgramName)),
+      services_(services),
+      session_(*this, services.Guard(), services.Notifications()),
+      recent_(services.Options().PropertySet(kRecentSet)) {
+  SetName(Text(sProgramName));
+  wxIcon icon;
+  icon.CopyFromBitmap(IconBundle(TIcon::Program).GetBitmap(wxSize(32, 32)));
+  SetIcon(icon);
+  CreateWindows();
+  CreateMenus();
+  menus_ = std::make_unique<TMenuBridge>(*this, services.Guard());
+  services_.Publish<IOTAModuleServices>(moduleServices_);
+  services_.Publish<IOTAEditorServices>(editorServices_);
+  services_.Publish<IOTAActionServices>(actionServices_);
+  services_.Publish<IOTAMenuServices>(*menus_);
+  AddWizards();
+  Bind(wxEVT_CLOSE_WINDOW, &TMainFrame::OnClose, this);
+  Bind(wxEVT_ACTIVATE, [this](wxActivateEvent& event) {
+    event.Skip();
+    if (event.GetActive()) CallAfter([this] { LookAtDisk(); });
+  });
+  ShowState();
+}
+
+TMainFrame::~TMainFrame() {
+  for (const int index : ownWizards_) services_.Wizards().RemoveWizard(index);
+  services_.WithdrawWindowServices();
+}
+
+void TMainFrame::CreateWindows() {
+  const auto state = TWindowState::Load(services_.Options().PropertySet(kWindowSet));
+  const int fontSize = services_.Options()
+                           .PropertySet(kGeneralSet)
+                           .GetNumber(kFontSizeField, kDefaultFontSize, kMinFontSize, kMaxFontSize);
+  columns_ = new wxSplitterWindow(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxSP_LIVE_UPDATE);
+  treePanel_ = CaptionedPanel(columns_, sProjectTreeCaption);
+  tree_ = new TProjectTree(
+      treePanel_, session_,
+      {[this](const std::string& file) { OpenForUser(file); }, [this](wxMenu& menu) { FillTreeMenu(menu); }});
+  FillPanel(treePanel_, tree_);
+  rows_ = new wxSplitterWindow(columns_, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxSP_LIVE_UPDATE);
+  book_ = new TEditorBook(rows_,
+                          {[this] { ShowState(); },
+                           [this](TTextEditor& editor) {
+                             Attempt([&] {
+                               if (auto* module = session_.Modules().Find(editor.FileName()))
+                                 session_.Close(*module);
+                             });
+                           },
+                           [this](const std::string& text) { SetStatusText(Text(text), sfText); }},
+                          fontSize);
+  messagePanel_ = CaptionedPanel(rows_, sMessagesCaption);
+  messages_ = new TMessagePane(messagePanel_);
+  FillPanel(messagePanel_, messages_);
+  find_ = std::make_unique<TFindReplace>(
+      this, [this]() -> wxStyledTextCtrl* { return book_->FrontPage(); },
+      [this](const std::string& text) { SetStatusText(Text(text), sfText); });
+
+  CreateStatusBar(sfCount);
+  int widths[sfCount];
+  for (int i = 0; i < sfCount; ++i)
+    widths[i] = kStatusWidths[i] < 0 ? kStatusWidths[i] : FromDIP(kStatusWidths[i]);
+  SetStatusWidths(sfCount, widths);
+
+  SetSize(FromDIP(wxSize(state.Width, state.Height)));
+  SetMinSize(FromDIP(wxSize(480, 320)));
+  columns_->SetMinimumPaneSize(FromDIP(60));
+  rows_->SetMinimumPaneSize(FromDIP(40));
+  rows_->SetSashGravity(1.0);
+  columns_->SplitVertically(treePanel_, rows_, FromDIP(state.TreeWidth));
+  Layout();
+  rows_->SplitHorizontally(book_, messagePanel_, -FromDIP(state.MessagesHeight));
+  Centre();
+  if (state.Maximized) Maximize();
+}
+
+void TMainFrame::SaveWindowState() {
+  TWindowState state = TWindowState::Load(services_.Options().PropertySet(kWindowSet));
+  state.Maximized = IsMaximized();
+  if (!state.Maximized) {
+    state.Width = ToDIP(GetSize()).GetWidth();
+    state.Height = ToDIP(GetSize()).GetHeight();
+  }
+  if (columns_->IsSplit()) state.TreeWidth = ToDIP(columns_->GetSashPosition());
+  if (rows_->IsSplit())
+    state.MessagesHeight = ToDIP(rows_->GetClientSize().GetHeight() - rows_->GetSashPosition());
+  try {
+    state.Save(services_.Options().PropertySet(kWindowSet));
+  } catch (const std::exception& e) {
+    AddMessage(e.what());
+  }
+}
+
+void TMainFrame::AddMessage(const std::string& line) { messages_->AddLine(line); }
+
+void TMainFrame::ShowState() {
+  const TEditorPage* page = book_ ? book_->FrontPage() : nullptr;
+  const TProject* project = session_.ActiveProject();
+  TTextEditor* editor = page ? &page->Editor() : nullptr;
+  const int position = page ? page->GetCurrentPos() : 0;
+  SetStatusText(page ? Text(Format(sPosition,
+                                   {page->LineFromPosition(position) + 1LL, page->GetColumn(position) + 1LL}))
+                     : wxString(),
+                sfPosition);
+  SetStatusText(Text(!editor                 ? std::string()
+                     : editor->IsReadOnly()  ? sReadOnlyState.str()
+                     : editor->GetModified() ? sModifiedState.str()
+                                             : std::string()),
+                sfState);
+  SetStatusText(Text(project ? ExtractFileName(project->FileName()) : sNoOpenProject.str()), sfProject);
+  const std::string shown = editor ? editor->FileName() : project ? project->FileName() : std::string();
+  SetTitle(Text(shown.empty() ? sProgramName.str() : Format(sFrameTitle, {shown})));
+}
+
+void TMainFrame::EditorOpened(TTextEditor& editor) { book_->AddEditor(editor); }
+void TMainFrame::EditorClosing(TTextEditor& editor) { book_->RemoveEditor(editor); }
+void TMainFrame::ShowEditor(TTextEditor& editor) { book_->ShowEditor(editor); }
+void TMainFrame::EditorChanged(TTextEditor& editor) { book_->RefreshEditor(editor); }
+
+TTextEditor* TMainFrame::ActiveEditor() {
+  TEditorPage* page = book_->FrontPage();
+  return page ? &page->Editor() : nullptr;
+}
+
+void TMainFrame::ProjectsChanged() {
+  tree_->Rebuild();
+  ShowState();
+}
+
+TSaveAnswer TMainFrame::AskSave(const std::string& fileName) {
+  wxMessageDialog box(this, Text(Format(sAskSave, {ExtractFileName(fileName)})), Text(sProgramName),
+                      wxYES_NO | wxCANCEL | wxICON_QUESTION);
+  box.SetExtendedMessage(Text(sAskSaveHint));
+  box.SetYesNoLabels(Text(sAskSaveYes), Text(sAskSaveNo));
+  switch (box.ShowModal()) {
+    case wxID_YES:
+      return TSaveAnswer::Save;
+    case wxID_NO:
+      return TSaveAnswer::Discard;
+    default:
+      return TSaveAnswer::Cancel;
+  }
+}
+
+bool TMainFrame::AskReload(const std::string& fileName) {
+  wxMessageDialog box(this, Text(Format(sAskReload, {fileName})), Text(sProgramName),
+                      wxYES_NO | wxNO_DEFAULT | wxICON_QUESTION);
+  box.SetExtendedMessage(Text(sAskReloadHint));
+  box.SetYesNoLabels(Text(sAskReloadYes), Text(sAskReloadNo));
+  return box.ShowModal() == wxID_YES;
+}
+
+wxString TMainFrame::AskFile(const TResString& title, const TResString& filter, long style,
+                             const std::string& proposed) {
+  const TProject* project = session_.ActiveProject();
+  const std::string directory = !proposed.empty() ? ExtractFileDir(proposed)
+                                : project         ? ExtractFileDir(project->FileName())
+                                                  : services_.GetStartupDirectory();
+  wxFileDialog dialog(this, Text(title), Text(directory), Text(ExtractFileName(proposed)), Text(filter),
+                      style);
+  return dialog.ShowModal() == wxID_OK ? dialog.GetPath() : wxString();
+}
+
+std::string TMainFrame::AskSaveName(const std::string& proposed) {
+  const bool group = SameText(ExtractFileExt(proposed), kGroupExt);
+  const std::string name =
+      AskFile(sSaveAsTitle, group ? sGroupFilter : sUnitFilter, wxFD_SAVE | wxFD_OVERWRITE_PROMPT, proposed)
+          .utf8_string();
+  const bool needsExt = group && !name.empty() && !SameText(ExtractFileExt(name), kGroupExt);
+  return needsExt ? name + kGroupExt : name;
+}
+
+void TMainFrame::Attempt(const std::function<void()>& operation) {
+  try {
+    operation();
+  } catch (const std::exception& e) {
+    wxMessageBox(Text(e.what()), Text(sProgramName), wxOK | wxICON_ERROR, this);
+  }
+}
+
+void TMainFrame::OpenForUser(const std::string& fileName) {
+  Attempt([&] {
+    if (!session_.Open(fileName)) return;
+    const std::string extension = ExtractFileExt(fileName);
+    if (!SameText(extension, kProjectExt) && !SameText(extension, kGroupExt)) return;
+    recent_.Add(FullPath(fileName));
+    FillRecentMenu();
+  });
+}
+
+void TMainFrame::LookAtDisk() {
+  // Not while a dialog is up: its command works on the files, and a question would come in between.
+  if (lookingAtDisk_ || TModalStack::Top()) return;
+  lookingAtDisk_ = true;
+  Attempt([this] { session_.CheckDisk(); });
+  lookingAtDisk_ = false;
+}
+
+void TMainFrame::OnClose(wxCloseEvent& event) {
+  bool closed = false;
+  if (event.CanVeto()) {
+    Attempt([&] { closed = session_.CloseAll(); });
+    if (!closed) return event.Veto();
+  } else {
+    session_.DropAll();
+  }
+  SaveWindowState();
+  // The frame itself stays until the packages are finalized: they take their menus out of it.
+  Hide();
+  wxTheApp->ExitMainLoop();
+}

@@ -1,0 +1,133 @@
+// The main window: menus, project tree, editors, message pane, status bar.
+#pragma once
+
+#include <wx/frame.h>
+#include <wx/splitter.h>
+
+#include <memory>
+#include <string>
+
+#include "host/Text.h"
+#include "workbench/model/SessionServices.h"
+#include "workbench/model/Settings.h"
+#include "workbench/windows/IdeServices.h"
+#include "workbench/windows/MenuBridge.h"
+
+class TEditorBook;
+class TFindReplace;
+class TMessagePane;
+class TProjectTree;
+
+class TMainFrame final : public wxFrame, public ISessionUi {
+ public:
+  /// Publishes the services that work on windows.
+  explicit TMainFrame(TIdeServices& services);
+  ~TMainFrame() override;
+
+  TSession& Session() { return session_; }
+  TEditorBook& Book() { return *book_; }
+  TMessagePane& Messages() { return *messages_; }
+  void AddMessage(const std::string& line);
+  /// Opens a file for the user: failures become a message box.
+  void OpenForUser(const std::string& fileName);
+  /// Looks for files that other programs changed.
+  void LookAtDisk();
+
+  void EditorOpened(TTextEditor& editor) override;
+  void EditorClosing(TTextEditor& editor) override;
+  void ShowEditor(TTextEditor& editor) override;
+  TTextEditor* ActiveEditor() override;
+  void EditorChanged(TTextEditor& editor) override;
+  void ProjectsChanged() override;
+  TSaveAnswer AskSave(const std::string& fileName) override;
+  bool AskReload(const std::string& fileName) override;
+  std::string AskSaveName(const std::string& proposed) override;
+
+ private:
+  struct TCommand;
+  struct TCommandMenu;
+  static const std::vector<TCommandMenu>& CommandMenus();
+  static const TCommand* FindCommand(int id);
+
+  void CreateWindows();
+  void CreateMenus();
+  wxMenu* CreateMenu(const TCommandMenu& description);
+  void AppendCommand(wxMenu& menu, int id);
+  void FillTreeMenu(wxMenu& menu);
+  void FillRecentMenu();
+  void OnCommand(wxCommandEvent& event);
+  void OnUpdateCommand(wxUpdateUIEvent& event);
+  void OnClose(wxCloseEvent& event);
+  void ShowState();
+  void SaveWindowState();
+  void AddWizards();
+  /// Runs an operation for the user; its failure becomes a message box.
+  void Attempt(const std::function<void()>& operation);
+  wxString AskFile(const TResString& title, const TResString& filter, long style,
+                   const std::string& proposed = {});
+
+  // Commands, in the order of the menus.
+  void NewUnit();
+  void NewProject();
+  void NewOther();
+  void OpenFiles();
+  void OpenProject();
+  void ReloadCurrent();
+  void SaveCurrent();
+  void SaveCurrentAs();
+  void SaveAll();
+  void CloseCurrent();
+  void CloseAll();
+  void Exit();
+  void Undo();
+  void Redo();
+  void Cut();
+  void Copy();
+  void Paste();
+  void SelectAll();
+  void Find();
+  void FindNext();
+  void Replace();
+  void GoToLine();
+  void ToggleTree();
+  void ToggleMessages();
+  void ToggleForm();
+  void NextEditor();
+  void AddToProject();
+  void RemoveFromProject();
+  void AddProject();
+  void SetActiveProject();
+  void CloseProject();
+  void SaveGroupAs();
+  void ShowOptions();
+  void ShowAbout();
+  bool HasEditor() const;
+  bool CanEdit() const;
+  bool CanUndo() const;
+  bool CanRedo() const;
+  bool HasSelection() const;
+  bool HasProject() const;
+  bool HasModules() const;
+  bool HasForm() const;
+  bool HasSelectedProject() const;
+  bool HasSelectedModule() const;
+
+  TIdeServices& services_;
+  TSession session_;
+  TModuleServices moduleServices_{session_};
+  TEditorServices editorServices_{session_};
+  TActionServices actionServices_{session_};
+  TRecentFiles recent_;
+  std::vector<int> ownWizards_;
+  std::unique_ptr<TMenuBridge> menus_;
+  std::unique_ptr<TFindReplace> find_;
+  wxMenu* recentMenu_ = nullptr;
+  wxSplitterWindow* columns_ = nullptr;
+  wxSplitterWindow* rows_ = nullptr;
+  wxPanel* treePanel_ = nullptr;
+  wxPanel* messagePanel_ = nullptr;
+  TProjectTree* tree_ = nullptr;
+  TEditorBook* book_ = nullptr;
+  TMessagePane* messages_ = nullptr;
+  bool lookingAtDisk_ = false;
+};

@@ -1,0 +1,398 @@
+// The main menu's commands: one table of what they are called, do and need, and the short bodies behind it.
+#include <wx/aboutdlg.h>
+#include <wx/filedlg.h>
+#include <wx/menu.h>
+#include <wx/msgdlg.h>
+#include <wx/numdlg.h>
+
+#include <algorithm>
+
+#include "host/Paths.h"
+#include "host/Text.h"
+#include "workbench/windows/EditorBook.h"
+#include "workbench/windows/FindDialog.h"
+#include "workbench/windows/FrameStrings.h"
+#include "workbench/windows/GalleryDialog.h"
+#include "workbench/windows/Icons.h"
+#include "workbench/windows/MainFrame.h"
+#include "workbench/windows/OptionsDialog.h"
+#include "workbench/windows/ProjectTree.h"
+#include "workbench/windows/Version.h"
+
+namespace {
+
+enum TCommandId {
+  cmSeparator = wxID_SEPARATOR,
+  cmFirst = wxID_HIGHEST + 1,
+  cmNewUnit = cmFirst,
+  cmNewProject,
+  cmNewOther,
+  cmOpen,
+  cmOpenProject,
+  cmReload,
+  cmSave,
+  cmSaveAs,
+  cmSaveAll,
+  cmClose,
+  cmCloseAll,
+  cmExit,
+  cmUndo,
+  cmRedo,
+  cmCut,
+  cmCopy,
+  cmPaste,
+  cmSelectAll,
+  cmFind,
+  cmFindNext,
+  cmReplace,
+  cmGoToLine,
+  cmToggleTree,
+  cmToggleMessages,
+  cmToggleForm,
+  cmNextEditor,
+  cmAddToProject,
+  cmRemoveFromProject,
+  cmAddProject,
+  cmSetActive,
+  cmCloseProject,
+  cmSaveGroupAs,
+  cmOptions,
+  cmAbout,
+  cmLast = cmAbout,
+  cmRecentFirst,
+  cmRecentLast = cmRecentFirst + static_cast<int>(kMaxRecent) - 1,
+  cmNewMenu,
+  cmRecentMenu  // submenus
+};
+
+wxString Text(const std::string& text) { return wxString::FromUTF8(text); }
+
+}  // namespace
+
+struct TMainFrame::TCommand {
+  int Id;
+  const TResString& Caption;
+  void (TMainFrame::*Run)();
+  bool (TMainFrame::*Enabled)() const = nullptr;  // nullptr: always
+};
+
+struct TMainFrame::TCommandMenu {
+  const TResString& Caption;
+  std::vector<int> Commands;
+};
+
+const TMainFrame::TCommand* TMainFrame::FindCommand(int id) {
+  using F = TMainFrame;
+  static const TCommand commands[] = {
+      // in the order of TCommandId
+      {cmNewUnit, sNewUnit, &F::NewUnit},
+      {cmNewProject, sNewProject, &F::NewProject},
+      {cmNewOther, sNewOther, &F::NewOther},
+      {cmOpen, sOpen, &F::OpenFiles},
+      {cmOpenProject, sOpenProject, &F::OpenProject},
+      {cmReload, sReload, &F::ReloadCurrent, &F::HasEditor},
+      {cmSave, sSave, &F::SaveCurrent, &F::HasEditor},
+      {cmSaveAs, sSaveAs, &F::SaveCurrentAs, &F::HasEditor},
+      {cmSaveAll, sSaveAll, &F::SaveAll, &F::HasModules},
+      {cmClose, sClose, &F::CloseCurrent, &F::HasEditor},
+      {cmCloseAll, sCloseAll, &F::CloseAll, &F::HasModules},
+      {cmExit, sExit, &F::Exit},
+      {cmUndo, sUndo, &F::Undo, &F::CanUndo},
+      {cmRedo, sRedo, &F::Redo, &F::CanRedo},
+      {cmCut, sCut, &F::Cut, &F::HasSelection},
+      {cmCopy, sCopy, &F::Copy, &F::HasSelection},
+      {cmPaste, sPaste, &F::Paste, &F::CanEdit},
+      {cmSelectAll, sSelectAll, &F::SelectAll, &F::HasEditor},
+      {cmFind, sFind, &F::Find, &F::HasEditor},
+      {cmFindNext, sFindNext, &F::FindNext, &F::HasEditor},
+      {cmReplace, sReplace, &F::Replace, &F::CanEdit},
+      {cmGoToLine, sGoToLine, &F::GoToLine, &F::HasEditor},
+      {cmToggleTree, sViewTree, &F::ToggleTree},
+      {cmToggleMessages, sViewMessages, &F::ToggleMessages},
+      {cmToggleForm, sToggleForm, &F::ToggleForm, &F::HasForm},
+      {cmNextEditor, sNextEditor, &F::NextEditor, &F::HasEditor},
+      {cmAddToProject, sAddToProject, &F::AddToProject, &F::HasProject},
+      {cmRemoveFromProject, sRemoveFromProject, &F::RemoveFromProject, &F::HasSelectedModule},
+      {cmAddProject, sAddProject, &F::AddProject, &F::HasProject},
+      {cmSetActive, sSetActive, &F::SetActiveProject, &F::HasSelectedProject},
+      {cmCloseProject, sCloseProject, &F::CloseProject, &F::HasSelectedProject},
+      {cmSaveGroupAs, sSaveGroupAs, &F::SaveGroupAs, &F::HasProject},
+      {cmOptions, sOptions, &F::ShowOptions},
+      {cmAbout, sAbout, &F::ShowAbout},
+  };
+  static_assert(std::size(commands) == cmLast - cmFirst + 1);
+  return id < cmFirst || id > cmLast ? nullptr : &commands[id - cmFirst];
+}
+
+const std::vector<TMainFrame::TCommandMenu>& TMainFrame::CommandMenus() {
+  static const std::vector<TCommandMenu> menus{
+      {sMenuFile,
+       {cmNewMenu, cmOpen, cmOpenProject, cmRecentMenu, cmSeparator, cmReload, cmSave, cmSaveAs, cmSaveAll,
+        cmSeparator, cmClose, cmCloseAll, cmSeparator, cmExit}},
+      {sMenuEdit, {cmUndo, cmRedo, cmSeparator, cmCut, cmCopy, cmPaste, cmSeparator, cmSelectAll}},
+      {sMenuSearch, {cmFind, cmFindNext, cmReplace, cmSeparator, cmGoToLine}},
+      {sMenuView, {cmToggleTree, cmToggleMessages, cmSeparator, cmToggleForm, cmNextEditor}},
+      {sMenuProject,
+       {cmAddToProject, cmRemoveFromProject, cmSeparator, cmAddProject, cmSetActive, cmCloseProject,
+        cmSeparator, cmSaveGroupAs}},
+      {sMenuTools, {cmOptions}},
+      {sMenuHelp, {cmAbout}},
+  };
+  return menus;
+}
+
+void TMainFrame::AppendCommand(wxMenu& menu, int id) {
+  if (id == cmSeparator) {
+    menu.AppendSeparator();
+  } else if (id == cmNewMenu) {
+    menu.AppendSubMenu(CreateMenu({sMenuNew, {cmNewUnit, cmNewProject, cmSeparator, cmNewOther}}),
+                       Text(sMenuNew));
+  } else if (id == cmRecentMenu) {
+    recentMenu_ = new wxMenu;
+    menu.AppendSubMenu(recentMenu_, Text(sMenuRecent));
+    FillRecentMenu();
+  } else {
+    menu.Append(id, Text(FindCommand(id)->Caption));
+  }
+}
+
+wxMenu* TMainFrame::CreateMenu(const TCommandMenu& description) {
+  auto* menu = new wxMenu;
+  for (const int id : description.Commands) AppendCommand(*menu, id);
+  return menu;
+}
+
+void TMainFrame::CreateMenus() {
+  auto* bar = new wxMenuBar;
+  for (const auto& description : CommandMenus())
+    bar->Append(CreateMenu(description), Text(description.Caption));
+  SetMenuBar(bar);
+  Bind(wxEVT_MENU, &TMainFrame::OnCommand, this, cmFirst, cmRecentLast);
+  Bind(wxEVT_UPDATE_UI, &TMainFrame::OnUpdateCommand, this, cmFirst, cmLast);
+}
+
+void TMainFrame::FillRecentMenu() {
+  while (recentMenu_->GetMenuItemCount() > 0) recentMenu_->Destroy(recentMenu_->FindItemByPosition(0));
+  int id = cmRecentFirst;
+  for (const auto& file : recent_.Files()) {
+    wxString caption = Text(file);
+    caption.Replace("&", "&&");
+    recentMenu_->Append(id, wxString::Format("&%d %s", id - cmRecentFirst + 1, caption));
+    ++id;
+  }
+}
+
+void TMainFrame::FillTreeMenu(wxMenu& menu) {
+  if (tree_->SelectedModule() >= 0)
+    for (const int id : {cmRemoveFromProject}) AppendCommand(menu, id);
+  else
+    for (const int id : {cmSetActive, cmAddToProject, cmSeparator, cmCloseProject, cmSaveGroupAs})
+      AppendCommand(menu, id);
+}
+
+void TMainFrame::OnCommand(wxCommandEvent& event) {
+  if (const TCommand* command = FindCommand(event.GetId())) return Attempt([&] { (this->*command->Run)(); });
+  const auto recent = static_cast<std::size_t>(event.GetId() - cmRecentFirst);
+  if (recent < recent_.Files().size()) OpenForUser(std::string(recent_.Files()[recent]));
+}
+
+void TMainFrame::OnUpdateCommand(wxUpdateUIEvent& event) {
+  const TCommand* command = FindCommand(event.GetId());
+  event.Enable(!command->Enabled || (this->*command->Enabled)());
+}
+
+bool TMainFrame::HasEditor() const { return book_->FrontPage() != nullptr; }
+bool TMainFrame::CanEdit() const { return HasEditor() && !book_->FrontPage()->GetReadOnly(); }
+bool TMainFrame::CanUndo() const { return CanEdit() && book_->FrontPage()->CanUndo(); }
+bool TMainFrame::CanRedo() const { return CanEdit() && book_->FrontPage()->CanRedo(); }
+bool TMainFrame::HasSelection() const { return HasEditor() && !book_->FrontPage()->GetSelectionEmpty(); }
+bool TMainFrame::HasProject() const { return session_.ActiveProject() != nullptr; }
+bool TMainFrame::HasModules() const { return !session_.Modules().InOrder().empty(); }
+bool TMainFrame::HasForm() const {
+  const TOpenModule* module =
+      HasEditor() ? session_.Modules().Find(book_->FrontPage()->Editor().FileName()) : nullptr;
+  return module && module->Documents().size() > 1;
+}
+bool TMainFrame::HasSelectedProject() const { return tree_->SelectedProject() != nullptr; }
+bool TMainFrame::HasSelectedModule() const { return tree_->SelectedModule() >= 0; }
+
+void TMainFrame::NewUnit() { session_.NewUnit(services_.GetStartupDirectory()); }
+
+void TMainFrame::NewProject() {
+  wxString name = AskFile(sNewProjectTitle, sOneProjectFilter, wxFD_SAVE | wxFD_OVERWRITE_PROMPT);
+  if (name.empty()) return;
+  std::string file = name.utf8_string();
+  if (!SameText(ExtractFileExt(file), kProjectExt)) file += kProjectExt;
+  if (session_.NewProject(file)) OpenForUser(file);
+}
+
+void TMainFrame::NewOther() {
+  const auto wizard = ChooseWizard(this, services_.Categories(), services_.Wizards().Wizards());
+  if (wizard) services_.Guard().Run(wizard->GetName(), [&] { wizard->Execute(); });
+}
+
+void TMainFrame::OpenFiles() {
+  const wxString name = AskFile(sOpenTitle, sAllFilesFilter, wxFD_OPEN | wxFD_FILE_MUST_EXIST);
+  if (!name.empty()) OpenForUser(name.utf8_string());
+}
+
+void TMainFrame::OpenProject() {
+  const wxString name = AskFile(sOpenProjectTitle, sProjectFilter, wxFD_OPEN | wxFD_FILE_MUST_EXIST);
+  if (!name.empty()) OpenForUser(name.utf8_string());
+}
+
+void TMainFrame::ReloadCurrent() {
+  TTextEditor& editor = book_->FrontPage()->Editor();
+  if (!editor.GetModified() || AskReload(editor.FileName())) session_.Reload(editor.FileName());
+}
+
+void TMainFrame::SaveCurrent() {
+  TTextEditor& editor = book_->FrontPage()->Editor();
+  session_.Save(editor);
+  SetStatusText(Text(Format(sSaved, {ExtractFileName(editor.FileName())})));
+}
+
+void TMainFrame::SaveCurrentAs() {
+  if (auto* unit = dynamic_cast<TUnit*>(session_.CurrentModule())) session_.SaveUnitAs(*unit);
+}
+
+void TMainFrame::SaveAll() { session_.SaveAll(); }
+
+void TMainFrame::CloseCurrent() {
+  if (TOpenModule* module = session_.CurrentModule()) session_.Close(*module);
+}
+
+void TMainFrame::CloseAll() { session_.CloseAll(); }
+void TMainFrame::Exit() { Close(); }
+void TMainFrame::Undo() { book_->FrontPage()->Undo(); }
+void TMainFrame::Redo() { book_->FrontPage()->Redo(); }
+void TMainFrame::Cut() { book_->FrontPage()->Cut(); }
+void TMainFrame::Copy() { book_->FrontPage()->Copy(); }
+void TMainFrame::Paste() { book_->FrontPage()->Paste(); }
+void TMainFrame::SelectAll() { book_->FrontPage()->SelectAll(); }
+void TMainFrame::Find() { find_->Show(false); }
+void TMainFrame::FindNext() { find_->FindNext(); }
+void TMainFrame::Replace() { find_->Show(true); }
+
+void TMainFrame::GoToLine() {
+  TEditorPage* page = book_->FrontPage();
+  const long last = page->GetLineCount();
+  const long line = wxGetNumberFromUser("", Text(Format(sGoToPrompt, {static_cast<long long>(last)})),
+                                        Text(sGoToTitle), page->GetCurrentLine() + 1, 1, last, this);
+  if (line > 0) page->GotoLine(static_cast<int>(line) - 1);
+}
+
+void TMainFrame::ToggleTree() {
+  const int width = TWindowState::Load(services_.Options().PropertySet(kWindowSet)).TreeWidth;
+  if (columns_->IsSplit())
+    columns_->Unsplit(treePanel_);
+  else
+    columns_->SplitVertically(treePanel_, rows_, FromDIP(width));
+  treePanel_->Show(columns_->IsSplit());
+}
+
+void TMainFrame::ToggleMessages() {
+  const int height = TWindowState::Load(services_.Options().PropertySet(kWindowSet)).MessagesHeight;
+  if (rows_->IsSplit())
+    rows_->Unsplit(messagePanel_);
+  else
+    rows_->SplitHorizontally(book_, messagePanel_, -FromDIP(height));
+  messagePanel_->Show(rows_->IsSplit());
+}
+
+void TMainFrame::ToggleForm() {
+  const TTextEditor& front = book_->FrontPage()->Editor();
+  const auto& documents = session_.CurrentModule()->Documents();
+  const auto other =
+      std::ranges::find_if(documents, [&](const auto& document) { return document.get() != &front; });
+  book_->ShowEditor(static_cast<TTextEditor&>(**other));
+}
+
+void TMainFrame::NextEditor() { book_->AdvanceSelection(); }
+
+void TMainFrame::AddToProject() {
+  const std::string directory = ExtractFileDir(session_.ActiveProject()->FileName());
+  wxFileDialog dialog(this, Text(sAddToProjectTitle), Text(directory), "", Text(sUnitFilter),
+                      wxFD_OPEN | wxFD_FILE_MUST_EXIST | wxFD_MULTIPLE);
+  if (dialog.ShowModal() != wxID_OK) return;
+  wxArrayString paths;
+  dialog.GetPaths(paths);
+  std::vector<std::string> files;
+  for (const auto& path : paths) files.push_back(path.utf8_string());
+  const auto added = static_cast<long long>(session_.AddToProject(files));
+  SetStatusText(Text(Format(sAddedFiles, {added})));
+}
+
+void TMainFrame::RemoveFromProject() {
+  session_.RemoveFromProject(*tree_->SelectedProject(), tree_->SelectedModule());
+}
+
+void TMainFrame::AddProject() {
+  const wxString name = AskFile(sAddProjectTitle, sOneProjectFilter, wxFD_OPEN | wxFD_FILE_MUST_EXIST);
+  if (!name.empty()) session_.OpenProject(name.utf8_string(), false);
+}
+
+void TMainFrame::SetActiveProject() { session_.SetActiveProject(*tree_->SelectedProject()); }
+void TMainFrame::CloseProject() { session_.Close(*tree_->SelectedProject()); }
+void TMainFrame::SaveGroupAs() { session_.SaveGroupAs(); }
+
+void TMainFrame::ShowOptions() {
+  if (!ShowOptionsDialog(this, services_.Options(), services_.Guard())) return;
+  book_->SetFontSize(services_.Options()
+                         .PropertySet(kGeneralSet)
+                         .GetNumber(kFontSizeField, kDefaultFontSize, kMinFontSize, kMaxFontSize));
+}
+
+void TMainFrame::ShowAbout() {
+  wxMessageBox(Text(Format(sAboutText, {kWorkbenchVersion})), Text(sProgramName), wxOK | wxICON_INFORMATION,
+               this);
+}
+
+namespace {
+
+/// A wizard of the workbench itself: the gallery treats it like a package's.
+class TOwnWizard final : public IOTAWizard {
+ public:
+  TOwnWizard(const TResString& name, const TResString& comment, TIcon icon, IOTAGalleryCategory* category,
+             std::function<void()> execute)
+      : name_(name), comment_(comment), icon_(icon), category_(category), execute_(std::move(execute)) {}
+  void AfterSave() override {}
+  void BeforeSave() override {}
+  void Destroyed() override {}
+  void Modified() override {}
+  std::string GetIDString() override { return "Corvane.Workbench." + name_; }
+  std::string GetName() override { return name_; }
+  unsigned GetState() override { return wsEnabled; }
+  void Execute() override { execute_(); }
+  std::string GetAuthor() override { return "Corvane"; }
+  std::string GetComment() override { return comment_; }
+  std::string GetPage() override { return {}; }
+  std::string GetGlyph() override { return IconSvg(icon_); }
+  std::string GetDesigner() override { return "Any"; }
+  IOTAGalleryCategory* GetGalleryCategory() override { return category_; }
+  std::string GetPersonality() override { return "Default.Personality"; }
+  void* QueryInterface(const TGuid& iid) noexcept override {
+    return FindInterface<IOTANotifier, IOTAWizard>(this, iid);
+  }
+
+ private:
+  std::string name_;
+  std::string comment_;
+  TIcon icon_;
+  IOTAGalleryCategory* category_;
+  std::function<void()> execute_;
+};
+
+}  // namespace
+
+void TMainFrame::AddWizards() {
+  auto* category = services_.Categories().InOrder().front().get();
+  auto& wizards = services_.Wizards();
+  ownWizards_ = {
+      wizards.AddWizard(std::make_shared<TOwnWizard>(sWizardUnitName, sWizardUnitComment, TIcon::NewUnit,
+                                                     category, [this] { Attempt([this] { NewUnit(); }); })),
+      wizards.AddWizard(std::make_shared<TOwnWizard>(sWizardProjectName, sWizardProjectComment,
+                                                     TIcon::NewProject, category,
+                                                     [this] { Attempt([this] { NewProject(); }); })),
+  };
+}

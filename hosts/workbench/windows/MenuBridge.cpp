@@ -1,0 +1,127 @@
+#include "workbench/windows/MenuBridge.h"
+
+#include <algorithm>
+
+#include "workbench/model/MenuRows.h"
+#include "workbench/windows/Icons.h"
+
+namespace {
+constexpr int kMenuImageSize = 16;
+}
+
+/// One package menu: what it describes and what is on the screen for it.
+struct TMenuBridge::TTopMenu {
+  TMenuItem* Top;
+  wxMenu* Menu;
+  std::vector<std::pair<const TMenuItem*, wxMenuItem*>>
+      Shown;  // separators too; submenus' items behind their parent
+};
+
+TMenuBridge::TMenuBridge(wxFrame& frame, const TPackageGuard& guard)
+    : bar_(*frame.GetMenuBar()), guard_(guard) {
+  frame.Bind(wxEVT_MENU_OPEN, &TMenuBridge::OnMenuOpen, this);
+  bar_.Bind(wxEVT_MENU, &TMenuBridge::OnMenu, this);
+}
+TMenuBridge::~TMenuBridge() = default;
+
+void TMenuBridge::InsertMenu(TMenuItem& top) {
+  auto owned = std::make_unique<TTopMenu>(TTopMenu{&top, new wxMenu, {}});
+  TTopMenu& shown = *owned;
+  tops_.push_back(std::move(owned));
+  Fill(shown, *shown.Menu, top.Items);
+  bar_.Insert(bar_.GetMenuCount() - 1, shown.Menu, wxString::FromUTF8(top.ShownCaption()));
+}
+
+void TMenuBridge::RemoveMenu(TMenuItem& top) {
+  const auto found = std::ranges::find(tops_, &top, [](const auto& t) { return t->Top; });
+  if (found == tops_.end()) return;
+  for (std::size_t i = 0; i < bar_.GetMenuCount(); ++i)
+    if (bar_.GetMenu(i) == (*found)->Menu) {
+      delete bar_.Remove(i);
+      break;
+    }
+  tops_.erase(found);
+}
+
+namespace {
+
+/// The visible items below `items`, depth first: what a filled menu shows.
+void CollectRows(const std::vector<TMenuItem*>& items, std::vector<const TMenuItem*>& rows) {
+  for (const TMenuItem* item : VisibleRows(items)) {
+    rows.push_back(item);
+    CollectRows(item->Items, rows);
+  }
+}
+
+}  // namespace
+
+void TMenuBridge::Refresh(TTopMenu& top) {
+  if (top.Top->OnClick) guard_.Run(top.Top->Name, [&] { top.Top->OnClick(); });
+  std::vector<const TMenuItem*> rows;
+  CollectRows(top.Top->Items, rows);
+  if (!std::ranges::equal(rows, top.Shown, {}, {}, [](const auto& shown) { return shown.first; })) {
+    // Another set of items.  Only then: rebuilding an opening menu makes it flicker.
+    top.Shown.clear();
+    while (top.Menu->GetMenuItemCount() > 0) top.Menu->Destroy(top.Menu->FindItemByPosition(0));
+    Fill(top, *top.Menu, top.Top->Items);
+  }
+  for (const auto& [item, shown] : top.Shown) {
+    if (item->IsSeparator()) continue;
+    const wxString caption = wxString::FromUTF8(item->ShownCaption());
+    if (shown->GetItemLabel() != caption) shown->SetItemLabel(caption);
+    shown->Enable(item->IsEnabled());
+  }
+}
+
+void TMenuBridge::Fill(TTopMenu& top, wxMenu& menu, const std::vector<TMenuItem*>& items) {
+  for (const TMenuItem* item : VisibleRows(items)) AppendItem(top, menu, *item);
+}
+
+void TMenuBridge::AppendItem(TTopMenu& top, wxMenu& menu, const TMenuItem& item) {
+  if (item.IsSeparator()) {
+    top.Shown.emplace_back(&item, menu.AppendSeparator());
+    return;
+  }
+  auto submenu = item.Items.empty() ? nullptr : std::make_unique<wxMenu>();
+  auto* shown = new wxMenuItem(&menu, wxID_ANY, wxString::FromUTF8(item.ShownCaption()), "", wxITEM_NORMAL,
+                               submenu.get());
+  if (const auto image = ImageOf(item); image.IsOk()) shown->SetBitmap(image);
+  menu.Append(shown);
+  shown->Enable(item.IsEnabled());
+  top.Shown.emplace_back(&item, shown);
+  if (submenu) Fill(top, *submenu.release(), item.Items);
+}
+
+wxBitmapBundle TMenuBridge::ImageOf(const TMenuItem& item) const {
+  const int index = item.ImageIndex >= 0 ? item.ImageIndex : item.Action ? item.Action->ImageIndex : -1;
+  const bool known = index >= 0 && static_cast<std::size_t>(index) < images_.size();
+  return known ? images_[static_cast<std::size_t>(index)] : wxBitmapBundle();
+}
+
+void TMenuBridge::OnMenuOpen(wxMenuEvent& event) {
+  event.Skip();
+  for (const auto& top : tops_)
+    if (event.GetMenu() == top->Menu) return Refresh(*top);
+}
+
+void TMenuBridge::OnMenu(wxCommandEvent& event) {
+  for (const auto& top : tops_)
+    for (const auto& [item, shown] : top->Shown) {
+      if (item->IsSeparator() || shown->GetId() != event.GetId()) continue;
+      const TMenuItem& clicked = *item;  // its click may rebuild or remove the menu
+      if (clicked.IsEnabled()) guard_.Run(clicked.Name, [&] { clicked.Click(); });
+      return;
+    }
+  event.Skip();
+}
+
+void TMenuBridge::AttachAction(TAction& action) {
+  if (std::ranges::find(actions_, &action) == actions_.end()) actions_.push_back(&action);
+}
+
+void TMenuBridge::DetachAction(TAction& action) { std::erase(actions_, &action); }
+
+int TMenuBridge::AddImage(const std::string& svg) {
+  images_.push_back(SvgBundle(svg, kMenuImageSize));
+  return static_cast<int>(images_.size()) - 1;
+}

@@ -1,0 +1,46 @@
+// Packages' menus in the main menu: the plain TMenuItem trees shown with the toolkit's own.
+#pragma once
+
+#include <wx/bmpbndl.h>
+#include <wx/frame.h>
+#include <wx/menu.h>
+
+#include <map>
+#include <memory>
+#include <vector>
+
+#include "host/Menus.h"
+#include "workbench/model/Notifications.h"
+
+class TMenuBridge final : public IOTAMenuServices {
+ public:
+  /// `frame` has its menu bar already.
+  TMenuBridge(wxFrame& frame, const TPackageGuard& guard);
+  ~TMenuBridge() override;
+
+  void InsertMenu(TMenuItem& top) override;
+  void RemoveMenu(TMenuItem& top) override;
+  void AttachAction(TAction& action) override;
+  void DetachAction(TAction& action) override;
+  int AddImage(const std::string& svg) override;
+  void* QueryInterface(const TGuid& iid) noexcept override {
+    return FindInterface<IOTAMenuServices>(this, iid);
+  }
+
+  const std::vector<TAction*>& Actions() const { return actions_; }
+
+ private:
+  struct TTopMenu;
+  void Refresh(TTopMenu& top);
+  void Fill(TTopMenu& top, wxMenu& menu, const std::vector<TMenuItem*>& items);
+  void AppendItem(TTopMenu& top, wxMenu& menu, const TMenuItem& item);
+  wxBitmapBundle ImageOf(const TMenuItem& item) const;
+  void OnMenuOpen(wxMenuEvent& event);
+  void OnMenu(wxCommandEvent& event);
+
+  wxMenuBar& bar_;
+  const TPackageGuard& guard_;
+  std::vector<std::unique_ptr<TTopMenu>> tops_;
+  std::vector<TAction*> actions_;
+  std::vector<wxBitmapBundle> images_;
+};

@@ -1,0 +1,18 @@
+// The message pane: lines for the user, kept until he clears them.
+#pragma once
+
+#include <wx/listctrl.h>
+
+#include <string>
+#include <vector>
+
+class TMessagePane final : public wxListView {
+ public:
+  explicit TMessagePane(wxWindow* parent);
+  void AddLine(const std::string& line);
+
+ private:
+  void CopySelected();
+  void ShowContextMenu(wxContextMenuEvent& event);
+  void FitColumn();
+};

@@ -1,0 +1,148 @@
+#include "workbench/windows/OptionsDialog.h"
+
+#include <wx/choice.h>
+#include <wx/combobox.h>
+#include <wx/dialog.h>
+#include <wx/msgdlg.h>
+#include <wx/sizer.h>
+#include <wx/textctrl.h>
+#include <wx/treebook.h>
+
+#include "host/Text.h"
+#include "workbench/windows/FrameStrings.h"
+#include "workbench/windows/GeneralPage.h"
+
+namespace {
+
+std::string ValueOf(wxControl& control) {
+  if (auto* text = dynamic_cast<wxTextCtrl*>(&control)) return text->GetValue().utf8_string();
+  if (auto* combo = dynamic_cast<wxComboBox*>(&control)) return combo->GetValue().utf8_string();
+  if (auto* choice = dynamic_cast<wxChoice*>(&control)) return choice->GetStringSelection().utf8_string();
+  return {};
+}
+
+void ShowValue(wxControl& control, const std::string& value) {
+  const wxString text = wxString::FromUTF8(value);
+  if (auto* box = dynamic_cast<wxTextCtrl*>(&control)) return box->ChangeValue(text);
+  auto* list = dynamic_cast<wxItemContainerImmutable*>(&control);
+  // A value that is no longer offered leaves what the page itself chose.
+  if (const int at = list ? list->FindString(text, true) : wxNOT_FOUND; at != wxNOT_FOUND)
+    list->SetSelection(at);
+  else if (auto* combo = dynamic_cast<wxComboBox*>(&control); combo && !combo->HasFlag(wxCB_READONLY))
+    combo->SetValue(text);
+}
+
+/// One property set's part of the dialog: which control stands for which field.
+class TBindings final : public IOTAOptionsPageHost {
+ public:
+  explicit TBindings(IOTAPropertySet& set) : set_(set) {}
+  void Bind(wxControl* control, const std::string& field) override {
+    ShowValue(*control, GetValue(field));
+    bindings_.push_back({control, field});
+  }
+  std::string GetValue(const std::string& field) override { return set_.GetValue(field); }
+
+  /// Puts the controls' values into the set; whether one was new.
+  bool Store() {
+    bool changed = false;
+    for (const auto& [control, field] : bindings_) {
+      const std::string value = ValueOf(*control);
+      changed = changed || value != set_.GetValue(field);
+      set_.SetValue(field, value);
+    }
+    return changed;
+  }
+
+ private:
+  struct TBinding {
+    wxControl* Control;
+    std::string Field;
+  };
+  IOTAPropertySet& set_;
+  std::vector<TBinding> bindings_;
+};
+
+class TOptionsDialog final : public wxDialog {
+ public:
+  TOptionsDialog(wxWindow* parent, TOptionsServices& options, const TPackageGuard& guard)
+      : wxDialog(parent, wxID_ANY, wxString::FromUTF8(sOptionsTitle.str()), wxDefaultPosition, wxDefaultSize,
+                 wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER),
+        options_(options),
+        guard_(guard),
+        book_(new wxTreebook(this, wxID_ANY)),
+        general_(options.PropertySet(kGeneralSet)) {
+    AddPage(GeneralOptionsPage(), general_);
+    options_.AddIns().ForEach([&](IOTAAddInOptions& addIn) { AddAddIn(addIn); });
+    auto* sizer = new wxBoxSizer(wxVERTICAL);
+    sizer->Add(book_, wxSizerFlags(1).Border().Expand());
+    sizer->Add(CreateSeparatedButtonSizer(wxOK | wxCANCEL), wxSizerFlags().Border().Expand());
+    SetSizerAndFit(sizer);
+    SetSize(wxSize(FromDIP(680), FromDIP(480)));
+    SetMinSize(GetBestSize());
+    CentreOnParent();
+    Bind(
+        wxEVT_BUTTON,
+        [this](wxCommandEvent& event) {
+          if (Store()) event.Skip();
+        },
+        wxID_OK);
+  }
+
+ private:
+  struct TAddIn {
+    IOTAAddInOptions* Options;
+    std::unique_ptr<TBindings> Bindings;
+  };
+
+  class TEnvironment final : public IOTAEnvironmentDialog {
+   public:
+    TEnvironment(TOptionsDialog& dialog, TBindings& bindings) : dialog_(dialog), bindings_(bindings) {}
+    void RegisterPage(TOptionsPage page) override { dialog_.AddPage(page, bindings_); }
+
+   private:
+    TOptionsDialog& dialog_;
+    TBindings& bindings_;
+  };
+
+  void AddPage(const TOptionsPage& page, TBindings& bindings) {
+    book_->AddPage(page.Create(book_, bindings), wxString::FromUTF8(page.Caption));
+  }
+
+  void AddAddIn(IOTAAddInOptions& addIn) {
+    guard_.Run("CustomizeDialog", [&] {
+      addIn.LoadOptions();
+      addIns_.push_back({&addIn, std::make_unique<TBindings>(addIn.GetPropertySet())});
+      TEnvironment environment(*this, *addIns_.back().Bindings);
+      addIn.CustomizeDialog(environment);
+    });
+  }
+
+  bool Store() {
+    try {
+      general_.Store();
+      options_.PropertySet(kGeneralSet).Save();
+      for (const auto& [addIn, bindings] : addIns_) {
+        if (bindings->Store()) addIn->SendModified();
+        if (addIn->GetIsModified()) addIn->SaveOptions();
+      }
+      return true;
+    } catch (const std::exception& e) {
+      wxMessageBox(wxString::FromUTF8(Format(sCannotSaveOptions, {e.what()})),
+                   wxString::FromUTF8(sOptionsTitle.str()), wxOK | wxICON_ERROR, this);
+      return false;
+    }
+  }
+
+  TOptionsServices& options_;
+  const TPackageGuard& guard_;
+  wxTreebook* book_;
+  TBindings general_;
+  std::vector<TAddIn> addIns_;
+};
+
+}  // namespace
+
+bool ShowOptionsDialog(wxWindow* parent, TOptionsServices& options, const TPackageGuard& guard) {
+  TOptionsDialog dialog(parent, options, guard);
+  return dialog.ShowModal() == wxID_OK;
+}

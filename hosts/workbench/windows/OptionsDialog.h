@@ -1,0 +1,9 @@
+// Tools > Options: the workbench's own page and those of add-ins.
+#pragma once
+
+#include "workbench/model/Settings.h"
+
+class wxWindow;
+
+/// Shows the dialog; true when it was accepted and everything is stored.  Cancel leaves all settings as they were.
+bool ShowOptionsDialog(wxWindow* parent, TOptionsServices& options, const TPackageGuard& guard);

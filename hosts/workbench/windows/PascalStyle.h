@@ -1,0 +1,7 @@
+// How Pascal source looks in an editor.
+#pragma once
+
+class wxStyledTextCtrl;
+
+/// Font, colours, keywords and margins.  `fontSize` in points; calling it again changes the font.
+void ApplyPascalStyle(wxStyledTextCtrl& editor, int fontSize);

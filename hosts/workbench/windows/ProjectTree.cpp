@@ -1,0 +1,129 @@
+#include "workbench/windows/ProjectTree.h"
+
+#include <wx/menu.h>
+
+#include "host/Paths.h"
+#include "host/System.h"
+#include "host/Text.h"
+#include "workbench/windows/FrameStrings.h"
+#include "workbench/windows/Icons.h"
+
+namespace {
+
+constexpr TIcon kTreeIcons[] = {TIcon::Group, TIcon::Project, TIcon::ActiveProject,
+                                TIcon::Unit,  TIcon::Form,    TIcon::Module};
+int ImageOf(TIcon icon) { return static_cast<int>(icon); }  // the enumeration begins with the tree's pictures
+
+TIcon ModuleIcon(const std::string& fileName) {
+  const std::string extension = ExtractFileExt(fileName);
+  if (SameText(extension, kUnitExt)) return TIcon::Unit;
+  return SameText(extension, kFormExt) ? TIcon::Form : TIcon::Module;
+}
+
+}  // namespace
+
+struct TProjectTree::TNode final : wxTreeItemData {
+  TNode(std::string file, std::string project = {}, int module = -1)
+      : File(std::move(file)), Project(std::move(project)), Module(module) {}
+  std::string File;
+  std::string Project;  // empty for the group
+  int Module;           // in the project; -1 for the project itself
+  bool Filled = false;
+};
+
+TProjectTree::TProjectTree(wxWindow* parent, TSession& session, THooks hooks)
+    : wxTreeCtrl(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize,
+                 wxTR_HAS_BUTTONS | wxTR_LINES_AT_ROOT | wxTR_SINGLE | wxTR_NO_LINES | wxBORDER_NONE),
+      session_(session),
+      hooks_(std::move(hooks)) {
+  SetName(wxString::FromUTF8(sProjectTreeCaption.str()));
+  wxVector<wxBitmapBundle> images;
+  for (const TIcon icon : kTreeIcons) images.push_back(IconBundle(icon));
+  SetImages(images);
+  Bind(wxEVT_TREE_ITEM_ACTIVATED, [this](wxTreeEvent& event) {
+    event.Skip();
+    OpenSelected();
+  });
+  Bind(wxEVT_TREE_ITEM_EXPANDING, [this](wxTreeEvent& event) {
+    TNode* node = NodeOf(event.GetItem());
+    collapsed_.erase(node->File);
+    if (auto* project = dynamic_cast<TProject*>(session_.Modules().Find(node->Project)))
+      FillProject(event.GetItem(), *project);
+  });
+  Bind(wxEVT_TREE_ITEM_COLLAPSED,
+       [this](wxTreeEvent& event) { collapsed_.insert(NodeOf(event.GetItem())->File); });
+  Bind(wxEVT_TREE_ITEM_MENU, [this](wxTreeEvent& event) {
+    SelectItem(event.GetItem());
+    wxMenu menu;
+    hooks_.FillContextMenu(menu);
+    PopupMenu(&menu, event.GetPoint());
+  });
+}
+
+TProjectTree::TNode* TProjectTree::NodeOf(const wxTreeItemId& item) const {
+  return item.IsOk() ? static_cast<TNode*>(GetItemData(item)) : nullptr;
+}
+
+wxTreeItemId TProjectTree::AddNode(const wxTreeItemId& parent, const std::string& label, int icon,
+                                   TNode* node) {
+  const wxString text = wxString::FromUTF8(label);
+  return parent.IsOk() ? AppendItem(parent, text, icon, icon, node) : AddRoot(text, icon, icon, node);
+}
+
+void TProjectTree::Rebuild() {
+  const TNode* selected = NodeOf(GetSelection());
+  const std::string selectedFile = selected ? selected->File : std::string();
+  Freeze();
+  DeleteAllItems();
+  if (const TProjectGroup* group = session_.Group()) {
+    const auto root =
+        AddNode({}, ExtractFileName(group->FileName()), ImageOf(TIcon::Group), new TNode(group->FileName()));
+    for (TProject* project : group->Projects()) AddProject(root, *project);
+    Expand(root);
+    // Only the names at the top: looking for a module would fill every project.
+    wxTreeItemIdValue cookie;
+    for (auto item = GetFirstChild(root, cookie); item.IsOk(); item = GetNextChild(root, cookie))
+      if (NodeOf(item)->File == selectedFile) SelectItem(item);
+  }
+  Thaw();
+}
+
+void TProjectTree::AddProject(const wxTreeItemId& parent, TProject& project) {
+  const bool active = session_.ActiveProject() == &project;
+  const std::string name = ExtractFileName(project.FileName());
+  const auto item = AddNode(parent, active ? Format(sActiveSuffix, {name}) : name,
+                            ImageOf(active ? TIcon::ActiveProject : TIcon::Project),
+                            new TNode(project.FileName(), project.FileName()));
+  SetItemBold(item, active);
+  SetItemHasChildren(item, project.GetModuleCount() > 0);
+  if (active && !collapsed_.contains(project.FileName())) Expand(item);
+}
+
+void TProjectTree::FillProject(const wxTreeItemId& item, TProject& project) {
+  TNode* node = NodeOf(item);
+  if (node->Module >= 0 || std::exchange(node->Filled, true)) return;
+  for (int i = 0; i < project.GetModuleCount(); ++i) {
+    const std::string file = project.GetModuleFileName(i);
+    const std::string shown = project.Definition().Get().Items()[static_cast<std::size_t>(i)];
+    const auto module =
+        AddNode(item, shown, ImageOf(ModuleIcon(file)), new TNode(file, project.FileName(), i));
+    const std::string form = ChangeFileExt(file, kFormExt);
+    if (SameText(ExtractFileExt(file), kUnitExt) && FileExists(form))
+      AddNode(module, ExtractFileName(form), ImageOf(TIcon::Form), new TNode(form, project.FileName(), i));
+  }
+}
+
+void TProjectTree::OpenSelected() {
+  const TNode* node = NodeOf(GetSelection());
+  if (node && node->Module >= 0) hooks_.Open(std::string(node->File));
+}
+
+TProject* TProjectTree::SelectedProject() {
+  const TNode* node = NodeOf(GetSelection());
+  return node ? dynamic_cast<TProject*>(session_.Modules().Find(node->Project)) : nullptr;
+}
+
+int TProjectTree::SelectedModule() {
+  const TNode* node = NodeOf(GetSelection());
+  return node ? node->Module : -1;
+}

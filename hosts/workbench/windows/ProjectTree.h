@@ -1,0 +1,39 @@
+// The project tree: group, projects, units and their forms.
+#pragma once
+
+#include <wx/treectrl.h>
+
+#include <functional>
+#include <set>
+#include <string>
+
+#include "workbench/model/Session.h"
+
+class TProjectTree final : public wxTreeCtrl {
+ public:
+  struct THooks {
+    std::function<void(const std::string& fileName)> Open;
+    std::function<void(wxMenu& menu)>
+        FillContextMenu;  ///< with the frame's own commands for the selected node
+  };
+  TProjectTree(wxWindow* parent, TSession& session, THooks hooks);
+
+  /// Shows the session's projects as they are now; keeps what was expanded and selected.
+  void Rebuild();
+  /// The project that the selected node is or belongs to, or nullptr.
+  TProject* SelectedProject();
+  /// The selected module's index in that project, or -1.
+  int SelectedModule();
+
+ private:
+  struct TNode;
+  TNode* NodeOf(const wxTreeItemId& item) const;
+  wxTreeItemId AddNode(const wxTreeItemId& parent, const std::string& label, int icon, TNode* node);
+  void AddProject(const wxTreeItemId& parent, TProject& project);
+  void FillProject(const wxTreeItemId& item, TProject& project);
+  void OpenSelected();
+
+  TSession& session_;
+  THooks hooks_;
+  std::set<std::string> collapsed_;
+};

@@ -1,0 +1,16 @@
+#include "workbench/windows/Screenshot.h"
+
+#include <wx/bitmap.h>
+#include <wx/dcmemory.h>
+#include <wx/dcscreen.h>
+#include <wx/image.h>
+
+bool SaveScreenshot(const std::string& fileName) {
+  wxScreenDC screen;
+  const wxSize size = screen.GetSize();
+  wxBitmap bitmap(size.GetWidth(), size.GetHeight());
+  wxMemoryDC memory(bitmap);
+  memory.Blit(wxPoint(0, 0), size, &screen, wxPoint(0, 0));
+  memory.SelectObject(wxNullBitmap);
+  return bitmap.ConvertToImage().SaveFile(wxString::FromUTF8(fileName), wxBITMAP_TYPE_PNG);
+}

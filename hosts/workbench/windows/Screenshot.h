@@ -1,0 +1,7 @@
+// Pictures of the screen.
+#pragma once
+
+#include <string>
+
+/// Writes the whole screen as PNG.  False when that failed.
+bool SaveScreenshot(const std::string& fileName);

@@ -1,0 +1,3 @@
+#pragma once
+
+inline constexpr const char* kWorkbenchVersion = WORKBENCH_VERSION;
