@@ -1,8 +1,10 @@
 #include "ui/MsgDialog.h"
 
+#include <wx/arrstr.h>
 #include <wx/statbmp.h>
 #include <wx/wx.h>
 
+#include <algorithm>
 #include <array>
 
 #include "host/System.h"
@@ -19,6 +21,14 @@ constexpr std::array kBeeps{TBeep::Hand, TBeep::Exclamation, TBeep::Asterisk, TB
 static_assert(kBeeps.size() == kDialogIcons.size());
 
 constexpr int kTitleWidth = 222;
+
+/// The width to wrap a title at.  It has room for the longest word: the toolkit wraps nothing from a longer one on.
+int WrapWidth(const wxStaticText& title) {
+  int width = title.FromDIP(kTitleWidth);
+  for (const auto& word : wxSplit(title.GetLabelText(), ' ', '\0'))
+    width = std::max(width, title.GetTextExtent(word + ' ').GetWidth());
+  return width;
+}
 
 }  // namespace
 
@@ -42,7 +52,9 @@ void TMsgDialogForm::CreateControls(const std::string& title, const std::string&
   TitleLabel = new wxStaticText(this, wxID_ANY, {});
   TitleLabel->SetFont(TitleLabel->GetFont().Bold());
   TitleLabel->SetLabelText(ToWx(title));
-  TitleLabel->Wrap(FromDIP(kTitleWidth));
+  TitleLabel->Wrap(WrapWidth(*TitleLabel));
+  // The control by itself would measure its text without the bold face, which it gets when it is shown.
+  TitleLabel->SetMinSize(wxClientDC(TitleLabel).GetMultiLineTextExtent(TitleLabel->GetLabelText()));
   MessageText = new wxTextCtrl(this, wxID_ANY, ToWx(msg), wxDefaultPosition, FromDIP(wxSize(377, 120)),
                                wxTE_MULTILINE | wxTE_READONLY);
   MessageText->SetBackgroundColour(wxSystemSettings::GetColour(wxSYS_COLOUR_BTNFACE));

@@ -42,14 +42,14 @@ TEST(MsgDialog, ShowsTitleAndTextReadOnlyWithTheFocusOnOk) {
 }
 
 TEST(MsgDialog, MakesRoomForALongTitle) {
-  const std::string longTitle =
-      "A title of many words that needs more than the two lines that it usually has, and "
-      "one_word_that_is_wider_than_the_title_usually_is_in_this_dialog";
+  const std::string longWord = "C:\\one_word\\that_is_wider\\than_the_title_usually_is\\in_this_dialog";
+  const auto longTitle =
+      "A title of many words that needs more than two lines, and " + longWord + " and the rest";
   const TMsgDialogForm normal("Check Out File", "", metInfo), high(longTitle, "", metInfo);
   EXPECT_EQ(normal.GetClientSize(), normal.FromDIP(wxSize(393, 182)));
   EXPECT_GT(high.GetClientSize().GetHeight(), normal.GetClientSize().GetHeight());
   EXPECT_LE(high.TitleLabel->GetRect().GetRight(), high.btnOK->GetRect().GetLeft());
-  EXPECT_GE(high.TitleLabel->GetSize().GetWidth(), high.TitleLabel->GetBestSize().GetWidth());
+  EXPECT_GE(high.TitleLabel->GetSize().GetWidth(), high.TitleLabel->GetTextExtent(ToWx(longWord)).GetWidth());
   EXPECT_LE(high.btnOK->GetRect().GetRight(), high.GetClientSize().GetWidth());
 }
 
