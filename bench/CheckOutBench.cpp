@@ -71,7 +71,8 @@ class TBigProject {
     std::vector<scc::Long> statuses(kMaxFiles);
     const auto count = static_cast<scc::Long>(names.size());
     const auto ignore = [](void*, scc::Bool, scc::Long, const char*) -> scc::Bool { return 1; };
-    scc::SccPopulateList(Context(), scc::SCC_COMMAND_CHECKOUT, count, names.data(), ignore, nullptr, statuses.data(), 0);
+    scc::SccPopulateList(Context(), scc::SCC_COMMAND_CHECKOUT, count, names.data(), ignore, nullptr,
+                         statuses.data(), 0);
     scc::SccQueryInfo(Context(), count, names.data(), statuses.data());
     for (const char* name : names) scc::SccDiff(Context(), nullptr, name, 32, nullptr);
     for (const char* name : names) scc::SccCheckOut(Context(), nullptr, 1, &name, "measured", 0, nullptr);

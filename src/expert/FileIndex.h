@@ -2,21 +2,28 @@
 #pragma once
 
 #include <cstddef>
-#include <span>
 #include <string>
 #include <unordered_map>
 #include <vector>
 
-/// The rows of a list of file names, by name ignoring case.  Adding and asking are constant time on average.
+/// The rows of a list of file names, by name ignoring case.  Asking is constant time on average.
 class TFileIndex {
  public:
   TFileIndex() = default;
   explicit TFileIndex(const std::vector<std::string>& files);
-  void Add(const std::string& fileName, std::size_t row);
-  bool Contains(const std::string& fileName) const { return !Rows(fileName).empty(); }
-  /// The rows of that name in list order; empty when there is none.  Borrowed until the next Add.
-  std::span<const std::size_t> Rows(const std::string& fileName) const;
+  /// Calls `visit` with each row of that name, in list order.
+  void ForEachRow(const std::string& fileName, const auto& visit) const {
+    for (auto row = First(fileName); row != kNone; row = next_[row]) visit(row);
+  }
 
  private:
-  std::unordered_map<std::string, std::vector<std::size_t>> rows_;
+  static constexpr auto kNone = static_cast<std::size_t>(-1);
+  struct TChain {
+    std::size_t First;
+    std::size_t Last;
+  };
+  std::size_t First(const std::string& fileName) const;
+
+  std::unordered_map<std::string, TChain> chains_;  // by folded name
+  std::vector<std::size_t> next_;                   // the next row of the same name, or kNone
 };

@@ -72,9 +72,10 @@ void TSccExpert::GetAssociatedFiles(const std::string& fileName, const TFileInde
     TStringList companions;
     AppendCompanions(fileName, extensions, companions);
     for (const auto& companion : companions)
-      for (const auto row : source.Rows(companion))
+      source.ForEachRow(companion, [&](std::size_t row) {
         if ((checkDisk && FileExists(companion)) || (statuses[row] & scc::SCC_STATUS_CONTROLLED))
           dest.push_back(companion);
+      });
   };
   if (IsUnit(fileName)) take(SRC_EXTENSIONS);
   if (IsProject(fileName)) take(PRJ_EXTENSIONS);

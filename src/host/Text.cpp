@@ -32,4 +32,11 @@ std::string Trim(std::string_view text) {
   return std::string(text);
 }
 
-bool SameText(std::string_view a, std::string_view b) { return a == b || FoldCase(a) == FoldCase(b); }
+bool SameText(std::string_view a, std::string_view b) {
+  const auto ascii = [](char c) { return static_cast<unsigned char>(c) < 0x80; };
+  const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; };
+  std::size_t i = 0;
+  for (; i < a.size() && i < b.size() && ascii(a[i]) && ascii(b[i]); ++i)
+    if (lower(a[i]) != lower(b[i])) return false;
+  return FoldCase(a.substr(i)) == FoldCase(b.substr(i));
+}

@@ -52,12 +52,12 @@ std::size_t AppendFolded(std::string& folded, std::string_view text) {
 }  // namespace
 
 std::string FoldCase(std::string_view text) {
-  std::string folded;
-  folded.reserve(text.size());
+  std::string folded(text);
   if (std::all_of(text.begin(), text.end(), IsAscii) || !TUtf8Scope::Locale()) {
-    std::transform(text.begin(), text.end(), std::back_inserter(folded), FoldAscii);
+    std::ranges::transform(folded, folded.begin(), FoldAscii);
     return folded;
   }
+  folded.clear();
   const TUtf8Scope utf8;
   while (!text.empty()) text.remove_prefix(AppendFolded(folded, text));
   return folded;
