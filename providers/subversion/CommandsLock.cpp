@@ -29,6 +29,13 @@ Failure Explain(Session& session, const std::string& path, const Failure& refusa
   return refusal;
 }
 
+/// Brings an old file up to date.  One that was deleted in the repository stays: an update would take it away.
+void Renew(Session& session, const std::string& path) {
+  if ((AskStatus(session, path).Bits & scc::SCC_STATUS_DELETED) != 0)
+    throw Failure(scc::SCC_E_FILENOTCONTROLLED, sDeletedInRepository);
+  Update(session, {path});
+}
+
 /// Fetches what is not here yet; false, with the failure noted, when there is nothing to lock.
 bool Prepare(Session& session, const std::string& path, Outcome& outcome) {
   return outcome.Try(path, [&] {
@@ -43,9 +50,15 @@ void Lock(Session& session, const std::vector<std::string>& paths, const std::st
           Outcome& outcome) {
   auto refused = TryLock(session, paths, comment);
   std::vector<std::string> updated;
-  for (const auto& [path, refusal] : refused)
-    if (refusal.Result() == scc::SCC_E_CHECKINCONFLICT && outcome.Try(path, [&] { Update(session, {path}); }))
+  for (auto& [path, refusal] : refused) {
+    if (refusal.Result() != scc::SCC_E_CHECKINCONFLICT) continue;
+    try {
+      Renew(session, path);
       updated.push_back(path);
+    } catch (const Failure& failure) {
+      refusal = failure;
+    }
+  }
   for (const auto& path : updated) refused.erase(path);
   refused.merge(TryLock(session, updated, comment));
 

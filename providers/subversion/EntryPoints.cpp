@@ -168,6 +168,7 @@ SCC_EXPORT Long SCC_CALL SccQueryInfo(void* context, Long count, const char** na
   if (statuses != nullptr && count > 0)
     std::fill_n(statuses, count, static_cast<Long>(SCC_STATUS_NOTCONTROLLED));
   return GuardFiles(context, count, names, [&](Session& session, Names files) -> Long {
+    if (files.empty()) return SCC_OK;
     if (statuses == nullptr) return SCC_E_NONSPECIFICERROR;
     const svnscc::StatusTable& table = svnscc::WalkProject(session);
     for (std::size_t i = 0; i < files.size(); ++i) statuses[i] = table.Of(session.InsidePath(files[i])).Bits;

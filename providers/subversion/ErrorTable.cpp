@@ -92,6 +92,10 @@ scc::Long ResultOf(const std::vector<apr_status_t>& codes) {
 
 bool Failure::Has(apr_status_t code) const { return Holds(codes_, code); }
 
+bool Failure::MeansNoWorkingCopy() const {
+  return Has(SVN_ERR_WC_NOT_WORKING_COPY) || Has(SVN_ERR_WC_PATH_NOT_FOUND);
+}
+
 Failure ToFailure(svn_error_t* error) {
   std::vector<apr_status_t> codes;
   std::string text;

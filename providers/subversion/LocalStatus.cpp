@@ -40,7 +40,7 @@ LocalStatus AskLocal(const Session& session, const std::string& path) {
     const Failure failure = ToFailure(error);
     svn_error_clear(error);
     // Below a folder that is not versioned itself.
-    if (!failure.Has(SVN_ERR_WC_PATH_NOT_FOUND) && !failure.Has(SVN_ERR_WC_NOT_WORKING_COPY)) throw failure;
+    if (!failure.MeansNoWorkingCopy()) throw failure;
     result.State = onDisk ? LocalState::Unversioned : LocalState::Absent;
     return result;
   }

@@ -2,6 +2,7 @@
 
 #include <svn_dirent_uri.h>
 
+#include "LocalStatus.h"
 #include "Repository.h"
 #include "SubversionSccStrings.h"
 #include "host/System.h"
@@ -76,6 +77,15 @@ void MakeWorkingCopy(Client& client, const Project& project) {
       /*ignore_externals*/ TRUE, /*allow_unver_obstructions*/ TRUE, client.Context(), pool));
 }
 
+/// Whether someone deleted what libsvn still holds open.
+bool IsAdministrationGone(Client& client, const std::string& folder) {
+  const Pool pool;
+  const char* root = nullptr;
+  svn_error_t* error = svn_client_get_wc_root(&root, folder.c_str(), client.Context(), pool, pool);
+  svn_error_clear(error);
+  return error == SVN_NO_ERROR && !IsOnDisk(svn_dirent_join(root, svn_wc_get_adm_dir(pool), pool));
+}
+
 }  // namespace
 
 std::string SystemUser() { return GetUserNameText(scc::SCC_USER_SIZE); }
@@ -103,6 +113,7 @@ void OpenProject(Session& session, ProjectNames& names, IfUnknown ifUnknown) {
 
 void EnsureWorkingCopy(Session& session) {
   const Project& project = session.CurrentProject();
+  if (IsAdministrationGone(session.Svn(), project.Folder)) session.Reconnect();
   if (!IsWorkingCopyOf(session.Svn(), project)) MakeWorkingCopy(session.Svn(), project);
 }
 

@@ -55,6 +55,11 @@ svn_error_t* RelativeFromText(const char** path, const char* text, apr_pool_t* p
   return svn_relpath_canonicalize_safe(path, nullptr, text, pool, pool);
 }
 
+bool IsCompleteUrl(const std::string& url) {
+  const bool hasHost = !url.ends_with("://") || url.starts_with("file:");
+  return hasHost && svn_path_is_url(url.c_str()) && !svn_path_is_backpath_present(url.c_str());
+}
+
 }  // namespace
 
 std::optional<std::string> ToRepositoryUrl(const std::string& text) {
@@ -62,8 +67,7 @@ std::optional<std::string> ToRepositoryUrl(const std::string& text) {
   const std::string trimmed = Trim(text);
   if (svn_path_is_url(trimmed.c_str())) {
     const auto url = Canonical(trimmed, UrlFromText);
-    return url && svn_path_is_url(url->c_str()) && !svn_path_is_backpath_present(url->c_str()) ? url
-                                                                                               : std::nullopt;
+    return url && IsCompleteUrl(*url) ? url : std::nullopt;
   }
   if (!svn_dirent_is_absolute(svn_dirent_internal_style(trimmed.c_str(), pool))) return std::nullopt;
   return Canonical(trimmed, UrlFromFolder);
@@ -127,6 +131,24 @@ svn_revnum_t MakeFolder(Client& client, const std::string& url, const std::strin
     return svn_client_mkdir4(ToArray({url}, pool), /*make_parents*/ TRUE, nullptr, callback, baton,
                              client.Context(), pool);
   });
+}
+
+std::map<std::string, std::string> LockOwnersBelow(Client& client, const std::string& url) {
+  const Pool pool;
+  svn_ra_session_t* session = nullptr;
+  client.Run(svn_client_open_ra_session2(&session, url.c_str(), nullptr, client.Context(), pool, pool));
+  const char* inRepository = nullptr;
+  client.Run(svn_ra_get_path_relative_to_root(session, &inRepository, url.c_str(), pool));
+  apr_hash_t* locks = nullptr;
+  client.Run(svn_ra_get_locks2(session, &locks, "", svn_depth_infinity, pool));
+
+  std::map<std::string, std::string> owners;
+  for (apr_hash_index_t* i = apr_hash_first(pool, locks); i != nullptr; i = apr_hash_next(i)) {
+    const auto* lock = static_cast<const svn_lock_t*>(apr_hash_this_val(i));
+    if (const char* inside = svn_relpath_skip_ancestor(inRepository, lock->path + 1))
+      owners[inside] = lock->owner;
+  }
+  return owners;
 }
 
 std::string CreateRepository(const std::string& folder) {

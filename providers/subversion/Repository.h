@@ -3,6 +3,7 @@
 
 #include <svn_types.h>
 
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -35,6 +36,9 @@ svn_node_kind_t KindOf(Client& client, const std::string& url);
 std::vector<std::string> FoldersIn(Client& client, const std::string& url);
 /// Makes the folder with all folders above it; returns the revision.
 svn_revnum_t MakeFolder(Client& client, const std::string& url, const std::string& log);
+
+/// Who holds locks on files below `url`, by their paths relative to it.
+std::map<std::string, std::string> LockOwnersBelow(Client& client, const std::string& url);
 
 /// Makes an empty repository in `folder`, which is missing or empty; returns its address.  Throws Failure.
 std::string CreateRepository(const std::string& folder);

@@ -13,6 +13,12 @@ void Session::Open(std::unique_ptr<Client> client, Project project) {
   client_->OnNotice([this](const svn_wc_notify_t& notice) { HandleNotice(notice); });
 }
 
+void Session::Reconnect() {
+  const std::string user = client_->User();
+  client_.reset();  // the old one goes first: both would share the working copy
+  Open(std::make_unique<Client>(user), std::move(project_));
+}
+
 void Session::Close() {
   client_.reset();
   project_ = {};

@@ -29,6 +29,8 @@ class Session {
   bool IsOpen() const { return client_ != nullptr; }
   /// Takes over a project that was opened.
   void Open(std::unique_ptr<Client> client, Project project);
+  /// Starts libsvn anew for the same user and project: it has forgotten what it held open.
+  void Reconnect();
   void Close();
 
   Client& Svn() const { return *client_; }

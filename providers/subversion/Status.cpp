@@ -1,21 +1,29 @@
 #include "Status.h"
 
+#include <svn_dirent_uri.h>
+
 #include <algorithm>
 #include <cstring>
 
+#include "Repository.h"
 #include "Session.h"
 #include "SubversionSccStrings.h"
 
 namespace svnscc {
 namespace {
 
+/// Somebody's lock that this working copy does not hold.
+scc::Long OutBits(const std::string& user, const std::string& owner) {
+  return scc::SCC_STATUS_OUTEXCLUSIVE |
+         (user == owner ? scc::SCC_STATUS_OUTBYUSER : scc::SCC_STATUS_OUTOTHER);
+}
+
 // The working copy's lock is the repository's lock when both carry the same token: it can have been broken meanwhile.
 scc::Long LockBits(const svn_lock_t* here, const svn_lock_t* lock, const std::string& user) {
   if (lock == nullptr) return 0;
   if (here != nullptr && std::strcmp(here->token, lock->token) == 0)
     return scc::SCC_STATUS_OUTBYUSER | scc::SCC_STATUS_CHECKEDOUT | scc::SCC_STATUS_OUTEXCLUSIVE;
-  return scc::SCC_STATUS_OUTEXCLUSIVE |
-         (user == lock->owner ? scc::SCC_STATUS_OUTBYUSER : scc::SCC_STATUS_OUTOTHER);
+  return OutBits(user, lock->owner);
 }
 
 bool IsHere(const svn_client_status_t& status) {
@@ -29,10 +37,16 @@ bool IsLocalEdit(svn_wc_status_kind kind) {
   return kind == svn_wc_status_modified || kind == svn_wc_status_conflicted || kind == svn_wc_status_replaced;
 }
 
+bool IsOnlyInRepository(const svn_client_status_t& status) {
+  return !IsHere(status) && status.repos_node_status == svn_wc_status_added;
+}
+
 struct Walk {
   const std::string& user;
   bool online;
   StatusTable& table;
+  std::vector<std::string>
+      shadowed;  // in the repository, and a local file of that name that is not controlled
   std::exception_ptr kept;
 };
 
@@ -43,7 +57,23 @@ svn_error_t* TakeStatus(void* baton, const char*, const svn_client_status_t* sta
     if (!walk.online) seen.repos_lock = seen.lock;
     const FileStatus file = ToFileStatus(seen, walk.user);
     if (file.Bits != 0) walk.table.Put(seen.local_abspath, file);
+    if (IsOnlyInRepository(seen) && seen.node_status != svn_wc_status_none)
+      walk.shadowed.emplace_back(seen.local_abspath);
   });
+}
+
+/// libsvn leaves the locks of such files out: they are asked for once, together.
+void AddLocksOfShadowed(StatusTable& table, Session& session, const std::vector<std::string>& shadowed) {
+  if (shadowed.empty()) return;
+  const Project& project = session.CurrentProject();
+  const auto owners = LockOwnersBelow(session.Svn(), project.Url);
+  for (const auto& path : shadowed) {
+    const auto owner = owners.find(svn_dirent_skip_ancestor(project.Folder.c_str(), path.c_str()));
+    if (owner == owners.end()) continue;
+    FileStatus status = table.Of(path);
+    status.Bits |= OutBits(session.Svn().User(), owner->second);
+    table.Put(path, status);
+  }
 }
 
 enum class Ask { Repository, WorkingCopy };
@@ -51,7 +81,7 @@ enum class Ask { Repository, WorkingCopy };
 void WalkInto(StatusTable& table, Session& session, const std::string& path, svn_depth_t depth, Ask ask) {
   const Pool pool;
   const bool online = ask == Ask::Repository;
-  Walk walk{session.Svn().User(), online, table, nullptr};
+  Walk walk{session.Svn().User(), online, table, {}, nullptr};
   svn_opt_revision_t head{};
   head.kind = svn_opt_revision_head;
   svn_error_t* error = svn_client_status6(
@@ -63,15 +93,16 @@ void WalkInto(StatusTable& table, Session& session, const std::string& path, svn
     std::rethrow_exception(walk.kept);
   }
   session.Svn().Run(error);
+  AddLocksOfShadowed(table, session, walk.shadowed);
 }
 
-StatusTable LocalWalk(Session& session) {
+/// What the working copy knows, when the repository could not be asked.
+StatusTable LocalWalk(Session& session, const Failure& reason) {
+  session.Out().Error(Format(sStatusFailed.Text, {reason.what()}));
+  const bool unreachable = reason.Result() == scc::SCC_E_CONNECTIONFAILURE;
   StatusTable table;
-  try {
-    WalkInto(table, session, session.CurrentProject().Folder, svn_depth_infinity, Ask::WorkingCopy);
-  } catch (const Failure& failure) {
-    session.Out().Error(failure.what());
-  }
+  WalkInto(table, session, session.CurrentProject().Folder, svn_depth_infinity, Ask::WorkingCopy);
+  table.Result = unreachable ? static_cast<scc::Long>(scc::SCC_E_ACCESSFAILURE) : reason.Result();
   return table;
 }
 
@@ -93,7 +124,7 @@ std::vector<std::string> StatusTable::Files() const {
 }
 
 FileStatus ToFileStatus(const svn_client_status_t& status, const std::string& user) {
-  const bool onlyInRepository = !IsHere(status) && status.repos_node_status == svn_wc_status_added;
+  const bool onlyInRepository = IsOnlyInRepository(status);
   if (status.file_external || status.node_status == svn_wc_status_external) return {};
   if (!IsHere(status) && !onlyInRepository) return {};
 
@@ -118,11 +149,7 @@ const StatusTable& WalkProject(Session& session) {
   try {
     WalkInto(table, session, session.CurrentProject().Folder, svn_depth_infinity, Ask::Repository);
   } catch (const Failure& failure) {
-    session.Out().Error(Format(sStatusFailed, {failure.what()}));
-    table = LocalWalk(session);
-    table.Result = failure.Result() == scc::SCC_E_CONNECTIONFAILURE
-                       ? static_cast<scc::Long>(scc::SCC_E_ACCESSFAILURE)
-                       : failure.Result();
+    table = failure.MeansNoWorkingCopy() ? StatusTable{} : LocalWalk(session, failure);
   }
   return session.LastStatuses() = std::move(table);
 }

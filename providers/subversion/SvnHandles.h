@@ -43,6 +43,8 @@ class Failure : public std::runtime_error {
   scc::Long Result() const { return result_; }
   /// Whether `code` is anywhere in libsvn's chain of errors.
   bool Has(apr_status_t code) const;
+  /// Whether the failure is that a path belongs to no working copy.
+  bool MeansNoWorkingCopy() const;
 
  private:
   scc::Long result_;

@@ -1,0 +1,231 @@
+// Check-out, check-in and undo, alone and with a colleague.
+#include <gmock/gmock.h>
+
+#include "Developer.h"
+
+using testing::HasSubstr;
+
+namespace {
+
+constexpr scc::Long kControlled = 0x0001;
+constexpr scc::Long kOutHere = 0x100B;
+constexpr scc::Long kOutElsewhere = 0x1009;
+constexpr scc::Long kOutByOther = 0x000D;
+constexpr scc::Long kOutOfDate = 0x0020;
+constexpr scc::Long kDeleted = 0x0040;
+constexpr scc::Long kMerged = 0x0100;
+constexpr scc::Long kModified = 0x0800;
+
+/// A project with unit1.pas in it, at Ann's and at Bob's.
+struct CheckOut : testing::Test {
+  CheckOut() {
+    EXPECT_EQ(scc::SCC_OK, ann.Open(repository.Url(), "project"));
+    ann.Write("unit1.pas", "one\ntwo\nthree\n");
+    EXPECT_EQ(scc::SCC_OK, ann.Add({"unit1.pas"}, "first"));
+    EXPECT_EQ(scc::SCC_OK, bob.Open(repository.Url(), "project"));
+    EXPECT_EQ(scc::SCC_OK, bob.GetEverything());
+  }
+  TTestRepository repository;
+  TDeveloper ann{"ann"};
+  TDeveloper bob{"bob"};
+};
+
+}  // namespace
+
+TEST_F(CheckOut, EditAndCheckInAreSeenInTheRepository) {
+  EXPECT_FALSE(ann.IsWritable("unit1.pas"));
+  EXPECT_EQ(kControlled, ann.Status("unit1.pas"));
+
+  ASSERT_EQ(scc::SCC_OK, ann.CheckOut({"unit1.pas"}, "fixing two")) << ann.Said();
+  EXPECT_EQ("I Locked unit1.pas.\n", ann.Said());
+  EXPECT_TRUE(ann.IsWritable("unit1.pas"));
+  EXPECT_EQ("ann", repository.LockOwner("project/unit1.pas"));
+  EXPECT_EQ("fixing two", repository.LockComment("project/unit1.pas"));
+  EXPECT_EQ(kOutHere, ann.Status("unit1.pas"));
+
+  ann.Write("unit1.pas", "one\n2\nthree\n");
+  EXPECT_EQ(kOutHere | kModified, ann.Status("unit1.pas"));
+  ASSERT_EQ(scc::SCC_OK, ann.CheckIn({"unit1.pas"}, "two is 2\r\nreally")) << ann.Said();
+  EXPECT_EQ("I Sending unit1.pas.\nI Committed revision 3.\n", ann.Said());
+  EXPECT_EQ("two is 2\nreally", repository.Log(3));
+  EXPECT_EQ("ann", repository.Author(3));
+  EXPECT_EQ("one\n2\nthree\n", repository.Contents("project/unit1.pas"));
+  EXPECT_EQ(std::nullopt, repository.LockOwner("project/unit1.pas"));
+  EXPECT_FALSE(ann.IsWritable("unit1.pas"));
+  EXPECT_EQ(kControlled, ann.Status("unit1.pas"));
+}
+
+TEST_F(CheckOut, KeepCheckedOutCommitsAndKeepsTheLock) {
+  ann.CheckOut({"unit1.pas"});
+  ann.Write("unit1.pas", "new\n");
+  ASSERT_EQ(scc::SCC_OK, ann.CheckIn({"unit1.pas"}, "", scc::SCC_KEEP_CHECKEDOUT));
+  EXPECT_EQ("new\n", repository.Contents("project/unit1.pas"));
+  EXPECT_EQ("ann", repository.LockOwner("project/unit1.pas"));
+  EXPECT_TRUE(ann.IsWritable("unit1.pas"));
+  EXPECT_EQ(kOutHere, ann.Status("unit1.pas"));
+}
+
+TEST_F(CheckOut, CheckingInWhatWasNotChangedOnlyReleasesTheLock) {
+  ann.CheckOut({"unit1.pas"});
+  const auto before = repository.Youngest();
+  ASSERT_EQ(scc::SCC_OK, ann.CheckIn({"unit1.pas"}));
+  EXPECT_EQ(before, repository.Youngest());
+  EXPECT_EQ(std::nullopt, repository.LockOwner("project/unit1.pas"));
+  EXPECT_FALSE(ann.IsWritable("unit1.pas"));
+}
+
+TEST_F(CheckOut, UndoBringsTheTextBackEvenIfTheFileIsGone) {
+  ann.CheckOut({"unit1.pas"});
+  ann.Write("unit1.pas", "scribbled\n");
+  ASSERT_EQ(scc::SCC_OK, ann.Undo({"unit1.pas"})) << ann.Said();
+  EXPECT_EQ("one\ntwo\nthree\n", ann.Read("unit1.pas"));
+  EXPECT_EQ(std::nullopt, repository.LockOwner("project/unit1.pas"));
+  EXPECT_FALSE(ann.IsWritable("unit1.pas"));
+
+  ann.CheckOut({"unit1.pas"});
+  std::filesystem::remove(ann.File("unit1.pas"));
+  ASSERT_EQ(scc::SCC_OK, ann.Undo({"unit1.pas"})) << ann.Said();
+  EXPECT_EQ("one\ntwo\nthree\n", ann.Read("unit1.pas"));
+  EXPECT_EQ(kControlled, ann.Status("unit1.pas"));
+}
+
+TEST_F(CheckOut, TheColleagueSeesItAndIsRefused) {
+  ann.CheckOut({"unit1.pas"});
+  EXPECT_EQ(kOutByOther, bob.Status("unit1.pas"));
+  EXPECT_EQ(scc::SCC_E_FILEOUTEXCLUSIVE, bob.CheckOut({"unit1.pas"}));
+  EXPECT_THAT(bob.Said(), HasSubstr("E unit1.pas: "));
+  EXPECT_THAT(bob.Said(), HasSubstr("ann"));
+  EXPECT_FALSE(bob.IsWritable("unit1.pas"));
+  EXPECT_EQ(scc::SCC_E_FILEOUTEXCLUSIVE, bob.Remove({"unit1.pas"}));
+  EXPECT_EQ(scc::SCC_E_NOTCHECKEDOUT, bob.CheckIn({"unit1.pas"}));
+  EXPECT_EQ(scc::SCC_E_NOTCHECKEDOUT, bob.Undo({"unit1.pas"}));
+  EXPECT_EQ(scc::SCC_E_ALREADYCHECKEDOUT, ann.CheckOut({"unit1.pas"}));
+}
+
+TEST_F(CheckOut, MineElsewhereIsNotMineHere) {
+  TDeveloper annAtHome("ann");
+  ASSERT_EQ(scc::SCC_OK, annAtHome.Open(repository.Url(), "project"));
+  ASSERT_EQ(scc::SCC_OK, annAtHome.GetEverything());
+  ann.CheckOut({"unit1.pas"});
+  EXPECT_EQ(kOutElsewhere, annAtHome.Status("unit1.pas"));
+  EXPECT_EQ(scc::SCC_E_ALREADYCHECKEDOUT, annAtHome.CheckOut({"unit1.pas"}));
+  EXPECT_EQ(scc::SCC_E_NOTCHECKEDOUT, annAtHome.Undo({"unit1.pas"}));
+  EXPECT_EQ(scc::SCC_E_FILEISCHECKEDOUT, annAtHome.Remove({"unit1.pas"}));
+  EXPECT_EQ(kOutHere, ann.Status("unit1.pas"));
+}
+
+TEST_F(CheckOut, AnOldFileIsUpdatedFirstAndLocalEditsSurvive) {
+  ann.CheckOut({"unit1.pas"});
+  ann.Write("unit1.pas", "ONE\ntwo\nthree\n");
+  ann.CheckIn({"unit1.pas"});
+  EXPECT_EQ(kControlled | kOutOfDate, bob.Status("unit1.pas"));
+
+  std::filesystem::permissions(bob.File("unit1.pas"), std::filesystem::perms::owner_all);
+  bob.Write("unit1.pas", "one\ntwo\nTHREE\n");
+  EXPECT_EQ(kControlled | kOutOfDate | kModified, bob.Status("unit1.pas"));
+  ASSERT_EQ(scc::SCC_OK, bob.CheckOut({"unit1.pas"})) << bob.Said();
+  EXPECT_THAT(bob.Said(), HasSubstr("I Merged changes from the repository into unit1.pas.\n"));
+  EXPECT_EQ("ONE\ntwo\nTHREE\n", bob.Read("unit1.pas"));
+  EXPECT_TRUE(bob.IsWritable("unit1.pas"));
+  EXPECT_EQ(kOutHere | kModified, bob.Status("unit1.pas"));
+}
+
+TEST_F(CheckOut, AConflictIsMarkedRefusedAndSettledByEditing) {
+  ann.CheckOut({"unit1.pas"});
+  ann.Write("unit1.pas", "ann\ntwo\nthree\n");
+  ann.CheckIn({"unit1.pas"});
+  std::filesystem::permissions(bob.File("unit1.pas"), std::filesystem::perms::owner_all);
+  bob.Write("unit1.pas", "bob\ntwo\nthree\n");
+
+  ASSERT_EQ(scc::SCC_OK, bob.CheckOut({"unit1.pas"})) << bob.Said();
+  EXPECT_THAT(bob.Said(), HasSubstr("W Changes from the repository conflict with yours in unit1.pas"));
+  EXPECT_EQ(kOutHere | kModified | kMerged, bob.Status("unit1.pas"));
+  EXPECT_EQ(scc::SCC_E_FIXMERGE, bob.CheckIn({"unit1.pas"}));
+  EXPECT_EQ("ann\ntwo\nthree\n", repository.Contents("project/unit1.pas"));
+
+  bob.Write("unit1.pas", "ann and bob\ntwo\nthree\n");
+  EXPECT_EQ(scc::SCC_OK, bob.CheckIn({"unit1.pas"})) << bob.Said();
+  EXPECT_EQ("ann and bob\ntwo\nthree\n", repository.Contents("project/unit1.pas"));
+  EXPECT_EQ(kControlled, bob.Status("unit1.pas"));
+}
+
+TEST_F(CheckOut, ALockThatWasTakenAwayEndsInACheckInConflict) {
+  ann.CheckOut({"unit1.pas"});
+  ann.Write("unit1.pas", "mine\n");
+  repository.BreakLock("project/unit1.pas");
+  EXPECT_EQ(kControlled | kModified, ann.Status("unit1.pas"));
+  ASSERT_EQ(scc::SCC_OK, bob.CheckOut({"unit1.pas"}));
+  bob.Write("unit1.pas", "his\n");
+  bob.CheckIn({"unit1.pas"});
+
+  EXPECT_EQ(scc::SCC_E_CHECKINCONFLICT, ann.CheckIn({"unit1.pas"})) << ann.Said();
+  EXPECT_EQ("mine\n", ann.Read("unit1.pas"));
+  EXPECT_EQ("his\n", repository.Contents("project/unit1.pas"));
+}
+
+TEST_F(CheckOut, UndoAfterTheLockWasTakenAwaySucceeds) {
+  ann.CheckOut({"unit1.pas"});
+  repository.BreakLock("project/unit1.pas");
+  EXPECT_EQ(scc::SCC_OK, ann.Undo({"unit1.pas"})) << ann.Said();
+  EXPECT_EQ(kControlled, ann.Status("unit1.pas"));
+}
+
+TEST_F(CheckOut, WhatTheColleagueDeletedIsSeenAsDeleted) {
+  ASSERT_EQ(scc::SCC_OK, ann.Remove({"unit1.pas"}));
+  EXPECT_EQ(kControlled | kDeleted, bob.Status("unit1.pas"));
+  EXPECT_EQ(scc::SCC_E_FILENOTCONTROLLED, bob.CheckOut({"unit1.pas"}));
+  EXPECT_TRUE(bob.Has("unit1.pas"));
+}
+
+TEST_F(CheckOut, OneBadNameDoesNotStopTheOthers) {
+  ann.Write("unit2.pas", "2\n");
+  ann.Add({"unit2.pas"});
+  EXPECT_EQ(scc::SCC_E_FILENOTCONTROLLED, ann.CheckOut({"unit1.pas", "nonsense.pas", "unit2.pas"}));
+  EXPECT_THAT(ann.Said(), HasSubstr("E nonsense.pas: the file is not under source control\n"));
+  EXPECT_EQ((std::vector<scc::Long>{kOutHere, kOutHere}), ann.Statuses({"unit1.pas", "unit2.pas"}));
+
+  ann.Write("unit1.pas", "changed\n");
+  std::filesystem::remove(ann.File("unit2.pas"));
+  EXPECT_EQ(scc::SCC_E_FILENOTEXIST, ann.CheckIn({"unit1.pas", "unit2.pas"}));
+  EXPECT_EQ("changed\n", repository.Contents("project/unit1.pas"));
+  EXPECT_EQ(kControlled, ann.Status("unit1.pas"));
+}
+
+TEST_F(CheckOut, FilesOfOneCheckInMakeOneRevision) {
+  ann.Write("unit2.pas", "2\n");
+  ann.Add({"unit2.pas"});
+  ann.CheckOut({"unit1.pas", "unit2.pas"});
+  ann.Write("unit1.pas", "a\n");
+  ann.Write("unit2.pas", "b\n");
+  const auto before = repository.Youngest();
+  ASSERT_EQ(scc::SCC_OK, ann.CheckIn({"unit1.pas", "unit2.pas"}));
+  EXPECT_EQ(before + 1, repository.Youngest());
+}
+
+TEST_F(CheckOut, ARefusalOfTheServersHookIsToldAndLosesNothing) {
+  repository.WriteHook("pre-commit", "echo 'No ticket number.' >&2\nexit 1\n");
+  ann.CheckOut({"unit1.pas"});
+  ann.Write("unit1.pas", "mine\n");
+  EXPECT_EQ(scc::SCC_E_NOTAUTHORIZED, ann.CheckIn({"unit1.pas"}));
+  EXPECT_THAT(ann.Said(), HasSubstr("No ticket number."));
+  EXPECT_EQ("mine\n", ann.Read("unit1.pas"));
+  EXPECT_EQ(kOutHere | kModified, ann.Status("unit1.pas"));
+}
+
+TEST_F(CheckOut, QuickDifferencesNeedNoServer) {
+  ann.Write("new.pas", "n\n");
+  ann.CheckOut({"unit1.pas"});
+  std::filesystem::rename(repository.Folder(), repository.Folder() + "-gone");
+  for (const scc::Long flags : {0x10, 0x20, 0x40}) {
+    SCOPED_TRACE(flags);
+    EXPECT_EQ(scc::SCC_OK, ann.QuickDiff("unit1.pas", flags));
+    EXPECT_EQ(scc::SCC_E_FILENOTCONTROLLED, ann.QuickDiff("new.pas", flags));
+    EXPECT_EQ(scc::SCC_E_FILENOTEXIST, ann.QuickDiff("nothing.pas", flags));
+  }
+  ann.Write("unit1.pas", "one\nTWO\nthree\n");
+  EXPECT_EQ(scc::SCC_I_FILEDIFFERS, ann.QuickDiff("unit1.pas"));
+  std::filesystem::remove(ann.File("unit1.pas"));
+  EXPECT_EQ(scc::SCC_E_FILENOTEXIST, ann.QuickDiff("unit1.pas"));
+  EXPECT_EQ(scc::SCC_E_OPNOTSUPPORTED, ann.QuickDiff("unit1.pas", 2));
+  EXPECT_EQ("", ann.Said());
+}

@@ -1,0 +1,155 @@
+#include "Developer.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cstring>
+
+#include "host/System.h"
+
+namespace {
+
+std::string said;  // the callback has no argument to find its owner by
+
+scc::Long SCC_CALL TakeText(const char* text, scc::Dword kind) {
+  said += std::string(1, "?IWE"[kind < 4 ? kind : 0]) + " " + text + "\n";
+  return scc::SCC_MSG_RTN_OK;
+}
+
+scc::Bool SCC_CALL TakeFile(void* callerData, scc::Bool add, scc::Long status, const char* name) {
+  auto& list = *static_cast<TPopulated*>(callerData);
+  if (add != 0)
+    list.Added[name] = status;
+  else
+    list.Dropped.push_back(name);
+  return 1;
+}
+
+/// Names as the API takes them.
+class NameArray {
+ public:
+  NameArray(const TDeveloper& developer, const std::vector<std::string>& names) {
+    for (const auto& name : names) texts_.push_back(name.empty() ? developer.Folder() : developer.File(name));
+    for (const auto& text : texts_) pointers_.push_back(text.c_str());
+    said.clear();
+  }
+  scc::Long Count() const { return static_cast<scc::Long>(pointers_.size()); }
+  const char** Data() { return pointers_.data(); }
+
+ private:
+  std::vector<std::string> texts_;
+  std::vector<const char*> pointers_;
+};
+
+template <std::size_t Size>
+void Fill(std::array<char, Size>& buffer, const std::string& text) {
+  ASSERT_LT(text.size(), Size);
+  buffer.fill('\0');
+  std::memcpy(buffer.data(), text.data(), text.size());
+}
+
+}  // namespace
+
+TProviderLibrary::TProviderLibrary() {
+  std::string error;
+  module_ = LoadModule(SUBVERSION_SCC_PATH, &error);
+  if (module_ == nullptr) throw std::runtime_error(error);
+#define SCC_ENTRY(variable, name, result, arguments) \
+  entries_.variable = reinterpret_cast<decltype(entries_.variable)>(FindSymbol(module_, name));
+#include "provider/entry_points.def"
+#undef SCC_ENTRY
+}
+
+TDeveloper::TDeveloper(const std::string& user, const std::string& folder)
+    : work_(folder), folder_(temporary_.MakeFolder(folder)), user_(user) {
+  std::array<char, scc::SCC_NAME_SIZE> name{};
+  std::array<char, scc::SCC_AUXLABEL_SIZE> label{};
+  std::array<scc::Long, 3> words{};
+  EXPECT_EQ(scc::SCC_OK, library_->SccInitialize(&context_, nullptr, "tests", name.data(), &words[0],
+                                                 label.data(), &words[1], &words[2]));
+}
+
+TDeveloper::~TDeveloper() {
+  library_->SccCloseProject(context_);
+  library_->SccUninitialize(context_);
+}
+
+scc::Long TDeveloper::Open(const std::string& url, const std::string& project, scc::Long flags) {
+  std::array<char, 33> user;  // as small as clients make them
+  std::array<char, 261> name;
+  std::array<char, scc::SCC_PRJPATH_SIZE> aux;
+  Fill(user, user_);
+  Fill(name, project);
+  Fill(aux, url);
+  said.clear();
+  const scc::Long result =
+      library_->SccOpenProject(context_, nullptr, user.data(), name.data(), folder_.c_str(), aux.data(),
+                               "Made for the tests", TakeText, flags);
+  user_ = user.data();
+  return result;
+}
+
+scc::Long TDeveloper::Close() { return library_->SccCloseProject(context_); }
+
+std::string TDeveloper::Read(const std::string& name) const { return ReadWholeFile(File(name)); }
+bool TDeveloper::Has(const std::string& name) const { return FileExists(File(name)); }
+bool TDeveloper::IsWritable(const std::string& name) const {
+  return (GetFileAttributesOf(File(name)) & faReadOnly) == 0;
+}
+
+scc::Long TDeveloper::Add(const std::vector<std::string>& names, const std::string& comment,
+                          scc::Long flags) {
+  NameArray array(*this, names);
+  return library_->SccAdd(context_, nullptr, array.Count(), array.Data(), comment.c_str(), &flags, nullptr);
+}
+
+scc::Long TDeveloper::CheckOut(const std::vector<std::string>& names, const std::string& comment) {
+  NameArray array(*this, names);
+  return library_->SccCheckOut(context_, nullptr, array.Count(), array.Data(), comment.c_str(), 0, nullptr);
+}
+
+scc::Long TDeveloper::CheckIn(const std::vector<std::string>& names, const std::string& comment,
+                              scc::Long flags) {
+  NameArray array(*this, names);
+  return library_->SccCheckin(context_, nullptr, array.Count(), array.Data(), comment.c_str(), flags,
+                              nullptr);
+}
+
+scc::Long TDeveloper::Undo(const std::vector<std::string>& names) {
+  NameArray array(*this, names);
+  return library_->SccUncheckout(context_, nullptr, array.Count(), array.Data(), 0, nullptr);
+}
+
+scc::Long TDeveloper::Remove(const std::vector<std::string>& names, const std::string& comment) {
+  NameArray array(*this, names);
+  return library_->SccRemove(context_, nullptr, array.Count(), array.Data(), comment.c_str(), 0, nullptr);
+}
+
+scc::Long TDeveloper::Get(const std::vector<std::string>& names, scc::Long flags) {
+  NameArray array(*this, names);
+  return library_->SccGet(context_, nullptr, array.Count(), array.Data(), flags, nullptr);
+}
+
+scc::Long TDeveloper::QuickDiff(const std::string& name, scc::Long flags) {
+  said.clear();
+  return library_->SccDiff(context_, nullptr, File(name).c_str(), flags, nullptr);
+}
+
+std::vector<scc::Long> TDeveloper::Statuses(const std::vector<std::string>& names, scc::Long expected) {
+  NameArray array(*this, names);
+  std::vector<scc::Long> statuses(names.size(), scc::SCC_STATUS_INVALID);
+  EXPECT_EQ(expected, library_->SccQueryInfo(context_, array.Count(), array.Data(), statuses.data())) << said;
+  return statuses;
+}
+
+TPopulated TDeveloper::Populate(scc::SCCCommand command, const std::vector<std::string>& names,
+                                scc::Long flags) {
+  NameArray array(*this, names);
+  TPopulated list;
+  list.Statuses.assign(names.size(), scc::SCC_STATUS_INVALID);
+  list.Result = library_->SccPopulateList(context_, command, array.Count(), array.Data(), TakeFile, &list,
+                                          list.Statuses.data(), flags);
+  return list;
+}
+
+std::string TDeveloper::Said() const { return said; }

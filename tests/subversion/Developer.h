@@ -1,0 +1,91 @@
+// Somebody at work: the provider library loaded as clients load it, a folder, and verbs.
+#pragma once
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include "TestRepository.h"
+#include "host/Library.h"
+#include "provider/sccdefs.h"
+
+namespace scc {
+/// The exported names of one library, null where it lacks one.
+struct EntryPoints {
+#define SCC_ENTRY(variable, name, result, arguments) result(SCC_CALL* variable) arguments = nullptr;
+#include "provider/entry_points.def"
+#undef SCC_ENTRY
+};
+}  // namespace scc
+
+/// The provider, loaded until the end of the scope.
+class TProviderLibrary {
+ public:
+  TProviderLibrary();
+  TProviderLibrary(const TProviderLibrary&) = delete;
+  TProviderLibrary& operator=(const TProviderLibrary&) = delete;
+  ~TProviderLibrary() { FreeModule(module_); }
+  const scc::EntryPoints* operator->() const { return &entries_; }
+
+ private:
+  TModuleHandle module_ = nullptr;
+  scc::EntryPoints entries_;
+};
+
+/// A file's row in what SccPopulateList reports.
+struct TPopulated {
+  std::map<std::string, scc::Long> Added;
+  std::vector<std::string> Dropped;
+  std::vector<scc::Long> Statuses;
+  scc::Long Result = 0;
+};
+
+class TDeveloper {
+ public:
+  /// Works in a fresh folder of that name.
+  explicit TDeveloper(const std::string& user, const std::string& folder = "work");
+  ~TDeveloper();
+
+  const std::string& Folder() const { return folder_; }
+  std::string File(const std::string& name) const { return folder_ + "/" + name; }
+  scc::Long Open(const std::string& url, const std::string& project,
+                 scc::Long flags = scc::SCC_OP_CREATEIFNEW);
+  scc::Long Close();
+  /// What the provider holds for the user's name after opening.
+  const std::string& User() const { return user_; }
+
+  void Write(const std::string& name, const std::string& text) const {
+    temporary_.Write(work_ + "/" + name, text);
+  }
+  std::string Read(const std::string& name) const;
+  bool Has(const std::string& name) const;
+  bool IsWritable(const std::string& name) const;
+
+  // The commands, on names relative to the folder.
+  scc::Long Add(const std::vector<std::string>& names, const std::string& comment = "", scc::Long flags = 0);
+  scc::Long CheckOut(const std::vector<std::string>& names, const std::string& comment = "");
+  scc::Long CheckIn(const std::vector<std::string>& names, const std::string& comment = "",
+                    scc::Long flags = 0);
+  scc::Long Undo(const std::vector<std::string>& names);
+  scc::Long Remove(const std::vector<std::string>& names, const std::string& comment = "");
+  scc::Long Get(const std::vector<std::string>& names, scc::Long flags = 0);
+  scc::Long GetEverything() { return Get({""}, scc::SCC_GET_ALL | scc::SCC_GET_RECURSIVE); }
+  scc::Long QuickDiff(const std::string& name, scc::Long flags = scc::SCC_DIFF_QD_TIME);
+  scc::Long Status(const std::string& name) { return Statuses({name}).front(); }
+  std::vector<scc::Long> Statuses(const std::vector<std::string>& names, scc::Long expected = scc::SCC_OK);
+  TPopulated Populate(scc::SCCCommand command, const std::vector<std::string>& names, scc::Long flags = 0);
+
+  /// The provider's sentences of the last command, one a line, each after its kind's letter: "I Locked a.txt."
+  std::string Said() const;
+
+  const TProviderLibrary& Library() const { return library_; }
+  void* Context() const { return context_; }
+
+ private:
+  TTemporaryFolder temporary_;
+  TProviderLibrary library_;
+  void* context_ = nullptr;
+  std::string work_;
+  std::string folder_;
+  std::string user_;
+};

@@ -1,0 +1,89 @@
+// The library itself: loading, the names it exports, clients that call it wrongly.
+#include <gmock/gmock.h>
+
+#include <array>
+#include <clocale>
+
+#include "Developer.h"
+
+TEST(Library, ExportsEveryEntryPointAndSaysWhatItCan) {
+  const TProviderLibrary library;
+#define SCC_ENTRY(variable, name, result, arguments) EXPECT_NE(nullptr, library->variable) << name;
+#include "provider/entry_points.def"
+#undef SCC_ENTRY
+  EXPECT_EQ(0x00010001, library->SccGetVersion());
+
+  void* context = nullptr;
+  std::array<char, scc::SCC_NAME_SIZE> name;
+  std::array<char, scc::SCC_AUXLABEL_SIZE> label;
+  std::array<scc::Long, 3> words{};
+  ASSERT_EQ(scc::SCC_OK, library->SccInitialize(&context, nullptr, "tests", name.data(), &words[0],
+                                                label.data(), &words[1], &words[2]));
+  EXPECT_STREQ("Subversion", name.data());
+  EXPECT_EQ(0x0600F800 | 0x1 | 0x80 | 0x200, words[0]);
+  EXPECT_EQ(scc::SCC_OK, library->SccSetOption(context, scc::SCC_OPT_EVENTQUEUE, 1));
+  EXPECT_EQ(scc::SCC_OK, library->SccSetOption(context, scc::SCC_OPT_HASCANCELMODE, 0));
+  EXPECT_EQ(scc::SCC_E_OPNOTSUPPORTED, library->SccSetOption(context, scc::SCC_OPT_SHARESUBPROJ, 1));
+  EXPECT_EQ(scc::SCC_E_OPNOTSUPPORTED, library->SccHistory(context, nullptr, 0, nullptr, 0, nullptr));
+  EXPECT_EQ(scc::SCC_OK, library->SccUninitialize(context));
+}
+
+// The add-in unloads its provider at every project close.
+TEST(Library, WorksAgainEachTimeItIsLoaded) {
+  const TTestRepository repository;
+  for (int round = 0; round < 5; ++round) {
+    SCOPED_TRACE(round);
+    TDeveloper ann("ann");
+    ASSERT_EQ(scc::SCC_OK, ann.Open(repository.Url(), "project")) << ann.Said();
+    const std::string name = "unit" + std::to_string(round) + ".pas";
+    ann.Write(name, "1\n");
+    ASSERT_EQ(scc::SCC_OK, ann.Add({name})) << ann.Said();
+    EXPECT_EQ(1, ann.Status(name));
+  }
+}
+
+TEST(Library, SurvivesCallsWithNothingInThem) {
+  const TTestRepository repository;
+  TDeveloper ann("ann");
+  const auto& library = ann.Library();
+  EXPECT_EQ(scc::SCC_E_PROJNOTOPEN,
+            library->SccCheckOut(ann.Context(), nullptr, 0, nullptr, nullptr, 0, nullptr));
+  ASSERT_EQ(scc::SCC_OK, ann.Open(repository.Url(), "project"));
+  EXPECT_EQ(scc::SCC_OK, library->SccCheckOut(ann.Context(), nullptr, 0, nullptr, nullptr, 0, nullptr));
+  EXPECT_EQ(scc::SCC_E_NONSPECIFICERROR,
+            library->SccCheckin(ann.Context(), nullptr, 1, nullptr, nullptr, 0, nullptr));
+  EXPECT_EQ(scc::SCC_E_NONSPECIFICERROR, library->SccGet(ann.Context(), nullptr, -1, nullptr, 0, nullptr));
+  EXPECT_EQ(scc::SCC_OK, library->SccQueryInfo(ann.Context(), 0, nullptr, nullptr));
+  EXPECT_EQ(scc::SCC_E_FILENOTCONTROLLED, library->SccDiff(ann.Context(), nullptr, nullptr, 0x10, nullptr));
+  EXPECT_EQ(scc::SCC_E_INITIALIZEFAILED, library->SccCloseProject(nullptr));
+  EXPECT_EQ(scc::SCC_E_INITIALIZEFAILED,
+            library->SccInitialize(nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr));
+  EXPECT_EQ(scc::SCC_OK, library->SccUninitialize(nullptr));
+}
+
+// No toolkit runs in this process.
+TEST(Library, CannotAskForAProjectWithoutWindows) {
+  TDeveloper ann("ann");
+  std::array<char, 33> user{"ann"};
+  std::array<char, 261> project{};
+  std::array<char, 261> local{};
+  std::array<char, 301> aux{};
+  scc::Bool isNew = -1;
+  EXPECT_EQ(scc::SCC_E_NONSPECIFICERROR,
+            ann.Library()->SccGetProjPath(ann.Context(), nullptr, user.data(), project.data(), local.data(),
+                                          aux.data(), 0, &isNew));
+  EXPECT_STREQ("ann", user.data());
+}
+
+TEST(Library, ReadsNamesAsUtf8InAnyLocale) {
+  const std::string before = std::setlocale(LC_ALL, nullptr);
+  ASSERT_NE(nullptr, std::setlocale(LC_ALL, "C"));
+  const TTestRepository repository;
+  TDeveloper ann("ann", "Übung");
+  ASSERT_EQ(scc::SCC_OK, ann.Open(repository.Url(), "Prüfung")) << ann.Said();
+  ann.Write("Maß.pas", "1\n");
+  EXPECT_EQ(scc::SCC_OK, ann.Add({"Maß.pas"}, "für alle")) << ann.Said();
+  EXPECT_EQ("für alle", repository.Log(2));
+  EXPECT_TRUE(repository.Exists("Prüfung/Maß.pas"));
+  std::setlocale(LC_ALL, before.c_str());
+}

@@ -1,0 +1,127 @@
+// The rules of the project dialog, without its window.
+#include <gmock/gmock.h>
+
+#include "Developer.h"
+#include "subversion/ProjectChoice.h"
+#include "subversion/RecentRepositories.h"
+#include "subversion/Repository.h"
+
+using svnscc::ProjectChoice;
+using svnscc::ProjectRequest;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+namespace {
+
+struct Choice : testing::Test {
+  Choice() {
+    svnscc::EnsureRuntime();
+    svnscc::Client client("ann");
+    svnscc::MakeFolder(client, svnscc::UrlOf(repository.Url(), "trunk/app one"), "");
+    svnscc::MakeFolder(client, svnscc::UrlOf(repository.Url(), "trunk/lib"), "");
+  }
+  static ProjectRequest Request() { return {"ann", "", "", "/home/ann/app", true, false}; }
+  TTestRepository repository;
+};
+
+}  // namespace
+
+TEST(RepositoryAddress, IsAUrlOrAnAbsoluteFolder) {
+  svnscc::EnsureRuntime();
+  struct Row {
+    std::string text;
+    std::optional<std::string> url;
+  };
+  for (const auto& row :
+       {Row{"file:///srv/repo/", "file:///srv/repo"}, Row{"  svn://Host/a b ", "svn://host/a%20b"},
+        Row{"http://host/%7euser//x", "http://host/~user/x"}, Row{"/srv/my repo", "file:///srv/my%20repo"},
+        Row{"/srv/Größe", "file:///srv/Gr%C3%B6%C3%9Fe"}, Row{"", std::nullopt}, Row{"repo", std::nullopt},
+        Row{"http://", std::nullopt}, Row{"svn://host/a/../b", std::nullopt}})
+    EXPECT_EQ(row.url, svnscc::ToRepositoryUrl(row.text)) << row.text;
+}
+
+TEST_F(Choice, NothingIsAcceptedBeforeARepositoryAndAFolderAreChosen) {
+  ProjectChoice choice(Request());
+  EXPECT_FALSE(choice.CanAccept());
+  EXPECT_FALSE(choice.Connect("no address"));
+  EXPECT_TRUE(choice.IsError());
+  EXPECT_THAT(choice.Message(), HasSubstr("\"no address\""));
+  EXPECT_FALSE(choice.Connect("file:///no/such/repository"));
+  EXPECT_THAT(choice.Message(), HasSubstr("/no/such/repository"));
+  EXPECT_FALSE(choice.IsConnected());
+
+  ASSERT_TRUE(choice.Connect(repository.Folder()));
+  EXPECT_EQ(repository.Url(), choice.Root());
+  choice.Select(std::nullopt);
+  EXPECT_FALSE(choice.CanAccept());
+  choice.Select("trunk/app one");
+  EXPECT_TRUE(choice.CanAccept()) << choice.Message();
+  EXPECT_EQ("trunk/app one", choice.Result().ProjectName);
+  EXPECT_EQ(repository.Url(), choice.Result().Repository);
+  EXPECT_FALSE(choice.Result().IsNew);
+  choice.SetUser("  ");
+  EXPECT_FALSE(choice.CanAccept());
+}
+
+TEST_F(Choice, AnAddressInsideARepositoryChoosesItsFolder) {
+  ProjectChoice choice(Request());
+  ASSERT_TRUE(choice.Connect(svnscc::UrlOf(repository.Url(), "trunk/lib"))) << choice.Message();
+  EXPECT_EQ(repository.Url(), choice.Root());
+  EXPECT_EQ("trunk/lib", choice.Selected());
+  EXPECT_THAT(choice.FoldersOf("trunk"), ElementsAre("app one", "lib"));
+  EXPECT_THAT(choice.FoldersOf("trunk/lib"), IsEmpty());
+}
+
+TEST_F(Choice, NewFoldersArePlannedNotMade) {
+  ProjectChoice choice(Request());
+  choice.Connect(repository.Url());
+  EXPECT_EQ(std::nullopt, choice.AddFolder("trunk", "lib"));
+  EXPECT_EQ(std::nullopt, choice.AddFolder("trunk", "a/b"));
+  EXPECT_EQ(std::nullopt, choice.AddFolder("trunk", ".."));
+  EXPECT_EQ("trunk/new", choice.AddFolder("trunk", " new "));
+  EXPECT_EQ("trunk/new/inner", choice.AddFolder("trunk/new", "inner"));
+  EXPECT_THAT(choice.FoldersOf("trunk"), ElementsAre("app one", "lib", "new"));
+  EXPECT_THAT(choice.FoldersOf("trunk/new"), ElementsAre("inner"));
+  choice.Select("trunk/new/inner");
+  EXPECT_TRUE(choice.Result().IsNew);
+  EXPECT_FALSE(repository.Exists("trunk/new"));
+  choice.Select("trunk/lib");
+  EXPECT_FALSE(choice.Result().IsNew);
+}
+
+TEST_F(Choice, ANewRepositoryNeedsAnEmptyFolder) {
+  const TTemporaryFolder place;
+  ProjectChoice choice(Request());
+  EXPECT_FALSE(choice.CreateRepository(repository.Folder()));
+  EXPECT_THAT(choice.Message(), HasSubstr("is not empty"));
+  ASSERT_TRUE(choice.CreateRepository(place / "new repository")) << choice.Message();
+  EXPECT_TRUE(choice.IsConnected());
+  EXPECT_EQ("", choice.Selected());
+  EXPECT_EQ("/", choice.Result().ProjectName);
+}
+
+TEST_F(Choice, ProposesWhatWasThereBefore) {
+  EXPECT_EQ("", ProjectChoice(Request()).ProposedRepository());
+  svnscc::RememberRepository("svn://host/one");
+  svnscc::RememberRepository("svn://host/two");
+  svnscc::RememberRepository("svn://host/one");
+  EXPECT_THAT(svnscc::RecentRepositories(), ElementsAre("svn://host/one", "svn://host/two"));
+  EXPECT_EQ("svn://host/one", ProjectChoice(Request()).ProposedRepository());
+  EXPECT_FALSE(ProjectChoice(Request()).ShouldConnectAtOnce());
+
+  auto again = Request();
+  again.Repository = repository.Url();
+  again.ProjectName = "trunk/lib";
+  ProjectChoice bound(again);
+  EXPECT_EQ(repository.Url(), bound.ProposedRepository());
+  ASSERT_TRUE(bound.ShouldConnectAtOnce());
+  ASSERT_TRUE(bound.Connect(bound.ProposedRepository()));
+  EXPECT_EQ("trunk/lib", bound.Selected());
+
+  TDeveloper ann("ann");  // a working copy knows where it belongs
+  ann.Open(repository.Url(), "trunk/app one");
+  auto here = Request();
+  here.LocalFolder = ann.Folder();
+  EXPECT_EQ(repository.Url() + "/trunk/app one", ProjectChoice(here).ProposedRepository());
+}

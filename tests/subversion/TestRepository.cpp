@@ -1,0 +1,108 @@
+#include "TestRepository.h"
+
+#include <svn_fs.h>
+#include <svn_props.h>
+#include <svn_repos.h>
+
+#include "subversion/Client.h"
+#include "subversion/Repository.h"
+
+using svnscc::Check;
+using svnscc::Pool;
+
+namespace {
+
+/// The file system, opened anew: what was written meanwhile is seen.
+struct Open {
+  explicit Open(const std::string& folder) {
+    svn_repos_t* repository = nullptr;
+    Check(svn_repos_open3(&repository, folder.c_str(), nullptr, pool, pool));
+    fs = svn_repos_fs(repository);
+    Check(svn_fs_youngest_rev(&youngest, fs, pool));
+    Check(svn_fs_revision_root(&root, fs, youngest, pool));
+  }
+  Pool pool;
+  svn_fs_t* fs = nullptr;
+  svn_fs_root_t* root = nullptr;
+  svn_revnum_t youngest = 0;
+};
+
+std::string RevisionProperty(const std::string& folder, svn_revnum_t revision, const char* name) {
+  const Open open(folder);
+  svn_string_t* value = nullptr;
+  Check(svn_fs_revision_prop2(&value, open.fs, revision, name, TRUE, open.pool, open.pool));
+  return value != nullptr ? value->data : "";
+}
+
+svn_lock_t* LockOf(const Open& open, const std::string& path) {
+  svn_lock_t* lock = nullptr;
+  Check(svn_fs_get_lock(&lock, open.fs, ("/" + path).c_str(), open.pool));
+  return lock;
+}
+
+}  // namespace
+
+TTestRepository::TTestRepository()
+    : configuration_("SUBVERSION_SCC_CONFIG_DIR", temporary_.MakeFolder("config").c_str()),
+      registry_("CORVANE_REGISTRY_DIR", temporary_.MakeFolder("registry").c_str()),
+      folder_(temporary_ / "repository"),
+      url_(svnscc::CreateRepository(folder_)) {}
+
+svn_revnum_t TTestRepository::Youngest() const { return Open(folder_).youngest; }
+
+std::string TTestRepository::Log(svn_revnum_t revision) const {
+  return RevisionProperty(folder_, revision, SVN_PROP_REVISION_LOG);
+}
+
+std::string TTestRepository::Author(svn_revnum_t revision) const {
+  return RevisionProperty(folder_, revision, SVN_PROP_REVISION_AUTHOR);
+}
+
+bool TTestRepository::Exists(const std::string& path) const {
+  const Open open(folder_);
+  svn_node_kind_t kind = svn_node_none;
+  Check(svn_fs_check_path(&kind, open.root, path.c_str(), open.pool));
+  return kind != svn_node_none;
+}
+
+std::string TTestRepository::Contents(const std::string& path) const {
+  const Open open(folder_);
+  svn_stream_t* stream = nullptr;
+  Check(svn_fs_file_contents(&stream, open.root, path.c_str(), open.pool));
+  svn_string_t* text = nullptr;
+  Check(svn_string_from_stream2(&text, stream, 0, open.pool));
+  return {text->data, text->len};
+}
+
+std::optional<std::string> TTestRepository::Property(const std::string& path, const char* name) const {
+  const Open open(folder_);
+  svn_string_t* value = nullptr;
+  Check(svn_fs_node_prop(&value, open.root, path.c_str(), name, open.pool));
+  return value != nullptr ? std::optional<std::string>(value->data) : std::nullopt;
+}
+
+std::optional<std::string> TTestRepository::LockOwner(const std::string& path) const {
+  const Open open(folder_);
+  const svn_lock_t* lock = LockOf(open, path);
+  return lock != nullptr ? std::optional<std::string>(lock->owner) : std::nullopt;
+}
+
+std::string TTestRepository::LockComment(const std::string& path) const {
+  const Open open(folder_);
+  const svn_lock_t* lock = LockOf(open, path);
+  return lock != nullptr && lock->comment != nullptr ? lock->comment : "";
+}
+
+void TTestRepository::BreakLock(const std::string& path) const {
+  const Open open(folder_);
+  const svn_lock_t* lock = LockOf(open, path);
+  svn_fs_access_t* access = nullptr;
+  Check(svn_fs_create_access(&access, "admin", open.pool));
+  Check(svn_fs_set_access(open.fs, access));
+  Check(svn_fs_unlock(open.fs, ("/" + path).c_str(), lock->token, /*break_lock*/ TRUE, open.pool));
+}
+
+void TTestRepository::WriteHook(const std::string& name, const std::string& script) const {
+  const std::string file = temporary_.Write("repository/hooks/" + name, "#!/bin/sh\n" + script);
+  std::filesystem::permissions(file, std::filesystem::perms::owner_all);
+}

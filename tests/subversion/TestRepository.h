@@ -1,0 +1,40 @@
+// A repository in a temporary folder, and what its own library says of it: nothing here goes through the provider.
+#pragma once
+
+#include <svn_types.h>
+
+#include <optional>
+#include <string>
+
+#include "support/Environment.h"
+#include "support/TemporaryFolder.h"
+
+class TTestRepository {
+ public:
+  TTestRepository();
+
+  const std::string& Folder() const { return folder_; }
+  const std::string& Url() const { return url_; }
+
+  svn_revnum_t Youngest() const;
+  std::string Log(svn_revnum_t revision) const;
+  std::string Author(svn_revnum_t revision) const;
+  bool Exists(const std::string& path) const;
+  /// Contents at the newest revision.
+  std::string Contents(const std::string& path) const;
+  std::optional<std::string> Property(const std::string& path, const char* name) const;
+  std::optional<std::string> LockOwner(const std::string& path) const;
+  std::string LockComment(const std::string& path) const;
+
+  /// Takes a lock away as an administrator does.
+  void BreakLock(const std::string& path) const;
+  /// An executable hook, run by the repository.
+  void WriteHook(const std::string& name, const std::string& script) const;
+
+ private:
+  TTemporaryFolder temporary_;
+  TEnvironmentVariable configuration_;  // nobody's own settings
+  TEnvironmentVariable registry_;
+  std::string folder_;
+  std::string url_;
+};
