@@ -3,6 +3,7 @@
 #include "commands/GetFileList.h"
 #include "expert/SccExpert.h"
 #include "host/Registry.h"
+#include "provider/SCMAddInOptions.h"
 #include "support/Environment.h"
 #include "support/ModalScript.h"
 #include "support/ScriptedForms.h"
@@ -15,7 +16,7 @@ using testing::ElementsAre;
 
 namespace {
 
-/// A list dialog of an expert in a scripted host, with the scripted provider installed.
+/// A list dialog of an expert in a scripted host.
 struct FileList : testing::Test {
   void Fill(std::size_t rows) {
     for (std::size_t i = 0; i < rows; ++i) model.AddFile("/p/unit" + std::to_string(i) + ".pas", "Current");
@@ -23,6 +24,17 @@ struct FileList : testing::Test {
   int Show(std::function<void(TGetFileListForm&)> user) {
     TGetFileListForm form(*expert, model);
     return ShowAndPlay(form, std::move(user));
+  }
+  void InstallProvider(const std::string& path) {
+    const auto write = [](const char* key, const char* name, const std::string& value) {
+      TRegistry store;
+      store.OpenKey(key);
+      store.WriteString(name, value);
+    };
+    write(kInstalledProvidersKey, "Scripted", "Software\\Scripted");
+    write("Software\\Scripted", kServerPath, path);
+    TSCMAddInEnvironmentOptions().SetSCCProvider("Scripted");
+    expert->ReadSettings();
   }
   static TFileListModel::TButtons Buttons(const TGetFileListForm& form) {
     return {form.btnOK->IsEnabled(), form.btnCheckAll->IsEnabled(), form.btnUncheckAll->IsEnabled()};
@@ -141,6 +153,32 @@ TEST_F(FileList, CannotBeMadeSmallerThanItsMinimum) {
   for (auto* control :
        {static_cast<wxWindow*>(form.btnUncheckAll), static_cast<wxWindow*>(form.FilesListView)})
     EXPECT_TRUE(client.Contains(control->GetRect()));
+}
+
+TEST_F(FileList, AdvancedAsksTheProjectThatIsOpenNow) {
+  ScriptedProviderLibrary provider;
+  InstallProvider(provider.Path());
+  Fill(1);
+  model.CommandKind = coCheckIn;
+  Show([](TGetFileListForm& form) {
+    EXPECT_FALSE(form.btnAdvanced->IsShown() || form.btnAdvanced->IsEnabled())
+        << "the provider has no options";
+    form.Close();
+  });
+  model.HasOptions = true;
+  Show([&](TGetFileListForm& form) {
+    Click(form.btnAdvanced);
+    EXPECT_EQ(provider->Count("SccGetCommandOptions"), 0) << "there is no provider";
+    ASSERT_TRUE(expert->ProviderCreate(0));
+    Click(form.btnAdvanced);
+    EXPECT_EQ(provider->Count("SccGetCommandOptions"), 0) << "there is no project";
+    expert->ProviderList()->Add("/p");
+    ASSERT_TRUE(expert->ProviderList()->SetCurrentProject("/p"));
+    Click(form.btnAdvanced);
+    form.Close();
+  });
+  EXPECT_EQ(provider->Last("SccGetCommandOptions").Command, coCheckIn);
+  EXPECT_NE(provider->Last("SccGetCommandOptions").Options, nullptr) << "the provider shows its dialog";
 }
 
 TEST_F(FileList, F1OpensTheHelpOfTheCommand) {
