@@ -70,8 +70,12 @@ std::string ProjectChoice::ProposedFolderName() const {
 
 void ProjectChoice::SetUser(const std::string& user) {
   request_.User = Trim(user);
-  if (client_ != nullptr) client_ = std::make_unique<Client>(request_.User);
   TellNext();
+}
+
+Client& ProjectChoice::Svn() {
+  if (client_->User() != request_.User) client_ = std::make_unique<Client>(request_.User);
+  return *client_;
 }
 
 bool ProjectChoice::Connect(const std::string& text) {
@@ -98,7 +102,7 @@ bool ProjectChoice::Connect(const std::string& text) {
 // The address may name a folder itself; otherwise the project that the client had.
 void ProjectChoice::PreselectProject(const std::string& path) {
   const std::string wanted = !path.empty() ? path : ToProjectPath(request_.ProjectName).value_or("");
-  if (KindOf(*client_, UrlOf(root_, wanted)) == svn_node_dir) selected_ = wanted;
+  if (KindOf(Svn(), UrlOf(root_, wanted)) == svn_node_dir) selected_ = wanted;
 }
 
 bool ProjectChoice::CreateRepository(const std::string& folder) {
@@ -136,7 +140,7 @@ std::vector<std::string> ProjectChoice::FoldersOf(const std::string& path) {
   std::vector<std::string> names;
   if (client_ == nullptr) return names;
   try {
-    if (!planned_.contains(path)) names = FoldersIn(*client_, UrlOf(root_, path));
+    if (!planned_.contains(path)) names = FoldersIn(Svn(), UrlOf(root_, path));
   } catch (const Failure& failure) {
     Refuse(failure.what());
   }
@@ -183,9 +187,7 @@ void ProjectChoice::TellNext() {
   const std::string problem = Problem();
   if (!problem.empty()) return Tell(problem, false);
   const std::string url = ReadableUrl(UrlOf(root_, *selected_));
-  Tell(planned_.contains(*selected_) ? Format(sWillCreate.Text, {url})
-                                     : Format(sWillUse.Text, {request_.LocalFolder, url}),
-       false);
+  Tell(planned_.contains(*selected_) ? Format(sWillCreate.Text, {url}) : Format(sWillUse.Text, {url}), false);
 }
 
 }  // namespace svnscc

@@ -32,6 +32,7 @@ class ProjectChoice {
   bool IsConnected() const { return client_ != nullptr; }
   bool MayCreate() const { return request_.MayCreate; }
   const std::string& Root() const { return root_; }
+  const std::string& LocalFolder() const { return request_.LocalFolder; }
   const std::string& User() const { return request_.User; }
   const std::optional<std::string>& Selected() const { return selected_; }
   bool CanAccept() const { return Problem().empty(); }
@@ -48,6 +49,8 @@ class ProjectChoice {
 
  private:
   std::string Problem() const;
+  /// The connection, for the user as it is named now.
+  Client& Svn();
   void Tell(const std::string& text, bool isError);
   void TellNext();
   bool Refuse(const std::string& text);

@@ -63,6 +63,13 @@ void ProjectDialog::CreateControls() {
 wxSizer* ProjectDialog::CreateRepositoryRows() {
   auto* grid = new wxFlexGridSizer(3, FromDIP(wxSize(6, 6)));
   grid->AddGrowableCol(1);
+  if (!choice_.LocalFolder().empty()) {
+    grid->Add(new wxStaticText(this, wxID_ANY, ToWx(sLocalFolderLabel)), wxSizerFlags().CenterVertical());
+    grid->Add(new wxStaticText(this, wxID_ANY, ToPlainWx(choice_.LocalFolder()), wxDefaultPosition,
+                               wxDefaultSize, wxST_ELLIPSIZE_MIDDLE),
+              wxSizerFlags().Expand().CenterVertical());
+    grid->AddSpacer(0);
+  }
   grid->Add(new wxStaticText(this, wxID_ANY, ToWx(sUserLabel)), wxSizerFlags().CenterVertical());
   user_ = new wxTextCtrl(this, wxID_ANY, ToWx(choice_.User()));
   user_->SetName("user");
@@ -178,8 +185,9 @@ void ProjectDialog::FillTree() {
 void ProjectDialog::FillFolder(const wxTreeItemId& item) {
   const wxBusyCursor busy;
   const std::string path = PathOf(tree_, item);
+  const auto present = ChildrenOf(item);
   for (const auto& name : choice_.FoldersOf(path))
-    if (!ChildNamed(item, name).IsOk()) AppendFolder(item, path.empty() ? name : path + "/" + name, name);
+    if (!present.contains(name)) AppendFolder(item, path.empty() ? name : path + "/" + name, name);
   if (tree_->GetChildrenCount(item, false) == 0) tree_->SetItemHasChildren(item, false);
   ShowState();
 }
@@ -191,12 +199,13 @@ wxTreeItemId ProjectDialog::AppendFolder(const wxTreeItemId& parent, const std::
   return item;
 }
 
-wxTreeItemId ProjectDialog::ChildNamed(const wxTreeItemId& parent, const std::string& name) {
+std::map<std::string, wxTreeItemId> ProjectDialog::ChildrenOf(const wxTreeItemId& parent) const {
+  std::map<std::string, wxTreeItemId> children;
   wxTreeItemIdValue cookie = nullptr;
   for (auto child = tree_->GetFirstChild(parent, cookie); child.IsOk();
        child = tree_->GetNextChild(parent, cookie))
-    if (tree_->GetItemText(child) == ToWx(name)) return child;
-  return {};
+    children[tree_->GetItemText(child).utf8_string()] = child;
+  return children;
 }
 
 void ProjectDialog::ShowPath(const std::string& path) {
@@ -204,9 +213,10 @@ void ProjectDialog::ShowPath(const std::string& path) {
   for (std::size_t start = 0; start < path.size();) {
     const auto slash = std::min(path.find('/', start), path.size());
     tree_->Expand(item);
-    const auto child = ChildNamed(item, path.substr(start, slash - start));
-    if (!child.IsOk()) break;
-    item = child;
+    const auto children = ChildrenOf(item);
+    const auto child = children.find(path.substr(start, slash - start));
+    if (child == children.end()) break;
+    item = child->second;
     start = slash + 1;
   }
   tree_->SelectItem(item);

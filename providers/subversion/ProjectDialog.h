@@ -4,6 +4,8 @@
 #include <wx/treectrl.h>
 #include <wx/wx.h>
 
+#include <map>
+
 #include "ProjectChoice.h"
 
 namespace svnscc {
@@ -27,7 +29,7 @@ class ProjectDialog : public wxDialog {
   /// Opens the tree down to `path` and selects it.
   void ShowPath(const std::string& path);
   wxTreeItemId AppendFolder(const wxTreeItemId& parent, const std::string& path, const std::string& name);
-  wxTreeItemId ChildNamed(const wxTreeItemId& parent, const std::string& name);
+  std::map<std::string, wxTreeItemId> ChildrenOf(const wxTreeItemId& parent) const;
   /// Brings message and buttons in line with the choice.
   void ShowState();
 

@@ -45,7 +45,6 @@ inline constexpr TResString sAlreadyControlled{"the file is under source control
 inline constexpr TResString sNotAFile{"it is not a file"};
 inline constexpr TResString sConflictMarks{"the file still has conflict marks: edit the marked places first"};
 inline constexpr TResString sStatusFailed{"The repository could not be asked: %s"};
-inline constexpr TResString sNotCommitted{"Nothing was checked in: %s"};
 
 // Opening a project
 inline constexpr TResString sNoProjectNamed{
@@ -70,6 +69,7 @@ inline constexpr TResString sNoWindows{"The repository cannot be chosen: this pr
 
 // Choosing a project
 inline constexpr TResString sDialogTitle{"Choose a Subversion Project"};
+inline constexpr TResString sLocalFolderLabel{"Local folder:"};
 inline constexpr TResString sUserLabel{"&User:"};
 inline constexpr TResString sRepositoryLabel{"&Repository:"};
 inline constexpr TResString sConnectButton{"&Connect"};
@@ -79,7 +79,7 @@ inline constexpr TResString sNewFolderButton{"New F&older..."};
 inline constexpr TResString sRepositoryHint{"Address of a repository, or an absolute folder name"};
 inline constexpr TResString sNotConnected{"Enter the address of a repository and choose Connect."};
 inline constexpr TResString sChooseFolder{"Choose the folder that holds the project."};
-inline constexpr TResString sWillUse{"The local folder %s will be bound to %s."};
+inline constexpr TResString sWillUse{"The project will be bound to %s."};
 inline constexpr TResString sWillCreate{"The folder %s will be created when the project is opened."};
 inline constexpr TResString sRepositoryMade{
     "An empty repository was created. Choose its root, or add a folder."};

@@ -1,0 +1,150 @@
+// The project dialog as a client gets it: through SccGetProjPath of the loaded library.
+#include <gmock/gmock.h>
+#include <wx/textdlg.h>
+#include <wx/treectrl.h>
+#include <wx/wx.h>
+
+#include <array>
+
+#include "Developer.h"
+#include "subversion/Repository.h"
+#include "support/ModalScript.h"
+
+namespace {
+
+/// What SccGetProjPath was given and gave back.
+struct TAnswer {
+  scc::Long Result;
+  std::string User, Project, Repository;
+  bool IsNew;
+};
+
+template <class TControl>
+TControl* Find(wxDialog& dialog, const char* name) {
+  auto* control = wxDynamicCast(wxWindow::FindWindowByName(name, &dialog), TControl);
+  if (control == nullptr) throw std::runtime_error(std::string("no control ") + name);
+  return control;
+}
+
+wxButton* Button(wxDialog& dialog, const char* label) {
+  return wxDynamicCast(wxWindow::FindWindowByLabel(label, &dialog), wxButton);
+}
+
+wxButton* Ok(wxDialog& dialog) { return wxDynamicCast(dialog.FindWindow(wxID_OK), wxButton); }
+
+void Connect(wxDialog& dialog, const std::string& url) {
+  Find<wxComboBox>(dialog, "repository")->SetValue(wxString::FromUTF8(url));
+  Click(Button(dialog, "&Connect"));
+}
+
+std::string Message(wxDialog& dialog) {
+  return Find<wxStaticText>(dialog, "message")->GetLabel().utf8_string();
+}
+
+/// Selects the folder that is reached by these names, opening what is above it.
+void Choose(wxDialog& dialog, const std::vector<std::string>& names) {
+  auto* tree = Find<wxTreeCtrl>(dialog, "folders");
+  wxTreeItemId item = tree->GetRootItem();
+  for (const auto& name : names) {
+    tree->Expand(item);
+    wxTreeItemIdValue cookie = nullptr;
+    auto child = tree->GetFirstChild(item, cookie);
+    while (child.IsOk() && tree->GetItemText(child) != wxString::FromUTF8(name))
+      child = tree->GetNextChild(item, cookie);
+    ASSERT_TRUE(child.IsOk()) << name;
+    item = child;
+  }
+  tree->SelectItem(item);
+}
+
+struct ProjectDialog : testing::Test {
+  ProjectDialog() {
+    svnscc::Client client("ann");
+    svnscc::MakeFolder(client, svnscc::UrlOf(repository.Url(), "trunk/Größe"), "");
+    svnscc::MakeFolder(client, svnscc::UrlOf(repository.Url(), "branches"), "");
+  }
+  TAnswer Ask(bool mayCreate, const std::string& project = "", const std::string& url = "") {
+    std::array<char, 33> user{"ann"};
+    std::array<char, 261> name{};
+    std::array<char, 261> local{};
+    std::array<char, 301> aux{};
+    project.copy(name.data(), name.size() - 1);
+    url.copy(aux.data(), aux.size() - 1);
+    ann.Folder().copy(local.data(), local.size() - 1);
+    scc::Bool isNew = mayCreate ? -1 : 0;
+    const scc::Long result = ann.Library()->SccGetProjPath(ann.Context(), nullptr, user.data(), name.data(),
+                                                           local.data(), aux.data(), 0, &isNew);
+    return {result, user.data(), name.data(), aux.data(), isNew != 0};
+  }
+  TTestRepository repository;
+  TDeveloper ann{"ann"};
+};
+
+}  // namespace
+
+TEST_F(ProjectDialog, ChoosesAFolderOfARepository) {
+  TModalScript script;
+  script.Expect<wxDialog>([&](wxDialog& dialog) {
+    EXPECT_FALSE(Ok(dialog)->IsEnabled());
+    EXPECT_EQ(Ok(dialog), dialog.GetDefaultItem());
+    Connect(dialog, "file:///nowhere");
+    EXPECT_THAT(Message(dialog), testing::HasSubstr("nowhere"));
+    EXPECT_FALSE(Ok(dialog)->IsEnabled());
+    Connect(dialog, repository.Folder());
+    Choose(dialog, {"trunk", "Größe"});
+    EXPECT_TRUE(Ok(dialog)->IsEnabled()) << Message(dialog);
+    EXPECT_FALSE(Button(dialog, "New F&older...")->IsShown());
+    Click(Ok(dialog));
+    dialog.SetReturnCode(wxID_OK);
+  });
+  const TAnswer answer = Ask(false);
+  EXPECT_EQ(scc::SCC_OK, answer.Result);
+  EXPECT_EQ("trunk/Größe", answer.Project);
+  EXPECT_EQ(repository.Url(), answer.Repository);
+  EXPECT_FALSE(answer.IsNew);
+  EXPECT_EQ(scc::SCC_OK, ann.Open(answer.Repository, answer.Project)) << ann.Said();
+}
+
+TEST_F(ProjectDialog, PlansANewFolderThatOpeningMakes) {
+  TModalScript script;
+  script.Expect<wxDialog>([&](wxDialog& dialog) {
+    Connect(dialog, repository.Url());
+    Choose(dialog, {"trunk"});
+    script.Expect<wxTextEntryDialog>([](wxTextEntryDialog& question) {
+      EXPECT_EQ("MyProject", question.GetValue());  // as the client named it
+      question.SetReturnCode(wxID_OK);
+    });
+    Click(Button(dialog, "New F&older..."));
+    Find<wxTextCtrl>(dialog, "user")->SetValue("bob");
+    EXPECT_TRUE(Ok(dialog)->IsEnabled()) << Message(dialog);
+    dialog.SetReturnCode(wxID_OK);
+  });
+  const TAnswer answer = Ask(true, "MyProject");
+  EXPECT_EQ(scc::SCC_OK, answer.Result);
+  EXPECT_EQ("trunk/MyProject", answer.Project);
+  EXPECT_EQ("bob", answer.User);
+  EXPECT_TRUE(answer.IsNew);
+  EXPECT_FALSE(repository.Exists("trunk/MyProject"));
+  EXPECT_EQ(scc::SCC_OK, ann.Open(answer.Repository, answer.Project));
+  EXPECT_TRUE(repository.Exists("trunk/MyProject"));
+}
+
+// Really shown: the modal loop runs, what was bound before is connected by itself, Cancel changes nothing.
+TEST_F(ProjectDialog, ShowsTheProjectThatWasBoundBefore) {
+  wxTheApp->CallAfter([&] {
+    auto* dialog = wxDynamicCast(wxGetActiveWindow(), wxDialog);
+    for (wxWindow* window : wxTopLevelWindows)
+      if (auto* found = wxDynamicCast(window, wxDialog)) dialog = found;
+    ASSERT_NE(nullptr, dialog);
+    wxTheApp->CallAfter([dialog, this] {
+      auto* tree = Find<wxTreeCtrl>(*dialog, "folders");
+      EXPECT_EQ(wxString::FromUTF8("Größe"), tree->GetItemText(tree->GetSelection()));
+      EXPECT_THAT(Message(*dialog), testing::HasSubstr(repository.Url() + "/trunk/Größe"));
+      EXPECT_TRUE(Ok(*dialog)->IsEnabled());
+      dialog->EndModal(wxID_CANCEL);
+    });
+  });
+  const TAnswer answer = Ask(true, "trunk/Größe", repository.Url());
+  EXPECT_EQ(scc::SCC_I_OPERATIONCANCELED, answer.Result);
+  EXPECT_EQ("trunk/Größe", answer.Project);
+}
