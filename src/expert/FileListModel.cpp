@@ -48,7 +48,8 @@ void TFileListModel::TickCurrent(const std::string& currentFile) {
 }
 
 TFileListModel::TButtons TFileListModel::CheckState() const {
-  return {.Ok = checked_ > 0, .CheckAll = checked_<rows_.size(), .UncheckAll = checked_> 0};
+  const bool some = checked_ > 0;
+  return {.Ok = some, .CheckAll = checked_ < rows_.size(), .UncheckAll = some};
 }
 
 TCommentEdit FitComment(TCommentEdit edit) {
