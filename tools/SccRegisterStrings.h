@@ -2,12 +2,12 @@
 
 #include "host/Text.h"
 
-inline constexpr TResString sUsage{
+constexpr TResString sUsage{
     "Usage: scc-register add NAME PATH [--default] [--force]\n"
     "       scc-register remove NAME\n"
     "       scc-register default NAME\n"
     "       scc-register list\n"};
-inline constexpr TResString sHelp{
+constexpr TResString sHelp{
     "Installs, removes and lists the source control providers of this machine.\n"
     "\n"
     "  add      installs the provider library PATH (absolute) under NAME, or changes the path of one that "
@@ -25,29 +25,29 @@ inline constexpr TResString sHelp{
     "with\n"
     "CORVANE_REGISTRY_DIR=/etc/corvane.\n"};
 
-inline constexpr TResString sMessage{"scc-register: %s\n"};
-inline constexpr TResString sUnknownOption{"There is no option %s."};
-inline constexpr TResString sUnknownCommand{"There is no command %s."};
-inline constexpr TResString sWrongArguments{"Wrong number of arguments for %s."};
-inline constexpr TResString sOptionNotForCommand{"%s has no option %s."};
+constexpr TResString sMessage{"scc-register: %s\n"};
+constexpr TResString sUnknownOption{"There is no option %s."};
+constexpr TResString sUnknownCommand{"There is no command %s."};
+constexpr TResString sWrongArguments{"Wrong number of arguments for %s."};
+constexpr TResString sOptionNotForCommand{"%s has no option %s."};
 
-inline constexpr TResString sBadName{
+constexpr TResString sBadName{
     "\"%s\" cannot be the name of a provider: it must not be empty, contain backslashes or control "
     "characters, or "
     "begin or end with a blank."};
-inline constexpr TResString sPathNotAbsolute{"%s is not an absolute path."};
-inline constexpr TResString sFileNotFound{"%s does not exist."};
-inline constexpr TResString sNotLoadable{"%s cannot be loaded: %s"};
-inline constexpr TResString sNotAProvider{"%s is not a source control provider: it does not export %s."};
-inline constexpr TResString sNotInstalled{"No provider is installed under the name \"%s\"."};
-inline constexpr TResString sInstalledForAll{
+constexpr TResString sPathNotAbsolute{"%s is not an absolute path."};
+constexpr TResString sFileNotFound{"%s does not exist."};
+constexpr TResString sNotLoadable{"%s cannot be loaded: %s"};
+constexpr TResString sNotAProvider{"%s is not a source control provider: it does not export %s."};
+constexpr TResString sNotInstalled{"No provider is installed under the name \"%s\"."};
+constexpr TResString sInstalledForAll{
     "\"%s\" is installed for all users of this machine; only an administrator can remove it."};
 
-inline constexpr TResString sNoProviders{"No source control providers are installed.\n"};
-inline constexpr TResString sProviderLine{"%s %s  %s\n"};
-inline constexpr TResString sMissingProviderLine{"%s %s  %s (not found)\n"};
-inline constexpr TResString sAdded{"Installed \"%s\".\n"};
-inline constexpr TResString sRemoved{"Removed \"%s\".\n"};
-inline constexpr TResString sIsDefault{"\"%s\" is the default provider.\n"};
-inline constexpr TResString sNoDefault{
+constexpr TResString sNoProviders{"No source control providers are installed.\n"};
+constexpr TResString sProviderLine{"%s %s  %s\n"};
+constexpr TResString sMissingProviderLine{"%s %s  %s (not found)\n"};
+constexpr TResString sAdded{"Installed \"%s\".\n"};
+constexpr TResString sRemoved{"Removed \"%s\".\n"};
+constexpr TResString sIsDefault{"\"%s\" is the default provider.\n"};
+constexpr TResString sNoDefault{
     "There is no default provider now; choose one with \"scc-register default NAME\".\n"};

@@ -2,8 +2,8 @@
 
 #include "host/Text.h"
 
-inline constexpr TResString sCommentsCaption{"Comments"};
-inline constexpr TResString sApplyToAll{"&Apply same comment to all"};
-inline constexpr TResString sCommentsOk{"&OK"};
-inline constexpr TResString sCommentsCancel{"&Cancel"};
-inline constexpr TResString sCommentLength{"%d of %d bytes"};
+constexpr TResString sCommentsCaption{"Comments"};
+constexpr TResString sApplyToAll{"&Apply same comment to all"};
+constexpr TResString sCommentsOk{"&OK"};
+constexpr TResString sCommentsCancel{"&Cancel"};
+constexpr TResString sCommentLength{"%d of %d bytes"};

@@ -3,8 +3,8 @@
 
 #include "host/Text.h"
 
-inline constexpr TResString sAddNotifierFailed{"AddNotifier failed"};
-inline constexpr TResString sFormModuleNil{"Form notifier, Module is nil"};
-inline constexpr TResString sFormEditorNil{"Form notifier, FormEditor is nil"};
-inline constexpr TResString sFormAddNotifierFailed{"Form AddNotifier failed"};
-inline constexpr TResString sFormActivatedNil{"FormActivated; FormEditor is nil"};
+constexpr TResString sAddNotifierFailed{"AddNotifier failed"};
+constexpr TResString sFormModuleNil{"Form notifier, Module is nil"};
+constexpr TResString sFormEditorNil{"Form notifier, FormEditor is nil"};
+constexpr TResString sFormAddNotifierFailed{"Form AddNotifier failed"};
+constexpr TResString sFormActivatedNil{"FormActivated; FormEditor is nil"};

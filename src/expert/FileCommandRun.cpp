@@ -19,18 +19,18 @@ struct TProbeText {
   TResString Text;
 };
 constexpr std::array kProbeTexts{
-    TProbeText{scc::SCC_OK, sStatusCurrent},
-    TProbeText{scc::SCC_I_FILEDIFFERS, sStatusModified},
-    TProbeText{scc::SCC_E_FILENOTCONTROLLED, sStatusNotControlled},
-    TProbeText{scc::SCC_E_NOTAUTHORIZED, sStatusUnauthorized},
-    TProbeText{scc::SCC_E_ACCESSFAILURE, sStatusAccessFailure},
-    TProbeText{scc::SCC_E_NONSPECIFICERROR, sStatusError},
-    TProbeText{scc::SCC_E_FILENOTEXIST, sStatusLocalFileMissing},
+    TProbeText{scc::SCC_OK, sProbeCurrent},
+    TProbeText{scc::SCC_I_FILEDIFFERS, sProbeModified},
+    TProbeText{scc::SCC_E_FILENOTCONTROLLED, sProbeNotControlled},
+    TProbeText{scc::SCC_E_NOTAUTHORIZED, sProbeUnauthorized},
+    TProbeText{scc::SCC_E_ACCESSFAILURE, sProbeAccessFailure},
+    TProbeText{scc::SCC_E_NONSPECIFICERROR, sProbeError},
+    TProbeText{scc::SCC_E_FILENOTEXIST, sProbeLocalFileMissing},
 };
 
 const TResString& ProbeText(scc::Long code) {
   const auto found = std::ranges::find(kProbeTexts, code, &TProbeText::Code);
-  return found == kProbeTexts.end() ? sStatusUnknown : found->Text;
+  return found == kProbeTexts.end() ? sProbeUnknown : found->Text;
 }
 
 }  // namespace

@@ -3,8 +3,8 @@
 
 #include "host/Text.h"
 
-inline constexpr TResString sMappingFileBinary{
+constexpr TResString sMappingFileBinary{
     "The project mapping file %s holds binary data. It was left as it is; restore it or delete it."};
-inline constexpr TResString sMappingFileDamaged{
+constexpr TResString sMappingFileDamaged{
     "The project mapping file %s is damaged in line %d (\"%s\"). It was left as it is; mend that line "
     "first."};

@@ -4,46 +4,46 @@
 #include "host/Text.h"
 
 // Identity.
-inline constexpr TResString sCompanyName{"Corvane Software"};
-inline constexpr TResString sWizardName{"Pull project wizard"};
-inline constexpr TResString sAuthorsName{"Corvane"};
-inline constexpr TResString sWizardDescription{"Pull a project from a source code control manager"};
+constexpr TResString sCompanyName{"Corvane Software"};
+constexpr TResString sWizardName{"Pull project wizard"};
+constexpr TResString sAuthorsName{"Corvane"};
+constexpr TResString sWizardDescription{"Pull a project from a source code control manager"};
 
 // Start-up.
-inline constexpr TResString sStartUp{"SccExpert; Quillon 7 Source Code Control Interface"};
-inline constexpr TResString sProviderLine{"Provider: %s"};
-inline constexpr TResString sUnableToGetIDEServices{"Unable to get IDE services"};
-inline constexpr TResString sExpertCreateError{"Expert create error: %s"};
-inline constexpr TResString sMessageWindowNil{"Message window is nil"};
+constexpr TResString sStartUp{"SccExpert; Quillon 7 Source Code Control Interface"};
+constexpr TResString sProviderLine{"Provider: %s"};
+constexpr TResString sUnableToGetIDEServices{"Unable to get IDE services"};
+constexpr TResString sExpertCreateError{"Expert create error: %s"};
+constexpr TResString sMessageWindowNil{"Message window is nil"};
 
 // Lines of routines that catch their own errors; %s is the error's message.
-inline constexpr TResString sReadSettingsError{"ReadSettings; %s"};  // ReadProjectSettings shares it
-inline constexpr TResString sReadDefaultProviderError{"ReadDefaultProvider; %s"};
-inline constexpr TResString sUpdateSCCIniFileError{"UpdateSCCIniFile; %s"};
-inline constexpr TResString sReadSCCIniFileError{"ReadSCCIniFile; %s"};
-inline constexpr TResString sProjectExistsError{"ProjectExists exception: %s"};
-inline constexpr TResString sFileNotificationError{"FileNotification; %s"};
-inline constexpr TResString sViewChangeError{"ViewChange: %s"};
+constexpr TResString sReadSettingsError{"ReadSettings; %s"};  // ReadProjectSettings shares it
+constexpr TResString sReadDefaultProviderError{"ReadDefaultProvider; %s"};
+constexpr TResString sUpdateSCCIniFileError{"UpdateSCCIniFile; %s"};
+constexpr TResString sReadSCCIniFileError{"ReadSCCIniFile; %s"};
+constexpr TResString sProjectExistsError{"ProjectExists exception: %s"};
+constexpr TResString sFileNotificationError{"FileNotification; %s"};
+constexpr TResString sViewChangeError{"ViewChange: %s"};
 
 // Projects.
-inline constexpr TResString sProviderNotAssigned{"AProvider not assigned"};
-inline constexpr TResString sNoMatchingPath{"Unable to set current project, no matching path"};
-inline constexpr TResString sNoProjectFile{"No project or package file found in current project"};
-inline constexpr TResString sOpenProject{"Open Project"};
-inline constexpr TResString sInvalidUserName{"Invalid username, unable to open provider project"};
-inline constexpr TResString sUnknownOpenError{"Unknown error, unable to open provider project"};
-inline constexpr TResString sCloseProject{"CloseProject"};
+constexpr TResString sProviderNotAssigned{"AProvider not assigned"};
+constexpr TResString sNoMatchingPath{"Unable to set current project, no matching path"};
+constexpr TResString sNoProjectFile{"No project or package file found in current project"};
+constexpr TResString sOpenProject{"Open Project"};
+constexpr TResString sInvalidUserName{"Invalid username, unable to open provider project"};
+constexpr TResString sUnknownOpenError{"Unknown error, unable to open provider project"};
+constexpr TResString sCloseProject{"CloseProject"};
 
 // Commands.
-inline constexpr TResString sGetFilesNoProvider{"Unable to get files, provider not assigned"};
-inline constexpr TResString sAddRemoveNoProvider{"Unable to populate list add/remove, provider not assigned"};
-inline constexpr TResString sSccPopulateList{"SccPopulateList"};
-inline constexpr TResString sShowDiff{"Show Diff"};
-inline constexpr TResString sShowHistory{"Show History"};
-inline constexpr TResString sProperties{"Properties"};
-inline constexpr TResString sRunScc{"Run SCC"};
-inline constexpr TResString sSaveAllFailed{
+constexpr TResString sGetFilesNoProvider{"Unable to get files, provider not assigned"};
+constexpr TResString sAddRemoveNoProvider{"Unable to populate list add/remove, provider not assigned"};
+constexpr TResString sSccPopulateList{"SccPopulateList"};
+constexpr TResString sShowDiff{"Show Diff"};
+constexpr TResString sShowHistory{"Show History"};
+constexpr TResString sProperties{"Properties"};
+constexpr TResString sRunScc{"Run SCC"};
+constexpr TResString sSaveAllFailed{
     "Project and project related files must be saved before mapping: Unkown save error."};
-inline constexpr TResString sFileNotSaved{"%s has unsaved changes and could not be saved"};
-inline constexpr TResString sCommandRunning{"Another source control command is still running"};
-inline constexpr TResString sNotBuiltYet{"This command is not available in this version."};
+constexpr TResString sFileNotSaved{"%s has unsaved changes and could not be saved"};
+constexpr TResString sCommandRunning{"Another source control command is still running"};
+constexpr TResString sNotBuiltYet{"This command is not available in this version."};

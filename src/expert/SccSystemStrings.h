@@ -3,6 +3,6 @@
 
 #include "host/Text.h"
 
-inline constexpr TResString sMessageWindowNAError{"Message window is not available"};
-inline constexpr TResString sIDESourceNAError{"Source interface is ot available"};
-inline constexpr TResString sEmptyString{""};
+constexpr TResString sMessageWindowNAError{"Message window is not available"};
+constexpr TResString sIDESourceNAError{"Source interface is ot available"};
+constexpr TResString sEmptyString{""};

@@ -7,7 +7,9 @@
 #include <string_view>
 #include <variant>
 
-/// A text shown to the user.  Each unit keeps its own in <Unit>Strings.h, so that a translation finds them there.
+/// A text shown to the user.  Each unit keeps its own in <Unit>Strings.h, so that a translation finds them there, as
+/// `constexpr TResString sName{"..."};`, never `inline`: host, package and provider live in one process, the dynamic
+/// linker makes one of equally named inline variables, and each would show the texts of another.
 struct TResString {
   const char* Text;
   operator std::string() const { return Text; }

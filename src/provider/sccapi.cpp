@@ -1,5 +1,8 @@
 #include "provider/sccapi.h"
 
+#include "provider/ProviderBorder.h"
+#include "provider/ProviderStrings.h"
+
 namespace scc {
 
 TModuleHandle hSosScc = nullptr;
@@ -28,8 +31,12 @@ void Bind(Function*& variable, const char* name) {
 }  // namespace
 
 bool LoadSCCDLL(const std::string& path) {
-  if (hSosScc == nullptr) hSosScc = LoadModule(path);
-  if (hSosScc == nullptr) return false;
+  std::string reason;
+  if (hSosScc == nullptr) hSosScc = LoadModule(path, &reason);
+  if (hSosScc == nullptr) {
+    WriteProviderLine(IProviderSink::Kind::Error, Format(sLibraryNotLoaded, {path, reason}));
+    return false;
+  }
 #define SCC_ENTRY(variable, name, result, arguments) Bind(variable, name);
 #include "provider/entry_points.def"
 #undef SCC_ENTRY

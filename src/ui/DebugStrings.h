@@ -2,6 +2,6 @@
 
 #include "host/Text.h"
 
-inline constexpr TResString sDebugCaption{"Debug"};
-inline constexpr TResString sDebugClose{"&Close"};
-inline constexpr TResString sDebugClear{"C&lear"};
+constexpr TResString sDebugCaption{"Debug"};
+constexpr TResString sDebugClose{"&Close"};
+constexpr TResString sDebugClear{"C&lear"};

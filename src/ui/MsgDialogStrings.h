@@ -2,5 +2,5 @@
 
 #include "host/Text.h"
 
-inline constexpr TResString sMsgDialogCaption{"Source Code Control"};
-inline constexpr TResString sMsgDialogOk{"&OK"};
+constexpr TResString sMsgDialogCaption{"Source Code Control"};
+constexpr TResString sMsgDialogOk{"&OK"};

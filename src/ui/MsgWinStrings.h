@@ -2,7 +2,7 @@
 
 #include "host/Text.h"
 
-inline constexpr TResString sMsgWinCaption{"Version Control Messages"};
-inline constexpr TResString sMessageColumn{"Message"};
-inline constexpr TResString sDateColumn{"Date"};
-inline constexpr TResString sClearMessages{"Clear Messages"};
+constexpr TResString sMsgWinCaption{"Version Control Messages"};
+constexpr TResString sMessageColumn{"Message"};
+constexpr TResString sDateColumn{"Date"};
+constexpr TResString sClearMessages{"Clear Messages"};

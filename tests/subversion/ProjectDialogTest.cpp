@@ -21,16 +21,16 @@ struct TAnswer {
 
 template <class TControl>
 TControl* Find(wxDialog& dialog, const char* name) {
-  auto* control = wxDynamicCast(wxWindow::FindWindowByName(name, &dialog), TControl);
+  auto* control = dynamic_cast<TControl*>(wxWindow::FindWindowByName(name, &dialog));
   if (control == nullptr) throw std::runtime_error(std::string("no control ") + name);
   return control;
 }
 
 wxButton* Button(wxDialog& dialog, const char* label) {
-  return wxDynamicCast(wxWindow::FindWindowByLabel(label, &dialog), wxButton);
+  return dynamic_cast<wxButton*>(wxWindow::FindWindowByLabel(label, &dialog));
 }
 
-wxButton* Ok(wxDialog& dialog) { return wxDynamicCast(dialog.FindWindow(wxID_OK), wxButton); }
+wxButton* Ok(wxDialog& dialog) { return dynamic_cast<wxButton*>(dialog.FindWindow(wxID_OK)); }
 
 void Connect(wxDialog& dialog, const std::string& url) {
   Find<wxComboBox>(dialog, "repository")->SetValue(wxString::FromUTF8(url));
@@ -132,9 +132,9 @@ TEST_F(ProjectDialog, PlansANewFolderThatOpeningMakes) {
 // Really shown: the modal loop runs, what was bound before is connected by itself, Cancel changes nothing.
 TEST_F(ProjectDialog, ShowsTheProjectThatWasBoundBefore) {
   wxTheApp->CallAfter([&] {
-    auto* dialog = wxDynamicCast(wxGetActiveWindow(), wxDialog);
+    wxDialog* dialog = nullptr;
     for (wxWindow* window : wxTopLevelWindows)
-      if (auto* found = wxDynamicCast(window, wxDialog)) dialog = found;
+      if (auto* found = dynamic_cast<wxDialog*>(window)) dialog = found;
     ASSERT_NE(nullptr, dialog);
     wxTheApp->CallAfter([dialog, this] {
       auto* tree = Find<wxTreeCtrl>(*dialog, "folders");
