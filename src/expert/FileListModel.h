@@ -63,13 +63,10 @@ class TFileListModel {
 /// One comment asked for.
 struct TCommentModel {
   std::string Caption;  ///< empty keeps the dialog's own
-  std::string Text;     ///< in: what is offered; out: what the user typed, at most 128 bytes
+  std::string Text;     ///< in: what is offered; out: what the user typed, at most kMaxComment bytes
   bool ShowApplyToAll = false;
   bool ApplyToAll = true;
 };
-
-/// The most bytes of a comment that a provider is handed.
-inline constexpr std::size_t kMaxComment = 128;
 
 /// A comment while it is edited: the text on both sides of the caret.
 struct TCommentEdit {

@@ -68,14 +68,14 @@ class TFileArray {
   std::vector<const char*> names_;
 };
 
-/// A comment as it may reach a provider: at most 128 bytes, cut at a character border.
+/// A comment as it may reach a provider: at most kMaxComment bytes, cut at a character border.
 class TComment {
  public:
   explicit TComment(std::string_view text) : text_(kSize) { text_.Set(text); }
   const char* Data() const { return text_.Str().c_str(); }
 
  private:
-  static constexpr std::size_t kSize = 129;
+  static constexpr std::size_t kSize = kMaxComment + 1;
   TBoundedText text_;
 };
 

@@ -69,6 +69,8 @@ void DecodeQueryStatus(const std::string& fileName, scc::Long status);
 
 /// The most files that one query or list population may carry.
 inline constexpr std::size_t kMaxFiles = 65536;
+/// The most bytes of a comment that a provider is handed.
+inline constexpr std::size_t kMaxComment = 128;
 /// Caller-owned status words, one per file; always kMaxFiles of them, and a guard behind.
 class TStatusArray {
  public:
@@ -161,7 +163,7 @@ class TSCCProviderProject {
   bool Query(const TStringList& files, TStatusArray& statuses, TStateMessages& messages);
 
   // File commands.  All throw EAbort for an empty list (a blank name for the history) before the provider is called;
-  // provider results never throw.  Comments are cut at 128 bytes.
+  // provider results never throw.  Comments are cut at kMaxComment bytes.
   bool CheckOutFile(const TStringList& files, const std::string& comment, TStateMessages& messages);
   bool AddFile(const TStringList& files, const std::string& comment, bool keepCheckedOut,
                TStateMessages& messages);
