@@ -1,5 +1,7 @@
 #include "workbench/windows/EditorPage.h"
 
+#include <algorithm>
+
 #include "workbench/windows/PascalStyle.h"
 
 TEditorPage::TEditorPage(wxWindow* parent, IEditorPageOwner& owner, TTextEditor& editor, int fontSize)
@@ -9,6 +11,11 @@ TEditorPage::TEditorPage(wxWindow* parent, IEditorPageOwner& owner, TTextEditor&
   SetName(wxString::FromUTF8(editor.FileName()));
   ApplyPascalStyle(*this, fontSize);
   editor_.AttachView(this);
+  Bind(wxEVT_SIZE, [this](wxSizeEvent& event) {
+    event.Skip();
+    // As wide as the page, so that only longer lines bring a scroll bar; less looks like scrolled past the end.
+    SetScrollWidth(std::max(1, GetClientSize().GetWidth() - GetMarginWidth(0) - GetMarginLeft()));
+  });
   Bind(wxEVT_STC_CHANGE, [this](wxStyledTextEvent&) {
     if (!replacing_) editor_.TextModified();
   });

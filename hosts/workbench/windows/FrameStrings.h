@@ -48,7 +48,7 @@ constexpr TResString sGoToLine{"&Go to Line...\tCtrl+G"};
 constexpr TResString sViewTree{"&Project Tree\tCtrl+Alt+F11"};
 constexpr TResString sViewMessages{"&Messages\tCtrl+Alt+M"};
 constexpr TResString sToggleForm{"Toggle &Form/Unit\tF12"};
-constexpr TResString sNextEditor{"&Next Editor\tCtrl+Tab"};
+constexpr TResString sNextEditor{"&Next Editor\tCtrl+F6"};
 
 constexpr TResString sAddToProject{"&Add to Project...\tShift+F11"};
 constexpr TResString sRemoveFromProject{"&Remove from Project"};

@@ -55,7 +55,7 @@ class TGalleryDialog final : public wxDialog {
     columns->Add(Label(this, sGalleryItems));
     categoryList_ = new wxListBox(this, wxID_ANY, wxDefaultPosition, FromDIP(wxSize(160, 240)));
     itemList_ = new wxListView(this, wxID_ANY, wxDefaultPosition, FromDIP(wxSize(380, 240)),
-                               wxLC_ICON | wxLC_SINGLE_SEL);
+                               wxLC_ICON | wxLC_ALIGN_TOP | wxLC_SINGLE_SEL);
     columns->Add(categoryList_, wxSizerFlags().Expand());
     columns->Add(itemList_, wxSizerFlags().Expand());
     comment_ = new wxStaticText(this, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, wxST_ELLIPSIZE_END);

@@ -13,20 +13,21 @@ namespace {
 wxWindow* CreateGeneralPage(wxWindow* parent, IOTAOptionsPageHost& host) {
   auto* page = new wxPanel(parent);
   auto* sizer = new wxBoxSizer(wxVERTICAL);
-  const auto add = [&](const TResString& label, wxControl* control, int proportion) {
-    sizer->Add(new wxStaticText(page, wxID_ANY, wxString::FromUTF8(label.str())),
+  // Labels are made before their controls: that is how access keys find them.
+  const auto addLabel = [&](const TResString& text) {
+    sizer->Add(new wxStaticText(page, wxID_ANY, wxString::FromUTF8(text.str())),
                wxSizerFlags().Border(wxLEFT | wxTOP | wxRIGHT));
-    sizer->Add(control, wxSizerFlags(proportion).Border().Expand());
   };
-  // Labels come before their controls in the tab order too: that is how access keys find them.
+  addLabel(sFontSizeLabel);
   auto* sizes = new wxChoice(page, wxID_ANY);
   for (int points = kMinFontSize; points <= kMaxFontSize; ++points)
     sizes->Append(wxString::Format("%d", points));
   sizes->SetStringSelection(wxString::Format("%d", kDefaultFontSize));
-  add(sFontSizeLabel, sizes, 0);
+  sizer->Add(sizes, wxSizerFlags().Border());
+  addLabel(sPackagesLabel);
   auto* packages =
       new wxTextCtrl(page, wxID_ANY, "", wxDefaultPosition, page->FromDIP(wxSize(360, 120)), wxTE_MULTILINE);
-  add(sPackagesLabel, packages, 1);
+  sizer->Add(packages, wxSizerFlags(1).Border().Expand());
   page->SetSizer(sizer);
   host.Bind(sizes, kFontSizeField);
   host.Bind(packages, kPackagesField);

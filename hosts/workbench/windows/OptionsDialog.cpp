@@ -3,10 +3,11 @@
 #include <wx/choice.h>
 #include <wx/combobox.h>
 #include <wx/dialog.h>
+#include <wx/listbox.h>
 #include <wx/msgdlg.h>
+#include <wx/simplebook.h>
 #include <wx/sizer.h>
 #include <wx/textctrl.h>
-#include <wx/treebook.h>
 
 #include "host/Text.h"
 #include "workbench/windows/FrameStrings.h"
@@ -69,17 +70,26 @@ class TOptionsDialog final : public wxDialog {
                  wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER),
         options_(options),
         guard_(guard),
-        book_(new wxTreebook(this, wxID_ANY)),
+        list_(new wxListBox(this, wxID_ANY, wxDefaultPosition, FromDIP(wxSize(190, -1)))),
+        book_(new wxSimplebook(this)),
         general_(options.PropertySet(kGeneralSet)) {
     AddPage(GeneralOptionsPage(), general_);
     options_.AddIns().ForEach([&](IOTAAddInOptions& addIn) { AddAddIn(addIn); });
     auto* sizer = new wxBoxSizer(wxVERTICAL);
-    sizer->Add(book_, wxSizerFlags(1).Border().Expand());
+    auto* columns = new wxBoxSizer(wxHORIZONTAL);
+    columns->Add(list_, wxSizerFlags().Border().Expand());
+    columns->Add(book_, wxSizerFlags(1).Border().Expand());
+    sizer->Add(columns, wxSizerFlags(1).Expand());
     sizer->Add(CreateSeparatedButtonSizer(wxOK | wxCANCEL), wxSizerFlags().Border().Expand());
     SetSizerAndFit(sizer);
     SetSize(wxSize(FromDIP(680), FromDIP(480)));
     SetMinSize(GetBestSize());
     CentreOnParent();
+    list_->SetSelection(0);
+    list_->Bind(wxEVT_LISTBOX,
+                [this](wxCommandEvent& event) { book_->SetSelection(static_cast<std::size_t>(event.GetInt())); });
+    book_->Bind(wxEVT_BOOKCTRL_PAGE_CHANGED,
+                [this](wxBookCtrlEvent& event) { list_->SetSelection(event.GetSelection()); });
     Bind(
         wxEVT_BUTTON,
         [this](wxCommandEvent& event) {
@@ -105,7 +115,9 @@ class TOptionsDialog final : public wxDialog {
   };
 
   void AddPage(const TOptionsPage& page, TBindings& bindings) {
-    book_->AddPage(page.Create(book_, bindings), wxString::FromUTF8(page.Caption));
+    const wxString caption = wxString::FromUTF8(page.Caption);
+    book_->AddPage(page.Create(book_, bindings), caption);
+    list_->Append(caption);
   }
 
   void AddAddIn(IOTAAddInOptions& addIn) {
@@ -135,7 +147,8 @@ class TOptionsDialog final : public wxDialog {
 
   TOptionsServices& options_;
   const TPackageGuard& guard_;
-  wxTreebook* book_;
+  wxListBox* list_;
+  wxSimplebook* book_;
   TBindings general_;
   std::vector<TAddIn> addIns_;
 };

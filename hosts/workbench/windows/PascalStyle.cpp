@@ -62,7 +62,6 @@ void ApplyPascalStyle(wxStyledTextCtrl& editor, int fontSize) {
   editor.SetUseTabs(false);
   editor.SetIndent(2);
   editor.SetScrollWidthTracking(true);
-  editor.SetScrollWidth(1);
   editor.SetCaretLineVisible(true);
   editor.SetCaretLineBackground(wxColour("#f3f7fb"));
   ApplyMargins(editor);
