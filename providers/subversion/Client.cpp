@@ -1,6 +1,7 @@
 #include "Client.h"
 
 #include <apr_general.h>
+#include <svn_cache_config.h>
 #include <svn_cmdline.h>
 #include <svn_config.h>
 #include <svn_dso.h>
@@ -24,6 +25,10 @@ void StartRuntime() {
   static const Pool forever;
   svn_utf_initialize2(TRUE, forever);
   svn_error_set_malfunction_handler(svn_error_raise_on_malfunction);
+  // By default 16 MB of the client's memory are taken for good, at the first local repository; commands are short.
+  svn_cache_config_t cache = *svn_cache_config_get();
+  cache.cache_size = 0;
+  svn_cache_config_set(&cache);
   Check(svn_fs_initialize(nullptr));
   Check(svn_ra_initialize(forever));
 }

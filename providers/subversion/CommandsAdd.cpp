@@ -1,9 +1,7 @@
 // Putting new files under control.
 #include <svn_dirent_uri.h>
+#include <svn_io.h>
 #include <svn_props.h>
-
-#include <filesystem>
-#include <optional>
 
 #include "Commands.h"
 #include "LocalStatus.h"
@@ -24,16 +22,24 @@ class SetAside {
  public:
   explicit SetAside(const std::string& path) : path_(path), aside_(path + ".scc-aside") {
     while (IsOnDisk(aside_)) aside_ += "~";
-    std::filesystem::rename(path_, aside_);
+    Move(path_, aside_);
   }
   SetAside(const SetAside&) = delete;
   SetAside& operator=(const SetAside&) = delete;
   ~SetAside() {
-    std::error_code ignored;  // both names are in one folder, which was just writable
-    std::filesystem::rename(aside_, path_, ignored);
+    try {
+      Move(aside_, path_);
+    } catch (
+        const Failure&) {  // both names are in one folder, which was just writable; nothing is lost either way
+    }
   }
 
  private:
+  static void Move(const std::string& from, const std::string& to) {
+    const Pool pool;
+    Check(svn_io_file_rename2(from.c_str(), to.c_str(), /*flush_to_disk*/ FALSE, pool));
+  }
+
   std::string path_;
   std::string aside_;
 };

@@ -39,6 +39,11 @@ bool CoverEverything(const StatusTable& statuses, std::vector<std::string> stale
   });
 }
 
+void TellUpToDate(Session& session, const std::vector<std::string>& paths) {
+  session.Out().Info(paths.size() == 1 ? Format(sUpToDate.Text, {session.Label(paths.front())})
+                                       : std::string(sAllUpToDate));
+}
+
 }  // namespace
 
 void Update(Session& session, const std::vector<std::string>& paths) {
@@ -60,9 +65,8 @@ scc::Long GetFiles(Session& session, Names names) {
       outcome.Fail(path, scc::SCC_E_FILENOTCONTROLLED, sNotControlled.Text);
     else if (status.NeedsGet)
       stale.push_back(path);
-    else
-      session.Out().Info(Format(sUpToDate.Text, {session.Label(path)}));
   }
+  if (stale.empty() && outcome.Result() == scc::SCC_OK) TellUpToDate(session, paths);
   if (stale.size() > 1 && CoverEverything(statuses, stale)) {
     UpdateTo(session, {session.CurrentProject().Folder}, svn_depth_infinity, Reach::Set);
   } else {

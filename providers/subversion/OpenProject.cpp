@@ -67,6 +67,21 @@ bool IsWorkingCopyOf(Client& client, const Project& project) {
                                                                             ReadableUrl(project.Url)}));
 }
 
+/// A command that was killed leaves the working copy locked, and no other command would ever open it again.
+void FinishInterrupted(Session& session, Client& client, const std::string& folder) {
+  const Pool pool;
+  svn_boolean_t lockedHere = FALSE;
+  svn_boolean_t locked = FALSE;
+  client.Run(svn_wc_locked2(&lockedHere, &locked, client.Context()->wc_ctx, folder.c_str(), pool));
+  if (locked == FALSE || lockedHere != FALSE) return;
+  const char* root = nullptr;
+  client.Run(svn_client_get_wc_root(&root, folder.c_str(), client.Context(), pool, pool));
+  client.Run(svn_client_cleanup2(root, /*break_locks*/ TRUE, /*fix_recorded_timestamps*/ TRUE,
+                                 /*clear_dav_cache*/ FALSE, /*vacuum_pristines*/ FALSE,
+                                 /*include_externals*/ FALSE, client.Context(), pool));
+  session.Out().Warning(Format(sFinishedInterrupted.Text, {folder}));
+}
+
 // Nothing is fetched here: files come with the first get, and those of the same name that are here stay.
 void MakeWorkingCopy(Client& client, const Project& project) {
   const Pool pool;
@@ -106,8 +121,10 @@ void OpenProject(Session& session, ProjectNames& names, IfUnknown ifUnknown) {
 
   const bool bound = IsWorkingCopyOf(*client, project);  // before anything is made in the repository
   RequireProject(session, *client, project.Url, names, ifUnknown);
-  if (!bound) MakeWorkingCopy(*client, project);
-  session.Out().Info(Format(sProjectOpened.Text, {ReadableUrl(project.Url)}));
+  if (bound)
+    FinishInterrupted(session, *client, project.Folder);
+  else
+    MakeWorkingCopy(*client, project);
   session.Open(std::move(client), std::move(project));
 }
 

@@ -73,8 +73,10 @@ class Outcome {
       return true;
     } catch (const Failure& failure) {
       Fail(path, failure);
-      return false;
+    } catch (const std::exception& exception) {
+      Fail(path, scc::SCC_E_NONSPECIFICERROR, exception.what());
     }
+    return false;
   }
   /// The names that lie inside the project, as paths; the others are failures.
   std::vector<std::string> PathsOf(Names names);

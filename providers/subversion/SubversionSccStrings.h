@@ -28,6 +28,7 @@ constexpr TResString sUpdateDeleted{"%s was deleted in the repository and remove
 constexpr TResString sLockGone{"The lock on %s was taken away in the repository."};
 constexpr TResString sResolved{"The conflict in %s is settled."};
 constexpr TResString sUpToDate{"%s is up to date."};
+constexpr TResString sAllUpToDate{"All files are up to date."};
 constexpr TResString sNotChanged{"%s was not changed: its lock is released."};
 
 // Failures; the first argument is the file
@@ -47,19 +48,16 @@ constexpr TResString sConflictMarks{"the file still has conflict marks: edit the
 constexpr TResString sStatusFailed{"The repository could not be asked: %s"};
 
 // Opening a project
-constexpr TResString sNoProjectNamed{
-    "No repository is named, and the folder is no working copy of one."};
-constexpr TResString sBadUrl{
-    "\"%s\" is neither the address of a repository nor an absolute folder name."};
+constexpr TResString sNoProjectNamed{"No repository is named, and the folder is no working copy of one."};
+constexpr TResString sBadUrl{"\"%s\" is neither the address of a repository nor an absolute folder name."};
 constexpr TResString sBadProjectPath{"\"%s\" is not a path in a repository."};
 constexpr TResString sNoLocalFolder{"The local folder \"%s\" is not an absolute path."};
 constexpr TResString sUnknownProject{"The repository %s has no folder \"%s\"."};
 constexpr TResString sProjectIsFile{"\"%s\" is a file in the repository %s, not a folder."};
-constexpr TResString sOtherWorkingCopy{
-    "%s is a working copy of %s already: it cannot be bound to %s."};
+constexpr TResString sOtherWorkingCopy{"%s is a working copy of %s already: it cannot be bound to %s."};
 constexpr TResString sCouldNotCreate{"The folder \"%s\" could not be created in the repository: %s"};
 constexpr TResString sProjectCreated{"Created %s."};
-constexpr TResString sProjectOpened{"Opened %s."};
+constexpr TResString sFinishedInterrupted{"A command that was interrupted in %s was cleaned up."};
 constexpr TResString sCreateProjectLog{"Create the project folder."};
 
 // Session
@@ -81,8 +79,7 @@ constexpr TResString sNotConnected{"Enter the address of a repository and choose
 constexpr TResString sChooseFolder{"Choose the folder that holds the project."};
 constexpr TResString sWillUse{"The project will be bound to %s."};
 constexpr TResString sWillCreate{"The folder %s will be created when the project is opened."};
-constexpr TResString sRepositoryMade{
-    "An empty repository was created. Choose its root, or add a folder."};
+constexpr TResString sRepositoryMade{"An empty repository was created. Choose its root, or add a folder."};
 constexpr TResString sNoUser{"Enter a user name."};
 constexpr TResString sTooLong{"The address is too long: %d bytes are the most."};
 constexpr TResString sUserTooLong{"The user name is too long: %d bytes are the most."};
