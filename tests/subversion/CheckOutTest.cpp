@@ -155,6 +155,7 @@ TEST_F(CheckOut, ALockThatWasTakenAwayEndsInACheckInConflict) {
   repository.BreakLock("project/unit1.pas");
   EXPECT_EQ(kControlled | kModified, ann.Status("unit1.pas"));
   ASSERT_EQ(scc::SCC_OK, bob.CheckOut({"unit1.pas"}));
+  EXPECT_EQ(kOutByOther | kModified, ann.Status("unit1.pas"));
   bob.Write("unit1.pas", "his\n");
   bob.CheckIn({"unit1.pas"});
 

@@ -5,7 +5,6 @@
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-using testing::Key;
 using testing::Pair;
 using testing::UnorderedElementsAre;
 
@@ -60,6 +59,16 @@ TEST_F(Populate, DropsWhatDoesNotFitAndTellsTheStatuses) {
               UnorderedElementsAre(Pair(ann.File("free.pas"), 0x21), Pair(ann.File("sub/far.pas"), 0x21)));
   EXPECT_THAT(ann.Populate(scc::SCC_COMMAND_ADD, names).Dropped,
               ElementsAre(ann.File("mine.pas"), ann.File("theirs.pas")));
+}
+
+// It can be put back, but not be changed.
+TEST_F(Populate, ADeletedFileFitsAddingOnly) {
+  EXPECT_EQ(scc::SCC_OK, ann.Get({"free.pas"}));
+  EXPECT_EQ(scc::SCC_OK, bob.Remove({"free.pas"}));
+  EXPECT_THAT(ann.Populate(scc::SCC_COMMAND_ADD, {"free.pas"}).Dropped, IsEmpty());
+  EXPECT_THAT(ann.Populate(scc::SCC_COMMAND_CHECKOUT, {"free.pas"}).Dropped,
+              ElementsAre(ann.File("free.pas")));
+  EXPECT_THAT(ann.Populate(scc::SCC_COMMAND_REMOVE, {"free.pas"}).Dropped, ElementsAre(ann.File("free.pas")));
 }
 
 TEST_F(Populate, FoldersAreReportedWithEverythingBelow) {
