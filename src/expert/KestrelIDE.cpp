@@ -5,7 +5,10 @@
 
 #include "commands/ExpertFormsWx.h"
 #include "expert/SccExpert.h"
+#include "host/Options.h"
 #include "host/Services.h"
+#include "provider/SCMAddInOptions.h"
+#include "provider/SCMOptions.h"
 #include "ui/Debug.h"
 
 namespace {
@@ -23,6 +26,8 @@ class TProductStartup {
     auto* wizards = IdeService<IOTAWizardServices>();
     if (wizards && wizard_index_)
       wizards->RemoveWizard(*wizard_index_);  // the host lets go, and the expert goes
+    auto* options = IdeService<IOTAOptionsServices>();
+    if (options && options_index_) options->RemoveOptions(*options_index_);
     auto* application = IdeService<IOTAApplication>();
     if (application && cookie_) application->MainFormCreated().Unsubscribe(*cookie_);
   }
@@ -34,11 +39,20 @@ class TProductStartup {
     aSccExpert = expert.get();
     if (auto* wizards = IdeService<IOTAWizardServices>())
       wizard_index_ = wizards->AddWizard(std::move(expert));
+    if (auto* options = IdeService<IOTAOptionsServices>())
+      options_index_ = options->AddOptions(std::make_shared<TSCMAddInEnvironmentOptions>(CreateOptionsPage));
+  }
+
+  static wxWindow* CreateOptionsPage(wxWindow* parent, IOTAOptionsPageHost& host) {
+    return new TSCMOptionsPage(parent, host, [](const std::string& provider, const std::string& userName) {
+      if (aSccExpert) aSccExpert->ChooseProvider(provider, userName);
+    });
   }
 
   TExpertForms forms_;
   std::optional<int> cookie_;
   std::optional<int> wizard_index_;
+  std::optional<int> options_index_;
 };
 
 std::unique_ptr<TProductStartup> startup;

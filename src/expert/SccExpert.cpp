@@ -80,7 +80,7 @@ TSccExpert::~TSccExpert() {
   menu_.reset();
   if (ide_notifier_index_)
     if (auto* services = IdeService<IOTAServices>()) services->RemoveNotifier(*ide_notifier_index_);
-  provider_list_.reset();
+  ReleaseProvider();
   provider_messages_.reset();
   aMsgWin.reset();
   form_editor_manager_.reset();

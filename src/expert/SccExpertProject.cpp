@@ -105,7 +105,12 @@ void TSccExpert::CloseFailedProject(const std::string& directory) {
   provider_list_->SetCurrentProject(directory);  // drops the reference to the one removed
 }
 
+// Providers may count on SccUninitialize coming with no project open.
 void TSccExpert::ReleaseProvider() {
+  if (provider_list_ && provider_list_->SetCurrentProject(ExtractFileDir(open_project_file_))) {
+    TStateMessages ignored;
+    provider_list_->CurrentProject()->CloseProject(ignored);
+  }
   provider_list_.reset();
   open_project_file_.clear();
 }

@@ -2,6 +2,7 @@
 #include "expert/MappingFile.h"
 #include "expert/SccExpert.h"
 #include "expert/SccExpertStrings.h"
+#include "host/Errors.h"
 #include "host/Paths.h"
 #include "host/Registry.h"
 #include "host/System.h"
@@ -77,10 +78,22 @@ void TSccExpert::ReadDefaultProvider(std::string& name) {
 }
 
 bool TSccExpert::ProviderCreate(TWindowHandle param) {
-  provider_list_.reset();
+  ReleaseProvider();
   if (provider_path_.empty()) return false;
   provider_list_ = std::make_unique<TSCCProviderList>(provider_path_, param, user_name_);
   return true;
+}
+
+void TSccExpert::ChooseProvider(const std::string& provider, const std::string& userName) {
+  ReleaseProvider();
+  provider_name_ = provider;
+  ReadProviderPath();
+  user_name_ = userName;
+  auto* services = IdeService<IOTAServices>();
+  if (!services) throw EAbort(sUnableToGetIDEServices);
+  provider_list_ =
+      std::make_unique<TSCCProviderList>(provider_path_, services->GetParentHandle(), user_name_);
+  project_not_mapped_ = true;  // the next opening of the menu starts over with it
 }
 
 bool TSccExpert::ReadSCCIniFile(const std::string& projectFile, std::string& projName, std::string& userName,

@@ -1,12 +1,15 @@
 #include "provider/SCMAddInOptions.h"
 
+#include <stdexcept>
+
 #include "host/Services.h"
+#include "provider/SCMOptionsStrings.h"
 
 namespace {
 
 constexpr const char* kOptionsKey = "SCMOptions";
-constexpr const char* kUserNameField = "UserName";
-constexpr const char* kProviderField = "SCCProvider";
+constexpr const char* kPageClass = "TSCMOptionsPage";
+constexpr int kPageHelpContext = 13200;
 
 bool changed = false;
 
@@ -29,10 +32,29 @@ void Set(const char* field, const std::string& value) {
 
 }  // namespace
 
-std::string TSCMAddInEnvironmentOptions::SCCProvider() const { return Get(kProviderField); }
-void TSCMAddInEnvironmentOptions::SetSCCProvider(const std::string& value) { Set(kProviderField, value); }
-std::string TSCMAddInEnvironmentOptions::UserName() const { return Get(kUserNameField); }
-void TSCMAddInEnvironmentOptions::SetUserName(const std::string& value) { Set(kUserNameField, value); }
+std::string TSCMAddInEnvironmentOptions::SCCProvider() const { return Get(kSCMProviderField); }
+void TSCMAddInEnvironmentOptions::SetSCCProvider(const std::string& value) { Set(kSCMProviderField, value); }
+std::string TSCMAddInEnvironmentOptions::UserName() const { return Get(kSCMUserNameField); }
+void TSCMAddInEnvironmentOptions::SetUserName(const std::string& value) { Set(kSCMUserNameField, value); }
+
+void TSCMAddInEnvironmentOptions::CustomizeDialog(IOTAEnvironmentDialog& dialog) {
+  dialog.RegisterPage({kPageClass, sSCMOptionsPage, kPageHelpContext, page_});
+}
+
+void TSCMAddInEnvironmentOptions::Modified() { changed = true; }
+
+void TSCMAddInEnvironmentOptions::SaveOptions() {
+  GetPropertySet().Save();
+  Modified();
+}
+
+void TSCMAddInEnvironmentOptions::LoadOptions() { GetPropertySet().Load(); }
+
+IOTAPropertySet& TSCMAddInEnvironmentOptions::GetPropertySet() {
+  auto* set = SetSCMOptions();
+  if (!set) throw std::runtime_error(sNoOptionsStore);
+  return *set;
+}
 
 void TSCMAddInEnvironmentOptions::SaveChanges() {
   auto* set = changed ? SetSCMOptions() : nullptr;

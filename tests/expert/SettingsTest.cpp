@@ -94,4 +94,22 @@ TEST_F(Settings, NoRegistryMeansNoProviderAndNoCrash) {
   EXPECT_THAT(forms_.LinesOf(mwtError), IsEmpty());
 }
 
+TEST_F(Settings, ChoosingAProviderEndsTheOldOneBeforeTheNewOneStarts) {
+  InstallProvider("Second", ScriptedProviderLibrary::Path(), false);
+  InstallProvider("Broken", At("unit1.pas"), false);
+  auto& expert = Open();
+  provider_->Calls.clear();
+  expert.ChooseProvider("Second", "carl");
+  EXPECT_THAT(provider_->Entries(), ElementsAre("SccCloseProject", "SccUninitialize", "SccInitialize",
+                                                "SccSetOption", "SccSetOption", "SccSetOption"));
+  EXPECT_EQ(expert.ProviderList()->UserName(), "carl");
+
+  EXPECT_EQ(AbortOf([&] { expert.ChooseProvider("Broken", "carl"); }), "SCC DLL Loadlibrary failed");
+  EXPECT_EQ(AbortOf([&] { expert.ChooseProvider("No providers available", ""); }),
+            "A provider path was not specified (SCC provider installed?)");
+  EXPECT_EQ(expert.ProviderList(), nullptr);
+  expert.Menu()->Map.OnClick();
+  EXPECT_TRUE(provider_->Open) << "the project's own mapping holds again";
+}
+
 }  // namespace

@@ -1,0 +1,84 @@
+#include "provider/SCMOptions.h"
+
+#include <wx/choice.h>
+#include <wx/msgdlg.h>
+#include <wx/sizer.h>
+#include <wx/stattext.h>
+#include <wx/textctrl.h>
+
+#include "host/Registry.h"
+#include "provider/SCMAddInOptions.h"
+#include "provider/SCMOptionsStrings.h"
+#include "provider/sccapiintf.h"
+
+namespace {
+
+constexpr int kPageWidth = 418;
+constexpr int kPageHeight = 332;
+constexpr int kMargin = 24;
+constexpr int kIndent = 8;  // of a control under its label
+constexpr int kProviderWidth = 345;
+constexpr int kUserNameWidth = 177;
+constexpr int kGap = 100;  // between the two groups
+
+wxString Text(const std::string& text) { return wxString::FromUTF8(text); }
+
+}  // namespace
+
+TSCMOptionsPage::TSCMOptionsPage(wxWindow* parent, IOTAOptionsPageHost& host, TChosen chosen)
+    : wxPanel(parent), chosen_(std::move(chosen)) {
+  Arrange();
+  PropertySheetCreate(host);
+  TPropComboBoxSCMProvider->Bind(wxEVT_CHOICE, &TSCMOptionsPage::TPropComboBoxSCMProviderChange, this);
+}
+
+// A label is created just before its control, so that its access key leads there.
+void TSCMOptionsPage::Arrange() {
+  auto* column = new wxBoxSizer(wxVERTICAL);
+  const auto indented = wxSizerFlags().Border(wxLEFT, FromDIP(kIndent));
+  column->Add(new wxStaticText(this, wxID_ANY, Text(sSCMProvidersLabel)));
+  TPropComboBoxSCMProvider =
+      new wxChoice(this, wxID_ANY, wxDefaultPosition, FromDIP(wxSize(kProviderWidth, -1)));
+  column->Add(TPropComboBoxSCMProvider, indented);
+  column->AddSpacer(FromDIP(kGap));
+  column->Add(new wxStaticText(this, wxID_ANY, Text(sSCMUserNameLabel)));
+  TPropEditSCMUserName =
+      new wxTextCtrl(this, wxID_ANY, "", wxDefaultPosition, FromDIP(wxSize(kUserNameWidth, -1)));
+  column->Add(TPropEditSCMUserName, indented);
+  auto* page = new wxBoxSizer(wxVERTICAL);
+  page->Add(column, wxSizerFlags(1).Expand().Border(wxALL, FromDIP(kMargin)));
+  SetSizer(page);
+  SetMinSize(FromDIP(wxSize(kPageWidth, kPageHeight)));
+}
+
+void TSCMOptionsPage::ReadProviders() {
+  TRegistry registry;
+  if (!registry.OpenKeyReadOnly(kInstalledProvidersKey)) return;
+  for (const auto& name : registry.GetValueNames()) TPropComboBoxSCMProvider->Append(Text(name));
+}
+
+void TSCMOptionsPage::PropertySheetCreate(IOTAOptionsPageHost& host) {
+  const auto setting = Text(host.GetValue(kSCMProviderField));
+  ReadProviders();
+  host.Bind(TPropEditSCMUserName, kSCMUserNameField);
+  const auto count = TPropComboBoxSCMProvider->GetCount();
+  if (count == 0) {
+    // Not bound to the field: the notice is no provider's name, and the user's choice may come back.
+    TPropComboBoxSCMProvider->SetSelection(TPropComboBoxSCMProvider->Append(Text(sNoProvidersAvailable)));
+    return;
+  }
+  TPropComboBoxSCMProvider->SetSelection(0);
+  host.Bind(TPropComboBoxSCMProvider, kSCMProviderField);
+  for (unsigned i = 0; i < count;
+       ++i)  // names that differ in case only are different, and the last equal one counts
+    if (TPropComboBoxSCMProvider->GetString(i) == setting)
+      TPropComboBoxSCMProvider->SetSelection(static_cast<int>(i));
+}
+
+void TSCMOptionsPage::TPropComboBoxSCMProviderChange(wxCommandEvent&) try {
+  chosen_(TPropComboBoxSCMProvider->GetStringSelection().utf8_string(),
+          TPropEditSCMUserName->GetValue().utf8_string());
+} catch (const std::exception& error) {
+  wxMessageBox(Text(Format(sProviderCreateError, {error.what()})), Text(sSCMOptionsPage), wxOK | wxICON_ERROR,
+               this);
+}

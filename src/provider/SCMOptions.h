@@ -1,0 +1,32 @@
+// The page "Source Control Options" of the host's options dialog: which provider, under which user name.
+#pragma once
+
+#include <wx/panel.h>
+
+#include <functional>
+#include <string>
+
+#include "host/Options.h"
+
+class wxChoice;
+class wxTextCtrl;
+
+class TSCMOptionsPage final : public wxPanel {
+ public:
+  /// What choosing another provider does: called with the entry's text and the user name, may throw.
+  using TChosen = std::function<void(const std::string& provider, const std::string& userName)>;
+
+  /// A child of `parent`, which owns it.
+  TSCMOptionsPage(wxWindow* parent, IOTAOptionsPageHost& host, TChosen chosen);
+
+  wxChoice* TPropComboBoxSCMProvider = nullptr;
+  wxTextCtrl* TPropEditSCMUserName = nullptr;
+
+ private:
+  void Arrange();
+  void ReadProviders();
+  void PropertySheetCreate(IOTAOptionsPageHost& host);
+  void TPropComboBoxSCMProviderChange(wxCommandEvent& event);
+
+  TChosen chosen_;
+};
