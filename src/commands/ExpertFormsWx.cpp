@@ -6,6 +6,7 @@
 
 #include "commands/Comments.h"
 #include "commands/GetFileList.h"
+#include "commands/Progress.h"
 #include "expert/SccSystem.h"
 #include "ui/MsgDialog.h"
 #include "ui/MsgDialogStrings.h"
@@ -36,3 +37,7 @@ int TExpertForms::ShowFileList(TSccExpert& expert, TFileListModel& model) {
 }
 
 int TExpertForms::ShowComments(TCommentModel& model) { return TCommentsForm(model).ShowModal(); }
+
+std::unique_ptr<IProgress> TExpertForms::StartProgress(const std::string& caption, std::size_t total) {
+  return std::make_unique<TProgress>(caption, total);
+}

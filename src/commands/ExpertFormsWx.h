@@ -10,4 +10,5 @@ class TExpertForms final : public IExpertForms {
   void ShowBox(const std::string& text, TMsgType kind) override;
   int ShowFileList(TSccExpert& expert, TFileListModel& model) override;
   int ShowComments(TCommentModel& model) override;
+  std::unique_ptr<IProgress> StartProgress(const std::string& caption, std::size_t total) override;
 };

@@ -10,6 +10,14 @@
 
 class TSccExpert;
 
+/// Says what long work is doing; the work ends with the object.
+class IProgress {
+ public:
+  virtual ~IProgress() = default;
+  /// `done` of the total is done and `what` (a file) comes next.  Called for every file: must be cheap.
+  virtual void Step(std::size_t done, const std::string& what) = 0;
+};
+
 /// All modal operations return when the user has closed the window.  User-interface thread only.
 class IExpertForms {
  public:
@@ -22,4 +30,7 @@ class IExpertForms {
   /// mrOk or mrCancel; the model holds the user's choice.
   virtual int ShowFileList(TSccExpert& expert, TFileListModel& model) = 0;
   virtual int ShowComments(TCommentModel& model) = 0;
+  /// Starts showing progress under that caption: nothing for the first half second, then a small window that takes
+  /// neither the focus nor any input.  Never nullptr.
+  virtual std::unique_ptr<IProgress> StartProgress(const std::string& caption, std::size_t total) = 0;
 };

@@ -97,7 +97,9 @@ void TFileCommandRun::SelectEligible() {
 
 void TFileCommandRun::FillList(TFileListModel& model) {
   auto& project = Project();
+  const auto progress = expert_.Forms().StartProgress(command_.List, selected_.size());
   for (const auto& file : selected_) {
+    progress->Step(model.Count(), file);
     TStateMessages messages;
     model.AddFile(file, ProbeText(project.ShowDiff(file, kQuickTimeDiff, messages)));
   }
@@ -119,7 +121,11 @@ void TFileCommandRun::AskComment(const std::string& caption, bool showApplyToAll
   TCommentModel model;
   model.Caption = caption;
   model.ShowApplyToAll = showApplyToAll;
-  if (expert_.Forms().ShowComments(model) != mrOk) {
+  model.Text = expert_.comments_.Pending(command_.Command);
+  model.Recent = expert_.comments_.Recent();
+  const int result = expert_.Forms().ShowComments(model);
+  expert_.comments_.Typed(command_.Command, model.Text);
+  if (result != mrOk) {
     Box(command_.Single, sUserCancelledDialog);
     throw EAbort(sUserCancelledDialog);
   }
@@ -143,24 +149,36 @@ bool TFileCommandRun::CallProvider(const TStringList& files) {
 void TFileCommandRun::CallTogether() {
   if (WantsComment()) AskComment({}, false);
   for (const auto& file : selected_) expert_.SaveIfModified(file);
-  bool done = false;
-  if (command_.CallKind == TFileCommand::Calls::Batch)
-    done = CallProvider(selected_);
-  else  // only the last call decides about the report; earlier failures have shown their messages
-    for (const auto& file : selected_) done = CallProvider({file});
+  const bool done = command_.CallKind == TFileCommand::Calls::Batch ? CallProvider(selected_) : CallOneByOne();
+  if (done) expert_.comments_.Used(command_.Command);
   if (done && command_.ClearReadOnly && !keep_checked_out_)
     for (const auto& file : selected_) SetFileAttributesOf(file, faArchive);
   Reload(done);
   if (done) ReportDone();
 }
 
+bool TFileCommandRun::CallOneByOne() {
+  const auto progress = expert_.Forms().StartProgress(command_.List, selected_.size());
+  bool last = false;
+  for (std::size_t i = 0; i < selected_.size(); ++i) {
+    progress->Step(i, selected_[i]);
+    last = CallProvider({selected_[i]});
+  }
+  return last;
+}
+
 void TFileCommandRun::CallCounting() {
+  const auto progress = expert_.Forms().StartProgress(command_.List, selected_.size());
+  std::size_t done = 0;
   std::size_t succeeded = 0;
   for (const auto& file : selected_) {
+    progress->Step(done++, file);
     expert_.SaveIfModified(file);
     if (WantsComment() && !apply_to_all_)
       AskComment(Format(sCommentsFor.Text, {ExtractFileName(file)}), true);
-    if (CallProvider({file})) ++succeeded;
+    if (!CallProvider({file})) continue;
+    ++succeeded;
+    expert_.comments_.Used(command_.Command);
   }
   Reload(succeeded == selected_.size());
   if (succeeded == selected_.size())

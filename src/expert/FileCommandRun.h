@@ -29,6 +29,8 @@ class TFileCommandRun {
   bool CallProvider(const TStringList& files);
   /// All commands but add: one comment, everything saved first, then the files in one call or one by one.
   void CallTogether();
+  /// The result of the last call decides; earlier failures have shown their messages.
+  bool CallOneByOne();
   /// Add: each file is saved, given its comment and added alone; the count of successes decides about the report.
   void CallCounting();
   void Reload(bool done);

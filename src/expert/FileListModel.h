@@ -63,7 +63,8 @@ class TFileListModel {
 /// One comment asked for.
 struct TCommentModel {
   std::string Caption;  ///< empty keeps the dialog's own
-  std::string Text;     ///< in: what is offered; out: what the user typed, at most kMaxComment bytes
+  std::string Text;     ///< in: what is offered; out: what the user typed, after Cancel too; at most kMaxComment bytes
+  std::vector<std::string> Recent;  ///< earlier comments at hand, the newest first
   bool ShowApplyToAll = false;
   bool ApplyToAll = true;
 };

@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "expert/CommentMemory.h"
 #include "expert/ExpertForms.h"
 #include "expert/FileIndex.h"
 #include "expert/FileListModel.h"
@@ -192,6 +193,7 @@ class TSccExpert final : public TNotifierObject, public IOTAWizard {
   std::unique_ptr<TSCCProviderList> provider_list_;
   std::string open_project_file_;  // whose provider project is open; empty when none is
   std::unique_ptr<TExpertMainMenuModule> menu_;
+  TCommentMemory comments_;
 
   struct TNotification {
     TOTAFileNotification Code;

@@ -133,6 +133,43 @@ TEST_F(FileCommand, CancelledCommentCallsNothing) {
   EXPECT_EQ(forms_.Boxes.back(), (TShownBox{"Check In File", "User cancelled dialog", metInfo}));
 }
 
+TEST_F(FileCommand, CommentOfACancelledOrFailedCommandIsOfferedAgain) {
+  auto& expert = Open();
+  provider_->DefaultStatus = kMine;
+  std::vector<std::string> offered;
+  std::vector<std::string> recent;
+  const auto run = [&](const std::string& type, int answer, Long result) {
+    provider_->Results["SccCheckin"] = result;
+    WillTick({"unit2.pas"});
+    forms_.OnComments.push_back([&, type, answer](TCommentModel& model) {
+      offered.push_back(model.Text);
+      recent = model.Recent;
+      model.Text = type;
+      return answer;
+    });
+    expert.RunCommand("%s", [&] { expert.CheckInFiles({}); });
+  };
+  run("typed with care", mrCancel, SCC_OK);
+  run("typed with more care", mrOk, SCC_E_ACCESSFAILURE);
+  run("typed with more care", mrOk, SCC_OK);
+  run("", mrCancel, SCC_OK);
+  EXPECT_THAT(offered, ElementsAre("", "typed with care", "typed with more care", ""));
+  EXPECT_THAT(recent, ElementsAre("typed with more care", "typed with care"));
+  for (int i = 0; i < 12; ++i) run("comment " + std::to_string(i), mrOk, SCC_OK);
+  run("", mrCancel, SCC_OK);
+  EXPECT_EQ(recent.size(), 10U);
+  EXPECT_EQ(recent.front(), "comment 11");
+}
+
+TEST_F(FileCommand, LongWorkReportsEveryFile) {
+  auto& expert = Open();
+  WillTick({"unit1.pas", "unit2.pas"});
+  WillComment("x");
+  provider_->StatusOf = [&](const std::string& file) { return Long{std::ranges::count(units_, file) > 0}; };
+  expert.CheckOutFiles({});
+  EXPECT_THAT(forms_.Progress, ElementsAre("Check Out File(s) 2/2", "Check Out File(s) 2/2"));
+}
+
 TEST_F(FileCommand, CheckInIsOneCallThenMakesFilesWritableAndReloads) {
   auto& expert = Open();
   host_.AddUnit(units_[1]);

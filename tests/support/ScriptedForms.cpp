@@ -15,6 +15,25 @@ class TScriptedWindow final : public IMessageWindow {
   TScriptedForms& forms_;
 };
 
+class TScriptedProgress final : public IProgress {
+ public:
+  TScriptedProgress(TScriptedForms& forms, std::string caption, std::size_t total)
+      : forms_(forms), caption_(std::move(caption)), total_(total) {}
+  TScriptedProgress(const TScriptedProgress&) = delete;
+  TScriptedProgress& operator=(const TScriptedProgress&) = delete;
+  ~TScriptedProgress() override {
+    if (forms_.Recording)
+      forms_.Progress.push_back(caption_ + " " + std::to_string(steps_) + "/" + std::to_string(total_));
+  }
+  void Step(std::size_t, const std::string&) override { ++steps_; }
+
+ private:
+  TScriptedForms& forms_;
+  std::string caption_;
+  std::size_t total_;
+  std::size_t steps_ = 0;
+};
+
 int Next(auto& script, auto& model, const std::string& what, std::vector<std::string>& unexpected) {
   if (script.empty()) {
     unexpected.push_back(what);
@@ -49,4 +68,8 @@ int TScriptedForms::ShowFileList(TSccExpert&, TFileListModel& model) {
 
 int TScriptedForms::ShowComments(TCommentModel& model) {
   return Next(OnComments, model, model.Caption.empty() ? "Comments" : model.Caption, Unexpected);
+}
+
+std::unique_ptr<IProgress> TScriptedForms::StartProgress(const std::string& caption, std::size_t total) {
+  return std::make_unique<TScriptedProgress>(*this, caption, total);
 }

@@ -41,4 +41,8 @@ class TScriptedForms final : public IExpertForms {
   void ShowBox(const std::string& text, TMsgType) override { PlainBoxes.push_back(text); }
   int ShowFileList(TSccExpert& expert, TFileListModel& model) override;
   int ShowComments(TCommentModel& model) override;
+  std::unique_ptr<IProgress> StartProgress(const std::string& caption, std::size_t total) override;
+
+  /// Captions of the progress shown, each with how many of how many files were reported.
+  std::vector<std::string> Progress;
 };

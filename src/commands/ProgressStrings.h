@@ -1,0 +1,6 @@
+// Texts of the progress window.
+#pragma once
+
+#include "host/Text.h"
+
+constexpr TResString sFileOf{"File %d of %d"};
