@@ -45,6 +45,19 @@ struct TMenuItem {
   }
 };
 
+/// Commands for one file, offered wherever the host shows a file: its project tree, its editor tabs.
+struct TFileMenu {
+  struct TItem {
+    std::string Caption;  ///< "-" is a separator
+    int ImageIndex = -1;  ///< in the host's image list; -1 for none
+    std::function<void(const std::string& fileName)> OnExecute;  ///< must not let exceptions out
+  };
+  std::string Caption;  ///< of the submenu
+  std::vector<TItem> Items;
+  /// Whether the items can be used for that file now; asked each time the menu is about to show.  Must be quick.
+  std::function<bool(const std::string& fileName)> IsEnabled;
+};
+
 /// The host's main menu, its action list and the action list's images.
 class IOTAMenuServices : public virtual IInterface {
  public:
@@ -52,6 +65,9 @@ class IOTAMenuServices : public virtual IInterface {
   /// Shows `top` in the main menu, before the host's last menu.  Borrowed until RemoveMenu.
   virtual void InsertMenu(TMenuItem& top) = 0;
   virtual void RemoveMenu(TMenuItem& top) = 0;
+  /// Shows `menu` in the context menus of files.  Borrowed until RemoveFileMenu.
+  virtual void InsertFileMenu(TFileMenu& menu) = 0;
+  virtual void RemoveFileMenu(TFileMenu& menu) = 0;
   /// Puts the action into the host's action list (its shortcuts and toolbars).  Borrowed until DetachAction.
   virtual void AttachAction(TAction& action) = 0;
   virtual void DetachAction(TAction& action) = 0;

@@ -108,6 +108,7 @@ class TScriptedHost final : public IOTAServices,
   std::string StartupDirectory = "/startup";
   TScriptedPropertySet Options;
   std::vector<TMenuItem*> Menus;
+  std::vector<TFileMenu*> FileMenus;
   std::vector<TAction*> Actions;
   std::map<int, std::shared_ptr<IOTAIDENotifier>> Notifiers;
   std::map<int, std::shared_ptr<IOTAWizard>> Wizards;
@@ -131,6 +132,8 @@ class TScriptedHost final : public IOTAServices,
   std::string GetFileName() override { return TopBuffer; }
   void InsertMenu(TMenuItem& top) override { Menus.push_back(&top); }
   void RemoveMenu(TMenuItem& top) override { std::erase(Menus, &top); }
+  void InsertFileMenu(TFileMenu& menu) override { FileMenus.push_back(&menu); }
+  void RemoveFileMenu(TFileMenu& menu) override { std::erase(FileMenus, &menu); }
   void AttachAction(TAction& action) override { Actions.push_back(&action); }
   void DetachAction(TAction& action) override { std::erase(Actions, &action); }
   int AddImage(const std::string&) override { return 100 + images_++; }

@@ -20,6 +20,10 @@ class TMenuBridge final : public IOTAMenuServices {
 
   void InsertMenu(TMenuItem& top) override;
   void RemoveMenu(TMenuItem& top) override;
+  void InsertFileMenu(TFileMenu& menu) override { fileMenus_.push_back(&menu); }
+  void RemoveFileMenu(TFileMenu& menu) override { std::erase(fileMenus_, &menu); }
+  /// The packages' commands for one file, in the order they came.
+  const std::vector<TFileMenu*>& FileMenus() const { return fileMenus_; }
   void AttachAction(TAction& action) override;
   void DetachAction(TAction& action) override;
   int AddImage(const std::string& svg) override;
@@ -41,6 +45,7 @@ class TMenuBridge final : public IOTAMenuServices {
   wxMenuBar& bar_;
   const TPackageGuard& guard_;
   std::vector<std::unique_ptr<TTopMenu>> tops_;
+  std::vector<TFileMenu*> fileMenus_;
   std::vector<TAction*> actions_;
   std::vector<wxBitmapBundle> images_;
 };
