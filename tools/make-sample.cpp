@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 #include "Repository.h"
 #include "host/Paths.h"
@@ -21,12 +22,13 @@ namespace fs = std::filesystem;
 constexpr const char* kProviderName = "Subversion";
 constexpr const char* kProjectName = "/trunk/Flight";
 constexpr const char* kUsage =
-    R"(Usage: make-sample FOLDER PROJECT PROVIDER
+    R"(Usage: make-sample FOLDER PROJECT PROVIDER [USER [OTHER...]]
 
 Makes, in FOLDER (which must not exist yet):
-  repository/   a Subversion repository
-  work/         a copy of the folder PROJECT, mapped to it, its files under control
-  registry/     a registry (CORVANE_REGISTRY_DIR) with the library PROVIDER installed
+  repository/      a Subversion repository
+  work/            a copy of the folder PROJECT, mapped to it for USER (default: you), its files under control
+  work of OTHER/   what another user gets from the repository, mapped
+  registry/        a registry (CORVANE_REGISTRY_DIR) with the library PROVIDER installed
 )";
 
 void RegisterProvider(const std::string& library) {
@@ -51,32 +53,55 @@ void Check(bool done, const TStateMessages& messages) {
   if (!done) throw std::runtime_error(messages[1] + messages[2]);
 }
 
-/// Puts everything in `work` under control and writes the mapping file that binds the project.
-void PlaceProject(const std::string& library, const std::string& work, const std::string& url) {
-  TProviderLines lines;
-  auto* before = SetProviderSink(&lines);
-  TSCCProviderList provider(library, 0, GetUserNameText(32));
-  provider.Add(work);
-  auto& project = *provider.GetItem(0);
-  project.set_ProjName(kProjectName);
-  project.set_ProjPath(url);
-  TStateMessages messages;
-  Check(project.OpenProject(messages) == scc::SCC_OK, messages);
-  TStringList files;
-  std::string mapped;
-  for (const auto& entry : fs::directory_iterator(work)) {
-    if (!entry.is_regular_file()) continue;
-    files.push_back(entry.path().string());
-    if (entry.path().extension() == ".qvxproj") mapped = ChangeFileExt(files.back(), ".cdp");
+/// One user's view of the repository through the provider.
+class TUser {
+ public:
+  TUser(const std::string& library, const std::string& work, const std::string& url, const std::string& user)
+      : provider_(library, 0, user), work_(work), url_(url) {
+    provider_.Add(work);
+    project_ = provider_.GetItem(0);
+    project_->set_ProjName(kProjectName);
+    project_->set_ProjPath(url);
+    TStateMessages messages;
+    Check(project_->OpenProject(messages) == scc::SCC_OK, messages);
   }
-  Check(project.AddFile(files, "The sample project", false, messages), messages);
-  WriteFileAtomically(mapped, Format("[%s]\nProjName=%s\nAuxProjPath=%s\nUserName=%s\n",
-                                     {kProviderName, kProjectName, url, project.get_UserName()}));
-  project.CloseProject(messages);
-  SetProviderSink(before);
-}
+  TUser(const TUser&) = delete;
+  TUser& operator=(const TUser&) = delete;
+  ~TUser() {
+    TStateMessages ignored;
+    project_->CloseProject(ignored);
+  }
 
-void Make(const fs::path& folder, const fs::path& projectFolder, const std::string& library) {
+  void AddEverything() {
+    TStringList files;
+    for (const auto& entry : fs::directory_iterator(work_))
+      if (entry.is_regular_file()) files.push_back(entry.path().string());
+    TStateMessages messages;
+    Check(project_->AddFile(files, "The sample project", false, messages), messages);
+  }
+  void GetEverything() {
+    TStateMessages messages;
+    Check(project_->GetFilesAndDirs({work_}, messages) == scc::SCC_OK, messages);
+  }
+  /// Writes the mapping file beside the project file.
+  void Map() {
+    for (const auto& entry : fs::directory_iterator(work_)) {
+      if (entry.path().extension() != ".qvxproj") continue;
+      WriteFileAtomically(ChangeFileExt(entry.path().string(), ".cdp"),
+                          Format("[%s]\nProjName=%s\nAuxProjPath=%s\nUserName=%s\n",
+                                 {kProviderName, kProjectName, url_, project_->get_UserName()}));
+    }
+  }
+
+ private:
+  TSCCProviderList provider_;
+  TSCCProviderProject* project_;
+  std::string work_;
+  std::string url_;
+};
+
+void Make(const fs::path& folder, const fs::path& projectFolder, const std::string& library,
+          const std::vector<std::string>& users) {
   if (fs::exists(folder)) throw std::runtime_error("The folder " + folder.string() + " exists already.");
   const auto work = folder / "work";
   const auto registry = folder / "registry";
@@ -85,20 +110,34 @@ void Make(const fs::path& folder, const fs::path& projectFolder, const std::stri
   fs::copy(projectFolder, work, fs::copy_options::recursive);
   RegisterProvider(library);
   const auto url = svnscc::CreateRepository((folder / "repository").string());
-  PlaceProject(library, work.string(), url);
+
+  TProviderLines lines;
+  auto* before = SetProviderSink(&lines);
+  for (std::size_t i = 0; i < users.size(); ++i) {
+    const auto own = i == 0 ? work : folder / ("work of " + users[i]);
+    fs::create_directories(own);
+    TUser user(library, own.string(), url, users[i]);
+    if (i == 0)
+      user.AddEverything();
+    else
+      user.GetEverything();
+    user.Map();
+  }
+  SetProviderSink(before);
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (argc != 4) {
+  if (argc < 4) {
     const bool asked = argc == 2 && std::string(argv[1]) == "--help";
     std::fputs(kUsage, asked ? stdout : stderr);
     return asked ? 0 : 2;
   }
-  const fs::path folder = fs::absolute(argv[1]);
+  std::vector<std::string> users(argv + 4, argv + argc);
+  if (users.empty()) users.push_back(GetUserNameText(32));
   try {
-    Make(folder, fs::absolute(argv[2]), fs::absolute(argv[3]).string());
+    Make(fs::absolute(argv[1]), fs::absolute(argv[2]), fs::absolute(argv[3]).string(), users);
   } catch (const std::exception& error) {
     std::fprintf(stderr, "make-sample: %s\n", error.what());
     return 1;
