@@ -267,9 +267,10 @@ std::string TypeText(wxWindow& window, const wxString& label, const wxString& te
   if (!control) return Missing(window, sKindText, label);
   control->SetFocus();
   auto& entry = dynamic_cast<wxTextEntry&>(*control);
-  // Typing over a selection keeps to the box's length limit; setting the value would not.
+  // Character by character over a selection: so the box keeps to its length limit, as when a user types.
   entry.SelectAll();
-  entry.WriteText(text);
+  if (text.empty()) entry.RemoveSelection();
+  for (const wxUniChar character : text) entry.WriteText(wxString(character));
   return {};
 }
 

@@ -98,6 +98,8 @@ TMacroStep MakeStep(std::vector<std::string> words) {
   if (number && (words[0].empty() || words[0].size() > 6 ||
                  words[0].find_first_not_of("0123456789") != std::string::npos))
     throw std::runtime_error(Format(sMacroNumber, {words[0]}));
+  if (row->Verb == TMacroVerb::SetReadOnly && words[1] != "yes" && words[1] != "no")
+    throw std::runtime_error(Format(sMacroYesNo, {words[1]}));
   return {row->Verb, std::move(words), 0, {}};
 }
 

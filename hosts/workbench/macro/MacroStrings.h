@@ -9,11 +9,12 @@ constexpr TResString sMacroArguments{"\"%s\" takes %d arguments, not %d"};
 constexpr TResString sMacroOpenQuote{"the closing quote is missing"};
 constexpr TResString sMacroNumber{"\"%s\" is not a number of milliseconds"};
 
+constexpr TResString sMacroYesNo{"\"%s\" is neither yes nor no"};
+
 constexpr TResString sStepFailed{"FAILED line %d: %s: %s"};
 constexpr TResString sStepDone{"line %d: %s"};
 constexpr TResString sMacroPassed{"macro passed: %d steps"};
 constexpr TResString sOpenWindows{"Open windows:"};
-constexpr TResString sNotWithin{"%s (waited %d ms)"};
 
 constexpr TResString sNoWindow{"no window titled \"%s\" is open"};
 constexpr TResString sDialogOpen{"the dialog \"%s\" is open"};

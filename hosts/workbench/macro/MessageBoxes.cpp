@@ -3,6 +3,16 @@
 #include <wx/generic/msgdlgg.h>
 #include <wx/msgdlg.h>
 
+namespace {
+
+/// Custom labels come back with the access-key marks of the system's own boxes.
+wxString OwnMnemonics(wxString label) {
+  if (!label.Contains("&")) label.Replace("_", "&");
+  return label;
+}
+
+}  // namespace
+
 int TMessageBoxes::Enter(wxDialog* dialog) {
   const auto* box = dynamic_cast<wxMessageDialog*>(dialog);
   if (!box) return wxID_NONE;
@@ -12,9 +22,9 @@ int TMessageBoxes::Enter(wxDialog* dialog) {
   if (box->HasCustomLabels()) {
     const bool yesNo = box->GetMessageDialogStyle() & wxYES_NO;
     if (yesNo)
-      shown.SetYesNoLabels(box->GetYesLabel(), box->GetNoLabel());
+      shown.SetYesNoLabels(OwnMnemonics(box->GetYesLabel()), OwnMnemonics(box->GetNoLabel()));
     else
-      shown.SetOKLabel(box->GetOKLabel());
+      shown.SetOKLabel(OwnMnemonics(box->GetOKLabel()));
   }
   return shown.ShowModal();
 }

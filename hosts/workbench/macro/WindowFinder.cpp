@@ -5,6 +5,7 @@
 #include <wx/listbox.h>
 #include <wx/listctrl.h>
 #include <wx/stattext.h>
+#include <wx/statusbr.h>
 #include <wx/stc/stc.h>
 #include <wx/textctrl.h>
 #include <wx/treectrl.h>
@@ -78,9 +79,16 @@ void AddTreeText(const wxTreeCtrl& tree, const wxTreeItemId& item, wxString& tex
     AddTreeText(tree, child, text);
 }
 
+wxString StatusText(const wxStatusBar& bar) {
+  wxString text;
+  for (int field = 0; field < bar.GetFieldsCount(); ++field) text += bar.GetStatusText(field) + "\n";
+  return text;
+}
+
 }  // namespace
 
 wxString TextOf(wxWindow& control) {
+  if (auto* bar = dynamic_cast<wxStatusBar*>(&control)) return StatusText(*bar);
   if (auto* list = dynamic_cast<wxListCtrl*>(&control)) return ListText(*list);
   if (auto* grid = dynamic_cast<wxGrid*>(&control)) return GridText(*grid);
   if (auto* tree = dynamic_cast<wxTreeCtrl*>(&control)) {

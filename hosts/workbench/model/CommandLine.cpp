@@ -55,6 +55,8 @@ TCommandLine TCommandLine::Parse(const std::vector<std::string>& arguments) {
       if (i + 1 == arguments.size()) throw std::runtime_error(Format(sOptionNeedsValue, {argument}));
       value = arguments[++i];
     }
+    if (!option.TakesValue && equals != std::string::npos)
+      throw std::runtime_error(Format(sOptionTakesNoValue, {option.Name}));
     option.Apply(line, value);
   }
   return line;

@@ -33,6 +33,7 @@ constexpr TResString sPackageLoaded{"Package %s loaded."};
 
 constexpr TResString sUnknownOption{"unknown option %s"};
 constexpr TResString sOptionNeedsValue{"option %s needs a value"};
+constexpr TResString sOptionTakesNoValue{"option %s takes no value"};
 constexpr TResString sTooManyFiles{"only one file can be opened: %s"};
 constexpr TResString sUsage{
     "Usage: workbench [options] [FILE]\n"

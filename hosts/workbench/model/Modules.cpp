@@ -94,11 +94,14 @@ void TProjectGroup::Add(TProject& project) {
 }
 
 void TProjectGroup::Remove(TProject& project) {
-  std::erase(projects_, &project);
+  Detach(project);
   std::erase(definition_.Edit().Items(), Stored(project));
-  if (active_ != &project) return;
-  active_ = nullptr;
-  if (!projects_.empty()) SetActive(*projects_.front());
+  if (!active_ && !projects_.empty()) SetActive(*projects_.front());
+}
+
+void TProjectGroup::Detach(TProject& project) {
+  std::erase(projects_, &project);
+  if (active_ == &project) active_ = nullptr;
 }
 
 void TProjectGroup::SetActive(TProject& project) {

@@ -82,6 +82,8 @@ class TProjectGroup final : public TOpenModule, public IOTAProjectGroup {
   /// Another project becomes active when the active one goes.
   void Remove(TProject& project);
   void SetActive(TProject& project);
+  /// Used while closing: forgets the project, the group's file stays as it is.
+  void Detach(TProject& project);
   /// Used while opening: refers to a project that the file already lists.
   void Attach(TProject& project, bool active);
   /// The active project is another one than the file says.

@@ -55,6 +55,7 @@ std::string Unescape(std::string_view text) {
 
 void Load(TIni& ini, std::string_view text) {
   ini.SetMultiKey(true);
+  ini.SetSpaces(false);
   if (ini.LoadData(text.data(), text.size()) < 0) throw std::runtime_error(sUnreadableList);
 }
 

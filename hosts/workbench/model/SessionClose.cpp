@@ -95,6 +95,7 @@ bool TSession::CloseOne(TOpenModule& module) {
 void TSession::Forget(TOpenModule& module) {
   for (const auto& document : module.Documents())
     if (auto* text = dynamic_cast<TTextEditor*>(document.get())) ui_.EditorClosing(*text);
+  if (auto* project = dynamic_cast<TProject*>(&module); project && group_) group_->Detach(*project);
   if (&module == group_) group_ = nullptr;
   index_.Remove(module);
 }

@@ -55,9 +55,10 @@ class TGalleryDialog final : public wxDialog {
     columns->Add(Label(this, sGalleryItems));
     categoryList_ = new wxListBox(this, wxID_ANY, wxDefaultPosition, FromDIP(wxSize(160, 240)));
     itemList_ = new wxListView(this, wxID_ANY, wxDefaultPosition, FromDIP(wxSize(380, 240)),
-                               wxLC_ICON | wxLC_ALIGN_TOP | wxLC_SINGLE_SEL);
+                               wxLC_REPORT | wxLC_NO_HEADER | wxLC_SINGLE_SEL);
     columns->Add(categoryList_, wxSizerFlags().Expand());
     columns->Add(itemList_, wxSizerFlags().Expand());
+    itemList_->AppendColumn("", wxLIST_FORMAT_LEFT, FromDIP(350));
     comment_ = new wxStaticText(this, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, wxST_ELLIPSIZE_END);
     auto* sizer = new wxBoxSizer(wxVERTICAL);
     sizer->Add(columns, wxSizerFlags(1).DoubleBorder().Expand());
@@ -84,7 +85,7 @@ class TGalleryDialog final : public wxDialog {
       const auto glyph = SvgBundle(wizard->GetGlyph(), kGlyphSize);
       glyphs.push_back(glyph.IsOk() ? glyph : SvgBundle(IconSvg(TIcon::NewUnit), kGlyphSize));
     });
-    itemList_->SetNormalImages(glyphs);
+    itemList_->SetSmallImages(glyphs);
     for (std::size_t i = 0; i < shown_.size(); ++i)
       itemList_->InsertItem(static_cast<long>(i), wxString::FromUTF8(shown_[i]->GetName()),
                             static_cast<int>(i));

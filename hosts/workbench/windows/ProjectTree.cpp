@@ -91,7 +91,7 @@ void TProjectTree::Rebuild() {
 void TProjectTree::AddProject(const wxTreeItemId& parent, TProject& project) {
   const bool active = session_.ActiveProject() == &project;
   const std::string name = ExtractFileName(project.FileName());
-  const auto item = AddNode(parent, active ? Format(sActiveSuffix, {name}) : name,
+  const auto item = AddNode(parent, name,
                             ImageOf(active ? TIcon::ActiveProject : TIcon::Project),
                             new TNode(project.FileName(), project.FileName()));
   SetItemBold(item, active);

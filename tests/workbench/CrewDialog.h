@@ -1,0 +1,15 @@
+// The package's dialog: a virtual list with boxes and a comment, as file commands show them.
+#pragma once
+
+#include <string>
+#include <vector>
+
+class wxWindow;
+
+struct TCrewChoice {
+  bool Accepted = false;
+  std::vector<std::string> Files;
+  std::string Comment;
+};
+
+TCrewChoice AskCrew(const std::vector<std::string>& files);

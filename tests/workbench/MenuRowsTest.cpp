@@ -1,0 +1,45 @@
+#include <gtest/gtest.h>
+
+#include <deque>
+
+#include "workbench/model/MenuRows.h"
+
+namespace {
+
+/// Items from a picture: a letter is an item, '-' a separator, '.' makes the one before it invisible.
+std::string Shown(const std::string& picture) {
+  std::deque<TMenuItem> items;
+  std::vector<TMenuItem*> list;
+  for (const char c : picture) {
+    if (c == '.') {
+      items.back().Visible = false;
+      continue;
+    }
+    items.emplace_back().Caption = c;
+    list.push_back(&items.back());
+  }
+  std::string shown;
+  for (const TMenuItem* item : VisibleRows(list)) shown += item->Caption;
+  return shown;
+}
+
+TEST(MenuRows, LeaveNoSeparatorWithoutItemsOnBothSides) {
+  const struct {
+    const char* Menu;
+    const char* Shown;
+  } rows[] = {
+      {"ab-c", "ab-c"}, {"a--b", "a-b"}, {"-a-", "a"}, {"a-b.-c", "a-c"},
+      {"a.-b", "b"},    {"a-.b", "ab"},  {"a.b.", ""}, {"a-b.", "a"},
+  };
+  for (const auto& row : rows) EXPECT_EQ(Shown(row.Menu), row.Shown) << row.Menu;
+}
+
+TEST(MenuRows, HideAnItemWhoseActionIsHidden) {
+  TAction action;
+  action.Visible = false;
+  TMenuItem item;
+  item.Action = &action;
+  EXPECT_TRUE(VisibleRows({&item}).empty());
+}
+
+}  // namespace

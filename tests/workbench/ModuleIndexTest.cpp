@@ -1,0 +1,37 @@
+#include <gtest/gtest.h>
+
+#include "support/TemporaryFolder.h"
+#include "workbench/model/ModuleIndex.h"
+
+namespace {
+
+const TPackageGuard guard([](const std::string&) {});
+
+TEST(ModuleIndex, FindsAModuleByEachOfItsFilesIgnoringCase) {
+  TTemporaryFolder folder;
+  folder.Write("Main.kfm", "");
+  TModuleIndex index;
+  auto& unit = static_cast<TUnit&>(index.Add(std::make_unique<TUnit>(folder / "Main.pas", guard)));
+  EXPECT_EQ(index.Find(folder / "MAIN.PAS"), &unit);
+  EXPECT_EQ(index.Find(folder / "main.kfm"), &unit);
+  EXPECT_EQ(index.Find(folder / "Main.res"), nullptr);
+
+  index.Renaming(unit);
+  unit.Rename(folder / "Other.pas");
+  index.Renamed(unit);
+  EXPECT_EQ(index.Find(folder / "Main.kfm"), nullptr);
+  EXPECT_EQ(index.Find(folder / "other.kfm"), &unit);
+  EXPECT_EQ(index.Remove(unit).get(), &unit);
+  EXPECT_EQ(index.Find(folder / "Other.pas"), nullptr);
+}
+
+TEST(ModuleIndex, KeepsTheOrderOfOpening) {
+  TModuleIndex index;
+  for (const char* name : {"/a.pas", "/b.pas", "/c.pas"}) index.Add(std::make_unique<TUnit>(name, guard));
+  index.Remove(*index.Find("/b.pas"));
+  ASSERT_EQ(index.InOrder().size(), 2u);
+  EXPECT_EQ(index.InOrder()[0]->FileName(), "/a.pas");
+  EXPECT_EQ(index.InOrder()[1]->FileName(), "/c.pas");
+}
+
+}  // namespace

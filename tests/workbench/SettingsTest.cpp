@@ -1,0 +1,57 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "support/Environment.h"
+#include "support/TemporaryFolder.h"
+#include "workbench/model/Settings.h"
+
+namespace {
+
+using testing::ElementsAre;
+
+class Settings : public testing::Test {
+ protected:
+  TTemporaryFolder folder_;
+  TEnvironmentVariable registry_{"CORVANE_REGISTRY_DIR", folder_.Path().c_str()};
+};
+
+TEST_F(Settings, LastOnlyWhenSaved) {
+  TOptionsServices first;
+  TPropertySet& set = first.PropertySet("SCMOptions");
+  set.SetValue("UserName", "J\xC3\xBCrgen");
+  EXPECT_EQ(TOptionsServices().PropertySet("SCMOptions").GetValue("UserName"), "");
+  set.Save();
+  EXPECT_EQ(TOptionsServices().PropertySet("scmoptions").GetValue("username"), "J\xC3\xBCrgen");
+  set.SetValue("UserName", "lost");
+  set.Load();
+  EXPECT_EQ(set.GetValue("UserName"), "J\xC3\xBCrgen");
+  EXPECT_EQ(&set, &first.PropertySet("scmOPTIONS"));
+}
+
+TEST_F(Settings, IgnoreNumbersThatMakeNoSense) {
+  TPropertySet set(kWindowSet);
+  for (const char* value : {"", "wide", "12px", "-5", "99999999999999999999", "3"}) {
+    set.SetValue("Width", value);
+    EXPECT_EQ(TWindowState::Load(set).Width, TWindowState().Width) << value;
+  }
+  set.SetValue("Width", "900");
+  EXPECT_EQ(TWindowState::Load(set).Width, 900);
+}
+
+TEST_F(Settings, RememberTheLastFilesFirst) {
+  TOptionsServices services;
+  TRecentFiles recent(services.PropertySet(kRecentSet));
+  for (int i = 0; i < 10; ++i) recent.Add("/p/" + std::to_string(i) + ".qvxproj");
+  recent.Add("/p/5.QVXPROJ");
+  const auto files = TRecentFiles(services.PropertySet(kRecentSet)).Files();
+  EXPECT_EQ(files.size(), kMaxRecent);
+  EXPECT_EQ(files[0], "/p/5.QVXPROJ");
+  EXPECT_EQ(files[1], "/p/9.qvxproj");
+}
+
+TEST(PackagePaths, ComeOnePerLineOrWithSemicolons) {
+  EXPECT_THAT(SplitPaths(" a.so \r\n\n;b c.so;; "), ElementsAre("a.so", "b c.so"));
+  EXPECT_TRUE(SplitPaths("").empty());
+}
+
+}  // namespace

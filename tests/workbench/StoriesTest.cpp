@@ -1,0 +1,221 @@
+// Stories that a macro plays on the real workbench with a real package in it.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "Story.h"
+#include "host/System.h"
+
+namespace {
+
+using testing::Contains;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsSupersetOf;
+using testing::Not;
+
+TEST(Workbench, LoadsAndUnloadsAPackageInOrder) {
+  TStory story;
+  EXPECT_EQ(story.Play("expect-enabled \"Crew|Beep\"\nmenu Crew|Beep\nmenu Crew|More|Deep\nquit\n"), 0)
+      << story.Output();
+  EXPECT_THAT(story.Log(),
+              ElementsAre("initialize", "register, no main form", "main form created", "deep clicked",
+                          "menu gone", "wizard gone", "notifier destroyed", "finalize", "unloaded"));
+}
+
+TEST(Workbench, TellsPackagesWhatOpensSwitchesAndCloses) {
+  TStory story;
+  EXPECT_EQ(story.Play("open Fleet.qvxgroup\n"
+                       "open Main.pas\n"
+                       "open Main.kfm\n"
+                       "activate Raft.qvxproj\n"
+                       "close Main.pas\n"
+                       "activate Boat.qvxproj\n"
+                       "open sub/Deck.pas\n"
+                       "menu \"File|Close All\"\n"
+                       "expect-no-text Fleet.qvxgroup\n"
+                       "open Raft.qvxproj\n"
+                       "quit\n"),
+            0)
+      << story.Output();
+  auto log = story.Log();
+  log.erase(log.begin(), log.begin() + 3);
+  log.resize(14);
+  EXPECT_THAT(log, ElementsAre("1 Fleet.qvxgroup open, active Boat.qvxproj", "1 Boat.qvxproj open, active Boat.qvxproj",
+                               "1 Raft.qvxproj open, active Boat.qvxproj", "1 Main.pas open, active Boat.qvxproj",
+                               "9 Raft.qvxproj open, active Raft.qvxproj", "2 Main.pas open, active Raft.qvxproj",
+                               "9 Boat.qvxproj open, active Boat.qvxproj", "1 Deck.pas open, active Boat.qvxproj",
+                               "2 Deck.pas open, active Boat.qvxproj", "2 Boat.qvxproj open, active Boat.qvxproj",
+                               "2 Raft.qvxproj open, active none", "2 Fleet.qvxgroup open, active none",
+                               "1 Raft.qvxproj open, active Raft.qvxproj", "2 Raft.qvxproj open, active Raft.qvxproj"));
+}
+
+TEST(Workbench, RefreshesAPackagesMenuEachTimeItOpens) {
+  TStory story;
+  EXPECT_EQ(story.Play("expect-disabled \"Crew|Check Out...\"\n"
+                       "menu \"Crew|Hidden Thing\"\n"
+                       "open Boat.qvxproj\n"
+                       "expect-enabled \"Crew|Check Out...\"\n"
+                       "expect-hidden \"Crew|Hidden Thing\"\n"
+                       "menu \"File|Close All\"\n"
+                       "expect-disabled \"Crew|Check Out...\"\n"
+                       "expect-enabled \"Crew|Hidden Thing\"\n"
+                       "quit\n"),
+            0)
+      << story.Output();
+  EXPECT_THAT(story.Log(), Contains("hidden clicked"));
+}
+
+TEST(Workbench, SurvivesPackagesThatThrow) {
+  TStory story;
+  EXPECT_EQ(story.Play("open Boat.qvxproj\n"
+                       "open Rude.pas\n"
+                       "expect-message \"rude notifier\"\n"
+                       "menu Crew|Fail\n"
+                       "expect-message \"the crew is asleep\"\n"
+                       "menu Crew|Abort\n"
+                       "menu Crew|Help\n"
+                       "expect-text \"There is no help for HC_Crew.\"\n"
+                       "press OK\n"
+                       "quit\n"),
+            0)
+      << story.Output();
+  EXPECT_THAT(story.Output(), Not(HasSubstr("nobody hears this")));
+}
+
+TEST(Workbench, ChecksOutThroughADialogAndShowsTheFileWritable) {
+  TStory story;
+  EXPECT_EQ(story.Play("open Boat.qvxproj\n"
+                       "open sub/Deck.pas\n"
+                       "expect-read-only sub/Deck.pas\n"
+                       "expect-text Read-only\n"
+                       "menu \"Crew|Check Out...\"\n"
+                       "expect \"Crew Files\"\n"
+                       "tick Main.pas\n"
+                       "tick Deck.pas\n"
+                       "expect-ticked Main.pas\n"
+                       "untick Main.pas\n"
+                       "expect-unticked Main.pas\n"
+                       "type Comment \"a comment that is too long\"\n"
+                       "press &OK\n"
+                       "expect-no-dialog\n"
+                       "expect-writable sub/Deck.pas\n"
+                       "edit sub/Deck.pas \"// aboard\"\n"
+                       "save\n"
+                       "expect-file sub/Deck.pas \"// aboard\"\n"
+                       "menu \"Crew|Check Out...\"\n"
+                       "expect \"Crew Files\"\n"
+                       "key Escape\n"
+                       "expect-no-dialog\n"
+                       "quit\n"),
+            0)
+      << story.Output();
+  EXPECT_THAT(story.Log(), IsSupersetOf({"accepted, comment a comment that is to", "out Deck.pas",
+                                         "cancelled, comment "}));
+  EXPECT_THAT(story.Log(), Not(Contains("out Main.pas")));
+}
+
+TEST(Workbench, NoticesFilesThatChangedOnDisk) {
+  TStory story;
+  EXPECT_EQ(story.Play("open Boat.qvxproj\n"
+                       "open Main.pas\n"
+                       "write-file Main.pas \"unit Fresh;\"\n"
+                       "refocus\n"
+                       "expect-editor Main.pas \"unit Fresh;\"\n"
+                       "expect-message \"was reloaded\"\n"
+                       "edit Main.pas \"// mine\"\n"
+                       "write-file Main.pas \"unit Theirs;\"\n"
+                       "refocus\n"
+                       "expect-text \"has changed on disk\"\n"
+                       "press \"Keep Mine\"\n"
+                       "expect-editor Main.pas \"// mine\"\n"
+                       "write-file Main.pas \"unit Again;\"\n"
+                       "refocus\n"
+                       "press Reload\n"
+                       "expect-editor Main.pas \"unit Again;\"\n"
+                       "set-read-only Main.pas yes\n"
+                       "refocus\n"
+                       "expect-read-only Main.pas\n"
+                       "quit\n"),
+            0)
+      << story.Output();
+}
+
+TEST(Workbench, AsksBeforeUnsavedChangesAreLost) {
+  TStory story;
+  EXPECT_EQ(story.Play("open Boat.qvxproj\n"
+                       "edit Main.pas \"// one\"\n"
+                       "menu File|Exit\n"
+                       "expect-text \"Save changes to Main.pas?\"\n"
+                       "press Cancel\n"
+                       "expect-editor Main.pas \"// one\"\n"
+                       "menu File|Close\n"
+                       "press \"Don't Save\"\n"
+                       "expect-no-dialog\n"
+                       "edit Main.pas \"// two\"\n"
+                       "menu File|Exit\n"
+                       "press Save\n"
+                       "wait 5000\n"),
+            0)
+      << story.Output();
+  const std::string text = ReadWholeFile(story.Folder() / "Main.pas");
+  EXPECT_THAT(text, HasSubstr("// two"));
+  EXPECT_THAT(text, Not(HasSubstr("// one")));
+}
+
+TEST(Workbench, KeepsOptionsOnlyWhenAccepted) {
+  TStory story;
+  const std::string enter =
+      "menu Tools|Options...\nexpect Options\npage \"Crew Options\"\ntype Ship Argo\nchoose Rank Captain\n";
+  EXPECT_EQ(story.Play(enter + "press Cancel\nexpect-no-dialog\nquit\n"), 0) << story.Output();
+  EXPECT_EQ(story.Play(enter + "press OK\nexpect-no-dialog\nquit\n"), 0) << story.Output();
+  EXPECT_EQ(story.Play("menu Tools|Options...\nexpect Options\nselect \"Crew Options\"\nexpect-text Argo\n"
+                       "expect-text Captain\npress Cancel\nexpect-no-dialog\nquit\n"),
+            0)
+      << story.Output();
+  const auto log = story.Log();
+  EXPECT_EQ(std::ranges::count(log, "options saved: Argo, Captain"), 1);
+  EXPECT_EQ(std::ranges::count(log, "options modified"), 1);
+}
+
+TEST(Workbench, RunsAWizardFromTheGallery) {
+  TStory story;
+  EXPECT_EQ(story.Play("menu File|New|Other...\n"
+                       "expect \"New Items\"\n"
+                       "select \"Other Files\"\n"
+                       "expect-text \"Calls the crew together\"\n"
+                       "press OK\n"
+                       "expect-no-dialog\n"
+                       "open Boat.qvxproj\n"
+                       "menu File|New|Unit\n"
+                       "expect-editor Unit1.pas \"unit Unit1;\"\n"
+                       "save-all\n"
+                       "expect-file Boat.qvxproj Module=Unit1.pas\n"
+                       "expect-file Unit1.pas \"unit Unit1;\"\n"
+                       "quit\n"),
+            0)
+      << story.Output();
+  EXPECT_THAT(story.Log(), Contains("wizard executed"));
+}
+
+TEST(Workbench, ReportsAFailedStepAndEndsOpenDialogs) {
+  TStory story;
+  EXPECT_EQ(
+      story.Play("limit 500\nopen Boat.qvxproj\nmenu \"Crew|Check Out...\"\nexpect \"Another Dialog\"\n"), 1);
+  EXPECT_THAT(story.Output(),
+              HasSubstr("FAILED line 4: expect \"Another Dialog\": the dialog \"Crew Files\" is open"));
+  EXPECT_TRUE(FileExists(story.Folder() / "failed.png"));
+  EXPECT_THAT(story.Log(), IsSupersetOf({"cancelled, comment ", "finalize", "unloaded"}));
+  EXPECT_EQ(story.Play("open Nothing.pas\n"), 1);
+  EXPECT_THAT(story.Output(), HasSubstr("Nothing.pas does not exist."));
+}
+
+TEST(Workbench, StartsWithoutAPackageThatCannotBeLoaded) {
+  TStory story;
+  EXPECT_EQ(story.Play("expect-message \"could not be loaded\"\nexpect-message \"does not exist\"\nquit\n",
+                       "--package Main.pas --package missing.so"),
+            0)
+      << story.Output();
+  EXPECT_THAT(story.Output(), HasSubstr("workbench: Package"));
+}
+
+}  // namespace
