@@ -112,6 +112,7 @@ class TCrewMenu {
   TCrewMenu() {
     auto& services = *IdeService<IOTAMenuServices>();
     actCheckOut_.Caption = "Check &Out...";
+    actCheckOut_.Category = "Crew";
     actCheckOut_.ImageIndex = services.AddImage(
         R"(<svg xmlns="http://www.w3.org/2000/svg" width="16" height="16" viewBox="0 0 16 16"><circle cx="8" cy="8" r="6" fill="#36a"/></svg>)");
     actCheckOut_.OnExecute = [this] { CheckOut(); };
@@ -130,11 +131,18 @@ class TCrewMenu {
     top_.Caption = "&Crew";
     top_.OnClick = [this] { Refresh(); };
     services.InsertMenu(top_);
+    file_.Caption = "&Crew";
+    file_.IsEnabled = [](const std::string& file) { return ExtractFileExt(file) == ".pas"; };
+    file_.Items = {{"&Hail", -1, [](const std::string& file) { Log("hail " + ExtractFileName(file)); }},
+                   {"-", -1, {}},
+                   {"&Sink", -1, [](const std::string&) { throw std::runtime_error("will not sink"); }}};
+    services.InsertFileMenu(file_);
     services.AttachAction(actCheckOut_);
   }
   ~TCrewMenu() {
     auto& services = *IdeService<IOTAMenuServices>();
     services.DetachAction(actCheckOut_);
+    services.RemoveFileMenu(file_);
     services.RemoveMenu(top_);
     Log("menu gone");
   }
@@ -177,6 +185,7 @@ class TCrewMenu {
   TMenuItem top_;
   TMenuItem checkOut_, separator1_, hidden_, separator2_, fail_, abort_, help_, beep_, more_, deep_;
   TAction actCheckOut_;
+  TFileMenu file_;
 };
 
 struct TCrew {

@@ -38,8 +38,7 @@ TEST(ProjectFile, KeepsWhatItDoesNotKnow) {
       "[Compiler]\n# fast\nRangeChecks = off\n");
   file.Items().push_back("C.pas");
   const std::string text = file.Text();
-  for (const char* kept :
-       {"; made by hand", "Output=bin/demo", "[Compiler]", "# fast", "RangeChecks=off"})
+  for (const char* kept : {"; made by hand", "Output=bin/demo", "[Compiler]", "# fast", "RangeChecks=off"})
     EXPECT_THAT(text, HasSubstr(kept));
   EXPECT_THAT(TProjectFile::Parse(text).Items(), ElementsAre("A.pas", "B.pas", "C.pas"));
 }

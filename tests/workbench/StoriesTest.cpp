@@ -40,13 +40,15 @@ TEST(Workbench, TellsPackagesWhatOpensSwitchesAndCloses) {
   auto log = story.Log();
   log.erase(log.begin(), log.begin() + 3);
   log.resize(14);
-  EXPECT_THAT(log, ElementsAre("1 Fleet.qvxgroup open, active Boat.qvxproj", "1 Boat.qvxproj open, active Boat.qvxproj",
-                               "1 Raft.qvxproj open, active Boat.qvxproj", "1 Main.pas open, active Boat.qvxproj",
-                               "9 Raft.qvxproj open, active Raft.qvxproj", "2 Main.pas open, active Raft.qvxproj",
-                               "9 Boat.qvxproj open, active Boat.qvxproj", "1 Deck.pas open, active Boat.qvxproj",
-                               "2 Deck.pas open, active Boat.qvxproj", "2 Boat.qvxproj open, active Boat.qvxproj",
-                               "2 Raft.qvxproj open, active none", "2 Fleet.qvxgroup open, active none",
-                               "1 Raft.qvxproj open, active Raft.qvxproj", "2 Raft.qvxproj open, active Raft.qvxproj"));
+  EXPECT_THAT(
+      log,
+      ElementsAre("1 Fleet.qvxgroup open, active Boat.qvxproj", "1 Boat.qvxproj open, active Boat.qvxproj",
+                  "1 Raft.qvxproj open, active Boat.qvxproj", "1 Main.pas open, active Boat.qvxproj",
+                  "9 Raft.qvxproj open, active Raft.qvxproj", "2 Main.pas open, active Raft.qvxproj",
+                  "9 Boat.qvxproj open, active Boat.qvxproj", "1 Deck.pas open, active Boat.qvxproj",
+                  "2 Deck.pas open, active Boat.qvxproj", "2 Boat.qvxproj open, active Boat.qvxproj",
+                  "2 Raft.qvxproj open, active none", "2 Fleet.qvxgroup open, active none",
+                  "1 Raft.qvxproj open, active Raft.qvxproj", "2 Raft.qvxproj open, active Raft.qvxproj"));
 }
 
 TEST(Workbench, RefreshesAPackagesMenuEachTimeItOpens) {
@@ -63,6 +65,28 @@ TEST(Workbench, RefreshesAPackagesMenuEachTimeItOpens) {
             0)
       << story.Output();
   EXPECT_THAT(story.Log(), Contains("hidden clicked"));
+}
+
+TEST(Workbench, OffersAPackagesCommandsForAFileAndInTheCommandList) {
+  TStory story;
+  EXPECT_EQ(story.Play("open Boat.qvxproj\n"
+                       "expect-file-disabled Boat.qvxproj Crew|Hail\n"
+                       "expect-file-enabled Main.pas Crew|Hail\n"
+                       "file-menu sub/Deck.pas Crew|Hail\n"
+                       "file-menu Main.pas Crew|Sink\n"
+                       "expect-message \"will not sink\"\n"
+                       "menu Tools|Commands...\n"
+                       "expect Commands\n"
+                       "type Search out\n"
+                       "select \"Crew: Check Out...\"\n"
+                       "press Run\n"
+                       "expect \"Crew Files\"\n"
+                       "press Cancel\n"
+                       "expect-no-dialog\n"
+                       "quit\n"),
+            0)
+      << story.Output();
+  EXPECT_THAT(story.Log(), IsSupersetOf({"hail Deck.pas", "cancelled, comment "}));
 }
 
 TEST(Workbench, SurvivesPackagesThatThrow) {

@@ -90,6 +90,18 @@ std::string TMacroPlayer::DoMenu(const TArguments& arguments) {
   return {};
 }
 
+std::string TMacroPlayer::DoFileMenu(const TArguments& arguments) {
+  if (const wxDialog* dialog = TModalStack::Top())
+    return Format(sDialogOpen, {dialog->GetTitle().utf8_string()});
+  wxMenu menu;
+  frame_.PackageMenus().AppendFileMenus(menu, FullPath(arguments[0]));
+  const wxMenuItem* item = FindMenuItem(menu, Text(arguments[1]));
+  if (!item) return Format(sNoMenu, {arguments[1]});
+  if (!item->IsEnabled()) return Format(sControlDisabled, {arguments[1]});
+  item->GetMenu()->SendEvent(item->GetId());
+  return {};
+}
+
 std::string TMacroPlayer::DoPress(const TArguments& arguments) {
   return PressButton(Front(), Text(arguments[0]));
 }

@@ -56,11 +56,20 @@ std::string CheckReadOnly(TMainFrame& frame, const std::string& file, bool readO
   return Format(readOnly ? sIsWritable : sIsReadOnly, {file});
 }
 
-std::string CheckMenu(TMainFrame& frame, const std::string& path, bool enabled) {
-  const wxMenuItem* item = OpenMenuItem(frame, Text(path));
+std::string CheckItem(const wxMenuItem* item, const std::string& path, bool enabled) {
   if (!item) return Format(sNoMenu, {path});
   if (item->IsEnabled() == enabled) return {};
   return Format(enabled ? sControlDisabled : sControlEnabled, {path});
+}
+
+std::string CheckMenu(TMainFrame& frame, const std::string& path, bool enabled) {
+  return CheckItem(OpenMenuItem(frame, Text(path)), path, enabled);
+}
+
+std::string CheckFileMenu(TMainFrame& frame, const std::string& file, const std::string& path, bool enabled) {
+  wxMenu menu;
+  frame.PackageMenus().AppendFileMenus(menu, FullPath(file));
+  return CheckItem(FindMenuItem(menu, Text(path)), path, enabled);
 }
 
 }  // namespace
@@ -104,6 +113,14 @@ std::string TMacroPlayer::DoExpectDisabled(const TArguments& arguments) {
 
 std::string TMacroPlayer::DoExpectHidden(const TArguments& arguments) {
   return OpenMenuItem(frame_, Text(arguments[0])) ? Format(sMenuVisible, {arguments[0]}) : std::string();
+}
+
+std::string TMacroPlayer::DoExpectFileEnabled(const TArguments& arguments) {
+  return CheckFileMenu(frame_, arguments[0], arguments[1], true);
+}
+
+std::string TMacroPlayer::DoExpectFileDisabled(const TArguments& arguments) {
+  return CheckFileMenu(frame_, arguments[0], arguments[1], false);
 }
 
 std::string TMacroPlayer::DoExpectTicked(const TArguments& arguments) {

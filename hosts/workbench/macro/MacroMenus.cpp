@@ -42,6 +42,14 @@ wxMenuItem* OpenMenuItem(wxFrame& frame, const wxString& path) {
   return nullptr;
 }
 
+wxMenuItem* FindMenuItem(const wxMenu& menu, const wxString& path) {
+  wxStringTokenizer parts(path, "|");
+  wxMenuItem* item = ItemOf(menu, parts.GetNextToken());
+  while (item && parts.HasMoreTokens())
+    item = item->GetSubMenu() ? ItemOf(*item->GetSubMenu(), parts.GetNextToken()) : nullptr;
+  return item;
+}
+
 void ClickMenuItem(wxFrame& frame, const wxMenuItem& item) {
   wxCommandEvent event(wxEVT_MENU, item.GetId());
   event.SetEventObject(item.GetMenu());

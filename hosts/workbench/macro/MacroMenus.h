@@ -4,9 +4,12 @@
 #include <wx/string.h>
 
 class wxFrame;
+class wxMenu;
 class wxMenuItem;
 
 /// Opens the menus of a path "Menu|Item" one after the other, so that each is brought up to date, and answers the last
 /// part's item; nullptr when there is none.  The item is borrowed until the menu changes.
 wxMenuItem* OpenMenuItem(wxFrame& frame, const wxString& path);
+/// The item of a path "Submenu|Item" below `menu`; nullptr for none.
+wxMenuItem* FindMenuItem(const wxMenu& menu, const wxString& path);
 void ClickMenuItem(wxFrame& frame, const wxMenuItem& item);

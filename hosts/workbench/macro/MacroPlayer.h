@@ -49,6 +49,7 @@ class TMacroPlayer final : public wxTimer {
   std::string DoSetReadOnly(const TArguments& arguments);
   std::string DoRefocus(const TArguments& arguments);
   std::string DoMenu(const TArguments& arguments);
+  std::string DoFileMenu(const TArguments& arguments);
   std::string DoPress(const TArguments& arguments);
   std::string DoTick(const TArguments& arguments);
   std::string DoUntick(const TArguments& arguments);
@@ -66,6 +67,8 @@ class TMacroPlayer final : public wxTimer {
   std::string DoExpectEnabled(const TArguments& arguments);
   std::string DoExpectDisabled(const TArguments& arguments);
   std::string DoExpectHidden(const TArguments& arguments);
+  std::string DoExpectFileEnabled(const TArguments& arguments);
+  std::string DoExpectFileDisabled(const TArguments& arguments);
   std::string DoExpectTicked(const TArguments& arguments);
   std::string DoExpectUnticked(const TArguments& arguments);
   std::string DoExpectEditor(const TArguments& arguments);

@@ -1,5 +1,7 @@
 #include "workbench/windows/EditorBook.h"
 
+#include <wx/menu.h>
+
 #include "host/Paths.h"
 #include "host/Text.h"
 #include "workbench/windows/FrameStrings.h"
@@ -35,6 +37,12 @@ TEditorBook::TEditorBook(wxWindow* parent, THooks hooks, int fontSize)
       page->Editor().Activated();
     }
     hooks_.StateChanged();
+  });
+  Bind(wxEVT_AUINOTEBOOK_TAB_RIGHT_UP, [this](wxAuiNotebookEvent& event) {
+    SetSelection(static_cast<std::size_t>(event.GetSelection()));
+    wxMenu menu;
+    hooks_.FillTabMenu(menu, FrontPage()->Editor());
+    PopupMenu(&menu);
   });
   Bind(wxEVT_AUINOTEBOOK_PAGE_CLOSE, [this](wxAuiNotebookEvent& event) {
     // The session decides; it takes the page away when this event is over.

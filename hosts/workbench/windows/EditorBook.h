@@ -7,6 +7,8 @@
 
 #include "workbench/windows/EditorPage.h"
 
+class wxMenu;
+
 class TEditorBook final : public wxAuiNotebook {
  public:
   /// What the book asks of the frame.
@@ -14,6 +16,7 @@ class TEditorBook final : public wxAuiNotebook {
     std::function<void()> StateChanged;              ///< another page, caret, modified or read-only state
     std::function<void(TTextEditor&)> CloseWanted;   ///< the user clicked a tab's close button
     std::function<void(const std::string&)> Status;  ///< a hint for the status bar
+    std::function<void(wxMenu&, TTextEditor&)> FillTabMenu;
   };
   TEditorBook(wxWindow* parent, THooks hooks, int fontSize);
 

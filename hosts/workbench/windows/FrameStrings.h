@@ -57,6 +57,7 @@ constexpr TResString sSetActive{"&Set Active Project"};
 constexpr TResString sCloseProject{"&Close Project"};
 constexpr TResString sSaveGroupAs{"Save Project &Group As..."};
 
+constexpr TResString sCommands{"&Commands...\tCtrl+Shift+P"};
 constexpr TResString sOptions{"&Options..."};
 constexpr TResString sAbout{"&About Workbench"};
 
@@ -101,6 +102,11 @@ constexpr TResString sNewProjectTitle{"New Project"};
 constexpr TResString sSaveAsTitle{"Save As"};
 constexpr TResString sAddToProjectTitle{"Add to Project"};
 constexpr TResString sAddProjectTitle{"Add Existing Project"};
+
+constexpr TResString sCommandsTitle{"Commands"};
+constexpr TResString sCommandsFilter{"&Search"};
+constexpr TResString sCommandsRun{"&Run"};
+constexpr TResString sCommandRow{"%s: %s"};
 
 constexpr TResString sOptionsTitle{"Options"};
 constexpr TResString sGeneralPage{"General"};

@@ -76,21 +76,23 @@ void TMainFrame::CreateWindows() {
                            .GetNumber(kFontSizeField, kDefaultFontSize, kMinFontSize, kMaxFontSize);
   columns_ = new wxSplitterWindow(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxSP_LIVE_UPDATE);
   treePanel_ = CaptionedPanel(columns_, sProjectTreeCaption);
-  tree_ = new TProjectTree(
-      treePanel_, session_,
-      {[this](const std::string& file) { OpenForUser(file); }, [this](wxMenu& menu) { FillTreeMenu(menu); }});
+  tree_ = new TProjectTree(treePanel_, session_,
+                           {[this](const std::string& file) { OpenForUser(file); },
+                            [this](wxMenu& menu, const std::string& file) { FillTreeMenu(menu, file); }});
   FillPanel(treePanel_, tree_);
   rows_ = new wxSplitterWindow(columns_, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxSP_LIVE_UPDATE);
-  book_ = new TEditorBook(rows_,
-                          {[this] { ShowState(); },
-                           [this](TTextEditor& editor) {
-                             Attempt([&] {
-                               if (auto* module = session_.Modules().Find(editor.FileName()))
-                                 session_.Close(*module);
-                             });
-                           },
-                           [this](const std::string& text) { SetStatusText(Text(text), sfText); }},
-                          fontSize);
+  book_ =
+      new TEditorBook(rows_,
+                      {[this] { ShowState(); },
+                       [this](TTextEditor& editor) {
+                         Attempt([&] {
+                           if (auto* module = session_.Modules().Find(editor.FileName()))
+                             session_.Close(*module);
+                         });
+                       },
+                       [this](const std::string& text) { SetStatusText(Text(text), sfText); },
+                       [this](wxMenu& menu, TTextEditor& editor) { FillTabMenu(menu, editor.FileName()); }},
+                      fontSize);
   messagePanel_ = CaptionedPanel(rows_, sMessagesCaption);
   messages_ = new TMessagePane(messagePanel_);
   FillPanel(messagePanel_, messages_);

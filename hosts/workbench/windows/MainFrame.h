@@ -27,6 +27,7 @@ class TMainFrame final : public wxFrame, public ISessionUi {
   TSession& Session() { return session_; }
   TEditorBook& Book() { return *book_; }
   TMessagePane& Messages() { return *messages_; }
+  TMenuBridge& PackageMenus() { return *menus_; }
   void AddMessage(const std::string& line);
   /// Opens a file for the user: failures become a message box.
   void OpenForUser(const std::string& fileName);
@@ -53,7 +54,8 @@ class TMainFrame final : public wxFrame, public ISessionUi {
   void CreateMenus();
   wxMenu* CreateMenu(const TCommandMenu& description);
   void AppendCommand(wxMenu& menu, int id);
-  void FillTreeMenu(wxMenu& menu);
+  void FillTreeMenu(wxMenu& menu, const std::string& fileName);
+  void FillTabMenu(wxMenu& menu, const std::string& fileName);
   void FillRecentMenu();
   void OnCommand(wxCommandEvent& event);
   void OnUpdateCommand(wxUpdateUIEvent& event);
@@ -100,6 +102,7 @@ class TMainFrame final : public wxFrame, public ISessionUi {
   void CloseProject();
   void SaveGroupAs();
   void ShowOptions();
+  void ShowCommands();
   void ShowAbout();
   bool HasEditor() const;
   bool CanEdit() const;

@@ -9,6 +9,7 @@
 
 #include "host/Paths.h"
 #include "host/Text.h"
+#include "workbench/windows/CommandsDialog.h"
 #include "workbench/windows/EditorBook.h"
 #include "workbench/windows/FindDialog.h"
 #include "workbench/windows/FrameStrings.h"
@@ -56,6 +57,7 @@ enum TCommandId {
   cmSetActive,
   cmCloseProject,
   cmSaveGroupAs,
+  cmCommands,
   cmOptions,
   cmAbout,
   cmLast = cmAbout,
@@ -117,6 +119,7 @@ const TMainFrame::TCommand* TMainFrame::FindCommand(int id) {
       {cmSetActive, sSetActive, &F::SetActiveProject, &F::HasSelectedProject},
       {cmCloseProject, sCloseProject, &F::CloseProject, &F::HasSelectedProject},
       {cmSaveGroupAs, sSaveGroupAs, &F::SaveGroupAs, &F::HasProject},
+      {cmCommands, sCommands, &F::ShowCommands},
       {cmOptions, sOptions, &F::ShowOptions},
       {cmAbout, sAbout, &F::ShowAbout},
   };
@@ -135,7 +138,7 @@ const std::vector<TMainFrame::TCommandMenu>& TMainFrame::CommandMenus() {
       {sMenuProject,
        {cmAddToProject, cmRemoveFromProject, cmSeparator, cmAddProject, cmSetActive, cmCloseProject,
         cmSeparator, cmSaveGroupAs}},
-      {sMenuTools, {cmOptions}},
+      {sMenuTools, {cmCommands, cmSeparator, cmOptions}},
       {sMenuHelp, {cmAbout}},
   };
   return menus;
@@ -182,12 +185,19 @@ void TMainFrame::FillRecentMenu() {
   }
 }
 
-void TMainFrame::FillTreeMenu(wxMenu& menu) {
-  if (tree_->SelectedModule() >= 0)
-    for (const int id : {cmRemoveFromProject}) AppendCommand(menu, id);
-  else
-    for (const int id : {cmSetActive, cmAddToProject, cmSeparator, cmCloseProject, cmSaveGroupAs})
-      AppendCommand(menu, id);
+void TMainFrame::FillTreeMenu(wxMenu& menu, const std::string& fileName) {
+  const bool module = tree_->SelectedModule() >= 0;
+  const auto commands =
+      module ? std::vector<int>{cmRemoveFromProject}
+             : std::vector<int>{cmSetActive, cmAddToProject, cmSeparator, cmCloseProject, cmSaveGroupAs};
+  for (const int id : commands) AppendCommand(menu, id);
+  menu.AppendSeparator();
+  menus_->AppendFileMenus(menu, fileName);
+}
+
+void TMainFrame::FillTabMenu(wxMenu& menu, const std::string& fileName) {
+  for (const int id : {cmSave, cmReload, cmSeparator, cmClose, cmSeparator}) AppendCommand(menu, id);
+  menus_->AppendFileMenus(menu, fileName);
 }
 
 void TMainFrame::OnCommand(wxCommandEvent& event) {
@@ -335,6 +345,12 @@ void TMainFrame::AddProject() {
 void TMainFrame::SetActiveProject() { session_.SetActiveProject(*tree_->SelectedProject()); }
 void TMainFrame::CloseProject() { session_.Close(*tree_->SelectedProject()); }
 void TMainFrame::SaveGroupAs() { session_.SaveGroupAs(); }
+
+void TMainFrame::ShowCommands() {
+  menus_->RefreshAll();
+  if (const TAction* action = ChooseAction(this, *menus_))
+    services_.Guard().Run(action->Name, [&] { action->OnExecute(); });
+}
 
 void TMainFrame::ShowOptions() {
   if (!ShowOptionsDialog(this, services_.Options(), services_.Guard())) return;

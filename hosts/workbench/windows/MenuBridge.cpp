@@ -92,10 +92,41 @@ void TMenuBridge::AppendItem(TTopMenu& top, wxMenu& menu, const TMenuItem& item)
   if (submenu) Fill(top, *submenu.release(), item.Items);
 }
 
-wxBitmapBundle TMenuBridge::ImageOf(const TMenuItem& item) const {
-  const int index = item.ImageIndex >= 0 ? item.ImageIndex : item.Action ? item.Action->ImageIndex : -1;
+wxBitmapBundle TMenuBridge::ImageAt(int index) const {
   const bool known = index >= 0 && static_cast<std::size_t>(index) < images_.size();
   return known ? images_[static_cast<std::size_t>(index)] : wxBitmapBundle();
+}
+
+wxBitmapBundle TMenuBridge::ImageOf(const TMenuItem& item) const {
+  return ImageAt(item.ImageIndex < 0 && item.Action ? item.Action->ImageIndex : item.ImageIndex);
+}
+
+void TMenuBridge::RefreshAll() {
+  for (const auto& top : tops_) Refresh(*top);
+}
+
+void TMenuBridge::AppendFileMenus(wxMenu& menu, const std::string& fileName) const {
+  for (const TFileMenu* fileMenu : fileMenus_) {
+    bool enabled = true;
+    if (fileMenu->IsEnabled) guard_.Run(fileMenu->Caption, [&] { enabled = fileMenu->IsEnabled(fileName); });
+    auto* submenu = new wxMenu;
+    for (const TFileMenu::TItem& item : fileMenu->Items) {
+      if (item.Caption == "-") {
+        submenu->AppendSeparator();
+        continue;
+      }
+      auto* shown = new wxMenuItem(submenu, wxID_ANY, wxString::FromUTF8(item.Caption));
+      if (const auto image = ImageAt(item.ImageIndex); image.IsOk()) shown->SetBitmap(image);
+      submenu->Append(shown)->Enable(enabled);
+      submenu->Bind(
+          wxEVT_MENU,
+          [&item, fileName, this](wxCommandEvent&) {
+            guard_.Run(item.Caption, [&] { item.OnExecute(fileName); });
+          },
+          shown->GetId());
+    }
+    menu.AppendSubMenu(submenu, wxString::FromUTF8(fileMenu->Caption));
+  }
 }
 
 void TMenuBridge::OnMenuOpen(wxMenuEvent& event) {

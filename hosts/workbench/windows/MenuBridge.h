@@ -22,8 +22,8 @@ class TMenuBridge final : public IOTAMenuServices {
   void RemoveMenu(TMenuItem& top) override;
   void InsertFileMenu(TFileMenu& menu) override { fileMenus_.push_back(&menu); }
   void RemoveFileMenu(TFileMenu& menu) override { std::erase(fileMenus_, &menu); }
-  /// The packages' commands for one file, in the order they came.
-  const std::vector<TFileMenu*>& FileMenus() const { return fileMenus_; }
+  /// Appends the packages' commands for one file to a context menu that is about to show.
+  void AppendFileMenus(wxMenu& menu, const std::string& fileName) const;
   void AttachAction(TAction& action) override;
   void DetachAction(TAction& action) override;
   int AddImage(const std::string& svg) override;
@@ -31,7 +31,11 @@ class TMenuBridge final : public IOTAMenuServices {
     return FindInterface<IOTAMenuServices>(this, iid);
   }
 
+  /// The action list, in the order of attaching.
   const std::vector<TAction*>& Actions() const { return actions_; }
+  wxBitmapBundle ImageAt(int index) const;
+  /// Lets every package bring its commands up to date, as opening its menu does.
+  void RefreshAll();
 
  private:
   struct TTopMenu;

@@ -86,8 +86,9 @@ class TOptionsDialog final : public wxDialog {
     SetMinSize(GetBestSize());
     CentreOnParent();
     list_->SetSelection(0);
-    list_->Bind(wxEVT_LISTBOX,
-                [this](wxCommandEvent& event) { book_->SetSelection(static_cast<std::size_t>(event.GetInt())); });
+    list_->Bind(wxEVT_LISTBOX, [this](wxCommandEvent& event) {
+      book_->SetSelection(static_cast<std::size_t>(event.GetInt()));
+    });
     book_->Bind(wxEVT_BOOKCTRL_PAGE_CHANGED,
                 [this](wxBookCtrlEvent& event) { list_->SetSelection(event.GetSelection()); });
     Bind(

@@ -55,7 +55,7 @@ TProjectTree::TProjectTree(wxWindow* parent, TSession& session, THooks hooks)
   Bind(wxEVT_TREE_ITEM_MENU, [this](wxTreeEvent& event) {
     SelectItem(event.GetItem());
     wxMenu menu;
-    hooks_.FillContextMenu(menu);
+    hooks_.FillContextMenu(menu, NodeOf(event.GetItem())->File);
     PopupMenu(&menu, event.GetPoint());
   });
 }
@@ -91,8 +91,7 @@ void TProjectTree::Rebuild() {
 void TProjectTree::AddProject(const wxTreeItemId& parent, TProject& project) {
   const bool active = session_.ActiveProject() == &project;
   const std::string name = ExtractFileName(project.FileName());
-  const auto item = AddNode(parent, name,
-                            ImageOf(active ? TIcon::ActiveProject : TIcon::Project),
+  const auto item = AddNode(parent, name, ImageOf(active ? TIcon::ActiveProject : TIcon::Project),
                             new TNode(project.FileName(), project.FileName()));
   SetItemBold(item, active);
   SetItemHasChildren(item, project.GetModuleCount() > 0);

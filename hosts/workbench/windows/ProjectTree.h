@@ -13,8 +13,8 @@ class TProjectTree final : public wxTreeCtrl {
  public:
   struct THooks {
     std::function<void(const std::string& fileName)> Open;
-    std::function<void(wxMenu& menu)>
-        FillContextMenu;  ///< with the frame's own commands for the selected node
+    /// With the commands for the selected node; `fileName` is that of the node.
+    std::function<void(wxMenu& menu, const std::string& fileName)> FillContextMenu;
   };
   TProjectTree(wxWindow* parent, TSession& session, THooks hooks);
 
