@@ -2,12 +2,22 @@
 #include <cstdio>
 #include <exception>
 
+#include "workbench/macro/MacroParser.h"
 #include "workbench/model/ModelStrings.h"
 #include "workbench/windows/App.h"
 #include "workbench/windows/FrameStrings.h"
 #include "workbench/windows/Version.h"
 
 namespace {
+
+/// Prints what the user only wanted to know; whether there was something.
+bool PrintInformation(const TCommandLine& line) {
+  if (line.Help) std::printf("%s", sUsage.Text);
+  if (line.Version) std::printf("workbench %s\n", kWorkbenchVersion);
+  if (line.MacroHelp)
+    for (const auto& row : MacroVerbs()) std::printf("%-22s %s\n", row.Name.data(), row.Help.data());
+  return line.Help || line.Version || line.MacroHelp;
+}
 
 int RunProgram(const TCommandLine& line, char* program) {
   wxApp::SetInstance(new TWorkbenchApp(line));
@@ -36,9 +46,11 @@ int main(int argc, char** argv) {
     std::fprintf(stderr, "workbench: %s\n%s", e.what(), sUsage.Text);
     return kExitUsage;
   }
-  if (line.Help || line.Version) {
-    std::printf("%s", line.Help ? sUsage.Text : "workbench " WORKBENCH_VERSION "\n");
-    return 0;
+  if (PrintInformation(line)) return 0;
+  try {
+    return RunProgram(line, argv[0]);
+  } catch (const std::exception& e) {
+    std::fprintf(stderr, "workbench: %s\n", e.what());
+    return kExitFailed;
   }
-  return RunProgram(line, argv[0]);
 }

@@ -1,10 +1,13 @@
 #include "CrewDialog.h"
 
+#include <wx/button.h>
 #include <wx/dialog.h>
 #include <wx/listctrl.h>
 #include <wx/sizer.h>
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
+
+#include <stdexcept>
 
 #include "host/Paths.h"
 
@@ -59,6 +62,9 @@ TCrewChoice AskCrew(const std::vector<std::string>& files) {
   for (wxWindow* window :
        {static_cast<wxWindow*>(list), static_cast<wxWindow*>(label), static_cast<wxWindow*>(comment)})
     sizer->Add(window, wxSizerFlags().Border().Expand());
+  auto* mutiny = new wxButton(&dialog, wxID_ANY, "&Mutiny");
+  mutiny->Bind(wxEVT_BUTTON, [](wxCommandEvent&) { throw std::runtime_error("the crew mutinies"); });
+  sizer->Add(mutiny, wxSizerFlags().Border());
   sizer->Add(dialog.CreateStdDialogButtonSizer(wxOK | wxCANCEL), wxSizerFlags().Border().Expand());
   dialog.SetSizerAndFit(sizer);
   const bool accepted = dialog.ShowModal() == wxID_OK;

@@ -25,16 +25,35 @@ bool IsShownSomewhere(const std::string& text) {
   return false;
 }
 
-/// Message windows are frames with a list; a log counts whether its window is on the screen or not.
+/// Message windows are frames with a list; a log counts whether its window is on the screen or not.  Visits the lists
+/// until `visit` answers true; whether it did.
+bool VisitLogs(const std::function<bool(wxListCtrl&)>& visit) {
+  const auto visitControl = [&](wxWindow& control) {
+    auto* list = dynamic_cast<wxListCtrl*>(&control);
+    return list && visit(*list);
+  };
+  for (wxWindow* window : wxTopLevelWindows)
+    if (dynamic_cast<wxFrame*>(window) && VisitControls(*window, visitControl, true)) return true;
+  return false;
+}
+
 bool IsInMessages(const std::string& text) {
   const wxString wanted = Text(text);
-  for (wxWindow* window : wxTopLevelWindows) {
-    const auto shows = [&](wxWindow& control) {
-      return dynamic_cast<wxListCtrl*>(&control) && TextOf(control).Contains(wanted);
-    };
-    if (dynamic_cast<wxFrame*>(window) && VisitControls(*window, shows, true)) return true;
-  }
-  return false;
+  return VisitLogs([&](wxListCtrl& list) { return TextOf(list).Contains(wanted); });
+}
+
+/// What the command printed, and how it ended.
+std::pair<std::string, int> RunInShell(const std::string& command) {
+  wxString quoted = Text(command);
+  quoted.Replace("\\", "\\\\");
+  quoted.Replace("\"", "\\\"");
+  wxArrayString lines;
+  wxArrayString errors;
+  const long code = wxExecute("/bin/sh -c \"" + quoted + "\"", lines, errors, wxEXEC_SYNC | wxEXEC_NODISABLE);
+  std::string said;
+  for (const auto* part : {&lines, &errors})
+    for (const auto& text : *part) said += "    " + text.utf8_string() + "\n";
+  return {said, static_cast<int>(code)};
 }
 
 /// Empty when the box is there in that state.
@@ -101,6 +120,22 @@ std::string TMacroPlayer::DoExpectNoText(const TArguments& arguments) {
 
 std::string TMacroPlayer::DoExpectMessage(const TArguments& arguments) {
   return IsInMessages(arguments[0]) ? std::string() : Format(sNoMessage, {arguments[0]});
+}
+
+std::string TMacroPlayer::DoPrintMessages(const TArguments&) {
+  VisitLogs([](wxListCtrl& list) {
+    for (int row = 0; row < list.GetItemCount(); ++row)
+      std::printf("    %s\n", list.GetItemText(row).utf8_string().c_str());
+    return false;
+  });
+  return {};
+}
+
+std::string TMacroPlayer::DoRun(const TArguments& arguments) {
+  const auto [said, code] = RunInShell(arguments[0]);
+  if (code != 0) return Format(sCommandFailed, {code, said});
+  std::fputs(said.c_str(), stdout);
+  return {};
 }
 
 std::string TMacroPlayer::DoExpectEnabled(const TArguments& arguments) {

@@ -49,6 +49,8 @@ const std::vector<TMacroVerbRow>& MacroVerbs() {
       {ExpectWritable, "expect-writable", 1, "PATH: the file, and its editor when open, are writable"},
       {ExpectButton, "expect-button", 1, "LABEL: waits for an enabled button"},
       {ExpectNoButton, "expect-no-button", 1, "LABEL: waits until it is disabled or gone"},
+      {PrintMessages, "print-messages", 0, "prints the lines of packages' message windows"},
+      {Run, "run", 1, "COMMAND: runs it in the shell and prints what it says; it must succeed"},
       {Screenshot, "screenshot", 1, "FILE: takes a picture of the whole screen"},
       {Note, "note", 1, "TEXT: prints it"},
       {Wait, "wait", 1, "MILLISECONDS: does nothing"},

@@ -51,6 +51,8 @@ enum class TMacroVerb {
   ExpectWritable,
   ExpectButton,
   ExpectNoButton,
+  PrintMessages,
+  Run,
   Screenshot,
   Note,
   Wait,

@@ -142,6 +142,8 @@ std::string TMacroPlayer::Run(const TMacroStep& step) {
                                          &P::DoExpectWritable,
                                          &P::DoExpectButton,
                                          &P::DoExpectNoButton,
+                                         &P::DoPrintMessages,
+                                         &P::DoRun,
                                          &P::DoScreenshot,
                                          &P::DoNote,
                                          &P::DoWait,

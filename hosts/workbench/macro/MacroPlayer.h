@@ -77,6 +77,8 @@ class TMacroPlayer final : public wxTimer {
   std::string DoExpectWritable(const TArguments& arguments);
   std::string DoExpectButton(const TArguments& arguments);
   std::string DoExpectNoButton(const TArguments& arguments);
+  std::string DoPrintMessages(const TArguments& arguments);
+  std::string DoRun(const TArguments& arguments);
   std::string DoScreenshot(const TArguments& arguments);
   std::string DoNote(const TArguments& arguments);
   std::string DoWait(const TArguments& arguments);

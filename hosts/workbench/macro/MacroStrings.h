@@ -27,6 +27,7 @@ constexpr TResString sMenuVisible{"\"%s\" is in the menu"};
 constexpr TResString sNoKey{"there is no key \"%s\""};
 constexpr TResString sNoText{"no window shows \"%s\""};
 constexpr TResString sHasText{"a window shows \"%s\""};
+constexpr TResString sCommandFailed{"it failed (%d)\n%s"};
 constexpr TResString sNoMessage{"no message contains \"%s\""};
 constexpr TResString sNotOpen{"%s is not open"};
 constexpr TResString sNoEditorText{"the editor of %s does not contain \"%s\""};

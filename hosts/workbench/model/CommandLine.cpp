@@ -17,6 +17,7 @@ constexpr TOption kOptions[] = {
     {"--help", false, [](TCommandLine& line, const std::string&) { line.Help = true; }},
     {"-h", false, [](TCommandLine& line, const std::string&) { line.Help = true; }},
     {"--version", false, [](TCommandLine& line, const std::string&) { line.Version = true; }},
+    {"--macro-help", false, [](TCommandLine& line, const std::string&) { line.MacroHelp = true; }},
     {"--package", true, [](TCommandLine& line, const std::string& value) { line.Packages.push_back(value); }},
     {"--play", true, [](TCommandLine& line, const std::string& value) { line.Macro = value; }},
     {"--screenshots", true, [](TCommandLine& line, const std::string& value) { line.Screenshots = value; }},

@@ -7,6 +7,7 @@
 struct TCommandLine {
   bool Help = false;
   bool Version = false;
+  bool MacroHelp = false;
   std::vector<std::string> Packages;
   std::string File;
   std::string Macro;

@@ -43,6 +43,7 @@ constexpr TResString sUsage{
     "  --package PATH      load this run-time package (may be given several times)\n"
     "  --play FILE         play a macro file and exit: 0 when every step worked, 1 when one failed\n"
     "  --screenshots DIR   where a macro's screenshots go (default: the current directory)\n"
+    "  --macro-help        list the steps of a macro\n"
     "  --help              show this text\n"
     "  --version           show the version\n"
     "\n"

@@ -14,9 +14,11 @@
 #include "workbench/model/ModelStrings.h"
 #include "workbench/model/PackageLoader.h"
 #include "workbench/model/Settings.h"
+#include "workbench/windows/FrameStrings.h"
 #include "workbench/windows/IdeServices.h"
 #include "workbench/windows/MainFrame.h"
 #include "workbench/windows/ModalStack.h"
+#include "workbench/windows/Toolkit.h"
 
 namespace {
 
@@ -45,6 +47,7 @@ bool TWorkbenchApp::OnInit() {
   SetExitOnFrameDelete(false);
   wxImage::AddHandler(new wxPNGHandler);
   SetSignalHandler(SIGTERM, [](int) { static_cast<TWorkbenchApp&>(*wxTheApp).EndProgram(kExitTerminated); });
+  ShowMenuImages();
   SetBeepHandler([](TBeep) { wxBell(); });
   modals_ = std::make_unique<TModalStack>();
   services_ = std::make_unique<TIdeServices>([this](const std::string& line) { Log(line); });
@@ -55,6 +58,7 @@ bool TWorkbenchApp::OnInit() {
   for (const auto& line : early_) frame_->AddMessage(line);
   frame_->Show();
   services_->Guard().Run("MainFormCreated", [this] { services_->Application().MainFormCreated().Fire(); });
+  frame_->OfferPackageWindows();
   if (!line_.File.empty()) frame_->CallAfter([this] { frame_->OpenForUser(line_.File); });
   if (!line_.Macro.empty())
     player_ = std::make_unique<TMacroPlayer>(*frame_, line_, [this](int exitCode) { EndProgram(exitCode); });
@@ -74,6 +78,11 @@ int TWorkbenchApp::OnRun() {
   wxApp::OnRun();
   TakeApart();
   return exitCode_;
+}
+
+bool TWorkbenchApp::OnExceptionInMainLoop() {
+  services_->Guard().Run(sProgramName, [] { throw; });
+  return true;
 }
 
 void TWorkbenchApp::TakeApart() {

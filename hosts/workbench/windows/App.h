@@ -24,6 +24,8 @@ class TWorkbenchApp final : public wxApp {
   ~TWorkbenchApp() override;
   bool OnInit() override;
   int OnRun() override;
+  /// A handler of some window let an exception out: the user hears of it, the program goes on.
+  bool OnExceptionInMainLoop() override;
   /// Cancels the dialogs that are open, then ends the program without asking about unsaved changes.
   void EndProgram(int exitCode);
 

@@ -227,7 +227,7 @@ void TMainFrame::OpenForUser(const std::string& fileName) {
     if (!session_.Open(fileName)) return;
     const std::string extension = ExtractFileExt(fileName);
     if (!SameText(extension, kProjectExt) && !SameText(extension, kGroupExt)) return;
-    recent_.Add(FullPath(fileName));
+    services_.Guard().Run(sMenuRecent, [&] { recent_.Add(FullPath(fileName)); });
     FillRecentMenu();
   });
 }

@@ -31,6 +31,8 @@ class TMainFrame final : public wxFrame, public ISessionUi {
   void AddMessage(const std::string& line);
   /// Opens a file for the user: failures become a message box.
   void OpenForUser(const std::string& fileName);
+  /// Offers the windows that packages have created in the View menu.
+  void OfferPackageWindows();
   /// Looks for files that other programs changed.
   void LookAtDisk();
 
@@ -125,6 +127,7 @@ class TMainFrame final : public wxFrame, public ISessionUi {
   std::unique_ptr<TMenuBridge> menus_;
   std::unique_ptr<TFindReplace> find_;
   wxMenu* recentMenu_ = nullptr;
+  wxMenu* viewMenu_ = nullptr;
   wxSplitterWindow* columns_ = nullptr;
   wxSplitterWindow* rows_ = nullptr;
   wxPanel* treePanel_ = nullptr;

@@ -19,6 +19,7 @@
 #include "workbench/windows/OptionsDialog.h"
 #include "workbench/windows/ProjectTree.h"
 #include "workbench/windows/Version.h"
+#include "workbench/windows/WindowMenu.h"
 
 namespace {
 
@@ -167,8 +168,10 @@ wxMenu* TMainFrame::CreateMenu(const TCommandMenu& description) {
 
 void TMainFrame::CreateMenus() {
   auto* bar = new wxMenuBar;
-  for (const auto& description : CommandMenus())
+  for (const auto& description : CommandMenus()) {
     bar->Append(CreateMenu(description), Text(description.Caption));
+    if (description.Caption.Text == sMenuView.Text) viewMenu_ = bar->GetMenu(bar->GetMenuCount() - 1);
+  }
   SetMenuBar(bar);
   Bind(wxEVT_MENU, &TMainFrame::OnCommand, this, cmFirst, cmRecentLast);
   Bind(wxEVT_UPDATE_UI, &TMainFrame::OnUpdateCommand, this, cmFirst, cmLast);
@@ -412,3 +415,5 @@ void TMainFrame::AddWizards() {
                                                      [this] { Attempt([this] { NewProject(); }); })),
   };
 }
+
+void TMainFrame::OfferPackageWindows() { AppendPackageWindows(*this, *viewMenu_); }

@@ -13,8 +13,12 @@ constexpr int kMenuImageSize = 16;
 struct TMenuBridge::TTopMenu {
   TMenuItem* Top;
   wxMenu* Menu;
-  std::vector<std::pair<const TMenuItem*, wxMenuItem*>>
-      Shown;  // separators too; submenus' items behind their parent
+  struct TRow {
+    const TMenuItem* Item;
+    int Image;
+    wxMenuItem* Shown;
+  };
+  std::vector<TRow> Rows;  // separators too; submenus' items behind their parent
 };
 
 TMenuBridge::TMenuBridge(wxFrame& frame, const TPackageGuard& guard)
@@ -45,6 +49,10 @@ void TMenuBridge::RemoveMenu(TMenuItem& top) {
 
 namespace {
 
+int ImageIndexOf(const TMenuItem& item) {
+  return item.ImageIndex < 0 && item.Action ? item.Action->ImageIndex : item.ImageIndex;
+}
+
 /// The visible items below `items`, depth first: what a filled menu shows.
 void CollectRows(const std::vector<TMenuItem*>& items, std::vector<const TMenuItem*>& rows) {
   for (const TMenuItem* item : VisibleRows(items)) {
@@ -59,17 +67,20 @@ void TMenuBridge::Refresh(TTopMenu& top) {
   if (top.Top->OnClick) guard_.Run(top.Top->Name, [&] { top.Top->OnClick(); });
   std::vector<const TMenuItem*> rows;
   CollectRows(top.Top->Items, rows);
-  if (!std::ranges::equal(rows, top.Shown, {}, {}, [](const auto& shown) { return shown.first; })) {
-    // Another set of items.  Only then: rebuilding an opening menu makes it flicker.
-    top.Shown.clear();
+  const auto same = [](const TMenuItem* item, const TTopMenu::TRow& row) {
+    return item == row.Item && ImageIndexOf(*item) == row.Image;
+  };
+  if (!std::ranges::equal(rows, top.Rows, same)) {
+    // Other items, or a picture where there was none.  Only then: rebuilding an opening menu makes it flicker.
+    top.Rows.clear();
     while (top.Menu->GetMenuItemCount() > 0) top.Menu->Destroy(top.Menu->FindItemByPosition(0));
     Fill(top, *top.Menu, top.Top->Items);
   }
-  for (const auto& [item, shown] : top.Shown) {
-    if (item->IsSeparator()) continue;
-    const wxString caption = wxString::FromUTF8(item->ShownCaption());
-    if (shown->GetItemLabel() != caption) shown->SetItemLabel(caption);
-    shown->Enable(item->IsEnabled());
+  for (const auto& row : top.Rows) {
+    if (row.Item->IsSeparator()) continue;
+    const wxString caption = wxString::FromUTF8(row.Item->ShownCaption());
+    if (row.Shown->GetItemLabel() != caption) row.Shown->SetItemLabel(caption);
+    row.Shown->Enable(row.Item->IsEnabled());
   }
 }
 
@@ -79,26 +90,22 @@ void TMenuBridge::Fill(TTopMenu& top, wxMenu& menu, const std::vector<TMenuItem*
 
 void TMenuBridge::AppendItem(TTopMenu& top, wxMenu& menu, const TMenuItem& item) {
   if (item.IsSeparator()) {
-    top.Shown.emplace_back(&item, menu.AppendSeparator());
+    top.Rows.push_back({&item, ImageIndexOf(item), menu.AppendSeparator()});
     return;
   }
   auto submenu = item.Items.empty() ? nullptr : std::make_unique<wxMenu>();
   auto* shown = new wxMenuItem(&menu, wxID_ANY, wxString::FromUTF8(item.ShownCaption()), "", wxITEM_NORMAL,
                                submenu.get());
-  if (const auto image = ImageOf(item); image.IsOk()) shown->SetBitmap(image);
+  if (const auto image = ImageAt(ImageIndexOf(item)); image.IsOk()) shown->SetBitmap(image);
   menu.Append(shown);
   shown->Enable(item.IsEnabled());
-  top.Shown.emplace_back(&item, shown);
+  top.Rows.push_back({&item, ImageIndexOf(item), shown});
   if (submenu) Fill(top, *submenu.release(), item.Items);
 }
 
 wxBitmapBundle TMenuBridge::ImageAt(int index) const {
   const bool known = index >= 0 && static_cast<std::size_t>(index) < images_.size();
   return known ? images_[static_cast<std::size_t>(index)] : wxBitmapBundle();
-}
-
-wxBitmapBundle TMenuBridge::ImageOf(const TMenuItem& item) const {
-  return ImageAt(item.ImageIndex < 0 && item.Action ? item.Action->ImageIndex : item.ImageIndex);
 }
 
 void TMenuBridge::RefreshAll() {
@@ -137,9 +144,9 @@ void TMenuBridge::OnMenuOpen(wxMenuEvent& event) {
 
 void TMenuBridge::OnMenu(wxCommandEvent& event) {
   for (const auto& top : tops_)
-    for (const auto& [item, shown] : top->Shown) {
-      if (item->IsSeparator() || shown->GetId() != event.GetId()) continue;
-      const TMenuItem& clicked = *item;  // its click may rebuild or remove the menu
+    for (const auto& row : top->Rows) {
+      if (row.Item->IsSeparator() || row.Shown->GetId() != event.GetId()) continue;
+      const TMenuItem& clicked = *row.Item;  // its click may rebuild or remove the menu
       if (clicked.IsEnabled()) guard_.Run(clicked.Name, [&] { clicked.Click(); });
       return;
     }

@@ -42,7 +42,6 @@ class TMenuBridge final : public IOTAMenuServices {
   void Refresh(TTopMenu& top);
   void Fill(TTopMenu& top, wxMenu& menu, const std::vector<TMenuItem*>& items);
   void AppendItem(TTopMenu& top, wxMenu& menu, const TMenuItem& item);
-  wxBitmapBundle ImageOf(const TMenuItem& item) const;
   void OnMenuOpen(wxMenuEvent& event);
   void OnMenu(wxCommandEvent& event);
 
