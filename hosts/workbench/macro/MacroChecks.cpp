@@ -2,6 +2,8 @@
 #include <wx/listctrl.h>
 #include <wx/menu.h>
 
+#include <stdexcept>
+
 #include "host/System.h"
 #include "workbench/macro/MacroControls.h"
 #include "workbench/macro/MacroMenus.h"
@@ -49,7 +51,7 @@ std::pair<std::string, int> RunInShell(const std::string& command) {
   quoted.Replace("\"", "\\\"");
   wxArrayString lines;
   wxArrayString errors;
-  const long code = wxExecute("/bin/sh -c \"" + quoted + "\"", lines, errors, wxEXEC_SYNC | wxEXEC_NODISABLE);
+  const long code = wxExecute("/bin/sh -c \"" + quoted + "\"", lines, errors, wxEXEC_BLOCK);
   std::string said;
   for (const auto* part : {&lines, &errors})
     for (const auto& text : *part) said += "    " + text.utf8_string() + "\n";
@@ -133,7 +135,8 @@ std::string TMacroPlayer::DoPrintMessages(const TArguments&) {
 
 std::string TMacroPlayer::DoRun(const TArguments& arguments) {
   const auto [said, code] = RunInShell(arguments[0]);
-  if (code != 0) return Format(sCommandFailed, {code, said});
+  // Thrown, not answered: a command that failed is not run again.
+  if (code != 0) throw std::runtime_error(Format(sCommandFailed, {code, said}));
   std::fputs(said.c_str(), stdout);
   return {};
 }
