@@ -1,0 +1,57 @@
+// One file or folder of the repository, in any revision.  A `place` is a local path inside a working copy, or an
+// address.  All of this asks the repository unless said otherwise, and throws Failure.
+#pragma once
+
+#include <svn_types.h>
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "Client.h"
+
+namespace svnscc {
+
+svn_opt_revision_t Newest();
+/// What the working copy has of it, without the local changes.  Local paths only; nothing is asked.
+svn_opt_revision_t Pristine();
+svn_opt_revision_t Numbered(svn_revnum_t revision);
+
+struct Contents {
+  std::string Bytes;
+  bool IsBinary = false;  // by its type property, or because it holds a NUL
+};
+/// The contents as they would stand on disk: line ends and keywords as the file's properties want them.
+Contents ContentsOf(Client& client, const std::string& place, const svn_opt_revision_t& revision);
+/// The local file as it is.
+Contents ContentsOnDisk(const std::string& path);
+
+struct LockFacts {
+  std::string Owner;  // empty: not locked
+  std::string Comment;
+  apr_time_t Since = 0;
+};
+
+struct NodeFacts {
+  std::string Url;
+  std::string Path;  // in the repository, "/" for its root
+  bool IsFolder = false;
+  svn_revnum_t Revision = SVN_INVALID_REVNUM;
+  svn_revnum_t ChangedRevision = SVN_INVALID_REVNUM;
+  apr_time_t ChangedAt = 0;
+  std::string ChangedBy;
+  LockFacts Lock;
+};
+NodeFacts FactsOf(Client& client, const std::string& place, const svn_opt_revision_t& revision);
+/// The same from the working copy: nothing is asked.
+NodeFacts LocalFactsOf(Client& client, const std::string& path);
+
+/// Versioned properties, by name.
+using PropertyList = std::vector<std::pair<std::string, std::string>>;
+PropertyList PropertiesOf(Client& client, const std::string& place, const svn_opt_revision_t& revision);
+
+LockFacts ToLockFacts(const svn_lock_t* lock);
+/// A moment on the user's clock, "2026-11-21 14:05:33"; empty for 0.
+std::string LocalTime(apr_time_t when);
+
+}  // namespace svnscc

@@ -1,0 +1,136 @@
+// The rules of the side-by-side view.
+#include <gmock/gmock.h>
+
+#include <random>
+
+#include "subversion/Client.h"
+#include "subversion/FileDiff.h"
+
+using svnscc::DiffKind;
+using svnscc::DiffOptions;
+using svnscc::FileDiff;
+using svnscc::LineEnds;
+
+namespace {
+
+constexpr DiffOptions kExact{};
+constexpr DiffOptions kNoCase{true, false};
+constexpr DiffOptions kNoSpace{false, true};
+
+/// The rows as text: "a|a  b*B  -|c".
+std::string Picture(const FileDiff& diff) {
+  std::string picture;
+  for (const auto& row : diff.Rows()) {
+    const char sign = "|*+-"[static_cast<int>(row.Kind)];
+    const auto side = [](int line, std::string_view text) {
+      return line < 0 ? std::string("~") : std::string(text);
+    };
+    picture += (picture.empty() ? "" : "  ") + side(row.Left, diff.LeftText(row)) + sign +
+               side(row.Right, diff.RightText(row));
+  }
+  return picture;
+}
+
+struct Row {
+  const char* what;
+  const char* left;
+  const char* right;
+  DiffOptions options;
+  const char* picture;
+  bool same;
+  LineEnds ends;
+};
+
+struct FileDiffs : testing::TestWithParam<Row> {
+  void SetUp() override { svnscc::EnsureRuntime(); }
+};
+
+std::string Lines(int count, const std::function<std::string(int)>& line) {
+  std::string text;
+  for (int i = 0; i < count; ++i) text += line(i) + "\n";
+  return text;
+}
+
+}  // namespace
+
+TEST_P(FileDiffs, AlignBothSides) {
+  const Row& row = GetParam();
+  const FileDiff diff(row.left, row.right, row.options);
+  EXPECT_EQ(row.picture, Picture(diff));
+  EXPECT_EQ(row.same, diff.Same());
+  EXPECT_EQ(row.ends, diff.Ends());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    All, FileDiffs,
+    testing::Values(
+        Row{"both empty", "", "", kExact, "", true, LineEnds::Alike},
+        Row{"left empty", "", "a\nb\n", kExact, "~+a  ~+b", false, LineEnds::Alike},
+        Row{"right empty", "a\n", "", kExact, "a-~", false, LineEnds::Alike},
+        Row{"equal", "a\nb\n", "a\nb\n", kExact, "a|a  b|b", true, LineEnds::Alike},
+        Row{"one changed", "a\nb\nc\n", "a\nB\nc\n", kExact, "a|a  b*B  c|c", false, LineEnds::Alike},
+        Row{"changed and longer", "a\nb\nz\n", "a\nx\ny\nz\n", kExact, "a|a  b*x  ~+y  z|z", false,
+            LineEnds::Alike},
+        Row{"changed and shorter", "b\nc\nz\n", "x\nz\n", kExact, "b*x  c-~  z|z", false, LineEnds::Alike},
+        Row{"case", "Größe\n", "GRÖßE\n", kExact, "Größe*GRÖßE", false, LineEnds::Alike},
+        Row{"case ignored", "Größe\nx\n", "GRÖßE\ny\n", kNoCase, "Größe|GRÖßE  x*y", false, LineEnds::Alike},
+        Row{"space ignored", "if (a)\n", "if( a )\t\n", kNoSpace, "if (a)|if( a )\t", true, LineEnds::Alike},
+        Row{"space matters", "a b\n", "a  b\n", kNoCase, "a b*a  b", false, LineEnds::Alike},
+        Row{"other line ends", "a\nb\n", "a\r\nb\r\n", kExact, "a|a  b|b", false, LineEnds::OtherStyle},
+        Row{"other line ends are space", "a\nb\n", "a\r\nb\r\n", kNoSpace, "a|a  b|b", true,
+            LineEnds::OtherStyle},
+        Row{"one line end differs", "a\nb\n", "a\nb\r\n", kExact, "a|a  b|b", false, LineEnds::Alike},
+        Row{"old line ends", "a\rb\r", "a\rb\r", kExact, "a|a  b|b", true, LineEnds::Alike},
+        Row{"last line not ended", "a\nb", "a\nb\n", kExact, "a|a  b|b", false, LineEnds::LeftUnended},
+        Row{"neither last line ended", "a\nb", "a\nc", kExact, "a|a  b*c", false, LineEnds::Alike},
+        Row{"end missing is space", "a\n", "a", kNoSpace, "a|a", true, LineEnds::RightUnended},
+        Row{"blank lines", "a\n\n\nb\n", "a\n\nb\n", kExact, "a|a  |  -~  b|b", false, LineEnds::Alike}),
+    [](const auto& parameter) {
+      std::string name = parameter.param.what;
+      std::replace(name.begin(), name.end(), ' ', '_');
+      return name;
+    });
+
+TEST(FileDiff, WalksFromDifferenceToDifference) {
+  svnscc::EnsureRuntime();
+  FileDiff diff("1\nb\nc\n2\nd\n", "one\nb\nc\ntwo\nd\ne\n", kExact);
+  EXPECT_THAT(diff.Differences(), testing::ElementsAre(0, 3, 5));
+  EXPECT_EQ(3U, diff.Next(0));
+  EXPECT_EQ(5U, diff.Next(4));
+  EXPECT_EQ(std::nullopt, diff.Next(5));
+  EXPECT_EQ(3U, diff.Previous(5));
+  EXPECT_EQ(0U, diff.Previous(1));
+  EXPECT_EQ(std::nullopt, diff.Previous(0));
+  diff.Compare(kNoCase);
+  EXPECT_EQ(3U, diff.Differences().size());
+}
+
+TEST(FileDiff, ChangedPartsKeepCharactersWhole) {
+  const auto parts = [](std::string left, std::string right) {
+    const auto [a, b] = svnscc::ChangedParts(left, right);
+    return left.substr(a.Start, a.Length) + "/" + right.substr(b.Start, b.Length);
+  };
+  EXPECT_EQ("old/new", parts("x := old;", "x := new;"));
+  EXPECT_EQ("/s", parts("file", "files"));
+  EXPECT_EQ("ä/ö", parts("kännen", "können"));  // one byte in common
+  EXPECT_EQ("ä/Τ", parts("xäy", "xΤy"));        // the other one
+  EXPECT_EQ("/a", parts("aa", "aaa"));
+}
+
+// The bound is on work: a quadratic comparison of these would not come back.
+TEST(FileDiff, HandlesTheLongestFiles) {
+  svnscc::EnsureRuntime();
+  constexpr int kCount = 65536;
+  std::mt19937 random(1);
+  const auto mixed = [&](int) {
+    return random() % 3 == 0 ? std::string("  end;") : "line " + std::to_string(random());
+  };
+  const std::string left = Lines(kCount, mixed);
+  const std::string right = Lines(kCount, mixed);
+  const FileDiff different(left, right, kExact);
+  EXPECT_FALSE(different.Same());
+  const FileDiff reversed(Lines(kCount, [](int i) { return std::to_string(i); }),
+                          Lines(kCount, [](int i) { return std::to_string(kCount - i); }), kNoCase);
+  EXPECT_GE(reversed.Rows().size(), std::size_t{kCount});
+  EXPECT_TRUE(FileDiff(left, left, kNoSpace).Same());
+}
