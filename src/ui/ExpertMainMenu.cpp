@@ -6,10 +6,11 @@
 #include "expert/SccExpertStrings.h"
 #include "expert/SccSystem.h"
 #include "ui/ExpertMainMenuStrings.h"
+#include "ui/MenuImages.h"
 
 namespace {
 
-constexpr const char* kCategory = "Team";
+constexpr int kNoImage = -1;
 
 TMenuItem Item(const char* name, TAction& action, const char* caption = "") {
   TMenuItem item;
@@ -27,10 +28,11 @@ TMenuItem Separator(const char* name) {
 }
 
 /// An item without an action of its own, hidden and disabled until somebody shows it.
-TMenuItem HiddenItem(const char* name, const char* caption, std::function<void()> onClick) {
+TMenuItem HiddenItem(const char* name, const char* caption, int image, std::function<void()> onClick) {
   TMenuItem item;
   item.Name = name;
   item.Caption = caption;
+  item.ImageIndex = image;
   item.Enabled = item.Visible = false;
   item.OnClick = std::move(onClick);
   return item;
@@ -44,24 +46,39 @@ IOTAMenuServices& MenuServices() {
 
 }  // namespace
 
-TExpertMainMenuModule::TExpertMainMenuModule(TSccExpert& expert) : expert_(expert) {
-  auto& services = MenuServices();
-  CreateActions();
-  CreateItems();
-  for (auto* action : Actions()) services.AttachAction(*action);
-  services.InsertMenu(Map);
-}
+TExpertMainMenuModule::TExpertMainMenuModule(TSccExpert& expert) : expert_(expert) { DataModuleCreate(); }
 
 TExpertMainMenuModule::~TExpertMainMenuModule() {
   auto* services = IdeService<IOTAMenuServices>();
   if (!services) return;
-  services->RemoveMenu(Map);
-  for (auto* action : Actions()) services->DetachAction(*action);
+  services->RemoveFileMenu(file_menu_);
+  for (auto* top : ExpertMainMenu) services->RemoveMenu(*top);
+  for (auto* action : ExpertActionList) services->DetachAction(*action);
 }
 
-std::vector<TAction*> TExpertMainMenuModule::Actions() {
-  return {&actPlaceProject,  &actPullProject,       &actAddFiles,  &actRemoveFiles,   &actCheckInFiles,
-          &actCheckOutFiles, &actUndoCheckOutFiles, &actRunSccApp, &actCommitBrowser, &actMessages};
+void TExpertMainMenuModule::DataModuleCreate() {
+  CreateActions();
+  CreateItems();
+  SetActionList();
+  InstallMenuItems();
+}
+
+void TExpertMainMenuModule::SetActionList() {
+  auto& services = MenuServices();
+  // Each action has a copy of its own, also where two share a picture: the host may repaint one and not the other.
+  for (auto* action : ExpertActionList)
+    if (action->ImageIndex != kNoImage)
+      action->ImageIndex = services.AddImage(MenuImageDocument(action->ImageIndex));
+  for (auto* action : ExpertActionList) services.AttachAction(*action);
+}
+
+void TExpertMainMenuModule::InstallMenuItems() {
+  auto& services = MenuServices();
+  for (auto* item : {&ShowDifferences1, &ShowHistory1})
+    item->ImageIndex = services.AddImage(MenuImageDocument(item->ImageIndex));
+  CreateFileMenu();  // its items show the host's copies
+  for (auto* top : ExpertMainMenu) services.InsertMenu(*top);
+  services.InsertFileMenu(file_menu_);
 }
 
 void TExpertMainMenuModule::CreateActions() {
@@ -74,38 +91,44 @@ void TExpertMainMenuModule::CreateActions() {
     const char* Name;
     TResString Caption;
     bool Enabled;
+    int Image;
     TResString Error;
     std::function<void(TSccExpert&)> Command;
   };
   const TRow rows[] = {
-      {actPlaceProject, "actPlaceProject", sActPlaceProject, false, sPlaceProjectError,
+      {actPlaceProject, "actPlaceProject", sActPlaceProject, false, 5, sPlaceProjectError,
        &TSccExpert::PlaceProject},
-      {actPullProject, "actPullProject", sActPullProject, false, sPullProjectError,
+      {actPullProject, "actPullProject", sActPullProject, false, 4, sPullProjectError,
        &TSccExpert::PullProjectWizard},
-      {actAddFiles, "actAddFiles", sActAddFiles, true, sAddFilesError, project(&TSccExpert::AddFiles)},
-      {actRemoveFiles, "actRemoveFiles", sActRemoveFiles, true, sRemoveFilesError,
+      {actAddFiles, "actAddFiles", sActAddFiles, true, 1, sAddFilesError, project(&TSccExpert::AddFiles)},
+      {actRemoveFiles, "actRemoveFiles", sActRemoveFiles, true, 6, sRemoveFilesError,
        project(&TSccExpert::RemoveFiles)},
-      {actCheckInFiles, "actCheckInFiles", sActCheckInFiles, true, sCheckFilesInError,
+      {actCheckInFiles, "actCheckInFiles", sActCheckInFiles, true, 1, sCheckFilesInError,
        project(&TSccExpert::CheckInFiles)},
-      {actCheckOutFiles, "actCheckOutFiles", sActCheckOutFiles, true, sCheckFilesOutError,
+      {actCheckOutFiles, "actCheckOutFiles", sActCheckOutFiles, true, 2, sCheckFilesOutError,
        project(&TSccExpert::CheckOutFiles)},
-      {actUndoCheckOutFiles, "actUndoCheckOutFiles", sActUndoCheckOutFiles, true, sUndoFilesCheckOutError,
+      {actUndoCheckOutFiles, "actUndoCheckOutFiles", sActUndoCheckOutFiles, true, 8, sUndoFilesCheckOutError,
        project(&TSccExpert::UndoCheckOut)},
-      {actRunSccApp, "actRunSccApp", sActRunSccApp, true, sRunSccAppError, &TSccExpert::RunSccApp},
-      {actCommitBrowser, "actCommitBrowser", sActCommitBrowser, true, sCommitBrowserError,
+      {actRunSccApp, "actRunSccApp", sActRunSccApp, true, 7, sRunSccAppError, &TSccExpert::RunSccApp},
+      {actCommitBrowser, "actCommitBrowser", sActCommitBrowser, true, 3, sCommitBrowserError,
        &TSccExpert::CommitBrowser},
-      {actMessages, "actMessages", sActMessages, true, sMessagesError, &TSccExpert::ViewMessages},
+      {actMessages, "actMessages", sActMessages, true, kNoImage, sMessagesError, &TSccExpert::ViewMessages},
+      {act_get_files_, "actGetFiles", sItemGetFiles, true, 9, sGetLatestVersionError,
+       project(&TSccExpert::GetLatestVersion)},
   };
   for (const auto& row : rows) {
     auto& action = row.Action;
     action.Name = row.Name;
     action.Caption = row.Caption;
-    action.Category = kCategory;
+    action.Category = sTeam;
+    action.ImageIndex = row.Image;
     action.Enabled = row.Enabled;
     action.OnExecute = [this, command = row.Command, error = row.Error] {
       expert_.RunCommand(error.Text, [&] { command(expert_); });
     };
+    ExpertActionList.push_back(&action);
   }
+  act_get_files_.OnExecute = [this] { actGetFilesExecute(); };
 }
 
 void TExpertMainMenuModule::CreateItems() {
@@ -121,9 +144,10 @@ void TExpertMainMenuModule::CreateItems() {
   MainSep3 = Separator("MainSep3");
   MainSep3.Visible = false;
   ShowDifferences1 =
-      HiddenItem("ShowDifferences1", sItemShowDifferences.Text, [this] { actShowDiffExecute(); });
-  GetFiles = HiddenItem("GetFiles", sItemGetFiles.Text, [this] { actGetFilesExecute(); });
-  ShowHistory1 = HiddenItem("ShowHistory1", sItemShowHistory.Text, [this] { actShowHistoryExecute(); });
+      HiddenItem("ShowDifferences1", sItemShowDifferences.Text, 18, [this] { actShowDiffExecute(); });
+  GetFiles = Item("GetFiles", act_get_files_);
+  GetFiles.Enabled = GetFiles.Visible = false;
+  ShowHistory1 = HiddenItem("ShowHistory1", sItemShowHistory.Text, 19, [this] { actShowHistoryExecute(); });
   MainSep4 = Separator("MainSep4");
   Messages1 = Item("Messages1", actMessages);
   RunSccApplication1 = Item("RunSccApplication1", actRunSccApp);
@@ -137,12 +161,41 @@ void TExpertMainMenuModule::CreateItems() {
   Map.Items = {&CheckOutFiles, &CheckInFiles, &AddFiles,    &RemoveFiles,       &UndoCheckOutFiles, &MainSep2,
                &CommitBrowser, &PlaceProject, &PullProject, &MainSep3,          &ShowDifferences1,  &GetFiles,
                &ShowHistory1,  &MainSep4,     &Messages1,   &RunSccApplication1};
+  ExpertMainMenu = {&Map};
+}
+
+void TExpertMainMenuModule::CreateFileMenu() {
+  const auto item = [this](const std::string& caption, int image, TFileHandler handler) {
+    return TFileMenu::TItem{caption, image, [=, this](const std::string& file) { (this->*handler)(file); }};
+  };
+  const auto action = [&](const TAction& shown, TFileHandler handler) {
+    return item(shown.Caption, shown.ImageIndex, handler);
+  };
+  using TModule = TExpertMainMenuModule;
+  file_menu_.Caption = sTeam;
+  file_menu_.Items = {
+      action(actCheckOutFiles, &TModule::actCheckOutSingleExecute),
+      action(actCheckInFiles, &TModule::actCheckInSingleExecute),
+      action(actAddFiles, &TModule::actAddSingleExecute),
+      action(actRemoveFiles, &TModule::actRemoveSingleExecute),
+      action(actUndoCheckOutFiles, &TModule::actUndoCheckOutSingleExecute),
+      {sSeparator, kNoImage, {}},
+      item(ShowDifferences1.Caption, ShowDifferences1.ImageIndex, &TModule::ShowDiffSingle),
+      action(act_get_files_, &TModule::actGetSingleExecute),
+      item(ShowHistory1.Caption, ShowHistory1.ImageIndex, &TModule::ShowHistorySingle),
+      item(sItemProperties, kNoImage, &TModule::PropertiesSingle),
+  };
+  file_menu_.IsEnabled = [this](const std::string& fileName) {
+    const auto* providers = expert_.ProviderList();
+    return !Trim(fileName).empty() && providers && providers->CurrentProject();
+  };
 }
 
 void TExpertMainMenuModule::EnableMenus(bool enable) {
   for (auto* item : {&CheckOutFiles, &CheckInFiles, &AddFiles, &RemoveFiles, &UndoCheckOutFiles,
                      &CommitBrowser, &RunSccApplication1})
     item->Enabled = item->Action->Enabled = enable;
+  act_get_files_.Enabled = enable;
   actPullProject.Enabled = PullProject.Enabled = true;  // pulling needs no open project
   actMessages.Visible = Messages1.Visible = false;      // meant, in both cases
 }
@@ -168,30 +221,37 @@ void TExpertMainMenuModule::MapClick() {
 }
 
 void TExpertMainMenuModule::actGetFilesExecute() { actGetSingleExecute({}); }
+void TExpertMainMenuModule::actShowDiffExecute() { ShowDiffSingle(rv_GetCurrentFile()); }
+void TExpertMainMenuModule::actShowHistoryExecute() { ShowHistorySingle(rv_GetCurrentFile()); }
 
-void TExpertMainMenuModule::actShowDiffExecute() {
-  expert_.RunCommand(sShowDiffError.Text, [this] { expert_.ShowDiff(rv_GetCurrentFile()); });
+void TExpertMainMenuModule::Run(const TResString& error, void (TSccExpert::*command)(const std::string&),
+                                const std::string& fileName) {
+  expert_.RunCommand(error.Text, [&] { (expert_.*command)(fileName); });
 }
-
-void TExpertMainMenuModule::actShowHistoryExecute() {
-  expert_.RunCommand(sShowHistoryError.Text, [this] { expert_.ShowHistory(rv_GetCurrentFile()); });
-}
-
 void TExpertMainMenuModule::actAddSingleExecute(const std::string& fileName) {
-  expert_.RunCommand(sAddFilesError.Text, [&] { expert_.AddFiles(fileName); });
+  Run(sAddFilesError, &TSccExpert::AddFiles, fileName);
 }
 void TExpertMainMenuModule::actRemoveSingleExecute(const std::string& fileName) {
-  expert_.RunCommand(sRemoveFilesError.Text, [&] { expert_.RemoveFiles(fileName); });
+  Run(sRemoveFilesError, &TSccExpert::RemoveFiles, fileName);
 }
 void TExpertMainMenuModule::actGetSingleExecute(const std::string& fileName) {
-  expert_.RunCommand(sGetLatestVersionError.Text, [&] { expert_.GetLatestVersion(fileName); });
+  Run(sGetLatestVersionError, &TSccExpert::GetLatestVersion, fileName);
 }
 void TExpertMainMenuModule::actCheckInSingleExecute(const std::string& fileName) {
-  expert_.RunCommand(sCheckFilesInError.Text, [&] { expert_.CheckInFiles(fileName); });
+  Run(sCheckFilesInError, &TSccExpert::CheckInFiles, fileName);
 }
 void TExpertMainMenuModule::actCheckOutSingleExecute(const std::string& fileName) {
-  expert_.RunCommand(sCheckFilesOutError.Text, [&] { expert_.CheckOutFiles(fileName); });
+  Run(sCheckFilesOutError, &TSccExpert::CheckOutFiles, fileName);
 }
 void TExpertMainMenuModule::actUndoCheckOutSingleExecute(const std::string& fileName) {
-  expert_.RunCommand(sUndoFilesCheckOutError.Text, [&] { expert_.UndoCheckOut(fileName); });
+  Run(sUndoFilesCheckOutError, &TSccExpert::UndoCheckOut, fileName);
+}
+void TExpertMainMenuModule::ShowDiffSingle(const std::string& fileName) {
+  Run(sShowDiffError, &TSccExpert::ShowDiff, fileName);
+}
+void TExpertMainMenuModule::ShowHistorySingle(const std::string& fileName) {
+  Run(sShowHistoryError, &TSccExpert::ShowHistory, fileName);
+}
+void TExpertMainMenuModule::PropertiesSingle(const std::string& fileName) {
+  Run(sPropertiesError, &TSccExpert::Properties, fileName);
 }

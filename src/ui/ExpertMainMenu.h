@@ -1,7 +1,11 @@
 // The "Team" menu: its items, actions and the rules that enable them.  No windows: the host shows the menu.
 #pragma once
 
+#include <string>
+#include <vector>
+
 #include "host/Menus.h"
+#include "host/Text.h"
 
 class TSccExpert;
 
@@ -22,7 +26,7 @@ class TExpertMainMenuModule {
   /// Shows the provider's application only when the provider has one; does nothing without a provider.
   void SetMenuCapabilities();
 
-  // Handlers of the per-file variants, for the host's context menus.
+  // Handlers of the per-file variants, for the host's menus of files.
   void actAddSingleExecute(const std::string& fileName);
   void actRemoveSingleExecute(const std::string& fileName);
   void actGetSingleExecute(const std::string& fileName);
@@ -30,6 +34,8 @@ class TExpertMainMenuModule {
   void actCheckOutSingleExecute(const std::string& fileName);
   void actUndoCheckOutSingleExecute(const std::string& fileName);
 
+  std::vector<TMenuItem*> ExpertMainMenu;  ///< what goes into the host's main menu: Map
+  std::vector<TAction*> ExpertActionList;  ///< what goes into the host's action list
   TMenuItem Map;
   TMenuItem MainSep2, MainSep3, MainSep4;
   TMenuItem PlaceProject, PullProject, CommitBrowser;
@@ -41,13 +47,28 @@ class TExpertMainMenuModule {
   TAction actRunSccApp, actCommitBrowser, actMessages;
 
  private:
+  using TFileHandler = void (TExpertMainMenuModule::*)(const std::string& fileName);
+
+  void DataModuleCreate();
+  void CreateActions();
+  void CreateItems();
+  /// Gives the host the actions, each with a copy of its picture.
+  void SetActionList();
+  void InstallMenuItems();
+  void CreateFileMenu();
+
   void MapClick();
   void actGetFilesExecute();
   void actShowDiffExecute();
   void actShowHistoryExecute();
-  void CreateActions();
-  void CreateItems();
-  std::vector<TAction*> Actions();
+  void ShowDiffSingle(const std::string& fileName);
+  void ShowHistorySingle(const std::string& fileName);
+  void PropertiesSingle(const std::string& fileName);
+  /// Runs a command of the expert for one file, or for the whole project when the name is empty.
+  void Run(const TResString& error, void (TSccExpert::*command)(const std::string&),
+           const std::string& fileName);
 
   TSccExpert& expert_;
+  TAction act_get_files_;  // of GetFiles, which the menu hides: the action list has it all the same
+  TFileMenu file_menu_;
 };

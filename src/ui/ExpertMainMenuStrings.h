@@ -25,6 +25,20 @@ constexpr TResString sItemShowDifferences{"Show Differences..."};
 constexpr TResString sItemGetFiles{"Get Latest Version"};
 constexpr TResString sItemShowHistory{"Show History..."};
 
+// Items of the menu of one file; the others are called as in the menu above.
+constexpr TResString sItemProperties{"Properties..."};
+
+// Names of the pictures that the pictured commands bring into the host's image list.
+constexpr TResString sSCC0{"SCC0"};
+constexpr TResString sSCC1{"SCC1"};
+constexpr TResString sSCC2{"SCC2"};
+constexpr TResString sSCC3{"SCC3"};
+constexpr TResString sSCC4{"SCC4"};
+constexpr TResString sSCC5{"SCC5"};
+constexpr TResString sSCC6{"SCC6"};
+constexpr TResString sSCC7{"SCC7"};
+constexpr TResString sSCC8{"SCC8"};
+
 // What a handler writes when its command ends early; %s is the reason.
 constexpr TResString sMainMenuError{"MainMenu; %s"};
 constexpr TResString sPlaceProjectError{"PlaceProjectClick; %s"};
@@ -40,3 +54,4 @@ constexpr TResString sCommitBrowserError{"CommitBrowserClick; %s"};
 constexpr TResString sMessagesError{"MessagesClick; %s"};
 constexpr TResString sShowDiffError{"ShowDiffClick; %s"};
 constexpr TResString sShowHistoryError{"ShowHistoryClick; %s"};
+constexpr TResString sPropertiesError{"PropertiesClick; %s"};

@@ -1,6 +1,9 @@
 // What the "Team" menu offers when it opens.
+#include <set>
+
 #include "expert/ExpertFixture.h"
 #include "host/System.h"
+#include "ui/MenuImages.h"
 
 namespace {
 
@@ -101,6 +104,107 @@ TEST_F(TeamMenu, RunSccGoesWithTheCapability) {
   Open();
   Drop();
   EXPECT_THAT(Enabled(), Not(Contains(kRun)));
+}
+
+TEST_F(TeamMenu, GivesTheHostAPictureForEachActionOfItsOwn) {
+  auto& menu = *Start().Menu();
+  EXPECT_EQ(host_.Actions.size(), 11u);
+  // The picture that the host has where the action or item says.
+  const auto shown = [this](int index) {
+    return host_.Images.at(static_cast<std::size_t>(index - TScriptedHost::kFirstImage));
+  };
+  const struct {
+    int Image;
+    int ImageIndex;
+  } rows[] = {
+      {5, menu.actPlaceProject.ImageIndex},      {4, menu.actPullProject.ImageIndex},
+      {1, menu.actAddFiles.ImageIndex},          {6, menu.actRemoveFiles.ImageIndex},
+      {1, menu.actCheckInFiles.ImageIndex},      {2, menu.actCheckOutFiles.ImageIndex},
+      {8, menu.actUndoCheckOutFiles.ImageIndex}, {7, menu.actRunSccApp.ImageIndex},
+      {3, menu.actCommitBrowser.ImageIndex},     {9, menu.GetFiles.Action->ImageIndex},
+      {18, menu.ShowDifferences1.ImageIndex},    {19, menu.ShowHistory1.ImageIndex},
+  };
+  std::set<int> indexes;
+  for (const auto& row : rows) {
+    EXPECT_EQ(shown(row.ImageIndex), MenuImageDocument(row.Image)) << row.Image;
+    indexes.insert(row.ImageIndex);
+  }
+  EXPECT_EQ(indexes.size(), 12u) << "no two share a copy";
+  EXPECT_EQ(host_.Images.size(), 12u);
+  EXPECT_EQ(menu.actMessages.ImageIndex, -1);
+}
+
+TEST_F(TeamMenu, LeavesTheHostAsItWas) {
+  Start();
+  expert_.reset();
+  EXPECT_THAT(host_.Menus, IsEmpty());
+  EXPECT_THAT(host_.FileMenus, IsEmpty());
+  EXPECT_THAT(host_.Actions, IsEmpty());
+}
+
+class FileMenu : public TeamMenu {
+ protected:
+  /// The user chooses a command in the menu of that file.
+  void Choose(const std::string& caption, const std::string& file) {
+    auto& items = host_.FileMenus.at(0)->Items;
+    const auto item = std::ranges::find(items, caption, &TFileMenu::TItem::Caption);
+    ASSERT_NE(item, items.end()) << caption;
+    item->OnExecute(file);
+  }
+};
+
+TEST_F(FileMenu, RunsTheCommandForThatFileAlone) {
+  Open();
+  provider_->StatusOf = [&](const std::string& file) { return Long{file == units_[1]}; };
+  const struct {
+    const char* Caption;
+    const char* Call;
+    bool Lists, Comments;
+  } rows[] = {
+      {kOut, "SccCheckout", true, true},
+      {kIn, "SccCheckin", true, true},
+      {kAdd, "SccAdd", true, true},
+      {kRemove, "SccRemove", true, false},
+      {kUndo, "SccUncheckout", true, false},
+      {"Show Differences...", "SccDiff", false, false},
+      {"Get Latest Version", "SccGet", true, false},
+      {"Show History...", "SccHistory", false, false},
+      {"Properties...", "SccProperties", false, false},
+  };
+  std::vector<std::string> captions;
+  for (const auto& item : host_.FileMenus.at(0)->Items)
+    if (item.Caption != "-") captions.push_back(item.Caption);
+  ASSERT_EQ(captions.size(), std::size(rows));
+  for (std::size_t i = 0; i < std::size(rows); ++i) {
+    const auto& row = rows[i];
+    SCOPED_TRACE(row.Caption);
+    EXPECT_EQ(captions[i], row.Caption) << "in the order of the Team menu";
+    if (row.Lists) WillTick({"unit2.pas"});
+    if (row.Comments) WillComment("why");
+    Choose(row.Caption, units_[1]);
+    EXPECT_THAT(NamesOf(provider_->Last(row.Call)), ElementsAre("unit2.pas"));
+    EXPECT_THAT(forms_.OnFileList, IsEmpty());
+    EXPECT_THAT(forms_.OnComments, IsEmpty());
+  }
+}
+
+TEST_F(FileMenu, IsThereOnlyWhileAProviderProjectIsOpen) {
+  Start();
+  const auto& menu = *host_.FileMenus.at(0);
+  EXPECT_FALSE(menu.IsEnabled(units_[0])) << "no project";
+  host_.AddProject(project_file_, units_);
+  host_.Notify(TOTAFileNotification::fnFileOpened, project_file_);
+  EXPECT_TRUE(menu.IsEnabled(units_[0]));
+  EXPECT_FALSE(menu.IsEnabled("")) << "a text that was never saved";
+  host_.Notify(TOTAFileNotification::fnFileClosing, project_file_);
+  EXPECT_FALSE(menu.IsEnabled(units_[0]));
+}
+
+TEST_F(FileMenu, SaysWhyACommandEndedEarly) {
+  Open();
+  forms_.OnFileList.push_back([](TFileListModel&) { return mrCancel; });
+  Choose(kOut, units_[0]);
+  EXPECT_THAT(forms_.LinesOf(mwtInfo), Contains("CheckFilesOutClick; User cancelled dialog"));
 }
 
 }  // namespace

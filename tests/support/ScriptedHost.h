@@ -110,6 +110,8 @@ class TScriptedHost final : public IOTAServices,
   std::vector<TMenuItem*> Menus;
   std::vector<TFileMenu*> FileMenus;
   std::vector<TAction*> Actions;
+  std::vector<std::string> Images;  // SVG documents; the first one has index kFirstImage
+  static constexpr int kFirstImage = 100;
   std::map<int, std::shared_ptr<IOTAIDENotifier>> Notifiers;
   std::map<int, std::shared_ptr<IOTAWizard>> Wizards;
 
@@ -136,7 +138,10 @@ class TScriptedHost final : public IOTAServices,
   void RemoveFileMenu(TFileMenu& menu) override { std::erase(FileMenus, &menu); }
   void AttachAction(TAction& action) override { Actions.push_back(&action); }
   void DetachAction(TAction& action) override { std::erase(Actions, &action); }
-  int AddImage(const std::string&) override { return 100 + images_++; }
+  int AddImage(const std::string& svg) override {
+    Images.push_back(svg);
+    return kFirstImage + static_cast<int>(Images.size()) - 1;
+  }
   IOTAPropertySet& PropertySet(const std::string&) override { return Options; }
   int AddOptions(std::shared_ptr<IOTAAddInOptions>) override { return 0; }
   void RemoveOptions(int) override {}
@@ -153,5 +158,4 @@ class TScriptedHost final : public IOTAServices,
   std::unordered_map<std::string, TScriptedModule*> by_name_;
   TEvent<> main_form_created_;
   int next_ = 0;
-  int images_ = 0;
 };

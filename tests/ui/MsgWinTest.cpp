@@ -2,7 +2,6 @@
 #include <wx/clipbrd.h>
 
 #include "support/ModalScript.h"
-#include "ui/Icons.h"
 #include "ui/MsgWin.h"
 #include "ui/WxText.h"
 
@@ -124,21 +123,6 @@ TEST_F(MessageWindow, CopiesTheSelectedLines) {
 TEST_F(MessageWindow, ClearsItsVariableWhenItGoes) {
   delete MsgWinForm;
   EXPECT_EQ(MsgWinForm, nullptr);
-}
-
-TEST(Icons, AreDrawingsThatTheToolkitUnderstands) {
-  const auto check = [](const auto& icons, int size) {
-    for (const char* svg : icons) {
-      const auto bitmap = wxBitmapBundle::FromSVG(svg, {size, size}).GetBitmap({2 * size, 2 * size});
-      ASSERT_TRUE(bitmap.IsOk()) << svg;
-      const auto image = bitmap.ConvertToImage();
-      ASSERT_TRUE(image.HasAlpha());
-      EXPECT_EQ(image.GetAlpha(0, 0), wxALPHA_TRANSPARENT) << "the corner is outside the drawing";
-      EXPECT_EQ(image.GetAlpha(size, size), wxALPHA_OPAQUE) << "the middle is inside";
-    }
-  };
-  check(kLineIcons, kLineIconSize);
-  check(kDialogIcons, kDialogIconSize);
 }
 
 }  // namespace
