@@ -21,8 +21,9 @@ scc::Long GetFiles(Session& session, Names names);
 enum class Below { FilesOnly, Everything };
 scc::Long GetFolders(Session& session, Names names, Below below);
 
-/// Compares the file with what was last fetched, without asking the repository: SCC_OK or SCC_I_FILEDIFFERS.
-scc::Long QuickDiff(Session& session, const char* name);
+/// Compares the file with what was last fetched, without asking the repository: SCC_OK or SCC_I_FILEDIFFERS.  `flags`
+/// are those of SccDiff.
+scc::Long QuickDiff(Session& session, const char* name, scc::Long flags);
 
 // Steps that several commands share.
 

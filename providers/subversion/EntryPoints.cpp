@@ -3,14 +3,18 @@
 #include <cstring>
 
 #include "Commands.h"
+#include "EntryGuard.h"
 #include "OpenProject.h"
 #include "Populate.h"
 #include "ProjectPrompt.h"
 #include "SubversionSccStrings.h"
+#include "Windows.h"
 
 using namespace scc;
 using svnscc::AfterCommit;
-using svnscc::Failure;
+using svnscc::Guard;
+using svnscc::GuardFiles;
+using svnscc::GuardOpen;
 using svnscc::Names;
 using svnscc::Session;
 
@@ -20,7 +24,8 @@ constexpr Long kVersion = 0x00010001;
 constexpr Long kLongestComment = 0x7FFF;
 constexpr Dword kCapabilities = SCC_CAP_REMOVE | SCC_CAP_QUERYINFO | SCC_CAP_GETPROJPATH | SCC_CAP_TEXTOUT |
                                 SCC_CAP_COMMENTCHECKOUT | SCC_CAP_COMMENTCHECKIN | SCC_CAP_COMMENTADD |
-                                SCC_CAP_COMMENTREMOVE | SCC_CAP_COMMENTPROJECT | SCC_CAP_POPULATELIST;
+                                SCC_CAP_COMMENTREMOVE | SCC_CAP_COMMENTPROJECT | SCC_CAP_POPULATELIST |
+                                SCC_CAP_DIFF | SCC_CAP_DIFFALWAYS | SCC_CAP_IGNORECASE | SCC_CAP_IGNORESPACE;
 
 std::string Text(const char* text) { return text != nullptr ? text : ""; }
 
@@ -30,40 +35,6 @@ void Return(char* buffer, const std::string& text, std::size_t size) {
   const auto cut = CutAtCharacter(text, size - 1);
   std::memcpy(buffer, cut.data(), cut.size());
   buffer[cut.size()] = '\0';
-}
-
-/// No exception leaves an entry point: it becomes a sentence for the user and a code for the client.
-template <class Body>
-Long Guard(void* context, Body&& body) noexcept {
-  auto* session = static_cast<Session*>(context);
-  if (session == nullptr) return SCC_E_INITIALIZEFAILED;
-  try {
-    return body(*session);
-  } catch (const Failure& failure) {
-    session->Out().Error(failure.what());
-    return failure.Result();
-  } catch (const std::exception& exception) {
-    session->Out().Error(exception.what());
-  } catch (...) {
-    session->Out().Error(sUnknownFault);
-  }
-  return SCC_E_NONSPECIFICERROR;
-}
-
-template <class Body>
-Long GuardOpen(void* context, Body&& body) noexcept {
-  return Guard(context, [&](Session& session) -> Long {
-    return session.IsOpen() ? body(session) : static_cast<Long>(SCC_E_PROJNOTOPEN);
-  });
-}
-
-/// The same for a list of files.
-template <class Body>
-Long GuardFiles(void* context, Long count, const char** names, Body&& body) noexcept {
-  return GuardOpen(context, [&](Session& session) -> Long {
-    if (count < 0 || (count > 0 && names == nullptr)) return SCC_E_NONSPECIFICERROR;
-    return body(session, Names(names, static_cast<std::size_t>(count)));
-  });
 }
 
 AfterCommit AfterFlags(Long flags) {
@@ -185,9 +156,10 @@ SCC_EXPORT Long SCC_CALL SccPopulateList(void* context, SCCCommand command, Long
   });
 }
 
-SCC_EXPORT Long SCC_CALL SccDiff(void* context, WindowHandle, const char* name, Long flags, void*) {
+SCC_EXPORT Long SCC_CALL SccDiff(void* context, WindowHandle window, const char* name, Long flags, void*) {
   return GuardOpen(context, [&](Session& session) -> Long {
-    return (flags & SCC_DIFF_QUICK_DIFF) != 0 ? svnscc::QuickDiff(session, name) : SCC_E_OPNOTSUPPORTED;
+    return (flags & SCC_DIFF_QUICK_DIFF) != 0 ? svnscc::QuickDiff(session, name, flags)
+                                              : svnscc::ShowDifferences(session, window, name, flags);
   });
 }
 

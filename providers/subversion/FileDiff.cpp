@@ -84,6 +84,10 @@ bool IsContinuation(char c) { return (static_cast<unsigned char>(c) & 0xC0) == 0
 
 }  // namespace
 
+DiffOptions ToDiffOptions(scc::Long flags) {
+  return {(flags & scc::SCC_DIFF_IGNORECASE) != 0, (flags & scc::SCC_DIFF_IGNORESPACE) != 0};
+}
+
 FileDiff::FileDiff(std::string left, std::string right, const DiffOptions& options)
     : left_(std::move(left)),
       right_(std::move(right)),

@@ -8,12 +8,16 @@
 #include <utility>
 #include <vector>
 
+#include "provider/sccdefs.h"
+
 namespace svnscc {
 
 struct DiffOptions {
   bool IgnoreCase = false;
   bool IgnoreSpace = false;  // line ends included
 };
+/// What the flags of SccDiff ask for.
+DiffOptions ToDiffOptions(scc::Long flags);
 
 enum class DiffKind { Same, Changed, Added, Removed };
 

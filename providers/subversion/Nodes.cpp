@@ -1,12 +1,15 @@
 #include "Nodes.h"
 
-#include <svn_path.h>
+#include <svn_dirent_uri.h>
 #include <svn_props.h>
 #include <svn_time.h>
 
 #include <algorithm>
 
+#include "LocalStatus.h"
 #include "Repository.h"
+#include "Session.h"
+#include "SubversionSccStrings.h"
 #include "host/System.h"
 
 namespace svnscc {
@@ -88,6 +91,19 @@ svn_opt_revision_t Numbered(svn_revnum_t number) {
   svn_opt_revision_t revision = OfKind(svn_opt_revision_number);
   revision.value.number = number;
   return revision;
+}
+
+ControlledNode RequireControlled(Session& session, const char* name) {
+  const std::string path = session.InsidePath(name);
+  if (path.empty()) throw Failure(scc::SCC_E_FILENOTCONTROLLED, sOutsideProject);
+  const LocalStatus local = AskLocal(session, path);
+  if (local.IsControlled()) return {path, path};
+  const Project& project = session.CurrentProject();
+  const std::string url = UrlOf(project.Url, svn_dirent_skip_ancestor(project.Folder.c_str(), path.c_str()));
+  if (local.State == LocalState::Added || KindOf(session.Svn(), url) == svn_node_none)
+    throw Failure(scc::SCC_E_FILENOTCONTROLLED,
+                  Format(sFileFailed.Text, {session.Label(path), sNotControlled.Text}));
+  return {path, url};
 }
 
 Contents ContentsOf(Client& client, const std::string& place, const svn_opt_revision_t& revision) {

@@ -12,10 +12,21 @@
 
 namespace svnscc {
 
+class Session;
+
 svn_opt_revision_t Newest();
 /// What the working copy has of it, without the local changes.  Local paths only; nothing is asked.
 svn_opt_revision_t Pristine();
 svn_opt_revision_t Numbered(svn_revnum_t revision);
+
+/// What a client's file name stands for.
+struct ControlledNode {
+  std::string Path;   // local
+  std::string Place;  // Path, or the address of what was never fetched
+  bool IsLocal() const { return Path == Place; }
+};
+/// Throws Failure when the name is not under control.
+ControlledNode RequireControlled(Session& session, const char* name);
 
 struct Contents {
   std::string Bytes;

@@ -1,29 +1,9 @@
 // From the provider border to the dialog.
-#include <wx/thread.h>
-#include <wx/wx.h>
-
 #include "ProjectDialog.h"
 #include "SubversionSccStrings.h"
+#include "WindowTools.h"
 
 namespace svnscc {
-namespace {
-
-bool CanShowWindows() {
-  const wxAppConsole* app = wxAppConsole::GetInstance();
-  return app != nullptr && app->IsGUI() && wxIsMainThread();
-}
-
-/// The client's window if the toolkit knows it, by its own pointer or its native handle.
-wxWindow* ParentFor(scc::WindowHandle handle) {
-  for (wxWindow* window : wxTopLevelWindows)
-    if (handle != nullptr &&
-        (static_cast<void*>(window) == handle || static_cast<void*>(window->GetHandle()) == handle))
-      return window;
-  return wxTheApp->GetTopWindow();
-}
-
-}  // namespace
-
 scc::Long PromptForProject(Session& session, scc::WindowHandle parent, ProjectRequest& request) {
   if (!CanShowWindows()) {
     session.Out().Error(sNoWindows);

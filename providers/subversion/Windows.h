@@ -1,0 +1,15 @@
+// The provider's windows as its entry points call them.  Each is modal and runs on the user interface thread; each
+// throws Failure, and SCC_E_NONSPECIFICERROR when this process shows no windows.
+#pragma once
+
+#include <string>
+
+#include "Session.h"
+
+namespace svnscc {
+
+/// The file in the repository beside the local one.  SCC_OK when they are the same, else SCC_I_FILEDIFFERS; `flags` are
+/// those of SccDiff.
+scc::Long ShowDifferences(Session& session, scc::WindowHandle parent, const char* name, scc::Long flags);
+
+}  // namespace svnscc
