@@ -191,6 +191,15 @@ TEST(Workbench, AsksBeforeUnsavedChangesAreLost) {
   EXPECT_THAT(text, Not(HasSubstr("// one")));
 }
 
+TEST(Workbench, SavesTheBytesThatItDoesNotUnderstand) {
+  TStory story;
+  using namespace std::string_literals;
+  const std::string bytes = "unit Old;\r\n{ na\xEFve \x80 \0 \xC3\xA9 }\rend.\n\n"s;
+  story.Folder().Write("Main.pas", bytes);
+  EXPECT_EQ(story.Play("edit Main.pas \"// more\"\nsave\nquit\n"), 0) << story.Output();
+  EXPECT_EQ(ReadWholeFile(story.Folder() / "Main.pas"), bytes + "// more");
+}
+
 TEST(Workbench, KeepsOptionsOnlyWhenAccepted) {
   TStory story;
   const std::string enter =

@@ -7,7 +7,6 @@ constexpr TResString sUnreadableList{"The text is not in INI form."};
 constexpr TResString sNotThisKind{"The text has no section [%s]."};
 constexpr TResString sNewerVersion{"The file was written by a newer version of the workbench."};
 
-constexpr TResString sCannotOpenFile{"Cannot open %s: %s"};
 constexpr TResString sFileNotFound{"%s does not exist."};
 constexpr TResString sCannotSaveReadOnly{"%s is read-only on disk and was not saved."};
 constexpr TResString sCannotReload{"Cannot reload %s: %s"};
@@ -18,8 +17,6 @@ constexpr TResString sPackageFailure{"%s: %s"};
 constexpr TResString sUnknownFailure{"unknown error"};
 constexpr TResString sOpenElsewhere{"%s is open in another editor; close that first."};
 constexpr TResString sNoProject{"There is no open project."};
-constexpr TResString sAlreadyInProject{"%s is already in the project."};
-constexpr TResString sGroupNeedsFile{"A project group that was never saved needs a file name first."};
 constexpr TResString sNewUnitText{"unit %s;\n\ninterface\n\nimplementation\n\nend.\n"};
 
 constexpr TResString sCategoryNew{"New Files"};
@@ -29,7 +26,6 @@ constexpr TResString sPackageNotFound{"Package %s does not exist."};
 constexpr TResString sPackageNotLoaded{"Package %s could not be loaded: %s"};
 constexpr TResString sPackageNoEntry{"Package %s has no entry point \"%s\" and was not loaded."};
 constexpr TResString sPackageLeftovers{"Package left %d registrations behind when it was unloaded."};
-constexpr TResString sPackageLoaded{"Package %s loaded."};
 
 constexpr TResString sUnknownOption{"unknown option %s"};
 constexpr TResString sOptionNeedsValue{"option %s needs a value"};

@@ -13,6 +13,7 @@ constexpr TResString sNoHelp{"There is no help for %s."};
 constexpr TResString sMenuFile{"&File"};
 constexpr TResString sMenuNew{"&New"};
 constexpr TResString sMenuRecent{"Open &Recent"};
+constexpr TResString sNoRecent{"No recent projects"};
 constexpr TResString sMenuEdit{"&Edit"};
 constexpr TResString sMenuSearch{"&Search"};
 constexpr TResString sMenuView{"&View"};
@@ -61,13 +62,11 @@ constexpr TResString sCommands{"&Commands...\tCtrl+Shift+P"};
 constexpr TResString sOptions{"&Options..."};
 constexpr TResString sAbout{"&About Workbench"};
 
-constexpr TResString sTreeOpen{"&Open"};
 constexpr TResString sMessagesCopy{"&Copy"};
 constexpr TResString sMessagesClear{"C&lear"};
 constexpr TResString sProjectTreeCaption{"Projects"};
 constexpr TResString sMessagesCaption{"Messages"};
 constexpr TResString sNoOpenProject{"No project open"};
-constexpr TResString sActiveSuffix{"%s (active)"};
 
 constexpr TResString sReadOnlyState{"Read-only"};
 constexpr TResString sModifiedState{"Modified"};

@@ -153,6 +153,9 @@ void TMainFrame::ShowState() {
                 sfState);
   SetStatusText(Text(project ? ExtractFileName(project->FileName()) : sNoOpenProject.str()), sfProject);
   const std::string shown = editor ? editor->FileName() : project ? project->FileName() : std::string();
+  // A hint belongs to the file that it was about.
+  const wxString about = Text(shown + (editor && editor->IsReadOnly() ? sReadOnlyState.str() : ""));
+  if (std::exchange(hintedFile_, about) != about) SetStatusText(wxString(), sfText);
   SetTitle(Text(shown.empty() ? sProgramName.str() : Format(sFrameTitle, {shown})));
 }
 

@@ -135,5 +135,6 @@ class TMainFrame final : public wxFrame, public ISessionUi {
   TProjectTree* tree_ = nullptr;
   TEditorBook* book_ = nullptr;
   TMessagePane* messages_ = nullptr;
+  wxString hintedFile_;
   bool lookingAtDisk_ = false;
 };

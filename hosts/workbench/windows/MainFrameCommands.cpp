@@ -17,6 +17,7 @@
 #include "workbench/windows/Icons.h"
 #include "workbench/windows/MainFrame.h"
 #include "workbench/windows/OptionsDialog.h"
+#include "workbench/windows/OwnWizard.h"
 #include "workbench/windows/ProjectTree.h"
 #include "workbench/windows/Version.h"
 #include "workbench/windows/WindowMenu.h"
@@ -179,6 +180,7 @@ void TMainFrame::CreateMenus() {
 
 void TMainFrame::FillRecentMenu() {
   while (recentMenu_->GetMenuItemCount() > 0) recentMenu_->Destroy(recentMenu_->FindItemByPosition(0));
+  if (recent_.Files().empty()) recentMenu_->Append(wxID_ANY, Text(sNoRecent))->Enable(false);
   int id = cmRecentFirst;
   for (const auto& file : recent_.Files()) {
     wxString caption = Text(file);
@@ -367,53 +369,16 @@ void TMainFrame::ShowAbout() {
                this);
 }
 
-namespace {
-
-/// A wizard of the workbench itself: the gallery treats it like a package's.
-class TOwnWizard final : public IOTAWizard {
- public:
-  TOwnWizard(const TResString& name, const TResString& comment, TIcon icon, IOTAGalleryCategory* category,
-             std::function<void()> execute)
-      : name_(name), comment_(comment), icon_(icon), category_(category), execute_(std::move(execute)) {}
-  void AfterSave() override {}
-  void BeforeSave() override {}
-  void Destroyed() override {}
-  void Modified() override {}
-  std::string GetIDString() override { return "Corvane.Workbench." + name_; }
-  std::string GetName() override { return name_; }
-  unsigned GetState() override { return wsEnabled; }
-  void Execute() override { execute_(); }
-  std::string GetAuthor() override { return "Corvane"; }
-  std::string GetComment() override { return comment_; }
-  std::string GetPage() override { return {}; }
-  std::string GetGlyph() override { return IconSvg(icon_); }
-  std::string GetDesigner() override { return "Any"; }
-  IOTAGalleryCategory* GetGalleryCategory() override { return category_; }
-  std::string GetPersonality() override { return "Default.Personality"; }
-  void* QueryInterface(const TGuid& iid) noexcept override {
-    return FindInterface<IOTANotifier, IOTAWizard>(this, iid);
-  }
-
- private:
-  std::string name_;
-  std::string comment_;
-  TIcon icon_;
-  IOTAGalleryCategory* category_;
-  std::function<void()> execute_;
-};
-
-}  // namespace
-
 void TMainFrame::AddWizards() {
   auto* category = services_.Categories().InOrder().front().get();
-  auto& wizards = services_.Wizards();
-  ownWizards_ = {
-      wizards.AddWizard(std::make_shared<TOwnWizard>(sWizardUnitName, sWizardUnitComment, TIcon::NewUnit,
-                                                     category, [this] { Attempt([this] { NewUnit(); }); })),
-      wizards.AddWizard(std::make_shared<TOwnWizard>(sWizardProjectName, sWizardProjectComment,
-                                                     TIcon::NewProject, category,
-                                                     [this] { Attempt([this] { NewProject(); }); })),
+  const auto add = [&](const TResString& name, const TResString& comment, TIcon icon,
+                       void (TMainFrame::*run)()) {
+    auto wizard = std::make_shared<TOwnWizard>(name, comment, IconSvg(icon), category,
+                                               [this, run] { Attempt([this, run] { (this->*run)(); }); });
+    ownWizards_.push_back(services_.Wizards().AddWizard(std::move(wizard)));
   };
+  add(sWizardUnitName, sWizardUnitComment, TIcon::NewUnit, &TMainFrame::NewUnit);
+  add(sWizardProjectName, sWizardProjectComment, TIcon::NewProject, &TMainFrame::NewProject);
 }
 
 void TMainFrame::OfferPackageWindows() { AppendPackageWindows(*this, *viewMenu_); }
