@@ -3,6 +3,7 @@
 #include <wx/image.h>
 #include <wx/stdpaths.h>
 #include <wx/timer.h>
+#include <wx/uiaction.h>
 
 #include <csignal>
 #include <cstdio>
@@ -85,6 +86,12 @@ bool TWorkbenchApp::OnExceptionInMainLoop() {
   return true;
 }
 
+void TWorkbenchApp::OnAssertFailure(const wxChar* file, int line, const wxChar*, const wxChar* condition,
+                                    const wxChar* message) {
+  const wxString text = wxString::Format("%s(%d): %s %s", file, line, condition, message ? message : wxT(""));
+  Log(text.utf8_string());
+}
+
 void TWorkbenchApp::TakeApart() {
   player_.reset();
   packages_->Finalize();  // with the frame alive: packages take their menus and windows away
@@ -107,7 +114,10 @@ void TWorkbenchApp::EndStep() {
   // A dialog returns to the code that opened it, and that may open the next one: so one per round.
   if (++endSteps_ > kMaxEndSteps) std::_Exit(exitCode_ ? exitCode_ : kExitFailed);
   if (wxDialog* dialog = TModalStack::Top()) {
-    dialog->EndModal(wxID_CANCEL);
+    if (dialog->IsModal())
+      dialog->EndModal(wxID_CANCEL);
+    else
+      wxUIActionSimulator().Char(WXK_ESCAPE);  // a box of the system's own, which the toolkit cannot end
     auto* next = new wxTimer;
     next->Bind(wxEVT_TIMER, [this, next](wxTimerEvent&) {
       CallAfter([next] { delete next; });

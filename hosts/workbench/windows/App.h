@@ -26,6 +26,9 @@ class TWorkbenchApp final : public wxApp {
   int OnRun() override;
   /// A handler of some window let an exception out: the user hears of it, the program goes on.
   bool OnExceptionInMainLoop() override;
+  /// The toolkit found itself misused: a line for the user, instead of a box that stops everything.
+  void OnAssertFailure(const wxChar* file, int line, const wxChar* function, const wxChar* condition,
+                       const wxChar* message) override;
   /// Cancels the dialogs that are open, then ends the program without asking about unsaved changes.
   void EndProgram(int exitCode);
 
