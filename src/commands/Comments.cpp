@@ -7,10 +7,18 @@
 
 TCommentsForm* CommentsForm = nullptr;
 
+namespace {
+
+constexpr int kFirstRecentId = wxID_HIGHEST + 1;  // of entry 0
+constexpr int kRecentWidth = 400;
+
+}  // namespace
+
 TCommentsForm::TCommentsForm(TCommentModel& model)
     : TModalForm(ToWx(model.Caption.empty() ? sCommentsCaption.str() : model.Caption),
                  wxDEFAULT_DIALOG_STYLE),
-      model_(model) {
+      model_(model),
+      history_(model.Recent, model.Text) {
   CreateControls();
   LayOut();
   Bind(wxEVT_INIT_DIALOG, [this](wxInitDialogEvent&) { FormShow(); });
@@ -18,6 +26,10 @@ TCommentsForm::TCommentsForm(TCommentModel& model)
   CommentsMemo->Bind(wxEVT_TEXT, [this](wxCommandEvent&) { CallAfter([this] { FitMemo(); }); });
   btnOK->Bind(wxEVT_BUTTON, &TCommentsForm::btnOKClick, this);
   btnCancel->Bind(wxEVT_BUTTON, &TCommentsForm::btnCancelClick, this);
+  btnRecent->Bind(wxEVT_BUTTON, &TCommentsForm::btnRecentClick, this);
+  Bind(wxEVT_MENU, [this](wxCommandEvent& event) {
+    Replace(history_.Choose(static_cast<std::size_t>(event.GetId() - kFirstRecentId)));
+  });
   CommentsForm = this;
 }
 
@@ -36,6 +48,9 @@ void TCommentsForm::CreateControls() {
   LengthLabel->SetForegroundColour(wxSystemSettings::GetColour(wxSYS_COLOUR_GRAYTEXT));
   btnOK = button(wxID_OK, sCommentsOk);
   btnCancel = button(wxID_CANCEL, sCommentsCancel);
+  btnRecent = button(wxID_ANY, sCommentsRecent);
+  btnRecent->SetToolTip(ToWx(sCommentsRecentHint));
+  btnRecent->Enable(history_.HasEarlier());
   btnOK->SetDefault();
   FitMemo();
 }
@@ -52,6 +67,7 @@ void TCommentsForm::LayOut() {
   auto* right = new wxBoxSizer(wxVERTICAL);
   right->Add(btnOK);
   right->Add(btnCancel, wxSizerFlags().Border(wxTOP, gap));
+  right->Add(btnRecent, wxSizerFlags().Border(wxTOP, gap));
   auto* all = new wxBoxSizer(wxHORIZONTAL);
   all->Add(left, wxSizerFlags(1).Expand().Border(wxALL, gap));
   all->Add(right, wxSizerFlags().Border(wxTOP | wxRIGHT, gap));
@@ -76,14 +92,58 @@ void TCommentsForm::FitMemo() {
 
 void TCommentsForm::FormShow() {
   CommentsMemo->SetFocus();
-  CommentsMemo->SetInsertionPointEnd();
+  CommentsMemo->SelectAll();  // typing replaces what is offered
+}
+
+void TCommentsForm::FormKeyDown(wxKeyEvent& event) {
+  const int key = event.GetKeyCode();
+  const bool walk = (key == WXK_UP || key == WXK_DOWN) && event.GetModifiers() == wxMOD_CONTROL;
+  if (!walk || FindFocus() != CommentsMemo) return TModalForm::FormKeyDown(event);
+  history_.Keep(FromWx(CommentsMemo->GetValue()));
+  Replace(key == WXK_UP ? history_.Older() : history_.Newer());
+}
+
+void TCommentsForm::CloseWith(int modalResult) {
+  FitMemo();  // what was typed last may still wait for it
+  model_.Text = FromWx(CommentsMemo->GetValue());
+  TModalForm::CloseWith(modalResult);
 }
 
 void TCommentsForm::btnOKClick(wxCommandEvent&) {
-  FitMemo();  // what was typed last may still wait for it
-  model_.Text = FromWx(CommentsMemo->GetValue());
   model_.ApplyToAll = cbApplyToAll->GetValue();
   CloseWith(mrOk);
 }
 
 void TCommentsForm::btnCancelClick(wxCommandEvent&) { CloseWith(mrCancel); }
+
+void TCommentsForm::btnRecentClick(wxCommandEvent&) {
+  FillRecentMenu();
+  PopupMenu(&RecentMenu, btnRecent->GetRect().GetBottomLeft());
+}
+
+void TCommentsForm::FillRecentMenu() {
+  history_.Keep(FromWx(CommentsMemo->GetValue()));
+  while (RecentMenu.GetMenuItemCount() > 0) RecentMenu.Destroy(RecentMenu.FindItemByPosition(0));
+  for (std::size_t i = 1; i < history_.Entries().size(); ++i) {
+    // &1 to &9, 1&0; what is beyond has none.
+    AppendRecent(i, i < 10 ? wxString::Format("&%zu ", i) : i == 10 ? wxString("1&0 ") : wxString());
+  }
+  if (history_.IsAtDraft() || Trim(history_.Entries()[0]).empty()) return;
+  RecentMenu.AppendSeparator();
+  AppendRecent(0, {});
+}
+
+void TCommentsForm::AppendRecent(std::size_t entry, const wxString& accelerator) {
+  auto text = ToWx(history_.Entries()[entry]);
+  text.Replace("\t", " ");  // in a label it begins a shortcut
+  text = wxControl::Ellipsize(text, wxClientDC(this), wxELLIPSIZE_END, FromDIP(kRecentWidth));
+  RecentMenu.Append(kFirstRecentId + static_cast<int>(entry), accelerator + wxControl::EscapeMnemonics(text));
+}
+
+void TCommentsForm::Replace(const std::optional<std::string>& comment) {
+  if (!comment) return;
+  CommentsMemo->ChangeValue(ToWx(*comment));
+  CommentsMemo->SetInsertionPointEnd();
+  CommentsMemo->SetFocus();
+  FitMemo();
+}

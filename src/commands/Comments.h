@@ -1,6 +1,9 @@
 // The dialog that asks for the comment of a command.
 #pragma once
 
+#include <wx/menu.h>
+
+#include "commands/CommentHistory.h"
 #include "expert/FileListModel.h"
 #include "ui/ModalForm.h"
 
@@ -11,26 +14,39 @@ class wxTextCtrl;
 
 class TCommentsForm final : public TModalForm {
  public:
-  /// `model` is borrowed; it receives text and box when OK is pressed.
+  /// `model` is borrowed.  It receives the text however the dialog is closed, and the box when OK is pressed.
   explicit TCommentsForm(TCommentModel& model);
   ~TCommentsForm() override;
 
   void FormShow();
+  void FormKeyDown(wxKeyEvent& event) override;
   void btnOKClick(wxCommandEvent& event);
   void btnCancelClick(wxCommandEvent& event);
+  void btnRecentClick(wxCommandEvent& event);
+  /// Brings RecentMenu up to date with what the memo can be replaced by.
+  void FillRecentMenu();
 
   wxTextCtrl* CommentsMemo;
   wxCheckBox* cbApplyToAll;
   wxButton* btnOK;
   wxButton* btnCancel;
+  wxButton* btnRecent;
+  wxMenu RecentMenu;
+
+ protected:
+  void CloseWith(int modalResult) override;
 
  private:
   void CreateControls();
   void LayOut();
   /// Holds the memo to what a provider takes, and says how much of it is used.
   void FitMemo();
+  void AppendRecent(std::size_t entry, const wxString& accelerator);
+  /// Shows another comment in the memo, if there is one.
+  void Replace(const std::optional<std::string>& comment);
 
   TCommentModel& model_;
+  TCommentHistory history_;
   wxStaticText* LengthLabel;
 };
 

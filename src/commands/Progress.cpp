@@ -47,7 +47,8 @@ class TProgressForm final : public wxFrame {
   bool ShouldPreventAppExit() const override { return false; }
 
   void ShowStep(std::size_t done, std::size_t total, const std::string& what) {
-    count_->SetLabel(ToWx(Format(sFileOf, {static_cast<long long>(done + 1), static_cast<long long>(total)})));
+    count_->SetLabel(
+        ToWx(Format(sFileOf, {static_cast<long long>(done + 1), static_cast<long long>(total)})));
     what_->SetLabel(ToWx(ExtractFileName(what)));
     gauge_->SetValue(static_cast<int>(done * kSteps / total));
     if (!IsShown()) ShowWithoutActivating();

@@ -13,8 +13,8 @@ class TModalForm : public wxDialog {
   TModalForm(const wxString& caption, long style);
 
  protected:
-  /// Ends ShowModal() with that result.
-  void CloseWith(int modalResult);
+  /// Ends ShowModal() with that result.  Every way to close the dialog comes through here.
+  virtual void CloseWith(int modalResult);
   /// Key preview: sees every key before the control with the focus.
   virtual void FormKeyDown(wxKeyEvent& event);
 

@@ -1,8 +1,10 @@
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include "commands/Comments.h"
 #include "support/ModalScript.h"
 #include "ui/WxText.h"
+
+using testing::ElementsAre;
 
 namespace {
 
@@ -43,6 +45,16 @@ TEST(Comments, EndAsTheUserEndsThem) {
          form.CommentsMemo->WriteText("one\ntwo");
          Click(form.btnOK);
        }},
+      {"Cancel right after pasting lines", mrCancel, "one two",
+       [](auto& form) {
+         form.CommentsMemo->WriteText("one\ntwo");
+         Click(form.btnCancel);
+       }},
+      {"Escape after typing", mrCancel, "new",
+       [](auto& form) {
+         Type(form, "new");
+         Preview(form.CommentsMemo, WXK_ESCAPE);
+       }},
       {"Return in the memo", mrOk, "old", [](auto& form) { Preview(form.CommentsMemo, WXK_RETURN); }},
       {"Return on the box", mrOk, "old", [](auto& form) { Preview(form.cbApplyToAll, WXK_NUMPAD_ENTER); }},
       {"Escape in the memo", mrCancel, "old", [](auto& form) { Preview(form.CommentsMemo, WXK_ESCAPE); }},
@@ -53,7 +65,7 @@ TEST(Comments, EndAsTheUserEndsThem) {
   for (const auto& row : rows) {
     SCOPED_TRACE(row.Case);
     TCommentModel model;
-    model.Text = row.Result == mrOk && row.Text != std::string("old") ? "" : "old";
+    model.Text = "old";  // what is typed replaces it
     TCommentsForm form(model);
     EXPECT_EQ(ShowAndPlay(form, row.Act), row.Result);
     EXPECT_EQ(model.Text, row.Text);
@@ -74,6 +86,78 @@ TEST(Comments, TheBoxIsShownOnlyWhereItMeansSomething) {
     Click(shown.btnOK);
   });
   EXPECT_FALSE(model.ApplyToAll);
+}
+
+TEST(Comments, EarlierOnesAreAtHand) {
+  TCommentModel model;
+  model.Text = "offered";
+  model.Recent = {"offered", "save & load", "older"};
+  TCommentsForm form(model);
+  const auto result = ShowAndPlay<TCommentsForm>(form, [](TCommentsForm& shown) {
+    const auto memo = [&] { return FromWx(shown.CommentsMemo->GetValue()); };
+    const auto walk = [&](int key) {
+      Preview(shown.CommentsMemo, key, wxMOD_CONTROL);
+      return memo();
+    };
+    const auto labels = [&] {
+      shown.FillRecentMenu();
+      std::vector<std::string> texts;
+      for (const auto* item : shown.RecentMenu.GetMenuItems()) texts.push_back(FromWx(item->GetItemLabel()));
+      return texts;
+    };
+    Type(shown, "typed");
+    EXPECT_EQ(walk(WXK_UP), "offered");
+    EXPECT_EQ(walk(WXK_UP), "save & load");
+    EXPECT_THAT(labels(), ElementsAre("&1 offered", "&2 save && load", "&3 older", "", "typed"));
+    EXPECT_EQ(walk(WXK_DOWN), "offered");
+    EXPECT_EQ(walk(WXK_DOWN), "typed");
+    EXPECT_THAT(labels(), ElementsAre("&1 offered", "&2 save && load", "&3 older"));
+    wxCommandEvent choice(wxEVT_MENU, shown.RecentMenu.FindItemByPosition(2)->GetId());
+    shown.HandleWindowEvent(choice);
+    EXPECT_EQ(memo(), "older");
+    EXPECT_EQ(wxWindow::FindFocus(), shown.CommentsMemo);
+    Click(shown.btnOK);
+  });
+  EXPECT_EQ(result, mrOk);
+  EXPECT_EQ(model.Text, "older");
+}
+
+TEST(Comments, WithoutEarlierOnesThereIsNothingToChoose) {
+  TCommentModel model;
+  TCommentsForm form(model);
+  EXPECT_FALSE(form.btnRecent->IsEnabled());
+  ShowAndPlay<TCommentsForm>(form, [](TCommentsForm& shown) {
+    Type(shown, "typed");
+    Preview(shown.CommentsMemo, WXK_UP, wxMOD_CONTROL);
+    EXPECT_EQ(shown.CommentsMemo->GetValue(), "typed");
+    shown.Close();
+  });
+  EXPECT_EQ(form.GetClientSize(), form.FromDIP(wxSize(530, 189)));
+}
+
+TEST(CommentHistory, LosesNothingThatWasTyped) {
+  TCommentHistory history({"b", "a"}, "forgotten long ago");
+  EXPECT_THAT(history.Entries(), ElementsAre("forgotten long ago", "b", "a", "forgotten long ago"));
+  history.Keep("draft");
+  EXPECT_EQ(history.Older(), "b");
+  history.Keep("b, changed");
+  EXPECT_THAT(history.Entries(), ElementsAre("draft", "b, changed", "b", "a", "forgotten long ago"));
+  EXPECT_EQ(history.Older(), "b");
+  history.Keep(" ");  // cleared: nothing to keep
+  EXPECT_EQ(history.Newer(), "b, changed");
+  history.Keep("b, changed");
+  EXPECT_EQ(history.Newer(), "draft");
+  EXPECT_EQ(history.Newer(), std::nullopt);
+  EXPECT_EQ(history.Choose(4), "forgotten long ago");
+  EXPECT_EQ(history.Older(), std::nullopt);
+  EXPECT_EQ(history.Entries().size(), 5u);
+}
+
+TEST(CommentHistory, DoesNotStopAtTheCommentThatIsShown) {
+  TCommentHistory history({"same", "other"}, "same");
+  EXPECT_EQ(history.Older(), "other");
+  EXPECT_EQ(history.Newer(), "same");
+  EXPECT_EQ(history.Newer(), std::nullopt);
 }
 
 }  // namespace
