@@ -135,6 +135,14 @@ class TSccExpert final : public TNotifierObject, public IOTAWizard {
   void ReloadFile(const std::string& fileName);
   void ReloadFiles(const TStringList& files);
 
+  // What the commands and the wizards share.
+  /// The provider project of that directory, made current.  Throws EAbort with `noProvider` without a provider list,
+  /// or when no provider project matches.  Not to be kept across anything that shows a window: the host may close the
+  /// project meanwhile.
+  TSCCProviderProject& RequireProject(const std::string& directory, const std::string& noProvider);
+  /// Asks the host to save a unit or project file that has unsaved changes.
+  void SaveIfModified(const std::string& fileName);
+
   /// Runs a user's command: refuses a second one while one is running, catches what it throws and writes it to the
   /// message window as `format` with the message in place of %s.
   void RunCommand(std::string_view format, const std::function<void()>& command) noexcept;
@@ -166,13 +174,8 @@ class TSccExpert final : public TNotifierObject, public IOTAWizard {
   void ReleaseProvider();
   void HandlePendingNotifications();
   void Handle(TOTAFileNotification code, const std::string& fileName);
-  /// The provider project of that directory, made current.  Throws EAbort with `noProvider` without a provider list,
-  /// or when no provider project matches.
-  TSCCProviderProject& RequireProject(const std::string& directory, const std::string& noProvider);
-  /// The same for the current project's file, as the single-file commands want it.
+  /// RequireProject for the current project's file, as the single-file commands want it.
   TSCCProviderProject& RequireCurrentProject();
-  /// Asks the host to save a unit or project file that has unsaved changes.
-  void SaveIfModified(const std::string& fileName);
 
   IExpertForms& forms_;
   std::unique_ptr<TProviderMessages> provider_messages_;

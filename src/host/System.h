@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <functional>
 #include <string>
+#include <string_view>
 
 /// The logged-on user's name.  Empty when it does not fit `bufferSize` characters, terminator included.
 std::string GetUserNameText(std::size_t bufferSize);
@@ -12,6 +13,16 @@ std::string GetCurrentDirectoryText(std::size_t bufferSize);
 
 bool FileExists(const std::string& path);
 bool DirectoryExists(const std::string& path);
+
+/// One entry of a directory.
+struct TDirectoryEntry {
+  std::string_view Name;  ///< without a directory part; valid during the visit
+  bool IsDirectory;       ///< a link to a directory is one too
+  bool IsLink;            ///< leads somewhere else: a symbolic link, a junction
+};
+/// Calls `visit` with every entry directly in the directory, hidden and system entries included, but not "." and "..", in
+/// the order of the file system.  A directory that is missing or cannot be read has none.
+void ForEachEntry(const std::string& directory, const std::function<void(const TDirectoryEntry&)>& visit);
 
 /// File attributes of the SCC world, as far as the system changes them.
 inline constexpr std::uint32_t faReadOnly = 0x01;

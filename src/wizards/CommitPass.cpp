@@ -1,0 +1,113 @@
+#include "wizards/CommitPass.h"
+
+#include <array>
+#include <exception>
+
+#include "expert/SccExpert.h"
+#include "host/Paths.h"
+#include "host/System.h"
+#include "wizards/CommitPassStrings.h"
+#include "wizards/CommitRowsStrings.h"
+
+namespace {
+
+struct TCall {
+  const TStringList& Files;  // exactly one
+  const std::string& Comment;
+  TStateMessages Messages;  // the provider's words have gone to the message window; these are not shown
+};
+
+/// What an activity means.
+struct TStep {
+  TResString Line;
+  bool (*Run)(TSCCProviderProject& project, TCall& call);  // nullptr: nothing is done
+  bool SavesFirst;  // the provider takes the file from disk, so it must hold what the user sees in the editor
+  bool Reloads;     // the local copy may have changed
+};
+
+/// By activity.
+constexpr std::array kSteps{
+    TStep{sNoAction, nullptr, false, false},
+    TStep{sCommiting,
+          [](auto& project, auto& call) {
+            return project.CheckInFile(call.Files, call.Comment, false, call.Messages);
+          },
+          true, true},
+    TStep{sCheckingOut,
+          [](auto& project, auto& call) {
+            return project.CheckOutFile(call.Files, call.Comment, call.Messages);
+          },
+          false, true},
+    TStep{sUndoingCheckOut,
+          [](auto& project, auto& call) { return project.UnCheckOutFile(call.Files, call.Messages); }, false,
+          true},
+    TStep{sAdding,
+          [](auto& project, auto& call) {
+            return project.AddFile(call.Files, call.Comment, false, call.Messages);
+          },
+          true, false},
+    TStep{sRemoving, [](auto& project, auto& call) { return project.RemoveFile(call.Files, call.Messages); },
+          false, false},
+    TStep{sGettingLatest,
+          [](auto& project, auto& call) { return project.GetFile(call.Files, call.Messages) == scc::SCC_OK; },
+          false, true},
+};
+static_assert(kSteps.size() == kCommitActivities);
+
+class TCommitPass {
+ public:
+  TCommitPass(TSccExpert& expert, const TCommitComments& comments)
+      : expert_(expert),
+        comments_(comments),
+        directory_(ExtractFileDir(expert.GetCurrentProjectFile())),
+        summary_(sProcessingFiles.str() + sCRLF.str()) {}
+
+  void Execute(const std::vector<TCommitRowData>& rows, IProgress& progress) {
+    Project();
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+      progress.Step(i, rows[i].FileName);
+      CarryOut(rows[i]);
+    }
+    expert_.ReloadFiles(changed_);
+    expert_.Forms().ShowMsgDialog(sCommitSummaryTitle, summary_, metInfo);
+  }
+
+ private:
+  /// Looked up before every call: the host may have closed the project meanwhile.
+  TSCCProviderProject& Project() { return expert_.RequireProject(directory_, sCommitNoProvider); }
+
+  void CarryOut(const TCommitRowData& row) {
+    const auto& step = kSteps[row.Activity];
+    summary_.append(sCRLF).append(step.Line).append(ProjectRelativePath(directory_, row.FileName));
+    if (step.Run) {
+      const bool done = Attempt(step, row);
+      if (done && step.Reloads) changed_.push_back(row.FileName);
+      summary_.append(sOutcomeFollows).append(done ? sSucceeded : sFailed);
+    }
+    // Listed files are for working on, whatever the provider thinks of that.
+    SetFileAttributesOf(row.FileName, faArchive);
+  }
+
+  /// Whatever goes wrong is this row's failure: the others are still to be done.
+  bool Attempt(const TStep& step, const TCommitRowData& row) try {
+    if (step.SavesFirst) expert_.SaveIfModified(row.FileName);
+    const TStringList file{row.FileName};
+    TCall call{file, comments_.Individual ? row.Comment : comments_.Summary, {}};
+    return step.Run(Project(), call);
+  } catch (const std::exception&) {
+    return false;
+  }
+
+  TSccExpert& expert_;
+  const TCommitComments& comments_;
+  const std::string directory_;
+  std::string summary_;
+  TStringList changed_;
+};
+
+}  // namespace
+
+void CommitRows(TSccExpert& expert, const std::vector<TCommitRowData>& rows, const TCommitComments& comments,
+                IProgress& progress) {
+  TCommitPass(expert, comments).Execute(rows, progress);
+}

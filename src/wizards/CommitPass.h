@@ -1,0 +1,22 @@
+// Carries out what the commit browser's rows say, without its window.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "expert/ExpertForms.h"
+#include "wizards/CommitRows.h"
+
+/// Which comment a row's provider call gets.
+struct TCommitComments {
+  bool Individual = true;  ///< each row's own, else the summary for all
+  std::string Summary;
+};
+
+/// Carries out the activity of every row, one file at a time in row order, reloads what changed and shows a summary of
+/// what was done.  A failure marks only its row in the summary.  Afterwards every listed file on disk is writable.
+/// `progress` is told each row before it is begun.
+///
+/// Throws EAbort, with nothing touched, when there is no provider or the project's directory is no provider project.
+void CommitRows(TSccExpert& expert, const std::vector<TCommitRowData>& rows, const TCommitComments& comments,
+                IProgress& progress);

@@ -1,0 +1,195 @@
+#include "wizards/CommitRows.h"
+
+#include <algorithm>
+#include <array>
+#include <filesystem>
+#include <iterator>
+#include <optional>
+
+#include "expert/SccExpert.h"
+#include "host/Paths.h"
+#include "host/System.h"
+#include "wizards/CommitRowsStrings.h"
+#include "wizards/FileSearch.h"
+
+namespace {
+
+constexpr std::array kActivityTexts{sNoActivity,  sActivityCommit, sActivityCheckOut, sActivityUndo,
+                                    sActivityAdd, sActivityRemove, sActivityGetLatest};
+static_assert(kActivityTexts.size() == kCommitActivities);
+
+bool Has(scc::Long status, scc::Long bits) { return (status & bits) == bits; }
+
+bool IsControlled(scc::Long status) {
+  return status != scc::SCC_STATUS_INVALID && Has(status, scc::SCC_STATUS_CONTROLLED);
+}
+
+bool IsInvalid(scc::Long status) { return status == scc::SCC_STATUS_INVALID; }
+bool IsAddable(scc::Long status) { return !IsControlled(status) || Has(status, scc::SCC_STATUS_DELETED); }
+bool IsOutHere(scc::Long status) {
+  return Has(status, scc::SCC_STATUS_CHECKEDOUT | scc::SCC_STATUS_OUTBYUSER);
+}
+bool IsOutOther(scc::Long status) { return Has(status, scc::SCC_STATUS_OUTOTHER); }
+bool IsBehind(scc::Long status) {
+  return (status & (scc::SCC_STATUS_MODIFIED | scc::SCC_STATUS_OUTOFDATE)) != 0;
+}
+bool IsAny(scc::Long) { return true; }
+
+/// The first rule that matches decides.
+struct TRule {
+  bool (*Matches)(scc::Long status);
+  std::optional<bool> LocallyModified;  // nothing: does not matter
+  TResString State;
+  TCommitActivity Activity;
+};
+constexpr std::array kRules{
+    TRule{IsInvalid, {}, sInvalidStatus, caNone},
+    TRule{IsAddable, {}, sNotControlled, caAdd},
+    TRule{IsOutHere, true, sCheckedOutModified, caCommit},
+    TRule{IsOutHere, false, sCheckedOutUpToDate, caNone},
+    TRule{IsOutOther, true, sOutOtherModified, caGetLatest},
+    TRule{IsOutOther, false, sOutOtherUpToDate, caNone},
+    TRule{IsBehind, {}, sModified, caGetLatest},
+    TRule{IsAny, true, sModified, caGetLatest},
+    TRule{IsAny, {}, sUpToDate, caNone},
+};
+
+/// Sorts by name ignoring case; of equal names the first stays.
+void SortWithoutDuplicates(TStringList& names) {
+  struct TEntry {
+    std::string Key;
+    std::string Name;
+  };
+  std::vector<TEntry> entries;
+  entries.reserve(names.size());
+  for (auto& name : names) entries.push_back({FoldCase(name), std::move(name)});
+  std::ranges::stable_sort(entries, {}, &TEntry::Key);
+  const auto repeated = std::ranges::unique(entries, {}, &TEntry::Key);
+  entries.erase(repeated.begin(), repeated.end());
+  names.clear();
+  for (auto& entry : entries) names.push_back(std::move(entry.Name));
+}
+
+/// Where the callback below puts the names, while a population runs; only one runs at a time.
+TStringList* populated = nullptr;
+
+// A provider that never stops calling must not eat the IDE's memory.
+constexpr std::size_t kMaxPopulated = 4 * kMaxFiles;
+
+scc::Bool SCC_CALL TakePopulated(void*, scc::Bool, scc::Long status, const char* fileName) noexcept try {
+  constexpr scc::Bool kGoOn = -1;
+  constexpr scc::Bool kStop = 0;
+  if (!populated || populated->size() >= kMaxPopulated) return kStop;
+  const bool known = status != scc::SCC_STATUS_INVALID && status != scc::SCC_STATUS_NOTCONTROLLED;
+  if (known && fileName && *fileName) populated->emplace_back(fileName);
+  return kGoOn;
+} catch (...) {
+  return 0;
+}
+
+class TPopulation {
+ public:
+  TPopulation() { populated = &names_; }
+  TPopulation(const TPopulation&) = delete;
+  TPopulation& operator=(const TPopulation&) = delete;
+  ~TPopulation() { populated = nullptr; }
+  TStringList& Names() { return names_; }
+
+ private:
+  TStringList names_;
+};
+
+class TGathering {
+ public:
+  explicit TGathering(TSccExpert& expert)
+      : expert_(expert), directory_(ExtractFileDir(expert.GetCurrentProjectFile())) {}
+
+  std::vector<TCommitRowData> Rows() {
+    Project();
+    expert_.AddAssociatedFiles(&files_, true);
+    SortWithoutDuplicates(files_);
+    Populate();
+    Query();
+    return Classified();
+  }
+
+ private:
+  /// Looked up before every call: the host may have closed the project meanwhile.
+  TSCCProviderProject& Project() { return expert_.RequireProject(directory_, sCommitNoProvider); }
+
+  TStringList Directories() const {
+    TStringList directories;
+    for (const auto& file : files_) {
+      auto directory = IncludeTrailingPathDelimiter(ExtractFileDir(file));
+      if (directories.empty() || directories.back() != directory) directories.push_back(std::move(directory));
+    }
+    SearchRecursiveDirectories(directories, directory_);
+    SortWithoutDuplicates(directories);
+    return directories;
+  }
+
+  void Populate() {
+    TPopulation population;
+    TStateMessages messages;
+    Project().PopulateDirectoriesList(scc::SCC_COMMAND_GET, Directories(), TakePopulated, statuses_,
+                                      messages);
+    std::ranges::move(population.Names(), std::back_inserter(files_));
+    SortWithoutDuplicates(files_);
+  }
+
+  void Query() {
+    if (files_.empty()) return;
+    TStateMessages messages;
+    // States that the provider could not tell would pass for files to be added.
+    if (!Project().Query(files_, statuses_, messages))
+      expert_.DisplayMessages(sCommitBrowserCaption, messages);
+  }
+
+  bool IsLocallyModified(const std::string& file) {
+    TStateMessages messages;
+    return !FileExists(file) || Project().SilentDiff(file, messages);
+  }
+
+  std::vector<TCommitRowData> Classified() {
+    const auto progress = expert_.Forms().StartProgress(sCommitBrowserCaption, files_.size());
+    std::vector<TCommitRowData> rows;
+    rows.reserve(files_.size());
+    for (std::size_t i = 0; i < files_.size(); ++i) {
+      progress->Step(i, files_[i]);
+      const auto status = statuses_[i];
+      // No rule asks whether an uncontrolled file differs, and a provider would have nothing to compare it with.
+      const bool modified = IsControlled(status) && IsLocallyModified(files_[i]);
+      rows.push_back(ClassifyCommitRow(status, modified));
+      rows.back().FileName = files_[i];
+    }
+    return rows;
+  }
+
+  TSccExpert& expert_;
+  const std::string directory_;
+  TStringList files_;
+  TStatusArray statuses_;
+};
+
+}  // namespace
+
+std::string ActivityToString(TCommitActivity activity) {
+  return activity < kActivityTexts.size() ? kActivityTexts[activity] : sActivityError;
+}
+
+TCommitRowData ClassifyCommitRow(scc::Long status, bool locallyModified) {
+  const auto rule = std::ranges::find_if(kRules, [&](const TRule& candidate) {
+    return candidate.Matches(status) &&
+           candidate.LocallyModified.value_or(locallyModified) == locallyModified;
+  });
+  return {rule->Activity, rule->State, {}, {}};  // the last rule matches everything
+}
+
+std::vector<TCommitRowData> GatherCommitRows(TSccExpert& expert) { return TGathering(expert).Rows(); }
+
+std::string ProjectRelativePath(const std::string& directory, const std::string& fileName) {
+  auto below = RelativePath(directory, fileName);
+  if (below != fileName || directory.empty()) return below;
+  auto way = std::filesystem::path(fileName).lexically_relative(directory).string();
+  return way.empty() ? fileName : way;
+}

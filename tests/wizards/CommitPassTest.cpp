@@ -1,0 +1,153 @@
+// The commit browser's pass over its rows.
+#include "expert/ExpertFixture.h"
+#include "host/System.h"
+#include "wizards/CommitPass.h"
+
+namespace {
+
+using namespace scc;
+
+struct TSteps final : IProgress {
+  void Step(std::size_t done, const std::string& what) override {
+    Seen.push_back(std::to_string(done) + " " + ExtractFileName(what));
+  }
+  std::vector<std::string> Seen;
+};
+
+class CommitPass : public TExpertTest {
+ protected:
+  TCommitRowData Row(const std::string& name, TCommitActivity activity,
+                     const std::string& comment = {}) const {
+    return {activity, "state", At(name), comment};
+  }
+  /// The summary that the pass ends with.
+  std::string Summary(const std::vector<TCommitRowData>& rows, const TCommitComments& comments = {}) {
+    forms_.Boxes.clear();
+    CommitRows(*expert_, rows, comments, steps_);
+    if (forms_.Boxes.size() != 1) return "(" + std::to_string(forms_.Boxes.size()) + " boxes)";
+    EXPECT_EQ(forms_.Boxes.front().Title, "Commit Borwser");
+    EXPECT_EQ(forms_.Boxes.front().Kind, metInfo);
+    return forms_.Boxes.front().Text;
+  }
+  bool Writable(const std::string& name) const { return GetFileAttributesOf(At(name)) == faArchive; }
+
+  TSteps steps_;
+};
+
+TEST_F(CommitPass, CarriesOutEachRowInRowOrderAndSaysSo) {
+  const std::vector<TCommitRowData> rows = {
+      Row("a.pas", caCommit, "mine"), Row("sub/b.pas", caNone, "ignored"), Row("c.pas", caCheckout, "why"),
+      Row("d.pas", caUndo),           Row("e.pas", caAdd, "new"),          Row("f.pas", caRemove),
+      Row("g.pas", caGetLatest),
+  };
+  for (const auto& row : rows) {
+    folder_.Write("work/" + ProjectRelativePath(At(""), row.FileName), "x");
+    SetFileAttributesOf(row.FileName, faReadOnly);
+    host_.AddUnit(row.FileName);
+  }
+  Open();
+  provider_->Calls.clear();
+  host_.Log.clear();
+
+  EXPECT_EQ(Summary(rows),
+            "Processing Project Files\r\n"
+            "\r\n + Commiting a.pas: Succeeded"
+            "\r\n + No Action sub/b.pas"
+            "\r\n + Checking out c.pas: Succeeded"
+            "\r\n + Undoing checkout on d.pas: Succeeded"
+            "\r\n + Adding e.pas: Succeeded"
+            "\r\n + Removing f.pas: Succeeded"
+            "\r\n + Getting Latest g.pas: Succeeded");
+
+  const struct {
+    const char *Entry, *File, *Comment;
+  } calls[] = {{"SccCheckin", "a.pas", "mine"},          {"SccCheckout", "c.pas", "why"},
+               {"SccUncheckout", "d.pas", ""},           {"SccAdd", "e.pas", "new"},
+               {"SccRemove", "f.pas", "File Removed: "}, {"SccGet", "g.pas", ""}};
+  ASSERT_EQ(provider_->Calls.size(), std::size(calls));
+  for (std::size_t i = 0; i < std::size(calls); ++i) {
+    const auto& call = provider_->Calls[i];
+    EXPECT_EQ(call.Entry, calls[i].Entry);
+    EXPECT_THAT(call.Files, ElementsAre(At(calls[i].File)));
+    EXPECT_THAT(call.Comment, testing::StartsWith(calls[i].Comment));
+    EXPECT_EQ(call.Flags, 0);
+  }
+  EXPECT_THAT(host_.Log, ElementsAre("ReloadFile " + At("a.pas"), "ReloadFile " + At("c.pas"),
+                                     "ReloadFile " + At("d.pas"), "ReloadFile " + At("g.pas")));
+  for (const auto& row : rows) EXPECT_EQ(GetFileAttributesOf(row.FileName), faArchive) << row.FileName;
+  EXPECT_THAT(steps_.Seen,
+              ElementsAre("0 a.pas", "1 b.pas", "2 c.pas", "3 d.pas", "4 e.pas", "5 f.pas", "6 g.pas"));
+}
+
+TEST_F(CommitPass, AFailureMarksOnlyItsRow) {
+  Open();
+  provider_->Results["SccCheckin"] = SCC_E_CHECKINCONFLICT;
+  provider_->Results["SccGet"] = SCC_I_OPERATIONCANCELED;
+  provider_->Faults.ThrowException = {"SccAdd"};
+  SetFileAttributesOf(At("unit1.pas"), faReadOnly);
+  host_.AddUnit(At("unit1.pas"));
+  EXPECT_EQ(Summary({Row("unit1.pas", caCommit), Row("gone.pas", caGetLatest), Row("unit1.kfm", caAdd),
+                     Row("unit2.pas", caUndo)}),
+            "Processing Project Files\r\n"
+            "\r\n + Commiting unit1.pas: Failed"
+            "\r\n + Getting Latest gone.pas: Failed"
+            "\r\n + Adding unit1.kfm: Failed"
+            "\r\n + Undoing checkout on unit2.pas: Succeeded");
+  EXPECT_THAT(host_.Log, Not(Contains("ReloadFile " + At("unit1.pas"))));
+  EXPECT_TRUE(Writable("unit1.pas"));
+}
+
+TEST_F(CommitPass, NothingChosenCallsNoProviderButFreesTheFiles) {
+  Open();
+  provider_->Calls.clear();
+  SetFileAttributesOf(At("unit1.pas"), faReadOnly);
+  EXPECT_EQ(Summary({Row("unit1.pas", caNone)}), "Processing Project Files\r\n\r\n + No Action unit1.pas");
+  EXPECT_EQ(Summary({}), "Processing Project Files\r\n");
+  EXPECT_THAT(provider_->Calls, IsEmpty());
+  EXPECT_TRUE(Writable("unit1.pas"));
+}
+
+TEST_F(CommitPass, TheSummaryCommentGoesToEveryRow) {
+  Open();
+  provider_->Calls.clear();
+  Summary({Row("unit1.pas", caCommit, "own"), Row("unit2.pas", caAdd)}, {false, "for all"});
+  for (const auto& call : provider_->Calls) EXPECT_EQ(call.Comment, "for all");
+  EXPECT_EQ(provider_->Calls.size(), 2U);
+}
+
+TEST_F(CommitPass, TakesWhatTheEditorShows) {
+  for (const auto& unit : units_) {
+    auto& module = host_.AddUnit(unit);
+    module.Editors.front().Modified = true;
+  }
+  Open();
+  Summary({Row("unit1.pas", caCommit), Row("unit2.pas", caUndo)});
+  EXPECT_THAT(host_.Log, ElementsAre("SaveFile " + At("unit1.pas"), "ReloadFile " + At("unit1.pas"),
+                                     "ReloadFile " + At("unit2.pas")));
+}
+
+TEST_F(CommitPass, IsRefusedWithoutAProviderProjectBeforeAnythingIsTouched) {
+  auto& expert = Start();
+  SetFileAttributesOf(At("unit1.pas"), faReadOnly);
+  const auto abort = [&] {
+    return AbortOf([&] { CommitRows(expert, {Row("unit1.pas", caNone)}, {}, steps_); });
+  };
+  EXPECT_EQ(abort(), "Unable to run Commit Browser, provider not assigned");
+  ASSERT_TRUE(expert.ProviderCreate(0));
+  EXPECT_EQ(abort(), "Unable to set current project, no matching path");
+  EXPECT_FALSE(Writable("unit1.pas"));
+  EXPECT_THAT(steps_.Seen, IsEmpty());
+}
+
+TEST_F(CommitPass, AProjectThatTheHostClosesMeanwhileFailsTheRowsThatAreLeft) {
+  Open();
+  provider_->OnCall["SccCheckin"] = [this](const ScriptedCall&) {
+    host_.Notify(TOTAFileNotification::fnFileClosing, project_file_);
+  };
+  EXPECT_EQ(Summary({Row("unit1.pas", caCommit), Row("unit2.pas", caCommit)}),
+            "Processing Project Files\r\n"
+            "\r\n + Commiting unit1.pas: Succeeded"
+            "\r\n + Commiting unit2.pas: Failed");
+}
+
+}  // namespace

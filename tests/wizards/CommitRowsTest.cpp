@@ -1,0 +1,158 @@
+// What the commit browser lists and proposes.
+#include "expert/ExpertFixture.h"
+#include "wizards/CommitRows.h"
+
+namespace {
+
+using namespace scc;
+constexpr Long kMine = SCC_STATUS_CONTROLLED | SCC_STATUS_CHECKEDOUT | SCC_STATUS_OUTBYUSER;
+constexpr Long kTheirs = SCC_STATUS_CONTROLLED | SCC_STATUS_OUTOTHER;
+
+TEST(CommitRowRules, ProposeAnActivityByStatusAndDifference) {
+  const struct {
+    const char* Name;
+    Long Status;
+    const char* WhenSame;
+    TCommitActivity ActivityWhenSame;
+    const char* WhenModified;
+    TCommitActivity ActivityWhenModified;
+  } rows[] = {
+      {"no information", -1, "Invalid status returned!", caNone, "Invalid status returned!", caNone},
+      {"not controlled", 0, "Not Controlled", caAdd, "Not Controlled", caAdd},
+      {"bits without control", kMine & ~1, "Not Controlled", caAdd, "Not Controlled", caAdd},
+      {"deleted", 0x41, "Not Controlled", caAdd, "Not Controlled", caAdd},
+      {"deleted and mine", kMine | 0x40, "Not Controlled", caAdd, "Not Controlled", caAdd},
+      {"mine", kMine, "Checked out/Up to date", caNone, "Checked out/Modified", caCommit},
+      {"mine and out of date", kMine | 0x820, "Checked out/Up to date", caNone, "Checked out/Modified",
+       caCommit},
+      {"mine and another's", kMine | 0x4, "Checked out/Up to date", caNone, "Checked out/Modified", caCommit},
+      {"mine, elsewhere", 0x1001, "Up to date", caNone, "Modified", caGetLatest},
+      {"out, by nobody named", 0x3, "Up to date", caNone, "Modified", caGetLatest},
+      {"another's", kTheirs, "Checked out by another user/Up To date", caNone,
+       "Checked out by another user/Modified", caGetLatest},
+      {"another's and out of date", kTheirs | 0x20, "Checked out by another user/Up To date", caNone,
+       "Checked out by another user/Modified", caGetLatest},
+      {"modified there", 0x801, "Modified", caGetLatest, "Modified", caGetLatest},
+      {"out of date", 0x21, "Modified", caGetLatest, "Modified", caGetLatest},
+      {"controlled", 0x1, "Up to date", caNone, "Modified", caGetLatest},
+      {"shared and pinned", 0x601, "Up to date", caNone, "Modified", caGetLatest},
+  };
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.Name);
+    const auto same = ClassifyCommitRow(row.Status, false);
+    EXPECT_EQ(same.Status, row.WhenSame);
+    EXPECT_EQ(same.Activity, row.ActivityWhenSame);
+    const auto modified = ClassifyCommitRow(row.Status, true);
+    EXPECT_EQ(modified.Status, row.WhenModified);
+    EXPECT_EQ(modified.Activity, row.ActivityWhenModified);
+  }
+}
+
+TEST(CommitRowRules, ActivitiesHaveTexts) {
+  std::vector<std::string> texts;
+  for (int value = 0; value <= kCommitActivities; ++value)
+    texts.push_back(ActivityToString(static_cast<TCommitActivity>(value)));
+  EXPECT_THAT(texts, ElementsAre("No activity", "Commit", "Check Out", "Undo Check Out", "Add", "Remove",
+                                 "Get Latest", "Activity Error"));
+}
+
+TEST(CommitRowRules, FilesAreSeenFromTheProject) {
+  const struct {
+    const char *Directory, *File, *Seen;
+  } rows[] = {
+      {"/p", "/p/unit1.pas", "unit1.pas"},        {"/p/", "/p/sub/unit1.pas", "sub/unit1.pas"},
+      {"/p/app", "/p/lib/x.pas", "../lib/x.pas"}, {"/p", "unit1.pas", "unit1.pas"},
+      {"", "/p/unit1.pas", "/p/unit1.pas"},
+  };
+  for (const auto& row : rows) EXPECT_EQ(ProjectRelativePath(row.Directory, row.File), row.Seen);
+}
+
+class CommitRowsOf : public TExpertTest {
+ protected:
+  /// "name: state/activity" of each row.
+  std::vector<std::string> Rows() {
+    std::vector<std::string> texts;
+    for (const auto& row : GatherCommitRows(*expert_)) {
+      EXPECT_EQ(row.Comment, "");
+      texts.push_back(ProjectRelativePath(At(""), row.FileName) + ": " + row.Status + "/" +
+                      ActivityToString(row.Activity));
+    }
+    return texts;
+  }
+};
+
+TEST_F(CommitRowsOf, AProjectAreItsFilesAndWhatTheProviderKnows) {
+  folder_.MakeFolder("work/sub/deep");
+  units_.push_back(At("UNIT1.pas"));
+  units_.push_back(folder_.Write("lib/shared.pas", "x"));
+  units_.push_back(At("gone.pas"));
+  Open();
+  provider_->List = {
+      {true, 1, At("sub/known.pas")},
+      {false, 0x41, At("sub/gone too.pas")},
+      {true, 0, At("sub/new.pas")},
+      {true, -1, At("sub/unsure.pas")},
+      {true, 1, At("unit2.pas")},
+      {true, 1, std::nullopt},
+      {true, 1, ""},
+  };
+  provider_->StatusOf = [this](const std::string& file) {
+    if (file == At("unit1.pas")) return kMine;
+    if (file == At("unit2.pas")) return kTheirs;
+    if (file == At("unit1.kfm")) return Long{-1};
+    if (file == At("sub/gone too.pas")) return Long{0x41};
+    return file == At("App.qvxproj") ? Long{0} : Long{1};
+  };
+  provider_->Differing = {At("unit1.pas"), At("App.qvxproj"), At("unit1.kfm")};
+
+  EXPECT_THAT(
+      Rows(),
+      ElementsAre("../lib/shared.pas: Up to date/No activity", "App.qvxproj: Not Controlled/Add",
+                  "sub/gone too.pas: Not Controlled/Add", "sub/known.pas: Modified/Get Latest",
+                  "unit1.kfm: Invalid status returned!/No activity", "unit1.pas: Checked out/Modified/Commit",
+                  "unit2.pas: Checked out by another user/Up To date/No activity"));
+
+  const auto& populate = provider_->Last("SccPopulateList");
+  EXPECT_EQ(populate.Command, SCC_COMMAND_GET);
+  EXPECT_EQ(populate.Flags, SCC_PL_DIR);
+  EXPECT_THAT(populate.Files, ElementsAre(folder_ / "lib/", At(""), At("sub/"), At("sub/deep/")));
+  EXPECT_EQ(provider_->Count("SccPopulateList"), 1);
+  EXPECT_EQ(provider_->Count("SccQueryInfo"), 1);
+  EXPECT_EQ(provider_->Count("SccDiff"), 3) << "one for each controlled file on disk";
+  EXPECT_EQ(provider_->Last("SccDiff").Flags, SCC_DIFF_QD_CONTENTS);
+  EXPECT_THAT(forms_.Boxes, IsEmpty());
+}
+
+TEST_F(CommitRowsOf, AProjectWithoutFilesAreNone) {
+  auto& expert = Open();
+  for (const char* file : {"App.qvxproj", "unit1.pas", "unit2.pas", "unit1.kfm"})
+    std::filesystem::remove(At(file));
+  EXPECT_THAT(GatherCommitRows(expert), IsEmpty());
+}
+
+TEST_F(CommitRowsOf, AreRefusedWithoutAProviderProject) {
+  auto& expert = Start();
+  EXPECT_EQ(AbortOf([&] { GatherCommitRows(expert); }),
+            "Unable to run Commit Browser, provider not assigned");
+  ASSERT_TRUE(expert.ProviderCreate(0));
+  EXPECT_EQ(AbortOf([&] { GatherCommitRows(expert); }), "Unable to set current project, no matching path");
+  EXPECT_EQ(provider_->Count("SccPopulateList"), 0);
+}
+
+TEST_F(CommitRowsOf, AProviderThatCannotTellIsNotTakenForOneThatKnowsNothing) {
+  Open();
+  provider_->Results["SccQueryInfo"] = SCC_E_ACCESSFAILURE;
+  EXPECT_EQ(Rows().size(), 4U);
+  EXPECT_THAT(forms_.Boxes,
+              ElementsAre(TShownBox{
+                  "Commit Browser",
+                  "Problem accessing the SCC system, network or contention problem. Try later", metError}));
+}
+
+TEST_F(CommitRowsOf, AProviderThatFloodsTheListIsRefused) {
+  auto& expert = Open();
+  provider_->Faults.FloodList = true;
+  EXPECT_THAT(AbortOf([&] { GatherCommitRows(expert); }), HasSubstr("65536"));
+}
+
+}  // namespace
