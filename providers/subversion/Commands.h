@@ -30,6 +30,8 @@ scc::Long QuickDiff(Session& session, const char* name, scc::Long flags);
 /// Brings a path up to date, fetching it and its parent folders when only the repository has them.  A local file that
 /// stands in the way is kept and counts as an edit.
 void Update(Session& session, const std::vector<std::string>& paths);
+/// The same to a given revision, each path by itself.
+void UpdateTo(Session& session, const std::vector<std::string>& paths, const svn_opt_revision_t& revision);
 /// Commits `paths`, each on its own, in one revision.  Throws Failure when nothing was committed.
 void Commit(Session& session, const std::vector<std::string>& paths, const std::string& log,
             AfterCommit locks);

@@ -3,6 +3,7 @@
 
 #include "Commands.h"
 #include "LocalStatus.h"
+#include "Nodes.h"
 #include "OpenProject.h"
 #include "SubversionSccStrings.h"
 
@@ -11,11 +12,10 @@ namespace {
 
 enum class Reach { AsItIs, Set };
 
-void UpdateTo(Session& session, const std::vector<std::string>& paths, svn_depth_t depth, Reach reach) {
+void UpdateTo(Session& session, const std::vector<std::string>& paths, svn_depth_t depth, Reach reach,
+              const svn_opt_revision_t& revision = Newest()) {
   const Pool pool;
-  svn_opt_revision_t head{};
-  head.kind = svn_opt_revision_head;
-  session.Svn().Run(svn_client_update4(nullptr, ToArray(paths, pool), &head, depth,
+  session.Svn().Run(svn_client_update4(nullptr, ToArray(paths, pool), &revision, depth,
                                        /*depth_is_sticky*/ reach == Reach::Set, /*ignore_externals*/ FALSE,
                                        /*allow_unver_obstructions*/ TRUE, /*adds_as_modification*/ TRUE,
                                        /*make_parents*/ TRUE, session.Context(), pool));
@@ -48,6 +48,10 @@ void TellUpToDate(Session& session, const std::vector<std::string>& paths) {
 
 void Update(Session& session, const std::vector<std::string>& paths) {
   UpdateTo(session, paths, svn_depth_unknown, Reach::AsItIs);
+}
+
+void UpdateTo(Session& session, const std::vector<std::string>& paths, const svn_opt_revision_t& revision) {
+  UpdateTo(session, paths, svn_depth_unknown, Reach::AsItIs, revision);
 }
 
 // One walk finds what has to be fetched; a fetch costs a connection per file unless it is the whole tree.

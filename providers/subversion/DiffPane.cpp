@@ -54,6 +54,7 @@ DiffPane::DiffPane(wxWindow* parent, DiffSideOf side)
   IndicatorSetOutlineAlpha(kChangedPart, 0);
   IndicatorSetUnder(kChangedPart, true);
   SetCaretLineVisible(true);
+  SetCaretLineVisibleAlways(true);
   SetCaretLineBackground(StyleGetForeground(wxSTC_STYLE_DEFAULT));
   SetCaretLineBackAlpha(28);
   Bind(wxEVT_STC_CLIPBOARD_COPY, &DiffPane::CopyWithoutFillers, this);

@@ -33,3 +33,31 @@ constexpr TResString sRightUnended{"The last line on the right has no line end."
 constexpr TResString sBinaryDiffer{
     "The files are not text, and they differ: %d bytes on the left, %d bytes on the right."};
 constexpr TResString sBinarySame{"The files are not text. There are no differences."};
+// History
+constexpr TResString sHistoryTitle{"History: %s"};
+constexpr TResString sNoFileNamed{"No file is named."};
+constexpr TResString sRevisionColumn{"Revision"};
+constexpr TResString sDateColumn{"Date"};
+constexpr TResString sUserColumn{"User"};
+constexpr TResString sCommentColumn{"Comment"};
+constexpr TResString sShowTextButton{"&Show Text"};
+constexpr TResString sComparePreviousButton{"Compare with &Previous"};
+constexpr TResString sCompareLocalButton{"Compare with &Local"};
+constexpr TResString sGetRevisionButton{"&Get This Revision..."};
+constexpr TResString sMoreButton{"&More"};
+constexpr TResString sRevisionBy{"revision %d, %s, %s"};
+constexpr TResString sOneRevision{"One revision."};
+constexpr TResString sRevisions{"%d revisions."};
+constexpr TResString sMoreRevisions{"The newest %d revisions. There are more."};
+constexpr TResString sGetRevisionTitle{"Get This Revision"};
+constexpr TResString sReplaceFile{"Replace %s by revision %d?"};
+constexpr TResString sReplaceEdits{
+    "%s has changes that are not checked in. Replace it by revision %d? Your version will be kept in a copy "
+    "beside it."};
+constexpr TResString sReplaceButton{"&Replace"};
+constexpr TResString sKeepButton{"&Keep Mine"};
+constexpr TResString sEditsKept{"The changes to %s were kept in %s."};
+constexpr TResString sGotRevision{"Fetched revision %d of %s."};
+constexpr TResString sOtherNameThen{
+    "In revision %d the file was %s: check it out first to get that text into it."};
+constexpr TResString sNoText{"This is no text: %d bytes."};

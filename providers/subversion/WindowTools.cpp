@@ -125,7 +125,7 @@ void TextPane::ShowText(const std::string& text) {
 
 RowList::RowList(wxWindow* parent, const char* name, const std::vector<Column>& columns, TextOf textOf)
     : wxListCtrl(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize,
-                 wxLC_REPORT | wxLC_VIRTUAL | wxLC_SINGLE_SEL | wxLC_HRULES),
+                 wxLC_REPORT | wxLC_VIRTUAL | wxLC_SINGLE_SEL),
       textOf_(std::move(textOf)) {
   SetName(name);
   for (const auto& column : columns) AppendColumn(ToWx(column.Title), column.Format, FromDIP(column.Width));

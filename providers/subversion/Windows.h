@@ -11,5 +11,7 @@ namespace svnscc {
 /// The file in the repository beside the local one.  SCC_OK when they are the same, else SCC_I_FILEDIFFERS; `flags` are
 /// those of SccDiff.
 scc::Long ShowDifferences(Session& session, scc::WindowHandle parent, const char* name, scc::Long flags);
+/// The history of the first file or folder.  SCC_I_RELOADFILE when the user had the local file replaced.
+scc::Long ShowHistory(Session& session, scc::WindowHandle parent, Names names);
 
 }  // namespace svnscc

@@ -1,0 +1,132 @@
+#include "History.h"
+
+#include <svn_compat.h>
+#include <svn_io.h>
+#include <svn_path.h>
+#include <svn_props.h>
+#include <svn_time.h>
+
+#include "Commands.h"
+#include "LocalStatus.h"
+#include "Repository.h"
+#include "Session.h"
+#include "WindowStrings.h"
+#include "host/System.h"
+
+namespace svnscc {
+namespace {
+
+struct LogTaker {
+  std::vector<Revision> revisions;
+  std::exception_ptr kept;
+};
+
+svn_error_t* TakeRevision(void* baton, svn_log_entry_t* entry, apr_pool_t* pool) noexcept {
+  auto& taker = *static_cast<LogTaker*>(baton);
+  if (!SVN_IS_VALID_REVNUM(entry->revision)) return SVN_NO_ERROR;
+  return Contain(taker.kept, [&] {
+    const char* author = nullptr;
+    const char* date = nullptr;
+    const char* message = nullptr;
+    svn_compat_log_revprops_out(&author, &date, &message, entry->revprops);
+    Revision revision{entry->revision, 0, author != nullptr ? author : "", message != nullptr ? message : ""};
+    if (date != nullptr) svn_error_clear(svn_time_from_cstring(&revision.When, date, pool));
+    taker.revisions.push_back(std::move(revision));
+  });
+}
+
+std::string FreeNameBeside(const std::string& path) {
+  std::string name = path + ".mine";
+  while (IsOnDisk(name)) name += "~";
+  return name;
+}
+
+void Copy(const std::string& from, const std::string& to) {
+  const Pool pool;
+  Check(svn_io_copy_file(from.c_str(), to.c_str(), /*copy_perms*/ FALSE, pool));
+}
+
+void Revert(Session& session, const std::string& path) {
+  const Pool pool;
+  session.Svn().Run(svn_client_revert4(ToArray({path}, pool), svn_depth_empty, nullptr, FALSE,
+                                       /*metadata_only*/ FALSE, /*added_keep_local*/ TRUE, session.Context(),
+                                       pool));
+}
+
+/// An update to a revision in which the file had another name would take it away.
+void RequireSameName(Session& session, const std::string& path, svn_revnum_t revision) {
+  const std::string then = FactsOf(session.Svn(), path, Numbered(revision)).Url;
+  if (then != LocalFactsOf(session.Svn(), path).Url)
+    throw Failure(scc::SCC_E_OPNOTPERFORMED,
+                  Format(sOtherNameThen.Text, {static_cast<long long>(revision), ReadableUrl(then)}));
+}
+
+}  // namespace
+
+History::History(Client& client, std::string place, int page)
+    : client_(client), place_(std::move(place)), page_(page) {}
+
+void History::LoadMore() {
+  if (!hasMore_) return;
+  std::vector<Revision> more;
+  if (revisions_.empty()) {
+    try {
+      more = Load(Newest());
+    } catch (const Failure& failure) {
+      // Deleted since: what led to the local copy is still history.
+      if (failure.Result() != scc::SCC_E_FILENOTCONTROLLED || svn_path_is_url(place_.c_str())) throw;
+      more = Load(Pristine());
+    }
+  } else {
+    more = Load(Numbered(revisions_.back().Number - 1));
+  }
+  // One more than shown was asked for.
+  hasMore_ =
+      more.size() > static_cast<std::size_t>(page_) && more[static_cast<std::size_t>(page_) - 1].Number > 1;
+  if (more.size() > static_cast<std::size_t>(page_)) more.resize(static_cast<std::size_t>(page_));
+  revisions_.insert(revisions_.end(), more.begin(), more.end());
+}
+
+std::vector<Revision> History::Load(const svn_opt_revision_t& from) {
+  const Pool pool;
+  auto* range = static_cast<svn_opt_revision_range_t*>(apr_pcalloc(pool, sizeof(svn_opt_revision_range_t)));
+  range->start = from;
+  range->end = Numbered(0);
+  apr_array_header_t* ranges = apr_array_make(pool, 1, sizeof(svn_opt_revision_range_t*));
+  *static_cast<svn_opt_revision_range_t**>(apr_array_push(ranges)) = range;
+  const svn_opt_revision_t peg{};
+  LogTaker taker;
+  svn_error_t* error = svn_client_log5(
+      ToArray({place_}, pool), &peg, ranges, page_ + 1, /*discover_changed_paths*/ FALSE,
+      /*strict_node_history*/ FALSE, /*include_merged_revisions*/ FALSE,
+      ToArray({SVN_PROP_REVISION_AUTHOR, SVN_PROP_REVISION_DATE, SVN_PROP_REVISION_LOG}, pool), TakeRevision,
+      &taker, client_.Context(), pool);
+  if (taker.kept != nullptr) Check(error, taker.kept);
+  client_.Run(error);
+  return std::move(taker.revisions);
+}
+
+Contents History::TextOf(std::size_t index) {
+  return ContentsOf(client_, place_, Numbered(revisions_.at(index).Number));
+}
+
+GotRevision GetRevision(Session& session, const std::string& path, svn_revnum_t revision) {
+  const LocalStatus local = AskLocal(session, path);
+  if (!local.HasLock) RequireSameName(session, path, revision);
+  GotRevision got;
+  if (local.Differs) {
+    got.Copy = FreeNameBeside(path);
+    Copy(path, got.Copy);
+    session.Out().Info(Format(sEditsKept.Text, {session.Label(path), session.Label(got.Copy)}));
+  }
+  if (local.HasLock) {
+    WriteFileAtomically(path, ContentsOf(session.Svn(), path, Numbered(revision)).Bytes);
+  } else {
+    if (local.Differs) Revert(session, path);
+    UpdateTo(session, {path}, Numbered(revision));
+  }
+  session.Out().Info(Format(sGotRevision.Text, {static_cast<long long>(revision), session.Label(path)}));
+  return got;
+}
+
+}  // namespace svnscc

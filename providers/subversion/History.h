@@ -1,0 +1,50 @@
+// The revisions in which a file or folder changed, newest first, loaded piece by piece.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "Nodes.h"
+
+namespace svnscc {
+
+struct Revision {
+  svn_revnum_t Number = SVN_INVALID_REVNUM;
+  apr_time_t When = 0;
+  std::string Author;
+  std::string Comment;
+};
+
+class History {
+ public:
+  static constexpr int kPage = 100;
+
+  /// Of a place as Nodes.h means it; nothing is loaded yet.
+  History(Client& client, std::string place, int page = kPage);
+  /// Appends at most one page.  Throws Failure.
+  void LoadMore();
+  bool HasMore() const { return hasMore_; }
+  const std::vector<Revision>& Revisions() const { return revisions_; }
+  const std::string& Place() const { return place_; }
+  /// The file as that revision left it.
+  Contents TextOf(std::size_t index);
+
+ private:
+  std::vector<Revision> Load(const svn_opt_revision_t& from);
+
+  Client& client_;
+  std::string place_;
+  int page_;
+  std::vector<Revision> revisions_;
+  bool hasMore_ = true;
+};
+
+/// What GetRevision did.
+struct GotRevision {
+  std::string Copy;  // where the local edits are kept; empty when there were none
+};
+/// Makes the local file what it was in `revision`.  A file that is checked out gets it as an edit, so that it can be
+/// checked in; any other is fetched at that revision.  Local edits are kept in a copy beside the file.
+GotRevision GetRevision(Session& session, const std::string& path, svn_revnum_t revision);
+
+}  // namespace svnscc
