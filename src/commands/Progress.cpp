@@ -1,80 +1,132 @@
 #include "commands/Progress.h"
 
-#include <wx/app.h>
-#include <wx/frame.h>
-#include <wx/gauge.h>
-#include <wx/panel.h>
-#include <wx/sizer.h>
-#include <wx/stattext.h>
+#include <wx/eventfilter.h>
+#include <wx/evtloop.h>
+#include <wx/wx.h>
 
 #include "commands/ProgressStrings.h"
 #include "host/Paths.h"
 #include "ui/WxText.h"
 
-namespace {
-
 using namespace std::chrono_literals;
 
-constexpr auto kBeforeShown = 500ms;
-constexpr auto kBetweenUpdates = 100ms;
-constexpr int kWidth = 360;
-constexpr int kSteps = 1000;
+bool TProgressClock::Due(TTime now) {
+  if (now < next_) return false;
+  next_ = now + 100ms;
+  return true;
+}
 
-}  // namespace
+void TProgressClock::Restart(TTime now) { next_ = now + 500ms; }
 
 class TProgressForm final : public wxFrame {
  public:
-  TProgressForm(wxWindow* parent, const std::string& caption)
-      : wxFrame(parent, wxID_ANY, ToWx(caption), wxDefaultPosition, wxDefaultSize,
-                wxCAPTION | wxFRAME_NO_TASKBAR | (parent ? wxFRAME_FLOAT_ON_PARENT : 0)),
-        panel_(new wxPanel(this)),
-        count_(new wxStaticText(panel_, wxID_ANY, "")),
-        what_(new wxStaticText(panel_, wxID_ANY, "", wxDefaultPosition, FromDIP(wxSize(kWidth, -1)),
-                               wxST_NO_AUTORESIZE | wxST_ELLIPSIZE_MIDDLE)),
-        gauge_(new wxGauge(panel_, wxID_ANY, kSteps)) {
-    auto* column = new wxBoxSizer(wxVERTICAL);
-    const auto flags = wxSizerFlags().Expand().Border(wxALL, FromDIP(6));
-    column->Add(count_, flags);
-    column->Add(what_, flags);
-    column->Add(gauge_, flags);
-    panel_->SetSizer(column);
-    auto* whole = new wxBoxSizer(wxVERTICAL);
-    whole->Add(panel_, wxSizerFlags(1).Expand().Border(wxALL, FromDIP(6)));
-    SetSizerAndFit(whole);
-    CentreOnParent();
-  }
-
+  TProgressForm(wxWindow* parent, const std::string& caption);
+  void ShowStep(std::size_t done, std::size_t total, const std::string& what);
   bool ShouldPreventAppExit() const override { return false; }
 
-  void ShowStep(std::size_t done, std::size_t total, const std::string& what) {
-    count_->SetLabel(
-        ToWx(Format(sFileOf, {static_cast<long long>(done + 1), static_cast<long long>(total)})));
-    what_->SetLabel(ToWx(ExtractFileName(what)));
-    gauge_->SetValue(static_cast<int>(done * kSteps / total));
-    if (!IsShown()) ShowWithoutActivating();
-    Update();
-    // Painting only: clicks and keys stay where they are until the work is done.
-    wxTheApp->SafeYieldFor(nullptr, wxEVT_CATEGORY_UI);
-  }
-
  private:
-  wxPanel* panel_;
+  static constexpr int kWidth = 360;
+  static constexpr int kGaugeSteps = 1000;
+
+  wxStaticText* AddText(wxWindow* panel, long style);
+
   wxStaticText* count_;
   wxStaticText* what_;
   wxGauge* gauge_;
 };
 
-TProgress::TProgress(std::string caption, std::size_t total)
-    : caption_(std::move(caption)), total_(total), next_(TClock::now() + kBeforeShown) {}
+TProgressForm::TProgressForm(wxWindow* parent, const std::string& caption)
+    : wxFrame(parent, wxID_ANY, ToWx(caption), wxDefaultPosition, wxDefaultSize,
+              wxCAPTION | wxFRAME_NO_TASKBAR | (parent ? wxFRAME_FLOAT_ON_PARENT : 0)) {
+  SetExtraStyle(wxWS_EX_TRANSIENT);  // no dialog may choose it as its parent
+  auto* panel = new wxPanel(this);
+  count_ = AddText(panel, 0);
+  what_ = AddText(panel, wxST_ELLIPSIZE_MIDDLE);
+  gauge_ = new wxGauge(panel, wxID_ANY, kGaugeSteps);
+  auto* column = new wxBoxSizer(wxVERTICAL);
+  for (wxWindow* row :
+       {static_cast<wxWindow*>(count_), static_cast<wxWindow*>(what_), static_cast<wxWindow*>(gauge_)})
+    column->Add(row, wxSizerFlags().Expand().Border(wxALL, FromDIP(6)));
+  panel->SetSizer(column);
+  auto* whole = new wxBoxSizer(wxVERTICAL);
+  whole->Add(panel, wxSizerFlags(1).Expand().Border(wxALL, FromDIP(6)));
+  SetSizerAndFit(whole);
+  CentreOnParent();
+}
+
+wxStaticText* TProgressForm::AddText(wxWindow* panel, long style) {
+  return new wxStaticText(panel, wxID_ANY, {}, wxDefaultPosition, FromDIP(wxSize(kWidth, -1)),
+                          wxST_NO_AUTORESIZE | style);
+}
+
+void TProgressForm::ShowStep(std::size_t done, std::size_t total, const std::string& what) {
+  const auto number = static_cast<long long>(done + 1);
+  count_->SetLabelText(ToWx(Format(sFileOf.Text, {number, static_cast<long long>(total)})));
+  what_->SetLabelText(ToWx(ExtractFileName(what)));
+  gauge_->SetValue(static_cast<int>(done * kGaugeSteps / total));
+  if (!IsShown()) ShowWithoutActivating();
+  Update();
+}
+
+namespace {
+
+/// No window of the host is closed while this lives: the work would go on without it.
+class TNoClosing final : private wxEventFilter {
+ public:
+  TNoClosing() { wxEvtHandler::AddFilter(this); }
+  TNoClosing(const TNoClosing&) = delete;
+  TNoClosing& operator=(const TNoClosing&) = delete;
+  ~TNoClosing() override { wxEvtHandler::RemoveFilter(this); }
+
+ private:
+  int FilterEvent(wxEvent& event) override {
+    if (event.GetEventType() != wxEVT_CLOSE_WINDOW) return Event_Skip;
+    auto& close = static_cast<wxCloseEvent&>(event);
+    if (!close.CanVeto()) return Event_Skip;
+    close.Veto();
+    return Event_Processed;
+  }
+};
+
+/// Lets windows appear and paint.  Keys and clicks stay where they are.
+void Paint() {
+  auto* loop = wxEventLoopBase::GetActive();
+  if (loop && !loop->IsYielding()) loop->YieldFor(wxEVT_CATEGORY_UI);
+}
+
+/// The window that the user works in, or nullptr.
+wxWindow* WorkingWindow() {
+  for (auto* window : {wxGetTopLevelParent(wxGetActiveWindow()), wxTheApp->GetTopWindow()})
+    if (window && window->IsShown() && !window->IsBeingDeleted()) return window;
+  return nullptr;
+}
+
+}  // namespace
+
+TProgress::TProgress(const std::string& caption, std::size_t total, TNow now)
+    : caption_(caption), total_(total), now_(std::move(now)), clock_(now_()) {
+  Register();
+}
 
 TProgress::~TProgress() {
-  if (form_) form_->Destroy();
+  Unregister();
+  CloseForm();
 }
 
 void TProgress::Step(std::size_t done, const std::string& what) {
-  const auto now = TClock::now();
-  if (now < next_ || done >= total_) return;
-  next_ = now + kBetweenUpdates;
-  if (!form_) form_ = new TProgressForm(wxTheApp->GetTopWindow(), caption_);
+  if (done >= total_ || !clock_.Due(now_())) return;
+  const TNoClosing noClosing;
+  if (!form_) form_ = new TProgressForm(WorkingWindow(), caption_);
   form_->ShowStep(done, total_, what);
+  Paint();  // what happens there may close the form
 }
+
+int TProgress::Enter(wxDialog*) {
+  CloseForm();
+  return wxID_NONE;
+}
+
+void TProgress::Exit(wxDialog*) { clock_.Restart(now_()); }
+
+// At once: a window that waits for its deletion would outlive the package's code when the host unloads it.
+void TProgress::CloseForm() { delete form_.get(); }
