@@ -96,12 +96,11 @@ void TFileCommandRun::SelectEligible() {
 }
 
 void TFileCommandRun::FillList(TFileListModel& model) {
-  auto& project = Project();
   const auto progress = expert_.Forms().StartProgress(command_.List, selected_.size());
   for (const auto& file : selected_) {
     progress->Step(model.Count(), file);
     TStateMessages messages;
-    model.AddFile(file, ProbeText(project.ShowDiff(file, kQuickTimeDiff, messages)));
+    model.AddFile(file, ProbeText(Project().ShowDiff(file, kQuickTimeDiff, messages)));
   }
 }
 
