@@ -25,8 +25,8 @@ constexpr Long kLongestComment = 0x7FFF;
 constexpr Dword kCapabilities = SCC_CAP_REMOVE | SCC_CAP_QUERYINFO | SCC_CAP_GETPROJPATH | SCC_CAP_TEXTOUT |
                                 SCC_CAP_COMMENTCHECKOUT | SCC_CAP_COMMENTCHECKIN | SCC_CAP_COMMENTADD |
                                 SCC_CAP_COMMENTREMOVE | SCC_CAP_COMMENTPROJECT | SCC_CAP_POPULATELIST |
-                                SCC_CAP_DIFF | SCC_CAP_HISTORY | SCC_CAP_DIFFALWAYS | SCC_CAP_IGNORECASE |
-                                SCC_CAP_IGNORESPACE;
+                                SCC_CAP_DIFF | SCC_CAP_HISTORY | SCC_CAP_PROPERTIES | SCC_CAP_RUNSCC |
+                                SCC_CAP_DIFFALWAYS | SCC_CAP_IGNORECASE | SCC_CAP_IGNORESPACE;
 
 std::string Text(const char* text) { return text != nullptr ? text : ""; }
 
@@ -221,10 +221,8 @@ SCC_EXPORT Long SCC_CALL SccGetCommandOptions(void*, WindowHandle, SCCCommand, v
   return SCC_E_OPNOTSUPPORTED;
 }
 SCC_EXPORT Long SCC_CALL SccGetEvents(void*, char*, Long*, Long*) { return SCC_E_OPNOTSUPPORTED; }
-SCC_EXPORT Long SCC_CALL SccProperties(void*, WindowHandle, const char*) { return SCC_E_OPNOTSUPPORTED; }
 SCC_EXPORT Long SCC_CALL SccRename(void*, WindowHandle, const char*, const char*) {
   return SCC_E_OPNOTSUPPORTED;
 }
-SCC_EXPORT Long SCC_CALL SccRunScc(void*, WindowHandle, Long, const char**) { return SCC_E_OPNOTSUPPORTED; }
 
 }  // extern "C"

@@ -18,4 +18,16 @@ SCC_EXPORT Long SCC_CALL SccHistory(void* context, WindowHandle window, Long cou
   });
 }
 
+SCC_EXPORT Long SCC_CALL SccProperties(void* context, WindowHandle window, const char* name) {
+  return GuardOpen(context, [&](Session& session) { return svnscc::ShowProperties(session, window, name); });
+}
+
+SCC_EXPORT Long SCC_CALL SccRunScc(void* context, WindowHandle window, Long count, const char** names) {
+  return Guard(context, [&](Session& session) {
+    const bool named = count > 0 && names != nullptr;
+    return svnscc::RunBrowser(session, window,
+                              named ? Names(names, static_cast<std::size_t>(count)) : Names());
+  });
+}
+
 }  // extern "C"

@@ -61,3 +61,47 @@ constexpr TResString sGotRevision{"Fetched revision %d of %s."};
 constexpr TResString sOtherNameThen{
     "In revision %d the file was %s: check it out first to get that text into it."};
 constexpr TResString sNoText{"This is no text: %d bytes."};
+// Properties
+constexpr TResString sPropertiesTitle{"Properties: %s"};
+constexpr TResString sFactKind{"Kind:"};
+constexpr TResString sFactAddress{"Address:"};
+constexpr TResString sFactPath{"In the repository:"};
+constexpr TResString sFactLocal{"On this computer:"};
+constexpr TResString sFactState{"State:"};
+constexpr TResString sFactRevision{"Revision here:"};
+constexpr TResString sFactChanged{"Last changed in revision:"};
+constexpr TResString sFactChangedBy{"Changed by:"};
+constexpr TResString sFactChangedAt{"Changed on:"};
+constexpr TResString sFactLockOwner{"Checked out by:"};
+constexpr TResString sFactLockSince{"Checked out since:"};
+constexpr TResString sFactLockComment{"Check-out comment:"};
+constexpr TResString sKindFolder{"Folder"};
+constexpr TResString sKindFile{"File"};
+constexpr TResString sNotLocked{"nobody"};
+constexpr TResString sStateSame{"up to date, not changed"};
+constexpr TResString sStateMissing{"not on this computer"};
+constexpr TResString sStateOutHere{"checked out here"};
+constexpr TResString sStateOutOther{"checked out by someone else"};
+constexpr TResString sStateElsewhere{"checked out by you in another folder"};
+constexpr TResString sStateChanged{"changed here"};
+constexpr TResString sStateConflict{"in conflict"};
+constexpr TResString sStateOld{"newer in the repository"};
+constexpr TResString sStateDeleted{"deleted in the repository"};
+constexpr TResString sVersionedProperties{"Versioned properties:"};
+constexpr TResString sNoProperties{"There are no versioned properties."};
+constexpr TResString sNameColumn{"Name"};
+constexpr TResString sValueColumn{"Value"};
+
+// Browser
+constexpr TResString sBrowserTitle{"Subversion Repository"};
+constexpr TResString sOpenButton{"&Open"};
+constexpr TResString sHistoryButton{"&History..."};
+constexpr TResString sPropertiesButton{"&Properties..."};
+constexpr TResString sRefreshButton{"Re&fresh"};
+constexpr TResString sRefreshHint{"Ask the repository again (F5)"};
+constexpr TResString sSizeColumn{"Size"};
+constexpr TResString sLockColumn{"Checked out by"};
+constexpr TResString sOpenARepository{"Enter the address of a repository and choose Open."};
+constexpr TResString sEmptyFolder{"the folder is empty."};
+constexpr TResString sOneEntry{"one entry."};
+constexpr TResString sEntries{"%d entries."};

@@ -13,5 +13,9 @@ namespace svnscc {
 scc::Long ShowDifferences(Session& session, scc::WindowHandle parent, const char* name, scc::Long flags);
 /// The history of the first file or folder.  SCC_I_RELOADFILE when the user had the local file replaced.
 scc::Long ShowHistory(Session& session, scc::WindowHandle parent, Names names);
+/// All there is to tell of a file or folder.
+scc::Long ShowProperties(Session& session, scc::WindowHandle parent, const char* name);
+/// The provider's own application, at the first file if one is named.  Works without an open project, too.
+scc::Long RunBrowser(Session& session, scc::WindowHandle parent, Names names);
 
 }  // namespace svnscc
