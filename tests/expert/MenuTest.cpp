@@ -193,6 +193,11 @@ TEST_F(FileMenu, IsThereOnlyWhileAProviderProjectIsOpen) {
   const auto& menu = *host_.FileMenus.at(0);
   EXPECT_FALSE(menu.IsEnabled(units_[0])) << "no project";
   host_.AddProject(project_file_, units_);
+  provider_->Results["SccOpenProject"] = SCC_E_COULDNOTCREATEPROJECT;
+  host_.Notify(TOTAFileNotification::fnFileOpened, project_file_);
+  EXPECT_TRUE(expert_->ProviderList());
+  EXPECT_FALSE(menu.IsEnabled(units_[0])) << "the provider refused the project";
+  provider_->Results.clear();
   host_.Notify(TOTAFileNotification::fnFileOpened, project_file_);
   EXPECT_TRUE(menu.IsEnabled(units_[0]));
   EXPECT_FALSE(menu.IsEnabled("")) << "a text that was never saved";
