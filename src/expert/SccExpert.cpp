@@ -9,6 +9,7 @@
 #include "host/Errors.h"
 #include "host/Paths.h"
 #include "ui/ExpertMainMenu.h"
+#include "ui/ExpertMainMenuStrings.h"
 
 TSccExpert* aSccExpert = nullptr;
 
@@ -95,7 +96,11 @@ void* TSccExpert::QueryInterface(const TGuid& iid) noexcept {
 std::string TSccExpert::GetIDString() { return sCompanyName.str() + sWizardName.str(); }
 std::string TSccExpert::GetName() { return sWizardName; }
 unsigned TSccExpert::GetState() { return wsEnabled; }
-void TSccExpert::Execute() { PullProjectWizard(); }
+
+void TSccExpert::Execute() {
+  RunCommand(sPullProjectError.Text, [this] { PullProjectWizard(); });
+}
+
 std::string TSccExpert::GetAuthor() { return sAuthorsName; }
 std::string TSccExpert::GetComment() { return sWizardDescription; }
 std::string TSccExpert::GetPage() { return sEmptyString; }
@@ -115,6 +120,10 @@ bool TSccExpert::IsUnit(const std::string& fileName) const {
 bool TSccExpert::IsProject(const std::string& fileName) const {
   const auto extension = ExtractFileExt(fileName);
   return SameText(extension, project_extension_) || SameText(extension, package_extension_);
+}
+
+bool TSccExpert::IsProjectFile(const std::string& fileName) const {
+  return IsProject(fileName) || SameText(ExtractFileExt(fileName), project_group_extension_);
 }
 
 namespace {

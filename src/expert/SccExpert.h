@@ -77,6 +77,14 @@ class TSccExpert final : public TNotifierObject, public IOTAWizard {
   /// Whether the mapping file exists and binds the current provider; also sets ProjectNotMapped.
   bool ProjectExists(const std::string& mappingFile);
 
+  // For the wizards, which work on a provider project of their own.
+  /// Takes that installed provider: its name, and the path of its library (empty when it is not installed).
+  void SelectProvider(const std::string& name);
+  /// Closes the provider project that is open and drops the provider, library included.
+  void ReleaseProvider();
+  /// The provider project of that host project, which is open, is from now on the one that the commands work on.
+  void ProjectPlaced(const std::string& projectFile) { open_project_file_ = projectFile; }
+
   // Opening and closing of projects.
   /// Handles one notification of the host.  One that arrives while another is being handled, or while a provider call
   /// is running (a provider may pump messages), waits until that is over: the library must not go away under its own
@@ -160,6 +168,8 @@ class TSccExpert final : public TNotifierObject, public IOTAWizard {
   bool IsUnit(const std::string& fileName) const;
   /// Compares with both project extension fields.
   bool IsProject(const std::string& fileName) const;
+  /// A project, a package or a project group.
+  bool IsProjectFile(const std::string& fileName) const;
 
  private:
   friend class TFileCommandRun;
@@ -171,7 +181,6 @@ class TSccExpert final : public TNotifierObject, public IOTAWizard {
   void OpenProviderProject(const std::string& fileName);
   void CloseFailedProject(const std::string& directory);
   std::string OpenProjectFile();
-  void ReleaseProvider();
   void HandlePendingNotifications();
   void Handle(TOTAFileNotification code, const std::string& fileName);
   /// RequireProject for the current project's file, as the single-file commands want it.

@@ -106,8 +106,9 @@ void TSccExpert::ProviderAddRemove(TStringList& list, scc::SCCCommand command) {
   if (provider_list_->Capabilities().test(pcSccPopulateList)) {
     TStateMessages messages;
     TStatusArray statuses;
-    auto& project = RequireCurrentProject();
-    project.PopulateList(command, working, PopListFunc, statuses, messages);
+    auto* project = provider_list_->CurrentProject();  // of the host's project, or of the one that is being pulled
+    if (!project) throw EAbort(sNoMatchingPath);
+    project->PopulateList(command, working, PopListFunc, statuses, messages);
     DisplayMessages(sSccPopulateList, messages);
   }
   DeleteFirstMatches(working, removeList);

@@ -84,10 +84,14 @@ bool TSccExpert::ProviderCreate(TWindowHandle param) {
   return true;
 }
 
+void TSccExpert::SelectProvider(const std::string& name) {
+  provider_name_ = name;
+  ReadProviderPath();
+}
+
 void TSccExpert::ChooseProvider(const std::string& provider, const std::string& userName) {
   ReleaseProvider();
-  provider_name_ = provider;
-  ReadProviderPath();
+  SelectProvider(provider);
   user_name_ = userName;
   auto* services = IdeService<IOTAServices>();
   if (!services) throw EAbort(sUnableToGetIDEServices);

@@ -1,0 +1,131 @@
+#include "wizards/PlaceProjectPages.h"
+
+#include <unordered_set>
+
+#include "expert/MappingFile.h"
+#include "host/Errors.h"
+#include "host/Paths.h"
+#include "host/System.h"
+#include "wizards/PlaceProjectWizardStrings.h"
+#include "wizards/WizardPagesStrings.h"
+
+namespace {
+
+/// This provider's projects are directories of its own file system: there is nothing to browse for.
+constexpr const char* kDirectoryProvider = "ClearCase";
+
+}  // namespace
+
+TPlaceProjectPages::TPlaceProjectPages(TSccExpert& expert)
+    : TWizardPages(expert),
+      project_file_(expert.GetCurrentProjectFile()),
+      directory_(ExtractFileDir(project_file_)) {}
+
+const TResString& TPlaceProjectPages::StepCaption() const { return sPlaceStep; }
+const TResString& TPlaceProjectPages::StatusCaption() const { return sPlaceStatusPage; }
+std::string TPlaceProjectPages::NoProviderText() const { return sPlaceNoProvider; }
+bool TPlaceProjectPages::SkipsProjectPage() const { return FExpert.ProviderName() == kDirectoryProvider; }
+
+void TPlaceProjectPages::ShowPage(int page) {
+  using P = TPlaceProjectPages;
+  static constexpr void (P::*kPages[])() = {&P::PageSelectProviderDisplay, &P::PageSelectProjectDisplay,
+                                            &P::PageSelectFilesDisplay, &P::PlaceProject};
+  (this->*kPages[page])();
+}
+
+void TPlaceProjectPages::PageSelectProjectDisplay() {
+  Show(2, sWizardNext, !ProjectName().empty());
+  if (SkipsProjectPage()) {
+    EnsureProject().set_ProjName(IncludeTrailingPathDelimiter(directory_));
+    NextFinishButtonClick();
+  } else {
+    ProjectBrowserButtonClick();
+  }
+}
+
+scc::Long TPlaceProjectPages::Browse(TSCCProviderProject& project, TStateMessages& messages) {
+  return project.GetProjectPath(messages, /*mayCreate*/ true, /*mayChangePath*/ false);
+}
+
+void TPlaceProjectPages::PageSelectFilesDisplay() {
+  Show(3, sWizardNext);
+  files_.clear();
+  shown_.clear();
+  if (!FExpert.ProviderList()) throw EAbort(sPlaceNoProvider);
+  TStringList gathered;
+  FExpert.AddAssociatedFiles(&gathered, /*removeMissing*/ true);
+  std::unordered_set<std::string> known;  // a unit may be another file's companion too
+  for (auto& file : gathered)
+    if (known.insert(file).second) files_.push_back(std::move(file));
+  for (const auto& file : files_) shown_.push_back(RelativePath(directory_, file));
+  ticked_.assign(files_.size(), true);
+}
+
+void TPlaceProjectPages::PlaceProject() {
+  PageStatusDisplay();
+  bool placed = false;
+  try {
+    placed = Place();
+  } catch (const std::exception& error) {
+    AddStatus(error.what());
+  }
+  // The mapping file stays when it has been written: it says what was meant.
+  if (placed)
+    FExpert.ProjectPlaced(project_file_);
+  else
+    RollBack();
+  Complete(placed);
+}
+
+bool TPlaceProjectPages::Place() {
+  AddStatus(Format(sPlaceInitializing.Text, {ExtractFileName(project_file_)}));
+  const auto& project = EnsureProject();
+  TMappingFile mapping(MappingFileName(project_file_));
+  mapping.Write(FExpert.ProviderName(), kMapProjName, project.get_ProjName());
+  mapping.Write(FExpert.ProviderName(), kMapAuxProjPath, project.get_ProjPath());
+  TProviderWords words;
+  const bool opened = Open(mapping, words);
+  // Whatever came of it: without an open project each file says for itself that it cannot be added.
+  for (std::size_t row = 0; row < files_.size(); ++row)
+    if (ticked_[row]) AddFile(row, words);
+  if (opened) AddStatus(sPlaceSucceeded);
+  return opened;
+}
+
+bool TPlaceProjectPages::Open(TMappingFile& mapping, TProviderWords& words) {
+  TStateMessages messages;
+  // Once for providers that make the project, once more for those that settle its names only when it exists.
+  Project().OpenProject(messages);
+  Project().CloseProject(messages);
+  words.TakeErrors();
+  const auto code = Project().OpenProject(messages);
+  if (code != scc::SCC_OK || !messages[2].empty()) {
+    AddReasons(words, messages);
+    return false;
+  }
+  mapping.Write(FExpert.ProviderName(), kMapUserName, Project().get_UserName());
+  return true;
+}
+
+void TPlaceProjectPages::AddFile(std::size_t row, TProviderWords& words) {
+  const auto& file = files_[row];
+  TStateMessages messages;
+  if (!Project().AddFile({file}, {}, KeepCheckedOut, messages)) {
+    // Seen from the directory above, so that the project's own name leads the way to the file: that is meant.
+    AddStatus(Format(sPlaceAddFailed.Text, {RelativePath(ExtractFileDir(directory_), file)}));
+    return AddReasons(words, messages);
+  }
+  words.TakeErrors();
+  AddStatus(Format(sPlaceAddOk.Text, {shown_[row]}));
+  if (FileExists(file)) SetFileAttributesOf(file, faArchive);
+}
+
+void TPlaceProjectPages::RollBack() {
+  try {
+    TStateMessages messages;
+    Project().CloseProject(messages);
+    RemoveProject(directory_);
+  } catch (const EAbort&) {
+    // The host has taken the provider away, its projects included.
+  }
+}

@@ -1,0 +1,12 @@
+// Texts of the wizard that places a project.
+#pragma once
+
+#include "host/Text.h"
+
+constexpr TResString sPlaceStep{"Place project Wizard: Step %d of %d"};
+constexpr TResString sPlaceStatusPage{"Place project Wizard: Status page"};
+constexpr TResString sPlaceNoProvider{"Unable to place project, provider not assigned"};
+constexpr TResString sPlaceInitializing{"Initializing Project %s"};
+constexpr TResString sPlaceAddOk{"Add %s: ok"};
+constexpr TResString sPlaceAddFailed{"Add %s: failed"};
+constexpr TResString sPlaceSucceeded{"Succeeded"};

@@ -1,0 +1,37 @@
+// What the provider says while a wizard works.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "provider/sccapiintf.h"
+
+/// Listens in for as long as it lives; everything still goes where it went before.
+class TProviderWords final : public IProviderSink {
+ public:
+  /// `onLine` (may be empty) is called with every line.
+  explicit TProviderWords(std::function<void(const std::string&)> onLine = {})
+      : on_line_(std::move(onLine)), previous_(SetProviderSink(this)) {}
+  TProviderWords(const TProviderWords&) = delete;
+  TProviderWords& operator=(const TProviderWords&) = delete;
+  ~TProviderWords() override { SetProviderSink(previous_); }
+
+  void Line(Kind kind, const std::string& text) override {
+    if (previous_) previous_->Line(kind, text);
+    if (kind == Kind::Error) errors_.push_back(text);
+    if (on_line_) on_line_(text);
+  }
+  void Box(const std::string& text) override {
+    if (previous_) previous_->Box(text);
+  }
+
+  /// The errors since the last time.
+  std::vector<std::string> TakeErrors() { return std::exchange(errors_, {}); }
+
+ private:
+  std::function<void(const std::string&)> on_line_;
+  IProviderSink* previous_;
+  std::vector<std::string> errors_;
+};

@@ -1,0 +1,231 @@
+#include "wizards/PullProjectPages.h"
+
+#include <algorithm>
+#include <filesystem>
+
+#include "expert/MappingFile.h"
+#include "host/Errors.h"
+#include "host/Paths.h"
+#include "host/Registry.h"
+#include "host/System.h"
+#include "wizards/FileSearch.h"
+#include "wizards/PullProjectWizardStrings.h"
+#include "wizards/WizardPagesStrings.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+// Projects of this provider are views that exist already: there is nothing to pull.
+constexpr const char* kViewProvider = "ClearCase";
+
+// The one provider whose users may change the local path while they pick a project.
+constexpr const char* kPathChoosingProvider = "software\\Mirelda\\MSIntegration3";
+
+constexpr std::size_t kLongestPath = 260;
+
+bool MayChangePath(const std::string& providerPath) {
+  TRegistry registry;
+  const auto chooser =
+      registry.OpenKeyReadOnly(kPathChoosingProvider) ? registry.ReadString(kServerPath) : std::string();
+  return SameText(chooser, providerPath);
+}
+
+/// Why a project cannot be pulled into that directory; empty when it can.
+std::string TargetProblem(const std::string& directory) {
+  if (directory.empty()) return sTargetNone;
+  if (!IsAbsolutePath(directory)) return sTargetNotAbsolute;
+  if (directory.size() > kLongestPath)
+    return Format(sTargetTooLong.Text, {static_cast<long long>(kLongestPath)});
+  if (FileExists(directory) && !DirectoryExists(directory)) return Format(sTargetIsFile.Text, {directory});
+  return {};
+}
+
+/// What else the user should know about it.
+std::string TargetNote(const std::string& directory) {
+  if (!TargetProblem(directory).empty()) return {};
+  if (!DirectoryExists(directory)) return sTargetWillBeMade;
+  std::error_code ignored;
+  return fs::is_empty(directory, ignored) || ignored ? std::string() : sTargetNotEmpty.str();
+}
+
+void MakeDirectory(const std::string& directory) {
+  std::error_code failed;
+  fs::create_directories(directory, failed);
+  if (failed) throw std::runtime_error(Format(sTargetNotMade.Text, {directory, failed.message()}));
+}
+
+}  // namespace
+
+TPullProjectPages::TPullProjectPages(TSccExpert& expert) : TWizardPages(expert) {}
+
+const TResString& TPullProjectPages::StepCaption() const { return sPullStep; }
+const TResString& TPullProjectPages::StatusCaption() const { return sPullStatusPage; }
+std::string TPullProjectPages::NoProviderText() const { return sPullNoProvider; }
+bool TPullProjectPages::Offers(const std::string& provider) const { return provider != kViewProvider; }
+
+std::string TPullProjectPages::ProjectDirectory() {
+  auto* services = IdeService<IOTAServices>();
+  return services ? services->GetStartupDirectory() : std::string();
+}
+
+// The directory comes before the project, since the provider is told of it when the project is picked; the panels are
+// numbered otherwise.
+void TPullProjectPages::ShowPage(int page) {
+  using P = TPullProjectPages;
+  static constexpr void (P::*kPages[])() = {&P::PageSelectProviderDisplay, &P::PageSelectTargetDisplay,
+                                            &P::PageSelectProjectDisplay, &P::PullProject};
+  (this->*kPages[page])();
+}
+
+void TPullProjectPages::PageSelectTargetDisplay() {
+  Show(3, sWizardNext);
+  if (target_.empty()) TargetDirectoryChange(ProjectDirectory());
+}
+
+void TPullProjectPages::TargetDirectoryChange(const std::string& text) {
+  target_ = text;
+  note_ = ::TargetNote(Trim(text));
+  page_.Problem.clear();
+  Changed();
+}
+
+bool TPullProjectPages::MayLeave() {
+  if (page_.Panel != 3) return true;
+  target_ = ExcludeTrailingPathDelimiter(Trim(target_));
+  page_.Problem = TargetProblem(target_);
+  return page_.Problem.empty();
+}
+
+void TPullProjectPages::MoveToTarget() {
+  auto& project = EnsureProject();
+  project.set_LocalPath(target_);
+  Follow(project);
+}
+
+void TPullProjectPages::PageSelectProjectDisplay() {
+  Show(2, sPullNext, !ProjectName().empty());
+  MoveToTarget();
+  ProjectBrowserButtonClick();
+}
+
+scc::Long TPullProjectPages::Browse(TSCCProviderProject& project, TStateMessages& messages) {
+  const auto code =
+      project.GetProjectPath(messages, /*mayCreate*/ false, MayChangePath(FExpert.ProviderPath()));
+  Follow(project);
+  if (code == scc::SCC_OK && LocalPath() != target_) TargetDirectoryChange(LocalPath());
+  return code;
+}
+
+void TPullProjectPages::SayProgress(std::string text) {
+  progress_ = std::move(text);
+  Changed();
+}
+
+void TPullProjectPages::PullProject() {
+  FProjectFile.clear();
+  can_open_ = false;
+  PageStatusDisplay();
+  try {
+    can_open_ = Pull();
+  } catch (const std::exception& error) {
+    AddStatus(error.what());
+  }
+  Finish();
+  SayProgress({});
+  Complete(can_open_);
+}
+
+bool TPullProjectPages::Pull() {
+  MakeDirectory(target_);
+  MoveToTarget();
+  TProviderWords words;
+  SayProgress(sPullOpening);
+  if (!Open(words)) return false;
+  SayProgress(sPullListing);
+  const auto expected = FindProjectFile();
+  if (FProjectFile.empty()) {
+    AddStatus(sPullNoProjectFile);
+    return false;
+  }
+  const bool fetched = Fetch(expected);
+  ListFetched();
+  WriteMapping();
+  return fetched && FileExists(FProjectFile);
+}
+
+bool TPullProjectPages::Open(TProviderWords& words) {
+  TStateMessages messages;
+  const auto code = Project().OpenProject(messages, target_);
+  if (code >= 0 && messages[2].empty()) return true;
+  AddReasons(words, messages);
+  return false;
+}
+
+/// Sets FProjectFile; returns how many files the project has.
+std::size_t TPullProjectPages::FindProjectFile() {
+  TStringList files;
+  Project();  // the one whose files are asked for
+  FExpert.ProviderAddRemove(files, scc::SCC_COMMAND_GET);
+  const auto found =
+      std::ranges::find_if(files, [this](const std::string& file) { return FExpert.IsProjectFile(file); });
+  if (found != files.end()) FProjectFile = *found;
+  return files.size();
+}
+
+bool TPullProjectPages::Fetch(std::size_t expected) {
+  SayProgress(sPullFetching);
+  long long done = 0;
+  TProviderWords words([&](const std::string& line) {
+    done = std::min(done + 1, static_cast<long long>(expected));
+    SayProgress(Format(sPullFetched.Text, {done, static_cast<long long>(expected), line}));
+  });
+  TStateMessages messages;
+  const auto code = Project().GetFilesAndDirs({target_}, messages);
+  if (code >= 0) return true;
+  AddReasons(words, messages);
+  return false;
+}
+
+void TPullProjectPages::ListFetched() {
+  SayProgress(sPullChecking);
+  TStringList entries;
+  SearchRecursiveFiles(entries, target_);
+  TStatusArray statuses;
+  // A provider may keep as many files of its own there as the project has: more than one query's worth, then.
+  for (std::size_t first = 0; first < entries.size(); first += kMaxFiles) {
+    const auto last = std::min(entries.size(), first + kMaxFiles);
+    const TStringList part(entries.begin() + static_cast<std::ptrdiff_t>(first),
+                           entries.begin() + static_cast<std::ptrdiff_t>(last));
+    TStateMessages messages;
+    statuses.Clear();
+    Project().Query(part, statuses, messages);
+    for (std::size_t i = 0; i < part.size(); ++i) {
+      if (!(statuses[i] & scc::SCC_STATUS_CONTROLLED)) continue;
+      AddStatus(Format(sPullGetOf.Text, {RelativePath(target_, part[i])}));
+      if (!DirectoryExists(part[i])) SetFileAttributesOf(part[i], faArchive);
+    }
+  }
+}
+
+// Always in the target directory, wherever below it the project file is: that is the directory that the provider knows.
+void TPullProjectPages::WriteMapping() {
+  const auto& project = Project();
+  TMappingFile mapping(
+      MappingFileName(IncludeTrailingPathDelimiter(target_) + ExtractFileName(FProjectFile)));
+  mapping.Write(FExpert.ProviderName(), kMapProjName, project.get_ProjName());
+  mapping.Write(FExpert.ProviderName(), kMapAuxProjPath, project.get_ProjPath());
+}
+
+void TPullProjectPages::Finish() {
+  try {
+    TStateMessages messages;
+    Project().CloseProject(messages);
+  } catch (const EAbort&) {
+    // The host has taken the provider away, its projects included.
+  }
+  AddStatus(sPullDone);
+  RemoveProject(ProjectDirectory());
+  if (!FProjectFile.empty()) RemoveProject(ExtractFileDir(FProjectFile));
+  RemoveProject(LocalPath());  // the project file may be in a directory below
+}

@@ -1,0 +1,207 @@
+#include "wizards/WizardPages.h"
+
+#include <algorithm>
+
+#include "expert/SccExpertStrings.h"
+#include "host/Errors.h"
+#include "host/Registry.h"
+#include "provider/SCMAddInOptions.h"
+#include "wizards/WizardPagesStrings.h"
+
+namespace {
+
+constexpr int kLastPage = 3;
+// The status page is the fourth, and no step: the user has nothing to do there.
+constexpr long long kSteps = 3;
+
+}  // namespace
+
+void TWizardPages::Attempt(const std::function<void()>& action) {
+  page_.Problem.clear();
+  try {
+    action();
+  } catch (const std::exception& error) {
+    page_.Problem = error.what();
+  }
+  Changed();
+}
+
+void TWizardPages::Changed() const {
+  if (OnChange) OnChange();
+}
+
+void TWizardPages::FormCreate(TWindowHandle window) {
+  window_ = window;
+  Attempt([this] {
+    Initialize();
+    InitializeProject();
+  });
+  const auto problem = page_.Problem;
+  Attempt([this] { DisplayPage(); });
+  page_.Problem = problem;
+  Changed();
+}
+
+void TWizardPages::Initialize() {
+  providers_.clear();
+  project_name_.clear();
+  TRegistry registry;
+  if (registry.OpenKeyReadOnly(kInstalledProvidersKey)) providers_ = registry.GetValueNames();
+  std::erase_if(providers_, [this](const std::string& name) { return !Offers(name); });
+  selected_ = providers_.empty() ? -1 : 0;
+
+  auto name = TSCMAddInEnvironmentOptions().SCCProvider();
+  if (name.empty()) FExpert.ReadDefaultProvider(name);
+  const auto found =
+      std::ranges::find_if(providers_, [&](const std::string& known) { return SameText(known, name); });
+  if (found != providers_.end()) selected_ = static_cast<int>(found - providers_.begin());
+}
+
+void TWizardPages::SetSCCSettings() {
+  FExpert.SelectProvider(selected_ < 0 ? std::string() : providers_[static_cast<std::size_t>(selected_)]);
+}
+
+void TWizardPages::InitializeProject() {
+  if (!FExpert.ProviderList()) {
+    SetSCCSettings();
+    if (!FExpert.ProviderCreate(window_)) return;
+  }
+  EnsureProject();
+}
+
+TSCCProviderProject& TWizardPages::EnsureProject() {
+  if (local_path_.empty()) local_path_ = ProjectDirectory();
+  auto* list = FExpert.ProviderList();
+  if (list && !list->SetCurrentProject(local_path_)) {
+    list->Add(local_path_);
+    auto& project = Project();
+    if (!picked_.UserName.empty()) project.set_UserName(picked_.UserName);
+    project.set_ProjName(picked_.ProjName);
+    project.set_ProjPath(picked_.ProjPath);
+  }
+  return Project();
+}
+
+TSCCProviderProject& TWizardPages::Project() { return FExpert.RequireProject(local_path_, NoProviderText()); }
+
+void TWizardPages::RemoveProject(const std::string& directory) {
+  auto* list = FExpert.ProviderList();
+  if (!list) return;
+  list->Remove(directory);
+  list->SetCurrentProject(directory);  // drops the reference to the one removed
+}
+
+void TWizardPages::cbProvidersChange(int selected) {
+  Attempt([&] {
+    selected_ = selected;
+    picked_ = {};
+    project_name_.clear();
+    local_path_.clear();
+    FExpert.ReleaseProvider();
+    PageSelectProviderDisplay();  // holds if the provider cannot be created
+    InitializeProject();
+    PageSelectProviderDisplay();
+  });
+}
+
+void TWizardPages::DisplayPage() {
+  page_.Caption = FPage == kLastPage
+                      ? StatusCaption().str()
+                      : Format(StepCaption().Text, {static_cast<long long>(FPage) + 1, kSteps});
+  ShowPage(FPage);
+}
+
+void TWizardPages::Show(int panel, const TResString& next, bool nextEnabled) {
+  page_.Panel = panel;
+  page_.Back = true;
+  page_.Next = nextEnabled;
+  page_.NextCaption = next;
+  page_.NoProviders = false;
+  Changed();  // what follows may open the provider's dialog, with this page behind it
+}
+
+void TWizardPages::PageSelectProviderDisplay() {
+  Show(1, sWizardNext);
+  page_.Back = false;
+  if (selected_ < 0 && providers_.empty()) {
+    providers_.push_back(sWizardNoProviders);
+    selected_ = 0;
+  }
+  const bool none = providers_.size() == 1 && providers_.front() == sWizardNoProviders.str();
+  page_.NoProviders = FExpert.ProviderList() == nullptr;
+  page_.Next = !none && !page_.NoProviders;
+}
+
+void TWizardPages::PageStatusDisplay() {
+  status_.clear();
+  Show(4, sWizardClose, false);
+  page_.Back = false;
+  Changed();
+}
+
+void TWizardPages::Complete(bool succeeded) {
+  page_.Next = true;
+  page_.Back = !succeeded;  // what failed can be corrected and tried again
+  Changed();
+}
+
+void TWizardPages::BackButtonClick() {
+  if (FPage == 0) return;
+  --FPage;
+  if (SkipsProjectPage() && FPage == 1) --FPage;
+  Attempt([this] { DisplayPage(); });
+}
+
+void TWizardPages::NextFinishButtonClick() {
+  if (FPage == kLastPage) {
+    finished_ = true;
+    return Changed();
+  }
+  Attempt([this] {
+    if (!MayLeave()) return;
+    ++FPage;
+    DisplayPage();
+  });
+}
+
+void TWizardPages::Pick(const TSCCProviderProject& project) {
+  picked_ = {project.get_ProjName(), project.get_ProjPath(), project.get_UserName()};
+  project_name_ = picked_.ProjName;
+}
+
+void TWizardPages::ProjectBrowserButtonClick() {
+  Attempt([this] {
+    TStateMessages messages;
+    TProviderWords words;
+    auto& project = EnsureProject();
+    const auto code = Browse(project, messages);
+    if (code == scc::SCC_OK) {
+      Pick(project);
+    } else if (code < 0) {
+      const auto errors = words.TakeErrors();
+      page_.Problem = errors.empty() ? messages[2] : errors.back();
+    }
+    page_.Next = !project_name_.empty();
+  });
+}
+
+void TWizardPages::ProjectNameChange(const std::string& text) {
+  Attempt([&] {
+    project_name_ = picked_.ProjName = text;
+    page_.Next = !text.empty();
+    EnsureProject().set_ProjName(text);
+  });
+}
+
+void TWizardPages::AddStatus(std::string line) {
+  status_.push_back(std::move(line));
+  Changed();
+}
+
+void TWizardPages::AddReasons(TProviderWords& words, const TStateMessages& messages) {
+  auto reasons = words.TakeErrors();
+  if (reasons.empty())
+    for (const auto& text : {messages[2], messages[1]})
+      if (!text.empty()) reasons.push_back(text);
+  for (const auto& reason : reasons) AddStatus(Format(sWizardReason.Text, {reason}));
+}

@@ -1,0 +1,116 @@
+// What the wizards that place and pull a project have in common, without their windows: the pages and their buttons, the
+// provider that is chosen, the provider project that is picked, and the lines of the status page.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "expert/SccExpert.h"
+#include "wizards/ProviderWords.h"
+
+/// What a wizard's form shows of the current page.
+struct TWizardPage {
+  std::string Caption;
+  int Panel = 1;  ///< which of the form's four panels
+  bool Back = false;
+  bool Next = false;
+  std::string NextCaption;
+  bool NoProviders = false;  ///< the notice on the provider page
+  std::string Problem;       ///< a sentence: why it does not go on; empty when nothing is in the way
+};
+
+class TWizardPages {
+ public:
+  /// `expert` is borrowed.  The handlers below never throw: what goes wrong becomes the page's Problem, or a line of the
+  /// status page.
+  explicit TWizardPages(TSccExpert& expert) : FExpert(expert) {}
+  TWizardPages(const TWizardPages&) = delete;
+  TWizardPages& operator=(const TWizardPages&) = delete;
+  virtual ~TWizardPages() = default;
+
+  /// Called whenever the form should look again: Page(), texts or Status() have changed.  Called for every line of the
+  /// status page: must be cheap.
+  std::function<void()> OnChange;
+
+  /// Fills the list of providers, creates the chosen one and shows the first page.  `window` is the parent of the
+  /// provider's dialogs.
+  void FormCreate(TWindowHandle window);
+
+  // The form's handlers.
+  void BackButtonClick();
+  void NextFinishButtonClick();
+  void ProjectBrowserButtonClick();
+  void ProjectNameChange(const std::string& text);
+  void cbProvidersChange(int selected);
+
+  const TWizardPage& Page() const { return page_; }
+  const TStringList& Providers() const { return providers_; }
+  int SelectedProvider() const { return selected_; }  ///< -1 when there is none
+  const std::string& ProjectName() const { return project_name_; }
+  const TStringList& Status() const { return status_; }
+  /// The Close button of the status page was pressed.
+  bool Finished() const { return finished_; }
+
+ protected:
+  virtual const TResString& StepCaption() const = 0;
+  virtual const TResString& StatusCaption() const = 0;
+  virtual void ShowPage(int page) = 0;
+  /// The directory that the provider project is created for.
+  virtual std::string ProjectDirectory() = 0;
+  virtual std::string NoProviderText() const = 0;
+  /// Whether the provider of that name can be chosen here.
+  virtual bool Offers(const std::string&) const { return true; }
+  /// Asks the provider for a project; its return code.
+  virtual scc::Long Browse(TSCCProviderProject& project, TStateMessages& messages) = 0;
+  /// Whether the current page can be left forwards; says why not in the page's Problem.
+  virtual bool MayLeave() { return true; }
+  virtual bool SkipsProjectPage() const { return false; }
+
+  void DisplayPage();
+  void PageSelectProviderDisplay();
+  /// Shows a page with Back and that Next button.
+  void Show(int panel, const TResString& next, bool nextEnabled = true);
+  /// The status page: nothing can be pressed until Complete().
+  void PageStatusDisplay();
+  void Complete(bool succeeded);
+  void Changed() const;
+  void AddStatus(std::string line);
+  /// Adds what the provider said about a failure, or else the text of its return code.
+  void AddReasons(TProviderWords& words, const TStateMessages& messages);
+
+  /// The wizard's provider project, made current.  Looked up anew each time: in the message loops of dialogs the host may
+  /// have taken the provider away.  Throws EAbort when it has.
+  TSCCProviderProject& Project();
+  /// The same, created first when it is not there (any more), with what the user has picked.
+  TSCCProviderProject& EnsureProject();
+  /// The provider project is now at its own local path: that is where Project() looks for it from now on.
+  void Follow(const TSCCProviderProject& project) { local_path_ = project.get_LocalPath(); }
+  const std::string& LocalPath() const { return local_path_; }
+  void RemoveProject(const std::string& directory);
+
+  TSccExpert& FExpert;
+  TWizardPage page_;
+
+ private:
+  void Initialize();
+  void InitializeProject();
+  void SetSCCSettings();
+  void Pick(const TSCCProviderProject& project);
+  void Attempt(const std::function<void()>& action);
+
+  /// What names the provider project: it must outlive a session that was rolled back.
+  struct TIdentity {
+    std::string ProjName, ProjPath, UserName;
+  };
+
+  int FPage = 0;
+  TWindowHandle window_ = 0;
+  TStringList providers_;
+  int selected_ = -1;
+  std::string local_path_;
+  TIdentity picked_;
+  std::string project_name_;
+  TStringList status_;
+  bool finished_ = false;
+};

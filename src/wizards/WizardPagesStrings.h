@@ -1,0 +1,9 @@
+// Texts that both wizards share.
+#pragma once
+
+#include "host/Text.h"
+
+constexpr TResString sWizardNext{"&Next >"};
+constexpr TResString sWizardClose{"&Close"};
+constexpr TResString sWizardNoProviders{"No providers available"};
+constexpr TResString sWizardReason{"      %s"};

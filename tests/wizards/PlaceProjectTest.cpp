@@ -1,0 +1,192 @@
+// Placing a project: pages, buttons, what is written when.
+#include <filesystem>
+
+#include "expert/ExpertFixture.h"
+#include "host/System.h"
+#include "wizards/PlaceProjectPages.h"
+
+namespace {
+
+class PlaceProject : public TExpertTest {
+ protected:
+  PlaceProject() {
+    std::filesystem::remove(At("App.cdp"));
+    provider_->GetProjPath = {{}, "trunk/App", {}, "repo"};
+  }
+  /// The wizard on its first page, for the project that the host has open.
+  TPlaceProjectPages& Show() {
+    if (!expert_) Start();
+    if (!host_.FindModule(project_file_)) host_.AddProject(project_file_, units_);
+    pages_ = std::make_unique<TPlaceProjectPages>(*expert_);
+    pages_->FormCreate(0);
+    return *pages_;
+  }
+  void Next(int times = 1) {
+    for (int i = 0; i < times; ++i) pages_->NextFinishButtonClick();
+  }
+  std::vector<std::string> Files() const {
+    std::vector<std::string> names;
+    for (std::size_t row = 0; row < pages_->FileCount(); ++row) names.push_back(pages_->FileName(row));
+    return names;
+  }
+  const TWizardPage& Page() const { return pages_->Page(); }
+
+  std::unique_ptr<TPlaceProjectPages> pages_;
+};
+
+TEST_F(PlaceProject, GoesThroughItsPagesAndLeavesTheProjectOpen) {
+  SetFileAttributesOf(units_[0], faReadOnly);
+  Show();
+  EXPECT_EQ(Page().Caption, "Place project Wizard: Step 1 of 3");
+  EXPECT_FALSE(Page().Back);
+  EXPECT_EQ(Page().NextCaption, "&Next >");
+  EXPECT_EQ(provider_->Count("SccGetProjPath"), 0);
+
+  Next();
+  EXPECT_EQ(Page().Panel, 2);
+  EXPECT_TRUE(provider_->Last("SccGetProjPath").IsNew) << "the browser opens by itself, and may create";
+  EXPECT_EQ(pages_->ProjectName(), "trunk/App");
+  EXPECT_TRUE(Page().Back && Page().Next);
+
+  Next();
+  EXPECT_EQ(Page().Caption, "Place project Wizard: Step 3 of 3");
+  EXPECT_THAT(Files(), ElementsAre("unit1.pas", "unit2.pas", "App.qvxproj", "unit1.kfm"));
+  pages_->SetTicked(1, false);
+  pages_->KeepCheckedOut = true;
+  provider_->OpenProject.User = "ann@repo";
+  provider_->OnCall["SccAdd"] = [&](const ScriptedCall& call) {
+    provider_->Results["SccAdd"] = call.Files[0] == At("App.qvxproj") ? scc::SCC_E_NONSPECIFICERROR : 0;
+  };
+  provider_->Calls.clear();
+
+  Next();
+  EXPECT_EQ(Page().Caption, "Place project Wizard: Status page");
+  EXPECT_EQ(Page().NextCaption, "&Close");
+  EXPECT_FALSE(Page().Back);
+  EXPECT_THAT(provider_->Entries(), ElementsAre("SccOpenProject", "SccCloseProject", "SccOpenProject",
+                                                "SccAdd", "SccAdd", "SccAdd"));
+  EXPECT_EQ(provider_->Last("SccAdd").FileFlags[0], scc::SCC_KEEP_CHECKEDOUT);
+  const auto& status = pages_->Status();
+  ASSERT_EQ(status.size(), 6u);
+  EXPECT_EQ(status[0], "Initializing Project App.qvxproj");
+  EXPECT_EQ(status[1], "Add unit1.pas: ok");
+  EXPECT_EQ(status[2], "Add work/App.qvxproj: failed");
+  EXPECT_THAT(status[3], HasSubstr("      ")) << "and why";
+  EXPECT_EQ(status[4], "Add unit1.kfm: ok");
+  EXPECT_EQ(status[5], "Succeeded");
+  EXPECT_EQ(GetFileAttributesOf(units_[0]), faArchive) << "writable";
+  EXPECT_EQ(Mapping(), "[Scripted]\nProjName=trunk/App\nAuxProjPath=repo\nUserName=ann@repo\n");
+
+  EXPECT_FALSE(pages_->Finished());
+  Next();
+  EXPECT_TRUE(pages_->Finished());
+  EXPECT_TRUE(provider_->Open);
+  host_.Notify(TOTAFileNotification::fnFileClosing, project_file_);
+  EXPECT_FALSE(provider_->Open) << "it is the commands' project from now on";
+}
+
+TEST_F(PlaceProject, RefusedOpenRollsBackAndCanBeTriedAgain) {
+  Show();
+  Next(2);
+  provider_->Results["SccOpenProject"] = scc::SCC_E_INVALIDUSER;
+  provider_->Results["SccAdd"] = scc::SCC_E_PROJNOTOPEN;
+  Next();
+  EXPECT_EQ(provider_->Count("SccAdd"), 4) << "files are offered all the same";
+  EXPECT_THAT(pages_->Status(), Contains(HasSubstr("could not login")));
+  EXPECT_THAT(pages_->Status(), Not(Contains("Succeeded")));
+  EXPECT_EQ(Mapping(), "[Scripted]\nProjName=trunk/App\nAuxProjPath=repo\n") << "stays";
+  EXPECT_EQ(expert_->ProviderList()->GetCount(), 0);
+  EXPECT_EQ(expert_->ProviderList()->CurrentProject(), nullptr);
+
+  provider_->Results.clear();
+  EXPECT_TRUE(Page().Back);
+  pages_->BackButtonClick();
+  pages_->SetTicked(0, false);
+  pages_->SetTicked(1, false);
+  pages_->SetTicked(2, false);
+  pages_->SetTicked(3, false);
+  provider_->Calls.clear();
+  Next();
+  EXPECT_EQ(provider_->Last("SccOpenProject").ProjName, "trunk/App") << "what was picked is not lost";
+  EXPECT_EQ(provider_->Count("SccAdd"), 0);
+  EXPECT_THAT(pages_->Status(), ElementsAre("Initializing Project App.qvxproj", "Succeeded"));
+}
+
+TEST_F(PlaceProject, MappingFileThatCannotBeWrittenEndsIt) {
+  std::filesystem::create_directories(At("App.cdp"));
+  Show();
+  Next(3);
+  EXPECT_THAT(pages_->Status(), ElementsAre("Initializing Project App.qvxproj", HasSubstr("App.cdp")));
+  EXPECT_EQ(provider_->Count("SccAdd"), 0);
+  EXPECT_FALSE(provider_->Open);
+}
+
+TEST_F(PlaceProject, ProviderThatNeedsNoBrowserSkipsItsPageBothWays) {
+  InstallProvider("ClearCase", ScriptedProviderLibrary::Path(), false);
+  Show();
+  EXPECT_THAT(pages_->Providers(), ElementsAre("Scripted", "ClearCase"));
+  pages_->cbProvidersChange(1);
+  EXPECT_EQ(expert_->ProviderName(), "ClearCase");
+  Next();
+  EXPECT_EQ(Page().Panel, 3);
+  EXPECT_EQ(provider_->Count("SccGetProjPath"), 0);
+  EXPECT_EQ(expert_->ProviderList()->CurrentProject()->get_ProjName(), At(""));
+  pages_->BackButtonClick();
+  EXPECT_EQ(Page().Panel, 1);
+}
+
+TEST_F(PlaceProject, NothingPickedMeansNoFurther) {
+  provider_->Results["SccGetProjPath"] = scc::SCC_I_OPERATIONCANCELED;
+  provider_->GetProjPath = {};
+  Show();
+  Next();
+  EXPECT_FALSE(Page().Next);
+  EXPECT_EQ(Page().Problem, "");
+  provider_->Results["SccGetProjPath"] = scc::SCC_E_CONNECTIONFAILURE;
+  pages_->ProjectBrowserButtonClick();
+  EXPECT_EQ(Page().Problem, "Connection failure");
+  pages_->ProjectNameChange("typed/App");
+  EXPECT_TRUE(Page().Next);
+  Next(2);
+  EXPECT_THAT(Mapping(), HasSubstr("ProjName=typed/App"));
+}
+
+TEST_F(PlaceProject, WithoutAUsableProviderTheFirstPageSaysSo) {
+  {
+    TRegistry registry;
+    registry.OpenKey("Software\\Scripted");
+    registry.WriteString("SccServerPath", "/nowhere/none.so");
+  }
+  Show();
+  EXPECT_FALSE(Page().Next);
+  EXPECT_TRUE(Page().NoProviders);
+  EXPECT_EQ(Page().Problem, "SCC DLL Loadlibrary failed");
+
+  InstallProvider("Other", ScriptedProviderLibrary::Path(), false);
+  Show();
+  pages_->cbProvidersChange(1);
+  EXPECT_TRUE(Page().Next);
+  EXPECT_FALSE(Page().NoProviders);
+
+  TRegistry registry;
+  registry.OpenKey(kInstalledProvidersKey);
+  for (const auto& name : registry.GetValueNames()) registry.DeleteValue(name);
+  expert_->ReleaseProvider();
+  Show();
+  EXPECT_THAT(pages_->Providers(), ElementsAre("No providers available"));
+  EXPECT_FALSE(Page().Next);
+  EXPECT_TRUE(Page().NoProviders);
+}
+
+TEST_F(PlaceProject, HostThatClosesTheProjectMeanwhileEndsItInWords) {
+  Show();
+  Next(2);
+  provider_->OnCall["SccAdd"] = [&](const ScriptedCall&) {
+    host_.Notify(TOTAFileNotification::fnFileClosing, project_file_);
+  };
+  Next();
+  EXPECT_EQ(provider_->Count("SccAdd"), 1);
+  EXPECT_EQ(pages_->Status().back(), "Unable to place project, provider not assigned");
+}
+
+}  // namespace

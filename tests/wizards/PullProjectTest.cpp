@@ -1,0 +1,153 @@
+// Pulling a project: pages, target directory, what is fetched, listed and written.
+#include <filesystem>
+
+#include "expert/ExpertFixture.h"
+#include "host/System.h"
+#include "wizards/PullProjectPages.h"
+
+namespace {
+
+class PullProject : public TExpertTest {
+ protected:
+  PullProject() {
+    provider_->GetProjPath = {{}, "trunk/App", {}, "repo"};
+    provider_->DefaultStatus = 0;
+    for (const char* name : {"unit1.pas", "Sub/App.QVXPROJ", "Late.qvxproj"}) {
+      provider_->List.push_back({true, scc::SCC_STATUS_CONTROLLED, In(name)});
+      provider_->Statuses[In(name)] = scc::SCC_STATUS_CONTROLLED;
+    }
+    provider_->OnCall["SccGet"] = [this](const ScriptedCall&) {
+      for (const char* name : {"unit1.pas", "Sub/App.QVXPROJ"}) {
+        folder_.Write(std::string("b\xC3\xB6"
+                                  "b's copy/") +
+                          name,
+                      "x");
+        SetFileAttributesOf(In(name), faReadOnly);
+      }
+    };
+    host_.StartupDirectory = folder_.Path();
+  }
+  std::string Target() const {
+    return folder_ /
+           "b\xC3\xB6"
+           "b's copy";
+  }
+  std::string In(const std::string& name) const { return Target() + "/" + name; }
+
+  TPullProjectPages& Show() {
+    if (!expert_) Start();
+    pages_ = std::make_unique<TPullProjectPages>(*expert_);
+    pages_->FormCreate(0);
+    return *pages_;
+  }
+  /// Up to the project's page.
+  void Aim(const std::string& target) {
+    Show();
+    pages_->NextFinishButtonClick();
+    pages_->TargetDirectoryChange(target);
+    pages_->NextFinishButtonClick();
+  }
+  const TWizardPage& Page() const { return pages_->Page(); }
+
+  std::unique_ptr<TPullProjectPages> pages_;
+};
+
+TEST_F(PullProject, FetchesListsAndMaps) {
+  InstallProvider("ClearCase", ScriptedProviderLibrary::Path(), true);
+  Show();
+  EXPECT_THAT(pages_->Providers(), ElementsAre("Scripted")) << "the other's projects cannot be pulled";
+  pages_->NextFinishButtonClick();
+  EXPECT_EQ(Page().Panel, 3) << "the target directory comes first";
+  EXPECT_EQ(pages_->TargetDirectory(), folder_.Path());
+  EXPECT_NE(pages_->TargetNote(), "") << "not empty";
+  pages_->TargetDirectoryChange(Target() + "/ ");
+  EXPECT_NE(pages_->TargetNote(), "") << "not there yet";
+  pages_->NextFinishButtonClick();
+  EXPECT_EQ(Page().Caption, "Pull project Wizard: Step 3 of 3");
+  EXPECT_EQ(Page().Panel, 2);
+  EXPECT_EQ(Page().NextCaption, "&Pull");
+  const auto& asked = provider_->Last("SccGetProjPath");
+  EXPECT_EQ(asked.LocalPath, Target());
+  EXPECT_FALSE(asked.IsNew);
+  EXPECT_FALSE(asked.Allowed);
+  EXPECT_FALSE(DirectoryExists(Target())) << "nothing is made before it has to be";
+
+  const auto own = folder_.Write(
+      "b\xC3\xB6"
+      "b's copy/own.txt",
+      "mine");
+  pages_->NextFinishButtonClick();
+  EXPECT_EQ(Page().Caption, "Pull project Wizard: Status page");
+  EXPECT_THAT(pages_->Status(),
+              ElementsAre("Get of \"unit1.pas\" SUCCEEDED", "Get of \"Sub/App.QVXPROJ\" SUCCEEDED", "Done"));
+  EXPECT_THAT(provider_->Last("SccGet").Files, ElementsAre(Target()));
+  EXPECT_EQ(provider_->Last("SccGet").Flags, 3);
+  EXPECT_EQ(GetFileAttributesOf(In("unit1.pas")), faArchive);
+  EXPECT_EQ(ReadWholeFile(In("App.cdp")), "[Scripted]\nProjName=trunk/App\nAuxProjPath=repo\n");
+  EXPECT_FALSE(provider_->Open);
+  EXPECT_EQ(expert_->ProviderList()->GetCount(), 0);
+  EXPECT_TRUE(pages_->CanOpen());
+  EXPECT_EQ(pages_->ProjectFile(), In("Sub/App.QVXPROJ"));
+}
+
+TEST_F(PullProject, WithoutAProjectFileNothingIsFetched) {
+  provider_->List.resize(1);
+  Aim(Target());
+  pages_->NextFinishButtonClick();
+  EXPECT_THAT(pages_->Status(), ElementsAre("Corvane project file not found", "Done"));
+  EXPECT_EQ(provider_->Count("SccGet"), 0);
+  EXPECT_TRUE(std::filesystem::is_empty(Target()));
+  EXPECT_FALSE(pages_->CanOpen());
+}
+
+TEST_F(PullProject, FailuresAreListedAndCanBeTriedAgain) {
+  Aim(Target());
+  provider_->Results["SccOpenProject"] = scc::SCC_E_CONNECTIONFAILURE;
+  pages_->NextFinishButtonClick();
+  EXPECT_THAT(pages_->Status(), ElementsAre("      Connection failure", "Done"));
+  EXPECT_THAT(forms_.Boxes, IsEmpty());
+  EXPECT_EQ(provider_->Count("SccPopulateList"), 0);
+
+  provider_->Results.clear();
+  pages_->BackButtonClick();
+  EXPECT_EQ(provider_->Last("SccGetProjPath").ProjName, "trunk/App");
+  provider_->Results["SccGet"] = scc::SCC_E_ACCESSFAILURE;
+  provider_->Texts["SccGet"] = {{scc::SCC_MSG_ERROR, "disk full"}};
+  pages_->NextFinishButtonClick();
+  EXPECT_THAT(pages_->Status(), Contains("      disk full"));
+  EXPECT_THAT(ReadWholeFile(In("App.cdp")), HasSubstr("trunk/App")) << "the rest can be got later";
+  EXPECT_FALSE(pages_->CanOpen());
+  EXPECT_TRUE(Page().Back);
+}
+
+TEST_F(PullProject, TargetThatWillNotDoIsRefusedInWords) {
+  const auto file = folder_.Write("file", "x");
+  for (const auto& target : {std::string(" "), std::string("work/x"), file, "/" + std::string(300, 'x')}) {
+    SCOPED_TRACE(target);
+    Aim(target);
+    EXPECT_EQ(Page().Panel, 3);
+    EXPECT_NE(Page().Problem, "");
+    EXPECT_EQ(provider_->Count("SccGetProjPath"), 0);
+  }
+  Aim(file + "/below");
+  pages_->NextFinishButtonClick();
+  EXPECT_THAT(pages_->Status(), ElementsAre(HasSubstr("could not be created"), "Done"));
+}
+
+TEST_F(PullProject, ProviderMayRedirectTheTarget) {
+  TRegistry registry;
+  registry.OpenKey("software\\Mirelda\\MSIntegration3");
+  auto path = ScriptedProviderLibrary::Path();
+  std::ranges::transform(path, path.begin(),
+                         [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
+  registry.WriteString("SccServerPath", path);
+  provider_->GetProjPath.LocalPath = Target();
+  Aim(folder_ / "elsewhere");
+  EXPECT_TRUE(provider_->Last("SccGetProjPath").Allowed);
+  EXPECT_EQ(pages_->TargetDirectory(), Target());
+  pages_->NextFinishButtonClick();
+  EXPECT_EQ(provider_->Last("SccOpenProject").LocalPath, Target());
+  EXPECT_TRUE(pages_->CanOpen());
+}
+
+}  // namespace
