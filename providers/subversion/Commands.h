@@ -10,16 +10,18 @@ namespace svnscc {
 
 enum class AfterCommit { Release, KeepCheckedOut };
 
-scc::Long CheckOut(Session& session, Names names, const std::string& comment);
+scc::Long CheckOut(Session& session, Names names, const std::string& comment, const CommandOptions& options);
 scc::Long UndoCheckOut(Session& session, Names names);
-scc::Long CheckIn(Session& session, Names names, const std::string& comment, AfterCommit after);
+scc::Long CheckIn(Session& session, Names names, const std::string& comment, AfterCommit after,
+                  const CommandOptions& options);
 /// `type` holds at most one of the SCC_FILETYPE flags.
-scc::Long Add(Session& session, Names names, const std::string& comment, scc::Long type, AfterCommit after);
+scc::Long Add(Session& session, Names names, const std::string& comment, scc::Long type, AfterCommit after,
+              const CommandOptions& options);
 scc::Long Remove(Session& session, Names names, const std::string& comment);
-scc::Long GetFiles(Session& session, Names names);
+scc::Long GetFiles(Session& session, Names names, const CommandOptions& options);
 
 enum class Below { FilesOnly, Everything };
-scc::Long GetFolders(Session& session, Names names, Below below);
+scc::Long GetFolders(Session& session, Names names, Below below, const CommandOptions& options);
 
 /// Compares the file with what was last fetched, without asking the repository: SCC_OK or SCC_I_FILEDIFFERS.  `flags`
 /// are those of SccDiff.
@@ -32,12 +34,16 @@ scc::Long QuickDiff(Session& session, const char* name, scc::Long flags);
 void Update(Session& session, const std::vector<std::string>& paths);
 /// The same to a given revision, each path by itself.
 void UpdateTo(Session& session, const std::vector<std::string>& paths, const svn_opt_revision_t& revision);
+/// The folders above `path`, up to the project's, that the repository does not have yet, outermost first.
+std::vector<std::string> NewFoldersAbove(const Session& session, const std::string& path);
+std::string ParentOf(const std::string& path);
 /// Commits `paths`, each on its own, in one revision.  Throws Failure when nothing was committed.
 void Commit(Session& session, const std::vector<std::string>& paths, const std::string& log,
             AfterCommit locks);
+enum class OthersLocks { Respect, Steal };
 /// Locks controlled files and makes them writable; a file that is out of date is updated first.
 void Lock(Session& session, const std::vector<std::string>& paths, const std::string& comment,
-          Outcome& outcome);
+          OthersLocks others, Outcome& outcome);
 /// Releases locks that the working copy holds.
 void Unlock(Session& session, const std::vector<std::string>& paths, Outcome& outcome);
 

@@ -3,46 +3,17 @@
 #include <svn_io.h>
 #include <svn_props.h>
 
+#include <set>
+
 #include "Commands.h"
 #include "LocalStatus.h"
 #include "OpenProject.h"
+#include "SetAside.h"
 #include "SubversionSccStrings.h"
 #include "host/System.h"
 
 namespace svnscc {
 namespace {
-
-std::string ParentOf(const std::string& path) {
-  const Pool pool;
-  return svn_dirent_dirname(path.c_str(), pool);
-}
-
-/// A file out of libsvn's sight while this lives.
-class SetAside {
- public:
-  explicit SetAside(const std::string& path) : path_(path), aside_(path + ".scc-aside") {
-    while (IsOnDisk(aside_)) aside_ += "~";
-    Move(path_, aside_);
-  }
-  SetAside(const SetAside&) = delete;
-  SetAside& operator=(const SetAside&) = delete;
-  ~SetAside() {
-    try {
-      Move(aside_, path_);
-    } catch (
-        const Failure&) {  // both names are in one folder, which was just writable; nothing is lost either way
-    }
-  }
-
- private:
-  static void Move(const std::string& from, const std::string& to) {
-    const Pool pool;
-    Check(svn_io_file_rename2(from.c_str(), to.c_str(), /*flush_to_disk*/ FALSE, pool));
-  }
-
-  std::string path_;
-  std::string aside_;
-};
 
 /// Makes the working copy forget a file that was deleted in the repository, and keeps the file.
 void ForgetDeleted(Session& session, const std::string& path) {
@@ -52,10 +23,17 @@ void ForgetDeleted(Session& session, const std::string& path) {
   Update(session, {path});
 }
 
+/// Whether the repository can have the file or folders above it that the working copy does not know yet.
+bool MayBeInRepository(const Session& session, const StatusTable& walked, const std::string& path) {
+  for (std::string at = path; at != session.CurrentProject().Folder; at = ParentOf(at))
+    if (walked.Of(at).Bits != 0) return at == path || !AskLocal(session, at).IsControlled();
+  return false;
+}
+
 /// What `path` is after the working copy learnt what the repository has of it and its folders.
-LocalStatus Acquaint(Session& session, const std::string& path) {
-  LocalStatus local = AskLocal(session, path);
-  if (local.State == LocalState::Unversioned) {
+LocalStatus Acquaint(Session& session, const std::string& path, bool mayBeInRepository) {
+  const LocalStatus local = AskLocal(session, path);
+  if (local.State == LocalState::Unversioned && mayBeInRepository) {
     Update(session, {path});
   } else if (local.IsControlled() && IsOnDisk(path)) {
     ForgetDeleted(session, path);
@@ -63,14 +41,139 @@ LocalStatus Acquaint(Session& session, const std::string& path) {
   return AskLocal(session, path);
 }
 
-void CheckAddable(Session& session, const std::string& path) {
+void CheckAddable(Session& session, const std::string& path, bool mayBeInRepository) {
   if (!IsOnDisk(path)) throw Failure(scc::SCC_E_FILENOTEXIST, sFileMissing);
   if (!FileExists(path)) throw Failure(scc::SCC_E_TYPENOTSUPPORTED, sNotAFile);
-  const LocalStatus local = Acquaint(session, path);
+  const LocalStatus local = Acquaint(session, path, mayBeInRepository);
   if (local.IsControlled()) throw Failure(scc::SCC_E_FILEALREADYEXISTS, sAlreadyControlled);
 }
 
-/// The folders above `path` that the repository does not have yet, outermost first.
+void SetProperty(Session& session, const std::string& path, const char* name, const char* value) {
+  const Pool pool;
+  session.Svn().Run(svn_client_propset_local(name, svn_string_create(value, pool), ToArray({path}, pool),
+                                             svn_depth_empty, /*skip_checks*/ TRUE, nullptr,
+                                             session.Context(), pool));
+}
+
+void Schedule(Session& session, const std::string& path, scc::Long type, const CommandOptions& options) {
+  const Pool pool;
+  if (AskLocal(session, path).State != LocalState::Added)
+    session.Svn().Run(svn_client_add5(path.c_str(), svn_depth_empty, /*force*/ FALSE, /*no_ignore*/ TRUE,
+                                      /*no_autoprops*/ FALSE, /*add_parents*/ TRUE, session.Context(), pool));
+  // Read-only until it is checked out, everywhere.
+  if (!options.WithoutNeedsLock) SetProperty(session, path, SVN_PROP_NEEDS_LOCK, "*");
+  if ((type & scc::SCC_FILETYPE_BINARY) != 0)
+    SetProperty(session, path, SVN_PROP_MIME_TYPE, "application/octet-stream");
+}
+
+/// Someone added the name at the same moment: to the API that is no conflict.
+Failure AsAddFailure(const Failure& failure) {
+  return failure.Result() == scc::SCC_E_CHECKINCONFLICT
+             ? Failure(scc::SCC_E_FILEALREADYEXISTS, failure.what())
+             : failure;
+}
+
+/// The files of one call on their way into the repository.
+class Addition {
+ public:
+  Addition(Session& session, const std::string& comment, Outcome& outcome)
+      : session_(session), comment_(comment), outcome_(outcome) {}
+
+  void Take(const std::string& path, scc::Long type, const CommandOptions& options, bool mayBeInRepository) {
+    if (!known_.insert(path).second) throw Failure(scc::SCC_E_FILEALREADYEXISTS, sAlreadyControlled);
+    CheckAddable(session_, path, mayBeInRepository);
+    const auto folders = NewFoldersAbove(session_, path);
+    folders_.insert(folders.begin(), folders.end());
+    scheduled_.push_back(path);
+    try {
+      Schedule(session_, path, type, options);
+    } catch (const Failure&) {
+      scheduled_.pop_back();
+      Unschedule({path});
+      throw;
+    }
+  }
+
+  /// One revision for all, so that nobody sees half of it.  Returns what was added.
+  std::vector<std::string> Run() {
+    std::vector<std::string> added;
+    if (!scheduled_.empty()) try {
+        CommitWithFolders(scheduled_);
+        added = scheduled_;
+      } catch (const Failure& failure) {
+        if (scheduled_.size() == 1 || ConcernsEverything(failure))
+          Refuse(scheduled_, failure);
+        else
+          added = RunOneByOne();
+      }
+    Unschedule(EmptyFolders());
+    return added;
+  }
+
+ private:
+  static bool ConcernsEverything(const Failure& failure) {
+    return failure.Result() == scc::SCC_E_ACCESSFAILURE || failure.Result() == scc::SCC_E_CONNECTIONFAILURE ||
+           failure.Result() == scc::SCC_E_INVALIDUSER || failure.Result() == scc::SCC_I_OPERATIONCANCELED;
+  }
+
+  void CommitWithFolders(const std::vector<std::string>& paths) {
+    std::set<std::string> targets(paths.begin(), paths.end());
+    for (const auto& path : paths)
+      for (const auto& folder : NewFoldersAbove(session_, path)) targets.insert(folder);
+    Commit(session_, {targets.begin(), targets.end()}, comment_, AfterCommit::Release);
+  }
+
+  /// Some of the files were refused, and a commit does not say which: the others need not suffer.
+  std::vector<std::string> RunOneByOne() {
+    std::vector<std::string> added;
+    for (const auto& path : scheduled_) {
+      try {
+        CommitWithFolders({path});
+        added.push_back(path);
+      } catch (const Failure& failure) {
+        Refuse({path}, failure);
+      }
+    }
+    return added;
+  }
+
+  void Refuse(const std::vector<std::string>& paths, const Failure& failure) {
+    Unschedule(paths);
+    for (const auto& path : paths) outcome_.Fail(path, AsAddFailure(failure));
+  }
+
+  /// Takes schedulings back that were not committed; what is on disk stays.
+  void Unschedule(const std::vector<std::string>& paths) {
+    if (paths.empty()) return;
+    const Pool pool;
+    svn_error_clear(svn_client_revert4(ToArray(paths, pool), svn_depth_empty, nullptr, FALSE,
+                                       /*metadata_only*/ TRUE,
+                                       /*added_keep_local*/ TRUE, session_.Context(), pool));
+  }
+
+  /// Folders that were scheduled for files that did not come, innermost first.
+  std::vector<std::string> EmptyFolders() const {
+    std::vector<std::string> folders;
+    for (auto folder = folders_.rbegin(); folder != folders_.rend(); ++folder)
+      if (AskLocal(session_, *folder).State == LocalState::Added) folders.push_back(*folder);
+    return folders;
+  }
+
+  Session& session_;
+  const std::string& comment_;
+  Outcome& outcome_;
+  std::vector<std::string> scheduled_;
+  std::set<std::string> known_;
+  std::set<std::string> folders_;
+};
+
+}  // namespace
+
+std::string ParentOf(const std::string& path) {
+  const Pool pool;
+  return svn_dirent_dirname(path.c_str(), pool);
+}
+
 std::vector<std::string> NewFoldersAbove(const Session& session, const std::string& path) {
   std::vector<std::string> folders;
   for (std::string folder = ParentOf(path); folder != session.CurrentProject().Folder;
@@ -81,63 +184,22 @@ std::vector<std::string> NewFoldersAbove(const Session& session, const std::stri
   return folders;
 }
 
-void SetProperty(Session& session, const std::string& path, const char* name, const char* value) {
-  const Pool pool;
-  session.Svn().Run(svn_client_propset_local(name, svn_string_create(value, pool), ToArray({path}, pool),
-                                             svn_depth_empty, /*skip_checks*/ TRUE, nullptr,
-                                             session.Context(), pool));
-}
-
-void Schedule(Session& session, const std::string& path, scc::Long type) {
-  const Pool pool;
-  if (AskLocal(session, path).State != LocalState::Added)
-    session.Svn().Run(svn_client_add5(path.c_str(), svn_depth_empty, /*force*/ FALSE, /*no_ignore*/ TRUE,
-                                      /*no_autoprops*/ FALSE, /*add_parents*/ TRUE, session.Context(), pool));
-  // Read-only until it is checked out, everywhere.
-  SetProperty(session, path, SVN_PROP_NEEDS_LOCK, "*");
-  if ((type & scc::SCC_FILETYPE_BINARY) != 0)
-    SetProperty(session, path, SVN_PROP_MIME_TYPE, "application/octet-stream");
-}
-
-/// Takes a scheduling back that was not committed; the file stays.
-void Unschedule(Session& session, const std::string& path, const std::vector<std::string>& folders) {
-  const Pool pool;
-  const std::string& top = folders.empty() ? path : folders.front();
-  svn_error_clear(svn_client_revert4(ToArray({top}, pool), svn_depth_infinity, nullptr, FALSE,
-                                     /*metadata_only*/ TRUE,
-                                     /*added_keep_local*/ TRUE, session.Context(), pool));
-}
-
-/// Someone added the name at the same moment: to the API that is no conflict.
-Failure AsAddFailure(const Failure& failure) {
-  return failure.Result() == scc::SCC_E_CHECKINCONFLICT
-             ? Failure(scc::SCC_E_FILEALREADYEXISTS, failure.what())
-             : failure;
-}
-
-void AddOne(Session& session, const std::string& path, const std::string& comment, scc::Long type) {
-  CheckAddable(session, path);
-  auto targets = NewFoldersAbove(session, path);
-  const auto folders = targets;
-  targets.push_back(path);
-  try {
-    Schedule(session, path, type);
-    Commit(session, targets, comment, AfterCommit::Release);
-  } catch (const Failure& failure) {
-    Unschedule(session, path, folders);
-    throw AsAddFailure(failure);
-  }
-}
-
-}  // namespace
-
-scc::Long Add(Session& session, Names names, const std::string& comment, scc::Long type, AfterCommit after) {
+scc::Long Add(Session& session, Names names, const std::string& comment, scc::Long type, AfterCommit after,
+              const CommandOptions& options) {
   Outcome outcome(session);
   EnsureWorkingCopy(session);
-  std::vector<std::string> added;
-  for (const auto& path : outcome.PathsOf(names))
-    if (outcome.Try(path, [&] { AddOne(session, path, comment, type); })) added.push_back(path);
-  if (after == AfterCommit::KeepCheckedOut) Lock(session, added, comment, outcome);
+  const auto paths = outcome.PathsOf(names);
+  // One file is asked for alone; for more, one walk costs less.
+  const bool many = paths.size() > 1;
+  const StatusTable walked = many ? WalkProject(session) : StatusTable{};
+  if (walked.Result < 0) return walked.Result;
+
+  Addition addition(session, comment, outcome);
+  for (const auto& path : paths)
+    outcome.Try(
+        path, [&] { addition.Take(path, type, options, !many || MayBeInRepository(session, walked, path)); });
+  const auto added = addition.Run();
+  if (after == AfterCommit::KeepCheckedOut) Lock(session, added, comment, OthersLocks::Respect, outcome);
   return outcome.Result();
 }
 

@@ -51,7 +51,8 @@ void Commit(Session& session, const std::vector<std::string>& paths, const std::
   if (!warning.empty()) session.Out().Warning(warning);
 }
 
-scc::Long CheckIn(Session& session, Names names, const std::string& comment, AfterCommit after) {
+scc::Long CheckIn(Session& session, Names names, const std::string& comment, AfterCommit after,
+                  const CommandOptions& options) {
   Outcome outcome(session);
   std::vector<std::string> changed;
   std::vector<std::string> unchanged;
@@ -69,7 +70,7 @@ scc::Long CheckIn(Session& session, Names names, const std::string& comment, Aft
       for (const auto& path : changed) outcome.Fail(path, failure);
     }
   }
-  if (after == AfterCommit::Release) {
+  if (after == AfterCommit::Release && !options.KeepUnchangedOut) {
     for (const auto& path : unchanged) session.Out().Info(Format(sNotChanged.Text, {session.Label(path)}));
     Unlock(session, unchanged, outcome);
   }

@@ -21,13 +21,19 @@ void UpdateTo(Session& session, const std::vector<std::string>& paths, svn_depth
                                        /*make_parents*/ TRUE, session.Context(), pool));
 }
 
-void GetFolder(Session& session, const std::string& path, Below below) {
+void GetFolder(Session& session, const std::string& path, Below below, const svn_opt_revision_t& revision) {
   const LocalStatus local = AskLocal(session, path);
   // Setting the reach to a smaller one would drop what is there: only a folder that was not fetched yet is widened.
   const bool widen = below == Below::Everything || local.Depth < svn_depth_files;
   UpdateTo(session, {path}, below == Below::Everything ? svn_depth_infinity : svn_depth_files,
-           widen ? Reach::Set : Reach::AsItIs);
+           widen ? Reach::Set : Reach::AsItIs, revision);
   if (!AskLocal(session, path).IsControlled()) throw Failure(scc::SCC_E_FILENOTCONTROLLED, sNotControlled);
+}
+
+void GetOld(Session& session, const std::string& path, svn_revnum_t revision) {
+  if (AskLocal(session, path).HasLock) throw Failure(scc::SCC_E_FILEISCHECKEDOUT, sStillOut);
+  RequireSameName(session, RequireControlled(session, path.c_str()), revision);
+  UpdateTo(session, {path}, svn_depth_unknown, Reach::AsItIs, Numbered(revision));
 }
 
 /// Whether the paths are all of the project that an update would change.
@@ -55,10 +61,14 @@ void UpdateTo(Session& session, const std::vector<std::string>& paths, const svn
 }
 
 // One walk finds what has to be fetched; a fetch costs a connection per file unless it is the whole tree.
-scc::Long GetFiles(Session& session, Names names) {
+scc::Long GetFiles(Session& session, Names names, const CommandOptions& options) {
   Outcome outcome(session);
   const auto paths = outcome.PathsOf(names);
   EnsureWorkingCopy(session);
+  if (SVN_IS_VALID_REVNUM(options.GetRevision)) {
+    for (const auto& path : paths) outcome.Try(path, [&] { GetOld(session, path, options.GetRevision); });
+    return outcome.Result();
+  }
   const StatusTable& statuses = WalkProject(session);
   if (statuses.Result < 0) return statuses.Result;
 
@@ -79,10 +89,12 @@ scc::Long GetFiles(Session& session, Names names) {
   return outcome.Result();
 }
 
-scc::Long GetFolders(Session& session, Names names, Below below) {
+scc::Long GetFolders(Session& session, Names names, Below below, const CommandOptions& options) {
   Outcome outcome(session);
   EnsureWorkingCopy(session);
-  for (const auto& path : outcome.PathsOf(names)) outcome.Try(path, [&] { GetFolder(session, path, below); });
+  const auto revision = SVN_IS_VALID_REVNUM(options.GetRevision) ? Numbered(options.GetRevision) : Newest();
+  for (const auto& path : outcome.PathsOf(names))
+    outcome.Try(path, [&] { GetFolder(session, path, below, revision); });
   return outcome.Result();
 }
 

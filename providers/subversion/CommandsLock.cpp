@@ -8,12 +8,12 @@ namespace {
 
 /// Tries to lock all of `paths`; who was refused, and why.
 std::map<std::string, Failure> TryLock(Session& session, const std::vector<std::string>& paths,
-                                       const std::string& comment) {
+                                       const std::string& comment, OthersLocks others) {
   const Pool pool;
   session.TakeRefusals();
   if (paths.empty()) return {};
-  session.Svn().Run(
-      svn_client_lock(ToArray(paths, pool), comment.c_str(), /*steal_lock*/ FALSE, session.Context(), pool));
+  session.Svn().Run(svn_client_lock(ToArray(paths, pool), comment.c_str(),
+                                    /*steal_lock*/ others == OthersLocks::Steal, session.Context(), pool));
   return session.TakeRefusals();
 }
 
@@ -47,8 +47,8 @@ bool Prepare(Session& session, const std::string& path, Outcome& outcome) {
 }  // namespace
 
 void Lock(Session& session, const std::vector<std::string>& paths, const std::string& comment,
-          Outcome& outcome) {
-  auto refused = TryLock(session, paths, comment);
+          OthersLocks others, Outcome& outcome) {
+  auto refused = TryLock(session, paths, comment, others);
   std::vector<std::string> updated;
   for (auto& [path, refusal] : refused) {
     if (refusal.Result() != scc::SCC_E_CHECKINCONFLICT) continue;
@@ -60,7 +60,7 @@ void Lock(Session& session, const std::vector<std::string>& paths, const std::st
     }
   }
   for (const auto& path : updated) refused.erase(path);
-  refused.merge(TryLock(session, updated, comment));
+  refused.merge(TryLock(session, updated, comment, others));
 
   for (const auto& path : paths) {
     const auto refusal = refused.find(path);
@@ -85,12 +85,12 @@ void Unlock(Session& session, const std::vector<std::string>& paths, Outcome& ou
   }
 }
 
-scc::Long CheckOut(Session& session, Names names, const std::string& comment) {
+scc::Long CheckOut(Session& session, Names names, const std::string& comment, const CommandOptions& options) {
   Outcome outcome(session);
   std::vector<std::string> wanted;
   for (const auto& path : outcome.PathsOf(names))
     if (Prepare(session, path, outcome)) wanted.push_back(path);
-  Lock(session, wanted, comment, outcome);
+  Lock(session, wanted, comment, options.StealLocks ? OthersLocks::Steal : OthersLocks::Respect, outcome);
   return outcome.Result();
 }
 

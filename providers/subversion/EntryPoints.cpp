@@ -22,11 +22,11 @@ namespace {
 
 constexpr Long kVersion = 0x00010001;
 constexpr Long kLongestComment = 0x7FFF;
-constexpr Dword kCapabilities = SCC_CAP_REMOVE | SCC_CAP_QUERYINFO | SCC_CAP_GETPROJPATH | SCC_CAP_TEXTOUT |
-                                SCC_CAP_COMMENTCHECKOUT | SCC_CAP_COMMENTCHECKIN | SCC_CAP_COMMENTADD |
-                                SCC_CAP_COMMENTREMOVE | SCC_CAP_COMMENTPROJECT | SCC_CAP_POPULATELIST |
-                                SCC_CAP_DIFF | SCC_CAP_HISTORY | SCC_CAP_PROPERTIES | SCC_CAP_RUNSCC |
-                                SCC_CAP_DIFFALWAYS | SCC_CAP_IGNORECASE | SCC_CAP_IGNORESPACE;
+constexpr Dword kCapabilities =
+    SCC_CAP_REMOVE | SCC_CAP_QUERYINFO | SCC_CAP_GETPROJPATH | SCC_CAP_TEXTOUT | SCC_CAP_COMMENTCHECKOUT |
+    SCC_CAP_COMMENTCHECKIN | SCC_CAP_COMMENTADD | SCC_CAP_COMMENTREMOVE | SCC_CAP_COMMENTPROJECT |
+    SCC_CAP_POPULATELIST | SCC_CAP_DIFF | SCC_CAP_HISTORY | SCC_CAP_PROPERTIES | SCC_CAP_RUNSCC |
+    SCC_CAP_GETCOMMANDOPTIONS | SCC_CAP_DIFFALWAYS | SCC_CAP_IGNORECASE | SCC_CAP_IGNORESPACE;
 
 std::string Text(const char* text) { return text != nullptr ? text : ""; }
 
@@ -167,19 +167,21 @@ SCC_EXPORT Long SCC_CALL SccDiff(void* context, WindowHandle window, const char*
 // ------------------------------------------------------------------------------------------------ commands
 
 SCC_EXPORT Long SCC_CALL SccGet(void* context, WindowHandle, Long count, const char** names, Long flags,
-                                void*) {
+                                void* options) {
   return GuardFiles(context, count, names, [&](Session& session, Names files) {
-    if ((flags & SCC_GET_ALL) == 0) return svnscc::GetFiles(session, files);
+    const auto chosen = session.Options().Take(options, SCC_COMMAND_GET);
+    if ((flags & SCC_GET_ALL) == 0) return svnscc::GetFiles(session, files, chosen);
     const bool recursive = (flags & SCC_GET_RECURSIVE) != 0;
     return svnscc::GetFolders(session, files,
-                              recursive ? svnscc::Below::Everything : svnscc::Below::FilesOnly);
+                              recursive ? svnscc::Below::Everything : svnscc::Below::FilesOnly, chosen);
   });
 }
 
 SCC_EXPORT Long SCC_CALL SccCheckout(void* context, WindowHandle, Long count, const char** names,
-                                     const char* comment, Long, void*) {
+                                     const char* comment, Long, void* options) {
   return GuardFiles(context, count, names, [&](Session& session, Names files) {
-    return svnscc::CheckOut(session, files, Text(comment));
+    return svnscc::CheckOut(session, files, Text(comment),
+                            session.Options().Take(options, SCC_COMMAND_CHECKOUT));
   });
 }
 
@@ -190,18 +192,20 @@ SCC_EXPORT Long SCC_CALL SccUncheckout(void* context, WindowHandle, Long count, 
 }
 
 SCC_EXPORT Long SCC_CALL SccCheckin(void* context, WindowHandle, Long count, const char** names,
-                                    const char* comment, Long flags, void*) {
+                                    const char* comment, Long flags, void* options) {
   return GuardFiles(context, count, names, [&](Session& session, Names files) {
-    return svnscc::CheckIn(session, files, Text(comment), AfterFlags(flags));
+    return svnscc::CheckIn(session, files, Text(comment), AfterFlags(flags),
+                           session.Options().Take(options, SCC_COMMAND_CHECKIN));
   });
 }
 
 // Clients pass one flag word whatever the number of files, so only the first is read.
 SCC_EXPORT Long SCC_CALL SccAdd(void* context, WindowHandle, Long count, const char** names,
-                                const char* comment, Long* flags, void*) {
+                                const char* comment, Long* flags, void* options) {
   return GuardFiles(context, count, names, [&](Session& session, Names files) {
     const Long word = flags != nullptr ? *flags : 0;
-    return svnscc::Add(session, files, Text(comment), word, AfterFlags(word));
+    return svnscc::Add(session, files, Text(comment), word, AfterFlags(word),
+                       session.Options().Take(options, SCC_COMMAND_ADD));
   });
 }
 
@@ -215,9 +219,6 @@ SCC_EXPORT Long SCC_CALL SccRemove(void* context, WindowHandle, Long count, cons
 // ------------------------------------------------------------------------------------------------ not supported
 
 SCC_EXPORT Long SCC_CALL SccAddFromScc(void*, WindowHandle, Long*, const char***) {
-  return SCC_E_OPNOTSUPPORTED;
-}
-SCC_EXPORT Long SCC_CALL SccGetCommandOptions(void*, WindowHandle, SCCCommand, void**) {
   return SCC_E_OPNOTSUPPORTED;
 }
 SCC_EXPORT Long SCC_CALL SccGetEvents(void*, char*, Long*, Long*) { return SCC_E_OPNOTSUPPORTED; }

@@ -8,7 +8,6 @@
 
 #include "Commands.h"
 #include "LocalStatus.h"
-#include "Repository.h"
 #include "Session.h"
 #include "WindowStrings.h"
 #include "host/System.h"
@@ -51,14 +50,6 @@ void Revert(Session& session, const std::string& path) {
   session.Svn().Run(svn_client_revert4(ToArray({path}, pool), svn_depth_empty, nullptr, FALSE,
                                        /*metadata_only*/ FALSE, /*added_keep_local*/ TRUE, session.Context(),
                                        pool));
-}
-
-/// An update to a revision in which the file had another name would take it away.
-void RequireSameName(Session& session, const std::string& path, svn_revnum_t revision) {
-  const std::string then = FactsOf(session.Svn(), path, Numbered(revision)).Url;
-  if (then != LocalFactsOf(session.Svn(), path).Url)
-    throw Failure(scc::SCC_E_OPNOTPERFORMED,
-                  Format(sOtherNameThen.Text, {static_cast<long long>(revision), ReadableUrl(then)}));
 }
 
 }  // namespace
@@ -112,7 +103,7 @@ Contents History::TextOf(std::size_t index) {
 
 GotRevision GetRevision(Session& session, const std::string& path, svn_revnum_t revision) {
   const LocalStatus local = AskLocal(session, path);
-  if (!local.HasLock) RequireSameName(session, path, revision);
+  if (!local.HasLock) RequireSameName(session, {path, path}, revision);
   GotRevision got;
   if (local.Differs) {
     got.Copy = FreeNameBeside(path);

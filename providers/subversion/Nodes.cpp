@@ -10,6 +10,7 @@
 #include "Repository.h"
 #include "Session.h"
 #include "SubversionSccStrings.h"
+#include "WindowStrings.h"
 #include "host/System.h"
 
 namespace svnscc {
@@ -104,6 +105,14 @@ ControlledNode RequireControlled(Session& session, const char* name) {
     throw Failure(scc::SCC_E_FILENOTCONTROLLED,
                   Format(sFileFailed.Text, {session.Label(path), sNotControlled.Text}));
   return {path, url};
+}
+
+void RequireSameName(Session& session, const ControlledNode& node, svn_revnum_t revision) {
+  const std::string then = FactsOf(session.Svn(), node.Place, Numbered(revision)).Url;
+  const std::string now = node.IsLocal() ? LocalFactsOf(session.Svn(), node.Path).Url : node.Place;
+  if (then != now)
+    throw Failure(scc::SCC_E_OPNOTPERFORMED,
+                  Format(sOtherNameThen.Text, {static_cast<long long>(revision), ReadableUrl(then)}));
 }
 
 Contents ContentsOf(Client& client, const std::string& place, const svn_opt_revision_t& revision) {

@@ -28,6 +28,10 @@ struct ControlledNode {
 /// Throws Failure when the name is not under control.
 ControlledNode RequireControlled(Session& session, const char* name);
 
+/// Throws Failure unless the node had the same name in `revision`: an update to a revision in which it had
+/// another would take it away.
+void RequireSameName(Session& session, const ControlledNode& node, svn_revnum_t revision);
+
 struct Contents {
   std::string Bytes;
   bool IsBinary = false;  // by its type property, or because it holds a NUL

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "Client.h"
+#include "CommandOptions.h"
 #include "Output.h"
 #include "Status.h"
 #include "provider/sccdefs.h"
@@ -46,6 +47,9 @@ class Session {
   /// What the project's files were at the last status walk.
   StatusTable& LastStatuses() { return lastStatuses_; }
 
+  /// What the client carries for the commands; outlives projects.
+  OptionBlocks& Options() { return options_; }
+
   /// Errors that libsvn reported for single paths since the last call.
   std::map<std::string, Failure> TakeRefusals() { return std::exchange(refusals_, {}); }
 
@@ -55,6 +59,7 @@ class Session {
   Output output_;
   std::unique_ptr<Client> client_;
   Project project_;
+  OptionBlocks options_;
   StatusTable lastStatuses_;
   std::map<std::string, Failure> refusals_;
 };

@@ -30,4 +30,11 @@ SCC_EXPORT Long SCC_CALL SccRunScc(void* context, WindowHandle window, Long coun
   });
 }
 
+SCC_EXPORT Long SCC_CALL SccGetCommandOptions(void* context, WindowHandle window, SCCCommand command,
+                                              void** options) {
+  return Guard(context, [&](Session& session) {
+    return svnscc::AskCommandOptions(session, window, command, options);
+  });
+}
+
 }  // extern "C"

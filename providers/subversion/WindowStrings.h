@@ -105,3 +105,12 @@ constexpr TResString sOpenARepository{"Enter the address of a repository and cho
 constexpr TResString sEmptyFolder{"the folder is empty."};
 constexpr TResString sOneEntry{"one entry."};
 constexpr TResString sEntries{"%d entries."};
+// Options of commands
+constexpr TResString sOptionsTitle{"Advanced Options"};
+constexpr TResString sOptionsOnce{"This applies to the next command of this kind only."};
+constexpr TResString sNewestRevision{"Get the &newest revision"};
+constexpr TResString sGivenRevision{"Get &revision"};
+constexpr TResString sStealLocks{"&Steal the lock if another user has it"};
+constexpr TResString sKeepUnchangedOut{"&Keep files without changes checked out"};
+constexpr TResString sWithoutNeedsLock{
+    "&Let the files be changed without checking them out (do not set svn:needs-lock)"};

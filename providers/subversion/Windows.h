@@ -17,5 +17,8 @@ scc::Long ShowHistory(Session& session, scc::WindowHandle parent, Names names);
 scc::Long ShowProperties(Session& session, scc::WindowHandle parent, const char* name);
 /// The provider's own application, at the first file if one is named.  Works without an open project, too.
 scc::Long RunBrowser(Session& session, scc::WindowHandle parent, Names names);
+/// SccGetCommandOptions: answers a probe (`options` null), or lets the user choose and stores the block.
+scc::Long AskCommandOptions(Session& session, scc::WindowHandle parent, scc::SCCCommand command,
+                            void** options);
 
 }  // namespace svnscc

@@ -211,3 +211,30 @@ TEST_F(Files, OddNamesGoThroughEveryCommand) {
     EXPECT_EQ(0, ann.Status(name));
   }
 }
+
+TEST_F(Files, AddsAllFilesOfACallInOneRevision) {
+  const svn_revnum_t before = repository.Youngest();
+  ann.Write("sub/deep/a.pas", "1\n");
+  ann.Write("sub/b.pas", "1\n");
+  ann.Write("c.pas", "1\n");
+  EXPECT_EQ(scc::SCC_E_FILENOTEXIST,
+            ann.Add({"sub/deep/a.pas", "nothing.pas", "sub/b.pas", "c.pas"}, "three"));
+  EXPECT_EQ(before + 1, repository.Youngest());
+  EXPECT_EQ("three", repository.Log(before + 1));
+  for (const char* name : {"sub/deep/a.pas", "sub/b.pas", "c.pas"})
+    EXPECT_TRUE(repository.Exists(std::string("project/") + name)) << name;
+}
+
+TEST_F(Files, OneRefusedFileDoesNotHoldUpTheOthers) {
+  repository.WriteHook(
+      "pre-commit",
+      "svnlook changed -t \"$2\" \"$1\" | grep -q 'bad' && { echo 'no bad names' >&2; exit 1; }\nexit 0\n");
+  ann.Write("new/bad.pas", "1\n");
+  ann.Write("other/good.pas", "1\n");
+  EXPECT_EQ(scc::SCC_E_NOTAUTHORIZED, ann.Add({"new/bad.pas", "other/good.pas"}));
+  EXPECT_THAT(ann.Said(), HasSubstr("no bad names"));
+  EXPECT_TRUE(repository.Exists("project/other/good.pas"));
+  EXPECT_FALSE(repository.Exists("project/new"));
+  EXPECT_EQ((std::vector<scc::Long>{0, 1}), ann.Statuses({"new/bad.pas", "other/good.pas"}));
+  EXPECT_EQ("1\n", ann.Read("new/bad.pas"));
+}

@@ -20,11 +20,14 @@ TEST(Library, ExportsEveryEntryPointAndSaysWhatItCan) {
   ASSERT_EQ(scc::SCC_OK, library->SccInitialize(&context, nullptr, "tests", name.data(), &words[0],
                                                 label.data(), &words[1], &words[2]));
   EXPECT_STREQ("Subversion", name.data());
-  EXPECT_EQ(0x0600F800 | 0x1 | 0x80 | 0x200, words[0]);
+  // All of the 1.1 API but several files in a history, shared check-outs, and storing the newest version only.
+  EXPECT_EQ(0x1780FFFF, words[0]);
   EXPECT_EQ(scc::SCC_OK, library->SccSetOption(context, scc::SCC_OPT_EVENTQUEUE, 1));
-  EXPECT_EQ(scc::SCC_OK, library->SccSetOption(context, scc::SCC_OPT_HASCANCELMODE, 0));
-  EXPECT_EQ(scc::SCC_E_OPNOTSUPPORTED, library->SccSetOption(context, scc::SCC_OPT_SHARESUBPROJ, 1));
-  EXPECT_EQ(scc::SCC_E_OPNOTSUPPORTED, library->SccHistory(context, nullptr, 0, nullptr, 0, nullptr));
+  EXPECT_EQ(scc::SCC_OK, library->SccSetOption(context, scc::SCC_OPT_HASCANCELMODE, 1));
+  EXPECT_EQ(scc::SCC_OK, library->SccSetOption(context, scc::SCC_OPT_SCCCHECKOUTONLY, 1));
+  EXPECT_EQ(scc::SCC_I_SHARESUBPROJOK, library->SccSetOption(context, scc::SCC_OPT_SHARESUBPROJ, 0));
+  EXPECT_EQ(scc::SCC_E_OPNOTSUPPORTED, library->SccSetOption(context, scc::SCC_OPT_NAMECHANGEPFN, 1));
+  EXPECT_EQ(scc::SCC_E_OPNOTSUPPORTED, library->SccSetOption(context, 99, 1));
   EXPECT_EQ(scc::SCC_OK, library->SccUninitialize(context));
 }
 
