@@ -36,7 +36,7 @@ const TResString& ProbeText(scc::Long code) {
 }  // namespace
 
 TFileCommandRun::TFileCommandRun(TSccExpert& expert, const TFileCommand& command, const std::string& fileName)
-    : expert_(expert), command_(command), file_name_(Trim(fileName)) {}
+    : expert_(expert), command_(command), file_name_(Trim(fileName).empty() ? std::string() : fileName) {}
 
 void TFileCommandRun::Execute() {
   directory_ = ExtractFileDir(expert_.GetCurrentProjectFile());

@@ -16,8 +16,7 @@ struct TMappingFile::TIni {
   explicit TIni(const std::string& text) {
     Data.SetUnicode();  // bytes go through unchanged
     Data.SetSpaces(false);
-    Data.SetQuotes();        // project strings are the provider's: blanks and quotes at their ends are kept
-    Data.SetAllowKeyOnly();  // a line that is only a word survives a rewrite
+    Data.SetQuotes();  // project strings are the provider's: blanks and quotes at their ends are kept
     Data.LoadData(text);
   }
 };
@@ -67,16 +66,21 @@ std::string TMappingFile::Read(const std::string& section, const std::string& ke
 
 namespace {
 
-/// The parser skips a section header that was cut off; writing the file again would lose it and give the lines below
-/// it to the section above.
-void RefuseCutHeaders(const std::string& path, const std::string& text) {
-  std::istringstream lines(text);
+bool IsUnderstood(const std::string& line) {
+  if (line.empty() || line.starts_with(';') || line.starts_with('#')) return true;
+  if (line.starts_with('[')) return line.find(']') != std::string::npos;
+  return line.find('=') != std::string::npos && !line.starts_with('=');
+}
+
+/// The parser skips lines that are neither header, comment nor key and value, as a file that was cut off has them.
+/// Empty, or a sentence about the first one.
+std::string DamageIn(const std::string& path, const std::string& text) {
+  std::istringstream lines(text.starts_with("\xEF\xBB\xBF") ? text.substr(3) : text);
   std::string line;
-  for (long long number = 1; std::getline(lines, line); ++number) {
-    const auto trimmed = Trim(line);
-    if (trimmed.starts_with('[') && trimmed.find(']') == std::string::npos)
-      throw std::runtime_error(Format(sMappingFileDamaged.Text, {path, number, trimmed}));
-  }
+  for (long long number = 1; std::getline(lines, line); ++number)
+    if (const auto trimmed = Trim(line); !IsUnderstood(trimmed))
+      return Format(sMappingFileDamaged.Text, {path, number, trimmed});
+  return {};
 }
 
 /// The parser takes one pair of quotes off a value; one that has its own is given another.
@@ -87,9 +91,12 @@ std::string Quoted(const std::string& value) {
 
 }  // namespace
 
+std::string TMappingFile::Damage() const { return DamageIn(path_, text_); }
+
 void TMappingFile::Write(const std::string& section, const std::string& key, const std::string& value) {
   if (HasKey(section, key) && Read(section, key) == value) return;
-  RefuseCutHeaders(path_, text_);
+  // Writing the file again would lose the line, and a cut-off header would give the lines below it to another section.
+  if (const auto damage = Damage(); !damage.empty()) throw std::runtime_error(damage);
   ini_->Data.SetValue(section.c_str(), key.c_str(), Quoted(value).c_str());
   std::string text;
   ini_->Data.Save(text);

@@ -28,6 +28,8 @@ class TMappingFile {
   std::vector<std::string> Sections() const;
   bool HasSection(const std::string& section) const;
   bool HasKey(const std::string& section, const std::string& key) const;
+  /// Empty, or a sentence about the first line that is neither header, comment nor key and value.
+  std::string Damage() const;
   /// Empty when section or key is missing.
   std::string Read(const std::string& section, const std::string& key) const;
   /// Changes one key and stores the file at once, wholly or not at all.  Does not touch the disk when the key has that

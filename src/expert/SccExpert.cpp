@@ -169,6 +169,10 @@ void TSccExpert::ViewMessages() {
   if (aMsgWin) aMsgWin->ShowWindow(true);
 }
 
+void TSccExpert::WarnOnce(const std::string& text) {
+  if (std::exchange(last_warning_, text) != text) WriteMessage(mwtWarning, text);
+}
+
 void TSccExpert::HideMessages() {
   if (aMsgWin) aMsgWin->ShowWindow(false);
 }

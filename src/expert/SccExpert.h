@@ -82,6 +82,8 @@ class TSccExpert final : public TNotifierObject, public IOTAWizard {
   void SelectProvider(const std::string& name);
   /// Closes the provider project that is open and drops the provider, library included.
   void ReleaseProvider();
+  /// Writes a warning to the message window, unless it is the last one written: the menu asks again each time it opens.
+  void WarnOnce(const std::string& text);
   /// The provider project of that host project, which is open, is from now on the one that the commands work on.
   void ProjectPlaced(const std::string& projectFile) { open_project_file_ = projectFile; }
 
@@ -211,6 +213,7 @@ class TSccExpert final : public TNotifierObject, public IOTAWizard {
     TOTAFileNotification Code;
     std::string FileName;
   };
+  std::string last_warning_;
   std::vector<TNotification> pending_;
   bool handling_ = false;
   bool command_running_ = false;

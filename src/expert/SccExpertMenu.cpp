@@ -37,10 +37,15 @@ void TSccExpert::MainMenu() {
 void TSccExpert::EnableActiveMenu() {
   menu_->EnableMenus(true);
   TStringList files;
-  AddAssociatedFiles(&files, false);
   TStatusArray statuses;
   TStateMessages messages;
-  RequireCurrentProject().Query(files, statuses, messages);
+  try {
+    AddAssociatedFiles(&files, false);
+    RequireCurrentProject().Query(files, statuses, messages);
+  } catch (...) {  // no status, no commands; the reason goes to the message window
+    menu_->EnableMenus(false);
+    throw;
+  }
 
   struct TRule {
     TAction& Action;

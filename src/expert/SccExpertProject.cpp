@@ -8,6 +8,24 @@
 #include "host/Paths.h"
 #include "ui/ExpertMainMenu.h"
 
+namespace {
+
+/// Says that a project is being opened or closed, as long as it lives: boxes shown meanwhile run message loops, and what
+/// the host says in them has to wait.
+class THandling {
+ public:
+  explicit THandling(bool& flag) : flag_(flag), before_(std::exchange(flag, true)) {}
+  THandling(const THandling&) = delete;
+  THandling& operator=(const THandling&) = delete;
+  ~THandling() { flag_ = before_; }
+
+ private:
+  bool& flag_;
+  bool before_;
+};
+
+}  // namespace
+
 void* TSccIDENotifier::QueryInterface(const TGuid& iid) noexcept {
   return FindInterface<IOTAIDENotifier, IOTANotifier>(this, iid);
 }
@@ -23,14 +41,13 @@ void TSccExpert::HandleNotification(TOTAFileNotification code, const std::string
 
 void TSccExpert::HandlePendingNotifications() {
   if (handling_ || ProviderCallInProgress()) return;
-  handling_ = true;
+  const THandling handling(handling_);
   while (!pending_.empty()) {
     const auto [code, fileName] = pending_.front();
     pending_.erase(pending_.begin());
     // The host discards what a notifier throws, so the reason is kept where the user can find it.
     Guarded(mwtError, sFileNotificationError, [&] { Handle(code, fileName); });
   }
-  handling_ = false;
 }
 
 void TSccExpert::Handle(TOTAFileNotification code, const std::string& fileName) {
@@ -71,6 +88,7 @@ void TSccExpert::FileNotifyProjectOpen(const std::string& fileName) {
 }
 
 void TSccExpert::OpenProviderProject(const std::string& fileName) {
+  const THandling handling(handling_);
   std::string projName;
   std::string auxProjPath;
   std::string userName = provider_list_->UserName();
@@ -86,6 +104,9 @@ void TSccExpert::OpenProviderProject(const std::string& fileName) {
 
   TStateMessages messages;
   const auto code = project.OpenProject(messages);
+  // The boxes below say nothing of the reason, and a provider that let an exception out counts as opened.
+  WriteMessage(mwtInfo, messages[1]);
+  WriteMessage(mwtError, messages[2]);
   if (code == scc::SCC_OK) {
     open_project_file_ = fileName;
     UpdateSCCIniFile(fileName, project.get_UserName());
@@ -117,6 +138,7 @@ void TSccExpert::ReleaseProvider() {
 
 void TSccExpert::FileNotifyProjectClose(const std::string& fileName) {
   if (!provider_list_) return;
+  const THandling handling(handling_);
   const auto directory = ExtractFileDir(fileName);
   if (provider_list_->SetCurrentProject(directory)) {
     TStateMessages messages;

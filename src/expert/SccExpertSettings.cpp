@@ -1,11 +1,13 @@
 // Settings: which provider, where its library is, under which user name; and the project mapping file.
 #include "expert/MappingFile.h"
+#include "expert/MappingFileStrings.h"
 #include "expert/SccExpert.h"
 #include "expert/SccExpertStrings.h"
 #include "host/Errors.h"
 #include "host/Paths.h"
 #include "host/Registry.h"
 #include "host/System.h"
+#include "provider/ProviderStrings.h"
 #include "provider/SCMAddInOptions.h"
 
 namespace {
@@ -79,7 +81,11 @@ void TSccExpert::ReadDefaultProvider(std::string& name) {
 
 bool TSccExpert::ProviderCreate(TWindowHandle param) {
   ReleaseProvider();
-  if (provider_path_.empty()) return false;
+  if (provider_path_.empty()) {
+    WarnOnce(SCCProviderInstalled() ? Format(sProviderNotInstalled, {provider_name_})
+                                    : sNoProvidersInstalled.str());
+    return false;
+  }
   provider_list_ = std::make_unique<TSCCProviderList>(provider_path_, param, user_name_);
   return true;
 }
@@ -128,8 +134,13 @@ bool TSccExpert::ProjectExists(const std::string& mappingFile) {
   bool result = false;
   Guarded(mwtInfo, sProjectExistsError, [&] {
     if (!FileExists(mappingFile)) return;
-    result = TMappingFile(mappingFile).HasSection(provider_name_);
+    const TMappingFile mapping(mappingFile);
+    result = mapping.HasSection(provider_name_);
     project_not_mapped_ = !result;
+    if (const auto damage = mapping.Damage(); !damage.empty())
+      WarnOnce(damage);
+    else if (mapping.Sections().empty())
+      WarnOnce(Format(sMappingFileEmpty, {mappingFile}));
   });
   return result;
 }

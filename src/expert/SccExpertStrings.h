@@ -27,6 +27,7 @@ constexpr TResString sViewChangeError{"ViewChange: %s"};
 
 // Projects.
 constexpr TResString sProviderNotAssigned{"AProvider not assigned"};
+constexpr TResString sProviderNotInstalled{"The source code control provider \"%s\" is not installed"};
 constexpr TResString sNoMatchingPath{"Unable to set current project, no matching path"};
 constexpr TResString sNoProjectFile{"No project or package file found in current project"};
 constexpr TResString sOpenProject{"Open Project"};

@@ -9,7 +9,6 @@
 #include <bitset>
 #include <cstddef>
 #include <memory>
-#include <set>
 #include <string>
 #include <string_view>
 #include <vector>

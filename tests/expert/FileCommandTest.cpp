@@ -383,6 +383,8 @@ TEST_F(FileCommand, MoreFilesThanOneQueryCarriesAreRefused) {
   provider_->Calls.clear();
   EXPECT_THAT(AbortOf([&] { expert.RemoveFiles({}); }), HasSubstr("65"));
   EXPECT_EQ(provider_->Count("SccQueryInfo"), 0);
+  expert.Menu()->Map.OnClick();
+  EXPECT_FALSE(expert.Menu()->actRemoveFiles.Enabled);
 }
 
 TEST_F(FileCommand, ProviderWidensAndNarrowsTheList) {

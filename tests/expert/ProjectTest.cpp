@@ -91,6 +91,18 @@ TEST_F(Project, RefusedOpenIsShownAndUndone) {
   }
 }
 
+TEST_F(Project, ReasonOfAFailedOpenIsInTheMessageWindow) {
+  provider_->Results["SccOpenProject"] = SCC_E_OPNOTSUPPORTED;
+  Open();
+  EXPECT_THAT(forms_.LinesOf(mwtError),
+              Contains("The source code control system does not support this operation"));
+  host_.CloseModule(project_file_);
+  expert_.reset();
+  provider_->Faults.ThrowException.insert("SccOpenProject");
+  Open();  // counts as opened
+  EXPECT_THAT(forms_.LinesOf(mwtError), Contains("scripted failure in SccOpenProject"));
+}
+
 TEST_F(Project, ClosedByTheHostWhileTheFailureIsShown) {
   // The boxes run a message loop; what the host says meanwhile is handled when the open has been undone.
   provider_->Results["SccOpenProject"] = SCC_E_ACCESSFAILURE;

@@ -85,13 +85,27 @@ TEST_F(Settings, MappingThatCannotBeWrittenIsALine) {
   EXPECT_THAT(forms_.LinesOf(mwtInfo), Contains(HasSubstr("UpdateSCCIniFile; ")));
 }
 
+TEST_F(Settings, MappingThatSaysNothingIsAWarningOnce) {
+  for (const char* text : {"", "ProjName=x\n", "[Script"}) {
+    SCOPED_TRACE(text);
+    WriteMapping(text);
+    auto& expert = Start();
+    host_.AddProject(project_file_, units_);
+    for (int i = 0; i < 3; ++i) expert.Menu()->Map.OnClick();
+    EXPECT_THAT(forms_.LinesOf(mwtWarning), ElementsAre(HasSubstr("App.cdp")));
+    host_.CloseModule(project_file_);
+    expert_.reset();
+    forms_.Lines.clear();
+  }
+}
+
 TEST_F(Settings, NoRegistryMeansNoProviderAndNoCrash) {
   std::filesystem::remove_all(folder_ / "registry");
   auto& expert = Open();
   EXPECT_EQ(expert.ProviderName(), "");
   expert.Menu()->Map.OnClick();
   EXPECT_FALSE(expert.Menu()->actCheckOutFiles.Enabled);
-  EXPECT_THAT(forms_.LinesOf(mwtError), IsEmpty());
+  EXPECT_THAT(forms_.LinesOf(mwtWarning), ElementsAre("No source code control providers installed"));
 }
 
 TEST_F(Settings, ChoosingAProviderEndsTheOldOneBeforeTheNewOneStarts) {

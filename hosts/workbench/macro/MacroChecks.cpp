@@ -1,7 +1,10 @@
 // The macro steps that look whether something is so.
+#include <wx/filename.h>
 #include <wx/listctrl.h>
 #include <wx/menu.h>
 
+#include <cstdlib>
+#include <sstream>
 #include <stdexcept>
 
 #include "host/System.h"
@@ -44,18 +47,16 @@ bool IsInMessages(const std::string& text) {
   return VisitLogs([&](wxListCtrl& list) { return TextOf(list).Contains(wanted); });
 }
 
-/// What the command printed, and how it ended.
+/// What the command printed, and how it ended: the shell's word, 0 for success.  Waits until it has ended.
 std::pair<std::string, int> RunInShell(const std::string& command) {
-  wxString quoted = Text(command);
-  quoted.Replace("\\", "\\\\");
-  quoted.Replace("\"", "\\\"");
-  wxArrayString lines;
-  wxArrayString errors;
-  const long code = wxExecute("/bin/sh -c \"" + quoted + "\"", lines, errors, wxEXEC_BLOCK);
+  const wxString output = wxFileName::CreateTempFileName("macro");
+  const std::string line = "(" + command + ") > \"" + output.utf8_string() + "\" 2>&1";
+  const int code = std::system(line.c_str());
+  std::istringstream lines(ReadWholeFile(output.utf8_string()));
+  wxRemoveFile(output);
   std::string said;
-  for (const auto* part : {&lines, &errors})
-    for (const auto& text : *part) said += "    " + text.utf8_string() + "\n";
-  return {said, static_cast<int>(code)};
+  for (std::string text; std::getline(lines, text);) said += "    " + text + "\n";
+  return {said, code};
 }
 
 /// Empty when the box is there in that state.

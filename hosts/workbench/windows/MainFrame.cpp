@@ -112,8 +112,9 @@ void TMainFrame::CreateWindows() {
   rows_->SetMinimumPaneSize(FromDIP(40));
   rows_->SetSashGravity(1.0);
   columns_->SplitVertically(treePanel_, rows_, FromDIP(state.TreeWidth));
-  Layout();
-  rows_->SplitHorizontally(book_, messagePanel_, -FromDIP(state.MessagesHeight));
+  rows_->SplitHorizontally(book_, messagePanel_);
+  // The frame gets its real size when it is shown; a sash set before that would be measured from the wrong bottom.
+  CallAfter([this, height = FromDIP(state.MessagesHeight)] { rows_->SetSashPosition(-height); });
   Centre();
   if (state.Maximized) Maximize();
 }
