@@ -27,7 +27,7 @@ TCommentsForm::TCommentsForm(TCommentModel& model)
   btnOK->Bind(wxEVT_BUTTON, &TCommentsForm::btnOKClick, this);
   btnCancel->Bind(wxEVT_BUTTON, &TCommentsForm::btnCancelClick, this);
   btnRecent->Bind(wxEVT_BUTTON, &TCommentsForm::btnRecentClick, this);
-  Bind(wxEVT_MENU, [this](wxCommandEvent& event) {
+  RecentMenu.Bind(wxEVT_MENU, [this](wxCommandEvent& event) {
     Replace(history_.Choose(static_cast<std::size_t>(event.GetId() - kFirstRecentId)));
   });
   CommentsForm = this;

@@ -113,7 +113,7 @@ TEST(Comments, EarlierOnesAreAtHand) {
     EXPECT_EQ(walk(WXK_DOWN), "typed");
     EXPECT_THAT(labels(), ElementsAre("&1 offered", "&2 save && load", "&3 older"));
     wxCommandEvent choice(wxEVT_MENU, shown.RecentMenu.FindItemByPosition(2)->GetId());
-    shown.HandleWindowEvent(choice);
+    shown.RecentMenu.ProcessEvent(choice);
     EXPECT_EQ(memo(), "older");
     EXPECT_EQ(wxWindow::FindFocus(), shown.CommentsMemo);
     Click(shown.btnOK);
