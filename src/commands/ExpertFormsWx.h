@@ -1,9 +1,10 @@
-// The windows that the expert is given in the IDE.
+// The windows of the file commands that the expert is given in the IDE.
 #pragma once
 
 #include "expert/ExpertForms.h"
 
-class TExpertForms final : public IExpertForms {
+/// Wizards are windows of a layer above, which completes this class.
+class TExpertForms : public IExpertForms {
  public:
   std::unique_ptr<IMessageWindow> CreateMessageWindow() override;
   void ShowMsgDialog(const std::string& title, const std::string& text, TMsgType kind) override;

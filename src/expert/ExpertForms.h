@@ -30,6 +30,8 @@ class IExpertForms {
   /// mrOk or mrCancel; the model holds the user's choice.
   virtual int ShowFileList(TSccExpert& expert, TFileListModel& model) = 0;
   virtual int ShowComments(TCommentModel& model) = 0;
+  /// Throws EAbort, with no window shown, when the current project cannot be browsed.
+  virtual void ShowCommitBrowser(TSccExpert& expert) = 0;
   /// Starts showing progress under that caption: nothing for the first half second, then a small window that takes
   /// neither the focus nor any input.  Never nullptr.
   virtual std::unique_ptr<IProgress> StartProgress(const std::string& caption, std::size_t total) = 0;

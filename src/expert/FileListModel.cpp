@@ -1,6 +1,7 @@
 #include "expert/FileListModel.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "host/Paths.h"
 
@@ -52,10 +53,14 @@ TFileListModel::TButtons TFileListModel::CheckState() const {
   return {.Ok = some, .CheckAll = checked_ < rows_.size(), .UncheckAll = some};
 }
 
-TCommentEdit FitComment(TCommentEdit edit) {
-  JoinLines(edit.Before);
-  JoinLines(edit.After);
+TCommentEdit CutComment(TCommentEdit edit) {
   edit.After = CutAtCharacter(edit.After, kMaxComment);
   edit.Before = CutAtCharacter(edit.Before, kMaxComment - edit.After.size());
   return edit;
+}
+
+TCommentEdit FitComment(TCommentEdit edit) {
+  JoinLines(edit.Before);
+  JoinLines(edit.After);
+  return CutComment(std::move(edit));
 }

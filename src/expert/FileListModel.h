@@ -75,7 +75,8 @@ struct TCommentEdit {
   std::string After;
   bool operator==(const TCommentEdit&) const = default;
 };
-/// What the comment memo may hold of `edit`: line breaks become blanks, and what stands before the caret (typed or
-/// pasted just now) is cut at a character border so that the whole fits kMaxComment bytes.  What stood behind the caret
-/// gives way only when it is too long by itself.
+/// What a memo may hold of `edit`: what stands before the caret (typed or pasted just now) is cut at a character border
+/// so that the whole fits kMaxComment bytes.  What stood behind the caret gives way only when it is too long by itself.
+TCommentEdit CutComment(TCommentEdit edit);
+/// The same for the comment dialog, whose comments are one line: line breaks become blanks.
 TCommentEdit FitComment(TCommentEdit edit);

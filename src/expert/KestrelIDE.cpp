@@ -3,13 +3,13 @@
 #include <memory>
 #include <optional>
 
-#include "commands/ExpertFormsWx.h"
 #include "expert/SccExpert.h"
 #include "host/Options.h"
 #include "host/Services.h"
 #include "provider/SCMAddInOptions.h"
 #include "provider/SCMOptions.h"
 #include "ui/Debug.h"
+#include "wizards/WizardForms.h"
 
 namespace {
 
@@ -49,7 +49,7 @@ class TProductStartup {
     });
   }
 
-  TExpertForms forms_;
+  TWizardForms forms_;
   std::optional<int> cookie_;
   std::optional<int> wizard_index_;
   std::optional<int> options_index_;

@@ -179,4 +179,4 @@ void TSccExpert::HideMessages() {
 
 void TSccExpert::PlaceProject() { throw EAbort(sNotBuiltYet); }
 void TSccExpert::PullProjectWizard() { throw EAbort(sNotBuiltYet); }
-void TSccExpert::CommitBrowser() { throw EAbort(sNotBuiltYet); }
+void TSccExpert::CommitBrowser() { forms_.ShowCommitBrowser(*this); }

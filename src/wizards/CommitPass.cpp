@@ -2,6 +2,7 @@
 
 #include <array>
 #include <exception>
+#include <utility>
 
 #include "expert/SccExpert.h"
 #include "host/Paths.h"
@@ -62,12 +63,13 @@ class TCommitPass {
         directory_(ExtractFileDir(expert.GetCurrentProjectFile())),
         summary_(sProcessingFiles.str() + sCRLF.str()) {}
 
-  void Execute(const std::vector<TCommitRowData>& rows, IProgress& progress) {
+  void Execute(const std::vector<TCommitRowData>& rows, std::unique_ptr<IProgress> progress) {
     Project();
     for (std::size_t i = 0; i < rows.size(); ++i) {
-      progress.Step(i, rows[i].FileName);
+      progress->Step(i, rows[i].FileName);
       CarryOut(rows[i]);
     }
+    progress.reset();
     expert_.ReloadFiles(changed_);
     expert_.Forms().ShowMsgDialog(sCommitSummaryTitle, summary_, metInfo);
   }
@@ -108,6 +110,6 @@ class TCommitPass {
 }  // namespace
 
 void CommitRows(TSccExpert& expert, const std::vector<TCommitRowData>& rows, const TCommitComments& comments,
-                IProgress& progress) {
-  TCommitPass(expert, comments).Execute(rows, progress);
+                std::unique_ptr<IProgress> progress) {
+  TCommitPass(expert, comments).Execute(rows, std::move(progress));
 }

@@ -177,6 +177,14 @@ std::string ActivityToString(TCommitActivity activity) {
   return activity < kActivityTexts.size() ? kActivityTexts[activity] : sActivityError;
 }
 
+std::optional<TCommitActivity> NextActivityWith(char letter, TCommitActivity current) {
+  for (int step = 1; step <= kCommitActivities; ++step) {
+    const auto next = static_cast<TCommitActivity>((current + step) % kCommitActivities);
+    if (SameText({&letter, 1}, ActivityToString(next).substr(0, 1))) return next;
+  }
+  return std::nullopt;
+}
+
 TCommitRowData ClassifyCommitRow(scc::Long status, bool locallyModified) {
   const auto rule = std::ranges::find_if(kRules, [&](const TRule& candidate) {
     return candidate.Matches(status) &&

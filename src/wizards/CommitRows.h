@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -22,6 +23,9 @@ enum TCommitActivity : std::uint8_t {
 inline constexpr int kCommitActivities = caGetLatest + 1;
 /// As the user reads it; a value outside the enumeration has a text of its own.
 std::string ActivityToString(TCommitActivity activity);
+/// The activity that typing `letter` (of either case) leads to from `current`: the next one, round about, whose text
+/// begins with it; nothing when none does.
+std::optional<TCommitActivity> NextActivityWith(char letter, TCommitActivity current);
 
 /// One listed file.
 struct TCommitRowData {

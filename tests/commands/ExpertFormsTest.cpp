@@ -9,8 +9,12 @@
 
 namespace {
 
+struct TForms final : TExpertForms {
+  void ShowCommitBrowser(TSccExpert&) override {}
+};
+
 TEST(ExpertForms, BringUpTheRealWindows) {
-  TExpertForms forms;
+  TForms forms;
   const auto window = forms.CreateMessageWindow();
   EXPECT_EQ(window.get(), MsgWinForm);
   EXPECT_FALSE(MsgWinForm->IsShown());

@@ -70,6 +70,10 @@ int TScriptedForms::ShowComments(TCommentModel& model) {
   return Next(OnComments, model, model.Caption.empty() ? "Comments" : model.Caption, Unexpected);
 }
 
+void TScriptedForms::ShowCommitBrowser(TSccExpert& expert) {
+  Next(OnCommitBrowser, expert, "Commit Browser", Unexpected);
+}
+
 std::unique_ptr<IProgress> TScriptedForms::StartProgress(const std::string& caption, std::size_t total) {
   return std::make_unique<TScriptedProgress>(*this, caption, total);
 }

@@ -23,6 +23,7 @@ class TScriptedForms final : public IExpertForms {
   /// mrCancel and is noted in Unexpected.
   std::deque<std::function<int(TFileListModel&)>> OnFileList;
   std::deque<std::function<int(TCommentModel&)>> OnComments;
+  std::deque<std::function<int(TSccExpert&)>> OnCommitBrowser;
   /// Runs while a message dialog is shown, as the host's message loop would.
   std::function<void()> WhileBoxShown;
   bool Recording = true;  ///< off: boxes and lines are not kept, for measurements
@@ -41,6 +42,7 @@ class TScriptedForms final : public IExpertForms {
   void ShowBox(const std::string& text, TMsgType) override { PlainBoxes.push_back(text); }
   int ShowFileList(TSccExpert& expert, TFileListModel& model) override;
   int ShowComments(TCommentModel& model) override;
+  void ShowCommitBrowser(TSccExpert& expert) override;
   std::unique_ptr<IProgress> StartProgress(const std::string& caption, std::size_t total) override;
 
   /// Captions of the progress shown, each with how many of how many files were reported.

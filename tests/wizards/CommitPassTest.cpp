@@ -8,10 +8,11 @@ namespace {
 using namespace scc;
 
 struct TSteps final : IProgress {
+  explicit TSteps(std::vector<std::string>& seen) : Seen(seen) {}
   void Step(std::size_t done, const std::string& what) override {
     Seen.push_back(std::to_string(done) + " " + ExtractFileName(what));
   }
-  std::vector<std::string> Seen;
+  std::vector<std::string>& Seen;
 };
 
 class CommitPass : public TExpertTest {
@@ -23,7 +24,7 @@ class CommitPass : public TExpertTest {
   /// The summary that the pass ends with.
   std::string Summary(const std::vector<TCommitRowData>& rows, const TCommitComments& comments = {}) {
     forms_.Boxes.clear();
-    CommitRows(*expert_, rows, comments, steps_);
+    CommitRows(*expert_, rows, comments, std::make_unique<TSteps>(steps_));
     if (forms_.Boxes.size() != 1) return "(" + std::to_string(forms_.Boxes.size()) + " boxes)";
     EXPECT_EQ(forms_.Boxes.front().Title, "Commit Borwser");
     EXPECT_EQ(forms_.Boxes.front().Kind, metInfo);
@@ -31,7 +32,7 @@ class CommitPass : public TExpertTest {
   }
   bool Writable(const std::string& name) const { return GetFileAttributesOf(At(name)) == faArchive; }
 
-  TSteps steps_;
+  std::vector<std::string> steps_;
 };
 
 TEST_F(CommitPass, CarriesOutEachRowInRowOrderAndSaysSo) {
@@ -75,7 +76,7 @@ TEST_F(CommitPass, CarriesOutEachRowInRowOrderAndSaysSo) {
   EXPECT_THAT(host_.Log, ElementsAre("ReloadFile " + At("a.pas"), "ReloadFile " + At("c.pas"),
                                      "ReloadFile " + At("d.pas"), "ReloadFile " + At("g.pas")));
   for (const auto& row : rows) EXPECT_EQ(GetFileAttributesOf(row.FileName), faArchive) << row.FileName;
-  EXPECT_THAT(steps_.Seen,
+  EXPECT_THAT(steps_,
               ElementsAre("0 a.pas", "1 b.pas", "2 c.pas", "3 d.pas", "4 e.pas", "5 f.pas", "6 g.pas"));
 }
 
@@ -130,13 +131,14 @@ TEST_F(CommitPass, IsRefusedWithoutAProviderProjectBeforeAnythingIsTouched) {
   auto& expert = Start();
   SetFileAttributesOf(At("unit1.pas"), faReadOnly);
   const auto abort = [&] {
-    return AbortOf([&] { CommitRows(expert, {Row("unit1.pas", caNone)}, {}, steps_); });
+    return AbortOf(
+        [&] { CommitRows(expert, {Row("unit1.pas", caNone)}, {}, std::make_unique<TSteps>(steps_)); });
   };
   EXPECT_EQ(abort(), "Unable to run Commit Browser, provider not assigned");
   ASSERT_TRUE(expert.ProviderCreate(0));
   EXPECT_EQ(abort(), "Unable to set current project, no matching path");
   EXPECT_FALSE(Writable("unit1.pas"));
-  EXPECT_THAT(steps_.Seen, IsEmpty());
+  EXPECT_THAT(steps_, IsEmpty());
 }
 
 TEST_F(CommitPass, AProjectThatTheHostClosesMeanwhileFailsTheRowsThatAreLeft) {

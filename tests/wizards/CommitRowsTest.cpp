@@ -56,6 +56,14 @@ TEST(CommitRowRules, ActivitiesHaveTexts) {
                                  "Get Latest", "Activity Error"));
 }
 
+TEST(CommitRowRules, ALetterLeadsToTheNextActivityThatBeginsWithIt) {
+  EXPECT_EQ(NextActivityWith('c', caNone), caCommit);
+  EXPECT_EQ(NextActivityWith('C', caCommit), caCheckout);
+  EXPECT_EQ(NextActivityWith('c', caCheckout), caCommit);
+  EXPECT_EQ(NextActivityWith('G', caGetLatest), caGetLatest);
+  EXPECT_EQ(NextActivityWith('x', caNone), std::nullopt);
+}
+
 TEST(CommitRowRules, FilesAreSeenFromTheProject) {
   const struct {
     const char *Directory, *File, *Seen;

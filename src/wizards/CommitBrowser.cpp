@@ -1,0 +1,372 @@
+#include "wizards/CommitBrowser.h"
+
+#include <wx/evtloop.h>
+#include <wx/notebook.h>
+#include <wx/statusbr.h>
+#include <wx/wx.h>
+
+#include <algorithm>
+#include <array>
+#include <chrono>
+#include <filesystem>
+#include <fstream>
+#include <memory>
+
+#include "commands/CommentsStrings.h"
+#include "expert/SccExpert.h"
+#include "host/Paths.h"
+#include "host/System.h"
+#include "ui/WxText.h"
+#include "wizards/CommitBrowserStrings.h"
+#include "wizards/CommitGrid.h"
+#include "wizards/CommitPass.h"
+#include "wizards/CommitRowsStrings.h"
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr const char* kHelpKeyword = "HC_TeamCommitBrowser";
+/// As much of a local file as is shown: a huge one must not stop whoever walks through the rows.
+constexpr std::size_t kShownBytes = 1 << 20;
+
+/// The beginning of a file, made fit for a text control.
+std::string BeginningOf(const std::string& fileName) {
+  std::string text(kShownBytes + 1, '\0');
+  std::ifstream file(fileName, std::ios::binary);
+  file.read(text.data(), static_cast<std::streamsize>(text.size()));
+  text.resize(static_cast<std::size_t>(file.gcount()));
+  text = CutAtCharacter(text, kShownBytes);
+  std::ranges::replace(text, '\0', ' ');  // a control's text would end there
+  return text;
+}
+
+}  // namespace
+
+/// Says in the window which file of how many is being worked on.
+class TCommitBrowser::TProgressLine final : public IProgress {
+ public:
+  TProgressLine(wxStaticText& line, std::size_t total) : line_(line), total_(total) {}
+  TProgressLine(const TProgressLine&) = delete;
+  TProgressLine& operator=(const TProgressLine&) = delete;
+  ~TProgressLine() override { line_.SetLabel({}); }
+
+  void Step(std::size_t done, const std::string& what) override {
+    const auto now = TClock::now();
+    if (now < next_) return;
+    next_ = now + 50ms;
+    line_.SetLabelText(
+        ToWx(Format(sCommitProgress, {static_cast<long long>(done + 1), static_cast<long long>(total_),
+                                      ExtractFileName(what)})));
+    wxGetTopLevelParent(&line_)->Update();
+    // Painting only: clicks and keys stay where they are until the work is done.
+    if (auto* loop = wxEventLoopBase::GetActive()) loop->YieldFor(wxEVT_CATEGORY_UI);
+  }
+
+ private:
+  using TClock = std::chrono::steady_clock;
+
+  wxStaticText& line_;
+  std::size_t total_;
+  TClock::time_point next_{};
+};
+
+TCommitBrowser::TCommitBrowser(TSccExpert& expert)
+    : TModalForm(ToWx(sCommitBrowserCaption), wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER | wxMAXIMIZE_BOX),
+      FExpert(&expert) {
+  CreateControls();
+  LayOut();
+  FormCreate();
+  BindEvents();
+}
+
+void TCommitBrowser::FormCreate() {
+  AddRows();
+  table_ = new TCommitTable(FRows, ExtractFileDir(FExpert->GetCurrentProjectFile()));
+  FitMemo(individual_);
+  FitMemo(summary_);
+  StringGrid1->Fill(table_, ActivityComboBox->GetBestSize().GetHeight());
+}
+
+void TCommitBrowser::AddRows() {
+  for (const auto& row : GatherCommitRows(*FExpert)) AddRow(row.FileName, row.Status, row.Activity);
+}
+
+void TCommitBrowser::AddRow(const std::string& fileName, const std::string& state, TCommitActivity activity) {
+  FRows.push_back({activity, state, fileName, {}});
+  ++FRowCount;
+}
+
+void TCommitBrowser::BindEvents() {
+  Bind(wxEVT_INIT_DIALOG, [this](wxInitDialogEvent&) { FormShow(); });
+  StringGrid1->Bind(wxEVT_SIZE, [this](wxSizeEvent& event) {
+    event.Skip();
+    CallAfter(&TCommitBrowser::FormResize);
+  });
+  StringGrid1->Bind(wxEVT_GRID_SELECT_CELL, &TCommitBrowser::StringGrid1SelectCell, this);
+  for (const auto scrolled : {wxEVT_SCROLLWIN_TOP, wxEVT_SCROLLWIN_BOTTOM, wxEVT_SCROLLWIN_LINEUP,
+                              wxEVT_SCROLLWIN_LINEDOWN, wxEVT_SCROLLWIN_PAGEUP, wxEVT_SCROLLWIN_PAGEDOWN,
+                              wxEVT_SCROLLWIN_THUMBTRACK, wxEVT_SCROLLWIN_THUMBRELEASE})
+    StringGrid1->Bind(scrolled, [this](wxScrollWinEvent& event) {
+      event.Skip();
+      StringGrid1TopLeftChanged();
+    });
+  ActivityComboBox->Bind(wxEVT_COMBOBOX, &TCommitBrowser::ActivityComboBoxChange, this);
+  TCommitPageControl->Bind(wxEVT_NOTEBOOK_PAGE_CHANGED, &TCommitBrowser::TCommitPageControlChange, this);
+  TCheckBoxPathTrim->Bind(wxEVT_CHECKBOX, &TCommitBrowser::TCheckBoxPathTrimClick, this);
+  TMemoIndividualComment->Bind(wxEVT_TEXT, &TCommitBrowser::TMemoIndividualCommentChange, this);
+  TCheckboxIndividualComment->Bind(wxEVT_CHECKBOX, &TCommitBrowser::TCheckboxIndividualCommentClick, this);
+  TMemoSummaryComments->Bind(wxEVT_TEXT, &TCommitBrowser::TMemoSummaryCommentsChange, this);
+  TCheckBoxSummaryComment->Bind(wxEVT_CHECKBOX, &TCommitBrowser::TCheckBoxSummaryCommentClick, this);
+  TButtonShowDiff->Bind(wxEVT_BUTTON, &TCommitBrowser::TButtonShowDiffClick, this);
+  TButtonShowHistory->Bind(wxEVT_BUTTON, &TCommitBrowser::TButtonShowHistoryClick, this);
+  TButtonCancel->Bind(wxEVT_BUTTON, &TCommitBrowser::TButtonCancelClick, this);
+  TButtonCommit->Bind(wxEVT_BUTTON, &TCommitBrowser::TButtonCommitClick, this);
+  HelpButton->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { HelpButtonClick(); });
+}
+
+void TCommitBrowser::FormShow() {
+  FShown = true;
+  StringGrid1->SetFocus();
+  DisplayWorkspaceFile(StringGrid1->GetGridCursorRow());
+}
+
+void TCommitBrowser::FormResize() {
+  HideActivities();
+  StringGrid1->FitColumns();
+}
+
+// ------------------------------------------------------------------------------------------------ rows
+
+TCommitRowData* TCommitBrowser::RowAt(int row) {
+  return row >= 0 && row < FRowCount ? &FRows[static_cast<std::size_t>(row)] : nullptr;
+}
+
+TCommitRowData* TCommitBrowser::CurrentRow() { return RowAt(StringGrid1->GetGridCursorRow()); }
+
+void TCommitBrowser::StringGrid1SelectCell(wxGridEvent& event) {
+  FitMemo(individual_);  // what was typed last may still wait for it
+  if (auto* left = CurrentRow()) left->Comment = FromWx(TMemoIndividualComment->GetValue());
+  const int row = event.GetRow();
+  table_->Highlighted = row;
+  StringGrid1->ForceRefresh();
+  if (event.GetCol() == cgcActivity && RowAt(row) && FShown)
+    PlaceActivities(row);
+  else
+    HideActivities();
+  const auto* entered = RowAt(row);
+  TMemoIndividualComment->ChangeValue(entered ? ToWx(entered->Comment) : wxString());
+  FitMemo(individual_);
+  DisplayWorkspaceFile(row);
+}
+
+void TCommitBrowser::PlaceActivities(int row) {
+  StringGrid1->MakeCellVisible(row, cgcActivity);
+  const auto cell = StringGrid1->CellToRect(row, cgcActivity);
+  ActivityComboBox->SetSelection(RowAt(row)->Activity);
+  ActivityComboBox->SetSize({StringGrid1->CalcScrolledPosition(cell.GetTopLeft()), cell.GetSize()});
+  ActivityComboBox->Show();
+  ActivityComboBox->SetFocus();
+}
+
+void TCommitBrowser::HideActivities() {
+  if (!ActivityComboBox->IsShown()) return;
+  const bool hadFocus = ActivityComboBox->IsDescendant(FindFocus());
+  ActivityComboBox->Hide();
+  if (hadFocus) StringGrid1->SetFocus();  // or the keyboard would be nowhere
+}
+
+void TCommitBrowser::OpenActivities(TCommitActivity activity) {
+  const int row = StringGrid1->GetGridCursorRow();
+  if (StringGrid1->GetGridCursorCol() != cgcActivity) StringGrid1->GoToCell(row, cgcActivity);
+  if (!ActivityComboBox->IsShown()) PlaceActivities(row);
+  ActivityComboBox->OpenAt(activity);
+}
+
+void TCommitBrowser::StringGrid1TopLeftChanged() { HideActivities(); }
+
+void TCommitBrowser::ActivityComboBoxChange(wxCommandEvent&) {
+  if (auto* row = CurrentRow())
+    row->Activity = static_cast<TCommitActivity>(ActivityComboBox->GetSelection());
+  HideActivities();
+  StringGrid1->SetFocus();
+  StringGrid1->ForceRefresh();
+}
+
+void TCommitBrowser::DisplayWorkspaceFile(int row) {
+  const auto* data = RowAt(row);
+  if (!data || !FileExists(data->FileName)) {
+    TMemoWorkspaceSource->ChangeValue(ToWx(sFileNotLocal));
+    source_status_->SetStatusText(data ? ToWx(data->FileName) : wxString());
+    return;
+  }
+  TMemoWorkspaceSource->ChangeValue(ToWx(BeginningOf(data->FileName)));
+  std::error_code ignored;
+  const auto size = std::filesystem::file_size(data->FileName, ignored);
+  source_status_->SetStatusText(
+      ToWx(Format(size > kShownBytes ? sFilePartShown : sFileSize,
+                  {data->FileName, static_cast<long long>(size), static_cast<long long>(kShownBytes)})));
+}
+
+void TCommitBrowser::TCheckBoxPathTrimClick(wxCommandEvent&) {
+  table_->TrimPaths = TCheckBoxPathTrim->GetValue();
+  StringGrid1->ForceRefresh();
+}
+
+// ------------------------------------------------------------------------------------------------ keyboard
+
+void TCommitBrowser::FormKeyDown(wxKeyEvent& event) {
+  if (busy_ || CMDialogKey(event) || TurnToPage(event) || GridKeyDown(event)) return;
+  const bool open = ActivityComboBox->IsPopupShown();
+  if (event.GetKeyCode() == WXK_F1)
+    HelpButtonClick();
+  else if (open && event.GetKeyCode() == WXK_ESCAPE)
+    ActivityComboBox->Dismiss();
+  else if (open)
+    event.Skip();
+  else
+    TModalForm::FormKeyDown(event);
+}
+
+bool TCommitBrowser::CMDialogKey(const wxKeyEvent& event) {
+  if (event.GetKeyCode() != WXK_TAB || !ActivityComboBox->IsDescendant(FindFocus())) return false;
+  ActivityComboBox->SetFocus();
+  return true;
+}
+
+bool TCommitBrowser::GridKeyDown(const wxKeyEvent& event) {
+  const bool open = ActivityComboBox->IsPopupShown();
+  const bool inList = open || ActivityComboBox->IsDescendant(FindFocus());
+  const auto* row = CurrentRow();
+  if (!row || (!inList && !StringGrid1->IsDescendant(FindFocus()))) return false;
+  const int key = event.GetKeyCode();
+  if (event.GetModifiers() == wxMOD_ALT && key == WXK_DOWN) return OpenActivities(row->Activity), true;
+  if (event.HasAnyModifiers()) return false;
+  if (key > WXK_SPACE && key < WXK_DELETE) {
+    const auto from = open ? ActivityComboBox->Pointed() : row->Activity;
+    const auto activity = NextActivityWith(static_cast<char>(key), from);
+    if (activity) OpenActivities(*activity);
+    return activity.has_value();
+  }
+  if (open) return false;
+  constexpr std::array kOpeningKeys{static_cast<int>(WXK_SPACE), static_cast<int>(WXK_RETURN),
+                                    static_cast<int>(WXK_NUMPAD_ENTER), static_cast<int>(WXK_F2),
+                                    static_cast<int>(WXK_F4)};
+  if (std::ranges::count(kOpeningKeys, key)) return OpenActivities(row->Activity), true;
+  return inList && StringGrid1->MoveWith(key);
+}
+
+bool TCommitBrowser::TurnToPage(const wxKeyEvent& event) {
+  // Tabs show no accelerators by themselves.
+  const struct {
+    wxNotebook* Book;
+    std::size_t Page;
+    TResString Caption;
+  } pages[] = {{TCommitPageControl, 0, sCommitsPage},
+               {TCommitPageControl, 1, sSummaryCommentPage},
+               {TFileDisplayPageControl, 0, sIndividualCommentPage},
+               {TFileDisplayPageControl, 1, sLocalSourcePage},
+               {TFileDisplayPageControl, 2, sDiffAndHistoryPage}};
+  if (event.GetModifiers() != wxMOD_ALT) return false;
+  for (const auto& [book, page, caption] : pages) {
+    const std::string_view text = caption;
+    if (wxToupper(text[text.find('&') + 1]) != event.GetKeyCode() || !book->IsShownOnScreen()) continue;
+    book->SetSelection(page);
+    book->GetPage(page)->SetFocus();
+    return true;
+  }
+  return false;
+}
+
+void TCommitBrowser::HelpButtonClick() {
+  if (auto* application = IdeService<IOTAApplication>()) application->HelpKeyword(kHelpKeyword);
+}
+
+// ------------------------------------------------------------------------------------------------ comments
+
+void TCommitBrowser::FitMemo(const TCommentMemo& comment) {
+  const auto text = comment.Memo->GetValue();
+  const auto caret = static_cast<std::size_t>(comment.Memo->GetInsertionPoint());
+  const TCommentEdit typed{FromWx(text.Left(caret)), FromWx(text.Mid(caret))};
+  const auto fitted = CutComment(typed);
+  if (fitted != typed) {
+    comment.Memo->ChangeValue(ToWx(fitted.Before + fitted.After));
+    comment.Memo->SetInsertionPoint(static_cast<long>(ToWx(fitted.Before).length()));
+  }
+  const auto used = static_cast<long long>(fitted.Before.size() + fitted.After.size());
+  comment.Length->SetLabel(ToWx(Format(sCommentLength, {used, static_cast<long long>(kMaxComment)})));
+  comment.Memo->GetParent()->Layout();
+}
+
+void TCommitBrowser::TMemoIndividualCommentChange(wxCommandEvent&) {
+  CallAfter([this] { FitMemo(individual_); });  // GTK is still busy with what was typed
+  TCheckBoxSummaryComment->SetValue(false);
+  TCheckboxIndividualComment->SetValue(true);
+}
+
+void TCommitBrowser::TMemoSummaryCommentsChange(wxCommandEvent&) {
+  CallAfter([this] { FitMemo(summary_); });
+  TCheckboxIndividualComment->SetValue(false);
+  TCheckBoxSummaryComment->SetValue(true);
+}
+
+void TCommitBrowser::TCheckboxIndividualCommentClick(wxCommandEvent&) {
+  TCheckBoxSummaryComment->SetValue(!TCheckboxIndividualComment->GetValue());
+}
+
+void TCommitBrowser::TCheckBoxSummaryCommentClick(wxCommandEvent&) {
+  TCheckboxIndividualComment->SetValue(!TCheckBoxSummaryComment->GetValue());
+}
+
+void TCommitBrowser::TCommitPageControlChange(wxBookCtrlEvent& event) {
+  event.Skip();
+  if (TCommitPageControl->GetSelection() != 0) HideActivities();
+}
+
+// ------------------------------------------------------------------------------------------------ buttons
+
+bool TCommitBrowser::Attempt(const std::function<void()>& command) try {
+  command();
+  return true;
+} catch (const std::exception& error) {
+  FExpert->Forms().ShowMsgDialog(sCommitBrowserCaption, error.what(), metError);
+  return false;
+}
+
+void TCommitBrowser::TButtonShowDiffClick(wxCommandEvent&) {
+  if (const auto* row = CurrentRow()) Attempt([&] { FExpert->ShowDiff(row->FileName); });
+}
+
+void TCommitBrowser::TButtonShowHistoryClick(wxCommandEvent&) {
+  if (const auto* row = CurrentRow()) Attempt([&] { FExpert->ShowHistory(row->FileName); });
+}
+
+void TCommitBrowser::TButtonCancelClick(wxCommandEvent&) { CloseWith(mrCancel); }
+
+void TCommitBrowser::TButtonCommitClick(wxCommandEvent&) {
+  FitMemo(summary_);
+  const TCommitComments comments{TCheckboxIndividualComment->GetValue(),
+                                 FromWx(TMemoSummaryComments->GetValue())};
+  SetBusy(true);
+  const bool done = Attempt([&] {
+    CommitRows(*FExpert, FRows, comments, std::make_unique<TProgressLine>(*progress_, FRows.size()));
+  });
+  SetBusy(false);
+  if (done)
+    CloseWith(mrOk);
+  else
+    TButtonCommit->SetFocus();
+}
+
+// A provider's own windows run message loops: nothing of this one may be worked meanwhile.
+void TCommitBrowser::SetBusy(bool busy) {
+  HideActivities();
+  busy_ = busy;
+  for (wxWindow* control :
+       std::initializer_list<wxWindow*>{TCommitPageControl, HelpButton, TButtonCancel, TButtonCommit})
+    control->Enable(!busy);
+}
+
+void TCommitBrowser::CloseWith(int modalResult) {
+  if (!busy_) TModalForm::CloseWith(modalResult);
+}

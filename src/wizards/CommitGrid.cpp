@@ -1,0 +1,120 @@
+#include "wizards/CommitGrid.h"
+
+#include <wx/settings.h>
+
+#include <algorithm>
+#include <array>
+
+#include "ui/WxText.h"
+#include "wizards/CommitBrowserStrings.h"
+
+namespace {
+
+constexpr std::array kColumnLabels{sActionColumn, sStateColumn, sFileNameColumn};
+static_assert(kColumnLabels.size() == kCommitColumns);
+
+wxGridCellAttrPtr NewAttr() {
+  wxGridCellAttrPtr attr(new wxGridCellAttr);
+  attr->SetReadOnly();
+  attr->SetAlignment(wxALIGN_LEFT, wxALIGN_CENTRE);
+  attr->SetFitMode(wxGridFitMode::Ellipsize(wxELLIPSIZE_MIDDLE));
+  return attr;
+}
+
+}  // namespace
+
+TCommitTable::TCommitTable(const std::vector<TCommitRowData>& rows, std::string directory)
+    : rows_(rows), directory_(std::move(directory)), plain_(NewAttr()), highlighted_(NewAttr()) {
+  highlighted_->SetBackgroundColour(wxSystemSettings::GetColour(wxSYS_COLOUR_HIGHLIGHT));
+  highlighted_->SetTextColour(wxSystemSettings::GetColour(wxSYS_COLOUR_HIGHLIGHTTEXT));
+}
+
+int TCommitTable::GetNumberRows() { return std::max(1, static_cast<int>(rows_.size())); }
+
+wxString TCommitTable::GetValue(int row, int column) {
+  const auto index = static_cast<std::size_t>(row);
+  if (index >= rows_.size()) return {};
+  const auto& data = rows_[index];
+  switch (column) {
+    case cgcActivity:
+      return ToWx(ActivityToString(data.Activity));
+    case cgcStatus:
+      return ToWx(data.Status);
+    default:
+      return ToWx(TrimPaths ? ProjectRelativePath(directory_, data.FileName) : data.FileName);
+  }
+}
+
+wxString TCommitTable::GetColLabelValue(int column) {
+  return ToWx(kColumnLabels[static_cast<std::size_t>(column)]);
+}
+
+wxGridCellAttr* TCommitTable::GetAttr(int row, int, wxGridCellAttr::wxAttrKind) {
+  auto& attr = row == Highlighted ? highlighted_ : plain_;
+  attr->IncRef();  // the caller lets go of it
+  return attr.get();
+}
+
+TCommitGrid::TCommitGrid(wxWindow* parent) : wxGrid(parent, wxID_ANY) {
+  HideRowLabels();
+  DisableDragRowSize();
+  SetColLabelSize(wxGRID_AUTOSIZE);
+  ShowScrollbars(wxSHOW_SB_NEVER, wxSHOW_SB_ALWAYS);
+  Bind(wxEVT_GRID_TABBING, [this](wxGridEvent& event) {
+    Navigate(event.ShiftDown() ? wxNavigationKeyEvent::IsBackward : wxNavigationKeyEvent::IsForward);
+  });
+}
+
+void TCommitGrid::Fill(TCommitTable* table, int rowHeight) {
+  SetDefaultRowSize(rowHeight);
+  AssignTable(table, wxGridSelectNone);
+  SetGridCursor(0, cgcActivity);
+}
+
+void TCommitGrid::FitColumns() {
+  constexpr int kLine = 1;
+  const int width = GetGridWindow()->GetClientSize().GetWidth() / kCommitColumns - kLine;
+  for (int column = 0; column < kCommitColumns; ++column) SetColSize(column, std::max(width, kLine));
+}
+
+bool TCommitGrid::MoveWith(int key) {
+  const int column = GetGridCursorCol();
+  switch (key) {
+    case WXK_UP:
+      return MoveCursorUp(false), true;
+    case WXK_DOWN:
+      return MoveCursorDown(false), true;
+    case WXK_LEFT:
+      return MoveCursorLeft(false), true;
+    case WXK_RIGHT:
+      return MoveCursorRight(false), true;
+    case WXK_PAGEUP:
+      return MovePageUp(), true;
+    case WXK_PAGEDOWN:
+      return MovePageDown(), true;
+    case WXK_HOME:
+      return GoToCell(0, column), true;
+    case WXK_END:
+      return GoToCell(GetNumberRows() - 1, column), true;
+    default:
+      return false;
+  }
+}
+
+TActivityComboBox::TActivityComboBox(wxWindow* parent) : list_(new wxVListBoxComboPopup) {
+  Hide();  // before it exists: it never flashes up
+  Create(parent, wxID_ANY, {}, wxDefaultPosition, wxDefaultSize, 0, nullptr, wxCB_READONLY | wxWANTS_CHARS);
+  SetPopupControl(list_);
+  for (int value = 0; value < kCommitActivities; ++value)
+    Append(ToWx(ActivityToString(static_cast<TCommitActivity>(value))));
+}
+
+void TActivityComboBox::OpenAt(TCommitActivity activity) {
+  if (!IsPopupShown()) Popup();
+  static_cast<wxVListBox*>(list_)->SetSelection(activity);  // the popup's own would choose it
+}
+
+TCommitActivity TActivityComboBox::Pointed() const {
+  const int item = IsPopupShown() ? static_cast<const wxVListBox*>(list_)->GetSelection() : GetSelection();
+  return static_cast<TCommitActivity>(std::max(0, item));
+}

@@ -1,0 +1,9 @@
+// The windows that the expert is given in the IDE, those of the wizards among them.
+#pragma once
+
+#include "commands/ExpertFormsWx.h"
+
+class TWizardForms final : public TExpertForms {
+ public:
+  void ShowCommitBrowser(TSccExpert& expert) override;
+};

@@ -1,0 +1,316 @@
+// The commit browser's window.
+#include <wx/notebook.h>
+
+#include "expert/ExpertFixture.h"
+#include "support/ModalScript.h"
+#include "ui/WxText.h"
+#include "wizards/CommitBrowser.h"
+#include "wizards/CommitGrid.h"
+
+namespace {
+
+using namespace scc;
+constexpr Long kMine = SCC_STATUS_CONTROLLED | SCC_STATUS_CHECKEDOUT | SCC_STATUS_OUTBYUSER;
+
+/// Rows: 0 App.qvxproj, 1 unit1.kfm, 2 unit1.pas (mine, modified), 3 unit2.pas.
+class CommitBrowser : public TExpertTest {
+ protected:
+  int Show(std::function<void(TCommitBrowser&)> user) {
+    TCommitBrowser form(Browsed());
+    return ShowAndPlay(form, std::move(user));
+  }
+  TSccExpert& Browsed() {
+    if (expert_) return *expert_;
+    auto& expert = Open();
+    provider_->Statuses[units_[0]] = kMine;
+    provider_->Differing = {units_[0]};
+    return expert;
+  }
+  static std::string Cell(TCommitBrowser& form, int row, int column) {
+    return FromWx(form.StringGrid1->GetCellValue(row, column));
+  }
+  static bool IsFocused(wxWindow* control) { return control->IsDescendant(wxWindow::FindFocus()); }
+  static void Type(wxTextCtrl* memo, const std::string& text) {
+    memo->WriteText(ToWx(text));
+    wxYield();
+  }
+  static void Toggle(wxCheckBox* box) {
+    box->SetValue(!box->GetValue());
+    wxCommandEvent event(wxEVT_CHECKBOX, box->GetId());
+    event.SetEventObject(box);
+    box->HandleWindowEvent(event);
+  }
+  /// Picks an item of the drop-down that is shown, as a click on it does.
+  static void Pick(TCommitBrowser& form, TCommitActivity activity) {
+    form.ActivityComboBox->SetSelection(activity);
+    wxCommandEvent event(wxEVT_COMBOBOX, form.ActivityComboBox->GetId());
+    event.SetEventObject(form.ActivityComboBox);
+    form.ActivityComboBox->HandleWindowEvent(event);
+  }
+};
+
+TEST_F(CommitBrowser, ListsTheRowsAndTrimsTheirPaths) {
+  const int result = Show([this](TCommitBrowser& form) {
+    EXPECT_EQ(form.FRowCount, 4);
+    EXPECT_EQ(form.StringGrid1->GetNumberRows(), 4);
+    EXPECT_EQ(Cell(form, 2, cgcActivity), "Commit");
+    EXPECT_EQ(Cell(form, 2, cgcStatus), "Checked out/Modified");
+    EXPECT_EQ(Cell(form, 2, cgcFileName), "unit1.pas");
+    Toggle(form.TCheckBoxPathTrim);
+    EXPECT_EQ(Cell(form, 0, cgcFileName), project_file_);
+    EXPECT_EQ(Cell(form, 3, cgcFileName), units_[1]);
+    Toggle(form.TCheckBoxPathTrim);
+    EXPECT_EQ(Cell(form, 3, cgcFileName), "unit2.pas");
+    EXPECT_EQ(FromWx(form.StringGrid1->GetColLabelValue(cgcFileName)), "File Name");
+    Click(form.TButtonCancel);
+  });
+  EXPECT_EQ(result, mrCancel);
+  EXPECT_THAT(forms_.Boxes, IsEmpty()) << "nothing happened";
+}
+
+TEST_F(CommitBrowser, AProjectWithoutFilesShowsOneEmptyRow) {
+  Browsed();
+  std::filesystem::remove_all(folder_ / "work");
+  provider_->Calls.clear();
+  Show([this](TCommitBrowser& form) {
+    EXPECT_EQ(form.FRowCount, 0);
+    EXPECT_EQ(form.StringGrid1->GetNumberRows(), 1);
+    EXPECT_EQ(Cell(form, 0, cgcActivity), "");
+    form.StringGrid1->SetGridCursor(0, cgcStatus);
+    form.StringGrid1->SetGridCursor(0, cgcActivity);
+    EXPECT_FALSE(form.ActivityComboBox->IsShown());
+    Preview(form.StringGrid1, 'C');
+    Click(form.TButtonShowDiff);
+    EXPECT_EQ(provider_->Count("SccDiff"), 0);
+    Click(form.TButtonCommit);
+  });
+  EXPECT_THAT(forms_.Boxes,
+              ElementsAre(TShownBox{"Commit Borwser", "Processing Project Files\r\n", metInfo}));
+}
+
+TEST_F(CommitBrowser, TheDropDownFloatsOverTheFirstColumn) {
+  TCommitBrowser hidden(Browsed());
+  hidden.StringGrid1->SetGridCursor(1, cgcActivity);
+  EXPECT_FALSE(hidden.ActivityComboBox->IsShown()) << "before the form is shown";
+
+  Show([](TCommitBrowser& form) {
+    auto& grid = *form.StringGrid1;
+    auto& list = *form.ActivityComboBox;
+    grid.SetGridCursor(2, cgcStatus);
+    EXPECT_FALSE(list.IsShown());
+    grid.SetGridCursor(2, cgcActivity);
+    EXPECT_TRUE(list.IsShown());
+    EXPECT_TRUE(IsFocused(&list));
+    EXPECT_EQ(list.GetSelection(), caCommit);
+    EXPECT_EQ(list.GetRect(), grid.CellToRect(2, cgcActivity));
+    EXPECT_TRUE(Preview(&list, WXK_TAB));
+    EXPECT_TRUE(IsFocused(&list)) << "Tab stays in it";
+
+    Pick(form, caUndo);
+    EXPECT_EQ(form.FRows[2].Activity, caUndo);
+    EXPECT_EQ(Cell(form, 2, cgcActivity), "Undo Check Out");
+    EXPECT_FALSE(list.IsShown());
+    EXPECT_TRUE(IsFocused(&grid));
+
+    for (const auto& hide : std::vector<std::function<void()>>{
+             [&] { grid.SetGridCursor(2, cgcFileName); },
+             [&] { form.StringGrid1TopLeftChanged(); },
+             [&] { form.TCommitPageControl->SetSelection(1); },
+         }) {
+      form.TCommitPageControl->SetSelection(0);
+      grid.SetGridCursor(1, cgcFileName);
+      grid.SetGridCursor(1, cgcActivity);
+      ASSERT_TRUE(list.IsShown());
+      hide();
+      EXPECT_FALSE(list.IsShown());
+    }
+    form.Close();
+  });
+}
+
+TEST_F(CommitBrowser, TheKeyboardReachesTheActivities) {
+  Show([](TCommitBrowser& form) {
+    auto& grid = *form.StringGrid1;
+    auto& list = *form.ActivityComboBox;
+    EXPECT_TRUE(IsFocused(&grid));
+    grid.SetGridCursor(2, cgcFileName);
+    Preview(&grid, 'U');
+    EXPECT_EQ(grid.GetGridCursorCol(), cgcActivity);
+    EXPECT_TRUE(list.IsPopupShown());
+    EXPECT_EQ(list.Pointed(), caUndo);
+    EXPECT_EQ(form.FRows[2].Activity, caCommit) << "pointed at, not yet chosen";
+    Preview(&list, 'C');
+    EXPECT_EQ(list.Pointed(), caCommit);
+    Preview(&list, 'C');
+    EXPECT_EQ(list.Pointed(), caCheckout);
+    list.Dismiss();
+    EXPECT_EQ(form.FRows[2].Activity, caCommit);
+    EXPECT_EQ(Cell(form, 2, cgcActivity), "Commit");
+
+    wxKeyEvent altDown(wxEVT_CHAR_HOOK);
+    altDown.m_keyCode = WXK_DOWN;
+    altDown.SetAltDown(true);
+    list.SetFocus();
+    form.FormKeyDown(altDown);
+    EXPECT_TRUE(list.IsPopupShown());
+    EXPECT_EQ(list.Pointed(), caCommit);
+    list.Dismiss();
+
+    Preview(&list, WXK_DOWN);
+    EXPECT_EQ(grid.GetGridCursorRow(), 3) << "a closed list leaves the arrows to the grid";
+    EXPECT_TRUE(IsFocused(&list));
+    Preview(&list, WXK_RIGHT);
+    EXPECT_TRUE(IsFocused(&grid));
+    EXPECT_FALSE(list.IsShown());
+    Preview(&grid, WXK_ESCAPE);
+  });
+}
+
+TEST_F(CommitBrowser, TheTwoKindsOfCommentsExcludeEachOther) {
+  Show([](TCommitBrowser& form) {
+    const auto ticks = [&] {
+      return std::pair(form.TCheckboxIndividualComment->GetValue(), form.TCheckBoxSummaryComment->GetValue());
+    };
+    const std::pair individual(true, false), summary(false, true);
+    EXPECT_EQ(ticks(), individual);
+    Type(form.TMemoSummaryComments, "for all");
+    EXPECT_EQ(ticks(), summary);
+    form.StringGrid1->SetGridCursor(1, cgcStatus);
+    EXPECT_EQ(ticks(), summary) << "another row's comment is not typed";
+    Type(form.TMemoIndividualComment, "mine");
+    EXPECT_EQ(ticks(), individual);
+    Toggle(form.TCheckboxIndividualComment);
+    EXPECT_EQ(ticks(), summary);
+    Toggle(form.TCheckBoxSummaryComment);
+    EXPECT_EQ(ticks(), individual);
+    form.Close();
+  });
+}
+
+TEST_F(CommitBrowser, CommentsTravelWithTheirRowsAndFitTheProvider) {
+  Show([](TCommitBrowser& form) {
+    form.StringGrid1->SetGridCursor(2, cgcStatus);
+    Type(form.TMemoIndividualComment, "first line\nsecond");
+    form.StringGrid1->SetGridCursor(3, cgcStatus);
+    EXPECT_EQ(form.TMemoIndividualComment->GetValue(), "");
+    Type(form.TMemoIndividualComment, std::string(127, 'x') + "ä");
+    EXPECT_EQ(FromWx(form.TMemoIndividualComment->GetValue()), std::string(127, 'x'));
+    form.StringGrid1->SetGridCursor(2, cgcStatus);
+    EXPECT_EQ(form.TMemoIndividualComment->GetValue(), "first line\nsecond");
+    form.StringGrid1->SetGridCursor(3, cgcStatus);
+    Type(form.TMemoIndividualComment, "not stored");
+    form.FRows[3].Activity = caAdd;
+    Click(form.TButtonCommit);
+  });
+  EXPECT_EQ(provider_->Last("SccCheckin").Comment, "first line\nsecond");
+  EXPECT_EQ(provider_->Last("SccAdd").Comment, std::string(127, 'x')) << "the row was not left since";
+}
+
+TEST_F(CommitBrowser, TheSummaryCommentServesAllRows) {
+  EXPECT_EQ(Show([](TCommitBrowser& form) {
+              form.FRows[2].Comment = "own";
+              Type(form.TMemoSummaryComments, "for all");
+              Click(form.TButtonCommit);
+            }),
+            mrOk);
+  EXPECT_EQ(provider_->Last("SccCheckin").Comment, "for all");
+}
+
+TEST_F(CommitBrowser, ShowsTheLocalSource) {
+  const std::string big(3 << 20, 'b');
+  folder_.Write("work/unit2.pas", big);
+  folder_.Write("work/unit1.kfm", std::string("bin\0ary", 7));
+  Browsed();
+  Show([this](TCommitBrowser& form) {
+    const auto shown = [&](int row) {
+      form.StringGrid1->SetGridCursor(row, cgcStatus);
+      return FromWx(form.TMemoWorkspaceSource->GetValue());
+    };
+    EXPECT_EQ(shown(1), "bin ary");
+    EXPECT_EQ(shown(3).size(), 1U << 20);
+    std::filesystem::remove(units_[0]);
+    EXPECT_EQ(shown(2), "File does not exist in local path");
+    form.Close();
+  });
+}
+
+TEST_F(CommitBrowser, ButtonsAndKeysLeadToTheProviderAndTheHelp) {
+  Show([this](TCommitBrowser& form) {
+    form.StringGrid1->SetGridCursor(2, cgcStatus);
+    Click(form.HelpButton);
+    Preview(form.StringGrid1, WXK_F1);
+    const struct {
+      int Letter;
+      wxNotebook* Book;
+      int Page;
+    } pages[] = {{'L', form.TFileDisplayPageControl, 1},
+                 {'I', form.TFileDisplayPageControl, 0},
+                 {'D', form.TFileDisplayPageControl, 2},
+                 {'S', form.TCommitPageControl, 1},
+                 {'O', form.TCommitPageControl, 0}};
+    for (const auto& page : pages) {
+      wxKeyEvent event(wxEVT_CHAR_HOOK);
+      event.m_keyCode = page.Letter;
+      event.SetAltDown(true);
+      form.FormKeyDown(event);
+      EXPECT_EQ(page.Book->GetSelection(), page.Page);
+    }
+    Click(form.TButtonShowDiff);
+    EXPECT_THAT(provider_->Last("SccDiff").Files, ElementsAre(units_[0]));
+    Click(form.TButtonShowHistory);
+    EXPECT_THAT(provider_->Last("SccHistory").Files, ElementsAre(units_[0]));
+    form.Close();
+  });
+  EXPECT_THAT(host_.Log, ElementsAre("HelpKeyword HC_TeamCommitBrowser", "HelpKeyword HC_TeamCommitBrowser"));
+}
+
+TEST_F(CommitBrowser, StaysOpenWhenThePassCannotBegin) {
+  EXPECT_EQ(Show([this](TCommitBrowser& form) {
+              host_.Notify(TOTAFileNotification::fnFileClosing, project_file_);
+              Click(form.TButtonCommit);
+              EXPECT_TRUE(form.IsModal());
+              EXPECT_TRUE(form.TButtonCommit->IsEnabled());
+              form.Close();
+            }),
+            mrCancel);
+  EXPECT_THAT(forms_.Boxes,
+              ElementsAre(TShownBox{"Commit Browser", "Unable to run Commit Browser, provider not assigned",
+                                    metError}));
+}
+
+TEST_F(CommitBrowser, CannotBeWorkedWhileThePassRuns) {
+  Show([this](TCommitBrowser& form) {
+    provider_->OnCall["SccCheckin"] = [&form](const ScriptedCall&) {
+      EXPECT_FALSE(form.TButtonCommit->IsEnabled());
+      Preview(&form, WXK_ESCAPE);
+      form.Close();
+      EXPECT_TRUE(form.IsModal());
+    };
+    Click(form.TButtonCommit);
+  });
+  EXPECT_EQ(provider_->Count("SccCheckin"), 1);
+}
+
+TEST_F(CommitBrowser, IsNotShownWithoutAProject) {
+  auto& expert = Start();
+  EXPECT_EQ(AbortOf([&] { TCommitBrowser form(expert); }),
+            "Unable to run Commit Browser, provider not assigned");
+}
+
+TEST_F(CommitBrowser, KeepsItsMinimumAndItsColumnsEqual) {
+  TCommitBrowser form(Browsed());
+  EXPECT_EQ(form.GetSize(), form.FromDIP(wxSize(711, 507)));
+  form.Show();
+  for (const auto size : {wxSize(100, 100), wxSize(1000, 700)}) {
+    form.SetSize(form.FromDIP(size));
+    wxYield();
+    auto& grid = *form.StringGrid1;
+    EXPECT_EQ(grid.GetColSize(cgcActivity), grid.GetColSize(cgcStatus));
+    EXPECT_EQ(grid.GetColSize(cgcActivity), grid.GetColSize(cgcFileName));
+    EXPECT_NEAR(3 * grid.GetColSize(cgcActivity), grid.GetGridWindow()->GetClientSize().GetWidth(), 6);
+    EXPECT_GE(grid.GetGridWindow()->GetClientSize().GetHeight(), form.FromDIP(60)) << "room for rows";
+    EXPECT_EQ(form.GetSize(), form.FromDIP(size.GetWidth() == 100 ? wxSize(711, 505) : size));
+  }
+}
+
+}  // namespace
