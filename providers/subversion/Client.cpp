@@ -107,7 +107,8 @@ svn_error_t* Client::GiveLogMessage(const char** message, const char** file, con
 }
 
 svn_error_t* Client::CheckCancelled(void* baton) noexcept {
-  const bool stop = static_cast<Client*>(baton)->kept_ != nullptr;
+  const auto& self = *static_cast<Client*>(baton);
+  const bool stop = self.kept_ != nullptr || (self.poll_ && self.poll_());
   return stop ? svn_error_create(SVN_ERR_CANCELLED, nullptr, nullptr) : SVN_NO_ERROR;
 }
 

@@ -30,6 +30,9 @@ class Client {
   /// What libsvn reports while it works.  An exception of the handler ends the call in progress.
   void OnNotice(NoticeHandler handler) { notice_ = std::move(handler); }
 
+  /// Asked while libsvn works: true stops it.  Must not throw.
+  void OnPoll(std::function<bool()> poll) { poll_ = std::move(poll); }
+
   /// Throws what `error` or a callback's exception says.  Every call that uses Context() goes through here.
   void Run(svn_error_t* error);
   /// Commits what `commit(callback, baton)` commits, with `log` as its message; the revision it made, or
@@ -47,6 +50,7 @@ class Client {
   std::string user_;
   svn_client_ctx_t* context_ = nullptr;
   NoticeHandler notice_;
+  std::function<bool()> poll_;
   std::string log_;
   std::exception_ptr kept_;  // of a callback, rethrown by Run
 };

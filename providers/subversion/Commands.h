@@ -18,6 +18,8 @@ scc::Long CheckIn(Session& session, Names names, const std::string& comment, Aft
 scc::Long Add(Session& session, Names names, const std::string& comment, scc::Long type, AfterCommit after,
               const CommandOptions& options);
 scc::Long Remove(Session& session, Names names, const std::string& comment);
+/// Renames or moves a file in the repository; what is on disk stays where it is, under either name.
+scc::Long Rename(Session& session, const char* oldName, const char* newName);
 scc::Long GetFiles(Session& session, Names names, const CommandOptions& options);
 
 enum class Below { FilesOnly, Everything };

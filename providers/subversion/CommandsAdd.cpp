@@ -110,6 +110,12 @@ class Addition {
     return added;
   }
 
+  /// Forgets what was not committed.
+  void Abandon() {
+    Unschedule(scheduled_);
+    Unschedule(EmptyFolders());
+  }
+
  private:
   static bool ConcernsEverything(const Failure& failure) {
     return failure.Result() == scc::SCC_E_ACCESSFAILURE || failure.Result() == scc::SCC_E_CONNECTIONFAILURE ||
@@ -195,10 +201,17 @@ scc::Long Add(Session& session, Names names, const std::string& comment, scc::Lo
   if (walked.Result < 0) return walked.Result;
 
   Addition addition(session, comment, outcome);
-  for (const auto& path : paths)
-    outcome.Try(
-        path, [&] { addition.Take(path, type, options, !many || MayBeInRepository(session, walked, path)); });
-  const auto added = addition.Run();
+  std::vector<std::string> added;
+  try {
+    for (const auto& path : paths)
+      outcome.Try(path, [&] {
+        addition.Take(path, type, options, !many || MayBeInRepository(session, walked, path));
+      });
+    added = addition.Run();
+  } catch (const Failure&) {
+    addition.Abandon();
+    throw;
+  }
   if (after == AfterCommit::KeepCheckedOut) Lock(session, added, comment, OthersLocks::Respect, outcome);
   return outcome.Result();
 }

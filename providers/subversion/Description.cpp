@@ -1,7 +1,5 @@
 #include "Description.h"
 
-#include <svn_dirent_uri.h>
-
 #include <array>
 
 #include "LocalStatus.h"
@@ -54,11 +52,6 @@ constexpr std::array kWords{
     Word{scc::SCC_STATUS_OUTOFDATE, sStateOld},      Word{scc::SCC_STATUS_DELETED, sStateDeleted},
 };
 
-std::string LocalName(const std::string& path) {
-  const Pool pool;
-  return svn_dirent_local_style(path.c_str(), pool);
-}
-
 /// Newest facts, or the working copy's with a sentence to the user.
 NodeFacts NewestOrLocal(Session& session, const ControlledNode& node) {
   try {
@@ -96,7 +89,7 @@ std::string StateWords(scc::Long bits, bool onDisk) {
 Description Describe(Session& session, const ControlledNode& node) {
   const NodeFacts newest = NewestOrLocal(session, node);
   FactList facts;
-  facts.AddNode(newest).Add(sFactLocal, LocalName(node.Path));
+  facts.AddNode(newest).Add(sFactLocal, NativeName(node.Path));
   facts.Add(sFactState, StateWords(BitsOf(session, node.Path), IsOnDisk(node.Path)));
   if (node.IsLocal()) facts.Add(sFactRevision, LocalFactsOf(session.Svn(), node.Path).Revision);
   facts.AddChange(newest);

@@ -3,6 +3,7 @@
 
 #include "Session.h"
 #include "SubversionSccStrings.h"
+#include "WindowStrings.h"
 
 namespace svnscc {
 
@@ -14,7 +15,10 @@ scc::Long Guard(void* context, Body&& body) noexcept {
   try {
     return body(*session);
   } catch (const Failure& failure) {
-    session->Out().Error(failure.what());
+    if (failure.Result() == scc::SCC_I_OPERATIONCANCELED)
+      session->Out().Info(sCancelled);
+    else
+      session->Out().Error(failure.what());
     return failure.Result();
   } catch (const std::exception& exception) {
     session->Out().Error(exception.what());
@@ -37,6 +41,32 @@ scc::Long GuardFiles(void* context, scc::Long count, const char** names, Body&& 
   return GuardOpen(context, [&](Session& session) -> scc::Long {
     if (count < 0 || (count > 0 && names == nullptr)) return scc::SCC_E_NONSPECIFICERROR;
     return body(session, Names(names, static_cast<std::size_t>(count)));
+  });
+}
+
+/// The user can cancel while this lives.
+class RunningCommand {
+ public:
+  explicit RunningCommand(Session& session) : session_(session) { session_.BeginCommand(); }
+  RunningCommand(const RunningCommand&) = delete;
+  RunningCommand& operator=(const RunningCommand&) = delete;
+  ~RunningCommand() { session_.EndCommand(); }
+
+ private:
+  Session& session_;
+};
+
+/// The same for a command that can take long and changes the files: the user can cancel it, and what it did to them
+/// becomes events.
+template <class Body>
+scc::Long GuardCommand(void* context, scc::Long count, const char** names, Body&& body) noexcept {
+  return GuardFiles(context, count, names, [&](Session& session, Names files) -> scc::Long {
+    const scc::Long result = [&] {
+      const RunningCommand running(session);
+      return body(session, files);
+    }();
+    if (result == scc::SCC_OK) NoteCommand(session, files);
+    return result;
   });
 }
 

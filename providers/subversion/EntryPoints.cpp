@@ -13,9 +13,11 @@
 using namespace scc;
 using svnscc::AfterCommit;
 using svnscc::Guard;
+using svnscc::GuardCommand;
 using svnscc::GuardFiles;
 using svnscc::GuardOpen;
 using svnscc::Names;
+using svnscc::NativeName;
 using svnscc::Session;
 
 namespace {
@@ -26,7 +28,8 @@ constexpr Dword kCapabilities =
     SCC_CAP_REMOVE | SCC_CAP_QUERYINFO | SCC_CAP_GETPROJPATH | SCC_CAP_TEXTOUT | SCC_CAP_COMMENTCHECKOUT |
     SCC_CAP_COMMENTCHECKIN | SCC_CAP_COMMENTADD | SCC_CAP_COMMENTREMOVE | SCC_CAP_COMMENTPROJECT |
     SCC_CAP_POPULATELIST | SCC_CAP_DIFF | SCC_CAP_HISTORY | SCC_CAP_PROPERTIES | SCC_CAP_RUNSCC |
-    SCC_CAP_GETCOMMANDOPTIONS | SCC_CAP_DIFFALWAYS | SCC_CAP_IGNORECASE | SCC_CAP_IGNORESPACE;
+    SCC_CAP_GETCOMMANDOPTIONS | SCC_CAP_RENAME | SCC_CAP_GETEVENTS | SCC_CAP_ADDFROMSCC | SCC_CAP_DIFFALWAYS |
+    SCC_CAP_IGNORECASE | SCC_CAP_IGNORESPACE;
 
 std::string Text(const char* text) { return text != nullptr ? text : ""; }
 
@@ -75,9 +78,22 @@ SCC_EXPORT Long SCC_CALL SccUninitialize(void* context) {
 }
 
 SCC_EXPORT Long SCC_CALL SccSetOption(void* context, Long option, Long value) {
-  return Guard(context, [&](Session&) -> Long {
-    const bool known = option == SCC_OPT_EVENTQUEUE || (option == SCC_OPT_HASCANCELMODE && value == 0);
-    return known ? SCC_OK : SCC_E_OPNOTSUPPORTED;
+  return Guard(context, [&](Session& session) -> Long {
+    switch (option) {
+      case SCC_OPT_EVENTQUEUE:
+        session.Events().Enable(value != 0);
+        return SCC_OK;
+      case SCC_OPT_HASCANCELMODE:
+        session.ClientCancels = value != 0;
+        return SCC_OK;
+      case SCC_OPT_SCCCHECKOUTONLY:  // none of the provider's windows checks files out
+        return SCC_OK;
+      case SCC_OPT_SHARESUBPROJ:
+        session.SharesSubprojects = true;
+        return SCC_I_SHARESUBPROJOK;
+      default:  // the rest are pointers, which do not fit
+        return SCC_E_OPNOTSUPPORTED;
+    }
   });
 }
 
@@ -143,7 +159,11 @@ SCC_EXPORT Long SCC_CALL SccQueryInfo(void* context, Long count, const char** na
     if (files.empty()) return SCC_OK;
     if (statuses == nullptr) return SCC_E_NONSPECIFICERROR;
     const svnscc::StatusTable& table = svnscc::WalkProject(session);
-    for (std::size_t i = 0; i < files.size(); ++i) statuses[i] = table.Of(session.InsidePath(files[i])).Bits;
+    for (std::size_t i = 0; i < files.size(); ++i) {
+      const std::string path = session.InsidePath(files[i]);
+      statuses[i] = table.Of(path).Bits;
+      if (!path.empty() && table.Result >= 0) session.Events().Told(path, statuses[i]);
+    }
     return table.Result;
   });
 }
@@ -168,7 +188,7 @@ SCC_EXPORT Long SCC_CALL SccDiff(void* context, WindowHandle window, const char*
 
 SCC_EXPORT Long SCC_CALL SccGet(void* context, WindowHandle, Long count, const char** names, Long flags,
                                 void* options) {
-  return GuardFiles(context, count, names, [&](Session& session, Names files) {
+  return GuardCommand(context, count, names, [&](Session& session, Names files) {
     const auto chosen = session.Options().Take(options, SCC_COMMAND_GET);
     if ((flags & SCC_GET_ALL) == 0) return svnscc::GetFiles(session, files, chosen);
     const bool recursive = (flags & SCC_GET_RECURSIVE) != 0;
@@ -179,7 +199,7 @@ SCC_EXPORT Long SCC_CALL SccGet(void* context, WindowHandle, Long count, const c
 
 SCC_EXPORT Long SCC_CALL SccCheckout(void* context, WindowHandle, Long count, const char** names,
                                      const char* comment, Long, void* options) {
-  return GuardFiles(context, count, names, [&](Session& session, Names files) {
+  return GuardCommand(context, count, names, [&](Session& session, Names files) {
     return svnscc::CheckOut(session, files, Text(comment),
                             session.Options().Take(options, SCC_COMMAND_CHECKOUT));
   });
@@ -187,13 +207,13 @@ SCC_EXPORT Long SCC_CALL SccCheckout(void* context, WindowHandle, Long count, co
 
 SCC_EXPORT Long SCC_CALL SccUncheckout(void* context, WindowHandle, Long count, const char** names, Long,
                                        void*) {
-  return GuardFiles(context, count, names,
-                    [](Session& session, Names files) { return svnscc::UndoCheckOut(session, files); });
+  return GuardCommand(context, count, names,
+                      [](Session& session, Names files) { return svnscc::UndoCheckOut(session, files); });
 }
 
 SCC_EXPORT Long SCC_CALL SccCheckin(void* context, WindowHandle, Long count, const char** names,
                                     const char* comment, Long flags, void* options) {
-  return GuardFiles(context, count, names, [&](Session& session, Names files) {
+  return GuardCommand(context, count, names, [&](Session& session, Names files) {
     return svnscc::CheckIn(session, files, Text(comment), AfterFlags(flags),
                            session.Options().Take(options, SCC_COMMAND_CHECKIN));
   });
@@ -202,7 +222,7 @@ SCC_EXPORT Long SCC_CALL SccCheckin(void* context, WindowHandle, Long count, con
 // Clients pass one flag word whatever the number of files, so only the first is read.
 SCC_EXPORT Long SCC_CALL SccAdd(void* context, WindowHandle, Long count, const char** names,
                                 const char* comment, Long* flags, void* options) {
-  return GuardFiles(context, count, names, [&](Session& session, Names files) {
+  return GuardCommand(context, count, names, [&](Session& session, Names files) {
     const Long word = flags != nullptr ? *flags : 0;
     return svnscc::Add(session, files, Text(comment), word, AfterFlags(word),
                        session.Options().Take(options, SCC_COMMAND_ADD));
@@ -211,19 +231,30 @@ SCC_EXPORT Long SCC_CALL SccAdd(void* context, WindowHandle, Long count, const c
 
 SCC_EXPORT Long SCC_CALL SccRemove(void* context, WindowHandle, Long count, const char** names,
                                    const char* comment, Long, void*) {
-  return GuardFiles(context, count, names, [&](Session& session, Names files) {
+  return GuardCommand(context, count, names, [&](Session& session, Names files) {
     return svnscc::Remove(session, files, Text(comment));
   });
 }
 
-// ------------------------------------------------------------------------------------------------ not supported
-
-SCC_EXPORT Long SCC_CALL SccAddFromScc(void*, WindowHandle, Long*, const char***) {
-  return SCC_E_OPNOTSUPPORTED;
+SCC_EXPORT Long SCC_CALL SccRename(void* context, WindowHandle, const char* name, const char* newName) {
+  return GuardOpen(context, [&](Session& session) { return svnscc::Rename(session, name, newName); });
 }
-SCC_EXPORT Long SCC_CALL SccGetEvents(void*, char*, Long*, Long*) { return SCC_E_OPNOTSUPPORTED; }
-SCC_EXPORT Long SCC_CALL SccRename(void*, WindowHandle, const char*, const char*) {
-  return SCC_E_OPNOTSUPPORTED;
+
+// Answers from memory.
+SCC_EXPORT Long SCC_CALL SccGetEvents(void* context, char* name, Long* status, Long* remaining) {
+  constexpr std::size_t kSize = SCC_LOCALPATH_SIZE;
+  Return(name, "", kSize);
+  if (remaining != nullptr) *remaining = 0;
+  return Guard(context, [&](Session& session) -> Long {
+    auto event = session.Events().Take();
+    while (event && NativeName(event->Path).size() >= kSize)
+      event = session.Events().Take();  // would name another file
+    if (!event) return SCC_OK;
+    Return(name, NativeName(event->Path), kSize);
+    if (status != nullptr) *status = event->Bits;
+    if (remaining != nullptr) *remaining = static_cast<Long>(session.Events().Count());
+    return SCC_OK;
+  });
 }
 
 }  // extern "C"

@@ -17,6 +17,10 @@ class Output {
   void Write(const std::string& text, scc::MessageKind kind) const {
     if (callback_ != nullptr) callback_(text.c_str(), kind);
   }
+  /// Sends a kind that has no text; true when the user wants to stop.
+  bool Signal(scc::MessageKind kind) const {
+    return callback_ != nullptr && callback_(nullptr, kind) == scc::SCC_MSG_RTN_CANCEL;
+  }
 
  private:
   scc::TTextOutProc callback_ = nullptr;

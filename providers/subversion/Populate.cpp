@@ -1,7 +1,5 @@
 #include "Populate.h"
 
-#include <svn_dirent_uri.h>
-
 #include <algorithm>
 #include <array>
 #include <unordered_set>
@@ -29,11 +27,6 @@ constexpr std::array kRows{
     Row{scc::SCC_COMMAND_REMOVE, scc::SCC_STATUS_CONTROLLED, kOut | scc::SCC_STATUS_DELETED, 0},
 };
 constexpr Row kAnyControlled{scc::SCC_COMMAND_GET, scc::SCC_STATUS_CONTROLLED, 0, 0};
-
-std::string ToNative(const std::string& path) {
-  const Pool pool;
-  return svn_dirent_local_style(path.c_str(), pool);
-}
 
 class Report {
  public:
@@ -98,7 +91,7 @@ scc::Long Populate(Session& session, scc::SCCCommand command, Names names, Named
   for (const auto& file : table.Files()) {
     const scc::Long bits = table.Of(file).Bits;
     const bool wanted = named == Named::Folders ? IsBelowAny(listed, file) : !listed.contains(file);
-    if (wanted && Fits(command, bits) && !report.Keep(ToNative(file), bits)) break;
+    if (wanted && Fits(command, bits) && !report.Keep(NativeName(file), bits)) break;
   }
   return table.Result;
 }

@@ -4,13 +4,20 @@
 
 #include "Notices.h"
 #include "SubversionSccStrings.h"
+#include "WindowStrings.h"
 
 namespace svnscc {
+
+std::string NativeName(const std::string& path) {
+  const Pool pool;
+  return svn_dirent_local_style(path.c_str(), pool);
+}
 
 void Session::Open(std::unique_ptr<Client> client, Project project) {
   client_ = std::move(client);
   project_ = std::move(project);
   client_->OnNotice([this](const svn_wc_notify_t& notice) { HandleNotice(notice); });
+  client_->OnPoll([this] { return IsCancelled(); });
 }
 
 void Session::Reconnect() {
@@ -24,6 +31,7 @@ void Session::Close() {
   project_ = {};
   lastStatuses_ = {};
   refusals_.clear();
+  events_.Clear();
   output_.Attach(nullptr);
 }
 
@@ -45,16 +53,53 @@ std::string Session::Label(const std::string& path) const {
   return svn_dirent_local_style(inside != nullptr ? inside : path.c_str(), pool);
 }
 
+void NameArray::Assign(std::vector<std::string> names) {
+  names_ = std::move(names);
+  pointers_.clear();
+  for (const auto& name : names_) pointers_.push_back(name.c_str());
+}
+
+void Session::BeginCommand() {
+  canCancel_ = ClientCancels;
+  nextPoll_ = {};
+  if (canCancel_) output_.Signal(scc::SCC_MSG_STARTCANCEL);
+}
+
+void Session::EndCommand() {
+  canCancel_ = false;
+  if (ClientCancels) output_.Signal(scc::SCC_MSG_STOPCANCEL);
+}
+
+void Session::StopIfCancelled() {
+  if (IsCancelled()) throw Failure(scc::SCC_I_OPERATIONCANCELED, sCancelled);
+}
+
+bool Session::IsCancelled() {
+  // libsvn asks at every block it reads; a client answers by looking at its windows.
+  constexpr std::chrono::milliseconds kPause{50};
+  const auto now = std::chrono::steady_clock::now();
+  if (!canCancel_ || now < nextPoll_) return false;
+  nextPoll_ = now + kPause;
+  const bool cancelled = output_.Signal(scc::SCC_MSG_DOCANCEL);
+  if (cancelled) canCancel_ = false;
+  return cancelled;
+}
+
 void Session::HandleNotice(const svn_wc_notify_t& notice) {
   if (notice.action == svn_wc_notify_failed_lock || notice.action == svn_wc_notify_failed_unlock) {
     if (notice.err != nullptr) refusals_.insert_or_assign(notice.path, ToFailure(notice.err));
     return;
+  }
+  if (canCancel_) {
+    output_.Write(Label(notice.path), scc::SCC_MSG_STATUS);
+    nextPoll_ = {};
   }
   if (const auto sentence = ToSentence(notice, Label(notice.path)))
     output_.Write(sentence->Text, sentence->Kind);
 }
 
 void Outcome::Fail(const std::string& path, const Failure& failure) {
+  if (failure.Result() == scc::SCC_I_OPERATIONCANCELED) throw failure;  // no file failed: the command ends
   result_ = failure.Result();
   session_.Out().Error(Format(sFileFailed.Text, {session_.Label(path), failure.what()}));
 }

@@ -1,6 +1,7 @@
 // One context of the API: who works, on which project, and where the sentences go.
 #pragma once
 
+#include <chrono>
 #include <map>
 #include <memory>
 #include <span>
@@ -10,6 +11,7 @@
 
 #include "Client.h"
 #include "CommandOptions.h"
+#include "Events.h"
 #include "Output.h"
 #include "Status.h"
 #include "provider/sccdefs.h"
@@ -22,8 +24,23 @@ struct Project {
   std::string Folder;  // absolute, without a trailing delimiter
 };
 
+/// A path as the operating system and clients spell it.
+std::string NativeName(const std::string& path);
+
 /// The file names of one call; entries may be null.
 using Names = std::span<const char* const>;
+
+/// Names as the API hands them out.
+class NameArray {
+ public:
+  void Assign(std::vector<std::string> names);
+  const char** Data() { return pointers_.data(); }
+  std::size_t Count() const { return names_.size(); }
+
+ private:
+  std::vector<std::string> names_;
+  std::vector<const char*> pointers_;
+};
 
 class Session {
  public:
@@ -50,16 +67,36 @@ class Session {
   /// What the client carries for the commands; outlives projects.
   OptionBlocks& Options() { return options_; }
 
+  /// Status changes for the client.
+  EventQueue& Events() { return events_; }
+  /// Names that the client holds until it asks for others, or gives them back.
+  NameArray& Handed() { return handed_; }
+  /// What the client announced through SccSetOption.
+  bool ClientCancels = false;      // it shows a Cancel button, and wants status messages
+  bool SharesSubprojects = false;  // it names a destination to SccAddFromScc
+
   /// Errors that libsvn reported for single paths since the last call.
   std::map<std::string, Failure> TakeRefusals() { return std::exchange(refusals_, {}); }
 
+  /// While a command runs the client shows its Cancel button; nothing happens when it has none.
+  void BeginCommand();
+  void EndCommand();
+  /// Throws the Failure that ends a cancelled command.
+  void StopIfCancelled();
+
  private:
   void HandleNotice(const svn_wc_notify_t& notice);
+  /// Whether the user has just cancelled.  True once: what libsvn does to clean up must not be stopped.
+  bool IsCancelled();
 
   Output output_;
   std::unique_ptr<Client> client_;
   Project project_;
   OptionBlocks options_;
+  EventQueue events_;
+  NameArray handed_;
+  bool canCancel_ = false;  // a command runs, and was not cancelled
+  std::chrono::steady_clock::time_point nextPoll_;
   StatusTable lastStatuses_;
   std::map<std::string, Failure> refusals_;
 };
@@ -73,6 +110,7 @@ class Outcome {
   /// Runs one file's share of the work; false, with the failure noted, when it failed.
   template <class Body>
   bool Try(const std::string& path, Body&& body) {
+    session_.StopIfCancelled();
     try {
       body();
       return true;

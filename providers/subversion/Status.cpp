@@ -151,6 +151,7 @@ const StatusTable& WalkProject(Session& session) {
   } catch (const Failure& failure) {
     table = failure.MeansNoWorkingCopy() ? StatusTable{} : LocalWalk(session, failure);
   }
+  if (table.Result >= 0) session.Events().Found(table);
   return session.LastStatuses() = std::move(table);
 }
 
@@ -158,6 +159,19 @@ FileStatus AskStatus(Session& session, const std::string& path) {
   StatusTable table;
   WalkInto(table, session, path, svn_depth_empty, Ask::Repository);
   return table.Of(path);
+}
+
+void NoteCommand(Session& session, std::span<const char* const> names) {
+  // After more than that a client does better to ask for everything.
+  constexpr std::size_t kMost = 1000;
+  if (names.size() > kMost) return;
+  for (const char* name : names) {
+    const std::string path = session.InsidePath(name);
+    if (!session.Events().Covers(path)) continue;
+    StatusTable table;
+    WalkInto(table, session, path, svn_depth_empty, Ask::WorkingCopy);
+    session.Events().Found(path, table.Of(path).Bits);
+  }
 }
 
 }  // namespace svnscc

@@ -3,6 +3,7 @@
 
 #include <svn_client.h>
 
+#include <span>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -39,6 +40,8 @@ class StatusTable {
 const StatusTable& WalkProject(Session& session);
 /// The status of one path, asked of the repository.  Throws Failure.
 FileStatus AskStatus(Session& session, const std::string& path);
+/// Queues what a command that succeeded for all of these files made of them, from the working copy's knowledge.
+void NoteCommand(Session& session, std::span<const char* const> names);
 /// The bits of one libsvn status for `user`.
 FileStatus ToFileStatus(const svn_client_status_t& status, const std::string& user);
 

@@ -37,4 +37,25 @@ SCC_EXPORT Long SCC_CALL SccGetCommandOptions(void* context, WindowHandle window
   });
 }
 
+// Without a count the client gives the names of its last call back.
+SCC_EXPORT Long SCC_CALL SccAddFromScc(void* context, WindowHandle window, Long* count, const char*** names) {
+  if (count == nullptr)
+    return Guard(context, [](Session& session) -> Long {
+      session.Handed().Assign({});
+      return SCC_OK;
+    });
+  return GuardOpen(context, [&](Session& session) -> Long {
+    if (names == nullptr) return SCC_E_NONSPECIFICERROR;
+    const bool named =
+        session.SharesSubprojects && *count == 1 && *names != nullptr && *names != session.Handed().Data();
+    std::vector<std::string> chosen;
+    const Long result = svnscc::ChooseMissingFiles(session, window, named ? **names : nullptr, chosen);
+    if (result != SCC_OK) return result;
+    session.Handed().Assign(std::move(chosen));
+    *names = session.Handed().Data();
+    *count = static_cast<Long>(session.Handed().Count());
+    return SCC_OK;
+  });
+}
+
 }  // extern "C"

@@ -114,3 +114,18 @@ constexpr TResString sStealLocks{"&Steal the lock if another user has it"};
 constexpr TResString sKeepUnchangedOut{"&Keep files without changes checked out"};
 constexpr TResString sWithoutNeedsLock{
     "&Let the files be changed without checking them out (do not set svn:needs-lock)"};
+// Adding from the repository
+constexpr TResString sAddFromTitle{"Add from Repository"};
+constexpr TResString sAddFromPrompt{"Choose the files of the repository to get to this computer:"};
+constexpr TResString sNothingToAdd{"Every file that the repository has of this project is on this computer."};
+constexpr TResString sFileColumn{"File"};
+constexpr TResString sSelectAll{"Select &All"};
+constexpr TResString sSelectNone{"Select &None"};
+constexpr TResString sAddFromButton{"&Get"};
+constexpr TResString sNotAsked{"The files in the repository are not known."};
+
+// Renaming, cancelling
+constexpr TResString sGetBeforeRename{
+    "the file is not the newest, or in conflict: get it and check it in first"};
+constexpr TResString sRenameLog{"Rename %s to %s."};
+constexpr TResString sCancelled{"The command was cancelled."};

@@ -20,5 +20,9 @@ scc::Long RunBrowser(Session& session, scc::WindowHandle parent, Names names);
 /// SccGetCommandOptions: answers a probe (`options` null), or lets the user choose and stores the block.
 scc::Long AskCommandOptions(Session& session, scc::WindowHandle parent, scc::SCCCommand command,
                             void** options);
+/// Gets files that only the repository has, as the user chooses; `names` receives them.  `folder` (may be null) limits
+/// the choice to what is below it.
+scc::Long ChooseMissingFiles(Session& session, scc::WindowHandle parent, const char* folder,
+                             std::vector<std::string>& names);
 
 }  // namespace svnscc

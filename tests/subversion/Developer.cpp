@@ -11,9 +11,14 @@ namespace {
 
 std::string said;  // the callback has no argument to find its owner by
 
+bool cancelPressed = false;
+
 scc::Long SCC_CALL TakeText(const char* text, scc::Dword kind) {
-  said += std::string(1, "?IWE"[kind < 4 ? kind : 0]) + " " + text + "\n";
-  return scc::SCC_MSG_RTN_OK;
+  const bool isLine = kind < scc::SCC_MSG_STATUS;
+  said += isLine ? std::string(1, "?IWE"[kind]) : "? " + std::to_string(kind);
+  if (text != nullptr) said += std::string(" ") + text;
+  said += "\n";
+  return kind == scc::SCC_MSG_DOCANCEL && cancelPressed ? scc::SCC_MSG_RTN_CANCEL : scc::SCC_MSG_RTN_OK;
 }
 
 scc::Bool SCC_CALL TakeFile(void* callerData, scc::Bool add, scc::Long status, const char* name) {
@@ -59,6 +64,9 @@ TProviderLibrary::TProviderLibrary() {
 #include "provider/entry_points.def"
 #undef SCC_ENTRY
 }
+
+TCancelPressed::TCancelPressed() { cancelPressed = true; }
+TCancelPressed::~TCancelPressed() { cancelPressed = false; }
 
 TDeveloper::TDeveloper(const std::string& user, const std::string& folder)
     : work_(folder), folder_(temporary_.MakeFolder(folder)), user_(user) {

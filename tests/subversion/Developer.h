@@ -40,6 +40,15 @@ struct TPopulated {
   scc::Long Result = 0;
 };
 
+/// The user presses the client's Cancel button for as long as it lives.
+class TCancelPressed {
+ public:
+  TCancelPressed();
+  TCancelPressed(const TCancelPressed&) = delete;
+  TCancelPressed& operator=(const TCancelPressed&) = delete;
+  ~TCancelPressed();
+};
+
 class TDeveloper {
  public:
   /// Works in a fresh folder of that name.
@@ -76,6 +85,7 @@ class TDeveloper {
   TPopulated Populate(scc::SCCCommand command, const std::vector<std::string>& names, scc::Long flags = 0);
 
   /// The provider's sentences of the last command, one a line, each after its kind's letter: "I Locked a.txt."
+  /// Signals are "? 6", status messages "? 4 a.txt"
   std::string Said() const;
 
   const TProviderLibrary& Library() const { return library_; }

@@ -1,0 +1,100 @@
+// Status events, and the cancel button.
+#include <gmock/gmock.h>
+
+#include "Developer.h"
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace {
+
+struct Events : testing::Test {
+  Events() {
+    for (TDeveloper* developer : {&ann, &bob}) developer->Open(repository.Url(), "project");
+    ann.Write("a.pas", "1\n");
+    ann.Write("b.pas", "1\n");
+    ann.Write("never asked.pas", "1\n");
+    ann.Add({"a.pas", "b.pas", "never asked.pas"});
+    bob.GetEverything();
+  }
+  /// All events, as "file=status".
+  std::vector<std::string> Drain() {
+    std::vector<std::string> events;
+    for (;;) {
+      std::array<char, 261> name;
+      name.fill('x');
+      scc::Long status = -1;
+      scc::Long remaining = -1;
+      EXPECT_EQ(scc::SCC_OK, ann.Library()->SccGetEvents(ann.Context(), name.data(), &status, &remaining));
+      if (name[0] == '\0') {
+        EXPECT_EQ(0, remaining);
+        return events;
+      }
+      const std::string path = name.data();
+      char word[16];
+      std::snprintf(word, sizeof word, "=%x", static_cast<unsigned>(status));
+      events.push_back(path.substr(ann.Folder().size() + 1) + word);
+      EXPECT_LE(0, remaining);
+    }
+  }
+  void Set(scc::Option option, scc::Long value) {
+    EXPECT_EQ(scc::SCC_OK, ann.Library()->SccSetOption(ann.Context(), option, value));
+  }
+  TTestRepository repository;
+  TDeveloper ann{"ann"};
+  TDeveloper bob{"bob"};
+};
+
+}  // namespace
+
+TEST_F(Events, TellWhatTheClientDoesNotKnow) {
+  EXPECT_THAT(Drain(), IsEmpty());
+  ann.Statuses({"a.pas", "b.pas"});
+  bob.CheckOut({"a.pas", "b.pas", "never asked.pas"});
+  EXPECT_THAT(Drain(), IsEmpty());  // from memory: nobody looked
+  EXPECT_EQ(0x000D, ann.Status("a.pas"));
+  EXPECT_THAT(Drain(), ElementsAre("b.pas=d"));
+  EXPECT_THAT(Drain(), IsEmpty());
+  bob.Undo({"a.pas", "b.pas"});
+  ann.Populate(scc::SCC_COMMAND_CHECKOUT, {});
+  EXPECT_THAT(Drain(), testing::UnorderedElementsAre("a.pas=1", "b.pas=1"));
+}
+
+TEST_F(Events, TellWhatOwnCommandsDid) {
+  ann.Statuses({"a.pas"});
+  ann.CheckOut({"a.pas"});
+  EXPECT_THAT(Drain(), ElementsAre("a.pas=100b"));
+  ann.Write("a.pas", "2\n");
+  ann.CheckIn({"a.pas"});
+  EXPECT_THAT(Drain(), ElementsAre("a.pas=1"));
+}
+
+TEST_F(Events, StopWhileTheQueueIsDisabled) {
+  ann.Statuses({"a.pas"});
+  Set(scc::SCC_OPT_EVENTQUEUE, 0);
+  ann.CheckOut({"a.pas"});
+  EXPECT_THAT(Drain(), IsEmpty());
+  Set(scc::SCC_OPT_EVENTQUEUE, 1);
+  ann.Populate(scc::SCC_COMMAND_CHECKOUT, {});
+  EXPECT_THAT(Drain(), ElementsAre("a.pas=100b"));
+}
+
+TEST_F(Events, CancelButtonEndsACommand) {
+  ann.CheckOut({"a.pas"});
+  EXPECT_THAT(ann.Said(),
+              testing::Not(testing::HasSubstr("?")));  // no such client: nothing of the kind is sent
+  Set(scc::SCC_OPT_HASCANCELMODE, 1);
+  ann.Undo({"a.pas"});
+  EXPECT_THAT(ann.Said(), testing::StartsWith("? 6\n? 5\n"));
+  EXPECT_THAT(ann.Said(), testing::HasSubstr("? 4 a.pas\n"));
+  EXPECT_THAT(ann.Said(), testing::EndsWith("? 7\n"));
+  {
+    const TCancelPressed pressed;
+    EXPECT_EQ(scc::SCC_I_OPERATIONCANCELED, ann.CheckOut({"a.pas", "b.pas"}));
+    EXPECT_EQ("? 6\n? 5\n? 7\nI The command was cancelled.\n", ann.Said());
+    ann.Write("new.pas", "1\n");
+    EXPECT_EQ(scc::SCC_I_OPERATIONCANCELED, ann.Add({"new.pas"}));
+  }
+  EXPECT_EQ((std::vector<scc::Long>{1, 1, 0}), ann.Statuses({"a.pas", "b.pas", "new.pas"}));
+  EXPECT_EQ(scc::SCC_OK, ann.Add({"new.pas"})) << ann.Said();
+}
