@@ -35,4 +35,9 @@ class IExpertForms {
   /// Starts showing progress under that caption: nothing for the first half second, then a small window that takes
   /// neither the focus nor any input.  Never nullptr.
   virtual std::unique_ptr<IProgress> StartProgress(const std::string& caption, std::size_t total) = 0;
+  /// The wizard that puts the current project under source control.  It leaves the provider project open when that
+  /// succeeded (TSccExpert::ProjectPlaced).
+  virtual void ShowPlaceProject(TSccExpert& expert) = 0;
+  /// The wizard that fetches a project.  Returns the project file that the user wants to have opened, or nothing.
+  virtual std::string ShowPullProject(TSccExpert& expert) = 0;
 };

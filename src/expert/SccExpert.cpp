@@ -177,6 +177,4 @@ void TSccExpert::HideMessages() {
   if (aMsgWin) aMsgWin->ShowWindow(false);
 }
 
-void TSccExpert::PlaceProject() { throw EAbort(sNotBuiltYet); }
-void TSccExpert::PullProjectWizard() { throw EAbort(sNotBuiltYet); }
 void TSccExpert::CommitBrowser() { forms_.ShowCommitBrowser(*this); }

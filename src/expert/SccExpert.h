@@ -183,6 +183,7 @@ class TSccExpert final : public TNotifierObject, public IOTAWizard {
   void OpenProviderProject(const std::string& fileName);
   void CloseFailedProject(const std::string& directory);
   std::string OpenProjectFile();
+  void ReopenProject();
   void HandlePendingNotifications();
   void Handle(TOTAFileNotification code, const std::string& fileName);
   /// RequireProject for the current project's file, as the single-file commands want it.

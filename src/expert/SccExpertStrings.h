@@ -45,6 +45,6 @@ constexpr TResString sProperties{"Properties"};
 constexpr TResString sRunScc{"Run SCC"};
 constexpr TResString sSaveAllFailed{
     "Project and project related files must be saved before mapping: Unkown save error."};
+constexpr TResString sPulledNotOpened{"%s could not be opened"};
 constexpr TResString sFileNotSaved{"%s has unsaved changes and could not be saved"};
 constexpr TResString sCommandRunning{"Another source control command is still running"};
-constexpr TResString sNotBuiltYet{"This command is not available in this version."};

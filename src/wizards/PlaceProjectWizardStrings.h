@@ -10,3 +10,8 @@ constexpr TResString sPlaceInitializing{"Initializing Project %s"};
 constexpr TResString sPlaceAddOk{"Add %s: ok"};
 constexpr TResString sPlaceAddFailed{"Add %s: failed"};
 constexpr TResString sPlaceSucceeded{"Succeeded"};
+
+// Controls.
+constexpr TResString sPlaceSelectFiles{"Select files for initial check-in"};
+constexpr TResString sPlaceCheckOutAfterAdd{"Check files out after add"};
+constexpr TResString sPlaceStatus{"Place project status"};

@@ -85,14 +85,23 @@ void TPullProjectPages::PageSelectTargetDisplay() {
 
 void TPullProjectPages::TargetDirectoryChange(const std::string& text) {
   target_ = text;
-  note_ = ::TargetNote(Trim(text));
+  note_ = ::TargetNote(FullTarget(text));
   page_.Problem.clear();
   Changed();
 }
 
+// What the user may leave out of a path: the start-up directory in front, a delimiter at the end.
+std::string TPullProjectPages::FullTarget(const std::string& text) {
+  const auto path = Trim(text);
+  const auto start = IncludeTrailingPathDelimiter(ProjectDirectory());
+  if (path.empty() || (!IsAbsolutePath(path) && !IsAbsolutePath(start))) return path;
+  return ExcludeTrailingPathDelimiter(
+      fs::path(IsAbsolutePath(path) ? path : start + path).lexically_normal().string());
+}
+
 bool TPullProjectPages::MayLeave() {
   if (page_.Panel != 3) return true;
-  target_ = ExcludeTrailingPathDelimiter(Trim(target_));
+  target_ = FullTarget(target_);
   page_.Problem = TargetProblem(target_);
   return page_.Problem.empty();
 }

@@ -29,6 +29,7 @@ class TPullProjectPages final : public TWizardPages {
   scc::Long Browse(TSCCProviderProject& project, TStateMessages& messages) override;
   bool MayLeave() override;
 
+  std::string FullTarget(const std::string& text);
   void PageSelectTargetDisplay();
   void PageSelectProjectDisplay();
   void PullProject();

@@ -28,3 +28,10 @@ constexpr TResString sPullListing{"Asking for the project's files..."};
 constexpr TResString sPullFetching{"Fetching the project's files..."};
 constexpr TResString sPullFetched{"Fetching: %d of %d - %s"};
 constexpr TResString sPullChecking{"Checking what was fetched..."};
+
+// Controls.
+constexpr TResString sPullSelectTarget{"Select target directory"};
+constexpr TResString sPullBrowseTarget{"Choose the target directory"};
+constexpr TResString sPullTargetHint{"The directory that the project's files go to"};
+constexpr TResString sPullStatus{"Pull project status"};
+constexpr TResString sPullOpenProject{"&Open the project in the IDE"};

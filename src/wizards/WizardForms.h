@@ -6,4 +6,6 @@
 class TWizardForms final : public TExpertForms {
  public:
   void ShowCommitBrowser(TSccExpert& expert) override;
+  void ShowPlaceProject(TSccExpert& expert) override;
+  std::string ShowPullProject(TSccExpert& expert) override;
 };

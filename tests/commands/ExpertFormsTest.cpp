@@ -11,6 +11,8 @@ namespace {
 
 struct TForms final : TExpertForms {
   void ShowCommitBrowser(TSccExpert&) override {}
+  void ShowPlaceProject(TSccExpert&) override {}
+  std::string ShowPullProject(TSccExpert&) override { return {}; }
 };
 
 TEST(ExpertForms, BringUpTheRealWindows) {

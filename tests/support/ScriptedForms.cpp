@@ -74,6 +74,15 @@ void TScriptedForms::ShowCommitBrowser(TSccExpert& expert) {
   Next(OnCommitBrowser, expert, "Commit Browser", Unexpected);
 }
 
+void TScriptedForms::ShowPlaceProject(TSccExpert& expert) {
+  Next(OnPlaceProject, expert, "Place project", Unexpected);
+}
+
+std::string TScriptedForms::ShowPullProject(TSccExpert& expert) {
+  const bool pulled = Next(OnPullProject, expert, "Pull project", Unexpected) == mrOk;
+  return pulled ? PulledProject : std::string();
+}
+
 std::unique_ptr<IProgress> TScriptedForms::StartProgress(const std::string& caption, std::size_t total) {
   return std::make_unique<TScriptedProgress>(*this, caption, total);
 }

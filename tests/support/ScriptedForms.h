@@ -24,6 +24,9 @@ class TScriptedForms final : public IExpertForms {
   std::deque<std::function<int(TFileListModel&)>> OnFileList;
   std::deque<std::function<int(TCommentModel&)>> OnComments;
   std::deque<std::function<int(TSccExpert&)>> OnCommitBrowser;
+  std::deque<std::function<int(TSccExpert&)>> OnPlaceProject;
+  std::deque<std::function<int(TSccExpert&)>> OnPullProject;
+  std::string PulledProject;  ///< what the pull wizard answers after mrOk
   /// Runs while a message dialog is shown, as the host's message loop would.
   std::function<void()> WhileBoxShown;
   bool Recording = true;  ///< off: boxes and lines are not kept, for measurements
@@ -43,6 +46,8 @@ class TScriptedForms final : public IExpertForms {
   int ShowFileList(TSccExpert& expert, TFileListModel& model) override;
   int ShowComments(TCommentModel& model) override;
   void ShowCommitBrowser(TSccExpert& expert) override;
+  void ShowPlaceProject(TSccExpert& expert) override;
+  std::string ShowPullProject(TSccExpert& expert) override;
   std::unique_ptr<IProgress> StartProgress(const std::string& caption, std::size_t total) override;
 
   /// Captions of the progress shown, each with how many of how many files were reported.

@@ -1,0 +1,89 @@
+#include "wizards/LinesView.h"
+
+#include <wx/clipbrd.h>
+#include <wx/settings.h>
+
+#include <algorithm>
+
+#include "ui/WxText.h"
+
+namespace {
+
+constexpr int kMargins = 16;
+
+std::size_t Row(long item) { return static_cast<std::size_t>(item); }
+
+}  // namespace
+
+TLinesView::TLinesView(wxWindow* parent, TSource source)
+    : wxListView(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize,
+                 wxLC_REPORT | wxLC_VIRTUAL | wxLC_NO_HEADER),
+      source_(std::move(source)) {
+  if (source_.IsTicked) EnableCheckBoxes();
+  AppendColumn(wxString());
+  Bind(wxEVT_SIZE, [this](wxSizeEvent& event) {
+    event.Skip();
+    CallAfter([this] { FitColumn(); });
+  });
+  const auto toggled = [this](wxListEvent& event) {
+    source_.SetTicked(Row(event.GetIndex()), event.GetEventType() == wxEVT_LIST_ITEM_CHECKED);
+    RefreshItem(event.GetIndex());
+  };
+  Bind(wxEVT_LIST_ITEM_CHECKED, toggled);
+  Bind(wxEVT_LIST_ITEM_UNCHECKED, toggled);
+}
+
+wxString TLinesView::OnGetItemText(long item, long) const { return ToWx(source_.Line(Row(item))); }
+bool TLinesView::OnGetItemIsChecked(long item) const {
+  return source_.IsTicked && source_.IsTicked(Row(item));
+}
+
+void TLinesView::UpdateLines() {
+  const auto count = source_.Count();
+  if (count < measured_) {
+    measured_ = 0;
+    widest_ = 0;
+  }
+  std::size_t longest = 0;  // bytes: measuring every line would take longer than showing them
+  for (auto row = measured_; row < count; ++row)
+    if (const auto& line = source_.Line(row); line.size() > longest) {
+      longest = line.size();
+      widest_ = std::max(widest_, GetTextExtent(ToWx(line)).GetWidth());
+    }
+  measured_ = count;
+  SetItemCount(static_cast<long>(count));
+  FitColumn();
+  Refresh();
+}
+
+void TLinesView::FitColumn() {
+  const int bar = wxSystemSettings::GetMetric(wxSYS_VSCROLL_X, this);
+  const int box = source_.IsTicked ? FromDIP(24) : 0;
+  const int width =
+      std::max(widest_ + box + FromDIP(kMargins), GetClientSize().GetWidth() - std::max(bar, 0));
+  if (width != GetColumnWidth(0)) SetColumnWidth(0, width);
+}
+
+void TLinesView::ShowLast() {
+  if (GetItemCount() > 0) EnsureVisible(GetItemCount() - 1);
+}
+
+void TLinesView::ToggleSelected() {
+  const long focused = GetFocusedItem();
+  if (focused < 0 || !source_.IsTicked) return;
+  const bool tick = !source_.IsTicked(Row(focused));
+  source_.SetTicked(Row(focused), tick);
+  for (long i = GetFirstSelected(); i >= 0; i = GetNextSelected(i)) source_.SetTicked(Row(i), tick);
+  Refresh();
+}
+
+void TLinesView::SelectAll() { SetItemState(-1, wxLIST_STATE_SELECTED, wxLIST_STATE_SELECTED); }
+
+void TLinesView::CopySelected() const {
+  std::string text;
+  const bool all = GetSelectedItemCount() == 0;
+  for (std::size_t row = 0; row < source_.Count(); ++row)
+    if (all || IsSelected(static_cast<long>(row))) text += source_.Line(row) + "\n";
+  wxClipboardLocker locker;
+  if (!!locker) wxTheClipboard->SetData(new wxTextDataObject(ToWx(text)));
+}

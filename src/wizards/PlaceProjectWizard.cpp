@@ -1,0 +1,60 @@
+#include "wizards/PlaceProjectWizard.h"
+
+#include <wx/wx.h>
+
+#include "ui/WxText.h"
+#include "wizards/PlaceProjectWizardStrings.h"
+
+namespace {
+constexpr int kFilesPanel = 3;
+}
+
+TPlaceProjectWizard::TPlaceProjectWizard(TSccExpert& expert) : TWizardForm(pages_), pages_(expert) {
+  CreateFilesPage();
+  CreateStatusPage();
+  FormCreate();
+}
+
+void TPlaceProjectWizard::CreateFilesPage() {
+  DirectionLabelFileSelect = AddLabel(Page3Panel, sPlaceSelectFiles);
+  FileSelectCheckListBox = new TLinesView(
+      Page3Panel, {[this] { return pages_.FileCount(); },
+                   [this](std::size_t row) -> const std::string& { return pages_.FileName(row); },
+                   [this](std::size_t row) { return pages_.IsTicked(row); },
+                   [this](std::size_t row, bool ticked) { pages_.SetTicked(row, ticked); }});
+  SelectedFilesCheckBox = new wxCheckBox(Page3Panel, wxID_ANY, ToWx(sPlaceCheckOutAfterAdd));
+  SelectedFilesCheckBox->Bind(
+      wxEVT_CHECKBOX, [this](wxCommandEvent&) { pages_.KeepCheckedOut = SelectedFilesCheckBox->GetValue(); });
+  ColumnOf(Page3Panel)->Add(FileSelectCheckListBox, wxSizerFlags(1).Expand());
+  ColumnOf(Page3Panel)->Add(SelectedFilesCheckBox, wxSizerFlags().Border(wxTOP, FromDIP(8)));
+}
+
+void TPlaceProjectWizard::CreateStatusPage() {
+  DirectionLabelProjectStatus = AddLabel(Page4Panel, sPlaceStatus);
+  lbStatus = new TLinesView(Page4Panel,
+                            {[this] { return pages_.Status().size(); },
+                             [this](std::size_t row) -> const std::string& { return pages_.Status()[row]; },
+                             {},
+                             {}});
+  ColumnOf(Page4Panel)->Add(lbStatus, wxSizerFlags(1).Expand());
+}
+
+void TPlaceProjectWizard::UpdateControls() {
+  if (pages_.Page().Panel == kFilesPanel) FileSelectCheckListBox->UpdateLines();
+}
+
+wxWindow* TPlaceProjectWizard::FirstControl(int panel) const {
+  if (panel != kFilesPanel) return TWizardForm::FirstControl(panel);
+  if (pages_.FileCount() > 0) FileSelectCheckListBox->Focus(0);
+  return FileSelectCheckListBox;
+}
+
+void TPlaceProjectWizard::FormKeyDown(wxKeyEvent& event) {
+  const bool inFiles = FileSelectCheckListBox->IsDescendant(FindFocus());
+  if (inFiles && event.GetKeyCode() == WXK_SPACE && !event.HasAnyModifiers())
+    FileSelectCheckListBox->ToggleSelected();
+  else if (inFiles && event.GetKeyCode() == 'A' && event.GetModifiers() == wxMOD_CONTROL)
+    FileSelectCheckListBox->SelectAll();
+  else
+    TWizardForm::FormKeyDown(event);
+}

@@ -1,0 +1,28 @@
+// The wizard that puts the current host project under source control.
+#pragma once
+
+#include "wizards/PlaceProjectPages.h"
+#include "wizards/WizardForm.h"
+
+class wxCheckBox;
+
+class TPlaceProjectWizard final : public TWizardForm {
+ public:
+  /// `expert` is borrowed.
+  explicit TPlaceProjectWizard(TSccExpert& expert);
+
+  wxStaticText* DirectionLabelFileSelect;
+  TLinesView* FileSelectCheckListBox;
+  wxCheckBox* SelectedFilesCheckBox;
+  wxStaticText* DirectionLabelProjectStatus;
+
+ private:
+  void CreateFilesPage();
+  void CreateStatusPage();
+  void UpdateControls() override;
+  wxWindow* FirstControl(int panel) const override;
+  std::string HelpKeyword() const override { return "HC_TeamPlaceProject"; }
+  void FormKeyDown(wxKeyEvent& event) override;
+
+  TPlaceProjectPages pages_;
+};

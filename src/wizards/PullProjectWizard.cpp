@@ -1,0 +1,109 @@
+#include "wizards/PullProjectWizard.h"
+
+#include <wx/dirdlg.h>
+#include <wx/wx.h>
+
+#include "host/Paths.h"
+#include "host/System.h"
+#include "ui/WxText.h"
+#include "wizards/PullProjectWizardStrings.h"
+
+namespace {
+constexpr int kTargetPanel = 3;
+}
+
+TPullProjectWizard::TPullProjectWizard(TSccExpert& expert) : TWizardForm(pages_), pages_(expert) {
+  CreateTargetPage();
+  CreateStatusPage();
+  FormCreate();
+}
+
+void TPullProjectWizard::CreateTargetPage() {
+  DirectionLabelSelectTargetDirectory = AddLabel(Page3Panel, sPullSelectTarget);
+  TargetDirectory = new wxTextCtrl(Page3Panel, wxID_ANY);
+  TargetDirectoryBrowserButton = MakeBrowseButton(Page3Panel, sPullBrowseTarget);
+  NoteLabel = new wxStaticText(Page3Panel, wxID_ANY, {});
+  ColumnOf(Page3Panel)
+      ->Add(BrowseRow(TargetDirectory, TargetDirectoryBrowserButton), wxSizerFlags().Expand());
+  ColumnOf(Page3Panel)->Add(NoteLabel, wxSizerFlags().Border(wxTOP, FromDIP(12)));
+  TargetDirectory->Bind(wxEVT_TEXT, &TPullProjectWizard::TargetDirectoryChange, this);
+  TargetDirectoryBrowserButton->Bind(wxEVT_BUTTON, &TPullProjectWizard::TargetDirectoryBrowserButtonClick,
+                                     this);
+  TargetDirectory->Bind(wxEVT_MOTION, &TPullProjectWizard::TargetDirectoryMouseMove, this);
+  Page3Panel->Bind(wxEVT_MOTION, &TPullProjectWizard::Page3PanelMouseMove, this);
+}
+
+void TPullProjectWizard::CreateStatusPage() {
+  Label1 = new wxStaticText(Page4Panel, wxID_ANY, {}, wxDefaultPosition, wxDefaultSize,
+                            wxST_NO_AUTORESIZE | wxST_ELLIPSIZE_END);
+  lbStatus = new TLinesView(Page4Panel,
+                            {[this] { return pages_.Status().size(); },
+                             [this](std::size_t row) -> const std::string& { return pages_.Status()[row]; },
+                             {},
+                             {}});
+  cbOpenProject = new wxCheckBox(Page4Panel, wxID_ANY, ToWx(sPullOpenProject));
+  cbOpenProject->SetValue(true);
+  auto* column = ColumnOf(Page4Panel);
+  column->Add(Label1, wxSizerFlags().Expand().Border(wxBOTTOM, FromDIP(4)));
+  column->Add(lbStatus, wxSizerFlags(1).Expand());
+  column->Add(cbOpenProject, wxSizerFlags().Border(wxTOP, FromDIP(8)));
+}
+
+void TPullProjectWizard::UpdateControls() {
+  if (FromWx(TargetDirectory->GetValue()) != pages_.TargetDirectory())
+    TargetDirectory->ChangeValue(ToWx(pages_.TargetDirectory()));
+  SetSentence(NoteLabel, pages_.TargetNote());
+  Label1->SetLabel(
+      wxControl::EscapeMnemonics(ToWx(pages_.Page().Next ? sPullStatus.str() : pages_.Progress())));
+  cbOpenProject->Show(pages_.CanOpen());
+  Page4Panel->Layout();
+}
+
+wxWindow* TPullProjectWizard::FirstControl(int panel) const {
+  return panel == kTargetPanel ? TargetDirectory : TWizardForm::FirstControl(panel);
+}
+
+std::string TPullProjectWizard::FileToOpen() const {
+  const bool wanted = pages_.Finished() && pages_.CanOpen() && cbOpenProject->GetValue();
+  return wanted ? pages_.ProjectFile() : std::string();
+}
+
+void TPullProjectWizard::TargetDirectoryChange(wxCommandEvent&) {
+  pages_.TargetDirectoryChange(FromWx(TargetDirectory->GetValue()));
+}
+
+void TPullProjectWizard::TargetDirectoryBrowserButtonClick(wxCommandEvent&) { BrowseForTargetFolder(); }
+
+void TPullProjectWizard::BrowseForTargetFolder() {
+  wxDirDialog dialog(this, ToWx(sPullSelectTarget));
+  BrowseForTargetFolderBeforeExecute(dialog);
+  if (dialog.ShowModal() == wxID_OK) BrowseForTargetFolderAccept(dialog);
+}
+
+// Starts at the directory that the box names, or at the nearest one above it that exists.
+void TPullProjectWizard::BrowseForTargetFolderBeforeExecute(wxDirDialog& dialog) {
+  auto directory = ExcludeTrailingPathDelimiter(Trim(pages_.TargetDirectory()));
+  while (!directory.empty() && !DirectoryExists(directory) && ExtractFileDir(directory) != directory)
+    directory = ExtractFileDir(directory);
+  dialog.SetPath(ToWx(directory));
+}
+
+void TPullProjectWizard::BrowseForTargetFolderAccept(const wxDirDialog& dialog) {
+  pages_.TargetDirectoryChange(FromWx(dialog.GetPath()));
+  TargetDirectory->SetFocus();
+}
+
+// A path that is wider than its box is shown whole as a hint.
+void TPullProjectWizard::TargetDirectoryMouseMove(wxMouseEvent& event) {
+  event.Skip();
+  const auto path = TargetDirectory->GetValue();
+  const bool hidden =
+      TargetDirectory->GetTextExtent(path).GetWidth() > TargetDirectory->GetClientSize().GetWidth();
+  const auto hint = hidden ? path : ToWx(sPullTargetHint);
+  if (TargetDirectory->GetToolTipText() != hint) TargetDirectory->SetToolTip(hint);
+}
+
+void TPullProjectWizard::Page3PanelMouseMove(wxMouseEvent& event) {
+  event.Skip();
+  TargetDirectory->UnsetToolTip();
+}

@@ -1,0 +1,39 @@
+// The wizard that fetches a provider project into a local directory.
+#pragma once
+
+#include "wizards/PullProjectPages.h"
+#include "wizards/WizardForm.h"
+
+class wxCheckBox;
+class wxDirDialog;
+
+class TPullProjectWizard final : public TWizardForm {
+ public:
+  /// `expert` is borrowed.
+  explicit TPullProjectWizard(TSccExpert& expert);
+
+  void TargetDirectoryChange(wxCommandEvent& event);
+  void TargetDirectoryBrowserButtonClick(wxCommandEvent& event);
+  void BrowseForTargetFolderBeforeExecute(wxDirDialog& dialog);
+  void BrowseForTargetFolderAccept(const wxDirDialog& dialog);
+  void TargetDirectoryMouseMove(wxMouseEvent& event);
+  void Page3PanelMouseMove(wxMouseEvent& event);
+  /// The project file that the user wants to have opened; empty for none.
+  std::string FileToOpen() const;
+
+  wxStaticText* DirectionLabelSelectTargetDirectory;
+  wxTextCtrl* TargetDirectory;
+  wxButton* TargetDirectoryBrowserButton;
+  wxStaticText* Label1;
+  wxCheckBox* cbOpenProject;
+
+ private:
+  void CreateTargetPage();
+  void CreateStatusPage();
+  void BrowseForTargetFolder();
+  void UpdateControls() override;
+  wxWindow* FirstControl(int panel) const override;
+
+  TPullProjectPages pages_;
+  wxStaticText* NoteLabel;
+};
