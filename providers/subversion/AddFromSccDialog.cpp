@@ -18,6 +18,11 @@ class CheckedList : public RowList {
     EnableCheckBoxes();
     Bind(wxEVT_LIST_ITEM_CHECKED, [this](wxListEvent& event) { Check(event, true); });
     Bind(wxEVT_LIST_ITEM_UNCHECKED, [this](wxListEvent& event) { Check(event, false); });
+    Bind(wxEVT_LIST_KEY_DOWN, [this](wxListEvent& event) {
+      const long row = Selected();
+      if (event.GetKeyCode() != WXK_SPACE || row < 0) return event.Skip();
+      CheckItem(row, !checked_.at(static_cast<std::size_t>(row)));
+    });
   }
   void SetAll(std::size_t count, bool checked) {
     checked_.assign(count, checked);
@@ -62,6 +67,9 @@ class AddFromSccDialog : public ToolWindow {
     UseSizer(all, {520, 440}, {360, 260});
     list_->Bind(wxEVT_LIST_ITEM_CHECKED, [this](wxListEvent& event) { ShowState(event); });
     list_->Bind(wxEVT_LIST_ITEM_UNCHECKED, [this](wxListEvent& event) { ShowState(event); });
+    list_->Bind(wxEVT_LIST_ITEM_ACTIVATED, [this](wxListEvent&) {
+      if (ok_->IsEnabled()) EndModal(wxID_OK);
+    });
     SetAll(false);
     list_->Select(0);
     list_->SetFocus();

@@ -125,7 +125,7 @@ void BrowserWindow::BindKeys() {
   SetAcceleratorTable(wxAcceleratorTable(1, &refresh));
   list_->Bind(wxEVT_CHAR_HOOK, [this](wxKeyEvent& event) {
     if (event.GetKeyCode() == WXK_BACK && !folder_.empty())
-      GoTo(PathAbove(folder_));
+      GoTo(PathAbove(folder_), folder_.substr(folder_.rfind('/') + 1));
     else
       event.Skip();
   });
@@ -156,11 +156,13 @@ void BrowserWindow::Open() {
 }
 
 void BrowserWindow::Refresh() {
-  const std::string path = ChosenPath();
+  const std::string folder = folder_;
+  const Entry* entry = Chosen();
+  const std::string name = entry != nullptr ? entry->Name : "";
   list_->SetRows(0);
   browser_.Forget();
   FillTree();
-  GoTo(path);
+  GoTo(folder, name);
 }
 
 void BrowserWindow::FillTree() {
@@ -195,7 +197,7 @@ wxTreeItemId BrowserWindow::ChildNamed(const wxTreeItemId& parent, const std::st
   return child;
 }
 
-void BrowserWindow::GoTo(const std::string& path) {
+void BrowserWindow::GoTo(const std::string& path, const std::string& entry) {
   wxTreeItemId item = tree_->GetRootItem();
   std::string rest = path;
   while (!rest.empty()) {
@@ -210,10 +212,11 @@ void BrowserWindow::GoTo(const std::string& path) {
   tree_->EnsureVisible(item);
   ShowFolder(PathOf(tree_, item));
   if (list_->GetItemCount() == 0) return;
+  const std::string& wanted = rest.empty() ? entry : rest;
   const auto& entries = browser_.EntriesOf(folder_);
-  const auto entry =
-      std::find_if(entries.begin(), entries.end(), [&](const Entry& e) { return e.Name == rest; });
-  list_->Select(entry != entries.end() ? static_cast<long>(entry - entries.begin()) : 0);
+  const auto found =
+      std::find_if(entries.begin(), entries.end(), [&](const Entry& e) { return e.Name == wanted; });
+  list_->Select(found != entries.end() ? static_cast<long>(found - entries.begin()) : 0);
   ShowState();
 }
 

@@ -25,8 +25,8 @@ class BrowserWindow : public ToolWindow {
   void FillFolder(const wxTreeItemId& item);
   wxTreeItemId AppendFolder(const wxTreeItemId& parent, const std::string& path, const std::string& name);
   wxTreeItemId ChildNamed(const wxTreeItemId& parent, const std::string& name) const;
-  /// Opens the tree down to `path`, and selects what it names.
-  void GoTo(const std::string& path);
+  /// Opens the tree down to `path`, and selects what it names; in a folder, the entry of that name.
+  void GoTo(const std::string& path, const std::string& entry = "");
   void ShowFolder(const std::string& path);
   void ShowState();
 

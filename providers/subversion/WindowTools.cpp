@@ -60,7 +60,14 @@ ToolWindow::ToolWindow(wxWindow* parent, const std::string& title)
 
 wxButton* ToolWindow::AddButton(wxSizer* row, const std::string& label, std::function<void()> press) {
   auto* button = new wxButton(this, wxID_ANY, ToWx(label));
-  button->Bind(wxEVT_BUTTON, [press = std::move(press)](wxCommandEvent&) { press(); });
+  button->Bind(wxEVT_BUTTON, [press](wxCommandEvent&) { press(); });
+  // An accelerator that names the button arrives here.
+  Bind(
+      wxEVT_MENU,
+      [button, press = std::move(press)](wxCommandEvent&) {
+        if (button->IsEnabled()) press();
+      },
+      button->GetId());
   row->Add(button, wxSizerFlags().CenterVertical().Border(wxRIGHT, FromDIP(6)));
   return button;
 }

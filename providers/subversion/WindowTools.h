@@ -35,7 +35,7 @@ class ToolWindow : public wxDialog {
   ToolWindow(wxWindow* parent, const std::string& title);
 
  protected:
-  /// A button at the end of `row`, bound to `press`.
+  /// A button at the end of `row`, bound to `press`; an accelerator with its id presses it too.
   wxButton* AddButton(wxSizer* row, const std::string& label, std::function<void()> press);
   /// The button that closes; answers Escape, and Enter when nothing else does.
   wxButton* AddClose(wxSizer* row);
