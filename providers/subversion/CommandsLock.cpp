@@ -20,13 +20,20 @@ std::map<std::string, Failure> TryLock(Session& session, const std::vector<std::
 /// A refused lock in the words of the API: whose is it?
 Failure Explain(Session& session, const std::string& path, const Failure& refusal) {
   if (refusal.Has(SVN_ERR_FS_PATH_ALREADY_LOCKED)) {
-    const scc::Long bits = AskStatus(session, path).Bits;
-    if ((bits & scc::SCC_STATUS_OUTBYUSER) != 0)
-      return Failure(scc::SCC_E_ALREADYCHECKEDOUT,
-                     (bits & scc::SCC_STATUS_CHECKEDOUT) != 0 ? sAlreadyOut.Text : sOutElsewhere.Text);
+    if ((AskStatus(session, path).Bits & scc::SCC_STATUS_OUTBYUSER) != 0)
+      return Failure(scc::SCC_E_ALREADYCHECKEDOUT, sOutElsewhere);
   }
   if (refusal.Has(SVN_ERR_FS_NOT_FOUND)) return Failure(scc::SCC_E_FILENOTCONTROLLED, sDeletedInRepository);
   return refusal;
+}
+
+/// Whether it was refused because it is out here already.  That is what the user wants, so it is no failure: clients
+/// name a form twice when they check it out together with its unit.
+bool IsOutHere(Session& session, const std::string& path, const Failure& refusal) {
+  if (!refusal.Has(SVN_ERR_FS_PATH_ALREADY_LOCKED)) return false;
+  if ((AskStatus(session, path).Bits & scc::SCC_STATUS_CHECKEDOUT) == 0) return false;
+  session.Out().Info(Format(sAlreadyOut, {session.Label(path)}));
+  return true;
 }
 
 /// Brings an old file up to date.  One that was deleted in the repository stays: an update would take it away.
@@ -65,7 +72,8 @@ void Lock(Session& session, const std::vector<std::string>& paths, const std::st
   for (const auto& path : paths) {
     const auto refusal = refused.find(path);
     outcome.Try(path, [&] {
-      if (refusal != refused.end()) throw Explain(session, path, refusal->second);
+      if (refusal != refused.end() && !IsOutHere(session, path, refusal->second))
+        throw Explain(session, path, refusal->second);
       MakeWritable(path);
     });
   }

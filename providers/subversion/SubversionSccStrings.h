@@ -37,7 +37,7 @@ constexpr TResString sOutsideProject{"the file is not in the project's folder"};
 constexpr TResString sNotControlled{"the file is not under source control"};
 constexpr TResString sFileMissing{"there is no such file on this computer"};
 constexpr TResString sNotCheckedOut{"the file is not checked out here"};
-constexpr TResString sAlreadyOut{"you have it checked out already"};
+constexpr TResString sAlreadyOut{"%s is checked out already."};
 constexpr TResString sOutElsewhere{"you have it checked out in another folder"};
 constexpr TResString sOutByOther{"someone else has it checked out"};
 constexpr TResString sStillOut{"the file is checked out: check it in or undo the check-out first"};

@@ -26,16 +26,17 @@ struct TFileCommand {
   /// The provider call; true on success.
   bool (*Run)(TSCCProviderProject& project, const TFileCommandCall& call);
   Calls CallKind;
-  std::optional<TProviderCapabilityFlags> CommentCapability;  ///< asks for a comment when the provider has it
+  std::optional<TProviderCapabilityFlags> CommentCapability =
+      {};  ///< asks for a comment when the provider has it
 
-  bool SaveAllFirst;
-  bool OnlyExisting;       ///< gathers files on disk, and companions by disk instead of by status
-  bool ProviderPopulates;  ///< lets the provider add and remove candidates
-  TFileListModel::ExtraBox Extra;
-  bool ClearReadOnly;  ///< on success sets each file to archive only, unless it is kept checked out
-  Reload ReloadKind;
+  bool SaveAllFirst = false;
+  bool OnlyExisting = false;      ///< gathers files on disk, and companions by disk instead of by status
+  bool ProviderPopulates = true;  ///< lets the provider add and remove candidates
+  TFileListModel::ExtraBox Extra = TFileListModel::ExtraBox::None;
+  bool ClearReadOnly = false;  ///< on success sets each file to archive only, unless it is kept checked out
+  Reload ReloadKind = Reload::Never;
 
-  const char* HelpKeyword;
+  const char* HelpKeyword = "";  ///< empty when there is no topic
   TResString NoProvider;
   TResString Single;  ///< captions each provider call and the refusals
   TResString List;    ///< captions the file list

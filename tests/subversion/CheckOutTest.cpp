@@ -99,7 +99,12 @@ TEST_F(CheckOut, TheColleagueSeesItAndIsRefused) {
   EXPECT_EQ(scc::SCC_E_FILEOUTEXCLUSIVE, bob.Remove({"unit1.pas"}));
   EXPECT_EQ(scc::SCC_E_NOTCHECKEDOUT, bob.CheckIn({"unit1.pas"}));
   EXPECT_EQ(scc::SCC_E_NOTCHECKEDOUT, bob.Undo({"unit1.pas"}));
-  EXPECT_EQ(scc::SCC_E_ALREADYCHECKEDOUT, ann.CheckOut({"unit1.pas"}));
+}
+
+TEST_F(CheckOut, WhatIsOutHereAlreadyIsNoFailure) {
+  ann.CheckOut({"unit1.pas"});
+  EXPECT_EQ(scc::SCC_OK, ann.CheckOut({"unit1.pas"}));
+  EXPECT_EQ("I unit1.pas is checked out already.\n", ann.Said());
 }
 
 TEST_F(CheckOut, MineElsewhereIsNotMineHere) {
