@@ -11,6 +11,7 @@ void TSccExpert::PlaceProject() {
   if (project.empty()) throw EAbort(sNoProjectFile);
   SaveAll();
   ReleaseProvider();
+  ReadProjectSettings(project);  // the user's choices of now, not of when the last project was opened
   forms_.ShowPlaceProject(*this);
   if (!open_project_file_.empty()) return;
   // Not opened here, even if the wizard has written the mapping file: it has just shown why that does not work.
@@ -30,6 +31,7 @@ void OpenInHost(const std::string& file, bool isProject) {
 
 void TSccExpert::PullProjectWizard() {
   ReleaseProvider();
+  ReadSettings();
   const auto pulled = forms_.ShowPullProject(*this);
   ReleaseProvider();
   if (!pulled.empty()) OpenInHost(pulled, IsProject(pulled));
