@@ -80,7 +80,7 @@ class Addition {
       : session_(session), comment_(comment), outcome_(outcome) {}
 
   void Take(const std::string& path, scc::Long type, const CommandOptions& options, bool mayBeInRepository) {
-    if (!known_.insert(path).second) throw Failure(scc::SCC_E_FILEALREADYEXISTS, sAlreadyControlled);
+    if (!known_.insert(path).second) return;  // clients name a form twice when they add it with its unit
     CheckAddable(session_, path, mayBeInRepository);
     const auto folders = NewFoldersAbove(session_, path);
     folders_.insert(folders.begin(), folders.end());
