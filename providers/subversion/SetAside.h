@@ -1,3 +1,4 @@
+// Keeping a file that libsvn must not see or touch for a while.
 #pragma once
 
 #include <svn_io.h>

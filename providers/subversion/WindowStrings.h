@@ -7,7 +7,6 @@
 constexpr TResString sWindowsTitle{"Subversion"};
 constexpr TResString sShowsNoWindows{"The provider's window cannot be shown: this program shows no windows."};
 constexpr TResString sClose{"Close"};
-constexpr TResString sIsFolder{"it is a folder"};
 
 // Differences
 constexpr TResString sDiffTitle{"Differences: %s"};
