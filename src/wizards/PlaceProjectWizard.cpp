@@ -44,9 +44,7 @@ void TPlaceProjectWizard::UpdateControls() {
 }
 
 wxWindow* TPlaceProjectWizard::FirstControl(int panel) const {
-  if (panel != kFilesPanel) return TWizardForm::FirstControl(panel);
-  if (pages_.FileCount() > 0) FileSelectCheckListBox->Focus(0);
-  return FileSelectCheckListBox;
+  return panel == kFilesPanel ? FileSelectCheckListBox : TWizardForm::FirstControl(panel);
 }
 
 void TPlaceProjectWizard::FormKeyDown(wxKeyEvent& event) {

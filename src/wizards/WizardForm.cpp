@@ -5,6 +5,7 @@
 
 #include "ui/WxText.h"
 #include "wizards/WizardFormStrings.h"
+#include "wizards/WizardPagesStrings.h"
 
 namespace {
 
@@ -84,7 +85,7 @@ void TWizardForm::CreateButtons() {
     return new wxButton(this, id, ToWx(label), wxDefaultPosition, FromDIP(wxSize(88, 30)));
   };
   BackButton = button(wxID_ANY, sWizardBack);
-  NextFinishButton = button(wxID_ANY, sWizardBack);
+  NextFinishButton = button(wxID_ANY, sWizardNext);
   CancelButton = button(wxID_CANCEL, sWizardCancel);
   NextFinishButton->SetDefault();
 }

@@ -1,0 +1,110 @@
+// The wizards' windows: what they show of their pages, and their keyboard.
+#include <wx/wx.h>
+
+#include <filesystem>
+
+#include "expert/ExpertFixture.h"
+#include "support/ModalScript.h"
+#include "ui/WxText.h"
+#include "wizards/PlaceProjectWizard.h"
+#include "wizards/PullProjectWizard.h"
+
+namespace {
+
+class WizardWindows : public TExpertTest {
+ protected:
+  WizardWindows() {
+    std::filesystem::remove(At("App.cdp"));
+    provider_->GetProjPath = {{}, "trunk/App", {}, "repo"};
+    Start();
+  }
+  static std::vector<wxPanel*> Shown(const TWizardForm& form) {
+    std::vector<wxPanel*> shown;
+    for (auto* panel : {form.Page1Panel, form.Page2Panel, form.Page3Panel, form.Page4Panel})
+      if (panel->IsShown()) shown.push_back(panel);
+    return shown;
+  }
+  static std::string Line(const TLinesView& list, long row) { return FromWx(list.GetItemText(row)); }
+};
+
+TEST_F(WizardWindows, PlaceIsWorkedByKeyboard) {
+  host_.AddProject(project_file_, units_);
+  TPlaceProjectWizard form(*expert_);
+  const int result = ShowAndPlay<TPlaceProjectWizard>(form, [](TPlaceProjectWizard& wizard) {
+    EXPECT_EQ(wizard.GetTitle(), "Place project Wizard: Step 1 of 3");
+    EXPECT_THAT(Shown(wizard), ElementsAre(wizard.Page1Panel));
+    EXPECT_EQ(wizard.cbProviders->GetStringSelection(), "Scripted");
+    EXPECT_FALSE(wizard.NoProvidersLabel->IsShown());
+    EXPECT_FALSE(wizard.BackButton->IsEnabled());
+    Preview(wizard.cbProviders, WXK_RETURN);
+    EXPECT_THAT(Shown(wizard), ElementsAre(wizard.Page2Panel));
+    EXPECT_EQ(wizard.ProjectName->GetValue(), "trunk/App");
+    wizard.ProjectName->SetValue("");
+    EXPECT_FALSE(wizard.NextFinishButton->IsEnabled());
+    wizard.ProjectName->SetValue("trunk/Other");
+    Preview(wizard.ProjectName, WXK_RETURN);
+    EXPECT_THAT(Shown(wizard), ElementsAre(wizard.Page3Panel));
+    auto& files = *wizard.FileSelectCheckListBox;
+    ASSERT_EQ(files.GetItemCount(), 4);
+    EXPECT_EQ(Line(files, 0), "unit1.pas");
+    Preview(&files, 'A', wxMOD_CONTROL);
+    Preview(&files, WXK_SPACE);
+    for (long row = 0; row < 4; ++row) EXPECT_FALSE(files.IsItemChecked(row));
+    files.CheckItem(1, true);
+    Preview(&files, WXK_RETURN);
+    EXPECT_EQ(wizard.GetTitle(), "Place project Wizard: Status page");
+    EXPECT_EQ(wizard.NextFinishButton->GetLabel(), "&Close");
+    EXPECT_FALSE(wizard.CancelButton->IsEnabled());
+    ASSERT_EQ(wizard.lbStatus->GetItemCount(), 3);
+    EXPECT_EQ(Line(*wizard.lbStatus, 1), "Add unit2.pas: ok");
+    Click(wizard.NextFinishButton);
+  });
+  EXPECT_EQ(result, mrOk);
+  EXPECT_THAT(Mapping(), HasSubstr("ProjName=trunk/Other"));
+}
+
+TEST_F(WizardWindows, PullOffersToOpenWhatIsThere) {
+  host_.StartupDirectory = folder_.Path();
+  provider_->List.push_back({true, scc::SCC_STATUS_CONTROLLED, folder_ / "new/App.qvxproj"});
+  provider_->OnCall["SccGet"] = [this](const ScriptedCall&) { folder_.Write("new/App.qvxproj", "x"); };
+  const auto play = [this](bool open, bool found) {
+    provider_->List.resize(found ? 1 : 0);
+    TPullProjectWizard form(*expert_);
+    ShowAndPlay<TPullProjectWizard>(form, [&](TPullProjectWizard& wizard) {
+      Click(wizard.NextFinishButton);
+      EXPECT_THAT(Shown(wizard), ElementsAre(wizard.Page3Panel));
+      EXPECT_EQ(FromWx(wizard.TargetDirectory->GetValue()), folder_.Path());
+      wizard.TargetDirectory->SetValue("new");
+      Click(wizard.NextFinishButton);
+      EXPECT_THAT(Shown(wizard), ElementsAre(wizard.Page2Panel));
+      EXPECT_EQ(wizard.NextFinishButton->GetLabel(), "&Pull");
+      Click(wizard.NextFinishButton);
+      EXPECT_EQ(wizard.cbOpenProject->IsShown(), found);
+      wizard.cbOpenProject->SetValue(open);
+      Click(wizard.NextFinishButton);
+    });
+    return form.FileToOpen();
+  };
+  EXPECT_EQ(play(true, true), folder_ / "new/App.qvxproj");
+  EXPECT_EQ(play(false, true), "");
+  EXPECT_EQ(play(true, false), "");
+}
+
+TEST_F(WizardWindows, FailureIsShownOnThePageAndEscapeLeaves) {
+  host_.AddProject(project_file_, units_);
+  TRegistry registry;
+  registry.OpenKey("Software\\Scripted");
+  registry.WriteString("SccServerPath", "/nowhere/none.so");
+  TPlaceProjectWizard form(*expert_);
+  EXPECT_EQ(ShowAndPlay<TPlaceProjectWizard>(form,
+                                             [](TPlaceProjectWizard& wizard) {
+                                               EXPECT_TRUE(wizard.NoProvidersLabel->IsShown());
+                                               EXPECT_FALSE(wizard.NextFinishButton->IsEnabled());
+                                               Preview(wizard.cbProviders, WXK_F1);
+                                               Preview(wizard.cbProviders, WXK_ESCAPE);
+                                             }),
+            mrCancel);
+  EXPECT_THAT(host_.Log, Contains("HelpKeyword HC_TeamPlaceProject"));
+}
+
+}  // namespace
