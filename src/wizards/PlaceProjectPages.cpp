@@ -113,7 +113,7 @@ void TPlaceProjectPages::AddFile(std::size_t row, TProviderWords& words) {
   if (!Project().AddFile({file}, {}, KeepCheckedOut, messages)) {
     // Seen from the directory above, so that the project's own name leads the way to the file: that is meant.
     AddStatus(Format(sPlaceAddFailed.Text, {RelativePath(ExtractFileDir(directory_), file)}));
-    return AddReasons(words, messages);
+    return AddReasons(words, messages, sPlaceReason.Text);
   }
   words.TakeErrors();
   AddStatus(Format(sPlaceAddOk.Text, {shown_[row]}));

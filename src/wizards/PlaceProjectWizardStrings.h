@@ -9,6 +9,7 @@ constexpr TResString sPlaceNoProvider{"Unable to place project, provider not ass
 constexpr TResString sPlaceInitializing{"Initializing Project %s"};
 constexpr TResString sPlaceAddOk{"Add %s: ok"};
 constexpr TResString sPlaceAddFailed{"Add %s: failed"};
+constexpr TResString sPlaceReason{"      %s"};  // stands under the line above
 constexpr TResString sPlaceSucceeded{"Succeeded"};
 
 // Controls.

@@ -198,10 +198,10 @@ void TWizardPages::AddStatus(std::string line) {
   Changed();
 }
 
-void TWizardPages::AddReasons(TProviderWords& words, const TStateMessages& messages) {
+void TWizardPages::AddReasons(TProviderWords& words, const TStateMessages& messages, const char* format) {
   auto reasons = words.TakeErrors();
   if (reasons.empty())
     for (const auto& text : {messages[2], messages[1]})
       if (!text.empty()) reasons.push_back(text);
-  for (const auto& reason : reasons) AddStatus(Format(sWizardReason.Text, {reason}));
+  for (const auto& reason : reasons) AddStatus(Format(format, {reason}));
 }

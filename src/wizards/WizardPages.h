@@ -76,8 +76,8 @@ class TWizardPages {
   void Complete(bool succeeded);
   void Changed() const;
   void AddStatus(std::string line);
-  /// Adds what the provider said about a failure, or else the text of its return code.
-  void AddReasons(TProviderWords& words, const TStateMessages& messages);
+  /// Adds what the provider said about a failure, or else the text of its return code.  `format` is a line's.
+  void AddReasons(TProviderWords& words, const TStateMessages& messages, const char* format = "%s");
 
   /// The wizard's provider project, made current.  Looked up anew each time: in the message loops of dialogs the host may
   /// have taken the provider away.  Throws EAbort when it has.

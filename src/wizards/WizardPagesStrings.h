@@ -6,4 +6,3 @@
 constexpr TResString sWizardNext{"&Next >"};
 constexpr TResString sWizardClose{"&Close"};
 constexpr TResString sWizardNoProviders{"No providers available"};
-constexpr TResString sWizardReason{"      %s"};

@@ -104,7 +104,7 @@ TEST_F(PullProject, FailuresAreListedAndCanBeTriedAgain) {
   Aim(Target());
   provider_->Results["SccOpenProject"] = scc::SCC_E_CONNECTIONFAILURE;
   pages_->NextFinishButtonClick();
-  EXPECT_THAT(pages_->Status(), ElementsAre("      Connection failure", "Done"));
+  EXPECT_THAT(pages_->Status(), ElementsAre("Connection failure", "Done"));
   EXPECT_THAT(forms_.Boxes, IsEmpty());
   EXPECT_EQ(provider_->Count("SccPopulateList"), 0);
 
@@ -114,7 +114,7 @@ TEST_F(PullProject, FailuresAreListedAndCanBeTriedAgain) {
   provider_->Results["SccGet"] = scc::SCC_E_ACCESSFAILURE;
   provider_->Texts["SccGet"] = {{scc::SCC_MSG_ERROR, "disk full"}};
   pages_->NextFinishButtonClick();
-  EXPECT_THAT(pages_->Status(), Contains("      disk full"));
+  EXPECT_THAT(pages_->Status(), Contains("disk full"));
   EXPECT_THAT(ReadWholeFile(In("App.cdp")), HasSubstr("trunk/App")) << "the rest can be got later";
   EXPECT_FALSE(pages_->CanOpen());
   EXPECT_TRUE(Page().Back);
