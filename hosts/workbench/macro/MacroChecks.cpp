@@ -24,7 +24,12 @@ wxString Text(const std::string& text) { return wxString::FromUTF8(text); }
 bool IsShownSomewhere(const std::string& text) {
   const wxString wanted = Text(text);
   for (wxTopLevelWindow* window : ShownWindows()) {
-    const auto shows = [&](wxWindow& control) { return TextOf(control).Contains(wanted); };
+    const auto shows = [&](wxWindow& control) {
+      wxString shown = TextOf(control);
+      if (shown.Contains(wanted)) return true;
+      shown.Replace("\n", " ");  // labels are wrapped where the window ends
+      return shown.Contains(wanted);
+    };
     if (window->GetTitle().Contains(wanted) || VisitControls(*window, shows)) return true;
   }
   return false;
