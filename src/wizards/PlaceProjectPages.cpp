@@ -27,10 +27,16 @@ std::string TPlaceProjectPages::NoProviderText() const { return sPlaceNoProvider
 bool TPlaceProjectPages::SkipsProjectPage() const { return FExpert.ProviderName() == kDirectoryProvider; }
 
 void TPlaceProjectPages::ShowPage(int page) {
-  using P = TPlaceProjectPages;
-  static constexpr void (P::*kPages[])() = {&P::PageSelectProviderDisplay, &P::PageSelectProjectDisplay,
-                                            &P::PageSelectFilesDisplay, &P::PlaceProject};
-  (this->*kPages[page])();
+  switch (page) {
+    case 0:
+      return PageSelectProviderDisplay();
+    case 1:
+      return PageSelectProjectDisplay();
+    case 2:
+      return PageSelectFilesDisplay();
+    default:
+      return PlaceProject();
+  }
 }
 
 void TPlaceProjectPages::PageSelectProjectDisplay() {

@@ -72,10 +72,16 @@ std::string TPullProjectPages::ProjectDirectory() {
 // The directory comes before the project, since the provider is told of it when the project is picked; the panels are
 // numbered otherwise.
 void TPullProjectPages::ShowPage(int page) {
-  using P = TPullProjectPages;
-  static constexpr void (P::*kPages[])() = {&P::PageSelectProviderDisplay, &P::PageSelectTargetDisplay,
-                                            &P::PageSelectProjectDisplay, &P::PullProject};
-  (this->*kPages[page])();
+  switch (page) {
+    case 0:
+      return PageSelectProviderDisplay();
+    case 1:
+      return PageSelectTargetDisplay();
+    case 2:
+      return PageSelectProjectDisplay();
+    default:
+      return PullProject();
+  }
 }
 
 void TPullProjectPages::PageSelectTargetDisplay() {
