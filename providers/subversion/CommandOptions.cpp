@@ -37,16 +37,16 @@ CommandOptions OptionBlocks::Take(void* argument, scc::SCCCommand command) const
   if (block == nullptr) return taken;
   switch (command) {
     case scc::SCC_COMMAND_GET:
-      std::swap(taken.GetRevision, block->GetRevision);
+      taken.GetRevision = block->GetRevision;
       break;
     case scc::SCC_COMMAND_CHECKOUT:
-      std::swap(taken.StealLocks, block->StealLocks);
+      taken.StealLocks = block->StealLocks;
       break;
     case scc::SCC_COMMAND_CHECKIN:
-      std::swap(taken.KeepUnchangedOut, block->KeepUnchangedOut);
+      taken.KeepUnchangedOut = block->KeepUnchangedOut;
       break;
     case scc::SCC_COMMAND_ADD:
-      std::swap(taken.WithoutNeedsLock, block->WithoutNeedsLock);
+      taken.WithoutNeedsLock = block->WithoutNeedsLock;
       break;
     default:
       break;

@@ -28,8 +28,8 @@ class OptionBlocks {
   /// The block that a client's argument means: the block itself, or the address of the variable that holds it.  Null
   /// for anything else.  A variable must be readable for the size of a pointer.
   CommandOptions* Find(void* argument) const;
-  /// What is to be heeded by the command that runs now.  Each choice counts once: clients pass the same block for the
-  /// rest of the session, and nobody wants to steal locks for good.
+  /// What is to be heeded by the command that runs now.  A choice counts for every call of its command until the client
+  /// drops the block: clients call once per file.
   CommandOptions Take(void* argument, scc::SCCCommand command) const;
 
  private:

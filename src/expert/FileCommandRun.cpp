@@ -40,7 +40,7 @@ TFileCommandRun::TFileCommandRun(TSccExpert& expert, const TFileCommand& command
 
 void TFileCommandRun::Execute() {
   directory_ = ExtractFileDir(expert_.GetCurrentProjectFile());
-  Project();
+  Project().ClearOptions();  // what was chosen for another run, cancelled or not, does not count for this one
   if (command_.SaveAllFirst) expert_.SaveAll();
   Gather();
   TStateMessages messages;
@@ -142,6 +142,7 @@ bool TFileCommandRun::CallProvider(const TStringList& files) {
   TStateMessages messages;
   const bool done = command_.Run(Project(), {files, comment_, keep_checked_out_, messages});
   expert_.DisplayMessages(command_.Single, messages);
+  all_succeeded_ = all_succeeded_ && done;
   return done;
 }
 
@@ -149,7 +150,7 @@ void TFileCommandRun::CallTogether() {
   if (WantsComment()) AskComment({}, false);
   for (const auto& file : selected_) expert_.SaveIfModified(file);
   const bool done = command_.CallKind == TFileCommand::Calls::Batch ? CallProvider(selected_) : CallOneByOne();
-  if (done) expert_.comments_.Used(command_.Command);
+  if (all_succeeded_) expert_.comments_.Used(command_.Command);
   if (done && command_.ClearReadOnly && !keep_checked_out_)
     for (const auto& file : selected_) SetFileAttributesOf(file, faArchive);
   Reload(done);
@@ -175,10 +176,9 @@ void TFileCommandRun::CallCounting() {
     expert_.SaveIfModified(file);
     if (WantsComment() && !apply_to_all_)
       AskComment(Format(sCommentsFor.Text, {ExtractFileName(file)}), true);
-    if (!CallProvider({file})) continue;
-    ++succeeded;
-    expert_.comments_.Used(command_.Command);
+    if (CallProvider({file})) ++succeeded;
   }
+  if (all_succeeded_) expert_.comments_.Used(command_.Command);
   Reload(succeeded == selected_.size());
   if (succeeded == selected_.size())
     ReportDone();

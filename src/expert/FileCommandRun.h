@@ -48,4 +48,5 @@ class TFileCommandRun {
   std::string comment_;
   bool apply_to_all_ = false;
   bool keep_checked_out_ = false;
+  bool all_succeeded_ = true;
 };

@@ -49,13 +49,13 @@ TEST(OptionBlocks, AreFoundByThemselvesAndThroughTheClientsVariable) {
   EXPECT_EQ(nullptr, others.Find(&variable));
 }
 
-TEST(OptionBlocks, CountOnceForTheirCommand) {
+TEST(OptionBlocks, CountForEveryCallOfTheirCommand) {
   svnscc::OptionBlocks blocks;
   void* variable = blocks.Make();
   *blocks.Find(variable) = {7, true, true, true};
   EXPECT_FALSE(blocks.Take(&variable, scc::SCC_COMMAND_REMOVE).StealLocks);
   EXPECT_EQ(SVN_INVALID_REVNUM, blocks.Take(&variable, scc::SCC_COMMAND_CHECKOUT).GetRevision);
-  EXPECT_FALSE(blocks.Take(&variable, scc::SCC_COMMAND_CHECKOUT).StealLocks);
+  EXPECT_TRUE(blocks.Take(&variable, scc::SCC_COMMAND_CHECKOUT).StealLocks) << "a run calls once per file";
   EXPECT_EQ(7, blocks.Take(&variable, scc::SCC_COMMAND_GET).GetRevision);
   EXPECT_TRUE(blocks.Take(variable, scc::SCC_COMMAND_CHECKIN).KeepUnchangedOut);
   EXPECT_TRUE(blocks.Take(variable, scc::SCC_COMMAND_ADD).WithoutNeedsLock);
