@@ -15,11 +15,6 @@
 
 #include "SubversionSccStrings.h"
 
-#ifdef __SANITIZE_ADDRESS__
-#include <sanitizer/lsan_interface.h>
-extern "C" struct svn_membuffer_t* svn_cache__get_global_membuffer_cache(void);
-#endif
-
 namespace svnscc {
 namespace {
 
@@ -30,18 +25,10 @@ void StartRuntime() {
   static const Pool forever;
   svn_utf_initialize2(TRUE, forever);
   svn_error_set_malfunction_handler(svn_error_raise_on_malfunction);
-  // Without a cache that a folder of thousands of files fits into, the folder is read again for each of them.  The cache
-  // is in one piece, and so large enough, when one thread uses it; a provider is called on one.  It takes 16 MB of the
-  // client's memory at the first local repository.
+  // By default 16 MB of the client's memory are taken for good, at the first local repository; commands are short.
   svn_cache_config_t cache = *svn_cache_config_get();
-  cache.single_threaded = TRUE;
+  cache.cache_size = 0;
   svn_cache_config_set(&cache);
-#ifdef __SANITIZE_ADDRESS__
-  // Kept for good in memory where the leak checker does not look: made here, where it can be told so.
-  __lsan_disable();
-  svn_cache__get_global_membuffer_cache();
-  __lsan_enable();
-#endif
   Check(svn_fs_initialize(nullptr));
   Check(svn_ra_initialize(forever));
 }
