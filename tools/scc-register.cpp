@@ -203,7 +203,7 @@ void Run(const TCommandLine& line) {
 
 int main(int argc, char** argv) {
   try {
-    Run(Parse({argv + 1, argv + argc}));
+    Run(Parse(CommandLineArguments(argc, argv)));
     return 0;
   } catch (const EUsage& error) {
     if (*error.what()) std::cerr << Format(sMessage, {error.what()});

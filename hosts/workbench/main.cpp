@@ -2,6 +2,7 @@
 #include <cstdio>
 #include <exception>
 
+#include "host/System.h"
 #include "workbench/macro/MacroParser.h"
 #include "workbench/model/ModelStrings.h"
 #include "workbench/windows/App.h"
@@ -41,7 +42,7 @@ int RunProgram(const TCommandLine& line, char* program) {
 int main(int argc, char** argv) {
   TCommandLine line;
   try {
-    line = TCommandLine::Parse({argv + 1, argv + argc});
+    line = TCommandLine::Parse(CommandLineArguments(argc, argv));
   } catch (const std::exception& e) {
     std::fprintf(stderr, "workbench: %s\n%s", e.what(), sUsage.Text);
     return kExitUsage;

@@ -34,27 +34,49 @@ void TSccExpert::Properties(const std::string& fileName) {
   DisplayMessages(sProperties, messages);
 }
 
+namespace {
+
+/// A provider project for as long as the provider's application runs.
+class TTemporaryProject {
+ public:
+  /// `list` is the expert's, which may be replaced or go while the application runs.
+  TTemporaryProject(std::unique_ptr<TSCCProviderList>& list, const std::string& directory)
+      : list_(list), added_to_(list.get()), directory_(directory) {
+    list_->Add(directory_);
+  }
+  TTemporaryProject(const TTemporaryProject&) = delete;
+  TTemporaryProject& operator=(const TTemporaryProject&) = delete;
+  ~TTemporaryProject() {
+    if (list_.get() != added_to_) return;
+    list_->Remove(directory_);
+    list_->SetCurrentProject(directory_);  // drops the reference to the one removed
+  }
+  const std::string& Directory() const { return directory_; }
+
+ private:
+  std::unique_ptr<TSCCProviderList>& list_;
+  const TSCCProviderList* const added_to_;
+  const std::string directory_;
+};
+
+}  // namespace
+
 void TSccExpert::RunSccApp() {
   if (!provider_list_ && !ProviderCreate(0)) return;
-  std::string added;
+  std::optional<TTemporaryProject> temporary;
   const auto project = GetCurrentProjectFile();
   if (!project.empty() && provider_list_->GetCount() > 0 && provider_list_->CurrentProject()) {
     RequireCurrentProject();
   } else {
     auto* services = IdeService<IOTAServices>();
-    added = services ? services->GetStartupDirectory() : std::string();
-    provider_list_->Add(added);
-    if (!provider_list_->SetCurrentProject(added)) throw EAbort(sNoProjectFile);
+    temporary.emplace(provider_list_, services ? services->GetStartupDirectory() : std::string());
+    if (!provider_list_->SetCurrentProject(temporary->Directory())) throw EAbort(sNoProjectFile);
   }
   auto& session = *provider_list_->CurrentProject();
   session.set_UserName(user_name_);
   TStateMessages messages;
   DecodeReturnCode(session.RunSCC(), messages);
   DisplayMessages(sRunScc, messages);
-  HandlePendingNotifications();
-  if (added.empty() || !provider_list_) return;
-  provider_list_->Remove(added);
-  provider_list_->SetCurrentProject(added);  // drops the reference to the one removed
 }
 
 namespace {
@@ -69,7 +91,7 @@ constexpr std::size_t kMaxPopulated = 4 * kMaxFiles;
 scc::Bool SCC_CALL PopListFunc(void*, scc::Bool addKeep, scc::Long, const char* fileName) noexcept try {
   auto& list = addKeep ? addList : removeList;
   if (list.size() >= kMaxPopulated) return 0;
-  if (fileName) list.emplace_back(fileName);
+  if (fileName) list.push_back(FromSystemText(fileName));
   return -1;
 } catch (...) {
   return 0;

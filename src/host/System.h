@@ -5,6 +5,10 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <vector>
+
+/// What the user typed behind the program's name; `argc` and `argv` are those of main().
+std::vector<std::string> CommandLineArguments(int argc, char** argv);
 
 /// The logged-on user's name.  Empty when it does not fit `bufferSize` characters, terminator included.
 std::string GetUserNameText(std::size_t bufferSize);

@@ -9,6 +9,8 @@ std::string ToText(const TFormatArg& arg) {
 
 bool IsBlank(char c) { return static_cast<unsigned char>(c) <= ' '; }
 
+bool IsContinuation(char c) { return (static_cast<unsigned char>(c) & 0xC0) == 0x80; }
+
 }  // namespace
 
 std::string Format(std::string_view format, std::initializer_list<TFormatArg> args) {
@@ -39,4 +41,12 @@ bool SameText(std::string_view a, std::string_view b) {
   for (; i < a.size() && i < b.size() && ascii(a[i]) && ascii(b[i]); ++i)
     if (lower(a[i]) != lower(b[i])) return false;
   return FoldCase(a.substr(i)) == FoldCase(b.substr(i));
+}
+
+std::string_view CutAtCharacter(std::string_view text, std::size_t bytes) {
+  if (text.size() <= bytes) return text;
+  auto end = bytes;
+  while (end > 0 && bytes - end < 3 && IsContinuation(text[end])) --end;
+  // More than three continuation bytes in a row are no character: such text is cut where it was asked for.
+  return text.substr(0, IsContinuation(text[end]) ? bytes : end);
 }

@@ -1,8 +1,9 @@
-// Text helpers: resource strings, printf-like formatting and case-ignoring comparison of the system's 8-bit text.
+// Text helpers: resource strings, printf-like formatting and case-ignoring comparison.  Text is UTF-8 on every platform.
 #pragma once
 
 #include <ctime>
 #include <initializer_list>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -27,13 +28,20 @@ std::string Format(std::string_view format, std::initializer_list<TFormatArg> ar
 /// `text` without blanks (spaces, tabs and control characters) at both ends.
 std::string Trim(std::string_view text);
 
-/// The text folded for comparison: equal results mean equal texts ignoring case.  UTF-8 on POSIX; bytes that are
-/// not valid UTF-8 compare as they stand.
+/// The text folded for comparison: equal results mean equal texts ignoring case.  Bytes that are not valid UTF-8 compare
+/// as they stand.
 std::string FoldCase(std::string_view text);
 bool SameText(std::string_view a, std::string_view b);
 
 /// At most `bytes` bytes of `text`, cut at a character border.
 std::string_view CutAtCharacter(std::string_view text, std::size_t bytes);
+
+// What 8-bit programs of other people take and give: providers.  The same text on POSIX and where Windows runs this program
+// with UTF-8 as its code page; otherwise text of the active code page.
+
+/// Nothing when the active code page lacks a character of `text`.
+std::optional<std::string> ToSystemText(std::string_view text);
+std::string FromSystemText(std::string_view text);
 
 /// A moment in the locale's default date and time format.
 std::string DateTimeToStr(std::time_t when);

@@ -14,7 +14,8 @@ class TBoundedText {
   const std::string& Str() const { return text_; }
   /// Takes what fits with its terminator, cut at a character border; a NUL inside `text` ends it.
   void Set(std::string_view text);
-  /// Takes what a provider left in the buffer: up to the first NUL, or all `size` bytes when it wrote no terminator.
+  /// Takes what a provider left in the buffer: up to the first NUL, or all `size` bytes when it wrote no terminator.  The
+  /// bytes are the provider's, Str() gives them as UTF-8.
   /// False when the text was longer and has been cut.
   bool TakeBack(std::string_view text);
 

@@ -1,8 +1,6 @@
 #include "provider/ProviderBorder.h"
 
 #include <algorithm>
-#include <cstring>
-#include <numeric>
 #include <utility>
 
 #include "host/Errors.h"
@@ -34,7 +32,7 @@ void TBoundedText::Set(std::string_view text) { text_ = CutAtCharacter(UpToNul(t
 
 bool TBoundedText::TakeBack(std::string_view text) {
   const std::string_view whole = UpToNul(text);
-  text_ = whole.substr(0, size_);
+  text_ = FromSystemText(whole.substr(0, size_));
   return whole.size() <= size_;
 }
 
@@ -65,13 +63,13 @@ scc::Long SCC_CALL TextOutProc(const char* text, scc::Dword kind) noexcept {
   // Providers end their lines as if they wrote to a console; the message window has lines of its own.
   std::string_view line = text;
   line.remove_suffix(line.size() - (line.find_last_not_of("\r\n") + 1));
-  WriteProviderLine(known->Kind, std::string(line));
+  WriteProviderLine(known->Kind, FromSystemText(line));
   return scc::SCC_MSG_RTN_OK;
 }
 
 TScratchText::TScratchText(const char* entry, std::string_view text)
     : entry_(entry), bytes_(kRoom + kGuard, '\0') {
-  std::ranges::copy(UpToNul(text).substr(0, kRoom - 1), bytes_.begin());
+  std::ranges::copy(ForProvider(UpToNul(text).substr(0, kRoom - 1)), bytes_.begin());
   // The last byte stays a terminator: who reads on after filling the room stops there.
   std::fill(bytes_.begin() + kRoom, bytes_.end() - 1, kGuardByte);
 }
@@ -89,16 +87,22 @@ void TScratchText::MoveTo(TBoundedText& field) const {
                     Format(sTextCut.str(), {providerName, entry_, static_cast<long long>(field.Size())}));
 }
 
+std::string ForProvider(std::string_view text) {
+  auto converted = ToSystemText(text);
+  if (!converted) throw EAbort(Format(sNotInCodePage.str(), {std::string(text)}));
+  return *std::move(converted);
+}
+
 TFileArray::TFileArray(const TStringList& files) {
-  const auto bytes = [](std::size_t sum, const std::string& name) { return sum + name.size() + 1; };
-  texts_.resize(std::accumulate(files.begin(), files.end(), std::size_t{0}, bytes));
-  names_.reserve(files.size() + 1);
-  char* place = texts_.data();
+  std::vector<std::size_t> starts;
+  starts.reserve(files.size());
   for (const std::string& name : files) {
-    std::memcpy(place, name.c_str(), name.size() + 1);
-    names_.push_back(place);
-    place += name.size() + 1;
+    starts.push_back(texts_.size());
+    texts_.append(ForProvider(name)) += '\0';
   }
+  // Only now the texts have found their place.
+  names_.reserve(files.size() + 1);
+  for (const std::size_t start : starts) names_.push_back(texts_.data() + start);
   names_.push_back(nullptr);
 }
 

@@ -22,6 +22,10 @@ void WriteProviderLine(IProviderSink::Kind kind, const std::string& text) noexce
 /// Warns that the provider wrote behind a buffer handed to `entry`.
 void ReportOverrun(const char* entry) noexcept;
 
+/// The text as providers read it.  Throws EAbort, naming it, when the active code page lacks a character of it: with
+/// another one in its place a provider would work on another file.
+std::string ForProvider(std::string_view text);
+
 /// An in/out text on its way through a provider.  The room is far larger than any field, zeroed, and followed by guard
 /// bytes; damage to them is reported when the object goes.
 class TScratchText {
@@ -64,19 +68,18 @@ class TFileArray {
   const char** Data() { return names_.data(); }
 
  private:
-  std::vector<char> texts_;  // all copies one behind the other
+  std::string texts_;  // all copies one behind the other
   std::vector<const char*> names_;
 };
 
 /// A comment as it may reach a provider: at most kMaxComment bytes, cut at a character border.
 class TComment {
  public:
-  explicit TComment(std::string_view text) : text_(kSize) { text_.Set(text); }
-  const char* Data() const { return text_.Str().c_str(); }
+  explicit TComment(std::string_view text) : text_(ForProvider(CutAtCharacter(text, kMaxComment))) {}
+  const char* Data() const { return text_.c_str(); }
 
  private:
-  static constexpr std::size_t kSize = kMaxComment + 1;
-  TBoundedText text_;
+  std::string text_;
 };
 
 /// How a call ended: the provider's code, or the text of the exception that it let out.

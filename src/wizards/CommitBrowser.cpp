@@ -14,6 +14,7 @@
 
 #include "commands/CommentsStrings.h"
 #include "expert/SccExpert.h"
+#include "host/FileName.h"
 #include "host/Paths.h"
 #include "host/System.h"
 #include "ui/WxText.h"
@@ -33,7 +34,7 @@ constexpr std::size_t kShownBytes = 1 << 20;
 /// The beginning of a file, made fit for a text control.
 std::string BeginningOf(const std::string& fileName) {
   std::string text(kShownBytes + 1, '\0');
-  std::ifstream file(fileName, std::ios::binary);
+  std::ifstream file(ToFilePath(fileName), std::ios::binary);
   file.read(text.data(), static_cast<std::streamsize>(text.size()));
   text.resize(static_cast<std::size_t>(file.gcount()));
   text = CutAtCharacter(text, kShownBytes);
@@ -202,7 +203,7 @@ void TCommitBrowser::DisplayWorkspaceFile(int row) {
   }
   TMemoWorkspaceSource->ChangeValue(ToWx(BeginningOf(data->FileName)));
   std::error_code ignored;
-  const auto size = std::filesystem::file_size(data->FileName, ignored);
+  const auto size = std::filesystem::file_size(ToFilePath(data->FileName), ignored);
   source_status_->SetStatusText(
       ToWx(Format(size > kShownBytes ? sFilePartShown : sFileSize,
                   {data->FileName, static_cast<long long>(size), static_cast<long long>(kShownBytes)})));

@@ -2,11 +2,11 @@
 
 #include <algorithm>
 #include <array>
-#include <filesystem>
 #include <iterator>
 #include <optional>
 
 #include "expert/SccExpert.h"
+#include "host/FileName.h"
 #include "host/Paths.h"
 #include "host/System.h"
 #include "wizards/CommitRowsStrings.h"
@@ -198,6 +198,6 @@ std::vector<TCommitRowData> GatherCommitRows(TSccExpert& expert) { return TGathe
 std::string ProjectRelativePath(const std::string& directory, const std::string& fileName) {
   auto below = RelativePath(directory, fileName);
   if (below != fileName || directory.empty()) return below;
-  auto way = std::filesystem::path(fileName).lexically_relative(directory).string();
+  auto way = FromFilePath(ToFilePath(fileName).lexically_relative(ToFilePath(directory)));
   return way.empty() ? fileName : way;
 }

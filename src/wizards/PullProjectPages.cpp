@@ -5,6 +5,7 @@
 
 #include "expert/MappingFile.h"
 #include "host/Errors.h"
+#include "host/FileName.h"
 #include "host/Paths.h"
 #include "host/Registry.h"
 #include "host/System.h"
@@ -46,12 +47,12 @@ std::string TargetNote(const std::string& directory) {
   if (!TargetProblem(directory).empty()) return {};
   if (!DirectoryExists(directory)) return sTargetWillBeMade;
   std::error_code ignored;
-  return fs::is_empty(directory, ignored) || ignored ? std::string() : sTargetNotEmpty.str();
+  return fs::is_empty(ToFilePath(directory), ignored) || ignored ? std::string() : sTargetNotEmpty.str();
 }
 
 void MakeDirectory(const std::string& directory) {
   std::error_code failed;
-  fs::create_directories(directory, failed);
+  fs::create_directories(ToFilePath(directory), failed);
   if (failed) throw std::runtime_error(Format(sTargetNotMade.Text, {directory, failed.message()}));
 }
 
@@ -102,7 +103,7 @@ std::string TPullProjectPages::FullTarget(const std::string& text) {
   const auto start = IncludeTrailingPathDelimiter(ProjectDirectory());
   if (path.empty() || (!IsAbsolutePath(path) && !IsAbsolutePath(start))) return path;
   return ExcludeTrailingPathDelimiter(
-      fs::path(IsAbsolutePath(path) ? path : start + path).lexically_normal().string());
+      FromFilePath(ToFilePath(IsAbsolutePath(path) ? path : start + path).lexically_normal()));
 }
 
 bool TPullProjectPages::MayLeave() {

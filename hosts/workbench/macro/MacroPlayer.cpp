@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <filesystem>
 
+#include "host/FileName.h"
 #include "host/System.h"
 #include "workbench/macro/MacroStrings.h"
 #include "workbench/macro/WindowFinder.h"
@@ -95,10 +96,10 @@ wxTopLevelWindow& TMacroPlayer::Front() const {
 }
 
 std::string TMacroPlayer::Screenshot(const std::string& file) {
-  const std::filesystem::path path = std::filesystem::path(screenshots_) / file;
+  const auto path = ToFilePath(screenshots_) / ToFilePath(file);
   std::error_code ignored;
   std::filesystem::create_directories(path.parent_path(), ignored);
-  return SaveScreenshot(path.string()) ? std::string() : Format(sNoScreenshot, {path.string()});
+  return SaveScreenshot(FromFilePath(path)) ? std::string() : Format(sNoScreenshot, {FromFilePath(path)});
 }
 
 std::string TMacroPlayer::Run(const TMacroStep& step) {

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <stdexcept>
 
+#include "host/FileName.h"
 #include "host/Paths.h"
 #include "host/System.h"
 #include "workbench/model/ModelStrings.h"
@@ -19,9 +20,9 @@ void TDocument::Rename(std::string fileName) {
 
 std::string TDocument::DiskStamp() const {
   std::error_code missing;
-  const auto size = fs::file_size(fileName_, missing);
+  const auto size = fs::file_size(ToFilePath(fileName_), missing);
   if (missing) return {};
-  const auto time = fs::last_write_time(fileName_, missing).time_since_epoch().count();
+  const auto time = fs::last_write_time(ToFilePath(fileName_), missing).time_since_epoch().count();
   return std::to_string(size) + ' ' + std::to_string(time);
 }
 

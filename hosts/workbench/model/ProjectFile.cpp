@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <stdexcept>
 
+#include "host/FileName.h"
 #include "host/Ini.h"
 #include "workbench/model/ModelStrings.h"
 
@@ -122,14 +123,16 @@ TGroupFile TGroupFile::Parse(std::string_view text) {
 }
 
 std::string ToStoredPath(const std::string& base, const std::string& path) {
-  const auto relative = std::filesystem::path(path).lexically_relative(base);
-  return (relative.empty() ? std::filesystem::path(path) : relative).generic_string();
+  const auto full = ToFilePath(path);
+  const auto relative = full.lexically_relative(ToFilePath(base));
+  const auto stored = (relative.empty() ? full : relative).generic_u8string();
+  return {stored.begin(), stored.end()};
 }
 
 std::string FromStoredPath(const std::string& base, const std::string& stored) {
-  return (std::filesystem::path(base) / stored).lexically_normal().make_preferred().string();
+  return FromFilePath((ToFilePath(base) / ToFilePath(stored)).lexically_normal().make_preferred());
 }
 
 std::string FullPath(const std::string& path) {
-  return std::filesystem::absolute(path).lexically_normal().make_preferred().string();
+  return FromFilePath(std::filesystem::absolute(ToFilePath(path)).lexically_normal().make_preferred());
 }

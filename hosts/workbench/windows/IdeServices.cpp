@@ -5,6 +5,7 @@
 
 #include <filesystem>
 
+#include "host/FileName.h"
 #include "host/Paths.h"
 #include "host/Text.h"
 #include "workbench/windows/FrameStrings.h"
@@ -17,7 +18,7 @@ bool TApplicationService::HelpKeyword(const std::string& keyword) {
 
 TIdeServices::TIdeServices(TLogLine log)
     : guard_(std::move(log)),
-      startupDirectory_(ExcludeTrailingPathDelimiter(std::filesystem::current_path().string())) {
+      startupDirectory_(ExcludeTrailingPathDelimiter(FromFilePath(std::filesystem::current_path()))) {
   Publish<IOTAServices>(*this);
   Publish<IOTAWizardServices>(wizards_);
   Publish<IOTAOptionsServices>(options_);

@@ -8,7 +8,6 @@
 #include <filesystem>
 #include <optional>
 #include <system_error>
-#include <vector>
 
 namespace fs = std::filesystem;
 
@@ -32,6 +31,8 @@ std::function<void(TBeep)>& BeepHandler() {
 }
 
 }  // namespace
+
+std::vector<std::string> CommandLineArguments(int argc, char** argv) { return {argv + 1, argv + argc}; }
 
 std::string GetUserNameText(std::size_t bufferSize) {
   std::vector<char> buffer(16384);

@@ -30,7 +30,6 @@ class TUtf8Scope {
 
 bool IsAscii(char c) { return static_cast<unsigned char>(c) < 0x80; }
 char FoldAscii(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
-bool IsContinuation(char c) { return (static_cast<unsigned char>(c) & 0xC0) == 0x80; }
 
 /// Appends the first character of `text` in lower case and returns how many bytes it took.  A byte that begins no
 /// character is kept.
@@ -63,14 +62,6 @@ std::string FoldCase(std::string_view text) {
   return folded;
 }
 
-std::string_view CutAtCharacter(std::string_view text, std::size_t bytes) {
-  if (text.size() <= bytes) return text;
-  auto end = bytes;
-  while (end > 0 && bytes - end < 3 && IsContinuation(text[end])) --end;
-  // More than three continuation bytes in a row are no character: such text is cut where it was asked for.
-  return text.substr(0, IsContinuation(text[end]) ? bytes : end);
-}
-
 std::string DateTimeToStr(std::time_t when) {
   std::tm local{};
   localtime_r(&when, &local);
@@ -81,3 +72,7 @@ std::string DateTimeToStr(std::time_t when) {
   return {text.data(), std::strftime(text.data(), text.size(), "%x %X", &local)};
 #pragma GCC diagnostic pop
 }
+
+std::optional<std::string> ToSystemText(std::string_view text) { return std::string(text); }
+
+std::string FromSystemText(std::string_view text) { return std::string(text); }

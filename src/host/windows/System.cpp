@@ -1,0 +1,69 @@
+#include "host/System.h"
+
+#include <lmcons.h>
+#include <shellapi.h>
+#include <windows.h>
+
+#include <array>
+#include <memory>
+
+#include "host/windows/Wide.h"
+
+namespace {
+
+std::string IfItFits(std::string text, std::size_t bufferSize) {
+  return text.size() < bufferSize ? text : std::string();
+}
+
+DWORD AttributesOf(const std::string& path) { return GetFileAttributesW(ToWideFileName(path).c_str()); }
+
+struct TLocalFree {
+  void operator()(void* memory) const { LocalFree(memory); }
+};
+
+}  // namespace
+
+std::vector<std::string> CommandLineArguments(int, char**) {
+  int count = 0;
+  const std::unique_ptr<wchar_t*, TLocalFree> words(CommandLineToArgvW(GetCommandLineW(), &count));
+  std::vector<std::string> arguments;
+  for (int i = 1; i < count; ++i) arguments.push_back(FromWide(words.get()[i]));
+  return arguments;
+}
+
+std::string GetUserNameText(std::size_t bufferSize) {
+  std::array<wchar_t, UNLEN + 1> name{};
+  auto size = static_cast<DWORD>(name.size());
+  return GetUserNameW(name.data(), &size) ? IfItFits(FromWide(name.data()), bufferSize) : std::string();
+}
+
+std::string GetCurrentDirectoryText(std::size_t bufferSize) {
+  std::wstring directory(GetCurrentDirectoryW(0, nullptr), L'\0');
+  directory.resize(GetCurrentDirectoryW(static_cast<DWORD>(directory.size()), directory.data()));
+  return IfItFits(FromWide(directory), bufferSize);
+}
+
+bool FileExists(const std::string& path) {
+  const auto attributes = AttributesOf(path);
+  return attributes != INVALID_FILE_ATTRIBUTES && !(attributes & FILE_ATTRIBUTE_DIRECTORY);
+}
+
+bool DirectoryExists(const std::string& path) {
+  const auto attributes = AttributesOf(path);
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY);
+}
+
+std::uint32_t GetFileAttributesOf(const std::string& path) {
+  const auto attributes = AttributesOf(path);
+  return attributes == INVALID_FILE_ATTRIBUTES ? 0 : attributes & (faReadOnly | faArchive);
+}
+
+bool SetFileAttributesOf(const std::string& path, std::uint32_t attributes) {
+  return SetFileAttributesW(ToWideFileName(path).c_str(), attributes ? attributes : FILE_ATTRIBUTE_NORMAL) !=
+         0;
+}
+
+void MessageBeep(TBeep kind) { ::MessageBeep(static_cast<UINT>(kind)); }
+
+// The system beeps by itself.
+void SetBeepHandler(std::function<void(TBeep)>) {}
