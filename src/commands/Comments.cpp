@@ -30,10 +30,7 @@ TCommentsForm::TCommentsForm(TCommentModel& model)
   RecentMenu.Bind(wxEVT_MENU, [this](wxCommandEvent& event) {
     Replace(history_.Choose(static_cast<std::size_t>(event.GetId() - kFirstRecentId)));
   });
-  CommentsForm = this;
 }
-
-TCommentsForm::~TCommentsForm() { CommentsForm = nullptr; }
 
 void TCommentsForm::CreateControls() {
   const auto button = [this](wxWindowID id, const TResString& label) {

@@ -16,7 +16,6 @@ class TCommentsForm final : public TModalForm {
  public:
   /// `model` is borrowed.  It receives the text however the dialog is closed, and the box when OK is pressed.
   explicit TCommentsForm(TCommentModel& model);
-  ~TCommentsForm() override;
 
   void FormShow();
   void FormKeyDown(wxKeyEvent& event) override;
@@ -50,5 +49,5 @@ class TCommentsForm final : public TModalForm {
   wxStaticText* LengthLabel;
 };
 
-/// The dialog that is shown, or nullptr.
+/// For a command that shares its dialog with others.  None does: each keeps its own to itself.
 extern TCommentsForm* CommentsForm;

@@ -6,7 +6,6 @@
 
 #include "commands/Comments.h"
 #include "commands/GetFileList.h"
-#include "commands/Progress.h"
 #include "expert/SccSystem.h"
 #include "ui/MsgDialog.h"
 #include "ui/MsgDialogStrings.h"
@@ -16,7 +15,16 @@
 namespace {
 
 constexpr const char* kHelpFile = "RavelinDSP.hlp";
+constexpr auto kVanishing =
+    std::chrono::milliseconds(30);  // what a closed window needs until it is off the screen
 constexpr std::array kBoxIcons{wxICON_ERROR, wxICON_WARNING, wxICON_INFORMATION, wxICON_QUESTION};
+
+/// What was under the dialog is painted before the provider is called, which may take a while.
+int ShowAndClear(wxDialog&& form) {
+  const int result = form.ShowModal();
+  PaintWindows(kVanishing);
+  return result;
+}
 
 }  // namespace
 
@@ -33,11 +41,11 @@ void TExpertForms::ShowBox(const std::string& text, TMsgType kind) {
 }
 
 int TExpertForms::ShowFileList(TSccExpert& expert, TFileListModel& model) {
-  return TGetFileListForm(expert, model).ShowModal();
+  return ShowAndClear(TGetFileListForm(expert, model));
 }
 
-int TExpertForms::ShowComments(TCommentModel& model) { return TCommentsForm(model).ShowModal(); }
+int TExpertForms::ShowComments(TCommentModel& model) { return ShowAndClear(TCommentsForm(model)); }
 
 std::unique_ptr<IProgress> TExpertForms::StartProgress(const std::string& caption, std::size_t total) {
-  return std::make_unique<TProgress>(caption, total);
+  return std::make_unique<TProgress>(caption, total, pace_);
 }

@@ -1,6 +1,7 @@
 // The windows of the file commands that the expert is given in the IDE.
 #pragma once
 
+#include "commands/Progress.h"
 #include "expert/ExpertForms.h"
 
 /// Wizards are windows of a layer above, which completes this class.
@@ -12,4 +13,7 @@ class TExpertForms : public IExpertForms {
   int ShowFileList(TSccExpert& expert, TFileListModel& model) override;
   int ShowComments(TCommentModel& model) override;
   std::unique_ptr<IProgress> StartProgress(const std::string& caption, std::size_t total) override;
+
+ private:
+  TCallPace pace_;
 };

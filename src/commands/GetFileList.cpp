@@ -32,7 +32,7 @@ TFilesListView::TFilesListView(wxWindow* parent, TFileListModel& model)
   AppendColumn(ToWx(sNameColumn), wxLIST_FORMAT_LEFT, FromDIP(kNameWidth));
   AppendColumn(ToWx(sStatusColumn), wxLIST_FORMAT_LEFT, StatusWidth());
   AppendColumn(ToWx(sPathColumn), wxLIST_FORMAT_LEFT, FromDIP(kMinPathWidth));
-  SetItemCount(static_cast<long>(model_.Count()));
+  ShowRows();
 }
 
 int TFilesListView::StatusWidth() const {
@@ -90,10 +90,12 @@ TGetFileListForm::TGetFileListForm(TSccExpert& expert, TFileListModel& model)
   CreateControls();
   LayOut();
   BindEvents();
-  GetFileListForm = this;
+  if (model_.CommandKind == coGet) GetFileListForm = this;
 }
 
-TGetFileListForm::~TGetFileListForm() { GetFileListForm = nullptr; }
+TGetFileListForm::~TGetFileListForm() {
+  if (GetFileListForm == this) GetFileListForm = nullptr;
+}
 
 void TGetFileListForm::CreateControls() {
   const auto button = [this](wxWindowID id, const TResString& label) {
@@ -158,6 +160,11 @@ void TGetFileListForm::BindEvents() {
   btnAdvanced->Bind(wxEVT_BUTTON, &TGetFileListForm::btnAdvancedClick, this);
 }
 
+void TGetFileListForm::AddFile(const std::string& fileName, const std::string& status) {
+  model_.AddFile(fileName, status);
+  FilesListView->ShowRows();
+}
+
 void TGetFileListForm::ChangeAllCheckedStates(bool checked) {
   model_.ChangeAllCheckedStates(checked);
   FilesListView->Refresh();
@@ -176,7 +183,7 @@ void TGetFileListForm::CheckState() {
 }
 
 void TGetFileListForm::FormShow() {
-  model_.TickCurrent(rv_GetCurrentFile());
+  CurrentFile = model_.TickCurrent(rv_GetCurrentFile());
   FilesListView->FocusFirstChecked();
   FilesListView->SetFocus();
   CheckState();

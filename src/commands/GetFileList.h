@@ -13,8 +13,10 @@ class wxCheckBox;
 /// The rows of a TFileListModel.  The control asks the model for what it shows, so that 65,536 rows open at once.
 class TFilesListView final : public wxListView {
  public:
-  /// `model` is borrowed and complete: its rows do not change in number.
+  /// `model` is borrowed.  Its rows change in number only with ShowRows.
   TFilesListView(wxWindow* parent, TFileListModel& model);
+  /// Shows as many rows as the model has now.
+  void ShowRows() { SetItemCount(static_cast<long>(model_.Count())); }
   /// Turns the ticks of the selected rows to the opposite of the focused row's.
   void ToggleSelected();
   /// Focuses the first ticked row, or the first row, and scrolls to it.
@@ -40,6 +42,11 @@ class TGetFileListForm final : public TModalForm {
   TGetFileListForm(TSccExpert& expert, TFileListModel& model);
   ~TGetFileListForm() override;
 
+  /// Appends a row.
+  void AddFile(const std::string& fileName, const std::string& status);
+  /// The full path of a row; empty for an index outside the list.
+  std::string GetFile(int index) const { return model_.GetFile(index); }
+  int ItemsChecked() const { return model_.ItemsChecked(); }
   void ChangeAllCheckedStates(bool checked);
   /// Brings the buttons in line with the ticks.
   void CheckState();
@@ -61,6 +68,7 @@ class TGetFileListForm final : public TModalForm {
   wxButton* btnCheckAll;
   wxButton* btnUncheckAll;
   wxButton* btnAdvanced;
+  std::string CurrentFile;  ///< the file in the editor, a form's unit for a form; since FormShow
 
  private:
   void CreateControls();
@@ -73,5 +81,5 @@ class TGetFileListForm final : public TModalForm {
   TFileListModel& model_;
 };
 
-/// The dialog that is shown, or nullptr.
+/// The dialog of "Get Latest Version" while it is open, otherwise nullptr.  The other commands keep theirs to themselves.
 extern TGetFileListForm* GetFileListForm;

@@ -10,18 +10,34 @@
 
 using namespace std::chrono_literals;
 
+namespace {
+constexpr auto kLong = 500ms;
+constexpr auto kAppearing = 100ms;  // what a window needs until it is on the screen
+}  // namespace
+
 bool TProgressClock::Due(TTime now) {
   if (now < next_) return false;
   next_ = now + 100ms;
   return true;
 }
 
-void TProgressClock::Restart(TTime now) { next_ = now + 500ms; }
+void TProgressClock::Restart(TTime now) { next_ = now + kLong; }
+
+bool TCallPace::IsLong(const std::string& call, std::size_t files, TDuration perFileAtFirst) const {
+  const auto known = per_file_.find(call);
+  return (known == per_file_.end() ? perFileAtFirst : known->second) * files >= kLong;
+}
+
+void TCallPace::Took(const std::string& call, std::size_t files, TDuration whole) {
+  per_file_[call] = whole / files;
+}
 
 class TProgressForm final : public wxFrame {
  public:
   TProgressForm(wxWindow* parent, const std::string& caption);
   void ShowStep(std::size_t done, std::size_t total, const std::string& what);
+  /// Before anything is known about single files.
+  void ShowCall(std::size_t total, const std::string& what);
   bool ShouldPreventAppExit() const override { return false; }
 
  private:
@@ -29,6 +45,7 @@ class TProgressForm final : public wxFrame {
   static constexpr int kGaugeSteps = 1000;
 
   wxStaticText* AddText(wxWindow* panel, long style);
+  void Appear();
 
   wxStaticText* count_;
   wxStaticText* what_;
@@ -64,6 +81,16 @@ void TProgressForm::ShowStep(std::size_t done, std::size_t total, const std::str
   count_->SetLabelText(ToWx(Format(sFileOf.Text, {number, static_cast<long long>(total)})));
   what_->SetLabelText(ToWx(ExtractFileName(what)));
   gauge_->SetValue(static_cast<int>(done * kGaugeSteps / total));
+  Appear();
+}
+
+void TProgressForm::ShowCall(std::size_t total, const std::string& what) {
+  count_->SetLabelText(total == 1 ? wxString() : ToWx(Format(sFiles.Text, {static_cast<long long>(total)})));
+  what_->SetLabelText(ToWx(what));
+  Appear();
+}
+
+void TProgressForm::Appear() {
   if (!IsShown()) ShowWithoutActivating();
   Update();
 }
@@ -103,30 +130,57 @@ wxWindow* WorkingWindow() {
 
 }  // namespace
 
-TProgress::TProgress(const std::string& caption, std::size_t total, TNow now)
-    : caption_(caption), total_(total), now_(std::move(now)), clock_(now_()) {
+void PaintWindows(std::chrono::milliseconds duration) {
+  const TNoClosing noClosing;
+  const auto end = std::chrono::steady_clock::now() + duration;
+  for (Paint(); std::chrono::steady_clock::now() < end; Paint()) wxMilliSleep(2);
+}
+
+TProgress::TProgress(const std::string& caption, std::size_t total, TCallPace& pace, TNow now)
+    : caption_(caption), total_(total), pace_(pace), now_(std::move(now)), clock_(now_()) {
   Register();
 }
 
 TProgress::~TProgress() {
+  if (!call_.empty()) pace_.Took(call_, total_, now_() - called_);
   Unregister();
   CloseForm();
 }
 
 void TProgress::Step(std::size_t done, const std::string& what) {
-  if (done >= total_ || !clock_.Due(now_())) return;
+  if (dialogs_ > 0 || done >= total_ || !clock_.Due(now_())) return;
   const TNoClosing noClosing;
-  if (!form_) form_ = new TProgressForm(WorkingWindow(), caption_);
-  form_->ShowStep(done, total_, what);
-  Paint();  // what happens there may close the form
+  Form().ShowStep(done, total_, what);
+  PaintWindows(0ms);  // what happens there may close the form
+}
+
+void TProgress::BeginCall(const std::string& what, std::chrono::microseconds perFile) {
+  if (dialogs_ > 0 || total_ == 0) return;
+  call_ = caption_ + what;
+  if (pace_.IsLong(call_, total_, perFile)) {
+    const TNoClosing noClosing;
+    Form().ShowCall(total_, what);
+    PaintWindows(kAppearing);
+  }
+  called_ = now_();
 }
 
 int TProgress::Enter(wxDialog*) {
+  ++dialogs_;
+  call_.clear();
   CloseForm();
   return wxID_NONE;
 }
 
-void TProgress::Exit(wxDialog*) { clock_.Restart(now_()); }
+void TProgress::Exit(wxDialog*) {
+  --dialogs_;
+  clock_.Restart(now_());
+}
+
+TProgressForm& TProgress::Form() {
+  if (!form_) form_ = new TProgressForm(WorkingWindow(), caption_);
+  return *form_;
+}
 
 // At once: a window that waits for its deletion would outlive the package's code when the host unloads it.
 void TProgress::CloseForm() { delete form_.get(); }

@@ -4,3 +4,4 @@
 #include "host/Text.h"
 
 constexpr TResString sFileOf{"File %d of %d"};
+constexpr TResString sFiles{"%d files"};

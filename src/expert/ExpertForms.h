@@ -2,6 +2,7 @@
 // tests and benchmarks supply scripted ones.
 #pragma once
 
+#include <chrono>
 #include <memory>
 #include <string>
 
@@ -16,6 +17,10 @@ class IProgress {
   virtual ~IProgress() = default;
   /// `done` of the total is done and `what` (a file) comes next.  Called for every file: must be cheap.
   virtual void Step(std::size_t done, const std::string& what) = 0;
+  /// One call that does all of the total comes next, perhaps without a word until it is over; `what` says what it does.
+  /// Shows the window at once when such calls take long: by what they took before, the first time by `perFile`.
+  /// Does nothing where progress has no window of its own.
+  virtual void BeginCall(const std::string& /*what*/, std::chrono::microseconds /*perFile*/) {}
 };
 
 /// All modal operations return when the user has closed the window.  User-interface thread only.

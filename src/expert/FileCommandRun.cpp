@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "expert/CallProgress.h"
 #include "expert/FileCommandStrings.h"
 #include "expert/SccExpertStrings.h"
 #include "host/Errors.h"
@@ -11,7 +12,8 @@
 
 namespace {
 
-/// The quick difference that fills the status column.
+/// The quick difference that fills the status column.  By time stamp is what is meant; the number is the one that
+/// providers have always been given for it, although the API's header calls it a comparison of checksums.
 constexpr scc::Long kQuickTimeDiff = 32;
 
 struct TProbeText {
@@ -80,9 +82,15 @@ TSCCProviderProject& TFileCommandRun::Project() {
 
 void TFileCommandRun::Gather() {
   expert_.AddAssociatedFiles(&all_files_, command_.OnlyExisting);
-  if (command_.ProviderPopulates) expert_.ProviderAddRemove(all_files_, command_.Command);
+  if (command_.ProviderPopulates) {
+    const TCallProgress progress(expert_.Forms(), command_.List, TCallProgress::Kind::Status, sGatheringFiles,
+                                 all_files_);
+    expert_.ProviderAddRemove(all_files_, command_.Command);
+  }
   all_index_ = TFileIndex(all_files_);
   TStateMessages messages;
+  const TCallProgress progress(expert_.Forms(), command_.List, TCallProgress::Kind::Status, sAskingStatus,
+                               all_files_);
   Project().Query(all_files_, statuses_, messages);
 }
 
@@ -149,12 +157,18 @@ bool TFileCommandRun::CallProvider(const TStringList& files) {
 void TFileCommandRun::CallTogether() {
   if (WantsComment()) AskComment({}, false);
   for (const auto& file : selected_) expert_.SaveIfModified(file);
-  const bool done = command_.CallKind == TFileCommand::Calls::Batch ? CallProvider(selected_) : CallOneByOne();
+  const bool done = command_.CallKind == TFileCommand::Calls::Batch ? CallBatch() : CallOneByOne();
   if (all_succeeded_) expert_.comments_.Used(command_.Command);
   if (done && command_.ClearReadOnly && !keep_checked_out_)
     for (const auto& file : selected_) SetFileAttributesOf(file, faArchive);
   Reload(done);
   if (done) ReportDone();
+}
+
+bool TFileCommandRun::CallBatch() {
+  const TCallProgress progress(expert_.Forms(), command_.List, TCallProgress::Kind::Command,
+                               sWaitingForProvider, selected_);
+  return CallProvider(selected_);
 }
 
 bool TFileCommandRun::CallOneByOne() {
@@ -179,7 +193,6 @@ void TFileCommandRun::CallCounting() {
     if (CallProvider({file})) ++succeeded;
   }
   if (all_succeeded_) expert_.comments_.Used(command_.Command);
-  Reload(succeeded == selected_.size());
   if (succeeded == selected_.size())
     ReportDone();
   else

@@ -29,9 +29,12 @@ class TFileCommandRun {
   bool CallProvider(const TStringList& files);
   /// All commands but add: one comment, everything saved first, then the files in one call or one by one.
   void CallTogether();
-  /// The result of the last call decides; earlier failures have shown their messages.
+  bool CallBatch();
+  /// The result of the last call decides, and it alone, which is meant: earlier failures have shown their messages, and
+  /// the report closes the run as the last file did.
   bool CallOneByOne();
   /// Add: each file is saved, given its comment and added alone; the count of successes decides about the report.
+  /// Nothing is reloaded: adding changes no file.
   void CallCounting();
   void Reload(bool done);
   void ReportDone();

@@ -40,6 +40,11 @@ constexpr TResString sNoFilesAvailable{"No files available"};
 constexpr TResString sUserCancelledDialog{"User cancelled dialog"};
 constexpr TResString sCommentsFor{"Comments for %s"};
 
+// What progress says while the provider works on all files at once.
+constexpr TResString sGatheringFiles{"Gathering the files"};
+constexpr TResString sAskingStatus{"Asking for the status of the files"};
+constexpr TResString sWaitingForProvider{"Waiting for the source control provider"};
+
 // The status column: what the quick difference of a candidate says.
 constexpr TResString sProbeCurrent{"Current"};
 constexpr TResString sProbeModified{"Modified"};

@@ -40,6 +40,7 @@ struct TFileCommand {
   TResString NoProvider;
   TResString Single;  ///< captions each provider call and the refusals
   TResString List;    ///< captions the file list
+  // The captions of the last box are a mix of the two above, each as its command has always said it; so are the texts.
   TResString FinalOne;
   TResString FinalSeveral;
   TResString OneDone;  ///< follows the file name

@@ -40,12 +40,15 @@ void TFileListModel::ChangeAllCheckedStates(bool checked) {
   checked_ = checked ? rows_.size() : 0;
 }
 
-void TFileListModel::TickCurrent(const std::string& currentFile) {
-  if (rows_.size() == 1) return ChangeAllCheckedStates(true);
+std::string TFileListModel::TickCurrent(const std::string& currentFile) {
+  // The extension is asked for exactly as the IDE writes it: a form file that somebody renamed is any other file.
   const bool form = ExtractFileExt(currentFile) == kFormExtension;
-  const auto file = FoldCase(form ? ChangeFileExt(currentFile, kUnitExtension) : currentFile);
+  const auto meant = form ? ChangeFileExt(currentFile, kUnitExtension) : currentFile;
+  const auto file = FoldCase(meant);
   for (std::size_t i = 0; i < rows_.size(); ++i)
     if (FoldCase(GetFile(static_cast<int>(i))) == file) SetChecked(i, true);
+  if (rows_.size() == 1) ChangeAllCheckedStates(true);
+  return meant;
 }
 
 TFileListModel::TButtons TFileListModel::CheckState() const {

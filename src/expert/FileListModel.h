@@ -44,8 +44,9 @@ class TFileListModel {
   int ItemsChecked() const { return static_cast<int>(checked_); }
   void ChangeAllCheckedStates(bool checked);
 
-  /// First ticks: every row that is `currentFile` (a form file stands for its unit), or the only row.
-  void TickCurrent(const std::string& currentFile);
+  /// First ticks: every row that is `currentFile`, or the only row.  A form file stands for its unit; returns the file
+  /// that was meant.
+  std::string TickCurrent(const std::string& currentFile);
   /// Empty lists leave the buttons as they were, that is disabled.
   TButtons CheckState() const;
 
@@ -63,7 +64,8 @@ class TFileListModel {
 /// One comment asked for.
 struct TCommentModel {
   std::string Caption;  ///< empty keeps the dialog's own
-  std::string Text;     ///< in: what is offered; out: what the user typed, after Cancel too; at most kMaxComment bytes
+  std::string
+      Text;  ///< in: what is offered; out: what the user typed, after Cancel too; at most kMaxComment bytes
   std::vector<std::string> Recent;  ///< earlier comments at hand, the newest first
   bool ShowApplyToAll = false;
   bool ApplyToAll = true;

@@ -3,12 +3,15 @@
 #include <array>
 #include <span>
 
+#include "expert/CallProgress.h"
+#include "expert/FileCommandStrings.h"
 #include "expert/FileCommands.h"
 #include "expert/MappingFile.h"
 #include "expert/SccExpert.h"
 #include "host/Paths.h"
 #include "host/System.h"
 #include "ui/ExpertMainMenu.h"
+#include "ui/ExpertMainMenuStrings.h"
 
 void TSccExpert::MainMenu() {
   if (project_not_mapped_) {
@@ -41,6 +44,7 @@ void TSccExpert::EnableActiveMenu() {
   TStateMessages messages;
   try {
     AddAssociatedFiles(&files, false);
+    const TCallProgress progress(forms_, sTeam, TCallProgress::Kind::Status, sAskingStatus, files);
     RequireCurrentProject().Query(files, statuses, messages);
   } catch (...) {  // no status, no commands; the reason goes to the message window
     menu_->EnableMenus(false);

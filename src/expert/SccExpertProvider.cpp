@@ -1,4 +1,5 @@
 // The provider's own windows, and its say in the file lists of the commands.
+#include <optional>
 #include <unordered_map>
 #include <unordered_set>
 
@@ -18,6 +19,7 @@ void TSccExpert::ShowDiff(const std::string& fileName) {
   RequireCurrentProject();
   SaveIfModified(fileName);
   TStateMessages messages;
+  // Differences in case only are none to the compilers of this IDE, so the window opens without them.
   RequireCurrentProject().ShowDiff(fileName, scc::SCC_DIFF_IGNORECASE, messages);
   DisplayMessages(sShowDiff, messages);
 }
@@ -36,27 +38,28 @@ void TSccExpert::Properties(const std::string& fileName) {
 
 namespace {
 
-/// A provider project for as long as the provider's application runs.
+/// A provider project, the current one, for as long as the provider's application runs.
 class TTemporaryProject {
  public:
-  /// `list` is the expert's, which may be replaced or go while the application runs.
+  /// `list` is the expert's; it may go or be replaced by another while the application runs.
   TTemporaryProject(std::unique_ptr<TSCCProviderList>& list, const std::string& directory)
-      : list_(list), added_to_(list.get()), directory_(directory) {
+      : list_(list), directory_(directory) {
     list_->Add(directory_);
+    if (!list_->SetCurrentProject(directory_)) throw EAbort(sNoProjectFile);
+    session_ = list_->CurrentProject();
   }
   TTemporaryProject(const TTemporaryProject&) = delete;
   TTemporaryProject& operator=(const TTemporaryProject&) = delete;
   ~TTemporaryProject() {
-    if (list_.get() != added_to_) return;
+    if (!list_ || list_->CurrentProject() != session_) return;
     list_->Remove(directory_);
     list_->SetCurrentProject(directory_);  // drops the reference to the one removed
   }
-  const std::string& Directory() const { return directory_; }
 
  private:
   std::unique_ptr<TSCCProviderList>& list_;
-  const TSCCProviderList* const added_to_;
   const std::string directory_;
+  const TSCCProviderProject* session_;
 };
 
 }  // namespace
@@ -70,7 +73,6 @@ void TSccExpert::RunSccApp() {
   } else {
     auto* services = IdeService<IOTAServices>();
     temporary.emplace(provider_list_, services ? services->GetStartupDirectory() : std::string());
-    if (!provider_list_->SetCurrentProject(temporary->Directory())) throw EAbort(sNoProjectFile);
   }
   auto& session = *provider_list_->CurrentProject();
   session.set_UserName(user_name_);
@@ -128,7 +130,8 @@ void TSccExpert::ProviderAddRemove(TStringList& list, scc::SCCCommand command) {
   if (provider_list_->Capabilities().test(pcSccPopulateList)) {
     TStateMessages messages;
     TStatusArray statuses;
-    auto* project = provider_list_->CurrentProject();  // of the host's project, or of the one that is being pulled
+    auto* project =
+        provider_list_->CurrentProject();  // of the host's project, or of the one that is being pulled
     if (!project) throw EAbort(sNoMatchingPath);
     project->PopulateList(command, working, PopListFunc, statuses, messages);
     DisplayMessages(sSccPopulateList, messages);

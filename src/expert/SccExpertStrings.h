@@ -44,6 +44,7 @@ constexpr TResString sShowHistory{"Show History"};
 constexpr TResString sProperties{"Properties"};
 constexpr TResString sRunScc{"Run SCC"};
 constexpr TResString sSaveAllFailed{
+    // "Unkown" is meant: the message is known and searched for by it
     "Project and project related files must be saved before mapping: Unkown save error."};
 constexpr TResString sPulledNotOpened{"%s could not be opened"};
 constexpr TResString sFileNotSaved{"%s has unsaved changes and could not be saved"};

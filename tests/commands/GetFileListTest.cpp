@@ -4,12 +4,11 @@
 #include "expert/SccExpert.h"
 #include "host/Registry.h"
 #include "provider/SCMAddInOptions.h"
-#include "support/Environment.h"
 #include "support/ModalScript.h"
 #include "support/ScriptedForms.h"
 #include "support/ScriptedHost.h"
 #include "support/ScriptedProvider.h"
-#include "support/TemporaryFolder.h"
+#include "support/TestRegistry.h"
 #include "ui/WxText.h"
 
 using testing::ElementsAre;
@@ -40,8 +39,7 @@ struct FileList : testing::Test {
     return {form.btnOK->IsEnabled(), form.btnCheckAll->IsEnabled(), form.btnUncheckAll->IsEnabled()};
   }
 
-  TTemporaryFolder folder;
-  TEnvironmentVariable registry{"CORVANE_REGISTRY_DIR", folder.Path().c_str()};
+  TTestRegistry registry;
   TScriptedHost host;
   TScriptedForms forms;
   std::unique_ptr<TSccExpert> expert = std::make_unique<TSccExpert>(forms);
@@ -190,6 +188,19 @@ TEST_F(FileList, F1OpensTheHelpOfTheCommand) {
     form.Close();
   });
   EXPECT_THAT(host.Log, ElementsAre("HelpKeyword HC_TeamCheckInFiles"));
+}
+
+TEST_F(FileList, IsFoundByOthersOnlyWhileItGetsFiles) {
+  for (const auto command : {coGet, coCheckOut, coCheckIn}) {
+    model.CommandKind = command;
+    TGetFileListForm form(*expert, model);
+    EXPECT_EQ(GetFileListForm, command == coGet ? &form : nullptr);
+    form.AddFile("/p/unit.pas", "Current");
+    const int last = form.FilesListView->GetItemCount() - 1;
+    EXPECT_EQ(form.GetFile(last), "/p/unit.pas");
+    EXPECT_EQ(form.GetFile(-1), "");
+  }
+  EXPECT_EQ(GetFileListForm, nullptr);
 }
 
 }  // namespace

@@ -9,6 +9,7 @@
 
 using testing::ElementsAre;
 using testing::IsEmpty;
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -64,7 +65,8 @@ struct Progress : testing::Test {
   wxWeakRef<wxFrame> frame{new wxFrame(nullptr, wxID_ANY, "host")};
   wxTextCtrl* text = new wxTextCtrl(frame, wxID_ANY);
   TTime now = At(0);
-  std::unique_ptr<TProgress> work = std::make_unique<TProgress>(kCaption, 4, [this] { return now; });
+  TCallPace pace;
+  std::unique_ptr<TProgress> work = std::make_unique<TProgress>(kCaption, 4, pace, [this] { return now; });
 };
 
 TEST_F(Progress, ShowsWhatIsDoneWithoutTakingTheFocus) {
@@ -130,6 +132,34 @@ TEST_F(Progress, MakesRoomForDialogs) {
   EXPECT_THAT(Shown(), IsEmpty()) << "the next file was quick";
   StepAt(20500, 3, "c.pas");
   EXPECT_THAT(Shown(), ElementsAre("File 4 of 4", "c.pas"));
+
+  TMsgDialogForm providers("Log in", "", metQuestion);
+  ShowAndPlay<TMsgDialogForm>(providers, [this](TMsgDialogForm& dialog) {
+    StepAt(30000, 3, "d.pas");  // a line that the provider writes while its own dialog is open
+    EXPECT_THAT(Shown(), IsEmpty());
+    Click(dialog.btnOK);
+  });
+}
+
+TEST_F(Progress, IsThereBeforeACallThatTakesLong) {
+  const auto shownAtOnce = [this](std::chrono::microseconds perFileAtFirst) {
+    work = std::make_unique<TProgress>(kCaption, 4, pace, [this] { return now; });
+    work->BeginCall("Asking", perFileAtFirst);
+    return Shown();
+  };
+  EXPECT_THAT(shownAtOnce(124ms), IsEmpty());
+  now = At(600);
+  EXPECT_THAT(shownAtOnce(124ms), ElementsAre("4 files", "Asking")) << "it took 600 ms";
+  StepAt(1100, 2, "c.pas");
+  EXPECT_THAT(Shown(), ElementsAre("File 3 of 4", "c.pas"));
+  now = At(1099);
+  EXPECT_THAT(shownAtOnce(125ms), IsEmpty()) << "it took 499 ms";
+  TMsgDialogForm dialog("Log in", "", metQuestion);
+  ShowAndPlay<TMsgDialogForm>(dialog, [this](TMsgDialogForm& form) {
+    now = At(90000);
+    Click(form.btnOK);
+  });
+  EXPECT_THAT(shownAtOnce(125ms), IsEmpty()) << "the user's time does not count";
 }
 
 TEST_F(Progress, OutlivesTheHostsWindow) {

@@ -14,11 +14,11 @@
 #include "host/Errors.h"
 #include "host/Paths.h"
 #include "host/Registry.h"
-#include "support/Environment.h"
 #include "support/ScriptedForms.h"
 #include "support/ScriptedHost.h"
 #include "support/ScriptedProvider.h"
 #include "support/TemporaryFolder.h"
+#include "support/TestRegistry.h"
 #include "ui/ExpertMainMenu.h"
 
 using testing::Contains;
@@ -107,7 +107,7 @@ class TExpertTest : public testing::Test {
   }
 
   TTemporaryFolder folder_;
-  TEnvironmentVariable registry_{"CORVANE_REGISTRY_DIR", folder_.MakeFolder("registry").c_str()};
+  TTestRegistry registry_;
   ScriptedProviderLibrary provider_;
   TScriptedHost host_;
   TScriptedForms forms_;

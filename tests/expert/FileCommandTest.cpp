@@ -167,7 +167,68 @@ TEST_F(FileCommand, LongWorkReportsEveryFile) {
   WillComment("x");
   provider_->StatusOf = [&](const std::string& file) { return Long{std::ranges::count(units_, file) > 0}; };
   expert.CheckOutFiles({});
-  EXPECT_THAT(forms_.Progress, ElementsAre("Check Out File(s) 2/2", "Check Out File(s) 2/2"));
+  EXPECT_THAT(forms_.Progress,
+              ElementsAre(HasSubstr("Gathering the files"), HasSubstr("Asking for the status"),
+                          "Check Out File(s) 2/2", "Check Out File(s) 2/2"));
+}
+
+TEST_F(FileCommand, OneCallOnManyFilesReportsTheFilesThatTheProviderNames) {
+  auto& expert = Open();
+  const auto odd = folder_.Write("work/odd name.pas", "x");
+  provider_->StatusOf = [&](const std::string&) { return kMine; };
+  provider_->List = {{true, 1, odd}};
+  provider_->Texts["SccUncheckout"] = {{SCC_MSG_INFO, "Asking the repository"},
+                                       {SCC_MSG_INFO, "Reverted \"UNIT2.pas\"."},
+                                       {SCC_MSG_INFO, "Reverted \"odd name.pas\"."},
+                                       {SCC_MSG_WARNING, "unit2.pas: given back"},
+                                       {SCC_MSG_INFO, "../work/unit1.pas: given back"}};
+  WillTick({"unit1.pas", "unit2.pas", "odd name.pas"});
+  expert.UndoCheckOut({});
+  EXPECT_EQ(
+      forms_.Progress.back(),
+      "Undo Check out File(s): Waiting for the source control provider UNIT2.pas 0, name.pas 1, unit2.pas 1, "
+      "../work/unit1.pas 2");
+  EXPECT_THAT(forms_.LinesOf(mwtWarning), Contains("unit2.pas: given back"));
+  EXPECT_THAT(forms_.LinesOf(mwtInfo), Contains("Asking the repository"));
+}
+
+TEST_F(FileCommand, PartlyFailedRunKeepsCommentForTheNextOne) {
+  struct TRow {
+    void (TSccExpert::*Command)(const std::string&);
+    const char* Entry;
+    Long Status;
+  };
+  const TRow rows[] = {{&TSccExpert::AddFiles, "SccAdd", 0}, {&TSccExpert::CheckOutFiles, "SccCheckout", 1}};
+  auto& expert = Open();
+  provider_->Advanced = {SCC_COMMAND_ADD, SCC_COMMAND_CHECKOUT};
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.Entry);
+    provider_->StatusOf = [&](const std::string& file) {
+      return std::ranges::count(units_, file) > 0 ? row.Status : SCC_STATUS_DELETED | SCC_STATUS_OUTBYUSER;
+    };
+    std::vector<std::string> offered;
+    for (const bool fails : {true, false, false}) {
+      provider_->OnCall[row.Entry] = [&, fails](const ScriptedCall& call) {
+        const bool first = ExtractFileName(call.Files[0]) == "unit1.pas";
+        provider_->Results[row.Entry] = fails && first ? SCC_E_ACCESSFAILURE : SCC_OK;
+      };
+      forms_.OnFileList.push_back([&](TFileListModel& model) {
+        EXPECT_TRUE(model.HasOptions);
+        TStateMessages messages;
+        expert.ProviderList()->CurrentProject()->GetCommandOptions(model.CommandKind, coShowAdvDialog,
+                                                                   messages);
+        model.ChangeAllCheckedStates(true);
+        return mrOk;
+      });
+      forms_.OnComments.push_back([&](TCommentModel& model) {
+        offered.push_back(model.Text);
+        model.Text = "why";
+        return mrOk;
+      });
+      (expert.*row.Command)({});
+    }
+    EXPECT_THAT(offered, ElementsAre("", "why", ""));
+  }
 }
 
 TEST_F(FileCommand, CheckInIsOneCallThenMakesFilesWritableAndReloads) {

@@ -1,6 +1,7 @@
 // What the host is asked.
 #include "expert/ExpertFixture.h"
 #include "expert/SccSystem.h"
+#include "support/TestRegistry.h"
 
 namespace {
 
@@ -55,8 +56,7 @@ TEST(HostAccess, EditorsAndTheirState) {
 }
 
 TEST(HostAccess, HelpFileComesFromTheMachinesHelpKey) {
-  TTemporaryFolder folder;
-  TEnvironmentVariable registry("CORVANE_REGISTRY_DIR", folder.Path().c_str());
+  TTestRegistry registry;
   EXPECT_EQ(GetRVHelpFile("RavelinDSP.hlp"), "");
   TRegistry writer;
   writer.OpenKey("SOFTWARE\\Microsoft\\Windows\\Help");

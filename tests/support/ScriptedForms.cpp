@@ -22,16 +22,25 @@ class TScriptedProgress final : public IProgress {
   TScriptedProgress(const TScriptedProgress&) = delete;
   TScriptedProgress& operator=(const TScriptedProgress&) = delete;
   ~TScriptedProgress() override {
-    if (forms_.Recording)
-      forms_.Progress.push_back(caption_ + " " + std::to_string(steps_) + "/" + std::to_string(total_));
+    if (!forms_.Recording) return;
+    forms_.Progress.push_back(
+        call_.empty() ? caption_ + " " + std::to_string(steps_) + "/" + std::to_string(total_) : call_);
   }
-  void Step(std::size_t, const std::string&) override { ++steps_; }
+  void Step(std::size_t done, const std::string& what) override {
+    ++steps_;
+    if (call_.empty()) return;
+    call_ += (steps_ == 1 ? " " : ", ") + what + " " + std::to_string(done);
+  }
+  void BeginCall(const std::string& what, std::chrono::microseconds) override {
+    call_ = caption_ + ": " + what;
+  }
 
  private:
   TScriptedForms& forms_;
   std::string caption_;
   std::size_t total_;
   std::size_t steps_ = 0;
+  std::string call_;
 };
 
 int Next(auto& script, auto& model, const std::string& what, std::vector<std::string>& unexpected) {

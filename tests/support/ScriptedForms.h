@@ -50,6 +50,7 @@ class TScriptedForms final : public IExpertForms {
   std::string ShowPullProject(TSccExpert& expert) override;
   std::unique_ptr<IProgress> StartProgress(const std::string& caption, std::size_t total) override;
 
-  /// Captions of the progress shown, each with how many of how many files were reported.
+  /// Captions of the progress shown, each with how many of how many files were reported.  Of one call: what it was said
+  /// to do, then each file with how many were done.
   std::vector<std::string> Progress;
 };

@@ -1,0 +1,62 @@
+#include "expert/CallProgress.h"
+
+#include <algorithm>
+#include <string_view>
+
+#include "host/Paths.h"
+
+namespace {
+
+using namespace std::chrono_literals;
+
+// Until a call has shown it: what a file costs a provider whose repository is on this machine.
+constexpr std::chrono::microseconds kPerFile[]{100us, 1ms};  // by TCallProgress::Kind
+
+constexpr const char* kBeforeNames = "\"'`([<";
+constexpr const char* kBehindNames = "\"'`)]>.,:;!";
+
+std::string LastWordOf(const std::string& fileName) {
+  const auto name = FoldCase(ExtractFileName(fileName));
+  return name.substr(name.find_last_of(' ') + 1);
+}
+
+std::string_view Bare(std::string_view word) {
+  const auto begin = std::min(word.find_first_not_of(kBeforeNames), word.size());
+  return word.substr(begin, word.find_last_not_of(kBehindNames) + 1 - begin);
+}
+
+}  // namespace
+
+TCallProgress::TCallProgress(IExpertForms& forms, const std::string& caption, Kind kind,
+                             const std::string& what, const TStringList& files)
+    : files_(files), progress_(forms.StartProgress(caption, files.size())) {
+  progress_->BeginCall(what, kPerFile[static_cast<int>(kind)]);
+  previous_ = SetProviderSink(this);
+}
+
+TCallProgress::~TCallProgress() { SetProviderSink(previous_); }
+
+void TCallProgress::Line(IProviderSink::Kind kind, const std::string& text) {
+  if (previous_) previous_->Line(kind, text);
+  if (const auto file = FileNamedIn(text); !file.empty()) {
+    named_.insert(FoldCase(file));
+    latest_ = file;
+  }
+  if (!named_.empty()) progress_->Step(std::min(named_.size(), files_.size()) - 1, latest_);
+}
+
+void TCallProgress::Box(const std::string& text) {
+  if (previous_) previous_->Box(text);
+}
+
+std::string TCallProgress::FileNamedIn(const std::string& line) {
+  if (names_.empty())
+    for (const auto& file : files_) names_.insert(LastWordOf(file));
+  for (std::size_t at = 0; at < line.size();) {
+    const auto end = std::min(line.find(' ', at), line.size());
+    const std::string word(Bare(std::string_view(line).substr(at, end - at)));
+    if (!word.empty() && names_.contains(FoldCase(ExtractFileName(word)))) return word;
+    at = end + 1;
+  }
+  return {};
+}
