@@ -10,6 +10,7 @@
 #include <svn_utf.h>
 
 #include <algorithm>
+#include <atomic>
 #include <cstdlib>
 #include <mutex>
 
@@ -18,16 +19,27 @@
 namespace svnscc {
 namespace {
 
+std::atomic<bool> runtimeEnded = false;
+
+/// Releases what Subversion keeps for the whole process, its cache first of all.
+void EndRuntime() {
+  runtimeEnded = true;
+  apr_terminate();
+}
+
 void StartRuntime() {
   if (apr_initialize() != APR_SUCCESS) throw Failure(scc::SCC_E_INITIALIZEFAILED, sNoRuntime);
+  std::atexit(EndRuntime);
   Check(svn_dso_initialize2());
   // A client in the C locale still means UTF-8, and must not be stopped by a broken promise inside Subversion.
   static const Pool forever;
   svn_utf_initialize2(TRUE, forever);
   svn_error_set_malfunction_handler(svn_error_raise_on_malfunction);
-  // By default 16 MB of the client's memory are taken for good, at the first local repository; commands are short.
+  // A local repository reads and parses the whole list of a folder for each entry it looks up, unless the list is in the
+  // cache; and a list of thousands of entries only fits into one that is in a single piece.  That is for one thread at a
+  // time: the provider does not claim to be re-entrant.
   svn_cache_config_t cache = *svn_cache_config_get();
-  cache.cache_size = 0;
+  cache.single_threaded = TRUE;
   svn_cache_config_set(&cache);
   Check(svn_fs_initialize(nullptr));
   Check(svn_ra_initialize(forever));
@@ -54,6 +66,8 @@ svn_error_t* TakeCommit(const svn_commit_info_t* info, void* baton, apr_pool_t*)
 }
 
 }  // namespace
+
+bool HasRuntimeEnded() noexcept { return runtimeEnded; }
 
 void EnsureRuntime() {
   static std::once_flag started;

@@ -11,8 +11,8 @@
 
 namespace svnscc {
 
-/// Readies APR and Subversion for this process, once; later calls do nothing.  Nothing undoes it: see nodelete in
-/// CMakeLists.txt.  Throws Failure.
+/// Readies APR and Subversion for this process, once; later calls do nothing.  They last until the process ends: see
+/// nodelete in CMakeLists.txt.  Throws Failure.
 void EnsureRuntime();
 
 /// Not movable: libsvn keeps its address.

@@ -15,6 +15,9 @@
 
 namespace svnscc {
 
+/// Whether the process is ending and all of APR's memory is gone already.
+bool HasRuntimeEnded() noexcept;
+
 /// A memory pool of APR: everything allocated in it lives as long as it does.
 class Pool {
  public:
@@ -26,7 +29,8 @@ class Pool {
     return *this;
   }
   ~Pool() {
-    if (pool_ != nullptr) svn_pool_destroy(pool_);
+    // A client may keep its session in a static object, which goes after the runtime.
+    if (pool_ != nullptr && !HasRuntimeEnded()) svn_pool_destroy(pool_);
   }
   operator apr_pool_t*() const { return pool_; }
   void Clear() { svn_pool_clear(pool_); }

@@ -3,6 +3,8 @@
 
 #include <array>
 #include <clocale>
+#include <cstdlib>
+#include <memory>
 
 #include "Developer.h"
 
@@ -89,4 +91,17 @@ TEST(Library, ReadsNamesAsUtf8InAnyLocale) {
   EXPECT_EQ("für alle", repository.Log(2));
   EXPECT_TRUE(repository.Exists("Prüfung/Maß.pas"));
   std::setlocale(LC_ALL, before.c_str());
+}
+
+namespace {
+std::unique_ptr<TDeveloper> late;  // goes after everything that is made while the program runs
+}
+
+TEST(Library, AllowsItsSessionToGoWhenTheProcessEnds) {
+  const TTestRepository repository;
+  const auto work = [&] {
+    late = std::make_unique<TDeveloper>("ann");
+    std::exit(late->Open(repository.Url(), "project") == scc::SCC_OK ? 0 : 1);
+  };
+  EXPECT_EXIT(work(), testing::ExitedWithCode(0), "");
 }
