@@ -8,6 +8,7 @@
 #include "Commands.h"
 #include "LocalStatus.h"
 #include "OpenProject.h"
+#include "Repository.h"
 #include "SetAside.h"
 #include "SubversionSccStrings.h"
 #include "host/System.h"
@@ -23,28 +24,38 @@ void ForgetDeleted(Session& session, const std::string& path) {
   Update(session, {path});
 }
 
-/// Whether the repository can have the file or folders above it that the working copy does not know yet.
-bool MayBeInRepository(const Session& session, const StatusTable& walked, const std::string& path) {
-  for (std::string at = path; at != session.CurrentProject().Folder; at = ParentOf(at))
-    if (walked.Of(at).Bits != 0) return at == path || !AskLocal(session, at).IsControlled();
-  return false;
+/// The file, or the outermost of the folders above it that the working copy does not know: what is not in the repository
+/// under that name is not there below it either.
+std::string OutermostUnknown(const Session& session, const std::string& path) {
+  const auto folders = NewFoldersAbove(session, path);
+  return folders.empty() ? path : folders.front();
+}
+
+/// Whether the repository can have the file or folders above it that the working copy does not know yet.  `walked` is
+/// nullptr when nothing was asked so far.
+bool MayBeInRepository(Session& session, const StatusTable* walked, const std::string& path) {
+  const std::string unknown = OutermostUnknown(session, path);
+  if (walked != nullptr) return walked->Of(unknown).Bits != 0;
+  const Project& project = session.CurrentProject();
+  const char* inside = svn_dirent_skip_ancestor(project.Folder.c_str(), unknown.c_str());
+  return KindOf(session.Svn(), UrlOf(project.Url, inside)) != svn_node_none;
 }
 
 /// What `path` is after the working copy learnt what the repository has of it and its folders.
-LocalStatus Acquaint(Session& session, const std::string& path, bool mayBeInRepository) {
+LocalStatus Acquaint(Session& session, const StatusTable* walked, const std::string& path) {
   const LocalStatus local = AskLocal(session, path);
-  if (local.State == LocalState::Unversioned && mayBeInRepository) {
-    Update(session, {path});
+  if (local.State == LocalState::Unversioned) {
+    if (MayBeInRepository(session, walked, path)) Update(session, {path});
   } else if (local.IsControlled() && IsOnDisk(path)) {
     ForgetDeleted(session, path);
   }
   return AskLocal(session, path);
 }
 
-void CheckAddable(Session& session, const std::string& path, bool mayBeInRepository) {
+void CheckAddable(Session& session, const StatusTable* walked, const std::string& path) {
   if (!IsOnDisk(path)) throw Failure(scc::SCC_E_FILENOTEXIST, sFileMissing);
   if (!FileExists(path)) throw Failure(scc::SCC_E_TYPENOTSUPPORTED, sNotAFile);
-  const LocalStatus local = Acquaint(session, path, mayBeInRepository);
+  const LocalStatus local = Acquaint(session, walked, path);
   if (local.IsControlled()) throw Failure(scc::SCC_E_FILEALREADYEXISTS, sAlreadyControlled);
 }
 
@@ -79,9 +90,10 @@ class Addition {
   Addition(Session& session, const std::string& comment, Outcome& outcome)
       : session_(session), comment_(comment), outcome_(outcome) {}
 
-  void Take(const std::string& path, scc::Long type, const CommandOptions& options, bool mayBeInRepository) {
+  void Take(const std::string& path, scc::Long type, const CommandOptions& options,
+            const StatusTable* walked) {
     if (!known_.insert(path).second) return;  // clients name a form twice when they add it with its unit
-    CheckAddable(session_, path, mayBeInRepository);
+    CheckAddable(session_, walked, path);
     const auto folders = NewFoldersAbove(session_, path);
     folders_.insert(folders.begin(), folders.end());
     scheduled_.push_back(path);
@@ -195,7 +207,8 @@ scc::Long Add(Session& session, Names names, const std::string& comment, scc::Lo
   Outcome outcome(session);
   EnsureWorkingCopy(session);
   const auto paths = outcome.PathsOf(names);
-  // One file is asked for alone; for more, one walk costs less.
+  // One file is asked for alone (an update in place of the question would also wait for the clock's next tick); for
+  // more, one walk costs less.
   const bool many = paths.size() > 1;
   const StatusTable walked = many ? WalkProject(session) : StatusTable{};
   if (walked.Result < 0) return walked.Result;
@@ -204,9 +217,7 @@ scc::Long Add(Session& session, Names names, const std::string& comment, scc::Lo
   std::vector<std::string> added;
   try {
     for (const auto& path : paths)
-      outcome.Try(path, [&] {
-        addition.Take(path, type, options, !many || MayBeInRepository(session, walked, path));
-      });
+      outcome.Try(path, [&] { addition.Take(path, type, options, many ? &walked : nullptr); });
     added = addition.Run();
   } catch (const Failure&) {
     addition.Abandon();
