@@ -163,9 +163,8 @@ void TCommitBrowser::StringGrid1SelectCell(wxGridEvent& event) {
 
 void TCommitBrowser::PlaceActivities(int row) {
   StringGrid1->MakeCellVisible(row, cgcActivity);
-  const auto cell = StringGrid1->CellToRect(row, cgcActivity);
   ActivityComboBox->SetSelection(RowAt(row)->Activity);
-  ActivityComboBox->SetSize({StringGrid1->CalcScrolledPosition(cell.GetTopLeft()), cell.GetSize()});
+  ActivityComboBox->SetSize(StringGrid1->ShownRect(row, cgcActivity));
   ActivityComboBox->Show();
   ActivityComboBox->SetFocus();
 }
@@ -254,7 +253,7 @@ bool TCommitBrowser::GridKeyDown(const wxKeyEvent& event) {
                                     static_cast<int>(WXK_NUMPAD_ENTER), static_cast<int>(WXK_F2),
                                     static_cast<int>(WXK_F4)};
   if (std::ranges::count(kOpeningKeys, key)) return OpenActivities(row->Activity), true;
-  return inList && StringGrid1->MoveWith(key);
+  return StringGrid1->MoveWith(key);  // the grid's own Home and End would stay in the row
 }
 
 bool TCommitBrowser::TurnToPage(const wxKeyEvent& event) {
@@ -263,17 +262,18 @@ bool TCommitBrowser::TurnToPage(const wxKeyEvent& event) {
     wxNotebook* Book;
     std::size_t Page;
     TResString Caption;
-  } pages[] = {{TCommitPageControl, 0, sCommitsPage},
-               {TCommitPageControl, 1, sSummaryCommentPage},
-               {TFileDisplayPageControl, 0, sIndividualCommentPage},
-               {TFileDisplayPageControl, 1, sLocalSourcePage},
-               {TFileDisplayPageControl, 2, sDiffAndHistoryPage}};
+    wxWindow* First;  // where the keyboard goes
+  } pages[] = {{TCommitPageControl, 0, sCommitsPage, StringGrid1},
+               {TCommitPageControl, 1, sSummaryCommentPage, TMemoSummaryComments},
+               {TFileDisplayPageControl, 0, sIndividualCommentPage, TMemoIndividualComment},
+               {TFileDisplayPageControl, 1, sLocalSourcePage, TMemoWorkspaceSource},
+               {TFileDisplayPageControl, 2, sDiffAndHistoryPage, TButtonShowDiff}};
   if (event.GetModifiers() != wxMOD_ALT) return false;
-  for (const auto& [book, page, caption] : pages) {
+  for (const auto& [book, page, caption, first] : pages) {
     const std::string_view text = caption;
     if (wxToupper(text[text.find('&') + 1]) != event.GetKeyCode() || !book->IsShownOnScreen()) continue;
     book->SetSelection(page);
-    book->GetPage(page)->SetFocus();
+    first->SetFocus();
     return true;
   }
   return false;

@@ -56,7 +56,7 @@ void TCommitBrowser::CreateControls() {
 void TCommitBrowser::CreateCommitPage() {
   StringGrid1 = new TCommitGrid(TTabSheetCommit);
   StringGrid1->SetMinSize(FromDIP(wxSize(-1, kGridHeight)));
-  ActivityComboBox = new TActivityComboBox(StringGrid1->GetGridWindow());
+  ActivityComboBox = new TActivityComboBox(StringGrid1);
   TCheckBoxPathTrim = NewBox(TTabSheetCommit, sTrimFilePath, true);
   TFileDisplayPageControl = new wxNotebook(TTabSheetCommit, wxID_ANY);
   TFileDisplayPageControl->SetMinSize(FromDIP(wxSize(-1, kFilePagesHeight)));

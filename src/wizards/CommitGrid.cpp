@@ -77,6 +77,11 @@ void TCommitGrid::FitColumns() {
   for (int column = 0; column < kCommitColumns; ++column) SetColSize(column, std::max(width, kLine));
 }
 
+wxRect TCommitGrid::ShownRect(int row, int column) const {
+  const auto cell = CellToRect(row, column);
+  return {GetGridWindow()->GetPosition() + CalcScrolledPosition(cell.GetTopLeft()), cell.GetSize()};
+}
+
 bool TCommitGrid::MoveWith(int key) {
   const int column = GetGridCursorCol();
   switch (key) {

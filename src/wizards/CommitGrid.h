@@ -45,11 +45,14 @@ class TCommitGrid final : public wxGrid {
   void Fill(TCommitTable* table, int rowHeight);
   /// Gives all columns the same width.
   void FitColumns();
+  /// Where the cell is in the grid's own window as it is scrolled now.
+  wxRect ShownRect(int row, int column) const;
   /// Moves the cursor as an arrow, page, Home or End key does; false for any other key.
   bool MoveWith(int key);
 };
 
-/// The list of activities.  It can be opened with an item pointed at that is not yet chosen.
+/// The list of activities, a child of the grid and not of its window of cells: GTK complains about hidden windows where
+/// it scrolls.  It can be opened with an item pointed at that is not yet chosen.
 class TActivityComboBox final : public wxOwnerDrawnComboBox {
  public:
   explicit TActivityComboBox(wxWindow* parent);

@@ -102,7 +102,9 @@ TEST_F(CommitBrowser, TheDropDownFloatsOverTheFirstColumn) {
     EXPECT_TRUE(list.IsShown());
     EXPECT_TRUE(IsFocused(&list));
     EXPECT_EQ(list.GetSelection(), caCommit);
-    EXPECT_EQ(list.GetRect(), grid.CellToRect(2, cgcActivity));
+    EXPECT_EQ(list.GetSize(), grid.CellToRect(2, cgcActivity).GetSize());
+    EXPECT_EQ(grid.GetGridWindow()->ScreenToClient(list.GetScreenPosition()),
+              grid.CellToRect(2, cgcActivity).GetTopLeft());
     EXPECT_TRUE(Preview(&list, WXK_TAB));
     EXPECT_TRUE(IsFocused(&list)) << "Tab stays in it";
 
@@ -162,6 +164,10 @@ TEST_F(CommitBrowser, TheKeyboardReachesTheActivities) {
     Preview(&list, WXK_RIGHT);
     EXPECT_TRUE(IsFocused(&grid));
     EXPECT_FALSE(list.IsShown());
+    Preview(&grid, WXK_HOME);
+    EXPECT_EQ(grid.GetGridCursorRow(), 0);
+    Preview(&grid, WXK_END);
+    EXPECT_EQ(grid.GetGridCursorRow(), 3);
     Preview(&grid, WXK_ESCAPE);
   });
 }
@@ -243,17 +249,20 @@ TEST_F(CommitBrowser, ButtonsAndKeysLeadToTheProviderAndTheHelp) {
       int Letter;
       wxNotebook* Book;
       int Page;
-    } pages[] = {{'L', form.TFileDisplayPageControl, 1},
-                 {'I', form.TFileDisplayPageControl, 0},
-                 {'D', form.TFileDisplayPageControl, 2},
-                 {'S', form.TCommitPageControl, 1},
-                 {'O', form.TCommitPageControl, 0}};
+      wxWindow* First;
+    } pages[] = {{'L', form.TFileDisplayPageControl, 1, form.TMemoWorkspaceSource},
+                 {'O', form.TCommitPageControl, 0, form.StringGrid1},
+                 {'I', form.TFileDisplayPageControl, 0, form.TMemoIndividualComment},
+                 {'D', form.TFileDisplayPageControl, 2, form.TButtonShowDiff},
+                 {'S', form.TCommitPageControl, 1, form.TMemoSummaryComments},
+                 {'O', form.TCommitPageControl, 0, form.StringGrid1}};
     for (const auto& page : pages) {
       wxKeyEvent event(wxEVT_CHAR_HOOK);
       event.m_keyCode = page.Letter;
       event.SetAltDown(true);
       form.FormKeyDown(event);
       EXPECT_EQ(page.Book->GetSelection(), page.Page);
+      EXPECT_TRUE(IsFocused(page.First)) << static_cast<char>(page.Letter);
     }
     Click(form.TButtonShowDiff);
     EXPECT_THAT(provider_->Last("SccDiff").Files, ElementsAre(units_[0]));
