@@ -66,7 +66,8 @@ class TSccExpert final : public TNotifierObject, public IOTAWizard {
   /// The display name of the machine's default provider; `name` is left alone when there is none.
   void ReadDefaultProvider(std::string& name);
   /// The user chose another provider in the options dialog: drops the old one, library included, and creates the new
-  /// one at once.  Throws EAbort when that fails.
+  /// one at once.  A library may refuse to leave the process (that of Subversion does, because what it links cannot be
+  /// torn down); it is out of use all the same, and comes back as it was.  Throws EAbort when that fails.
   void ChooseProvider(const std::string& provider, const std::string& userName);
   /// Creates the provider list for the current library path; false without a path.  Throws EAbort when the library
   /// cannot be loaded.  `param` is the parent window of the provider's dialogs, 0 for none.

@@ -126,4 +126,28 @@ TEST_F(Settings, ChoosingAProviderEndsTheOldOneBeforeTheNewOneStarts) {
   EXPECT_TRUE(provider_->Open) << "the project's own mapping holds again";
 }
 
+/// Marks a scripted provider's library; whether it bore the mark.  Its data start afresh with every loading.
+bool MarkLibrary(const std::string& path) {
+  const auto library = LoadModule(path, nullptr);
+  const auto control =
+      reinterpret_cast<ScriptedProvider* (*)()>(FindSymbol(library, "ScriptedProviderControl"));
+  const bool marked = std::exchange(control()->Name, "marked") == "marked";
+  FreeModule(library);
+  return marked;
+}
+
+TEST_F(Settings, OldLibraryIsUnloadedBeforeTheNewProviderStarts) {
+  const auto first = At("first.so");
+  std::filesystem::copy_file(ScriptedProviderLibrary::Path(), first);
+  InstallProvider("First", first, false);
+  auto& expert = Start();
+  expert.ChooseProvider("First", "ann");
+  MarkLibrary(first);
+  EXPECT_TRUE(MarkLibrary(first)) << "in use";
+  bool stillLoaded = true;
+  provider_->OnCall["SccInitialize"] = [&](const ScriptedCall&) { stillLoaded = MarkLibrary(first); };
+  expert.ChooseProvider(kScripted, "ann");
+  EXPECT_FALSE(stillLoaded);
+}
+
 }  // namespace
