@@ -1,5 +1,6 @@
 #include "wizards/PlaceProjectPages.h"
 
+#include <algorithm>
 #include <unordered_set>
 
 #include "expert/MappingFile.h"
@@ -42,7 +43,7 @@ void TPlaceProjectPages::ShowPage(int page) {
 void TPlaceProjectPages::PageSelectProjectDisplay() {
   Show(2, sWizardNext, !ProjectName().empty());
   if (SkipsProjectPage()) {
-    EnsureProject().set_ProjName(IncludeTrailingPathDelimiter(directory_));
+    NameProject(IncludeTrailingPathDelimiter(directory_));
     NextFinishButtonClick();
   } else {
     ProjectBrowserButtonClick();
@@ -68,7 +69,7 @@ void TPlaceProjectPages::PageSelectFilesDisplay() {
 }
 
 void TPlaceProjectPages::PlaceProject() {
-  PageStatusDisplay();
+  PageStatusDisplay(Work::CanStop);
   bool placed = false;
   try {
     placed = Place();
@@ -92,10 +93,19 @@ bool TPlaceProjectPages::Place() {
   TProviderWords words;
   const bool opened = Open(mapping, words);
   // Whatever came of it: without an open project each file says for itself that it cannot be added.
-  for (std::size_t row = 0; row < files_.size(); ++row)
-    if (ticked_[row]) AddFile(row, words);
-  if (opened) AddStatus(sPlaceSucceeded);
+  AddFiles(words);
+  if (opened && !IsStopped()) AddStatus(sPlaceSucceeded);
   return opened;
+}
+
+void TPlaceProjectPages::AddFiles(TProviderWords& words) {
+  auto left = static_cast<long long>(std::ranges::count(ticked_, true));
+  for (std::size_t row = 0; row < files_.size() && !IsStopped(); ++row)
+    if (ticked_[row]) {
+      AddFile(row, words);
+      --left;
+    }
+  if (IsStopped()) AddStatus(Format(sPlaceStopped.Text, {left}));
 }
 
 bool TPlaceProjectPages::Open(TMappingFile& mapping, TProviderWords& words) {

@@ -30,6 +30,7 @@ class TPlaceProjectPages final : public TWizardPages {
   void PlaceProject();
   bool Place();
   bool Open(class TMappingFile& mapping, TProviderWords& words);
+  void AddFiles(TProviderWords& words);
   void AddFile(std::size_t row, TProviderWords& words);
   void RollBack();
 

@@ -11,6 +11,7 @@ constexpr TResString sPlaceAddOk{"Add %s: ok"};
 constexpr TResString sPlaceAddFailed{"Add %s: failed"};
 constexpr TResString sPlaceReason{"      %s"};  // stands under the line above
 constexpr TResString sPlaceSucceeded{"Succeeded"};
+constexpr TResString sPlaceStopped{"Stopped. Files that were not added: %d. Team | Add Files... adds them."};
 
 // Controls.
 constexpr TResString sPlaceSelectFiles{"Select files for initial check-in"};

@@ -133,22 +133,23 @@ scc::Long TPullProjectPages::Browse(TSCCProviderProject& project, TStateMessages
   return code;
 }
 
-void TPullProjectPages::SayProgress(std::string text) {
-  progress_ = std::move(text);
+/// What is done from here on.  The provider may say nothing for minutes: the line must be there before.
+void TPullProjectPages::BeginStep(const TResString& text) {
+  progress_ = text;
   Changed();
 }
 
 void TPullProjectPages::PullProject() {
   FProjectFile.clear();
   can_open_ = false;
-  PageStatusDisplay();
+  PageStatusDisplay(Work::Uninterrupted);
   try {
     can_open_ = Pull();
   } catch (const std::exception& error) {
     AddStatus(error.what());
   }
   Finish();
-  SayProgress({});
+  progress_.clear();
   Complete(can_open_);
 }
 
@@ -156,10 +157,8 @@ bool TPullProjectPages::Pull() {
   MakeDirectory(target_);
   MoveToTarget();
   TProviderWords words;
-  SayProgress(sPullOpening);
-  if (!Open(words)) return false;
-  SayProgress(sPullListing);
-  const auto expected = FindProjectFile();
+  BeginStep(sPullOpening);
+  const auto expected = Open(words) ? FindProjectFile() : 0;
   if (FProjectFile.empty()) {
     AddStatus(sPullNoProjectFile);
     return false;
@@ -180,6 +179,7 @@ bool TPullProjectPages::Open(TProviderWords& words) {
 
 /// Sets FProjectFile; returns how many files the project has.
 std::size_t TPullProjectPages::FindProjectFile() {
+  BeginStep(sPullListing);
   TStringList files;
   Project();  // the one whose files are asked for
   FExpert.ProviderAddRemove(files, scc::SCC_COMMAND_GET);
@@ -190,11 +190,12 @@ std::size_t TPullProjectPages::FindProjectFile() {
 }
 
 bool TPullProjectPages::Fetch(std::size_t expected) {
-  SayProgress(sPullFetching);
+  BeginStep(sPullFetching);
   long long done = 0;
   TProviderWords words([&](const std::string& line) {
     done = std::min(done + 1, static_cast<long long>(expected));
-    SayProgress(Format(sPullFetched.Text, {done, static_cast<long long>(expected), line}));
+    progress_ = Format(sPullFetched.Text, {done, static_cast<long long>(expected), line});
+    Progressed();
   });
   TStateMessages messages;
   const auto code = Project().GetFilesAndDirs({target_}, messages);
@@ -204,7 +205,7 @@ bool TPullProjectPages::Fetch(std::size_t expected) {
 }
 
 void TPullProjectPages::ListFetched() {
-  SayProgress(sPullChecking);
+  BeginStep(sPullChecking);
   TStringList entries;
   SearchRecursiveFiles(entries, target_);
   TStatusArray statuses;

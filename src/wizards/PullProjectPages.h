@@ -41,7 +41,7 @@ class TPullProjectPages final : public TWizardPages {
   void WriteMapping();
   void Finish();
   void MoveToTarget();
-  void SayProgress(std::string text);
+  void BeginStep(const TResString& text);
 
   std::string target_;
   std::string note_;

@@ -1,5 +1,6 @@
 #include "wizards/WizardForm.h"
 
+#include <wx/evtloop.h>
 #include <wx/statline.h>
 #include <wx/wx.h>
 
@@ -33,6 +34,9 @@ void TWizardForm::FormCreate() {
   LayOut();
   BindEvents();
   pages_.OnChange = [this] { Changed(); };
+  pages_.OnProgress = [this] {
+    if (TClock::now() >= next_update_) Changed();
+  };
   pages_.FormCreate(reinterpret_cast<TWindowHandle>(GetHandle()));
 }
 
@@ -125,16 +129,14 @@ void TWizardForm::SetSentence(wxStaticText* label, const std::string& text) {
 }
 
 void TWizardForm::Changed() {
-  const auto& page = pages_.Page();
-  const bool working = page.Panel == kStatusPanel && !page.Next;
-  const auto now = TClock::now();
-  if (working && panel_ == kStatusPanel && now < next_update_) return;
-  next_update_ = now + kBetweenUpdates;
   UpdatePage();
-  if (!working) return;
+  if (!pages_.Page().Working) return;
   Update();
-  // Painting only: clicks and keys stay where they are until the work is done.
-  wxTheApp->SafeYieldFor(nullptr, wxEVT_CATEGORY_UI);
+  // The user's clicks and keys too: they reach this form only, and no button of it but Cancel can be pressed.  Left where
+  // they are they would act on what is shown when the work is done.
+  auto* loop = wxEventLoopBase::GetActive();
+  if (loop && !loop->IsYielding()) loop->YieldFor(wxEVT_CATEGORY_UI | wxEVT_CATEGORY_USER_INPUT);
+  next_update_ = TClock::now() + kBetweenUpdates;
 }
 
 void TWizardForm::UpdatePage() {
@@ -148,7 +150,7 @@ void TWizardForm::UpdatePage() {
   NextFinishButton->SetLabel(ToWx(page.NextCaption));
   NextFinishButton->Enable(page.Next);
   BackButton->Enable(page.Back);
-  CancelButton->Enable(panel_ != kStatusPanel);  // the work is done: there is nothing left to cancel
+  CancelButton->Enable(page.Cancel);
   UpdateProviders();
   if (FromWx(ProjectName->GetValue()) != pages_.ProjectName())
     ProjectName->ChangeValue(ToWx(pages_.ProjectName()));
@@ -180,14 +182,15 @@ wxWindow* TWizardForm::FirstControl(int panel) const {
 
 void TWizardForm::MoveFocus() {
   auto* control = FirstControl(panel_);
-  (control ? control : NextFinishButton)->SetFocus();
+  if (!control) control = pages_.Page().Working ? static_cast<wxWindow*>(lbStatus) : NextFinishButton;
+  control->SetFocus();
 }
 
 void TWizardForm::FormKeyDown(wxKeyEvent& event) {
   const bool control = event.GetModifiers() == wxMOD_CONTROL;
   const int key = event.GetKeyCode();
   auto* application = IdeService<IOTAApplication>();
-  if (key == WXK_F1 && application && !HelpKeyword().empty())
+  if (key == WXK_F1 && application && !HelpKeyword().empty() && !pages_.Page().Working)
     application->HelpKeyword(HelpKeyword());
   else if (control && key == 'A' && lbStatus->IsDescendant(FindFocus()))
     lbStatus->SelectAll();
@@ -205,6 +208,11 @@ void TWizardForm::NextFinishButtonClick(wxCommandEvent&) {
 }
 
 void TWizardForm::CancelButtonClick(wxCommandEvent&) { CloseWith(mrCancel); }
+
+void TWizardForm::CloseWith(int modalResult) {
+  if (pages_.CancelButtonClick()) TModalForm::CloseWith(modalResult);
+}
+
 void TWizardForm::ProjectBrowserButtonClick(wxCommandEvent&) { pages_.ProjectBrowserButtonClick(); }
 void TWizardForm::ProjectNameChange(wxCommandEvent&) {
   pages_.ProjectNameChange(FromWx(ProjectName->GetValue()));

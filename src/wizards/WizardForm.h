@@ -46,11 +46,13 @@ class TWizardForm : public TModalForm {
   void FormCreate();
   /// Brings the controls of the derived form in line with its pages.
   virtual void UpdateControls() {}
-  /// Where the keyboard goes on that panel; nullptr: to the Next button.
+  /// Where the keyboard goes on that panel; nullptr: to the Next button, or to the status list while it grows.
   virtual wxWindow* FirstControl(int panel) const;
   /// The help of the form; empty when there is none.
   virtual std::string HelpKeyword() const { return {}; }
   void FormKeyDown(wxKeyEvent& event) override;
+  /// Whoever closes it: not while it works.
+  void CloseWith(int modalResult) override;
 
   /// A panel's column, with the margins that all panels have.
   static wxBoxSizer* ColumnOf(wxPanel* panel);

@@ -30,6 +30,10 @@ void TWizardPages::Changed() const {
   if (OnChange) OnChange();
 }
 
+void TWizardPages::Progressed() const {
+  if (OnProgress) OnProgress();
+}
+
 void TWizardPages::FormCreate(TWindowHandle window) {
   window_ = window;
   Attempt([this] {
@@ -115,6 +119,7 @@ void TWizardPages::Show(int panel, const TResString& next, bool nextEnabled) {
   page_.Panel = panel;
   page_.Back = true;
   page_.Next = nextEnabled;
+  page_.Cancel = true;
   page_.NextCaption = next;
   page_.NoProviders = false;
   Changed();  // what follows may open the provider's dialog, with this page behind it
@@ -132,14 +137,19 @@ void TWizardPages::PageSelectProviderDisplay() {
   page_.Next = !none && !page_.NoProviders;
 }
 
-void TWizardPages::PageStatusDisplay() {
+void TWizardPages::PageStatusDisplay(Work work) {
   status_.clear();
+  stopped_ = false;
+  page_.Working = true;
   Show(4, sWizardClose, false);
   page_.Back = false;
+  page_.Cancel = work == Work::CanStop;
   Changed();
 }
 
 void TWizardPages::Complete(bool succeeded) {
+  page_.Working = false;
+  page_.Cancel = false;  // there is nothing left to cancel
   page_.Next = true;
   page_.Back = !succeeded;  // what failed can be corrected and tried again
   Changed();
@@ -162,6 +172,15 @@ void TWizardPages::NextFinishButtonClick() {
     ++FPage;
     DisplayPage();
   });
+}
+
+bool TWizardPages::CancelButtonClick() {
+  if (!page_.Working) return true;
+  if (!page_.Cancel) return false;
+  stopped_ = true;
+  page_.Cancel = false;
+  Changed();
+  return false;
 }
 
 void TWizardPages::Pick(const TSCCProviderProject& project) {
@@ -187,15 +206,20 @@ void TWizardPages::ProjectBrowserButtonClick() {
 
 void TWizardPages::ProjectNameChange(const std::string& text) {
   Attempt([&] {
-    project_name_ = picked_.ProjName = text;
+    project_name_ = text;
     page_.Next = !text.empty();
-    EnsureProject().set_ProjName(text);
+    NameProject(text);
   });
+}
+
+void TWizardPages::NameProject(const std::string& name) {
+  picked_.ProjName = name;
+  EnsureProject().set_ProjName(name);
 }
 
 void TWizardPages::AddStatus(std::string line) {
   status_.push_back(std::move(line));
-  Changed();
+  Progressed();
 }
 
 void TWizardPages::AddReasons(TProviderWords& words, const TStateMessages& messages, const char* format) {

@@ -15,6 +15,8 @@ struct TWizardPage {
   int Panel = 1;  ///< which of the form's four panels
   bool Back = false;
   bool Next = false;
+  bool Cancel = true;
+  bool Working = false;  ///< on the status page, until everything is done
   std::string NextCaption;
   bool NoProviders = false;  ///< the notice on the provider page
   std::string Problem;       ///< a sentence: why it does not go on; empty when nothing is in the way
@@ -29,9 +31,10 @@ class TWizardPages {
   TWizardPages& operator=(const TWizardPages&) = delete;
   virtual ~TWizardPages() = default;
 
-  /// Called whenever the form should look again: Page(), texts or Status() have changed.  Called for every line of the
-  /// status page: must be cheap.
+  /// Called whenever the form should look again: Page() or texts have changed.
   std::function<void()> OnChange;
+  /// Called while the work goes on, for every line: must be cheap.  May let the user press Cancel, and nothing else.
+  std::function<void()> OnProgress;
 
   /// Fills the list of providers, creates the chosen one and shows the first page.  `window` is the parent of the
   /// provider's dialogs.
@@ -40,6 +43,8 @@ class TWizardPages {
   // The form's handlers.
   void BackButtonClick();
   void NextFinishButtonClick();
+  /// True when the form is to be closed; while it works, it is asked to stop instead.
+  bool CancelButtonClick();
   void ProjectBrowserButtonClick();
   void ProjectNameChange(const std::string& text);
   void cbProvidersChange(int selected);
@@ -71,10 +76,14 @@ class TWizardPages {
   void PageSelectProviderDisplay();
   /// Shows a page with Back and that Next button.
   void Show(int panel, const TResString& next, bool nextEnabled = true);
-  /// The status page: nothing can be pressed until Complete().
-  void PageStatusDisplay();
+  enum class Work { CanStop, Uninterrupted };
+  /// The status page: nothing but, for work that can stop, Cancel can be pressed until Complete().
+  void PageStatusDisplay(Work work);
   void Complete(bool succeeded);
+  /// The user has pressed Cancel since PageStatusDisplay().
+  bool IsStopped() const { return stopped_; }
   void Changed() const;
+  void Progressed() const;
   void AddStatus(std::string line);
   /// Adds what the provider said about a failure, or else the text of its return code.  `format` is a line's.
   void AddReasons(TProviderWords& words, const TStateMessages& messages, const char* format = "%s");
@@ -84,6 +93,8 @@ class TWizardPages {
   TSCCProviderProject& Project();
   /// The same, created first when it is not there (any more), with what the user has picked.
   TSCCProviderProject& EnsureProject();
+  /// Names the provider project, as the user's pick does.
+  void NameProject(const std::string& name);
   /// The provider project is now at its own local path: that is where Project() looks for it from now on.
   void Follow(const TSCCProviderProject& project) { local_path_ = project.get_LocalPath(); }
   const std::string& LocalPath() const { return local_path_; }
@@ -112,5 +123,6 @@ class TWizardPages {
   TIdentity picked_;
   std::string project_name_;
   TStringList status_;
+  bool stopped_ = false;
   bool finished_ = false;
 };

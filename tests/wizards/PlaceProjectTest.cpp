@@ -131,8 +131,36 @@ TEST_F(PlaceProject, ProviderThatNeedsNoBrowserSkipsItsPageBothWays) {
   EXPECT_EQ(Page().Panel, 3);
   EXPECT_EQ(provider_->Count("SccGetProjPath"), 0);
   EXPECT_EQ(expert_->ProviderList()->CurrentProject()->get_ProjName(), At(""));
+  provider_->Results["SccOpenProject"] = scc::SCC_E_UNKNOWNPROJECT;
+  Next();
+  pages_->BackButtonClick();
+  EXPECT_EQ(Page().Panel, 3);
+  provider_->Results.clear();
+  Next();
+  EXPECT_THAT(Mapping(), HasSubstr("ProjName=" + At("") + "\n")) << "a second try names the same project";
+  EXPECT_EQ(provider_->Last("SccOpenProject").ProjName, At(""));
+
+  Show();
+  pages_->cbProvidersChange(1);
+  Next();
   pages_->BackButtonClick();
   EXPECT_EQ(Page().Panel, 1);
+}
+
+TEST_F(PlaceProject, CanBeStoppedBetweenTwoFiles) {
+  Show();
+  Next(2);
+  provider_->OnCall["SccAdd"] = [&](const ScriptedCall&) {
+    EXPECT_TRUE(Page().Cancel);
+    const bool close = provider_->Count("SccAdd") == 2 && pages_->CancelButtonClick();
+    EXPECT_FALSE(close) << "not while it works";
+  };
+  Next();
+  EXPECT_EQ(provider_->Count("SccAdd"), 2);
+  EXPECT_EQ(pages_->Status().back(), "Stopped. Files that were not added: 2. Team | Add Files... adds them.");
+  EXPECT_THAT(pages_->Status(), Not(Contains("Succeeded")));
+  EXPECT_TRUE(provider_->Open) << "for the rest";
+  EXPECT_TRUE(pages_->CancelButtonClick());
 }
 
 TEST_F(PlaceProject, NothingPickedMeansNoFurther) {

@@ -1,5 +1,6 @@
 // Pulling a project: pages, target directory, what is fetched, listed and written.
 #include <filesystem>
+#include <map>
 
 #include "expert/ExpertFixture.h"
 #include "host/System.h"
@@ -104,7 +105,7 @@ TEST_F(PullProject, FailuresAreListedAndCanBeTriedAgain) {
   Aim(Target());
   provider_->Results["SccOpenProject"] = scc::SCC_E_CONNECTIONFAILURE;
   pages_->NextFinishButtonClick();
-  EXPECT_THAT(pages_->Status(), ElementsAre("Connection failure", "Done"));
+  EXPECT_THAT(pages_->Status(), ElementsAre("Connection failure", "Corvane project file not found", "Done"));
   EXPECT_THAT(forms_.Boxes, IsEmpty());
   EXPECT_EQ(provider_->Count("SccPopulateList"), 0);
 
@@ -118,6 +119,27 @@ TEST_F(PullProject, FailuresAreListedAndCanBeTriedAgain) {
   EXPECT_THAT(ReadWholeFile(In("App.cdp")), HasSubstr("trunk/App")) << "the rest can be got later";
   EXPECT_FALSE(pages_->CanOpen());
   EXPECT_TRUE(Page().Back);
+}
+
+TEST_F(PullProject, ShowsWhatItWaitsFor) {
+  Aim(Target());
+  std::map<std::string, std::string> shown;
+  std::string last;
+  pages_->OnChange = [&] { last = pages_->Progress(); };
+  pages_->OnProgress = [] {};  // a form that has just been painted does nothing either
+  for (const char* entry : {"SccOpenProject", "SccPopulateList", "SccGet", "SccQueryInfo"})
+    provider_->OnCall[entry] = [&, work = provider_->OnCall[entry]](const ScriptedCall& call) {
+      if (work) work(call);
+      shown[call.Entry] = last;
+      EXPECT_FALSE(Page().Cancel) << "the provider cannot be interrupted";
+      EXPECT_FALSE(pages_->CancelButtonClick());
+    };
+  pages_->NextFinishButtonClick();
+  EXPECT_EQ(shown["SccOpenProject"], "Opening the project...");
+  EXPECT_EQ(shown["SccPopulateList"], "Asking for the project's files...");
+  EXPECT_EQ(shown["SccGet"], "Fetching the project's files...");
+  EXPECT_EQ(shown["SccQueryInfo"], "Checking what was fetched...");
+  EXPECT_EQ(pages_->Progress(), "");
 }
 
 TEST_F(PullProject, TargetThatWillNotDoIsRefusedInWords) {

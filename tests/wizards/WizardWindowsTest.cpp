@@ -63,6 +63,27 @@ TEST_F(WizardWindows, PlaceIsWorkedByKeyboard) {
   EXPECT_THAT(Mapping(), HasSubstr("ProjName=trunk/Other"));
 }
 
+TEST_F(WizardWindows, EscapeStopsThePlacementAndDoesNotCloseTheForm) {
+  host_.AddProject(project_file_, units_);
+  TPlaceProjectWizard form(*expert_);
+  ShowAndPlay<TPlaceProjectWizard>(form, [&](TPlaceProjectWizard& wizard) {
+    for (int page = 0; page < 2; ++page) Click(wizard.NextFinishButton);
+    provider_->OnCall["SccAdd"] = [&](const ScriptedCall&) {
+      EXPECT_TRUE(wizard.CancelButton->IsEnabled());
+      Preview(wizard.lbStatus, WXK_RETURN);
+      Preview(wizard.lbStatus, WXK_F1);
+      Preview(wizard.lbStatus, WXK_ESCAPE);
+    };
+    Click(wizard.NextFinishButton);
+    EXPECT_TRUE(wizard.IsModal());
+    EXPECT_EQ(provider_->Count("SccAdd"), 1);
+    EXPECT_FALSE(wizard.CancelButton->IsEnabled());
+    EXPECT_EQ(wxWindow::FindFocus(), wizard.NextFinishButton);
+    Click(wizard.NextFinishButton);
+  });
+  EXPECT_THAT(host_.Log, Not(Contains("HelpKeyword HC_TeamPlaceProject"))) << "not in the middle of it";
+}
+
 TEST_F(WizardWindows, PullOffersToOpenWhatIsThere) {
   host_.StartupDirectory = folder_.Path();
   provider_->List.push_back({true, scc::SCC_STATUS_CONTROLLED, folder_ / "new/App.qvxproj"});
