@@ -1,8 +1,8 @@
 #include "Client.h"
 
 #include <apr_general.h>
+#include <svn_auth.h>
 #include <svn_cache_config.h>
-#include <svn_cmdline.h>
 #include <svn_config.h>
 #include <svn_dso.h>
 #include <svn_fs.h>
@@ -14,10 +14,13 @@
 #include <cstdlib>
 #include <mutex>
 
+#include "Login.h"
 #include "SubversionSccStrings.h"
 
 namespace svnscc {
 namespace {
+
+constexpr int kLoginRetries = 2;
 
 std::atomic<bool> runtimeEnded = false;
 
@@ -74,17 +77,13 @@ void EnsureRuntime() {
   std::call_once(started, StartRuntime);
 }
 
-Client::Client(const std::string& user) : user_(user) {
+Client::Client(const std::string& user) : givenUser_(user), user_(user) {
   // Tests, and installations that keep their own settings, name the directory; nullptr is the user's own.
   const char* directory = std::getenv("SUBVERSION_SCC_CONFIG_DIR");
   apr_hash_t* config = nullptr;
   Check(svn_config_get_config(&config, directory, pool_));
   Check(svn_client_create_context2(&context_, config, pool_));
-  auto* general =
-      static_cast<svn_config_t*>(apr_hash_get(config, SVN_CONFIG_CATEGORY_CONFIG, APR_HASH_KEY_STRING));
-  Check(svn_cmdline_create_auth_baton2(
-      &context_->auth_baton, /*non_interactive*/ TRUE, user_.c_str(), nullptr, directory,
-      /*no_auth_cache*/ TRUE, FALSE, FALSE, FALSE, FALSE, FALSE, general, nullptr, nullptr, pool_));
+  context_->auth_baton = OpenAuthentication(config, directory);
   context_->notify_func2 = Notify;
   context_->notify_baton2 = this;
   context_->log_msg_func3 = GiveLogMessage;
@@ -92,6 +91,48 @@ Client::Client(const std::string& user) : user_(user) {
   context_->cancel_func = CheckCancelled;
   context_->cancel_baton = this;
   context_->client_name = "SubversionScc";
+}
+
+svn_auth_baton_t* Client::OpenAuthentication(apr_hash_t* config, const char* directory) {
+  auto* general =
+      static_cast<svn_config_t*>(apr_hash_get(config, SVN_CONFIG_CATEGORY_CONFIG, APR_HASH_KEY_STRING));
+  apr_array_header_t* providers = nullptr;
+  Check(svn_auth_get_platform_specific_client_providers(&providers, general, pool_));
+  const auto add = [&](auto get, auto... arguments) {
+    svn_auth_provider_object_t* provider = nullptr;
+    get(&provider, arguments..., pool_);
+    APR_ARRAY_PUSH(providers, svn_auth_provider_object_t*) = provider;
+  };
+  // What the user let other Subversion clients store is read; then the user is asked.
+  add(svn_auth_get_simple_provider2, nullptr, nullptr);
+  add(svn_auth_get_username_provider);
+  add(svn_auth_get_ssl_server_trust_file_provider);
+  add(svn_auth_get_ssl_client_cert_file_provider);
+  add(svn_auth_get_ssl_client_cert_pw_file_provider2, nullptr, nullptr);
+  add(svn_auth_get_simple_prompt_provider, AskForLogin, static_cast<void*>(this), kLoginRetries);
+  svn_auth_baton_t* baton = nullptr;
+  svn_auth_open(&baton, providers, pool_);
+  svn_auth_set_parameter(baton, SVN_AUTH_PARAM_DEFAULT_USERNAME,
+                         user_.empty() ? nullptr : apr_pstrdup(pool_, user_.c_str()));
+  svn_auth_set_parameter(baton, SVN_AUTH_PARAM_NO_AUTH_CACHE, "");
+  if (directory != nullptr)
+    svn_auth_set_parameter(baton, SVN_AUTH_PARAM_CONFIG_DIR, apr_pstrdup(pool_, directory));
+  return baton;
+}
+
+svn_error_t* Client::AskForLogin(svn_auth_cred_simple_t** answer, void* baton, const char* realm, const char*,
+                                 svn_boolean_t, apr_pool_t* pool) noexcept {
+  auto& self = *static_cast<Client*>(baton);
+  *answer = nullptr;
+  return Contain(self.kept_, [&] {
+    const bool refused = !self.offered_.insert(realm).second;
+    const auto login = FindLogin({realm, self.givenUser_, refused});
+    if (!login) return;
+    self.user_ = login->User;
+    *answer = static_cast<svn_auth_cred_simple_t*>(apr_pcalloc(pool, sizeof **answer));
+    (*answer)->username = apr_pstrdup(pool, login->User.c_str());
+    (*answer)->password = apr_pstrdup(pool, login->Password.c_str());
+  });
 }
 
 void Client::Run(svn_error_t* error) { Check(error, std::exchange(kept_, nullptr)); }

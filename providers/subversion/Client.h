@@ -5,6 +5,7 @@
 
 #include <exception>
 #include <functional>
+#include <set>
 #include <string>
 
 #include "SvnHandles.h"
@@ -20,12 +21,14 @@ class Client {
  public:
   using NoticeHandler = std::function<void(const svn_wc_notify_t&)>;
 
-  /// `user` names whoever commits and locks.  Nothing is asked and nothing is stored.
+  /// `user` names whoever commits and locks.  A server that wants a password gets what the user answers to the login
+  /// prompt (Login.h); nothing is stored on disk.
   explicit Client(const std::string& user);
   Client(const Client&) = delete;
   Client& operator=(const Client&) = delete;
 
   svn_client_ctx_t* Context() const { return context_; }
+  /// Who works: `user`, or whoever logged in instead.
   const std::string& User() const { return user_; }
   /// What libsvn reports while it works.  An exception of the handler ends the call in progress.
   void OnNotice(NoticeHandler handler) { notice_ = std::move(handler); }
@@ -46,13 +49,19 @@ class Client {
                                      void* baton, apr_pool_t* pool) noexcept;
   static svn_error_t* CheckCancelled(void* baton) noexcept;
 
+  svn_auth_baton_t* OpenAuthentication(apr_hash_t* config, const char* directory);
+  static svn_error_t* AskForLogin(svn_auth_cred_simple_t** answer, void* baton, const char* realm,
+                                  const char* user, svn_boolean_t maySave, apr_pool_t* pool) noexcept;
+
   Pool pool_;
+  const std::string givenUser_;
   std::string user_;
   svn_client_ctx_t* context_ = nullptr;
   NoticeHandler notice_;
   std::function<bool()> poll_;
   std::string log_;
-  std::exception_ptr kept_;  // of a callback, rethrown by Run
+  std::set<std::string> offered_;  // realms that a login was offered for
+  std::exception_ptr kept_;        // of a callback, rethrown by Run
 };
 
 }  // namespace svnscc

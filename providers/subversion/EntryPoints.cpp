@@ -60,6 +60,7 @@ SCC_EXPORT Long SCC_CALL SccInitialize(void** context, WindowHandle, const char*
   *context = nullptr;
   try {
     svnscc::EnsureRuntime();
+    svnscc::SetLoginPrompt(svnscc::AskLogin);
     *context = new Session;
   } catch (...) {  // no text-out yet: the code must do
     return SCC_E_INITIALIZEFAILED;

@@ -106,13 +106,20 @@ constexpr TResString sOneEntry{"one entry."};
 constexpr TResString sEntries{"%d entries."};
 // Options of commands
 constexpr TResString sOptionsTitle{"Advanced Options"};
-constexpr TResString sOptionsOnce{"This applies to the next command of this kind only."};
+constexpr TResString sOptionsOnce{"This applies to this command only, not to later ones."};
 constexpr TResString sNewestRevision{"Get the &newest revision"};
 constexpr TResString sGivenRevision{"Get &revision"};
 constexpr TResString sStealLocks{"&Steal the lock if another user has it"};
 constexpr TResString sKeepUnchangedOut{"&Keep files without changes checked out"};
 constexpr TResString sWithoutNeedsLock{
     "&Let the files be changed without checking them out (do not set svn:needs-lock)"};
+// Logging in
+constexpr TResString sLoginTitle{"Subversion Login"};
+constexpr TResString sLoginAsked{"The server asks for a login to %s."};
+constexpr TResString sLoginRefused{"The server did not accept that login to %s. Try again."};
+constexpr TResString sLoginUser{"&User name:"};
+constexpr TResString sLoginPassword{"&Password:"};
+constexpr TResString sLoginKept{"It is kept until this program ends, and not stored."};
 // Adding from the repository
 constexpr TResString sAddFromTitle{"Add from Repository"};
 constexpr TResString sAddFromPrompt{"Choose the files of the repository to get to this computer:"};

@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "Login.h"
 #include "Session.h"
 
 namespace svnscc {
@@ -20,6 +21,8 @@ scc::Long RunBrowser(Session& session, scc::WindowHandle parent, Names names);
 /// SccGetCommandOptions: answers a probe (`options` null), or lets the user choose and stores the block.
 scc::Long AskCommandOptions(Session& session, scc::WindowHandle parent, scc::SCCCommand command,
                             void** options);
+/// A LoginPrompt with a window of its own.  Nothing is asked, and nothing thrown, where none can be shown.
+std::optional<Login> AskLogin(const LoginQuestion& question);
 /// Gets files that only the repository has, as the user chooses; `names` receives them.  `folder` (may be null) limits
 /// the choice to what is below it.
 scc::Long ChooseMissingFiles(Session& session, scc::WindowHandle parent, const char* folder,
