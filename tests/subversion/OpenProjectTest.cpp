@@ -3,6 +3,7 @@
 #include <signal.h>
 #include <sys/wait.h>
 #include <unistd.h>
+
 #include "Developer.h"
 #include "Server.h"
 #include "host/System.h"
