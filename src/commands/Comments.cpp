@@ -3,6 +3,7 @@
 #include <wx/wx.h>
 
 #include "commands/CommentsStrings.h"
+#include "ui/ButtonStrings.h"
 #include "ui/WxText.h"
 
 TCommentsForm* CommentsForm = nullptr;
@@ -43,8 +44,8 @@ void TCommentsForm::CreateControls() {
   cbApplyToAll->Show(model_.ShowApplyToAll);
   LengthLabel = new wxStaticText(this, wxID_ANY, {});
   LengthLabel->SetForegroundColour(wxSystemSettings::GetColour(wxSYS_COLOUR_GRAYTEXT));
-  btnOK = button(wxID_OK, sCommentsOk);
-  btnCancel = button(wxID_CANCEL, sCommentsCancel);
+  btnOK = button(wxID_OK, sButtonOk);
+  btnCancel = button(wxID_CANCEL, sButtonCancel);
   btnRecent = button(wxID_ANY, sCommentsRecent);
   btnRecent->SetToolTip(ToWx(sCommentsRecentHint));
   btnRecent->Enable(history_.HasEarlier());

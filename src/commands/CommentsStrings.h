@@ -4,8 +4,6 @@
 
 constexpr TResString sCommentsCaption{"Comments"};
 constexpr TResString sApplyToAll{"&Apply same comment to all"};
-constexpr TResString sCommentsOk{"&OK"};
-constexpr TResString sCommentsCancel{"&Cancel"};
 constexpr TResString sCommentsRecent{"&Recent"};
 constexpr TResString sCommentsRecentHint{
     "Earlier comments.  In the text, Ctrl+Up and Ctrl+Down go through them."};

@@ -9,6 +9,7 @@
 #include "commands/GetFileListStrings.h"
 #include "expert/SccExpert.h"
 #include "expert/SccSystem.h"
+#include "ui/ButtonStrings.h"
 #include "ui/WxText.h"
 
 TGetFileListForm* GetFileListForm = nullptr;
@@ -113,8 +114,8 @@ void TGetFileListForm::CreateControls() {
   FilesListView = new TFilesListView(this, model_);
   cbKeepCheckedOut = box(sKeepCheckedOut, model_.KeepCheckedOut, model_.Extra == KeepCheckedOut);
   cbCheckOut = box(sCheckOutAfterAdd, model_.CheckOutAfterAdd, model_.Extra == CheckOutAfterAdd);
-  btnOK = button(wxID_OK, sFileListOk);
-  btnCancel = button(wxID_CANCEL, sFileListCancel);
+  btnOK = button(wxID_OK, sButtonOk);
+  btnCancel = button(wxID_CANCEL, sButtonCancel);
   btnCancel->Enable();
   btnCheckAll = button(wxID_ANY, sCheckAll);
   btnUncheckAll = button(wxID_ANY, sUncheckAll);

@@ -9,8 +9,6 @@ constexpr TResString sStatusColumn{"Status"};
 constexpr TResString sPathColumn{"Path"};
 constexpr TResString sKeepCheckedOut{"&Keep checked out"};
 constexpr TResString sCheckOutAfterAdd{"Ch&eckout files after add"};
-constexpr TResString sFileListOk{"&OK"};
-constexpr TResString sFileListCancel{"&Cancel"};
 constexpr TResString sCheckAll{"C&heck All"};
 constexpr TResString sUncheckAll{"U&ncheck All"};
 constexpr TResString sAdvanced{"&Advanced..."};

@@ -69,6 +69,7 @@ void TSccExpert::Create() {
   auto* services = IdeService<IOTAServices>();
   if (!services) throw std::runtime_error(sUnableToGetIDEServices);
   menu_ = std::make_unique<TExpertMainMenuModule>(*this);
+  menu_->EnableMenus(false);  // no project is open; and the host knows before the menu opens what is not in it
   WriteMessage(mwtInfo, sStartUp);
   WriteMessageFmt(mwtInfo, sProviderLine.Text, {provider_name_});
   ide_notifier_ = std::make_shared<TSccIDENotifier>(*this);

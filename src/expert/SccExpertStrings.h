@@ -26,7 +26,7 @@ constexpr TResString sFileNotificationError{"FileNotification; %s"};
 constexpr TResString sViewChangeError{"ViewChange: %s"};
 
 // Projects.
-constexpr TResString sProviderNotAssigned{"AProvider not assigned"};
+constexpr TResString sProviderNotAssigned{"AProvider not assigned"};  // named like the field, which is meant
 constexpr TResString sProviderNotInstalled{"The source code control provider \"%s\" is not installed"};
 constexpr TResString sNoMatchingPath{"Unable to set current project, no matching path"};
 constexpr TResString sNoProjectFile{"No project or package file found in current project"};

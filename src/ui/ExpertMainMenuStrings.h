@@ -18,7 +18,8 @@ constexpr TResString sActRunSccApp{"Run Scc Application"};
 constexpr TResString sActCommitBrowser{"File Explorer"};
 constexpr TResString sActMessages{"Messages"};
 
-// Captions of items that differ from their action's, or that have none.
+// Captions of items without an action, and of two that differ from their action's.  The difference is meant: the menu
+// names the window that opens, the host's list of commands what it is for.
 constexpr TResString sItemCommitBrowser{"Commit Browser..."};
 constexpr TResString sItemPlaceProject{"Place Project Into Source Control..."};
 constexpr TResString sItemShowDifferences{"Show Differences..."};

@@ -8,6 +8,7 @@
 #include <array>
 
 #include "host/System.h"
+#include "ui/ButtonStrings.h"
 #include "ui/Icons.h"
 #include "ui/MsgDialogStrings.h"
 #include "ui/WxText.h"
@@ -58,7 +59,7 @@ void TMsgDialogForm::CreateControls(const std::string& title, const std::string&
   MessageText = new wxTextCtrl(this, wxID_ANY, ToWx(msg), wxDefaultPosition, FromDIP(wxSize(377, 120)),
                                wxTE_MULTILINE | wxTE_READONLY);
   MessageText->SetBackgroundColour(wxSystemSettings::GetColour(wxSYS_COLOUR_BTNFACE));
-  btnOK = new wxButton(this, wxID_OK, ToWx(sMsgDialogOk));
+  btnOK = new wxButton(this, wxID_OK, ToWx(sButtonOk));
 }
 
 void TMsgDialogForm::LayOut() {

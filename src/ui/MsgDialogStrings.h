@@ -3,4 +3,3 @@
 #include "host/Text.h"
 
 constexpr TResString sMsgDialogCaption{"Source Code Control"};
-constexpr TResString sMsgDialogOk{"&OK"};

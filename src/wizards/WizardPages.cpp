@@ -6,6 +6,8 @@
 #include "host/Errors.h"
 #include "host/Registry.h"
 #include "provider/SCMAddInOptions.h"
+#include "provider/SCMOptionsStrings.h"
+#include "ui/ButtonStrings.h"
 #include "wizards/WizardPagesStrings.h"
 
 namespace {
@@ -129,10 +131,10 @@ void TWizardPages::PageSelectProviderDisplay() {
   Show(1, sWizardNext);
   page_.Back = false;
   if (selected_ < 0 && providers_.empty()) {
-    providers_.push_back(sWizardNoProviders);
+    providers_.push_back(sNoProvidersAvailable);
     selected_ = 0;
   }
-  const bool none = providers_.size() == 1 && providers_.front() == sWizardNoProviders.str();
+  const bool none = providers_.size() == 1 && providers_.front() == sNoProvidersAvailable.str();
   page_.NoProviders = FExpert.ProviderList() == nullptr;
   page_.Next = !none && !page_.NoProviders;
 }
@@ -141,7 +143,7 @@ void TWizardPages::PageStatusDisplay(Work work) {
   status_.clear();
   stopped_ = false;
   page_.Working = true;
-  Show(4, sWizardClose, false);
+  Show(4, sButtonClose, false);
   page_.Back = false;
   page_.Cancel = work == Work::CanStop;
   Changed();

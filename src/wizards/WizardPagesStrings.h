@@ -4,5 +4,3 @@
 #include "host/Text.h"
 
 constexpr TResString sWizardNext{"&Next >"};
-constexpr TResString sWizardClose{"&Close"};
-constexpr TResString sWizardNoProviders{"No providers available"};
