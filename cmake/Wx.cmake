@@ -1,5 +1,8 @@
 # `wx`: the toolkit, for the folders that show windows.  `wx_pch` compiles its headers once for all of them.
-find_package(wxWidgets 3.2 REQUIRED COMPONENTS stc aui core base)
+if(WIN32)
+  set(wx_search CONFIG)  # there is no wx-config there
+endif()
+find_package(wxWidgets 3.2 REQUIRED ${wx_search} COMPONENTS stc aui core base)
 add_library(wx INTERFACE)
 target_include_directories(wx SYSTEM INTERFACE ${wxWidgets_INCLUDE_DIRS})
 target_compile_definitions(wx INTERFACE ${wxWidgets_DEFINITIONS})

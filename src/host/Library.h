@@ -3,6 +3,8 @@
 
 #include <string>
 
+#undef FreeModule  // a macro of Windows' headers, where they came first
+
 /// A loaded library; nullptr is none.
 using TModuleHandle = void*;
 

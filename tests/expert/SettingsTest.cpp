@@ -1,5 +1,6 @@
 // Which provider, library and user: registry, user's settings and mapping file.
 #include "expert/ExpertFixture.h"
+#include "host/Registry.h"
 
 namespace {
 
@@ -100,7 +101,7 @@ TEST_F(Settings, MappingThatSaysNothingIsAWarningOnce) {
 }
 
 TEST_F(Settings, NoRegistryMeansNoProviderAndNoCrash) {
-  std::filesystem::remove_all(folder_ / "registry");
+  TRegistry().DeleteKey("Software");
   auto& expert = Open();
   EXPECT_EQ(expert.ProviderName(), "");
   expert.Menu()->Map.OnClick();

@@ -1,59 +1,38 @@
-#include <gmock/gmock.h>
-#include <sys/stat.h>
+#include <gtest/gtest.h>
 
 #include <filesystem>
+#include <map>
 
+#include "host/FileName.h"
 #include "host/System.h"
 #include "support/TemporaryFolder.h"
 
 namespace fs = std::filesystem;
-using testing::ElementsAre;
-
-namespace {
-
-int ModeOf(const std::string& path) { return static_cast<int>(fs::status(path).permissions()); }
-
-}  // namespace
-
-TEST(System, ChangesOnlyTheWriteBitsOfAFile) {
-  const TTemporaryFolder folder;
-  const auto path = folder.Write("unit 1.pas", "unit unit1;");
-  const struct {
-    int before;
-    std::uint32_t attributes;
-    int after;
-  } rows[] = {
-      {0644, faReadOnly, 0444}, {0664, faReadOnly | faArchive, 0444},
-      {0444, faArchive, 0644},  {0555, faArchive, 0755},
-      {0664, faArchive, 0664},  {0040, 0, 0240},
-  };
-  for (const auto& row : rows) {
-    SCOPED_TRACE(testing::Message() << std::oct << row.before << " " << row.attributes);
-    fs::permissions(path, fs::perms(row.before));
-    EXPECT_TRUE(SetFileAttributesOf(path, row.attributes));
-    EXPECT_EQ(ModeOf(path), row.after);
-    EXPECT_EQ(GetFileAttributesOf(path), faArchive | (row.attributes & faReadOnly));
-  }
-}
 
 TEST(System, TellsFilesFoldersAndNothingApart) {
   const TTemporaryFolder folder;
-  const auto file = folder.Write("a", "");
-  const auto link = folder / "link";
-  const auto dangling = folder / "dangling";
-  fs::create_symlink(file, link);
-  fs::create_symlink(folder / "missing", dangling);
+  const auto file = folder.Write("Größe.pas", "");
   const struct {
     std::string path;
     bool isFile, isFolder;
-  } rows[] = {{file, true, false},      {link, true, false},          {folder.Path(), false, true},
-              {dangling, false, false}, {folder / "b", false, false}, {"", false, false}};
+  } rows[] = {
+      {file, true, false}, {folder.Path(), false, true}, {folder / "b", false, false}, {"", false, false}};
   for (const auto& row : rows) {
     EXPECT_EQ(FileExists(row.path), row.isFile) << row.path;
     EXPECT_EQ(DirectoryExists(row.path), row.isFolder) << row.path;
   }
-  EXPECT_EQ(GetFileAttributesOf(dangling), 0u);
-  EXPECT_FALSE(SetFileAttributesOf(dangling, faArchive));
+}
+
+TEST(System, VisitsWhatADirectoryHolds) {
+  const TTemporaryFolder folder;
+  folder.Write("unit 1.pas", "");
+  folder.Write("Größe/名前.pas", "");
+  std::map<std::string, bool> seen;
+  const auto visit = [&](const TDirectoryEntry& entry) { seen.emplace(entry.Name, entry.IsDirectory); };
+  ForEachEntry(folder.Path(), visit);
+  ForEachEntry(folder / "Größe", visit);
+  ForEachEntry(folder / "missing", visit);
+  EXPECT_EQ(seen, (std::map<std::string, bool>{{"unit 1.pas", false}, {"Größe", true}, {"名前.pas", false}}));
 }
 
 TEST(System, ReturnsNoTextThatItsBufferCannotHold) {
@@ -66,18 +45,8 @@ TEST(System, ReturnsNoTextThatItsBufferCannotHold) {
   const auto before = fs::current_path();
   const auto longest = folder.MakeFolder(std::string(126 - folder.Path().size(), 'x'));
   ASSERT_EQ(longest.size(), 127u);
-  fs::current_path(longest);
+  fs::current_path(ToFilePath(longest));
   EXPECT_EQ(GetCurrentDirectoryText(128), longest);
   EXPECT_EQ(GetCurrentDirectoryText(127), "");
   fs::current_path(before);
-}
-
-TEST(System, BeepsThroughTheHostsHandler) {
-  std::vector<TBeep> heard;
-  MessageBeep(TBeep::Hand);
-  SetBeepHandler([&](TBeep kind) { heard.push_back(kind); });
-  MessageBeep(TBeep::Question);
-  SetBeepHandler({});
-  MessageBeep(TBeep::Asterisk);
-  EXPECT_THAT(heard, ElementsAre(TBeep::Question));
 }

@@ -1,9 +1,6 @@
 #include <gtest/gtest.h>
 
-#include <ctime>
-
 #include "host/Text.h"
-#include "support/Environment.h"
 
 TEST(Text, FormatNeverFails) {
   EXPECT_EQ(Format("Get of \"%s\" %s (%d)", {"/a.pas", "SUCCEEDED", -14}),
@@ -59,11 +56,4 @@ TEST(Text, CutsAtCharacters) {
   for (std::size_t bytes = 0; bytes < std::size(kept); ++bytes)
     EXPECT_EQ(CutAtCharacter(text, bytes), text.substr(0, kept[bytes])) << bytes;
   EXPECT_EQ(CutAtCharacter("a" + std::string(9, '\x80'), 5).size(), 5u) << "no characters, no borders";
-}
-
-TEST(Text, ShowsMomentsInLocalTime) {
-  const TEnvironmentVariable zone("TZ", "KST-3");
-  tzset();
-  EXPECT_EQ(DateTimeToStr(0), "01/01/70 03:00:00");
-  EXPECT_EQ(DateTimeToStr(1'000'000'000), "09/09/01 04:46:40");
 }

@@ -2,8 +2,7 @@
 
 #include "host/Registry.h"
 #include "provider/sccapiintf.h"
-#include "support/Environment.h"
-#include "support/TemporaryFolder.h"
+#include "support/TestRegistry.h"
 
 namespace {
 
@@ -20,8 +19,7 @@ struct Discovery : testing::Test {
     return {name, path};
   }
 
-  TTemporaryFolder folder;
-  TEnvironmentVariable redirection{"CORVANE_REGISTRY_DIR", folder.Path().c_str()};
+  TTestRegistry redirection;
 };
 
 using Pair = std::pair<std::string, std::string>;

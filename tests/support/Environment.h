@@ -1,10 +1,14 @@
-// A variable of the process's environment, set (or, with nullptr, removed) until the end of the scope.
+// The process's environment.
 #pragma once
 
 #include <cstdlib>
 #include <optional>
 #include <string>
 
+/// Sets a variable of the process's environment; nullptr removes it.
+void SetEnvironment(const char* name, const char* value);
+
+/// A variable, set (or, with nullptr, removed) until the end of the scope.
 class TEnvironmentVariable {
  public:
   TEnvironmentVariable(const char* name, const char* value) : name_(name) {
@@ -16,7 +20,7 @@ class TEnvironmentVariable {
   ~TEnvironmentVariable() { Set(before_ ? before_->c_str() : nullptr); }
 
  private:
-  void Set(const char* value) const { value ? setenv(name_, value, 1) : unsetenv(name_); }
+  void Set(const char* value) const { SetEnvironment(name_, value); }
 
   const char* name_;
   std::optional<std::string> before_;

@@ -1,9 +1,9 @@
 #include <gmock/gmock.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <filesystem>
 
+#include "host/Paths.h"
 #include "support/TemporaryFolder.h"
 #include "wizards/FileSearch.h"
 
@@ -30,8 +30,10 @@ class FileSearch : public testing::Test {
     search(target, directory.starts_with('/') ? directory : folder_ / directory);
     EXPECT_EQ(target.front(), "before");
     target.erase(target.begin());
-    for (auto& path : target)
+    for (auto& path : target) {
       if (path.starts_with(folder_.Path())) path.erase(0, folder_.Path().size() + 1);
+      std::ranges::replace(path, PathDelim, '/');
+    }
     return target;
   }
 
@@ -69,8 +71,10 @@ TEST_F(FileSearch, FindsNothingWhereThereIsNothing) {
 }
 
 TEST_F(FileSearch, GoesOnBehindADirectoryThatCannotBeRead) {
-  if (geteuid() == 0) GTEST_SKIP() << "root reads everything";
   fs::permissions(folder_ / "p/sub", fs::perms::none);
+  std::error_code refused;
+  if (fs::directory_iterator(folder_ / "p/sub", refused) != fs::directory_iterator())
+    GTEST_SKIP() << "this user reads everything";
   EXPECT_THAT(Found(SearchRecursiveFiles, "p"),
               UnorderedElementsAre("p/a.pas", "p/.hidden", "p/sub", "p/empty", "p/.svn"));
   EXPECT_THAT(Found(SearchRecursiveDirectories, "p"),
@@ -80,7 +84,9 @@ TEST_F(FileSearch, GoesOnBehindADirectoryThatCannotBeRead) {
 
 TEST_F(FileSearch, ListsLinksAndDoesNotEnterThem) {
   folder_.Write("elsewhere/d.pas", "");
-  fs::create_directory_symlink("..", folder_ / "p/empty/up");
+  std::error_code refused;
+  fs::create_directory_symlink("..", folder_ / "p/empty/up", refused);
+  if (refused) GTEST_SKIP() << "this user makes no links";
   fs::create_directory_symlink("../elsewhere", folder_ / "p/away");
   fs::create_symlink("../elsewhere/d.pas", folder_ / "p/d.pas");
   fs::create_symlink("nowhere", folder_ / "p/broken");

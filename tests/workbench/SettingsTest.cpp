@@ -1,8 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "support/Environment.h"
-#include "support/TemporaryFolder.h"
+#include "support/TestRegistry.h"
 #include "workbench/model/Settings.h"
 
 namespace {
@@ -11,8 +10,7 @@ using testing::ElementsAre;
 
 class Settings : public testing::Test {
  protected:
-  TTemporaryFolder folder_;
-  TEnvironmentVariable registry_{"CORVANE_REGISTRY_DIR", folder_.Path().c_str()};
+  TTestRegistry registry_;
 };
 
 TEST_F(Settings, LastOnlyWhenSaved) {

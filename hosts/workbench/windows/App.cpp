@@ -38,6 +38,12 @@ std::vector<std::string> PackagesToLoad(const TCommandLine& line, TOptionsServic
   return FileExists(beside) ? std::vector{beside} : std::vector<std::string>();
 }
 
+/// Where the toolkit knows signals; elsewhere the system closes windows.
+void EndOnSignal(auto& app) {
+  constexpr auto end = [](int) { static_cast<TWorkbenchApp&>(*wxTheApp).EndProgram(kExitTerminated); };
+  if constexpr (requires { app.SetSignalHandler(SIGTERM, end); }) app.SetSignalHandler(SIGTERM, end);
+}
+
 }  // namespace
 
 TWorkbenchApp::TWorkbenchApp(TCommandLine line) : line_(std::move(line)) {}
@@ -47,7 +53,7 @@ bool TWorkbenchApp::OnInit() {
   SetAppName("workbench");
   SetExitOnFrameDelete(false);
   wxImage::AddHandler(new wxPNGHandler);
-  SetSignalHandler(SIGTERM, [](int) { static_cast<TWorkbenchApp&>(*wxTheApp).EndProgram(kExitTerminated); });
+  EndOnSignal(*this);
   ShowMenuImages();
   SetBeepHandler([](TBeep) { wxBell(); });
   modals_ = std::make_unique<TModalStack>();

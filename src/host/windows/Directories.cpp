@@ -1,10 +1,10 @@
 // What a directory holds.
-#include <windows.h>
 
 #include <memory>
 
 #include "host/Paths.h"
 #include "host/System.h"
+#include "host/windows/Api.h"
 #include "host/windows/Wide.h"
 
 namespace {

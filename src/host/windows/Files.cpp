@@ -1,6 +1,4 @@
 // Whole files, read and written.
-#include <aclapi.h>
-#include <windows.h>
 
 #include <atomic>
 #include <filesystem>
@@ -10,6 +8,7 @@
 #include "host/FileName.h"
 #include "host/Paths.h"
 #include "host/System.h"
+#include "host/windows/Api.h"
 #include "host/windows/Wide.h"
 
 namespace {

@@ -1,10 +1,9 @@
 #include "host/Library.h"
 
-#include <windows.h>
-
 #include <bit>
 
 #include "host/Paths.h"
+#include "host/windows/Api.h"
 #include "host/windows/Wide.h"
 
 namespace {

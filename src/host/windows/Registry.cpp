@@ -1,10 +1,9 @@
 #include "host/Registry.h"
 
-#include <windows.h>
-
 #include <algorithm>
 #include <stdexcept>
 
+#include "host/windows/Api.h"
 #include "host/windows/Wide.h"
 
 namespace {
@@ -69,10 +68,10 @@ void TRegistry::CloseKey() {
 }
 
 std::string TRegistry::ReadString(const std::string& name) const {
-  constexpr DWORD kTexts = RRF_RT_REG_SZ | RRF_RT_REG_EXPAND_SZ;  // the latter come expanded
   const auto wide = ToWide(name);
+  // A text with variables of the environment comes expanded.
   const auto read = [&](void* data, DWORD* bytes) {
-    return RegGetValueW(impl_->Key, nullptr, wide.c_str(), kTexts, nullptr, data, bytes);
+    return RegGetValueW(impl_->Key, nullptr, wide.c_str(), RRF_RT_REG_SZ, nullptr, data, bytes);
   };
   if (!impl_->Key) return {};
   DWORD bytes = 0;

@@ -1,12 +1,9 @@
 #include "host/System.h"
 
-#include <lmcons.h>
-#include <shellapi.h>
-#include <windows.h>
-
 #include <array>
 #include <memory>
 
+#include "host/windows/Api.h"
 #include "host/windows/Wide.h"
 
 namespace {

@@ -1,10 +1,9 @@
 #include "host/Text.h"
 
-#include <windows.h>
-
 #include <algorithm>
 #include <array>
 
+#include "host/windows/Api.h"
 #include "host/windows/Wide.h"
 
 namespace {

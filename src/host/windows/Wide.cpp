@@ -1,12 +1,11 @@
 #include "host/windows/Wide.h"
 
-#include <windows.h>
-
 #include <algorithm>
 #include <array>
 
 #include "host/Paths.h"
 #include "host/Text.h"
+#include "host/windows/Api.h"
 
 namespace {
 

@@ -1,0 +1,11 @@
+// The system's own headers, in the order they need, without their macros for names that are ours.
+#pragma once
+
+// clang-format off
+#include <windows.h>
+#include <aclapi.h>
+#include <lmcons.h>
+#include <shellapi.h>
+// clang-format on
+
+#undef FreeModule

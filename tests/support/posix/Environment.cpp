@@ -1,0 +1,3 @@
+#include "support/Environment.h"
+
+void SetEnvironment(const char* name, const char* value) { value ? setenv(name, value, 1) : unsetenv(name); }

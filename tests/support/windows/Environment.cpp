@@ -1,0 +1,5 @@
+#include "support/Environment.h"
+
+#include <stdlib.h>
+
+void SetEnvironment(const char* name, const char* value) { _putenv_s(name, value ? value : ""); }
