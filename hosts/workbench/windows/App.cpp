@@ -65,6 +65,7 @@ bool TWorkbenchApp::OnInit() {
   for (const auto& line : early_) frame_->AddMessage(line);
   frame_->Show();
   services_->Guard().Run("MainFormCreated", [this] { services_->Application().MainFormCreated().Fire(); });
+  frame_->PackageMenus().ShowAll();
   frame_->OfferPackageWindows();
   if (!line_.File.empty()) frame_->CallAfter([this] { frame_->OpenForUser(line_.File); });
   if (!line_.Macro.empty())

@@ -1,13 +1,22 @@
 #include "workbench/windows/MenuBridge.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "workbench/model/MenuRows.h"
 #include "workbench/windows/Icons.h"
 
 namespace {
 constexpr int kMenuImageSize = 16;
+
+/// What stands before a disabled item, at 100 % and 200 %; toolkits grey the text only.
+wxBitmapBundle Greyed(const wxBitmapBundle& image) {
+  const auto at = [&](int scale) {
+    return image.GetBitmap(image.GetDefaultSize() * scale).ConvertToDisabled();
+  };
+  return wxBitmapBundle::FromBitmaps(at(1), at(2));
 }
+}  // namespace
 
 /// One package menu: what it describes and what is on the screen for it.
 struct TMenuBridge::TTopMenu {
@@ -17,6 +26,7 @@ struct TMenuBridge::TTopMenu {
     const TMenuItem* Item;
     int Image;
     wxMenuItem* Shown;
+    bool Enabled;
   };
   std::vector<TRow> Rows;  // separators too; submenus' items behind their parent
 };
@@ -53,6 +63,14 @@ int ImageIndexOf(const TMenuItem& item) {
   return item.ImageIndex < 0 && item.Action ? item.Action->ImageIndex : item.ImageIndex;
 }
 
+/// Gives an item that is in a menu already another picture.
+void ChangeImage(wxMenuItem& item, const wxBitmapBundle& image) {
+  item.SetBitmap(image);
+#ifdef __WXGTK__  // there the item shows it only after this
+  item.SetupBitmaps(item.GetMenu()->GetWindow());
+#endif
+}
+
 /// The visible items below `items`, depth first: what a filled menu shows.
 void CollectRows(const std::vector<TMenuItem*>& items, std::vector<const TMenuItem*>& rows) {
   for (const TMenuItem* item : VisibleRows(items)) {
@@ -65,22 +83,30 @@ void CollectRows(const std::vector<TMenuItem*>& items, std::vector<const TMenuIt
 
 void TMenuBridge::Refresh(TTopMenu& top) {
   if (top.Top->OnClick) guard_.Run(top.Top->Name, [&] { top.Top->OnClick(); });
+  Show(top);
+}
+
+void TMenuBridge::Show(TTopMenu& top) {
   std::vector<const TMenuItem*> rows;
   CollectRows(top.Top->Items, rows);
   const auto same = [](const TMenuItem* item, const TTopMenu::TRow& row) {
     return item == row.Item && ImageIndexOf(*item) == row.Image;
   };
   if (!std::ranges::equal(rows, top.Rows, same)) {
-    // Other items, or a picture where there was none.  Only then: rebuilding an opening menu makes it flicker.
+    // Other items, or a picture where there was none.  Only then: rebuilding an opening menu makes it flicker, and one
+    // that loses items keeps the height it opens with.
     top.Rows.clear();
     while (top.Menu->GetMenuItemCount() > 0) top.Menu->Destroy(top.Menu->FindItemByPosition(0));
     Fill(top, *top.Menu, top.Top->Items);
   }
-  for (const auto& row : top.Rows) {
+  for (auto& row : top.Rows) {
     if (row.Item->IsSeparator()) continue;
     const wxString caption = wxString::FromUTF8(row.Item->ShownCaption());
     if (row.Shown->GetItemLabel() != caption) row.Shown->SetItemLabel(caption);
-    row.Shown->Enable(row.Item->IsEnabled());
+    const bool enabled = row.Item->IsEnabled();
+    if (std::exchange(row.Enabled, enabled) == enabled) continue;
+    row.Shown->Enable(enabled);
+    if (const auto image = ImageOf(row.Image, enabled); image.IsOk()) ChangeImage(*row.Shown, image);
   }
 }
 
@@ -90,22 +116,32 @@ void TMenuBridge::Fill(TTopMenu& top, wxMenu& menu, const std::vector<TMenuItem*
 
 void TMenuBridge::AppendItem(TTopMenu& top, wxMenu& menu, const TMenuItem& item) {
   if (item.IsSeparator()) {
-    top.Rows.push_back({&item, ImageIndexOf(item), menu.AppendSeparator()});
+    top.Rows.push_back({&item, ImageIndexOf(item), menu.AppendSeparator(), true});
     return;
   }
   auto submenu = item.Items.empty() ? nullptr : std::make_unique<wxMenu>();
   auto* shown = new wxMenuItem(&menu, wxID_ANY, wxString::FromUTF8(item.ShownCaption()), "", wxITEM_NORMAL,
                                submenu.get());
-  if (const auto image = ImageAt(ImageIndexOf(item)); image.IsOk()) shown->SetBitmap(image);
+  const bool enabled = item.IsEnabled();
+  if (const auto image = ImageOf(ImageIndexOf(item), enabled); image.IsOk()) shown->SetBitmap(image);
   menu.Append(shown);
-  shown->Enable(item.IsEnabled());
-  top.Rows.push_back({&item, ImageIndexOf(item), shown});
+  shown->Enable(enabled);
+  top.Rows.push_back({&item, ImageIndexOf(item), shown, enabled});
   if (submenu) Fill(top, *submenu.release(), item.Items);
 }
 
 wxBitmapBundle TMenuBridge::ImageAt(int index) const {
   const bool known = index >= 0 && static_cast<std::size_t>(index) < images_.size();
   return known ? images_[static_cast<std::size_t>(index)] : wxBitmapBundle();
+}
+
+wxBitmapBundle TMenuBridge::ImageOf(int index, bool enabled) const {
+  const auto image = ImageAt(index);
+  return enabled || !image.IsOk() ? image : Greyed(image);
+}
+
+void TMenuBridge::ShowAll() {
+  for (const auto& top : tops_) Show(*top);
 }
 
 void TMenuBridge::RefreshAll() {
@@ -123,7 +159,7 @@ void TMenuBridge::AppendFileMenus(wxMenu& menu, const std::string& fileName) con
         continue;
       }
       auto* shown = new wxMenuItem(submenu, wxID_ANY, wxString::FromUTF8(item.Caption));
-      if (const auto image = ImageAt(item.ImageIndex); image.IsOk()) shown->SetBitmap(image);
+      if (const auto image = ImageOf(item.ImageIndex, enabled); image.IsOk()) shown->SetBitmap(image);
       submenu->Append(shown)->Enable(enabled);
       submenu->Bind(
           wxEVT_MENU,

@@ -34,12 +34,17 @@ class TMenuBridge final : public IOTAMenuServices {
   /// The action list, in the order of attaching.
   const std::vector<TAction*>& Actions() const { return actions_; }
   wxBitmapBundle ImageAt(int index) const;
+  /// Brings the menus in line with what the packages describe now, without asking them.  Called when they have started:
+  /// a menu should not have to change when it opens for the first time.
+  void ShowAll();
   /// Lets every package bring its commands up to date, as opening its menu does.
   void RefreshAll();
 
  private:
   struct TTopMenu;
   void Refresh(TTopMenu& top);
+  void Show(TTopMenu& top);
+  wxBitmapBundle ImageOf(int index, bool enabled) const;
   void Fill(TTopMenu& top, wxMenu& menu, const std::vector<TMenuItem*>& items);
   void AppendItem(TTopMenu& top, wxMenu& menu, const TMenuItem& item);
   void OnMenuOpen(wxMenuEvent& event);
