@@ -5,6 +5,8 @@
 #include <iterator>
 #include <optional>
 
+#include "expert/CallProgress.h"
+#include "expert/FileCommandStrings.h"
 #include "expert/SccExpert.h"
 #include "host/FileName.h"
 #include "host/Paths.h"
@@ -128,9 +130,14 @@ class TGathering {
     return directories;
   }
 
+  TCallProgress Progress(const std::string& what) const {
+    return {expert_.Forms(), sCommitBrowserCaption, TCallProgress::Kind::Status, what, files_};
+  }
+
   void Populate() {
     TPopulation population;
     TStateMessages messages;
+    const auto progress = Progress(sGatheringFiles);
     Project().PopulateDirectoriesList(scc::SCC_COMMAND_GET, Directories(), TakePopulated, statuses_,
                                       messages);
     std::ranges::move(population.Names(), std::back_inserter(files_));
@@ -140,6 +147,7 @@ class TGathering {
   void Query() {
     if (files_.empty()) return;
     TStateMessages messages;
+    const auto progress = Progress(sAskingStatus);
     // States that the provider could not tell would pass for files to be added.
     if (!Project().Query(files_, statuses_, messages))
       expert_.DisplayMessages(sCommitBrowserCaption, messages);
