@@ -63,12 +63,12 @@ int ImageIndexOf(const TMenuItem& item) {
   return item.ImageIndex < 0 && item.Action ? item.Action->ImageIndex : item.ImageIndex;
 }
 
-/// Gives an item that is in a menu already another picture.
-void ChangeImage(wxMenuItem& item, const wxBitmapBundle& image) {
+/// Gives an item that is in a menu already another picture.  Some ports of the toolkit have to be told to show it.
+template <class TItem>
+void ChangeImage(TItem& item, const wxBitmapBundle& image) {
   item.SetBitmap(image);
-#ifdef __WXGTK__  // there the item shows it only after this
-  item.SetupBitmaps(item.GetMenu()->GetWindow());
-#endif
+  if constexpr (requires { item.SetupBitmaps(item.GetMenu()->GetWindow()); })
+    item.SetupBitmaps(item.GetMenu()->GetWindow());
 }
 
 /// The visible items below `items`, depth first: what a filled menu shows.
