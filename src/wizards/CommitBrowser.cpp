@@ -50,7 +50,10 @@ class TCommitBrowser::TProgressLine final : public IProgress {
   TProgressLine(wxStaticText& line, std::size_t total) : line_(line), total_(total) {}
   TProgressLine(const TProgressLine&) = delete;
   TProgressLine& operator=(const TProgressLine&) = delete;
-  ~TProgressLine() override { line_.SetLabel({}); }
+  ~TProgressLine() override {
+    line_.SetLabel({});
+    HandleEvents();
+  }
 
   void Step(std::size_t done, const std::string& what) override {
     const auto now = TClock::now();
@@ -59,12 +62,17 @@ class TCommitBrowser::TProgressLine final : public IProgress {
     line_.SetLabelText(
         ToWx(Format(sCommitProgress, {static_cast<long long>(done + 1), static_cast<long long>(total_),
                                       ExtractFileName(what)})));
-    wxGetTopLevelParent(&line_)->Update();
-    // Painting only: clicks and keys stay where they are until the work is done.
-    if (auto* loop = wxEventLoopBase::GetActive()) loop->YieldFor(wxEVT_CATEGORY_UI);
+    HandleEvents();
   }
 
  private:
+  /// The window paints itself and swallows clicks and keys: an Escape that waited would close the summary unread.
+  void HandleEvents() {
+    wxGetTopLevelParent(&line_)->Update();
+    if (auto* loop = wxEventLoopBase::GetActive())
+      loop->YieldFor(wxEVT_CATEGORY_UI | wxEVT_CATEGORY_USER_INPUT);
+  }
+
   using TClock = std::chrono::steady_clock;
 
   wxStaticText& line_;

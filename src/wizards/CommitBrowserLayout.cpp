@@ -63,9 +63,9 @@ void TCommitBrowser::CreateCommitPage() {
   CreateFilePages();
 
   auto* column = new wxBoxSizer(wxVERTICAL);
-  column->Add(StringGrid1, wxSizerFlags(1).Expand());
+  column->Add(StringGrid1, wxSizerFlags(2).Expand());
   column->Add(TCheckBoxPathTrim, wxSizerFlags().Border(wxALL, FromDIP(kGap / 2)));
-  column->Add(TFileDisplayPageControl, wxSizerFlags().Expand());
+  column->Add(TFileDisplayPageControl, wxSizerFlags(1).Expand());
   TTabSheetCommit->SetSizer(column);
 }
 

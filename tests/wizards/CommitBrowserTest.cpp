@@ -199,8 +199,9 @@ TEST_F(CommitBrowser, CommentsTravelWithTheirRowsAndFitTheProvider) {
     Type(form.TMemoIndividualComment, "first line\nsecond");
     form.StringGrid1->SetGridCursor(3, cgcStatus);
     EXPECT_EQ(form.TMemoIndividualComment->GetValue(), "");
-    Type(form.TMemoIndividualComment, std::string(127, 'x') + "ä");
-    EXPECT_EQ(FromWx(form.TMemoIndividualComment->GetValue()), std::string(127, 'x'));
+    const std::string longest(127, 'x');
+    Type(form.TMemoIndividualComment, longest + "ä");
+    EXPECT_EQ(FromWx(form.TMemoIndividualComment->GetValue()), longest);
     form.StringGrid1->SetGridCursor(2, cgcStatus);
     EXPECT_EQ(form.TMemoIndividualComment->GetValue(), "first line\nsecond");
     form.StringGrid1->SetGridCursor(3, cgcStatus);
@@ -288,16 +289,24 @@ TEST_F(CommitBrowser, StaysOpenWhenThePassCannotBegin) {
 }
 
 TEST_F(CommitBrowser, CannotBeWorkedWhileThePassRuns) {
-  Show([this](TCommitBrowser& form) {
-    provider_->OnCall["SccCheckin"] = [&form](const ScriptedCall&) {
+  std::vector<std::string> progress;
+  Show([&](TCommitBrowser& form) {
+    form.FRows[3].Activity = caCommit;
+    provider_->OnCall["SccCheckin"] = [&](const ScriptedCall&) {
+      for (const auto* child : form.GetChildren())
+        if (child->GetLabel().StartsWith("File ")) progress.push_back(FromWx(child->GetLabel()));
+      if (progress.size() > 1) return;
       EXPECT_FALSE(form.TButtonCommit->IsEnabled());
       Preview(&form, WXK_ESCAPE);
       form.Close();
       EXPECT_TRUE(form.IsModal());
+      wxMilliSleep(60);  // the line changes some twenty times a second
     };
     Click(form.TButtonCommit);
   });
-  EXPECT_EQ(provider_->Count("SccCheckin"), 1);
+  EXPECT_EQ(provider_->Count("SccCheckin"), 2);
+  ASSERT_EQ(progress.size(), 2U);
+  EXPECT_EQ(progress.back(), "File 4 of 4: unit2.pas");
 }
 
 TEST_F(CommitBrowser, IsNotShownWithoutAProject) {
