@@ -1,0 +1,4 @@
+#include "support/PlainUser.h"
+
+TPlainUser::TPlainUser() = default;
+TPlainUser::~TPlainUser() = default;
