@@ -113,6 +113,14 @@ void TCommitBrowser::BindEvents() {
     CallAfter(&TCommitBrowser::FormResize);
   });
   StringGrid1->Bind(wxEVT_GRID_SELECT_CELL, &TCommitBrowser::StringGrid1SelectCell, this);
+  StringGrid1->Bind(wxEVT_GRID_CELL_LEFT_CLICK, [this](wxGridEvent& event) {
+    // A click on the cell that is chosen already chooses nothing.
+    if (event.GetRow() == StringGrid1->GetGridCursorRow() && event.GetCol() == cgcActivity &&
+        StringGrid1->GetGridCursorCol() == cgcActivity && CurrentRow())
+      PlaceActivities(event.GetRow());
+    else
+      event.Skip();
+  });
   for (const auto scrolled : {wxEVT_SCROLLWIN_TOP, wxEVT_SCROLLWIN_BOTTOM, wxEVT_SCROLLWIN_LINEUP,
                               wxEVT_SCROLLWIN_LINEDOWN, wxEVT_SCROLLWIN_PAGEUP, wxEVT_SCROLLWIN_PAGEDOWN,
                               wxEVT_SCROLLWIN_THUMBTRACK, wxEVT_SCROLLWIN_THUMBRELEASE})

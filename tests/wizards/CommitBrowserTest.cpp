@@ -113,6 +113,10 @@ TEST_F(CommitBrowser, TheDropDownFloatsOverTheFirstColumn) {
     EXPECT_EQ(Cell(form, 2, cgcActivity), "Undo Check Out");
     EXPECT_FALSE(list.IsShown());
     EXPECT_TRUE(IsFocused(&grid));
+    wxGridEvent click(grid.GetId(), wxEVT_GRID_CELL_LEFT_CLICK, &grid, 2, cgcActivity);
+    grid.HandleWindowEvent(click);
+    EXPECT_TRUE(list.IsShown()) << "a second thought";
+    EXPECT_EQ(list.GetSelection(), caUndo);
 
     for (const auto& hide : std::vector<std::function<void()>>{
              [&] { grid.SetGridCursor(2, cgcFileName); },
