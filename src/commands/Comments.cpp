@@ -55,20 +55,23 @@ void TCommentsForm::CreateControls() {
 
 void TCommentsForm::LayOut() {
   const int gap = FromDIP(8);
+  const int around = FromDIP(5);  // leaves the memo its height
   auto* under = new wxBoxSizer(wxHORIZONTAL);
   under->Add(cbApplyToAll, wxSizerFlags().CentreVertical());
   under->AddStretchSpacer();
   under->Add(LengthLabel, wxSizerFlags().CentreVertical());
   auto* left = new wxBoxSizer(wxVERTICAL);
   left->Add(CommentsMemo, wxSizerFlags(1).Expand());
-  left->Add(under, wxSizerFlags().Expand().Border(wxTOP, FromDIP(4)));
+  left->Add(under, wxSizerFlags().Expand().Border(wxTOP, FromDIP(2)));
   auto* right = new wxBoxSizer(wxVERTICAL);
   right->Add(btnOK);
   right->Add(btnCancel, wxSizerFlags().Border(wxTOP, gap));
   right->Add(btnRecent, wxSizerFlags().Border(wxTOP, gap));
-  auto* all = new wxBoxSizer(wxHORIZONTAL);
-  all->Add(left, wxSizerFlags(1).Expand().Border(wxALL, gap));
-  all->Add(right, wxSizerFlags().Border(wxTOP | wxRIGHT, gap));
+  auto* row = new wxBoxSizer(wxHORIZONTAL);
+  row->Add(left, wxSizerFlags(1).Expand().Border(wxLEFT | wxRIGHT, gap));
+  row->Add(right, wxSizerFlags().Border(wxRIGHT, gap));
+  auto* all = new wxBoxSizer(wxVERTICAL);
+  all->Add(row, wxSizerFlags(1).Expand().Border(wxTOP | wxBOTTOM, around));
   SetSizer(all);
   SetClientSize(FromDIP(wxSize(530, 189)));
   CentreOnScreen();

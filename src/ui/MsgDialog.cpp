@@ -56,7 +56,7 @@ void TMsgDialogForm::CreateControls(const std::string& title, const std::string&
   TitleLabel->Wrap(WrapWidth(*TitleLabel));
   // The control by itself would measure its text without the bold face, which it gets when it is shown.
   TitleLabel->SetMinSize(wxClientDC(TitleLabel).GetMultiLineTextExtent(TitleLabel->GetLabelText()));
-  MessageText = new wxTextCtrl(this, wxID_ANY, ToWx(msg), wxDefaultPosition, FromDIP(wxSize(377, 120)),
+  MessageText = new wxTextCtrl(this, wxID_ANY, ToWx(msg), wxDefaultPosition, FromDIP(wxSize(377, 124)),
                                wxTE_MULTILINE | wxTE_READONLY);
   MessageText->SetBackgroundColour(wxSystemSettings::GetColour(wxSYS_COLOUR_BTNFACE));
   btnOK = new wxButton(this, wxID_OK, ToWx(sButtonOk));
@@ -64,12 +64,15 @@ void TMsgDialogForm::CreateControls(const std::string& title, const std::string&
 
 void TMsgDialogForm::LayOut() {
   const int gap = FromDIP(8);
+  const int around = FromDIP(5);  // leaves the text its height
   auto* head = new wxBoxSizer(wxHORIZONTAL);
   head->Add(MsgIcon, wxSizerFlags().Top());
   head->Add(TitleLabel, wxSizerFlags(1).CentreVertical().Border(wxLEFT | wxRIGHT, gap));
   head->Add(btnOK, wxSizerFlags().Top());
   auto* all = new wxBoxSizer(wxVERTICAL);
-  all->Add(head, wxSizerFlags().Expand().Border(wxALL, gap));
+  all->AddSpacer(around);
+  all->Add(head, wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT, gap));
+  all->AddSpacer(around);
   all->Add(MessageText, wxSizerFlags(1).Expand().Border(wxLEFT | wxRIGHT | wxBOTTOM, gap));
   SetSizer(all);
   auto client =

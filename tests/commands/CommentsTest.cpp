@@ -82,6 +82,7 @@ TEST(Comments, TheBoxIsShownOnlyWhereItMeansSomething) {
   ShowAndPlay<TCommentsForm>(form, [](TCommentsForm& shown) {
     EXPECT_TRUE(shown.cbApplyToAll->IsShown());
     EXPECT_TRUE(shown.cbApplyToAll->GetValue());
+    EXPECT_GE(shown.CommentsMemo->GetSize().GetHeight(), shown.FromDIP(153));
     shown.cbApplyToAll->SetValue(false);
     Click(shown.btnOK);
   });

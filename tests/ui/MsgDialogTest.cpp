@@ -47,6 +47,7 @@ TEST(MsgDialog, MakesRoomForALongTitle) {
       "A title of many words that needs more than two lines, and " + longWord + " and the rest";
   const TMsgDialogForm normal("Check Out File", "", metInfo), high(longTitle, "", metInfo);
   EXPECT_EQ(normal.GetClientSize(), normal.FromDIP(wxSize(393, 182)));
+  EXPECT_GE(normal.MessageText->GetSize().GetHeight(), normal.FromDIP(124));
   EXPECT_GT(high.GetClientSize().GetHeight(), normal.GetClientSize().GetHeight());
   EXPECT_LE(high.TitleLabel->GetRect().GetRight(), high.btnOK->GetRect().GetLeft());
   EXPECT_GE(high.TitleLabel->GetSize().GetWidth(), high.TitleLabel->GetTextExtent(ToWx(longWord)).GetWidth());
