@@ -1,7 +1,7 @@
 // Modules, projects, editors and the services that find, open, save and reload them.
 //
 // Objects returned by pointer belong to the host and are borrowed: valid until control returns to the host's message
-// loop or a call closes the module.  All file names are full paths in the system's 8-bit encoding.
+// loop or a call closes the module.  All file names are full paths, in UTF-8.
 #pragma once
 
 #include <memory>
@@ -9,6 +9,8 @@
 
 #include "host/Interface.h"
 #include "host/Notifiers.h"
+
+#undef GetModuleFileName  // a macro of Windows' headers, where they came first
 
 /// One editor of a module: its source text or its form.
 class IOTAEditor : public virtual IInterface {

@@ -8,6 +8,8 @@
 
 #include "host/Text.h"
 
+#undef SendMessage  // a macro of Windows' headers, where they came first
+
 /// Kind of a line of the message window; also the index of its icon.
 enum TMsgWinType { mwtInfo, mwtWarning, mwtError, mwtStatus };
 

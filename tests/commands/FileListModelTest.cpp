@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 
 #include "expert/FileListModel.h"
+#include "support/NativePath.h"
 
 using testing::ElementsAre;
 
@@ -21,47 +22,48 @@ std::vector<std::string> Ticked(const TFileListModel& model) {
 }
 
 TEST(FileListModel, ShowsNameAndDirectoryAndGivesTheFullPathBack) {
-  const auto model = ListOf({"/p/src/unit1.pas", "/unit2.pas"});
+  const auto model = ListOf({Native("/p/src/unit1.pas"), Native("/unit2.pas")});
   EXPECT_EQ(model.NameOf(0), "unit1.pas");
-  EXPECT_EQ(model.DirectoryOf(0), "/p/src");
-  EXPECT_EQ(model.GetFile(0), "/p/src/unit1.pas");
-  EXPECT_EQ(model.GetFile(1), "/unit2.pas") << "a root keeps its delimiter";
+  EXPECT_EQ(model.DirectoryOf(0), Native("/p/src"));
+  EXPECT_EQ(model.GetFile(0), Native("/p/src/unit1.pas"));
+  EXPECT_EQ(model.GetFile(1), Native("/unit2.pas")) << "a root keeps its delimiter";
   EXPECT_EQ(model.GetFile(-1), "");
   EXPECT_EQ(model.GetFile(2), "");
 }
 
 TEST(FileListModel, OpensWithTheFileThatIsBeingEditedTicked) {
   const struct {
-    const char* Current;
+    std::string Current;
     std::vector<std::string> Ticked;
   } rows[] = {
-      {"/p/unit1.pas", {"/p/unit1.pas"}},
-      {"/P/UNIT1.PAS", {"/p/unit1.pas"}},
-      {"/p/gRÖße.pas", {"/p/Größe.pas"}},
-      {"/p/main.kfm", {"/p/main.pas"}},
-      {"/p/main.KFM", {"/p/main.kfm"}},  // only the exact extension is a form's
-      {"/q/unit1.pas", {}},
+      {Native("/p/unit1.pas"), {Native("/p/unit1.pas")}},
+      {Native("/P/UNIT1.PAS"), {Native("/p/unit1.pas")}},
+      {Native("/p/gRÖße.pas"), {Native("/p/Größe.pas")}},
+      {Native("/p/main.kfm"), {Native("/p/main.pas")}},
+      {Native("/p/main.KFM"), {Native("/p/main.kfm")}},  // only the exact extension is a form's
+      {Native("/q/unit1.pas"), {}},
       {"unit1.pas", {}},
       {"", {}},
   };
   for (const auto& row : rows) {
     SCOPED_TRACE(row.Current);
-    auto model = ListOf({"/p/unit1.pas", "/p/main.pas", "/p/main.kfm", "/p/Größe.pas"});
+    auto model = ListOf(
+        {Native("/p/unit1.pas"), Native("/p/main.pas"), Native("/p/main.kfm"), Native("/p/Größe.pas")});
     model.TickCurrent(row.Current);
     EXPECT_EQ(Ticked(model), row.Ticked);
   }
 }
 
 TEST(FileListModel, TicksTheOnlyFileWhateverIsEdited) {
-  auto model = ListOf({"/p/unit1.pas"});
-  model.TickCurrent("/p/other.pas");
-  EXPECT_THAT(Ticked(model), ElementsAre("/p/unit1.pas"));
+  auto model = ListOf({Native("/p/unit1.pas")});
+  model.TickCurrent(Native("/p/other.pas"));
+  EXPECT_THAT(Ticked(model), ElementsAre(Native("/p/unit1.pas")));
 }
 
 TEST(FileListModel, ButtonsFollowTheTicks) {
   EXPECT_EQ(TFileListModel().CheckState(), (TFileListModel::TButtons{false, false, false}))
       << "an empty list";
-  auto model = ListOf({"/p/a.pas", "/p/b.pas"});
+  auto model = ListOf({Native("/p/a.pas"), Native("/p/b.pas")});
   EXPECT_EQ(model.CheckState(),
             (TFileListModel::TButtons{.Ok = false, .CheckAll = true, .UncheckAll = false}));
   model.SetChecked(1, true);
@@ -71,11 +73,11 @@ TEST(FileListModel, ButtonsFollowTheTicks) {
   EXPECT_EQ(model.CheckState(),
             (TFileListModel::TButtons{.Ok = true, .CheckAll = false, .UncheckAll = true}));
   model.SetChecked(0, false);
-  EXPECT_THAT(Ticked(model), ElementsAre("/p/b.pas"));
+  EXPECT_THAT(Ticked(model), ElementsAre(Native("/p/b.pas")));
   model.ChangeAllCheckedStates(false);
   EXPECT_THAT(Ticked(model), ElementsAre());
   model.ChangeAllCheckedStates(true);
-  EXPECT_THAT(Ticked(model), ElementsAre("/p/a.pas", "/p/b.pas"));
+  EXPECT_THAT(Ticked(model), ElementsAre(Native("/p/a.pas"), Native("/p/b.pas")));
 }
 
 TEST(CommentText, FitsWhatAProviderTakes) {

@@ -14,6 +14,7 @@
 #include "host/Errors.h"
 #include "host/Paths.h"
 #include "host/Registry.h"
+#include "support/NativePath.h"
 #include "support/ScriptedForms.h"
 #include "support/ScriptedHost.h"
 #include "support/ScriptedProvider.h"
@@ -26,6 +27,7 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
+using testing::UnorderedElementsAre;
 
 inline constexpr const char* kScripted = "Scripted";
 
@@ -56,7 +58,7 @@ class TExpertTest : public testing::Test {
     if (isDefault) registry.WriteString(kProviderRegKey, key);
   }
   void WriteMapping(const std::string& text) { folder_.Write("work/App.cdp", text); }
-  std::string Mapping() const { return ReadWholeFile(folder_ / "work/App.cdp"); }
+  std::string Mapping() const { return WithoutReturns(ReadWholeFile(folder_ / "work/App.cdp")); }
   std::string At(const std::string& name) const { return folder_ / ("work/" + name); }
 
   /// Creates the expert, as the host's main form does.

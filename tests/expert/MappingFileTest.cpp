@@ -3,6 +3,7 @@
 
 #include "expert/ExpertFixture.h"
 #include "expert/MappingFile.h"
+#include "support/NativePath.h"
 
 namespace {
 
@@ -13,8 +14,9 @@ class MappingFile : public testing::Test {
 };
 
 TEST_F(MappingFile, NameReplacesTheExtension) {
-  EXPECT_EQ(MappingFileName("/work/App.qvxproj"), "/work/App.cdp");
-  EXPECT_EQ(MappingFileName("App.qvxproj"), "/App.cdp") << "without a directory it begins with the delimiter";
+  EXPECT_EQ(MappingFileName(Native("/work/App.qvxproj")), Native("/work/App.cdp"));
+  EXPECT_EQ(MappingFileName("App.qvxproj"), Native("/App.cdp"))
+      << "without a directory it begins with the delimiter";
 }
 
 TEST_F(MappingFile, RewritingKeepsWhatItDoesNotUnderstand) {

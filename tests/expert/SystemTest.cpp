@@ -1,6 +1,7 @@
 // What the host is asked.
 #include "expert/ExpertFixture.h"
 #include "expert/SccSystem.h"
+#include "support/NativePath.h"
 #include "support/TestRegistry.h"
 
 namespace {
@@ -60,9 +61,9 @@ TEST(HostAccess, HelpFileComesFromTheMachinesHelpKey) {
   EXPECT_EQ(GetRVHelpFile("RavelinDSP.hlp"), "");
   TRegistry writer;
   writer.OpenKey("SOFTWARE\\Microsoft\\Windows\\Help");
-  writer.WriteString("RavelinDSP.hlp", "/opt/help");
-  EXPECT_EQ(GetRVHelpFile("RavelinDSP.hlp"), "/opt/help/RavelinDSP.hlp");
-  EXPECT_EQ(GetRVHelpFile("other.hlp"), "/other.hlp");
+  writer.WriteString("RavelinDSP.hlp", Native("/opt/help"));
+  EXPECT_EQ(GetRVHelpFile("RavelinDSP.hlp"), Native("/opt/help/RavelinDSP.hlp"));
+  EXPECT_EQ(GetRVHelpFile("other.hlp"), Native("/other.hlp"));
 }
 
 }  // namespace

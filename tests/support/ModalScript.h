@@ -81,8 +81,9 @@ class TModalScript final : private wxModalDialogHook {
 template <class TForm>
 int ShowAndPlay(TForm& form, std::function<void(TForm&)> user) {
   form.CallAfter([&] {
+    form.SetReturnCode(wxID_NONE);
     user(form);
-    if (!form.IsModal()) return;
+    if (form.GetReturnCode() != wxID_NONE) return;  // ended; how long it counts as modal depends on the toolkit
     ADD_FAILURE() << "\"" << form.GetTitle().utf8_string() << "\" is still open";
     form.EndModal(wxID_NONE);
   });

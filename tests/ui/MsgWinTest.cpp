@@ -52,7 +52,7 @@ TEST_F(MessageWindow, AppendsLinesWithKindAndDateAndStaysHidden) {
   EXPECT_EQ(Cell(2, 0), "first  second") << "a row is one line";
   EXPECT_EQ(Cell(3, 0), "latin ä") << "text that is not UTF-8 is shown, not dropped";
   for (long row = 0; row < 4; ++row) {
-    EXPECT_THAT(Cell(row, 1), MatchesRegex("../../.... ..:..:.. [AP]M"));
+    EXPECT_THAT(Cell(row, 1), MatchesRegex("../../.... ..:..:.. .M"));
     wxListItem item;
     item.SetId(row);
     item.SetMask(wxLIST_MASK_IMAGE);
@@ -117,7 +117,7 @@ TEST_F(MessageWindow, CopiesTheSelectedLines) {
   const wxClipboardLocker locker;
   wxTextDataObject copied;
   ASSERT_TRUE(wxTheClipboard->GetData(copied));
-  EXPECT_THAT(FromWx(copied.GetText()), MatchesRegex("two\r?\nlines\t[^\t]*M\nthree\t[^\t]*M\n"));
+  EXPECT_THAT(FromWx(copied.GetText()), MatchesRegex("two\r?\nlines\t.*M\nthree\t.*M\n"));
 }
 
 TEST_F(MessageWindow, ClearsItsVariableWhenItGoes) {

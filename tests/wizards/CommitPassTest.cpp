@@ -1,6 +1,7 @@
 // The commit browser's pass over its rows.
 #include "expert/ExpertFixture.h"
 #include "host/System.h"
+#include "support/NativePath.h"
 #include "wizards/CommitPass.h"
 
 namespace {
@@ -53,12 +54,13 @@ TEST_F(CommitPass, CarriesOutEachRowInRowOrderAndSaysSo) {
   EXPECT_EQ(Summary(rows),
             "Processing Project Files\r\n"
             "\r\n + Commiting a.pas: Succeeded"
-            "\r\n + No Action sub/b.pas"
-            "\r\n + Checking out c.pas: Succeeded"
-            "\r\n + Undoing checkout on d.pas: Succeeded"
-            "\r\n + Adding e.pas: Succeeded"
-            "\r\n + Removing f.pas: Succeeded"
-            "\r\n + Getting Latest g.pas: Succeeded");
+            "\r\n + No Action " +
+                Native("sub/b.pas") +
+                "\r\n + Checking out c.pas: Succeeded"
+                "\r\n + Undoing checkout on d.pas: Succeeded"
+                "\r\n + Adding e.pas: Succeeded"
+                "\r\n + Removing f.pas: Succeeded"
+                "\r\n + Getting Latest g.pas: Succeeded");
 
   const struct {
     const char *Entry, *File, *Comment;

@@ -1,5 +1,6 @@
 // What the commit browser lists and proposes.
 #include "expert/ExpertFixture.h"
+#include "support/NativePath.h"
 #include "wizards/CommitRows.h"
 
 namespace {
@@ -72,7 +73,8 @@ TEST(CommitRowRules, FilesAreSeenFromTheProject) {
       {"/p/app", "/p/lib/x.pas", "../lib/x.pas"}, {"/p", "unit1.pas", "unit1.pas"},
       {"", "/p/unit1.pas", "/p/unit1.pas"},
   };
-  for (const auto& row : rows) EXPECT_EQ(ProjectRelativePath(row.Directory, row.File), row.Seen);
+  for (const auto& row : rows)
+    EXPECT_EQ(ProjectRelativePath(Native(row.Directory), Native(row.File)), Native(row.Seen));
 }
 
 class CommitRowsOf : public TExpertTest {
@@ -115,8 +117,9 @@ TEST_F(CommitRowsOf, AProjectAreItsFilesAndWhatTheProviderKnows) {
 
   EXPECT_THAT(
       Rows(),
-      ElementsAre("../lib/shared.pas: Up to date/No activity", "App.qvxproj: Not Controlled/Add",
-                  "sub/gone too.pas: Not Controlled/Add", "sub/known.pas: Modified/Get Latest",
+      ElementsAre(Native("../lib/shared.pas") + ": Up to date/No activity", "App.qvxproj: Not Controlled/Add",
+                  Native("sub/gone too.pas") + ": Not Controlled/Add",
+                  Native("sub/known.pas") + ": Modified/Get Latest",
                   "unit1.kfm: Invalid status returned!/No activity", "unit1.pas: Checked out/Modified/Commit",
                   "unit2.pas: Checked out by another user/Up To date/No activity"));
 

@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "support/NativePath.h"
 #include "workbench/model/ProjectFile.h"
 
 namespace {
@@ -74,9 +75,9 @@ TEST(StoredPath, IsRelativeWithSlashesAndComesBack) {
   };
   for (const auto& row : rows) {
     EXPECT_EQ(ToStoredPath(row.Base, row.Path), row.Stored);
-    EXPECT_EQ(FromStoredPath(row.Base, row.Stored), row.Path);
+    EXPECT_EQ(FromStoredPath(row.Base, row.Stored), Native(row.Path));
   }
-  EXPECT_EQ(FromStoredPath("/p", "/q/Main.pas"), "/q/Main.pas");
+  EXPECT_EQ(FromStoredPath("/p", "/q/Main.pas"), Native("/q/Main.pas"));
 }
 
 TEST(ProjectFile, HoldsTheLargestProject) {

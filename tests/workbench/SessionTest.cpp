@@ -5,6 +5,7 @@
 #include <filesystem>
 
 #include "host/Paths.h"
+#include "support/NativePath.h"
 #include "support/TemporaryFolder.h"
 #include "workbench/model/Session.h"
 #include "workbench/model/SessionServices.h"
@@ -127,7 +128,7 @@ TEST_F(Session, OpensAGroupWithItsProjectsAndSaysWhichIsMissing) {
   EXPECT_THAT(OpenNames(), ElementsAre("G.qvxgroup", "A.qvxproj", "B.qvxproj"));
   EXPECT_EQ(session_.ActiveProject(), &Project("B.qvxproj"));
   EXPECT_THAT(listener_->Take(), ElementsAre("1 G.qvxgroup", "1 A.qvxproj", "1 B.qvxproj"));
-  EXPECT_THAT(lines_, ElementsAre(HasSubstr("gone/C.qvxproj does not exist")));
+  EXPECT_THAT(lines_, ElementsAre(HasSubstr(Native("gone/C.qvxproj") + " does not exist")));
   EXPECT_EQ(Project("A.qvxproj").GetModuleFileName(2), Path("tool.dll"));
   EXPECT_EQ(Project("A.qvxproj").GetModuleFileName(3), "");
 }
@@ -228,6 +229,7 @@ TEST_F(Session, ReloadsContentsAndReadOnlyState) {
   EXPECT_FALSE(View("A1.pas").Changed);
   EXPECT_EQ(View("A1.kfm").Text, "object A1\nend\n") << "only what was asked for";
   EXPECT_FALSE(actions_.ReloadFile(Path("A2.pas"))) << "not open";
+  SetFileAttributesOf(Path("A1.pas"), faArchive);
   std::filesystem::remove(Path("A1.pas"));
   EXPECT_FALSE(actions_.ReloadFile(Path("A1.pas")));
   EXPECT_EQ(View("A1.pas").Text, "unit Theirs;\n");

@@ -15,5 +15,7 @@ bool SaveScreenshot(const std::string& fileName) {
   wxMemoryDC memory(bitmap);
   memory.Blit(wxPoint(0, 0), size, &screen, wxPoint(0, 0));
   memory.SelectObject(wxNullBitmap);
-  return bitmap.ConvertToImage().SaveFile(wxString::FromUTF8(fileName), wxBITMAP_TYPE_PNG);
+  wxImage image = bitmap.ConvertToImage();
+  if (image.HasAlpha()) image.ClearAlpha();  // what some systems leave in a screen's fourth byte means nothing
+  return image.SaveFile(wxString::FromUTF8(fileName), wxBITMAP_TYPE_PNG);
 }
