@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <ctime>
+#include <utility>
 
 #include "ui/Icons.h"
 #include "ui/MsgWinStrings.h"
@@ -49,7 +50,12 @@ TMessageListView::TMessageListView(wxWindow* parent)
 
 void TMessageListView::Append(TMsgWinType kind, const std::string& text) {
   lines_.push_back({kind, text, Now()});
-  SetItemCount(static_cast<long>(lines_.size()));
+  if (std::exchange(growing_, true)) return;
+  // Once for all lines of a command: some systems draw the scroll bar anew each time.
+  CallAfter([this] {
+    growing_ = false;
+    SetItemCount(static_cast<long>(lines_.size()));
+  });
 }
 
 void TMessageListView::Clear() {

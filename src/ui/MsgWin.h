@@ -36,6 +36,7 @@ class TMessageListView final : public wxListView {
     std::string Date;
   };
   std::vector<TLine> lines_;
+  bool growing_ = false;  ///< there are lines that the control does not know of yet
 };
 
 /// Modeless; hidden until it is asked for, and hidden again by Escape or its close button, never destroyed by them.

@@ -34,7 +34,10 @@ struct MessageWindow : testing::Test {
   std::string Cell(long row, int column) const {
     return FromWx(window.MessageListView->GetItemText(row, column));
   }
-  int Lines() const { return window.MessageListView->GetItemCount(); }
+  int Lines() const {
+    wxTheApp->ProcessPendingEvents();
+    return window.MessageListView->GetItemCount();
+  }
 
   ~MessageWindow() override { delete MsgWinForm; }
 
