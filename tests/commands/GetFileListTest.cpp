@@ -5,6 +5,7 @@
 #include "host/Registry.h"
 #include "provider/SCMAddInOptions.h"
 #include "support/ModalScript.h"
+#include "support/NativePath.h"
 #include "support/ScriptedForms.h"
 #include "support/ScriptedHost.h"
 #include "support/ScriptedProvider.h"
@@ -67,7 +68,9 @@ TEST_F(FileList, HoldsAFullProjectAndIsWorkedByKeyboard) {
     Click(form.btnCheckAll);
     EXPECT_EQ(model.ItemsChecked(), 65536);
     EXPECT_EQ(Buttons(form), (B{true, false, true}));
-    list.CheckItem(3, false);  // as the mouse does
+    wxListEvent unticked(wxEVT_LIST_ITEM_UNCHECKED, list.GetId());  // as the mouse does
+    unticked.m_itemIndex = 3;
+    list.HandleWindowEvent(unticked);
     EXPECT_EQ(model.ItemsChecked(), 65535);
     EXPECT_EQ(Buttons(form), (B{true, true, true}));
     Preview(&list, WXK_RETURN);
@@ -92,8 +95,8 @@ TEST_F(FileList, AButtonThatDisablesItselfGivesTheFocusToTheList) {
 
 TEST_F(FileList, OpensAtTheFileThatIsBeingEdited) {
   Fill(5000);
-  host.AddUnit("/p/unit4321.kfm");
-  host.TopBuffer = "/p/unit4321.kfm";
+  host.AddUnit(Native("/p/unit4321.kfm"));
+  host.TopBuffer = Native("/p/unit4321.kfm");
   Show([this](TGetFileListForm& form) {
     EXPECT_TRUE(model.IsChecked(4321));
     EXPECT_TRUE(form.FilesListView->IsVisible(4321));
@@ -195,9 +198,9 @@ TEST_F(FileList, IsFoundByOthersOnlyWhileItGetsFiles) {
     model.CommandKind = command;
     TGetFileListForm form(*expert, model);
     EXPECT_EQ(GetFileListForm, command == coGet ? &form : nullptr);
-    form.AddFile("/p/unit.pas", "Current");
+    form.AddFile(Native("/p/unit.pas"), "Current");
     const int last = form.FilesListView->GetItemCount() - 1;
-    EXPECT_EQ(form.GetFile(last), "/p/unit.pas");
+    EXPECT_EQ(form.GetFile(last), Native("/p/unit.pas"));
     EXPECT_EQ(form.GetFile(-1), "");
   }
   EXPECT_EQ(GetFileListForm, nullptr);

@@ -59,6 +59,8 @@ void TRegistry::OpenKey(const std::string& key) {
   CloseKey();
   impl_->Name = key;
   impl_->Writable = true;
+  // What there is can be read; that it cannot be written is said when that is tried.
+  if (!impl_->Open(KEY_READ | KEY_SET_VALUE)) impl_->Open(KEY_READ);
 }
 
 void TRegistry::CloseKey() {
@@ -112,7 +114,7 @@ void TRegistry::WriteString(const std::string& name, const std::string& value) {
 
 bool TRegistry::DeleteValue(const std::string& name) {
   if (!impl_->Writable) throw std::runtime_error("No registry key is open for writing.");
-  if (!impl_->Open(KEY_READ | KEY_SET_VALUE)) return false;
+  if (!impl_->Key) return false;
   const auto error = RegDeleteValueW(impl_->Key, ToWide(name).c_str());
   if (error != ERROR_SUCCESS && error != ERROR_FILE_NOT_FOUND) Fail(impl_->Name, error);
   return error == ERROR_SUCCESS;

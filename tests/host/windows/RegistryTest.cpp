@@ -81,6 +81,8 @@ TEST_F(Registry, DeletesValuesAndKeysWithAllBelow) {
   EXPECT_EQ(Read("Software\\A\\SCC", "name"), "no such key");
 
   registry.OpenKey("Software\\AB");
+  EXPECT_EQ(registry.ReadString("name"), "value") << "a key that is open for writing can be read";
+  EXPECT_THAT(registry.GetValueNames(), ElementsAre("name"));
   EXPECT_TRUE(registry.DeleteValue("NAME"));
   EXPECT_FALSE(registry.DeleteValue("name"));
   EXPECT_EQ(Read("Software\\AB", "name"), "");
