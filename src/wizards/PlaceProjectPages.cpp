@@ -15,6 +15,9 @@ namespace {
 /// This provider's projects are directories of its own file system: there is nothing to browse for.
 constexpr const char* kDirectoryProvider = "ClearCase";
 
+/// Equal for two names of one file: where the platform ignores case, so does this.
+std::string FileKey(const std::string& file) { return SameFileName("a", "A") ? FoldCase(file) : file; }
+
 }  // namespace
 
 TPlaceProjectPages::TPlaceProjectPages(TSccExpert& expert)
@@ -63,7 +66,7 @@ void TPlaceProjectPages::PageSelectFilesDisplay() {
   FExpert.AddAssociatedFiles(&gathered, /*removeMissing*/ true);
   std::unordered_set<std::string> known;  // a unit may be another file's companion too
   for (auto& file : gathered)
-    if (known.insert(file).second) files_.push_back(std::move(file));
+    if (known.insert(FileKey(file)).second) files_.push_back(std::move(file));
   for (const auto& file : files_) shown_.push_back(RelativePath(directory_, file));
   ticked_.assign(files_.size(), true);
 }
@@ -92,17 +95,16 @@ bool TPlaceProjectPages::Place() {
   mapping.Write(FExpert.ProviderName(), kMapAuxProjPath, project.get_ProjPath());
   TProviderWords words;
   const bool opened = Open(mapping, words);
-  // Whatever came of it: without an open project each file says for itself that it cannot be added.
-  AddFiles(words);
+  AddFiles(words, opened);  // whatever came of it: each file says for itself that it cannot be added
   if (opened && !IsStopped()) AddStatus(sPlaceSucceeded);
   return opened;
 }
 
-void TPlaceProjectPages::AddFiles(TProviderWords& words) {
+void TPlaceProjectPages::AddFiles(TProviderWords& words, bool opened) {
   auto left = static_cast<long long>(std::ranges::count(ticked_, true));
   for (std::size_t row = 0; row < files_.size() && !IsStopped(); ++row)
     if (ticked_[row]) {
-      AddFile(row, words);
+      AddFile(row, words, opened);
       --left;
     }
   if (IsStopped()) AddStatus(Format(sPlaceStopped.Text, {left}));
@@ -116,20 +118,21 @@ bool TPlaceProjectPages::Open(TMappingFile& mapping, TProviderWords& words) {
   words.TakeErrors();
   const auto code = Project().OpenProject(messages);
   if (code != scc::SCC_OK || !messages[2].empty()) {
-    AddReasons(words, messages);
+    ShowReasons(words, messages);
     return false;
   }
   mapping.Write(FExpert.ProviderName(), kMapUserName, Project().get_UserName());
   return true;
 }
 
-void TPlaceProjectPages::AddFile(std::size_t row, TProviderWords& words) {
+void TPlaceProjectPages::AddFile(std::size_t row, TProviderWords& words, bool opened) {
   const auto& file = files_[row];
   TStateMessages messages;
   if (!Project().AddFile({file}, {}, KeepCheckedOut, messages)) {
     // Seen from the directory above, so that the project's own name leads the way to the file: that is meant.
     AddStatus(Format(sPlaceAddFailed.Text, {RelativePath(ExtractFileDir(directory_), file)}));
-    return AddReasons(words, messages, sPlaceReason.Text);
+    if (opened) AddReasons(words, messages, sPlaceReason.Text);  // otherwise it is the one for all, and shown
+    return;
   }
   words.TakeErrors();
   AddStatus(Format(sPlaceAddOk.Text, {shown_[row]}));

@@ -30,8 +30,8 @@ class TPlaceProjectPages final : public TWizardPages {
   void PlaceProject();
   bool Place();
   bool Open(class TMappingFile& mapping, TProviderWords& words);
-  void AddFiles(TProviderWords& words);
-  void AddFile(std::size_t row, TProviderWords& words);
+  void AddFiles(TProviderWords& words, bool opened);
+  void AddFile(std::size_t row, TProviderWords& words, bool opened);
   void RollBack();
 
   std::string project_file_;

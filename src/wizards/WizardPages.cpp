@@ -16,6 +16,15 @@ constexpr int kLastPage = 3;
 // The status page is the fourth, and no step: the user has nothing to do there.
 constexpr long long kSteps = 3;
 
+/// What the provider said about a failure, or else the texts of its return code.
+TStringList Reasons(TProviderWords& words, const TStateMessages& messages) {
+  auto reasons = words.TakeErrors();
+  if (reasons.empty())
+    for (const auto& text : {messages[2], messages[1]})
+      if (!text.empty()) reasons.push_back(text);
+  return reasons;
+}
+
 }  // namespace
 
 void TWizardPages::Attempt(const std::function<void()>& action) {
@@ -199,8 +208,7 @@ void TWizardPages::ProjectBrowserButtonClick() {
     if (code == scc::SCC_OK) {
       Pick(project);
     } else if (code < 0) {
-      const auto errors = words.TakeErrors();
-      page_.Problem = errors.empty() ? messages[2] : errors.back();
+      ShowReasons(words, messages);
     }
     page_.Next = !project_name_.empty();
   });
@@ -225,9 +233,10 @@ void TWizardPages::AddStatus(std::string line) {
 }
 
 void TWizardPages::AddReasons(TProviderWords& words, const TStateMessages& messages, const char* format) {
-  auto reasons = words.TakeErrors();
-  if (reasons.empty())
-    for (const auto& text : {messages[2], messages[1]})
-      if (!text.empty()) reasons.push_back(text);
-  for (const auto& reason : reasons) AddStatus(Format(format, {reason}));
+  for (const auto& reason : Reasons(words, messages)) AddStatus(Format(format, {reason}));
+}
+
+void TWizardPages::ShowReasons(TProviderWords& words, const TStateMessages& messages) {
+  for (const auto& reason : Reasons(words, messages))
+    page_.Problem += (page_.Problem.empty() ? "" : "\n") + reason;
 }
