@@ -5,6 +5,7 @@
 
 #include "SvnHandles.h"
 #include "WindowStrings.h"
+#include "ui/WindowSize.h"
 #include "ui/WxText.h"
 
 namespace svnscc {
@@ -89,7 +90,7 @@ void ToolWindow::UseSizer(wxSizer* all, const wxSize& initial, const wxSize& lea
   wxSize size = FromDIP(initial);
   size.IncTo(smallest);
   size.DecTo(wxGetClientDisplayRect().GetSize());
-  SetSize(size);
+  SetOuterSize(*this, size);
   CentreOnParent();
 }
 

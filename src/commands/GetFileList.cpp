@@ -10,6 +10,7 @@
 #include "expert/SccExpert.h"
 #include "expert/SccSystem.h"
 #include "ui/ButtonStrings.h"
+#include "ui/WindowSize.h"
 #include "ui/WxText.h"
 
 TGetFileListForm* GetFileListForm = nullptr;
@@ -142,7 +143,7 @@ void TGetFileListForm::LayOut() {
     all->Add(box, wxSizerFlags().Border(wxLEFT | wxRIGHT | wxBOTTOM, gap));
   SetSizer(all);
   SetMinSize(FromDIP(wxSize(569, 274)));
-  SetSize(FromDIP(wxSize(662, 359)));
+  SetOuterSize(*this, FromDIP(wxSize(662, 359)));
   CentreOnScreen();
 }
 

@@ -9,6 +9,7 @@
 
 #include "ui/Icons.h"
 #include "ui/MsgWinStrings.h"
+#include "ui/WindowSize.h"
 #include "ui/WxText.h"
 
 TMsgWinForm* MsgWinForm = nullptr;
@@ -103,8 +104,8 @@ TMsgWinForm::TMsgWinForm(const std::string& helpFile)
     : wxFrame(nullptr, wxID_ANY, ToWx(sMsgWinCaption), wxDefaultPosition, wxDefaultSize, kBorder),
       MessageListView(new TMessageListView(this)),
       HelpFile(helpFile) {
-  SetSize(FromDIP(wxSize(654, 240)));
   SetMinSize(FromDIP(wxSize(240, 120)));
+  SetOuterSize(*this, FromDIP(wxSize(654, 240)));
   CentreOnScreen();
   VCMPopupMenu.Append(wxID_CLEAR, ToWx(sClearMessages));
 

@@ -6,6 +6,7 @@
 
 #include "commands/CommentsStrings.h"
 #include "ui/MenuImages.h"
+#include "ui/WindowSize.h"
 #include "ui/WxText.h"
 #include "wizards/CommitBrowser.h"
 #include "wizards/CommitBrowserStrings.h"
@@ -143,7 +144,7 @@ void TCommitBrowser::LayOut() {
   all->Add(bottom, wxSizerFlags().Expand().Border(wxALL, gap));
   SetSizer(all);
   SetMinSize(FromDIP(wxSize(711, 505)));
-  SetSize(FromDIP(wxSize(711, 507)));
+  SetOuterSize(*this, FromDIP(wxSize(711, 507)));
   for (auto* book : {TCommitPageControl, TFileDisplayPageControl}) SizePages(*book);
   CentreOnScreen();
 }
