@@ -11,9 +11,6 @@
 
 namespace {
 
-constexpr const char* kFormExtension = ".kfm";
-constexpr const char* kUnitExtension = ".pas";
-
 IOTAModule* FindModule(const std::string& fileName) {
   auto* modules = IdeService<IOTAModuleServices>();
   return modules ? modules->FindModule(fileName) : nullptr;
@@ -83,7 +80,7 @@ void TSccEditorNotifier::ViewActivated() { expert_.ViewChange(rv_GetCurrentFile(
 
 void TSccEditorNotifier::ViewNotification(TOTAOperation operation) {
   if (operation != TOTAOperation::opInsert) return;
-  auto* form = GetFormEditor(FindModule(rv_GetCurrentFile()), kFormExtension);
+  auto* form = GetFormEditor(FindModule(rv_GetCurrentFile()), expert_.FormExtension());
   if (form) expert_.FormEditors()->Add(form->GetFileName());
 }
 
@@ -94,11 +91,12 @@ void* TSccFormNotifier::QueryInterface(const TGuid& iid) noexcept {
 }
 
 IOTAEditor* TSccFormNotifier::FindEditor() {
-  return GetFormEditor(FindModule(ChangeFileExt(file_name_, kUnitExtension)), ExtractFileExt(file_name_));
+  return GetFormEditor(FindModule(ChangeFileExt(file_name_, expert_.SourceExtension())),
+                       ExtractFileExt(file_name_));
 }
 
 void TSccFormNotifier::Attach(const std::shared_ptr<IOTANotifier>& self) {
-  if (!FindModule(ChangeFileExt(file_name_, kUnitExtension))) throw EAbort(sFormModuleNil);
+  if (!FindModule(ChangeFileExt(file_name_, expert_.SourceExtension()))) throw EAbort(sFormModuleNil);
   auto* editor = FindEditor();
   if (!editor) throw EAbort(sFormEditorNil);
   index_ = editor->AddNotifier(self);
@@ -111,7 +109,7 @@ void TSccFormNotifier::FormActivated() {
     WriteMessage(mwtError, sFormActivatedNil);
     return;
   }
-  expert_.ViewChange(ChangeFileExt(form->GetFileName(), kUnitExtension));
+  expert_.ViewChange(ChangeFileExt(form->GetFileName(), expert_.SourceExtension()));
 }
 
 void TSccFormNotifier::Destroyed() { expert_.FormEditors()->Remove(file_name_); }

@@ -168,6 +168,8 @@ class TSccExpert final : public TNotifierObject, public IOTAWizard {
   IExpertForms& Forms() const { return forms_; }
   TSourceEditorManager* SourceEditors() const { return source_editor_manager_.get(); }
   TFormEditorManager* FormEditors() const { return form_editor_manager_.get(); }
+  const std::string& SourceExtension() const { return source_extension_; }
+  const std::string& FormExtension() const { return form_extension_; }
   bool IsUnit(const std::string& fileName) const;
   /// Compares with both project extension fields.
   bool IsProject(const std::string& fileName) const;
