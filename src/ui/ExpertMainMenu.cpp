@@ -2,6 +2,7 @@
 
 #include <stdexcept>
 
+#include "expert/FileCommandStrings.h"
 #include "expert/SccExpert.h"
 #include "expert/SccExpertStrings.h"
 #include "expert/SccSystem.h"
@@ -113,7 +114,7 @@ void TExpertMainMenuModule::CreateActions() {
       {actCommitBrowser, "actCommitBrowser", sActCommitBrowser, true, 3, sCommitBrowserError,
        &TSccExpert::CommitBrowser},
       {actMessages, "actMessages", sActMessages, true, kNoImage, sMessagesError, &TSccExpert::ViewMessages},
-      {act_get_files_, "actGetFiles", sItemGetFiles, true, 9, sGetLatestVersionError,
+      {act_get_files_, "actGetFiles", sGetLatestVersion, true, 9, sGetLatestVersionError,
        project(&TSccExpert::GetLatestVersion)},
   };
   for (const auto& row : rows) {

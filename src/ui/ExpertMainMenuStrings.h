@@ -23,7 +23,6 @@ constexpr TResString sActMessages{"Messages"};
 constexpr TResString sItemCommitBrowser{"Commit Browser..."};
 constexpr TResString sItemPlaceProject{"Place Project Into Source Control..."};
 constexpr TResString sItemShowDifferences{"Show Differences..."};
-constexpr TResString sItemGetFiles{"Get Latest Version"};
 constexpr TResString sItemShowHistory{"Show History..."};
 
 // Items of the menu of one file; the others are called as in the menu above.
