@@ -183,9 +183,9 @@ class TSCCProviderProject {
   bool PopulateDirectoriesList(scc::SCCCommand command, const TStringList& files, scc::TPopListFunc callback,
                                TStatusArray& statuses, TStateMessages& messages);
   /// coQuery: whether the provider has advanced options for the command.  coShowAdvDialog: shows them; false.
+  bool GetCommandOptions(TCommandOptions command, TCommandOptionFlags flag, TStateMessages& messages);
   /// Forgets what the options dialog left for the commands.
   void ClearOptions() { options_.fill(nullptr); }
-  bool GetCommandOptions(TCommandOptions command, TCommandOptionFlags flag, TStateMessages& messages);
   /// Opens the provider's browser for files under control; a box tells how it ended.
   void AddFromScc(TStateMessages& messages);
 
