@@ -57,9 +57,7 @@ TEST(Comments, EndAsTheUserEndsThem) {
        }},
       {"Return in the memo", mrOk, "old", [](auto& form) { Preview(form.CommentsMemo, WXK_RETURN); }},
       {"Return on the box", mrOk, "old", [](auto& form) { Preview(form.cbApplyToAll, WXK_NUMPAD_ENTER); }},
-      {"Escape in the memo", mrCancel, "old", [](auto& form) { Preview(form.CommentsMemo, WXK_ESCAPE); }},
       {"Escape on a button", mrCancel, "old", [](auto& form) { Preview(form.btnCancel, WXK_ESCAPE); }},
-      {"Cancel", mrCancel, "old", [](auto& form) { Click(form.btnCancel); }},
       {"close button", mrCancel, "old", [](auto& form) { form.Close(); }},
   };
   for (const auto& row : rows) {
