@@ -27,7 +27,7 @@ constexpr std::array kRows{
     Row{svn_wc_notify_revert, About::Files, scc::SCC_MSG_INFO, sReverted},
     Row{svn_wc_notify_restore, About::Files, scc::SCC_MSG_INFO, sRestored},
     Row{svn_wc_notify_update_add, About::Files, scc::SCC_MSG_INFO, sFetched},
-    Row{svn_wc_notify_exists, About::Files, scc::SCC_MSG_INFO, sKeptExisting},
+    Row{svn_wc_notify_exists, About::Files, scc::SCC_MSG_WARNING, sKeptExisting},
     Row{svn_wc_notify_update_delete, About::Everything, scc::SCC_MSG_WARNING, sUpdateDeleted},
     Row{svn_wc_notify_update_replace, About::Files, scc::SCC_MSG_INFO, sUpdated},
     Row{svn_wc_notify_update_broken_lock, About::Everything, scc::SCC_MSG_WARNING, sLockGone},

@@ -77,7 +77,7 @@ void TPlaceProjectPages::PlaceProject() {
   try {
     placed = Place();
   } catch (const std::exception& error) {
-    AddStatus(error.what());
+    AddFailure({error.what()});
   }
   // The mapping file stays when it has been written: it says what was meant.
   if (placed)
@@ -118,7 +118,7 @@ bool TPlaceProjectPages::Open(TMappingFile& mapping, TProviderWords& words) {
   words.TakeErrors();
   const auto code = Project().OpenProject(messages);
   if (code != scc::SCC_OK || !messages[2].empty()) {
-    ShowReasons(words, messages);
+    ShowReasons(Reasons(words, messages));
     return false;
   }
   mapping.Write(FExpert.ProviderName(), kMapUserName, Project().get_UserName());
@@ -131,7 +131,9 @@ void TPlaceProjectPages::AddFile(std::size_t row, TProviderWords& words, bool op
   if (!Project().AddFile({file}, {}, KeepCheckedOut, messages)) {
     // Seen from the directory above, so that the project's own name leads the way to the file: that is meant.
     AddStatus(Format(sPlaceAddFailed.Text, {RelativePath(ExtractFileDir(directory_), file)}));
-    if (opened) AddReasons(words, messages, sPlaceReason.Text);  // otherwise it is the one for all, and shown
+    const auto reasons = Reasons(words, messages);
+    if (!opened) return;  // it is the same for all, and shown
+    for (const auto& reason : reasons) AddStatus(Format(sPlaceReason.Text, {reason}));
     return;
   }
   words.TakeErrors();

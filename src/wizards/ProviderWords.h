@@ -21,6 +21,7 @@ class TProviderWords final : public IProviderSink {
   void Line(Kind kind, const std::string& text) override {
     if (previous_) previous_->Line(kind, text);
     if (kind == Kind::Error) errors_.push_back(text);
+    if (kind == Kind::Warning) warnings_.push_back(text);
     if (on_line_) on_line_(text);
   }
   void Box(const std::string& text) override {
@@ -29,9 +30,12 @@ class TProviderWords final : public IProviderSink {
 
   /// The errors since the last time.
   std::vector<std::string> TakeErrors() { return std::exchange(errors_, {}); }
+  /// The same for its warnings.
+  std::vector<std::string> TakeWarnings() { return std::exchange(warnings_, {}); }
 
  private:
   std::function<void(const std::string&)> on_line_;
   IProviderSink* previous_;
   std::vector<std::string> errors_;
+  std::vector<std::string> warnings_;
 };

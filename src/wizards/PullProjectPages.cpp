@@ -42,12 +42,30 @@ std::string TargetProblem(const std::string& directory) {
   return {};
 }
 
+/// The nearest directory above that has a mapping file; empty when there is none.
+std::string ProjectAbove(std::string directory) {
+  bool found = false;
+  for (auto above = ExtractFileDir(directory); !found && above != directory; above = ExtractFileDir(above)) {
+    directory = above;
+    ForEachEntry(directory, [&](const TDirectoryEntry& entry) {
+      found = found || SameText(ExtractFileExt(entry.Name), kMappingExtension);
+    });
+  }
+  return found ? directory : std::string();
+}
+
 /// What else the user should know about it.
 std::string TargetNote(const std::string& directory) {
   if (!TargetProblem(directory).empty()) return {};
-  if (!DirectoryExists(directory)) return sTargetWillBeMade;
+  std::string note;
   std::error_code ignored;
-  return fs::is_empty(ToFilePath(directory), ignored) || ignored ? std::string() : sTargetNotEmpty.str();
+  if (!DirectoryExists(directory))
+    note = sTargetWillBeMade;
+  else if (!fs::is_empty(ToFilePath(directory), ignored) && !ignored)
+    note = sTargetNotEmpty;
+  const auto project = ProjectAbove(directory);
+  if (project.empty()) return note;
+  return note + (note.empty() ? "" : "\n") + Format(sTargetInProject.Text, {project});
 }
 
 void MakeDirectory(const std::string& directory) {
@@ -146,7 +164,7 @@ void TPullProjectPages::PullProject() {
   try {
     can_open_ = Pull();
   } catch (const std::exception& error) {
-    AddStatus(error.what());
+    AddFailure({error.what()});
   }
   Finish();
   progress_.clear();
@@ -173,11 +191,11 @@ bool TPullProjectPages::Open(TProviderWords& words) {
   TStateMessages messages;
   const auto code = Project().OpenProject(messages, target_);
   if (code >= 0 && messages[2].empty()) return true;
-  AddReasons(words, messages);
+  AddFailure(Reasons(words, messages));
   return false;
 }
 
-/// Sets FProjectFile; returns how many files the project has.
+/// Sets FProjectFile; returns how many files are to be fetched: the list begins with those of the host's own project.
 std::size_t TPullProjectPages::FindProjectFile() {
   BeginStep(sPullListing);
   TStringList files;
@@ -186,7 +204,8 @@ std::size_t TPullProjectPages::FindProjectFile() {
   const auto found =
       std::ranges::find_if(files, [this](const std::string& file) { return FExpert.IsProjectFile(file); });
   if (found != files.end()) FProjectFile = *found;
-  return files.size();
+  return static_cast<std::size_t>(std::ranges::count_if(
+      files, [this](const std::string& file) { return RelativePath(target_, file) != file; }));
 }
 
 bool TPullProjectPages::Fetch(std::size_t expected) {
@@ -199,8 +218,9 @@ bool TPullProjectPages::Fetch(std::size_t expected) {
   });
   TStateMessages messages;
   const auto code = Project().GetFilesAndDirs({target_}, messages);
+  for (const auto& warning : words.TakeWarnings()) AddStatus(warning);
   if (code >= 0) return true;
-  AddReasons(words, messages);
+  AddFailure(Reasons(words, messages));
   return false;
 }
 

@@ -26,6 +26,8 @@ void TPullProjectWizard::CreateTargetPage() {
   ColumnOf(Page3Panel)
       ->Add(BrowseRow(TargetDirectory, TargetDirectoryBrowserButton), wxSizerFlags().Expand());
   ColumnOf(Page3Panel)->Add(NoteLabel, wxSizerFlags().Border(wxTOP, FromDIP(12)));
+  TargetLabel = new wxStaticText(Page2Panel, wxID_ANY, {});
+  ColumnOf(Page2Panel)->Add(TargetLabel, wxSizerFlags().Border(wxTOP, FromDIP(12)));
   TargetDirectory->Bind(wxEVT_TEXT, &TPullProjectWizard::TargetDirectoryChange, this);
   TargetDirectoryBrowserButton->Bind(wxEVT_BUTTON, &TPullProjectWizard::TargetDirectoryBrowserButtonClick,
                                      this);
@@ -53,6 +55,8 @@ void TPullProjectWizard::UpdateControls() {
   if (FromWx(TargetDirectory->GetValue()) != pages_.TargetDirectory())
     TargetDirectory->ChangeValue(ToWx(pages_.TargetDirectory()));
   SetSentence(NoteLabel, pages_.TargetNote());
+  // The provider may have moved it while the project was picked.
+  SetSentence(TargetLabel, Format(sTargetOfPull.Text, {pages_.TargetDirectory()}));
   Label1->SetLabel(
       wxControl::EscapeMnemonics(ToWx(pages_.Page().Next ? sPullStatus.str() : pages_.Progress())));
   cbOpenProject->Show(pages_.CanOpen());

@@ -36,4 +36,5 @@ class TPullProjectWizard final : public TWizardForm {
 
   TPullProjectPages pages_;
   wxStaticText* NoteLabel;
+  wxStaticText* TargetLabel;
 };

@@ -21,6 +21,9 @@ constexpr TResString sTargetWillBeMade{
     "The directory does not exist yet: it is created when the project is pulled."};
 constexpr TResString sTargetNotEmpty{
     "The directory is not empty: what is in it mixes with the files of the project."};
+constexpr TResString sTargetInProject{
+    "It is inside the directory of another project that is under source control: %s"};
+constexpr TResString sTargetOfPull{"The project is pulled into %s."};
 
 // What the progress line says.
 constexpr TResString sPullOpening{"Opening the project..."};

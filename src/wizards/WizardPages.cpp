@@ -1,6 +1,7 @@
 #include "wizards/WizardPages.h"
 
 #include <algorithm>
+#include <ranges>
 
 #include "expert/SccExpertStrings.h"
 #include "host/Errors.h"
@@ -15,15 +16,8 @@ namespace {
 constexpr int kLastPage = 3;
 // The status page is the fourth, and no step: the user has nothing to do there.
 constexpr long long kSteps = 3;
-
-/// What the provider said about a failure, or else the texts of its return code.
-TStringList Reasons(TProviderWords& words, const TStateMessages& messages) {
-  auto reasons = words.TakeErrors();
-  if (reasons.empty())
-    for (const auto& text : {messages[2], messages[1]})
-      if (!text.empty()) reasons.push_back(text);
-  return reasons;
-}
+// A provider may have one for each of thousands of files; below the list is room for a few.
+constexpr std::ptrdiff_t kShownReasons = 3;
 
 }  // namespace
 
@@ -208,7 +202,7 @@ void TWizardPages::ProjectBrowserButtonClick() {
     if (code == scc::SCC_OK) {
       Pick(project);
     } else if (code < 0) {
-      ShowReasons(words, messages);
+      ShowReasons(Reasons(words, messages));
     }
     page_.Next = !project_name_.empty();
   });
@@ -232,11 +226,21 @@ void TWizardPages::AddStatus(std::string line) {
   Progressed();
 }
 
-void TWizardPages::AddReasons(TProviderWords& words, const TStateMessages& messages, const char* format) {
-  for (const auto& reason : Reasons(words, messages)) AddStatus(Format(format, {reason}));
+void TWizardPages::AddFailure(const TStringList& reasons) {
+  ShowReasons(reasons);
+  for (const auto& reason : reasons) AddStatus(reason);
 }
 
-void TWizardPages::ShowReasons(TProviderWords& words, const TStateMessages& messages) {
-  for (const auto& reason : Reasons(words, messages))
+void TWizardPages::ShowReasons(const TStringList& reasons) {
+  page_.Problem.clear();
+  for (const auto& reason : reasons | std::views::take(kShownReasons))
     page_.Problem += (page_.Problem.empty() ? "" : "\n") + reason;
+}
+
+TStringList TWizardPages::Reasons(TProviderWords& words, const TStateMessages& messages) {
+  auto reasons = words.TakeErrors();
+  if (reasons.empty())
+    for (const auto& text : {messages[2], messages[1]})
+      if (!text.empty()) reasons.push_back(text);
+  return reasons;
 }

@@ -85,10 +85,12 @@ class TWizardPages {
   void Changed() const;
   void Progressed() const;
   void AddStatus(std::string line);
-  /// Adds what the provider said about a failure, or else the text of its return code.  `format` is a line's.
-  void AddReasons(TProviderWords& words, const TStateMessages& messages, const char* format = "%s");
-  /// Makes the same the page's Problem: it is shown whole, and stays until the user does something about it.
-  void ShowReasons(TProviderWords& words, const TStateMessages& messages);
+  /// What ends the work: as lines, and as the page's Problem.
+  void AddFailure(const TStringList& reasons);
+  /// Makes them the page's Problem, which is shown whole and stays until the user does something about it.
+  void ShowReasons(const TStringList& reasons);
+  /// What the provider said about a failure, or else the texts of its return code.
+  static TStringList Reasons(TProviderWords& words, const TStateMessages& messages);
 
   /// The wizard's provider project, made current.  Looked up anew each time: in the message loops of dialogs the host may
   /// have taken the provider away.  Throws EAbort when it has.

@@ -78,10 +78,11 @@ TEST_F(PullProject, FetchesListsAndMaps) {
       "b\xC3\xB6"
       "b's copy/own.txt",
       "mine");
+  provider_->Texts["SccGet"] = {{scc::SCC_MSG_INFO, "Fetched"}, {scc::SCC_MSG_WARNING, "unit1.pas was kept"}};
   pages_->NextFinishButtonClick();
   EXPECT_EQ(Page().Caption, "Pull project Wizard: Status page");
   EXPECT_THAT(pages_->Status(),
-              ElementsAre("Get of \"unit1.pas\" SUCCEEDED",
+              ElementsAre("unit1.pas was kept", "Get of \"unit1.pas\" SUCCEEDED",
                           "Get of \"" + Native("Sub/App.QVXPROJ") + "\" SUCCEEDED", "Done"));
   EXPECT_THAT(provider_->Last("SccGet").Files, ElementsAre(Target()));
   EXPECT_EQ(provider_->Last("SccGet").Flags, 3);
@@ -109,6 +110,7 @@ TEST_F(PullProject, FailuresAreListedAndCanBeTriedAgain) {
   provider_->Results["SccOpenProject"] = scc::SCC_E_CONNECTIONFAILURE;
   pages_->NextFinishButtonClick();
   EXPECT_THAT(pages_->Status(), ElementsAre("Connection failure", "Corvane project file not found", "Done"));
+  EXPECT_EQ(Page().Problem, "Connection failure") << "whole, below the list";
   EXPECT_THAT(forms_.Boxes, IsEmpty());
   EXPECT_EQ(provider_->Count("SccPopulateList"), 0);
 
@@ -125,11 +127,14 @@ TEST_F(PullProject, FailuresAreListedAndCanBeTriedAgain) {
 }
 
 TEST_F(PullProject, ShowsWhatItWaitsFor) {
+  host_.AddProject(project_file_, units_);
   Aim(Target());
   std::map<std::string, std::string> shown;
   std::string last;
   pages_->OnChange = [&] { last = pages_->Progress(); };
-  pages_->OnProgress = [] {};  // a form that has just been painted does nothing either
+  // A form that has just been painted does nothing for a line either.
+  pages_->OnProgress = [&] { shown.emplace(pages_->Progress().substr(0, 12), pages_->Progress()); };
+  provider_->Texts["SccGet"] = {{scc::SCC_MSG_INFO, "unit1.pas"}};
   for (const char* entry : {"SccOpenProject", "SccPopulateList", "SccGet", "SccQueryInfo"})
     provider_->OnCall[entry] = [&, work = provider_->OnCall[entry]](const ScriptedCall& call) {
       if (work) work(call);
@@ -141,6 +146,7 @@ TEST_F(PullProject, ShowsWhatItWaitsFor) {
   EXPECT_EQ(shown["SccOpenProject"], "Opening the project...");
   EXPECT_EQ(shown["SccPopulateList"], "Asking for the project's files...");
   EXPECT_EQ(shown["SccGet"], "Fetching the project's files...");
+  EXPECT_EQ(shown["Fetching: 1 "], "Fetching: 1 of 3 - unit1.pas") << "the host's own units are not counted";
   EXPECT_EQ(shown["SccQueryInfo"], "Checking what was fetched...");
   EXPECT_EQ(pages_->Progress(), "");
 }
@@ -156,6 +162,8 @@ TEST_F(PullProject, TargetThatWillNotDoIsRefusedInWords) {
   }
   Aim("work/../new");
   EXPECT_EQ(pages_->TargetDirectory(), folder_ / "new") << "seen from the start-up directory";
+  pages_->TargetDirectoryChange("work/deep/er");
+  EXPECT_THAT(pages_->TargetNote(), HasSubstr(folder_ / "work")) << "has a mapping file";
   Aim(file + "/below");
   pages_->NextFinishButtonClick();
   EXPECT_THAT(pages_->Status(), ElementsAre(HasSubstr("could not be created"), "Done"));
