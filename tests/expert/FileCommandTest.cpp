@@ -334,39 +334,53 @@ TEST_F(FileCommand, BatchCommandsReportAndReloadOnlyOnSuccess) {
   struct TRow {
     void (TSccExpert::*Command)(const std::string&);
     const char* Entry;
-    TShownBox Final;
-    bool Reloads;
+    TShownBox One, Several;
+    bool Reloads, MakesWritable;
   };
   const TRow rows[] = {
       {&TSccExpert::RemoveFiles,
        "SccRemove",
        {"Remove File", "unit2.pas was removed successfully", metInfo},
+       {"Remove File", "All files were removed successfully", metInfo},
+       false,
        false},
       {&TSccExpert::GetLatestVersion,
        "SccGet",
        {"Get Latest Version", "unit2.pas was successfully retrieved", metInfo},
-       true},
+       {"Get Latest Version", "Selected files were successfully retrieved", metInfo},
+       true,
+       false},
       {&TSccExpert::UndoCheckOut,
        "SccUncheckout",
        {"Undo Check out File", "unit2.pas was checked back in successfully", metInfo},
+       {"Undo Check out File(s)", "Selected files were checked back in successfully", metInfo},
+       true,
        true},
   };
   auto& expert = Open();
   host_.AddUnit(units_[1]);
-  provider_->StatusOf = [&](const std::string& file) { return file == units_[1] ? kMine : Long{0}; };
+  provider_->StatusOf = [&](const std::string& file) {
+    return std::ranges::count(units_, file) > 0 ? kMine : Long{0};
+  };
   for (const auto& row : rows) {
     SCOPED_TRACE(row.Entry);
-    for (const bool succeeds : {true, false}) {
+    for (const bool succeeds : {false, true}) {
       provider_->Results[row.Entry] = succeeds ? SCC_OK : SCC_E_ACCESSFAILURE;
       host_.Log.clear();
       forms_.Boxes.clear();
+      SetFileAttributesOf(units_[1], faReadOnly);
       WillTick({"unit2.pas"});
       (expert.*row.Command)({});
       EXPECT_EQ(provider_->Last(row.Entry).Files, std::vector{units_[1]});
       EXPECT_EQ(forms_.Boxes.size(), 1U);
-      EXPECT_EQ(forms_.Boxes.back() == row.Final, succeeds);
+      EXPECT_EQ(forms_.Boxes.back() == row.One, succeeds);
       EXPECT_EQ(!host_.Log.empty(), succeeds && row.Reloads);
+      EXPECT_EQ((GetFileAttributesOf(units_[1]) & faReadOnly) == 0, succeeds && row.MakesWritable);
     }
+    WillTick({"unit1.pas", "unit2.pas"});
+    (expert.*row.Command)({});
+    EXPECT_EQ(provider_->Last(row.Entry).Files, units_);
+    EXPECT_EQ(forms_.Boxes.back(), row.Several);
   }
 }
 
