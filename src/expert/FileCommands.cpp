@@ -51,6 +51,7 @@ const TFileCommand kAddFiles{
     .SeveralDone = sAddFilesSucceeded,
 };
 
+// Asks for no comment, also when the provider would take one: the date is the comment of a removal.
 const TFileCommand kRemoveFiles{
     .Command = SCC_COMMAND_REMOVE,
     .Eligible = CanRemove,
