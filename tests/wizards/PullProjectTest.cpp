@@ -20,20 +20,13 @@ class PullProject : public TExpertTest {
     }
     provider_->OnCall["SccGet"] = [this](const ScriptedCall&) {
       for (const char* name : {"unit1.pas", "Sub/App.QVXPROJ"}) {
-        folder_.Write(std::string("b\xC3\xB6"
-                                  "b's copy/") +
-                          name,
-                      "x");
+        folder_.Write(std::string("böb's copy/") + name, "x");
         SetFileAttributesOf(In(name), faReadOnly);
       }
     };
     host_.StartupDirectory = folder_.Path();
   }
-  std::string Target() const {
-    return folder_ /
-           "b\xC3\xB6"
-           "b's copy";
-  }
+  std::string Target() const { return folder_ / "böb's copy"; }
   std::string In(const std::string& name) const { return folder_ / ("böb's copy/" + name); }
 
   TPullProjectPages& Show() {
@@ -74,10 +67,7 @@ TEST_F(PullProject, FetchesListsAndMaps) {
   EXPECT_FALSE(asked.Allowed);
   EXPECT_FALSE(DirectoryExists(Target())) << "nothing is made before it has to be";
 
-  const auto own = folder_.Write(
-      "b\xC3\xB6"
-      "b's copy/own.txt",
-      "mine");
+  folder_.Write("böb's copy/own.txt", "mine");  // is not listed
   provider_->Texts["SccGet"] = {{scc::SCC_MSG_INFO, "Fetched"}, {scc::SCC_MSG_WARNING, "unit1.pas was kept"}};
   pages_->NextFinishButtonClick();
   EXPECT_EQ(Page().Caption, "Pull project Wizard: Status page");
