@@ -52,7 +52,7 @@ void TLinesView::UpdateLines() {
     }
   measured_ = count;
   SetItemCount(static_cast<long>(count));
-  if (source_.IsTicked && count > 0 && GetFocusedItem() < 0) Focus(0);  // so that Space has something to toggle
+  if (source_.IsTicked && count > 0 && GetFocusedItem() < 0) Focus(0);  // for Space to toggle
   FitColumn();
   Refresh();
 }
