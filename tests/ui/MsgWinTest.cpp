@@ -103,17 +103,20 @@ TEST_F(MessageWindow, ItsMenuClearsTheLines) {
   window.SendMessage(mwtInfo, "one");
   window.SendMessage(mwtInfo, "two");
   window.ShowWindow(true);
+  EXPECT_EQ(Lines(), 2);
   window.MessageListView->Select(1);
   clear();
   wxYield();
   EXPECT_EQ(Lines(), 0);
   window.SendMessage(mwtInfo, "three");
+  EXPECT_EQ(Lines(), 1);
   EXPECT_EQ(Cell(0, 0), "three");
   EXPECT_FALSE(window.MessageListView->IsSelected(0));
 }
 
 TEST_F(MessageWindow, CopiesTheSelectedLines) {
   for (const char* text : {"one", "two\r\nlines", "three"}) window.SendMessage(mwtInfo, text);
+  EXPECT_EQ(Lines(), 3);
   Preview(window.MessageListView, 'A', wxMOD_CONTROL);
   window.MessageListView->Select(0, false);
   Preview(window.MessageListView, 'C', wxMOD_CONTROL);
