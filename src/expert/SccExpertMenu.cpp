@@ -51,12 +51,16 @@ void TSccExpert::EnableActiveMenu() {
     throw;
   }
 
+  // Companions that a unit never had are uncontrolled, too; the command offers only what is on disk.
+  menu_->actAddFiles.Enabled = false;
+  for (std::size_t i = 0; i < files.size() && !menu_->actAddFiles.Enabled; ++i)
+    menu_->actAddFiles.Enabled = CanAdd(statuses[i]) && FileExists(files[i]);
+
   struct TRule {
     TAction& Action;
     bool (*Eligible)(scc::Long status);
   };
   const std::array rules{
-      TRule{menu_->actAddFiles, CanAdd},
       TRule{menu_->actRemoveFiles, CanRemove},
       TRule{menu_->actCheckInFiles, CanCheckIn},
       TRule{menu_->actCheckOutFiles, CanCheckOut},

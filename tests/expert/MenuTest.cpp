@@ -67,6 +67,13 @@ TEST_F(TeamMenu, OneFileOfAKindIsEnough) {
   EXPECT_THAT(Enabled(), ElementsAre(kOut, kIn, kAdd, kRemove, kUndo, kBrowser, kPull, kRun));
 }
 
+TEST_F(TeamMenu, CompanionsThatAUnitNeverHadAreNotThereToBeAdded) {
+  Open();
+  provider_->StatusOf = [](const std::string& file) { return Long{FileExists(file) ? 0x1003 : 0}; };
+  Drop();
+  EXPECT_THAT(Enabled(), ElementsAre(kIn, kRemove, kUndo, kBrowser, kPull, kRun));
+}
+
 TEST_F(TeamMenu, WithoutAMappingOnlyPlacingAndPullingRemain) {
   Start();
   Drop();
