@@ -19,7 +19,8 @@ namespace {
 /// A list dialog of an expert in a scripted host.
 struct FileList : testing::Test {
   void Fill(std::size_t rows) {
-    for (std::size_t i = 0; i < rows; ++i) model.AddFile("/p/unit" + std::to_string(i) + ".pas", "Current");
+    for (std::size_t i = 0; i < rows; ++i)
+      model.AddFile(Native("/p/unit" + std::to_string(i) + ".pas"), "Current");
   }
   int Show(std::function<void(TGetFileListForm&)> user) {
     TGetFileListForm form(*expert, model);
@@ -64,7 +65,7 @@ TEST_F(FileList, HoldsAFullProjectAndIsWorkedByKeyboard) {
     list.Focus(65535);
     Preview(&list, WXK_SPACE);
     EXPECT_EQ(model.ItemsChecked(), 4) << "the selected rows follow the focused one";
-    EXPECT_EQ(FromWx(list.GetItemText(65535, 2)), "/p");
+    EXPECT_EQ(FromWx(list.GetItemText(65535, 2)), Native("/p"));
     Click(form.btnCheckAll);
     EXPECT_EQ(model.ItemsChecked(), 65536);
     EXPECT_EQ(Buttons(form), (B{true, false, true}));

@@ -44,7 +44,9 @@ TEST(MsgDialog, ShowsTitleAndTextReadOnlyWithTheFocusOnOk) {
 TEST(MsgDialog, MakesRoomForALongTitle) {
   const std::string longWord = "C:\\one_word\\that_is_wider\\than_the_title_usually_is\\in_this_dialog";
   const auto longTitle =
-      "A title of many words that needs more than two lines, and " + longWord + " and the rest";
+      "A title of many words that needs more than two lines however small the letters are, and goes on, "
+      "and " +
+      longWord + " and on, until there is no doubt that the dialog must be higher than it usually is";
   const TMsgDialogForm normal("Check Out File", "", metInfo), high(longTitle, "", metInfo);
   EXPECT_EQ(normal.GetClientSize(), normal.FromDIP(wxSize(393, 182)));
   EXPECT_GE(normal.MessageText->GetSize().GetHeight(), normal.FromDIP(124));
