@@ -110,7 +110,6 @@ TEST_F(MessageWindow, ItsMenuClearsTheLines) {
   EXPECT_EQ(Lines(), 0);
   window.SendMessage(mwtInfo, "three");
   EXPECT_EQ(Lines(), 1);
-  EXPECT_EQ(Lines(), 1);
   EXPECT_EQ(Cell(0, 0), "three");
   EXPECT_FALSE(window.MessageListView->IsSelected(0));
 }
