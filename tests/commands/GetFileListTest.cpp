@@ -100,8 +100,10 @@ TEST_F(FileList, OpensAtTheFileThatIsBeingEdited) {
   host.TopBuffer = Native("/p/unit4321.kfm");
   Show([this](TGetFileListForm& form) {
     EXPECT_TRUE(model.IsChecked(4321));
-    EXPECT_TRUE(form.FilesListView->IsVisible(4321));
-    EXPECT_EQ(form.FilesListView->GetFocusedItem(), 4321);
+    auto& list = *form.FilesListView;
+    EXPECT_LE(list.GetTopItem(), 4321);
+    EXPECT_GT(list.GetTopItem() + list.GetCountPerPage(), 4321) << "scrolled into view";
+    EXPECT_EQ(list.GetFocusedItem(), 4321);
     EXPECT_EQ(Buttons(form), (B{true, true, true}));
     form.Close();
   });
