@@ -62,7 +62,6 @@ void TFilesListView::FocusFirstChecked() {
   const long item = row < model_.Count() ? static_cast<long>(row) : 0;
   Select(item);
   Focus(item);
-  EnsureVisible(item);  // not every system scrolls to what gets the focus
 }
 
 void TFilesListView::FitColumns() {
