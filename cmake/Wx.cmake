@@ -9,7 +9,7 @@ target_compile_definitions(wx INTERFACE ${wxWidgets_DEFINITIONS})
 target_compile_options(wx INTERFACE ${wxWidgets_CXX_FLAGS})
 target_link_libraries(wx INTERFACE ${wxWidgets_LIBRARIES})
 
-file(WRITE ${CMAKE_BINARY_DIR}/wx_pch.cpp "")
+file(CONFIGURE OUTPUT wx_pch.cpp CONTENT "")  # written once: a newer one would be compiled again at each configuration
 add_library(wx_pch STATIC ${CMAKE_BINARY_DIR}/wx_pch.cpp)
 target_link_libraries(wx_pch PUBLIC warnings wx)
 target_precompile_headers(wx_pch PRIVATE <wx/wx.h> <functional> <map> <memory> <string> <vector>)
