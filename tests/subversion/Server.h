@@ -23,9 +23,7 @@ class TServer {
     std::ofstream(repository.Folder() + "/conf/svnserve.conf")
         << "[general]\nanon-access = none\nauth-access = write\npassword-db = passwd\n";
     std::ofstream(repository.Folder() + "/conf/passwd") << "[users]\nann = secret\nbob = other\n";
-    std::array<std::string, 8> words{"env",
-                                     "TMPDIR=" + repository.Folder(),  // what it leaves goes with the repository
-                                     "svnserve",
+    std::array<std::string, 6> words{"svnserve",
                                      "--daemon",
                                      "--foreground",
                                      "--listen-host=127.0.0.1",
@@ -34,7 +32,7 @@ class TServer {
     std::vector<char*> arguments;
     for (auto& word : words) arguments.push_back(word.data());
     arguments.push_back(nullptr);
-    if (posix_spawnp(&pid_, "env", nullptr, nullptr, arguments.data(), environ) != 0)
+    if (posix_spawnp(&pid_, "svnserve", nullptr, nullptr, arguments.data(), environ) != 0)
       throw std::runtime_error("svnserve does not start");
     for (int i = 0; i < 1000 && !Connects(); ++i) usleep(10000);
   }
