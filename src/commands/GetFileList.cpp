@@ -28,8 +28,7 @@ std::size_t Row(long item) { return static_cast<std::size_t>(item); }
 }  // namespace
 
 TFilesListView::TFilesListView(wxWindow* parent, TFileListModel& model)
-    : wxListView(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxLC_REPORT | wxLC_VIRTUAL),
-      model_(model) {
+    : TVirtualList(parent, 0), model_(model) {
   EnableCheckBoxes();
   AppendColumn(ToWx(sNameColumn), wxLIST_FORMAT_LEFT, FromDIP(kNameWidth));
   AppendColumn(ToWx(sStatusColumn), wxLIST_FORMAT_LEFT, StatusWidth());

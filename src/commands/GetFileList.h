@@ -1,17 +1,16 @@
 // The dialog in which the user picks the files of a command.
 #pragma once
 
-#include <wx/listctrl.h>
-
 #include "expert/FileListModel.h"
 #include "ui/ModalForm.h"
+#include "ui/VirtualList.h"
 
 class TSccExpert;
 class wxButton;
 class wxCheckBox;
 
 /// The rows of a TFileListModel.  The control asks the model for what it shows, so that 65,536 rows open at once.
-class TFilesListView final : public wxListView {
+class TFilesListView final : public TVirtualList {
  public:
   /// `model` is borrowed.  Its rows change in number only with ShowRows.
   TFilesListView(wxWindow* parent, TFileListModel& model);
@@ -26,7 +25,6 @@ class TFilesListView final : public wxListView {
 
  protected:
   wxString OnGetItemText(long item, long column) const override;
-  int OnGetItemImage(long) const override { return -1; }
   bool OnGetItemIsChecked(long item) const override;
 
  private:

@@ -16,9 +16,7 @@ std::size_t Row(long item) { return static_cast<std::size_t>(item); }
 }  // namespace
 
 TLinesView::TLinesView(wxWindow* parent, TSource source)
-    : wxListView(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize,
-                 wxLC_REPORT | wxLC_VIRTUAL | wxLC_NO_HEADER),
-      source_(std::move(source)) {
+    : TVirtualList(parent, wxLC_NO_HEADER), source_(std::move(source)) {
   if (source_.IsTicked) EnableCheckBoxes();
   AppendColumn(wxString());
   Bind(wxEVT_SIZE, [this](wxSizeEvent& event) {

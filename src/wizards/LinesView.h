@@ -1,12 +1,12 @@
 // A list of lines that asks its owner for what it shows, so that tens of thousands of them open and scroll at once.
 #pragma once
 
-#include <wx/listctrl.h>
-
 #include <functional>
 #include <string>
 
-class TLinesView final : public wxListView {
+#include "ui/VirtualList.h"
+
+class TLinesView final : public TVirtualList {
  public:
   /// Where the lines come from; asked for the visible ones only.
   struct TSource {
@@ -30,7 +30,6 @@ class TLinesView final : public wxListView {
 
  private:
   wxString OnGetItemText(long item, long column) const override;
-  int OnGetItemImage(long) const override { return -1; }
   bool OnGetItemIsChecked(long item) const override;
   void FitColumn();
 

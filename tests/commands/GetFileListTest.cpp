@@ -69,9 +69,8 @@ TEST_F(FileList, HoldsAFullProjectAndIsWorkedByKeyboard) {
     Click(form.btnCheckAll);
     EXPECT_EQ(model.ItemsChecked(), 65536);
     EXPECT_EQ(Buttons(form), (B{true, false, true}));
-    wxListEvent unticked(wxEVT_LIST_ITEM_UNCHECKED, list.GetId());  // as the mouse does
-    unticked.m_itemIndex = 3;
-    list.HandleWindowEvent(unticked);
+    list.CheckItem(3, false);  // as the mouse does
+    EXPECT_FALSE(list.IsItemChecked(3));
     EXPECT_EQ(model.ItemsChecked(), 65535);
     EXPECT_EQ(Buttons(form), (B{true, true, true}));
     Preview(&list, WXK_RETURN);

@@ -49,10 +49,7 @@ TEST_F(WizardWindows, PlaceIsWorkedByKeyboard) {
     EXPECT_EQ(Line(files, 0), "unit1.pas");
     Preview(&files, 'A', wxMOD_CONTROL);
     Preview(&files, WXK_SPACE);
-    wxListEvent ticked(wxEVT_LIST_ITEM_CHECKED,
-                       files.GetId());  // the only one, as its line in the status shows
-    ticked.m_itemIndex = 1;
-    files.HandleWindowEvent(ticked);
+    files.CheckItem(1, true);  // the only one, as its line in the status shows
     Preview(&files, WXK_RETURN);
     EXPECT_EQ(wizard.GetTitle(), "Place project Wizard: Status page");
     EXPECT_EQ(wizard.NextFinishButton->GetLabel(), "&Close");
