@@ -1,6 +1,8 @@
 #include "host/Paths.h"
 
 #include <algorithm>
+#include <span>
+#include <vector>
 
 namespace {
 
@@ -20,6 +22,39 @@ std::string_view WithoutTrailingDelimiters(std::string_view path) {
   const auto root = RootLength(path);
   while (path.size() > root && IsPathDelim(path.back())) path.remove_suffix(1);
   return path;
+}
+
+/// A path taken apart, in normal form: without "." and, as far as possible, without "..".
+struct TParts {
+  std::string Root;
+  std::vector<std::string_view> Names;
+};
+
+void Append(TParts& parts, std::string_view name) {
+  if (name.empty() || name == ".") return;
+  const bool up = name == "..";
+  if (up && !parts.Names.empty() && parts.Names.back() != "..")
+    parts.Names.pop_back();
+  else if (!up || parts.Root.empty() || !IsPathDelim(parts.Root.back()))  // above a root there is nothing
+    parts.Names.push_back(name);
+}
+
+TParts TakeApart(std::string_view path) {
+  const auto root = RootLength(path);
+  TParts parts{NormalRoot(path.substr(0, root)), {}};
+  for (auto at = path.begin() + static_cast<std::ptrdiff_t>(root);; ++at) {
+    const auto end = std::find_if(at, path.end(), IsPathDelim);
+    Append(parts, {at, end});
+    if ((at = end) == path.end()) return parts;
+  }
+}
+
+std::string Join(std::string path, std::span<const std::string_view> names) {
+  for (std::size_t i = 0; i < names.size(); ++i) {
+    if (i > 0) path += PathDelim;
+    path += names[i];
+  }
+  return path.empty() ? "." : path;
 }
 
 }  // namespace
@@ -51,4 +86,21 @@ std::string RelativePath(std::string_view base, std::string_view path) {
   const bool below = !base.empty() && path.size() > directory.size() &&
                      SameFileName(path.substr(0, directory.size()), directory);
   return std::string(below ? path.substr(directory.size()) : path);
+}
+
+std::string NormalPath(std::string_view path) {
+  const auto parts = TakeApart(path);
+  return path.empty() ? std::string() : Join(parts.Root, parts.Names);
+}
+
+std::string WayToPath(std::string_view base, std::string_view path) {
+  const auto from = TakeApart(base);
+  const auto to = TakeApart(path);
+  const auto [ours, theirs] = std::ranges::mismatch(from.Names, to.Names, SameFileName);
+  const bool unknown =
+      ours != from.Names.end() && *ours == "..";  // what is the directory called that it came from?
+  if (base.empty() || unknown || !SameFileName(from.Root, to.Root)) return std::string(path);
+  std::vector<std::string_view> way(static_cast<std::size_t>(from.Names.end() - ours), "..");
+  way.insert(way.end(), theirs, to.Names.end());
+  return Join({}, way);
 }

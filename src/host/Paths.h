@@ -1,5 +1,6 @@
 // File names: text rules only, nothing here touches a disk.  One set for the whole system, so that a rule (what an
-// extension is, which delimiter ends a directory) is stated once.
+// extension is, which delimiter ends a directory) is stated once.  The standard library's rules would not do: built for
+// Windows it takes the root of a share, "\\server\share\", for names of folders.
 #pragma once
 
 #include <cstddef>
@@ -11,7 +12,10 @@ extern const char PathDelim;
 bool IsPathDelim(char c);
 /// How many bytes of `path` name its root (1 for "/x"); 0 when it is relative.
 std::size_t RootLength(std::string_view path);
-/// Whether the platform takes both spellings for the same name (POSIX: only when they are equal).
+/// The one spelling for what RootLength tells of a path; a directory's ends with a delimiter.
+std::string NormalRoot(std::string_view root);
+/// Equal for two spellings exactly when the platform takes them for the same name (POSIX: only when they are equal).
+std::string FileNameKey(std::string_view path);
 bool SameFileName(std::string_view a, std::string_view b);
 
 /// The part behind the last delimiter.
@@ -27,6 +31,14 @@ std::string IncludeTrailingPathDelimiter(std::string_view path);
 /// `path` without delimiters at its end, except that a root keeps its own.
 std::string ExcludeTrailingPathDelimiter(std::string_view path);
 bool IsAbsolutePath(std::string_view path);
+/// `path` as it is meant from within `directory`: behind it, unless it says by itself where it begins.
+std::string PathWithin(std::string_view directory, std::string_view path);
+/// `path` in its one spelling: no "." and doubled or trailing delimiters, "x/.." taken away, ".." only at the beginning of
+/// a relative path.  "." when nothing is left of it.
+std::string NormalPath(std::string_view path);
 /// `path` as seen from directory `base`, when it lies below it (compared as the platform compares names); otherwise
 /// `path` unchanged.
 std::string RelativePath(std::string_view base, std::string_view path);
+/// The way from directory `base` to `path`, up by ".." where it has to; `path` unchanged when no way leads there, as to
+/// another drive or share, or when `base` is empty.
+std::string WayToPath(std::string_view base, std::string_view path);

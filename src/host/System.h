@@ -15,6 +15,10 @@ std::string GetUserNameText(std::size_t bufferSize);
 /// The process's current directory.  Empty when it does not fit `bufferSize` characters, terminator included.
 std::string GetCurrentDirectoryText(std::size_t bufferSize);
 
+/// `path` as it is meant from within the current directory, absolute and in normal form (see NormalPath), without asking the
+/// disk.  Empty when `path` is.
+std::string FullPath(const std::string& path);
+
 bool FileExists(const std::string& path);
 bool DirectoryExists(const std::string& path);
 

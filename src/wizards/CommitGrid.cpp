@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 
+#include "host/Paths.h"
 #include "ui/WxText.h"
 #include "wizards/CommitBrowserStrings.h"
 
@@ -41,7 +42,7 @@ wxString TCommitTable::GetValue(int row, int column) {
     case cgcStatus:
       return ToWx(data.Status);
     default:
-      return ToWx(TrimPaths ? ProjectRelativePath(directory_, data.FileName) : data.FileName);
+      return ToWx(TrimPaths ? WayToPath(directory_, data.FileName) : data.FileName);
   }
 }
 

@@ -8,7 +8,6 @@
 #include "expert/CallProgress.h"
 #include "expert/FileCommandStrings.h"
 #include "expert/SccExpert.h"
-#include "host/FileName.h"
 #include "host/Paths.h"
 #include "host/System.h"
 #include "wizards/CommitRowsStrings.h"
@@ -202,10 +201,3 @@ TCommitRowData ClassifyCommitRow(scc::Long status, bool locallyModified) {
 }
 
 std::vector<TCommitRowData> GatherCommitRows(TSccExpert& expert) { return TGathering(expert).Rows(); }
-
-std::string ProjectRelativePath(const std::string& directory, const std::string& fileName) {
-  auto below = RelativePath(directory, fileName);
-  if (below != fileName || directory.empty()) return below;
-  auto way = FromFilePath(ToFilePath(fileName).lexically_relative(ToFilePath(directory)));
-  return way.empty() ? fileName : way;
-}

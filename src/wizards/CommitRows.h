@@ -44,7 +44,3 @@ TCommitRowData ClassifyCommitRow(scc::Long status, bool locallyModified);
 /// population, one query, and one quick difference per controlled file on disk.  Throws EAbort when there is no
 /// provider, the project's directory is no provider project, or there are too many files.
 std::vector<TCommitRowData> GatherCommitRows(TSccExpert& expert);
-
-/// The file as seen from the project's directory, with ".." where it lies outside; unchanged where there is no such
-/// way.
-std::string ProjectRelativePath(const std::string& directory, const std::string& fileName);

@@ -15,9 +15,6 @@ namespace {
 /// This provider's projects are directories of its own file system: there is nothing to browse for.
 constexpr const char* kDirectoryProvider = "ClearCase";
 
-/// Equal for two names of one file: where the platform ignores case, so does this.
-std::string FileKey(const std::string& file) { return SameFileName("a", "A") ? FoldCase(file) : file; }
-
 }  // namespace
 
 TPlaceProjectPages::TPlaceProjectPages(TSccExpert& expert)
@@ -66,7 +63,7 @@ void TPlaceProjectPages::PageSelectFilesDisplay() {
   FExpert.AddAssociatedFiles(&gathered, /*removeMissing*/ true);
   std::unordered_set<std::string> known;  // a unit may be another file's companion too
   for (auto& file : gathered)
-    if (known.insert(FileKey(file)).second) files_.push_back(std::move(file));
+    if (known.insert(FileNameKey(file)).second) files_.push_back(std::move(file));
   for (const auto& file : files_) shown_.push_back(RelativePath(directory_, file));
   ticked_.assign(files_.size(), true);
 }

@@ -118,10 +118,8 @@ void TPullProjectPages::TargetDirectoryChange(const std::string& text) {
 // What the user may leave out of a path: the start-up directory in front, a delimiter at the end.
 std::string TPullProjectPages::FullTarget(const std::string& text) {
   const auto path = Trim(text);
-  const auto start = IncludeTrailingPathDelimiter(ProjectDirectory());
-  if (path.empty() || (!IsAbsolutePath(path) && !IsAbsolutePath(start))) return path;
-  return ExcludeTrailingPathDelimiter(
-      FromFilePath(ToFilePath(IsAbsolutePath(path) ? path : start + path).lexically_normal()));
+  const auto full = PathWithin(ProjectDirectory(), path);
+  return path.empty() || !IsAbsolutePath(full) ? path : NormalPath(full);
 }
 
 bool TPullProjectPages::MayLeave() {

@@ -4,10 +4,19 @@
 #include <map>
 
 #include "host/FileName.h"
+#include "host/Paths.h"
 #include "host/System.h"
 #include "support/TemporaryFolder.h"
 
 namespace fs = std::filesystem;
+
+TEST(System, CompletesANameFromTheCurrentDirectory) {
+  const auto here = FromFilePath(fs::current_path());
+  EXPECT_EQ(FullPath("Größe.pas"), IncludeTrailingPathDelimiter(here) + "Größe.pas");
+  EXPECT_EQ(FullPath("a/../."), here);
+  EXPECT_EQ(FullPath(here), here);
+  EXPECT_EQ(FullPath(""), "");
+}
 
 TEST(System, TellsFilesFoldersAndNothingApart) {
   const TTemporaryFolder folder;

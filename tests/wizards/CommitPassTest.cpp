@@ -1,5 +1,6 @@
 // The commit browser's pass over its rows.
 #include "expert/ExpertFixture.h"
+#include "host/Paths.h"
 #include "host/System.h"
 #include "support/NativePath.h"
 #include "wizards/CommitPass.h"
@@ -43,7 +44,7 @@ TEST_F(CommitPass, CarriesOutEachRowInRowOrderAndSaysSo) {
       Row("g.pas", caGetLatest),
   };
   for (const auto& row : rows) {
-    folder_.Write("work/" + ProjectRelativePath(At(""), row.FileName), "x");
+    folder_.Write("work/" + WayToPath(At(""), row.FileName), "x");
     SetFileAttributesOf(row.FileName, faReadOnly);
     host_.AddUnit(row.FileName);
   }

@@ -1,5 +1,6 @@
 // What the commit browser lists and proposes.
 #include "expert/ExpertFixture.h"
+#include "host/Paths.h"
 #include "support/NativePath.h"
 #include "wizards/CommitRows.h"
 
@@ -65,18 +66,6 @@ TEST(CommitRowRules, ALetterLeadsToTheNextActivityThatBeginsWithIt) {
   EXPECT_EQ(NextActivityWith('x', caNone), std::nullopt);
 }
 
-TEST(CommitRowRules, FilesAreSeenFromTheProject) {
-  const struct {
-    const char *Directory, *File, *Seen;
-  } rows[] = {
-      {"/p", "/p/unit1.pas", "unit1.pas"},        {"/p/", "/p/sub/unit1.pas", "sub/unit1.pas"},
-      {"/p/app", "/p/lib/x.pas", "../lib/x.pas"}, {"/p", "unit1.pas", "unit1.pas"},
-      {"", "/p/unit1.pas", "/p/unit1.pas"},
-  };
-  for (const auto& row : rows)
-    EXPECT_EQ(ProjectRelativePath(Native(row.Directory), Native(row.File)), Native(row.Seen));
-}
-
 class CommitRowsOf : public TExpertTest {
  protected:
   /// "name: state/activity" of each row.
@@ -84,7 +73,7 @@ class CommitRowsOf : public TExpertTest {
     std::vector<std::string> texts;
     for (const auto& row : GatherCommitRows(*expert_)) {
       EXPECT_EQ(row.Comment, "");
-      texts.push_back(ProjectRelativePath(At(""), row.FileName) + ": " + row.Status + "/" +
+      texts.push_back(WayToPath(At(""), row.FileName) + ": " + row.Status + "/" +
                       ActivityToString(row.Activity));
     }
     return texts;

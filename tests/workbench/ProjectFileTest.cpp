@@ -72,6 +72,7 @@ TEST(StoredPath, IsRelativeWithSlashesAndComesBack) {
       {"/p", "/p/Main.pas", "Main.pas"},
       {"/p", "/p/sub/Main.pas", "sub/Main.pas"},
       {"/p/app", "/p/lib/Main.pas", "../lib/Main.pas"},
+      {"p", "/p/Main.pas", "/p/Main.pas"},
   };
   for (const auto& row : rows) {
     EXPECT_EQ(ToStoredPath(row.Base, row.Path), row.Stored);

@@ -7,6 +7,15 @@
 #include "host/System.h"
 #include "host/Text.h"
 
+namespace {
+
+/// Of a file that the list in `listFile` names, the same for all the ways to name it there.
+std::string Key(const std::string& listFile, const std::string& stored) {
+  return FoldCase(FromStoredPath(ExtractFileDir(listFile), stored));
+}
+
+}  // namespace
+
 TDocument* TOpenModule::FindDocument(const std::string& fileName) const {
   for (const auto& document : documents_)
     if (SameText(document->FileName(), fileName)) return document.get();
@@ -45,20 +54,20 @@ std::string TProject::GetModuleFileName(int index) {
 }
 
 int TProject::IndexOfModuleFile(const std::string& fileName) const {
-  const std::string wanted = FoldCase(ToStoredPath(ExtractFileDir(FileName()), fileName));
+  const std::string wanted = Key(FileName(), fileName);
   const auto& items = definition_.Get().Items();
-  const auto found = std::ranges::find_if(items, [&](const auto& item) { return FoldCase(item) == wanted; });
+  const auto found =
+      std::ranges::find_if(items, [&](const auto& item) { return Key(FileName(), item) == wanted; });
   return found == items.end() ? -1 : static_cast<int>(found - items.begin());
 }
 
 std::size_t TProject::AddModuleFiles(const std::vector<std::string>& fileNames) {
   std::unordered_set<std::string> known;
-  for (const auto& item : definition_.Get().Items()) known.insert(FoldCase(item));
+  for (const auto& item : definition_.Get().Items()) known.insert(Key(FileName(), item));
   std::size_t added = 0;
   for (const auto& fileName : fileNames) {
-    const std::string stored = ToStoredPath(ExtractFileDir(FileName()), fileName);
-    if (!known.insert(FoldCase(stored)).second) continue;
-    definition_.Edit().Items().push_back(stored);
+    if (!known.insert(Key(FileName(), fileName)).second) continue;
+    definition_.Edit().Items().push_back(ToStoredPath(ExtractFileDir(FileName()), fileName));
     ++added;
   }
   return added;
@@ -95,7 +104,8 @@ void TProjectGroup::Add(TProject& project) {
 
 void TProjectGroup::Remove(TProject& project) {
   Detach(project);
-  std::erase(definition_.Edit().Items(), Stored(project));
+  const std::string gone = Key(FileName(), project.FileName());
+  std::erase_if(definition_.Edit().Items(), [&](const auto& item) { return Key(FileName(), item) == gone; });
   if (!active_ && !projects_.empty()) SetActive(*projects_.front());
 }
 

@@ -54,6 +54,7 @@ class TProject final : public TOpenModule, public IOTAProject {
   /// Appends those that the project does not list yet (compared ignoring case); how many there were.
   std::size_t AddModuleFiles(const std::vector<std::string>& fileNames);
   void RemoveModuleFile(int index);
+  /// -1 when the project does not list it.
   int IndexOfModuleFile(const std::string& fileName) const;
 
   int GetModuleCount() override;

@@ -6,7 +6,6 @@
 #include "host/Services.h"
 #include "host/System.h"
 #include "workbench/model/ModelStrings.h"
-#include "workbench/model/ProjectFile.h"
 
 namespace {
 

@@ -1,11 +1,11 @@
 #include "workbench/model/ProjectFile.h"
 
+#include <algorithm>
 #include <charconv>
-#include <filesystem>
 #include <stdexcept>
 
-#include "host/FileName.h"
 #include "host/Ini.h"
+#include "host/Paths.h"
 #include "workbench/model/ModelStrings.h"
 
 namespace {
@@ -123,16 +123,11 @@ TGroupFile TGroupFile::Parse(std::string_view text) {
 }
 
 std::string ToStoredPath(const std::string& base, const std::string& path) {
-  const auto full = ToFilePath(path);
-  const auto relative = full.lexically_relative(ToFilePath(base));
-  const auto stored = (relative.empty() ? full : relative).generic_u8string();
-  return {stored.begin(), stored.end()};
+  auto stored = WayToPath(base, path);
+  std::ranges::replace(stored, PathDelim, '/');
+  return stored;
 }
 
 std::string FromStoredPath(const std::string& base, const std::string& stored) {
-  return FromFilePath((ToFilePath(base) / ToFilePath(stored)).lexically_normal().make_preferred());
-}
-
-std::string FullPath(const std::string& path) {
-  return FromFilePath(std::filesystem::absolute(ToFilePath(path)).lexically_normal().make_preferred());
+  return NormalPath(PathWithin(base, stored));
 }

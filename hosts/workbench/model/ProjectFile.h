@@ -54,8 +54,6 @@ class TGroupFile : public TPathListFile {
   void SetActive(const std::string& stored) { SetHead("Active", stored); }
 };
 
-/// An absolute path as a file in directory `base` stores it, and back.  Paths on another volume stay absolute.
+/// An absolute path as a file in directory `base` stores it, and back.  Paths on another drive or share stay absolute.
 std::string ToStoredPath(const std::string& base, const std::string& path);
 std::string FromStoredPath(const std::string& base, const std::string& stored);
-/// `path` made absolute and free of "." and "..", without asking the disk.
-std::string FullPath(const std::string& path);

@@ -101,15 +101,17 @@ bool TSession::OpenGroup(const std::string& fileName) {
 
 void TSession::AttachListedProjects(TProjectGroup& group) {
   const TGroupFile& file = group.Definition().Get();
+  const std::string directory = ExtractFileDir(group.FileName());
   const auto remembered = lastActive_.find(group.FileName());
-  const std::string active = remembered == lastActive_.end() ? file.Active() : remembered->second;
+  const std::string active =
+      FromStoredPath(directory, remembered == lastActive_.end() ? file.Active() : remembered->second);
   for (const std::string& stored : file.Items()) {
-    const std::string path = FromStoredPath(ExtractFileDir(group.FileName()), stored);
+    const std::string path = FromStoredPath(directory, stored);
     if (index_.Find(path)) continue;
     try {
       auto project = std::make_unique<TProject>(path, guard_);
       project->Definition().Load();
-      group.Attach(AddModule(std::move(project)), SameText(stored, active));
+      group.Attach(AddModule(std::move(project)), SameText(path, active));
     } catch (const std::exception& e) {
       Log(Format(sProjectMissing, {group.FileName(), e.what()}));
     }

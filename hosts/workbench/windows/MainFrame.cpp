@@ -6,6 +6,7 @@
 #include <wx/stattext.h>
 
 #include "host/Paths.h"
+#include "host/System.h"
 #include "host/Text.h"
 #include "workbench/windows/EditorBook.h"
 #include "workbench/windows/FindDialog.h"

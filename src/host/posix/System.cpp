@@ -9,6 +9,8 @@
 #include <optional>
 #include <system_error>
 
+#include "host/Paths.h"
+
 namespace fs = std::filesystem;
 
 namespace {
@@ -48,6 +50,10 @@ std::string GetUserNameText(std::size_t bufferSize) {
 std::string GetCurrentDirectoryText(std::size_t bufferSize) {
   std::error_code ignored;
   return IfItFits(fs::current_path(ignored).string(), bufferSize);
+}
+
+std::string FullPath(const std::string& path) {
+  return path.empty() ? path : NormalPath(PathWithin(GetCurrentDirectoryText(std::string::npos), path));
 }
 
 bool FileExists(const std::string& path) {

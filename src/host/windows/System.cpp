@@ -3,6 +3,7 @@
 #include <array>
 #include <memory>
 
+#include "host/Paths.h"
 #include "host/windows/Api.h"
 #include "host/windows/Wide.h"
 
@@ -38,6 +39,13 @@ std::string GetCurrentDirectoryText(std::size_t bufferSize) {
   std::wstring directory(GetCurrentDirectoryW(0, nullptr), L'\0');
   directory.resize(GetCurrentDirectoryW(static_cast<DWORD>(directory.size()), directory.data()));
   return IfItFits(FromWide(directory), bufferSize);
+}
+
+std::string FullPath(const std::string& path) {
+  const auto name = ToWide(path);
+  std::wstring full(GetFullPathNameW(name.c_str(), 0, nullptr, nullptr), L'\0');
+  full.resize(GetFullPathNameW(name.c_str(), static_cast<DWORD>(full.size()), full.data(), nullptr));
+  return NormalPath(FromWide(full));
 }
 
 bool FileExists(const std::string& path) {

@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 
+#include "host/Paths.h"
 #include "host/System.h"
 #include "support/TemporaryFolder.h"
 
@@ -16,6 +17,22 @@ TEST(System, SetsTheAttributesOfAFile) {
   }
   EXPECT_FALSE(SetFileAttributesOf(folder / "missing", faArchive));
   EXPECT_EQ(GetFileAttributesOf(folder / "missing"), 0u);
+}
+
+TEST(System, CompletesANameFromADrive) {
+  const auto here = GetCurrentDirectoryText(1000);
+  const auto drive = here.substr(0, 2);
+  const std::string longName(300, 'x');
+  const std::pair<std::string, std::string> rows[] = {
+      {drive + "a.pas", IncludeTrailingPathDelimiter(here) + "a.pas"},
+      {"/p/a.pas", drive + "\\p\\a.pas"},
+      {"//server/share/p/../App.qvxproj", "\\\\server\\share\\App.qvxproj"},
+      {"\\\\server\\share\\proj\\App.qvxproj", "\\\\server\\share\\proj\\App.qvxproj"},
+      {"\\\\?\\UNC\\server\\share\\App.qvxproj", "\\\\server\\share\\App.qvxproj"},
+      {"\\\\?\\C:\\p\\a.pas", "C:\\p\\a.pas"},
+      {"C:\\" + longName + "/./a.pas", "C:\\" + longName + "\\a.pas"},
+  };
+  for (const auto& [path, full] : rows) EXPECT_EQ(FullPath(path), full);
 }
 
 TEST(System, ReachesFilesBehindLongPaths) {
