@@ -116,6 +116,10 @@ void RequireAtMostMaxFiles(const TStringList& files) {
     throw EAbort(Format(sTooManyFiles.str(), {number(files.size()), number(kMaxFiles)}));
 }
 
+void ThrowFault(scc::TEntry entry, const std::string& fault) {
+  throw EAbort(Format(sProviderFault.str(), {scc::NameOf(entry), fault}));
+}
+
 std::string CurrentFault() {
   try {
     throw;

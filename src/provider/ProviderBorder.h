@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "host/Guard.h"
 #include "host/Text.h"
 #include "provider/BoundedText.h"
 #include "provider/sccapi.h"
@@ -82,7 +83,7 @@ class TComment {
   std::string text_;
 };
 
-/// How a call ended: the provider's code, or the text of the exception that it let out.
+/// How a call ended: the provider's code, or the text of the exception or fault that it let out.
 struct TAnswer {
   scc::Long Code = scc::SCC_E_NONSPECIFICERROR;
   std::string Fault;
@@ -105,12 +106,19 @@ class TCallMark {
   TCallMark& operator=(const TCallMark&) = delete;
 };
 
-/// Calls an entry point.  One that the library lacks, or that went away with the library, answers "not supported".
+/// Throws EAbort: the entry point ended with a fault of that name (see RunGuarded).
+[[noreturn]] void ThrowFault(scc::TEntry entry, const std::string& fault);
+
+/// Calls an entry point.  One that the library lacks, or that went away with the library, answers "not supported"; one
+/// that crashes throws EAbort.
 template <class... Parameters, class... Arguments>
 scc::Long Invoke(scc::Long(SCC_CALL* entry)(Parameters...), Arguments... arguments) {
   if (scc::hSosScc == nullptr || entry == nullptr) return scc::SCC_E_OPNOTSUPPORTED;
   const TCallMark mark;
-  return entry(arguments...);
+  scc::Long result = scc::SCC_E_NONSPECIFICERROR;
+  const auto fault = RunGuarded([&] { result = entry(arguments...); });
+  if (!fault.empty()) ThrowFault(reinterpret_cast<scc::TEntry>(entry), fault);
+  return result;
 }
 
 /// Runs a call with its preparations.  No exception leaves here, of whatever type.

@@ -22,6 +22,7 @@ constexpr TResString sBufferOverrun{
 constexpr TResString sTextCut{
     "The provider \"%s\" gave a text that is too long (%s): it was cut to %d bytes."};
 constexpr TResString sUnknownFault{"The source code control provider failed for an unknown reason"};
+constexpr TResString sProviderFault{"The source code control provider failed in %s: %s"};
 constexpr TResString sNotInCodePage{
     "\"%s\" cannot be passed to the source code control provider: the system's code page lacks a character "
     "of it"};

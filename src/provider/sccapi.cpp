@@ -48,6 +48,14 @@ void UnloadSCCDLL() {
   hSosScc = nullptr;
 }
 
+std::string NameOf(TEntry entry) {
+#define SCC_ENTRY(variable, name, result, arguments) \
+  if (reinterpret_cast<TEntry>(variable) == entry) return name;
+#include "provider/entry_points.def"
+#undef SCC_ENTRY
+  return {};
+}
+
 Dword SCC_VER_NUM() { return 0x00010001; }
 Dword SCC_GET_MAJOR_VER(Dword version) { return version >> 16; }
 Dword SCC_GET_MINOR_VER(Dword version) { return version & 0xFFFF; }

@@ -30,6 +30,11 @@ bool LoadSCCDLL(const std::string& path);
 /// Releases the library.  Does nothing when none is loaded.
 void UnloadSCCDLL();
 
+/// Any entry point, as an address only.
+using TEntry = void (*)();
+/// The exported name of a bound entry point; empty for anything else.
+std::string NameOf(TEntry entry);
+
 /// The interface version that the add-in implements: major in the high 16 bits, minor in the low 16.
 Dword SCC_VER_NUM();
 Dword SCC_GET_MAJOR_VER(Dword version);

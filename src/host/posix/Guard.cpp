@@ -1,0 +1,6 @@
+#include "host/Guard.h"
+
+std::string RunGuarded(void (*body)(void* data), void* data) {
+  body(data);
+  return {};
+}
