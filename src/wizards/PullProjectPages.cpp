@@ -23,6 +23,7 @@ constexpr const char* kViewProvider = "ClearCase";
 // The one provider whose users may change the local path while they pick a project.
 constexpr const char* kPathChoosingProvider = "software\\Mirelda\\MSIntegration3";
 
+// What a provider's field for the local path holds, in the text that it gets.
 constexpr std::size_t kLongestPath = 260;
 
 bool MayChangePath(const std::string& providerPath) {
@@ -36,8 +37,10 @@ bool MayChangePath(const std::string& providerPath) {
 std::string TargetProblem(const std::string& directory) {
   if (directory.empty()) return sTargetNone;
   if (!IsAbsolutePath(directory)) return sTargetNotAbsolute;
-  if (directory.size() > kLongestPath)
-    return Format(sTargetTooLong.Text, {static_cast<long long>(kLongestPath)});
+  const auto told = ToSystemText(directory);
+  if (!told) return Format(sTargetNotInCodePage.Text, {directory});
+  if (told->size() > kLongestPath)
+    return Format(sTargetTooLong.Text, {directory, static_cast<long long>(kLongestPath)});
   if (FileExists(directory) && !DirectoryExists(directory)) return Format(sTargetIsFile.Text, {directory});
   return {};
 }

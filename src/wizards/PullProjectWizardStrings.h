@@ -14,7 +14,9 @@ constexpr TResString sPullDone{"Done"};
 // What the user is told about the target directory.
 constexpr TResString sTargetNone{"Name the directory that the project is to be pulled into."};
 constexpr TResString sTargetNotAbsolute{"Give the full path of the directory."};
-constexpr TResString sTargetTooLong{"The path is longer than the %d bytes that providers can take."};
+constexpr TResString sTargetTooLong{"%s is longer than the %d bytes that providers can take."};
+constexpr TResString sTargetNotInCodePage{
+    "Providers cannot take %s: the system's code page lacks a character of it."};
 constexpr TResString sTargetIsFile{"%s is a file, not a directory."};
 constexpr TResString sTargetNotMade{"The directory %s could not be created: %s"};
 constexpr TResString sTargetWillBeMade{

@@ -143,7 +143,15 @@ TEST_F(PullProject, ShowsWhatItWaitsFor) {
 
 TEST_F(PullProject, TargetThatWillNotDoIsRefusedInWords) {
   const auto file = folder_.Write("file", "x");
-  for (const auto& target : {std::string(" "), file, "/" + std::string(300, 'x')}) {
+  const auto start = folder_.Path() + PathDelim;
+  const auto longest = start + std::string(260 - start.size(), 'x');
+  Aim(longest);
+  EXPECT_EQ(Page().Panel, 2) << "fits";
+  EXPECT_EQ(provider_->Last("SccGetProjPath").LocalPath, longest) << "whole";
+  Aim(longest + "x");
+  EXPECT_THAT(Page().Problem, HasSubstr(longest + "x is longer than"));
+  provider_->Calls.clear();
+  for (const auto& target : {std::string(" "), file, longest + "x"}) {
     SCOPED_TRACE(target);
     Aim(target);
     EXPECT_EQ(Page().Panel, 3);

@@ -1,0 +1,38 @@
+// Pulling a project where providers get text of 8 bits: this program has no manifest that asks for UTF-8.
+#include <windows.h>
+
+#include "expert/ExpertFixture.h"
+#include "wizards/PullProjectPages.h"
+
+namespace {
+
+class PullProjectCodePage : public TExpertTest {
+ protected:
+  void SetUp() override {
+    if (GetACP() != 1252) GTEST_SKIP() << "the system's code page is " << GetACP();
+    Start();
+  }
+};
+
+TEST_F(PullProjectCodePage, BoundsTheTargetAsTheProviderGetsIt) {
+  std::string umlauts = "C:\\";
+  for (int i = 0; i < 257; ++i) umlauts += "ü";
+  const struct {
+    std::string target, problem;
+  } rows[] = {
+      {umlauts, ""},  // 260 bytes for the provider, twice as many here
+      {umlauts + "x", umlauts + "x is longer than the 260 bytes"},
+      {"C:\\名前", "Providers cannot take C:\\名前"},
+  };
+  for (const auto& row : rows) {
+    TPullProjectPages pages(*expert_);
+    pages.FormCreate(0);
+    pages.NextFinishButtonClick();
+    pages.TargetDirectoryChange(row.target);
+    pages.NextFinishButtonClick();
+    EXPECT_THAT(pages.Page().Problem, row.problem.empty() ? testing::Matcher<std::string>(testing::IsEmpty())
+                                                          : testing::HasSubstr(row.problem));
+  }
+}
+
+}  // namespace
