@@ -1,6 +1,8 @@
 #include <gmock/gmock.h>
+#include <unistd.h>
 
 #include <filesystem>
+#include <fstream>
 #include <functional>
 #include <stdexcept>
 #include <thread>
@@ -63,6 +65,17 @@ TEST(Files, FailWithASentenceThatNamesThem) {
                 ThrowsMessage<std::runtime_error>(HasSubstr(row.text + row.path + ": ")));
   EXPECT_EQ(ReadWholeFile(readOnly), "old");
   EXPECT_THAT(NamesIn(folder.Path()), UnorderedElementsAre("file", "read-only"));
+}
+
+TEST(Files, AreWrittenBesideWhatAKilledProcessLeft) {
+  const TTemporaryFolder folder;
+  // More than this process has written so far.
+  for (int i = 0; i < 300; ++i)
+    std::ofstream(folder / (".corvane-" + std::to_string(getpid()) + "-" + std::to_string(i) + ".tmp"))
+        << "left";
+  WriteFileAtomically(folder / "a.cdp", "new");
+  EXPECT_EQ(ReadWholeFile(folder / "a.cdp"), "new");
+  EXPECT_EQ(NamesIn(folder.Path()).size(), 301u);
 }
 
 TEST(Files, AreNeverSeenHalfWritten) {

@@ -109,7 +109,10 @@ class TTemporaryFile {
 std::string BehindLinks(const std::string& path) {
   std::error_code failed;
   const auto real = std::filesystem::canonical(path, failed);
-  return failed ? path : real.string();
+  if (!failed) return real.string();
+  // One that leads nowhere: what it stands for is not known here, and it must not be replaced.
+  if (std::error_code ignored; std::filesystem::is_symlink(path, ignored)) FailToWrite(path, failed.value());
+  return path;
 }
 
 }  // namespace

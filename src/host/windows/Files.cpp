@@ -1,12 +1,11 @@
 // Whole files, read and written.
 
+#include <algorithm>
 #include <atomic>
-#include <filesystem>
+#include <initializer_list>
+#include <memory>
 #include <stdexcept>
-#include <system_error>
 
-#include "host/FileName.h"
-#include "host/Paths.h"
 #include "host/System.h"
 #include "host/windows/Api.h"
 #include "host/windows/Wide.h"
@@ -24,44 +23,114 @@ constexpr std::size_t kBlock = std::size_t{1} << 20;
 
 class TFile {
  public:
-  TFile(const std::wstring& path, DWORD access, DWORD disposition)
-      : handle_(CreateFileW(path.c_str(), access, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
-                            nullptr, disposition, FILE_ATTRIBUTE_NORMAL, nullptr)) {}
+  TFile() = default;
   TFile(const TFile&) = delete;
   TFile& operator=(const TFile&) = delete;
   ~TFile() { Close(); }
+  bool Open(const std::wstring& path, DWORD access, DWORD disposition) {
+    handle_ = CreateFileW(path.c_str(), access, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                          nullptr, disposition, FILE_ATTRIBUTE_NORMAL, nullptr);
+    return handle_ != INVALID_HANDLE_VALUE;
+  }
   HANDLE Get() const { return handle_; }
-  bool IsOpen() const { return handle_ != INVALID_HANDLE_VALUE; }
   void Close() {
-    if (IsOpen()) CloseHandle(handle_);
+    if (handle_ != INVALID_HANDLE_VALUE) CloseHandle(handle_);
     handle_ = INVALID_HANDLE_VALUE;
   }
 
  private:
-  HANDLE handle_;
+  HANDLE handle_ = INVALID_HANDLE_VALUE;
 };
 
-/// Another process that looks into the file just now, as virus scanners and indexers do, keeps it from being replaced.
-bool MoveOver(const std::wstring& from, const std::wstring& to) {
+/// Tries again for a second: another process that looks into the file just now, as virus scanners and indexers do, is in
+/// the way for a moment only.
+template <typename TAttempt>
+bool WithPatience(std::initializer_list<DWORD> passing, const TAttempt& attempt) {
   constexpr int kAttempts = 50;
   constexpr DWORD kPauseMs = 20;
-  for (int i = 1; !MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH);
-       ++i) {
+  for (int i = 1; !attempt(); ++i) {
     const auto error = GetLastError();
-    const bool passing = error == ERROR_SHARING_VIOLATION || error == ERROR_ACCESS_DENIED;
-    if (!passing || i == kAttempts) return SetLastError(error), false;
+    if (i == kAttempts || std::ranges::find(passing, error) == passing.end())
+      return SetLastError(error), false;
     Sleep(kPauseMs);
   }
   return true;
 }
 
-/// A new file that disappears with this object unless it became the real one.
+// ------------------------------------------------------------------------------------------------- the target
+
+/// Where contents go.
+struct TTarget {
+  std::string Shown;  ///< as the caller has it
+  std::wstring Path;  ///< the file behind links: a link stays a link when its file is written
+  bool Exists;
+};
+
+/// The name of an open file without links in it; empty where the system has none, as on some virtual disks.
+std::wstring FinalName(HANDLE file) {
+  constexpr DWORD kLongestPath = 32768;
+  std::wstring name(kLongestPath, L'\0');
+  const auto size = GetFinalPathNameByHandleW(file, name.data(), kLongestPath, FILE_NAME_NORMALIZED);
+  name.resize(size < kLongestPath ? size : 0);
+  return name;
+}
+
+/// Throws when there is something that may not be written: replacing it would not ask.
+TTarget FindTarget(const std::string& path) {
+  const auto name = ToWideFileName(path);
+  const auto attributes = GetFileAttributesW(name.c_str());
+  if (attributes == INVALID_FILE_ATTRIBUTES) return {path, name, false};
+  if (attributes & (FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_READONLY))
+    FailToWrite(path, ERROR_ACCESS_DENIED);
+  TFile file;
+  if (!WithPatience({ERROR_SHARING_VIOLATION}, [&] { return file.Open(name, GENERIC_WRITE, OPEN_EXISTING); }))
+    FailToWrite(path, GetLastError());
+  const auto behind = FinalName(file.Get());
+  if (behind.empty() && (attributes & FILE_ATTRIBUTE_REPARSE_POINT)) FailToWrite(path, GetLastError());
+  return {path, behind.empty() ? name : behind, true};
+}
+
+// ------------------------------------------------------------------------------------------------- its successor
+
+struct TLocalFree {
+  void operator()(void* memory) const { LocalFree(memory); }
+};
+
+/// A list of permissions and what its folder may add to it.
+struct TPermissions {
+  std::unique_ptr<void, TLocalFree> Descriptor;
+  SECURITY_DESCRIPTOR_CONTROL Control = 0;
+};
+
+/// Without a descriptor where the file system has none or does not show it.
+TPermissions PermissionsOf(const std::wstring& path) {
+  PSECURITY_DESCRIPTOR descriptor = nullptr;
+  if (GetNamedSecurityInfoW(path.c_str(), SE_FILE_OBJECT, DACL_SECURITY_INFORMATION, nullptr, nullptr,
+                            nullptr, nullptr, &descriptor) != ERROR_SUCCESS)
+    return {};
+  TPermissions permissions{std::unique_ptr<void, TLocalFree>(descriptor)};
+  DWORD revision = 0;
+  GetSecurityDescriptorControl(descriptor, &permissions.Control, &revision);
+  return permissions;
+}
+
+/// Exactly those: the calls that let the folder add its own would let others read what they could not.
+bool SetPermissions(const std::wstring& path, const TPermissions& permissions) {
+  // The system keeps the mark of an inherited list only for who says that he knows about it.
+  if (permissions.Control & SE_DACL_AUTO_INHERITED)
+    SetSecurityDescriptorControl(permissions.Descriptor.get(), SE_DACL_AUTO_INHERIT_REQ,
+                                 SE_DACL_AUTO_INHERIT_REQ);
+  return SetFileSecurityW(path.c_str(), DACL_SECURITY_INFORMATION, permissions.Descriptor.get());
+}
+
+/// A new file that disappears with this object unless it took the target's place.
 class TTemporaryFile {
  public:
-  /// Throws, naming `target`, when its directory takes no new file.
-  explicit TTemporaryFile(const std::string& target)
-      : target_(target), path_(NewName(target)), file_(path_, GENERIC_WRITE, CREATE_NEW) {
-    Check(file_.IsOpen());
+  /// Throws when the target's directory takes no new file.
+  explicit TTemporaryFile(const TTarget& target) : target_(target) {
+    // One of that name was left behind by a process of the same number that was killed.
+    while (!file_.Open(path_ = NewName(), GENERIC_WRITE, CREATE_NEW))
+      Check(GetLastError() == ERROR_FILE_EXISTS);
   }
   TTemporaryFile(const TTemporaryFile&) = delete;
   TTemporaryFile& operator=(const TTemporaryFile&) = delete;
@@ -70,16 +139,13 @@ class TTemporaryFile {
     if (!path_.empty()) DeleteFileW(path_.c_str());
   }
 
-  /// What the owner may not hand on stays as a new file has it.
-  void TakePermissionsOf(const std::wstring& old) {
-    PACL list = nullptr;
-    PSECURITY_DESCRIPTOR descriptor = nullptr;
-    if (GetNamedSecurityInfoW(old.c_str(), SE_FILE_OBJECT, DACL_SECURITY_INFORMATION, nullptr, nullptr, &list,
-                              nullptr, &descriptor) == ERROR_SUCCESS)
-      SetNamedSecurityInfoW(path_.data(), SE_FILE_OBJECT, DACL_SECURITY_INFORMATION, nullptr, nullptr, list,
-                            nullptr);
-    LocalFree(descriptor);
-    SetFileAttributesW(path_.c_str(), GetFileAttributesW(old.c_str()));
+  /// What may not be handed on stays as the folder gives it to a new file; but a list that is protected from just that
+  /// must not be lost.
+  void TakePermissions() const {
+    const auto permissions = PermissionsOf(target_.Path);
+    Check(!permissions.Descriptor || SetPermissions(path_, permissions) ||
+          !(permissions.Control & SE_DACL_PROTECTED));
+    SetFileAttributesW(path_.c_str(), GetFileAttributesW(target_.Path.c_str()));
   }
 
   void Write(std::string_view contents) const {
@@ -94,56 +160,43 @@ class TTemporaryFile {
   void Replace() {
     Check(FlushFileBuffers(file_.Get()));
     file_.Close();
-    Check(MoveOver(path_, ToWideFileName(target_)));
+    Check(WithPatience({ERROR_SHARING_VIOLATION, ERROR_ACCESS_DENIED}, [this] {
+      return MoveFileExW(path_.c_str(), target_.Path.c_str(),
+                         MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH);
+    }));
     path_.clear();
   }
 
  private:
-  /// Short, so that a target whose own name is as long as names may be can be written too.
-  static std::wstring NewName(const std::string& target) {
+  /// In the target's directory.  Short, so that a target whose own name is as long as names may be can be written too.
+  std::wstring NewName() const {
     static std::atomic<unsigned> count{0};
-    const auto directory = ExtractFileDir(target);
-    const auto name =
-        ".corvane-" + std::to_string(GetCurrentProcessId()) + "-" + std::to_string(count++) + ".tmp";
-    return ToWideFileName(directory.empty() ? name : IncludeTrailingPathDelimiter(directory) + name);
+    const auto directory = target_.Path.substr(0, target_.Path.find_last_of(L"\\:") + 1);
+    return ToWideFileName(FromWide(directory) + ".corvane-" + std::to_string(GetCurrentProcessId()) + "-" +
+                          std::to_string(count++) + ".tmp");
   }
   void Check(bool succeeded) const {
-    if (!succeeded) FailToWrite(target_, GetLastError());
+    if (!succeeded) FailToWrite(target_.Shown, GetLastError());
   }
 
-  const std::string target_;
+  const TTarget target_;
   std::wstring path_;
   TFile file_;
 };
 
-/// The file that a link leads to: a link stays a link when its file is written.
-std::string BehindLinks(const std::string& path) {
-  const auto attributes = GetFileAttributesW(ToWideFileName(path).c_str());
-  if (attributes == INVALID_FILE_ATTRIBUTES || !(attributes & FILE_ATTRIBUTE_REPARSE_POINT)) return path;
-  std::error_code failed;
-  const auto real = std::filesystem::canonical(ToFilePath(path), failed);
-  return failed ? path : FromFilePath(real);
-}
-
 }  // namespace
 
 void WriteFileAtomically(const std::string& path, const std::string& contents) {
-  const auto target = BehindLinks(path);
-  const auto wide = ToWideFileName(target);
-  const auto attributes = GetFileAttributesW(wide.c_str());
-  const bool exists = attributes != INVALID_FILE_ATTRIBUTES;
-  // Replacing would not ask: without this a file that its owner protected would be gone.
-  if (exists && (attributes & (FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_READONLY)))
-    FailToWrite(path, ERROR_ACCESS_DENIED);
+  const auto target = FindTarget(path);
   TTemporaryFile file(target);
-  if (exists) file.TakePermissionsOf(wide);
+  if (target.Exists) file.TakePermissions();
   file.Write(contents);
   file.Replace();
 }
 
 std::string ReadWholeFile(const std::string& path) {
-  const TFile file(ToWideFileName(path), GENERIC_READ, OPEN_EXISTING);
-  if (!file.IsOpen()) FailToRead(path, GetLastError());
+  TFile file;
+  if (!file.Open(ToWideFileName(path), GENERIC_READ, OPEN_EXISTING)) FailToRead(path, GetLastError());
   std::string contents;
   for (DWORD size = kBlock; size != 0;) {
     const auto before = contents.size();

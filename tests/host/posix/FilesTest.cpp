@@ -46,6 +46,10 @@ TEST(Files, KeepPermissionsAndLinksWhenTheyAreWritten) {
   EXPECT_TRUE(fs::is_symlink(link));
   EXPECT_EQ(ReadWholeFile(file), "new");
   EXPECT_EQ(fs::status(file).permissions(), fs::perms(0640));
+
+  fs::remove(file);
+  EXPECT_THROW(WriteFileAtomically(link, "new"), std::runtime_error) << "it leads nowhere";
+  EXPECT_TRUE(fs::is_symlink(link));
 }
 
 TEST(Files, StayAsTheyWereWhenTheDiskIsFull) {

@@ -1,13 +1,17 @@
 #include <gmock/gmock.h>
 
+#include <cstdint>
+#include <cstring>
 #include <filesystem>
 
 #include "host/Library.h"
 #include "host/Paths.h"
+#include "host/System.h"
 #include "support/TemporaryFolder.h"
 
 namespace fs = std::filesystem;
 using testing::HasSubstr;
+using testing::Not;
 
 namespace {
 
@@ -15,6 +19,15 @@ bool Loads(const std::string& path) {
   const auto module = LoadModule(path);
   FreeModule(module);
   return module != nullptr;
+}
+
+/// The machine's number in the header.
+std::string ForTheOtherBitness(std::string library) {
+  std::int32_t header = 0;
+  std::memcpy(&header, library.data() + 0x3C, sizeof header);
+  const std::uint16_t machine = sizeof(void*) == 4 ? 0x8664 : 0x014C;
+  std::memcpy(library.data() + header + 4, &machine, sizeof machine);
+  return library;
 }
 
 }  // namespace
@@ -37,9 +50,39 @@ TEST(Library, FindsWhatItNeedsOnlyInItsOwnFolder) {
   EXPECT_TRUE(Loads(library));
 }
 
-TEST(Library, ExplainsThatALibraryIsOfAnotherKind) {
+TEST(Library, SaysWhyItCannotBeLoaded) {
   const TTemporaryFolder folder;
+  const auto alone = folder.MakeFolder("alone") + "\\needy_library.dll";
+  fs::copy(ToFilePath(NEEDY_LIBRARY), ToFilePath(alone));
+  const std::string own = sizeof(void*) == 4 ? "32-bit" : "64-bit";
+  const std::string other = sizeof(void*) == 4 ? "64-bit" : "32-bit";
+  const struct {
+    std::string path, words;
+  } rows[] = {
+      {alone, "a library that it needs is neither in its folder nor in the system's"},
+      {folder.Write("text.dll", "not a library"),
+       "it, or a library that it needs, is damaged or no library for a " + own + " program"},
+      {folder.Write("short.dll", "MZ"),
+       "it, or a library that it needs, is damaged or no library for a " + own + " program"},
+      {folder.Write("other.dll", ForTheOtherBitness(ReadWholeFile(TINY_PROVIDER))),
+       "it is a " + other + " library; this is a " + own + " program"},
+  };
+  for (const auto& row : rows) {
+    std::string error;
+    EXPECT_FALSE(LoadModule(row.path, &error)) << row.path;
+    EXPECT_EQ(error, row.words) << row.path;
+  }
   std::string error;
-  EXPECT_FALSE(LoadModule(folder.Write("text.dll", "not a library"), &error));
-  EXPECT_THAT(error, HasSubstr("-bit program loads "));
+  EXPECT_FALSE(LoadModule(folder / "missing.dll", &error));
+  EXPECT_THAT(error, Not(HasSubstr("it needs")));
+}
+
+TEST(Library, IsSearchedForTheUnderscoreOf32BitTools) {
+  const auto module = LoadModule(UNDERSCORE_LIBRARY);
+  ASSERT_TRUE(module);
+  const bool is32Bit = sizeof(void*) == 4;
+  EXPECT_EQ(FindSymbol(module, "SccOpenProject") != nullptr, is32Bit);
+  ASSERT_TRUE(FindSymbol(module, is32Bit ? "_SccGet@4" : "_SccGet"));
+  EXPECT_FALSE(FindSymbol(module, "SccGet")) << "its calling convention is another one";
+  FreeModule(module);
 }
