@@ -1,11 +1,9 @@
-#include <gmock/gmock.h>
-
+// The registry as files.
 #include <filesystem>
 #include <stdexcept>
 #include <thread>
-#include <vector>
 
-#include "host/Registry.h"
+#include "host/RegistryFixture.h"
 #include "host/posix/RegistryLayers.h"
 #include "support/Environment.h"
 #include "support/TemporaryFolder.h"
@@ -20,25 +18,8 @@ namespace {
 
 constexpr const char* kInstalled = "Software\\SourceCodeControlProvider\\InstalledSCCProviders";
 
-class Registry : public testing::Test {
+class RegistryFiles : public Registry {
  protected:
-  static std::string Read(const std::string& key, const std::string& name,
-                          TRegRoot root = TRegRoot::LocalMachine) {
-    TRegistry registry(root);
-    return registry.OpenKeyReadOnly(key) ? registry.ReadString(name) : "no such key";
-  }
-  static std::vector<std::string> Names(const std::string& key) {
-    TRegistry registry;
-    return registry.OpenKeyReadOnly(key) ? registry.GetValueNames() : std::vector<std::string>{"no such key"};
-  }
-  static void Write(const std::string& key, const std::string& name, const std::string& value,
-                    TRegRoot root = TRegRoot::LocalMachine) {
-    TRegistry registry(root);
-    registry.OpenKey(key);
-    registry.WriteString(name, value);
-  }
-  static bool KeyExists(const std::string& key) { return TRegistry().OpenKeyReadOnly(key); }
-
   const TTemporaryFolder folder_;
   const std::string directory_ = folder_ / "registry";
   const std::string machine_ = folder_ / "registry/local-machine.ini";
@@ -47,7 +28,7 @@ class Registry : public testing::Test {
 
 }  // namespace
 
-TEST_F(Registry, ReadsWhatAPersonTyped) {
+TEST_F(RegistryFiles, ReadsWhatAPersonTyped) {
   folder_.Write("registry/local-machine.ini",
                 "\xEF\xBB\xBF# Providers of this machine\r\n"
                 "[software\\sourcecodecontrolprovider\\InstalledSCCProviders]\r\n"
@@ -64,7 +45,7 @@ TEST_F(Registry, ReadsWhatAPersonTyped) {
   EXPECT_EQ(Read("Software\\Zebra\\SCC", "SccServerName"), "");
 }
 
-TEST_F(Registry, KeepsEveryTextThatIsWritten) {
+TEST_F(RegistryFiles, KeepsTextsThatAreSyntaxToo) {
   const std::string texts[] = {"plain",
                                "",
                                " blanks ",
@@ -98,7 +79,7 @@ TEST_F(Registry, KeepsEveryTextThatIsWritten) {
   }
 }
 
-TEST_F(Registry, ChangesOneValueAndLeavesTheRestOfTheFile) {
+TEST_F(RegistryFiles, ChangesOneValueAndLeavesTheRestOfTheFile) {
   const std::string before =
       "# Mine\n\n\n# Installed\n[Software\\A]\nFirst=1\n\n# why\nSecond=2\n\n\n[Other]\nx=y\n";
   folder_.Write("registry/local-machine.ini", before);
@@ -109,42 +90,7 @@ TEST_F(Registry, ChangesOneValueAndLeavesTheRestOfTheFile) {
       "# Mine\n\n\n# Installed\n[Software\\A]\nFirst=one\n\n# why\nSecond=2\nThird=3\n\n\n[Other]\nx=y\n");
 }
 
-TEST_F(Registry, DeletesValuesAndKeysWithAllBelow) {
-  for (const char* key : {"Software\\A", "Software\\A\\SCC", "Software\\AB"}) Write(key, "name", "value");
-  EXPECT_TRUE(KeyExists("Software")) << "a key above one that exists";
-  EXPECT_FALSE(KeyExists("Soft"));
-
-  TRegistry registry;
-  EXPECT_FALSE(registry.DeleteKey("Software\\A\\SC"));
-  EXPECT_TRUE(registry.DeleteKey("software\\a"));
-  EXPECT_FALSE(registry.DeleteKey("Software\\A"));
-  EXPECT_FALSE(KeyExists("Software\\A\\SCC"));
-  EXPECT_EQ(Read("Software\\AB", "name"), "value");
-
-  registry.OpenKey("Software\\AB");
-  EXPECT_TRUE(registry.DeleteValue("NAME"));
-  EXPECT_FALSE(registry.DeleteValue("name"));
-  EXPECT_THAT(Names("Software\\AB"), IsEmpty()) << "the key itself stays";
-}
-
-TEST_F(Registry, LooksIntoAKeyOnlyWhileItIsOpen) {
-  Write("Key", "name", "value");
-  TRegistry registry;
-  EXPECT_EQ(registry.ReadString("name"), "");
-  ASSERT_TRUE(registry.OpenKeyReadOnly("Key"));
-  EXPECT_THROW(registry.WriteString("name", "other"), std::runtime_error);
-  EXPECT_THROW(registry.DeleteValue("name"), std::runtime_error);
-  EXPECT_FALSE(registry.OpenKeyReadOnly("Missing"));
-  Write("Missing", "name", "too late");
-  EXPECT_EQ(registry.ReadString("name"), "") << "the key opened before is closed, and no other open";
-  registry.OpenKey("Key");
-  EXPECT_EQ(registry.ReadString("name"), "value");
-  registry.CloseKey();
-  EXPECT_THROW(registry.WriteString("name", "other"), std::runtime_error);
-  EXPECT_EQ(Read("Key", "name"), "value");
-}
-
-TEST_F(Registry, KeepsItsRootsApartInTheUsersConfiguration) {
+TEST_F(RegistryFiles, KeepsItsRootsApartInTheUsersConfiguration) {
   const TEnvironmentVariable noDirectory("CORVANE_REGISTRY_DIR", nullptr);
   const TEnvironmentVariable config("XDG_CONFIG_HOME", folder_.Path().c_str());
   Write("Kestrel host test\\A", "name", "user", TRegRoot::CurrentUser);
@@ -162,7 +108,7 @@ TEST_F(Registry, KeepsItsRootsApartInTheUsersConfiguration) {
   }
 }
 
-TEST_F(Registry, LaysTheUsersValuesOverTheMachines) {
+TEST_F(RegistryFiles, LaysTheUsersValuesOverTheMachines) {
   const auto user = folder_.Write("user.ini", "[Installed]\nMine=u1\nSHARED=u2\n[Only\\Mine]\na=b\n");
   const auto machine =
       folder_.Write("machine.ini", "[installed]\nFirst=m1\nshared=m2\nLast=m3\n[Software\\M]\na=b\n");
@@ -182,7 +128,7 @@ TEST_F(Registry, LaysTheUsersValuesOverTheMachines) {
   EXPECT_EQ(ReadWholeFile(machine), "[installed]\nFirst=m1\nshared=m2\nLast=m3\n[Software\\M]\na=b\n");
 }
 
-TEST_F(Registry, ReadsNothingFromAFileThatIsNoneAndPutsItAsideBeforeWriting) {
+TEST_F(RegistryFiles, ReadsNothingFromAFileThatIsNoneAndPutsItAsideBeforeWriting) {
   EXPECT_FALSE(KeyExists("Key")) << "no file at all";
   const auto broken = std::string("[Key]\nname=value\n") + std::string(4096, '\0') +
                       "\x7F"
@@ -202,7 +148,7 @@ TEST_F(Registry, ReadsNothingFromAFileThatIsNoneAndPutsItAsideBeforeWriting) {
   }
 }
 
-TEST_F(Registry, SaysWhatItCannotStoreAndKeepsWhatWasThere) {
+TEST_F(RegistryFiles, SaysWhatItCannotStoreAndKeepsWhatWasThere) {
   Write("Key", "name", "old");
   SetFileAttributesOf(machine_, faReadOnly);
   EXPECT_THAT([] { Write("Key", "name", "new"); }, ThrowsMessage<std::runtime_error>(HasSubstr(machine_)));
@@ -220,7 +166,7 @@ TEST_F(Registry, SaysWhatItCannotStoreAndKeepsWhatWasThere) {
   EXPECT_FALSE(TRegistry().DeleteKey("Key")) << "nothing there to delete is no failure";
 }
 
-TEST_F(Registry, LosesNothingWhenManyWriteAtOnce) {
+TEST_F(RegistryFiles, LosesNothingWhenManyWriteAtOnce) {
   constexpr int kWriters = 8;
   constexpr int kValues = 10;
   std::vector<std::thread> writers;

@@ -1,0 +1,32 @@
+// Values and keys in a registry that is empty at the beginning.
+#pragma once
+
+#include <gmock/gmock.h>
+
+#include <string>
+#include <vector>
+
+#include "host/Registry.h"
+#include "support/TestRegistry.h"
+
+class Registry : public testing::Test {
+ protected:
+  static std::string Read(const std::string& key, const std::string& name,
+                          TRegRoot root = TRegRoot::LocalMachine) {
+    TRegistry registry(root);
+    return registry.OpenKeyReadOnly(key) ? registry.ReadString(name) : "no such key";
+  }
+  static std::vector<std::string> Names(const std::string& key) {
+    TRegistry registry;
+    return registry.OpenKeyReadOnly(key) ? registry.GetValueNames() : std::vector<std::string>{"no such key"};
+  }
+  static void Write(const std::string& key, const std::string& name, const std::string& value,
+                    TRegRoot root = TRegRoot::LocalMachine) {
+    TRegistry registry(root);
+    registry.OpenKey(key);
+    registry.WriteString(name, value);
+  }
+  static bool KeyExists(const std::string& key) { return TRegistry().OpenKeyReadOnly(key); }
+
+  const TTestRegistry registry_;
+};
