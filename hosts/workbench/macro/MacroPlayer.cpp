@@ -4,6 +4,7 @@
 #include <filesystem>
 
 #include "host/FileName.h"
+#include "host/Paths.h"
 #include "host/System.h"
 #include "workbench/macro/MacroStrings.h"
 #include "workbench/macro/WindowFinder.h"
@@ -96,10 +97,10 @@ wxTopLevelWindow& TMacroPlayer::Front() const {
 }
 
 std::string TMacroPlayer::Screenshot(const std::string& file) {
-  const auto path = ToFilePath(screenshots_) / ToFilePath(file);
+  const auto path = PathWithin(screenshots_, file);
   std::error_code ignored;
-  std::filesystem::create_directories(path.parent_path(), ignored);
-  return SaveScreenshot(FromFilePath(path)) ? std::string() : Format(sNoScreenshot, {FromFilePath(path)});
+  std::filesystem::create_directories(ToFilePath(ExtractFileDir(path)), ignored);
+  return SaveScreenshot(path) ? std::string() : Format(sNoScreenshot, {path});
 }
 
 std::string TMacroPlayer::Run(const TMacroStep& step) {
