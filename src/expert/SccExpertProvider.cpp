@@ -93,7 +93,7 @@ constexpr std::size_t kMaxPopulated = 4 * kMaxFiles;
 scc::Bool SCC_CALL PopListFunc(void*, scc::Bool addKeep, scc::Long, const char* fileName) noexcept try {
   auto& list = addKeep ? addList : removeList;
   if (list.size() >= kMaxPopulated) return 0;
-  if (fileName) list.push_back(FromSystemText(fileName));
+  if (auto name = TakeFileName(fileName)) list.push_back(*std::move(name));
   return -1;
 } catch (...) {
   return 0;

@@ -1,5 +1,8 @@
 #include "host/Text.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace {
 
 std::string ToText(const TFormatArg& arg) {
@@ -10,6 +13,31 @@ std::string ToText(const TFormatArg& arg) {
 bool IsBlank(char c) { return static_cast<unsigned char>(c) <= ' '; }
 
 bool IsContinuation(char c) { return (static_cast<unsigned char>(c) & 0xC0) == 0x80; }
+
+/// What the first two bytes of a character may be.  The second is bounded so that no character has two spellings and
+/// none lies outside of Unicode.
+struct TLeadRow {
+  unsigned char First, Last;
+  std::size_t Size;
+  unsigned char SecondFrom, SecondTo;
+};
+constexpr TLeadRow kLeads[] = {
+    {0xC2, 0xDF, 2, 0x80, 0xBF}, {0xE0, 0xE0, 3, 0xA0, 0xBF}, {0xE1, 0xEC, 3, 0x80, 0xBF},
+    {0xED, 0xED, 3, 0x80, 0x9F}, {0xEE, 0xEF, 3, 0x80, 0xBF}, {0xF0, 0xF0, 4, 0x90, 0xBF},
+    {0xF1, 0xF3, 4, 0x80, 0xBF}, {0xF4, 0xF4, 4, 0x80, 0x8F},
+};
+
+/// The bytes of the UTF-8 character that `text` begins with; 0 when it begins with none.
+std::size_t CharacterSize(std::string_view text) {
+  const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
+  if (byte(0) < 0x80) return 1;
+  const auto row = std::ranges::find_if(
+      kLeads, [&](const TLeadRow& lead) { return byte(0) >= lead.First && byte(0) <= lead.Last; });
+  if (row == std::end(kLeads) || text.size() < row->Size) return 0;
+  if (byte(1) < row->SecondFrom || byte(1) > row->SecondTo) return 0;
+  const auto rest = text.substr(2, row->Size - 2);
+  return std::all_of(rest.begin(), rest.end(), IsContinuation) ? row->Size : 0;
+}
 
 }  // namespace
 
@@ -41,6 +69,20 @@ bool SameText(std::string_view a, std::string_view b) {
   for (; i < a.size() && i < b.size() && ascii(a[i]) && ascii(b[i]); ++i)
     if (lower(a[i]) != lower(b[i])) return false;
   return FoldCase(a.substr(i)) == FoldCase(b.substr(i));
+}
+
+std::string RepairUtf8(std::string_view text, std::string (*decode)(std::string_view bytes)) {
+  std::string repaired;
+  for (std::size_t at = 0; at < text.size();) {
+    const auto begin = at;
+    std::size_t size = 0;
+    while (at < text.size() && (size = CharacterSize(text.substr(at))) > 0) at += size;
+    repaired += text.substr(begin, at - begin);
+    const auto wrong = at;
+    while (at < text.size() && CharacterSize(text.substr(at)) == 0) ++at;
+    if (at > wrong) repaired += decode(text.substr(wrong, at - wrong));
+  }
+  return repaired;
 }
 
 std::string_view CutAtCharacter(std::string_view text, std::size_t bytes) {

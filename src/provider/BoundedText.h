@@ -5,7 +5,8 @@
 #include <string>
 #include <string_view>
 
-/// Stands for a character buffer of `size` bytes, terminator included.
+/// Stands for a character buffer of `size` bytes, terminator included, in a provider: the bytes are counted there, in
+/// the system's code page, and Str() gives UTF-8.
 class TBoundedText {
  public:
   explicit TBoundedText(std::size_t size) : size_(size) {}
@@ -14,10 +15,10 @@ class TBoundedText {
   const std::string& Str() const { return text_; }
   /// Takes what fits with its terminator, cut at a character border; a NUL inside `text` ends it.
   void Set(std::string_view text);
-  /// Takes what a provider left in the buffer: up to the first NUL, or all `size` bytes when it wrote no terminator.  The
-  /// bytes are the provider's, Str() gives them as UTF-8.
-  /// False when the text was longer and has been cut.
-  bool TakeBack(std::string_view text);
+  /// Takes all of it, up to a NUL.
+  void SetUncut(std::string_view text);
+  /// Whether a buffer holds all of it.  Text that the code page lacks does, too: it is refused for that.
+  bool Fits() const;
 
  private:
   std::size_t size_;

@@ -1,6 +1,7 @@
 #include "provider/ProviderBorder.h"
 
 #include <algorithm>
+#include <ctime>
 #include <utility>
 
 #include "host/Errors.h"
@@ -28,17 +29,24 @@ constexpr TTextKind kTextKinds[] = {
 
 }  // namespace
 
-void TBoundedText::Set(std::string_view text) { text_ = CutAtCharacter(UpToNul(text), size_ - 1); }
+void TBoundedText::SetUncut(std::string_view text) { text_ = UpToNul(text); }
 
-bool TBoundedText::TakeBack(std::string_view text) {
-  const std::string_view whole = UpToNul(text);
-  text_ = FromSystemText(whole.substr(0, size_));
-  return whole.size() <= size_;
+void TBoundedText::Set(std::string_view text) {
+  SetUncut(text);
+  if (!Fits()) text_ = FromSystemName(CutSystemText(*ToSystemText(text_), size_ - 1)).value();
+}
+
+bool TBoundedText::Fits() const {
+  const auto bytes = ToSystemText(text_);
+  return !bytes || bytes->size() < size_;
 }
 
 IProviderSink* SetProviderSink(IProviderSink* newSink) { return std::exchange(sink, newSink); }
 
 IProviderSink* ProviderSink() { return sink; }
+
+TFloatingPointKeeper::TFloatingPointKeeper() noexcept { std::fegetenv(&environment_); }
+TFloatingPointKeeper::~TFloatingPointKeeper() { std::fesetenv(&environment_); }
 
 TCallMark::TCallMark() noexcept { ++callDepth; }
 TCallMark::~TCallMark() { --callDepth; }
@@ -68,8 +76,9 @@ scc::Long SCC_CALL TextOutProc(const char* text, scc::Dword kind) noexcept {
 }
 
 TScratchText::TScratchText(const char* entry, std::string_view text)
-    : entry_(entry), bytes_(kRoom + kGuard, '\0') {
-  std::ranges::copy(ForProvider(UpToNul(text).substr(0, kRoom - 1)), bytes_.begin());
+    : entry_(entry), given_(ForProvider(UpToNul(text))), bytes_(kRoom + kGuard, '\0') {
+  given_ = CutSystemText(given_, kRoom - 1);
+  std::ranges::copy(given_, bytes_.begin());
   // The last byte stays a terminator: who reads on after filling the room stops there.
   std::fill(bytes_.begin() + kRoom, bytes_.end() - 1, kGuardByte);
 }
@@ -82,15 +91,49 @@ TScratchText::~TScratchText() {
 std::string_view TScratchText::Text() const { return UpToNul({bytes_.data(), kRoom}); }
 
 void TScratchText::MoveTo(TBoundedText& field) const {
-  if (field.TakeBack(Text())) return;
+  const auto whole = Text();
+  if (whole == given_) return;
+  // A provider may leave out the terminator, so all bytes of a field count.
+  const auto fitting = CutSystemText(whole, field.Size());
+  const auto name = FromSystemName(fitting);
+  if (!name) throw EAbort(Format(sNotFromCodePage.str(), {providerName, FromSystemText(fitting), entry_}));
+  field.SetUncut(*name);
+  if (fitting.size() == whole.size()) return;
   WriteProviderLine(IProviderSink::Kind::Warning,
                     Format(sTextCut.str(), {providerName, entry_, static_cast<long long>(field.Size())}));
 }
+
+TComment::TComment(std::string_view typed) : text_(ForProvider(typed)) { Cut(); }
+
+TComment::TComment(std::string_view typed, const TResString& otherwise)
+    : text_(!typed.empty()
+                ? ForProvider(typed)
+                : ToReadableSystemText(Format(otherwise.str(), {DateTimeToStr(std::time(nullptr))}))) {
+  Cut();
+}
+
+void TComment::Cut() { text_.resize(CutSystemText(text_, kMaxComment).size()); }
 
 std::string ForProvider(std::string_view text) {
   auto converted = ToSystemText(text);
   if (!converted) throw EAbort(Format(sNotInCodePage.str(), {std::string(text)}));
   return *std::move(converted);
+}
+
+const TBoundedText& RequireFits(const TBoundedText& path) {
+  if (!path.Fits())
+    throw EAbort(Format(sPathTooLong.str(), {path.Str(), static_cast<long long>(path.Size() - 1)}));
+  return path;
+}
+
+std::optional<std::string> TakeFileName(const char* name) {
+  if (name == nullptr) return std::nullopt;
+  auto taken = FromSystemName(name);
+  if (!taken)
+    WriteProviderLine(
+        IProviderSink::Kind::Warning,
+        Format(sNotFromCodePage.str(), {providerName, FromSystemText(name), "SccPopulateList"}));
+  return taken;
 }
 
 TFileArray::TFileArray(const TStringList& files) {

@@ -2,6 +2,7 @@
 // the provider does with it stays in that copy.
 #pragma once
 
+#include <cfenv>
 #include <cstddef>
 #include <exception>
 #include <string>
@@ -44,11 +45,13 @@ class TScratchText {
   char* Data() { return bytes_.data(); }
   /// What stands there now, up to the terminator or the end of the room.
   std::string_view Text() const;
-  /// Moves it into the field; warns when it was longer than the field.
+  /// Moves it into the field, unless the provider left it as it was; warns when it was longer than the field.  Throws
+  /// EAbort when it cannot be given back as it came (see FromSystemName).
   void MoveTo(TBoundedText& field) const;
 
  private:
   const char* entry_;
+  std::string given_;
   std::vector<char> bytes_;
 };
 
@@ -73,13 +76,22 @@ class TFileArray {
   std::vector<const char*> names_;
 };
 
+/// The path; throws EAbort, naming it, when it is too long for a provider: cut it would be another folder's.
+const TBoundedText& RequireFits(const TBoundedText& path);
+
 /// A comment as it may reach a provider: at most kMaxComment bytes, cut at a character border.
 class TComment {
  public:
-  explicit TComment(std::string_view text) : text_(ForProvider(CutAtCharacter(text, kMaxComment))) {}
+  /// Throws EAbort as ForProvider does: what the user typed is not changed.
+  explicit TComment(std::string_view typed);
+  /// The date, put into `otherwise`, when nothing was typed.  In its words the active code page may lack characters: the
+  /// user's locale need not be the system's.
+  TComment(std::string_view typed, const TResString& otherwise);
   const char* Data() const { return text_.c_str(); }
 
  private:
+  void Cut();
+
   std::string text_;
 };
 
@@ -96,6 +108,19 @@ std::string CurrentFault();
 void RequireFiles(const TStringList& files, const TResString& message);
 /// Throws EAbort when one request cannot carry that many.
 void RequireAtMostMaxFiles(const TStringList& files);
+
+/// Puts back how the thread computes.  Run-time libraries of other languages change the precision or let divisions by
+/// zero fault, some as soon as they are loaded, and the rest of the program is not made for that.
+class TFloatingPointKeeper {
+ public:
+  TFloatingPointKeeper() noexcept;
+  ~TFloatingPointKeeper();
+  TFloatingPointKeeper(const TFloatingPointKeeper&) = delete;
+  TFloatingPointKeeper& operator=(const TFloatingPointKeeper&) = delete;
+
+ private:
+  std::fenv_t environment_;
+};
 
 /// Marks that a provider function is on the call stack; see ProviderCallInProgress().
 class TCallMark {
@@ -115,6 +140,7 @@ template <class... Parameters, class... Arguments>
 scc::Long Invoke(scc::Long(SCC_CALL* entry)(Parameters...), Arguments... arguments) {
   if (scc::hSosScc == nullptr || entry == nullptr) return scc::SCC_E_OPNOTSUPPORTED;
   const TCallMark mark;
+  const TFloatingPointKeeper floatingPoint;
   scc::Long result = scc::SCC_E_NONSPECIFICERROR;
   const auto fault = RunGuarded([&] { result = entry(arguments...); });
   if (!fault.empty()) ThrowFault(reinterpret_cast<scc::TEntry>(entry), fault);

@@ -1,6 +1,5 @@
 // The file half of a session: status and the file commands.
 #include <algorithm>
-#include <ctime>
 
 #include "host/Errors.h"
 #include "provider/ProviderBorder.h"
@@ -12,11 +11,6 @@ namespace {
 
 constexpr std::size_t kGuardWords = 256;
 constexpr Long kGuardWord = 0x5A5A5A5A;
-
-/// The comment that takes the place of an empty one.
-std::string Dated(const TResString& format) {
-  return Format(format.str(), {DateTimeToStr(std::time(nullptr))});
-}
 
 }  // namespace
 
@@ -47,7 +41,7 @@ bool TSCCProviderProject::CheckOutFile(const TStringList& files, const std::stri
                                        TStateMessages& messages) {
   RequireFiles(files, sCheckOutListEmpty);
   const Long code = AttemptWith(messages, [&] {
-    const TComment text(comment.empty() ? Dated(sCheckOutComment) : comment);
+    const TComment text(comment, sCheckOutComment);
     TFileArray names(files);
     return Invoke(SccCheckOut, context_, Window(), names.Count(), names.Data(), text.Data(), 0, Options());
   });
@@ -72,7 +66,7 @@ bool TSCCProviderProject::CheckInFile(const TStringList& files, const std::strin
                                       bool keepCheckedOut, TStateMessages& messages) {
   RequireFiles(files, sCheckInListEmpty);
   const Long code = AttemptWith(messages, [&] {
-    const TComment text(comment.empty() ? Dated(sCheckInComment) : comment);
+    const TComment text(comment, sCheckInComment);
     TFileArray names(files);
     const Long flags = keepCheckedOut ? SCC_KEEP_CHECKEDOUT : 0;
     return Invoke(SccCheckin, context_, Window(), names.Count(), names.Data(), text.Data(), flags, Options());
@@ -83,7 +77,7 @@ bool TSCCProviderProject::CheckInFile(const TStringList& files, const std::strin
 bool TSCCProviderProject::RemoveFile(const TStringList& files, TStateMessages& messages) {
   RequireFiles(files, sRemoveListEmpty);
   const Long code = AttemptWith(messages, [&] {
-    const TComment text(Dated(sRemoveComment));
+    const TComment text({}, sRemoveComment);
     TFileArray names(files);
     return Invoke(SccRemove, context_, Window(), names.Count(), names.Data(), text.Data(), 0, Options());
   });

@@ -108,8 +108,8 @@ void TSCCProviderList::Initialize(const std::string& providerPath) {
     const Long code =
         Invoke(SccInitialize, &context_, ToWindow(window_), caller.Data(), name.Data(), &capabilities.Value,
                auxLabel.Data(), &checkOutCommentLength.Value, &commentLength.Value);
-    TBoundedText given(kNameSize);
-    if (given.TakeBack(name.Text()); !Trim(given.Str()).empty()) SetProviderName(given.Str());
+    const auto given = FromSystemText(CutSystemText(name.Text(), kNameSize));
+    if (!Trim(given).empty()) SetProviderName(given);
     return code;
   });
   // A failure ends nothing and is not shown: the calls that follow fail with codes of their own, and those are.

@@ -1,6 +1,4 @@
 // The project half of a session: identity, choosing, opening and closing.
-#include <ctime>
-
 #include "provider/ProviderBorder.h"
 #include "provider/ProviderStrings.h"
 
@@ -9,7 +7,7 @@ using namespace scc;
 TSCCProviderProject::TSCCProviderProject(const std::string& localPath, TWindowHandle window,
                                          const std::string& userName)
     : window_(window) {
-  localPath_.Set(localPath);
+  localPath_.SetUncut(localPath);
   userName_.Set(userName);
 }
 
@@ -22,7 +20,7 @@ void TSCCProviderProject::set_ProjName(const std::string& value) { projName_.Set
 std::string TSCCProviderProject::get_ProjPath() const { return projPath_.Str(); }
 void TSCCProviderProject::set_ProjPath(const std::string& value) { projPath_.Set(value); }
 std::string TSCCProviderProject::get_LocalPath() const { return localPath_.Str(); }
-void TSCCProviderProject::set_LocalPath(const std::string& value) { localPath_.Set(value); }
+void TSCCProviderProject::set_LocalPath(const std::string& value) { localPath_.SetUncut(value); }
 std::string TSCCProviderProject::get_UserName() const { return userName_.Str(); }
 void TSCCProviderProject::set_UserName(const std::string& value) { userName_.Set(value); }
 
@@ -31,7 +29,7 @@ Long TSCCProviderProject::GetProjectPath(TStateMessages& messages, bool mayCreat
   TOutWord isNew{toBool(mayCreate)};
   const Long code = AttemptWith(messages, [&] {
     constexpr const char* entry = "SccGetProjPath";
-    TScratchText user(entry, userName_), name(entry, projName_), local(entry, localPath_),
+    TScratchText user(entry, userName_), name(entry, projName_), local(entry, RequireFits(localPath_)),
         aux(entry, projPath_);
     const Long result = Invoke(SccGetProjPath, context_, Window(), user.Data(), name.Data(), local.Data(),
                                aux.Data(), toBool(mayChangePath), &isNew.Value);
@@ -49,15 +47,15 @@ Long TSCCProviderProject::OpenProject(TStateMessages& messages) { return OpenAt(
 
 Long TSCCProviderProject::OpenProject(TStateMessages& messages, const std::string& localPath) {
   TBoundedText path(localPath_.Size());
-  path.Set(localPath);
+  path.SetUncut(localPath);
   return OpenAt(messages, path);
 }
 
 Long TSCCProviderProject::OpenAt(TStateMessages& messages, const TBoundedText& localPath) {
   const auto open = [&] {
     constexpr const char* entry = "SccOpenProject";
-    const TComment comment(Format(sProjectComment.str(), {DateTimeToStr(std::time(nullptr))}));
-    TScratchText user(entry, userName_), name(entry, projName_), local(entry, localPath),
+    const TComment comment({}, sProjectComment);
+    TScratchText user(entry, userName_), name(entry, projName_), local(entry, RequireFits(localPath)),
         aux(entry, projPath_);
     const Long result = Invoke(SccOpenProject, context_, Window(), user.Data(), name.Data(), local.Data(),
                                aux.Data(), comment.Data(), &TextOutProc, SCC_OP_CREATEIFNEW);

@@ -31,6 +31,7 @@ void Bind(Function*& variable, const char* name) {
 }  // namespace
 
 bool LoadSCCDLL(const std::string& path) {
+  const TFloatingPointKeeper floatingPoint;
   std::string reason;
   if (hSosScc == nullptr) hSosScc = LoadModule(path, &reason);
   if (hSosScc == nullptr) {
@@ -44,6 +45,7 @@ bool LoadSCCDLL(const std::string& path) {
 }
 
 void UnloadSCCDLL() {
+  const TFloatingPointKeeper floatingPoint;
   FreeModule(hSosScc);
   hSosScc = nullptr;
 }

@@ -1,14 +1,15 @@
 // Providers, their sessions and their answers, as the rest of the add-in sees them.
 //
 // Everything behind these classes is somebody else's code loaded into the IDE, so this is the border: texts cross it in
-// guarded copies, a missing entry point answers -14 (operation not supported), and a C++ exception of the provider
-// becomes an error text.  All calls are synchronous and made on the user-interface thread.
+// guarded copies, a missing entry point answers -14 (operation not supported), and an exception or, on Windows,
+// a crash of the provider becomes an error text.  All calls are synchronous and made on the user-interface thread.
 #pragma once
 
 #include <array>
 #include <bitset>
 #include <cstddef>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -102,6 +103,10 @@ IProviderSink* SetProviderSink(IProviderSink* sink);
 /// The callback handed to providers.  Tolerates null texts, late calls and any kind; always returns 0.
 scc::Long SCC_CALL TextOutProc(const char* text, scc::Dword kind) noexcept;
 
+/// A file name that a provider gave a list callback.  Nothing for a null pointer, and, with a warning in the sink, for a
+/// name that could not be passed back to it (see FromSystemName).
+std::optional<std::string> TakeFileName(const char* name);
+
 /// Whether a provider function is on the call stack.  A provider may pump messages in its dialogs; whoever is called
 /// then must not close a project or unload the library.
 bool ProviderCallInProgress();
@@ -132,8 +137,9 @@ class TSCCProviderProject {
   TSCCProviderProject(const TSCCProviderProject&) = delete;
   TSCCProviderProject& operator=(const TSCCProviderProject&) = delete;
 
-  // Identity texts.  Each is a buffer of the size in brackets (bytes); a setter copies what fits, a getter returns the
-  // text up to its terminator.  The provider may rewrite them in GetProjectPath and OpenProject.
+  // Identity texts.  Each is a buffer of the size in brackets (bytes as the provider reads them); a setter copies what
+  // fits, a getter returns the text up to its terminator.  The provider may rewrite them in GetProjectPath and
+  // OpenProject.  Only a local path is never cut: too long, it makes those two fail.
   std::string get_ProjName() const;  // [261]
   void set_ProjName(const std::string& value);
   std::string get_ProjPath() const;  // [301] the auxiliary project path

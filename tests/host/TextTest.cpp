@@ -57,3 +57,42 @@ TEST(Text, CutsAtCharacters) {
     EXPECT_EQ(CutAtCharacter(text, bytes), text.substr(0, kept[bytes])) << bytes;
   EXPECT_EQ(CutAtCharacter("a" + std::string(9, '\x80'), 5).size(), 5u) << "no characters, no borders";
 }
+
+TEST(Text, RepairsWhatIsNoUtf8AndNothingElse) {
+  const auto mark = [](std::string_view bytes) { return "<" + std::to_string(bytes.size()) + ">"; };
+  const struct {
+    const char *text, *repaired;
+  } rows[] = {
+      {"", ""},
+      {"aé€😀\u0080\uD7FF\uE000\U0010FFFF", "aé€😀\u0080\uD7FF\uE000\U0010FFFF"},
+      {"ge\xE4ndert: Größe", "ge<1>ndert: Größe"},
+      {"\xFF\xFE", "<2>"},
+      {"a\xC3", "a<1>"},  // ends too early
+      {"\xE2\x82"
+       "a",
+       "<2>a"},
+      {"\xF0\x9F\x98", "<3>"},
+      {"\x80"
+       "é",
+       "<1>é"},                     // begins too late
+      {"\xC0\xAF\xC1\xBF", "<4>"},  // a longer spelling
+      {"\xE0\x9F\xBF", "<3>"},
+      {"\xF0\x8F\xBF\xBF", "<4>"},
+      {"\xED\xA0\x80", "<3>"},      // half of a pair
+      {"\xF4\x90\x80\x80", "<4>"},  // behind the last character
+      {"\xF5\x80\x80\x80", "<4>"},
+  };
+  for (const auto& row : rows) EXPECT_EQ(RepairUtf8(row.text, mark), row.repaired) << row.text;
+}
+
+TEST(Text, OfANameNoByteIsLost) {
+  for (const char* name : {"/p/Größe",
+                           "/p/Gr\xF6\xDF"
+                           "e",
+                           "\x81\xFF"}) {
+    EXPECT_EQ(FromSystemName(name), name);
+    EXPECT_EQ(ToSystemText(name), name);
+  }
+  EXPECT_EQ(CutSystemText("aé€", 3), "aé");
+  EXPECT_EQ(CutSystemText("aé€", 2), "a");
+}

@@ -1,4 +1,6 @@
 // What a provider may do wrong, and what is left of it on this side.
+#include <cfenv>
+
 #include "host/Paths.h"
 #include "provider/Fixture.h"
 
@@ -199,6 +201,34 @@ TEST_F(Border, ACallInProgressIsKnownUntilItEndsHoweverItEnds) {
   provider->Faults.ThrowInt = {"SccGet"};
   session().GetFile(kFiles, messages);
   EXPECT_FALSE(ProviderCallInProgress());
+}
+
+TEST_F(Border, HowTheThreadComputesStaysAsItWas) {
+  for (const bool fails : {false, true}) {
+    provider->OnCall["SccGet"] = [](const ScriptedCall&) { std::fesetround(FE_UPWARD); };
+    if (fails) provider->Faults.ThrowInt = {"SccGet"};
+    session().GetFile(kFiles, messages);
+    EXPECT_EQ(std::fegetround(), FE_TONEAREST);
+  }
+  list.reset();
+  scc::LoadSCCDLL(PARTIAL_LIBRARY_PATH);  // which changes it when it is loaded
+  EXPECT_EQ(std::fegetround(), FE_TONEAREST);
+  scc::UnloadSCCDLL();
+}
+
+TEST_F(Border, TextsThatAreNoUtf8AreShownAndNamesGoBackAsTheyCame) {
+  const std::string given =
+      "$/Gr\xF6\xDF"
+      "e";
+  provider->OpenProject.ProjName = given;
+  provider->Texts["SccOpenProject"] = {{scc::SCC_MSG_WARNING, given}};
+  session().OpenProject(messages);
+  EXPECT_THAT(sink.Of(Kind::Warning), ElementsAre("$/Größe"));
+  provider->OpenProject.ProjName = {};
+  session().OpenProject(messages);
+  EXPECT_EQ(provider->Last("SccOpenProject").ProjName, given);
+  EXPECT_EQ(TakeFileName(given.c_str()), given);
+  EXPECT_EQ(TakeFileName(nullptr), std::nullopt);
 }
 
 TEST_F(Border, ArbitraryCodesComeBackAsTheyAre) {

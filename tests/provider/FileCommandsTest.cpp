@@ -20,8 +20,8 @@ TEST_F(FileCommands, EachPassesItsArguments) {
     scc::Long Flags;
   } const rows[] = {
       {"SccCheckout", [&] { return session().CheckOutFile(kFiles, "why", messages); }, "why", 0},
-      {"SccCheckout", [&] { return session().CheckOutFile(kFiles, "", messages); },
-       "CheckOut File: .+:.+:.+", 0},
+      {"SccCheckout", [&] { return session().CheckOutFile(kFiles, "", messages); }, "CheckOut File: .+:.+:.+",
+       0},
       {"SccCheckin", [&] { return session().CheckInFile(kFiles, "why", false, messages); }, "why", 0},
       {"SccCheckin", [&] { return session().CheckInFile(kFiles, "", true, messages); },
        "CheckIn File: .+:.+:.+", 0x1000},

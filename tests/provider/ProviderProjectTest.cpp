@@ -103,8 +103,20 @@ TEST_F(ProviderProject, IdentityTextsAreCutAtTheirBuffers) {
   EXPECT_EQ(session().get_ProjName().size(), 260u);
   session().set_UserName(std::string("ann\0bob", 7));
   EXPECT_EQ(session().get_UserName(), "ann");
-  session().set_LocalPath(std::string(400, 'x'));
-  session().OpenProject(messages, std::string(400, 'y'));
+}
+
+TEST_F(ProviderProject, ALocalPathIsRefusedRatherThanCut) {
+  const std::string tooLong(261, 'x');
+  EXPECT_EQ(session().OpenProject(messages, tooLong), 0);
+  EXPECT_EQ(messages[2],
+            "\"" + tooLong +
+                "\" is too long for the source code control provider: a path may have 260 bytes at most");
+  session().set_LocalPath(tooLong);
+  EXPECT_EQ(session().get_LocalPath(), tooLong) << "it is still the session of that path";
+  EXPECT_EQ(session().GetProjectPath(messages, true, true), -15);
+  EXPECT_THAT(messages[2], StartsWith("\"" + tooLong));
+  EXPECT_THAT(provider->Calls, IsEmpty());
+  EXPECT_EQ(session().OpenProject(messages, std::string(260, 'y')), 0);
   EXPECT_EQ(provider->Last("SccOpenProject").LocalPath, std::string(260, 'y'));
 }
 

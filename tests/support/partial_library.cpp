@@ -1,4 +1,6 @@
-// A provider that lacks most entry points, gives no name and writes behind its name buffer.
+// A provider that lacks most entry points, gives no name, writes behind its name buffer and computes in a way of its own.
+#include <cfenv>
+
 #include "provider/sccdefs.h"
 
 using namespace scc;
@@ -10,6 +12,8 @@ SCC_EXPORT Long SCC_CALL SccInitialize(void** context, WindowHandle window, cons
 SCC_EXPORT Long SCC_CALL SccGet(void* context, WindowHandle window, Long count, const char** names,
                                 Long flags, void* options);
 }
+
+[[maybe_unused]] static const int rounding = std::fesetround(FE_UPWARD);
 
 Long SCC_CALL SccInitialize(void** context, WindowHandle, const char*, char* sccName, Long* capabilities,
                             char*, Long*, Long*) {

@@ -48,6 +48,24 @@ std::size_t AppendFolded(std::string& folded, std::string_view text) {
   return used;
 }
 
+// Code page 1252 is ISO 8859-1 but for these; five of them have no character and stay control characters.
+constexpr std::array<wchar_t, 32> k1252From80 = {
+    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+
+std::string FromPage1252(std::string_view bytes) {
+  std::string text;
+  for (const char c : bytes) {
+    const auto byte = static_cast<unsigned char>(c);
+    const auto code = byte >= 0x80 && byte < 0xA0 ? k1252From80[byte - 0x80u] : static_cast<wchar_t>(byte);
+    if (code >= 0x800) text += static_cast<char>(0xE0 | code >> 12);
+    text += static_cast<char>(code >= 0x800 ? 0x80 | (code >> 6 & 0x3F) : 0xC0 | code >> 6);
+    text += static_cast<char>(0x80 | (code & 0x3F));
+  }
+  return text;
+}
+
 }  // namespace
 
 std::string FoldCase(std::string_view text) {
@@ -75,4 +93,12 @@ std::string DateTimeToStr(std::time_t when) {
 
 std::optional<std::string> ToSystemText(std::string_view text) { return std::string(text); }
 
-std::string FromSystemText(std::string_view text) { return std::string(text); }
+std::string ToReadableSystemText(std::string_view text) { return std::string(text); }
+
+std::string FromSystemText(std::string_view text) { return RepairUtf8(text, FromPage1252); }
+
+std::optional<std::string> FromSystemName(std::string_view name) { return std::string(name); }
+
+std::string_view CutSystemText(std::string_view text, std::size_t bytes) {
+  return CutAtCharacter(text, bytes);
+}

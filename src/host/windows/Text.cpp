@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "host/windows/Api.h"
 #include "host/windows/Wide.h"
@@ -17,13 +18,47 @@ std::string FoldAsciiLetters(std::string_view text) {
   return folded;
 }
 
-/// Empty when a byte of `text` is no part of a character in that code page.
-std::wstring Decode(UINT codePage, std::string_view text) {
+/// With MB_ERR_INVALID_CHARS empty when a byte of `text` is no part of a character in that code page; otherwise such a
+/// byte becomes the replacement character.
+std::wstring Decode(UINT codePage, DWORD flags, std::string_view text) {
   std::wstring wide(text.size(), L'\0');
-  wide.resize(static_cast<std::size_t>(MultiByteToWideChar(codePage, MB_ERR_INVALID_CHARS, text.data(),
+  wide.resize(static_cast<std::size_t>(MultiByteToWideChar(codePage, flags, text.data(),
                                                            static_cast<int>(text.size()), wide.data(),
                                                            static_cast<int>(wide.size()))));
   return wide;
+}
+
+std::wstring DecodeUtf8(std::string_view text) { return Decode(CP_UTF8, MB_ERR_INVALID_CHARS, text); }
+
+/// `text` in the active code page; `lost` tells whether that lacks a character of it.
+std::string Encode(DWORD flags, std::wstring_view text, bool& lost) {
+  BOOL replaced = FALSE;
+  std::string narrow(text.size() * 4, '\0');
+  narrow.resize(static_cast<std::size_t>(
+      WideCharToMultiByte(CP_ACP, flags, text.data(), static_cast<int>(text.size()), narrow.data(),
+                          static_cast<int>(narrow.size()), nullptr, &replaced)));
+  lost = replaced;
+  return narrow;
+}
+
+/// Text that needs no conversion, whatever it holds.
+bool IsSystemText(std::string_view text) {
+  return GetACP() == CP_UTF8 || std::all_of(text.begin(), text.end(), IsAscii);
+}
+
+/// The code page of the system's locale, which a manifest that asks for UTF-8 does not change.
+UINT LocalePage() {
+  DWORD page = 0;
+  GetLocaleInfoW(LOCALE_SYSTEM_DEFAULT, LOCALE_IDEFAULTANSICODEPAGE | LOCALE_RETURN_NUMBER,
+                 reinterpret_cast<wchar_t*>(&page), sizeof page / sizeof(wchar_t));
+  return page == CP_ACP || page == CP_UTF8 ? 1252 : page;
+}
+
+std::string FromLocalePage(std::string_view text) { return FromWide(Decode(LocalePage(), 0, text)); }
+
+bool HasWideCharacters(UINT codePage) {
+  CPINFO info{};
+  return GetCPInfo(codePage, &info) && info.MaxCharSize > 1;
 }
 
 SYSTEMTIME LocalTime(std::time_t when) {
@@ -42,7 +77,7 @@ SYSTEMTIME LocalTime(std::time_t when) {
 
 std::string FoldCase(std::string_view text) {
   if (std::all_of(text.begin(), text.end(), IsAscii)) return FoldAsciiLetters(text);
-  auto wide = Decode(CP_UTF8, text);
+  auto wide = DecodeUtf8(text);
   if (wide.empty()) return FoldAsciiLetters(text);
   const auto size = static_cast<int>(wide.size());
   LCMapStringEx(LOCALE_NAME_INVARIANT, LCMAP_LOWERCASE, wide.data(), size, wide.data(), size, nullptr,
@@ -60,20 +95,42 @@ std::string DateTimeToStr(std::time_t when) {
 }
 
 std::optional<std::string> ToSystemText(std::string_view text) {
-  if (GetACP() == CP_UTF8 || std::all_of(text.begin(), text.end(), IsAscii)) return std::string(text);
-  const auto wide = Decode(CP_UTF8, text);
+  if (IsSystemText(text)) return std::string(text);
+  const auto wide = DecodeUtf8(text);
   if (wide.empty()) return std::nullopt;
-  const auto units = static_cast<int>(wide.size());
-  BOOL lost = FALSE;
-  std::string narrow(wide.size() * 4, '\0');
+  bool lost = false;
   // No "best fit": a name that only looks alike is another file.
-  narrow.resize(static_cast<std::size_t>(WideCharToMultiByte(CP_ACP, WC_NO_BEST_FIT_CHARS, wide.data(), units,
-                                                             narrow.data(), static_cast<int>(narrow.size()),
-                                                             nullptr, &lost)));
-  return lost ? std::nullopt : std::optional(narrow);
+  auto narrow = Encode(WC_NO_BEST_FIT_CHARS, wide, lost);
+  return lost ? std::nullopt : std::optional(std::move(narrow));
+}
+
+std::string ToReadableSystemText(std::string_view text) {
+  if (IsSystemText(text)) return std::string(text);
+  bool lost = false;
+  return Encode(0, ToWide(text), lost);
 }
 
 std::string FromSystemText(std::string_view text) {
-  if (GetACP() == CP_UTF8 || std::all_of(text.begin(), text.end(), IsAscii)) return std::string(text);
-  return FromWide(Decode(CP_ACP, text));
+  if (std::all_of(text.begin(), text.end(), IsAscii)) return std::string(text);
+  if (GetACP() != CP_UTF8) return FromWide(Decode(CP_ACP, 0, text));
+  // Where the second byte of a character may be an ASCII one no part can be taken for itself.
+  if (HasWideCharacters(LocalePage()) && DecodeUtf8(text).empty()) return FromLocalePage(text);
+  return RepairUtf8(text, FromLocalePage);
+}
+
+std::optional<std::string> FromSystemName(std::string_view name) {
+  if (IsSystemText(name)) return std::string(name);
+  auto text = FromSystemText(name);
+  return ToSystemText(text) == name ? std::optional(std::move(text)) : std::nullopt;
+}
+
+std::string_view CutSystemText(std::string_view text, std::size_t bytes) {
+  if (text.size() <= bytes) return text;
+  if (GetACP() == CP_UTF8) return CutAtCharacter(text, bytes);
+  std::size_t end = 0;
+  for (std::size_t next = 0; next <= bytes;) {
+    end = next;
+    next += IsDBCSLeadByte(static_cast<BYTE>(text[next])) ? 2u : 1u;
+  }
+  return text.substr(0, end);
 }

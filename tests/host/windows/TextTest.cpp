@@ -1,4 +1,10 @@
 #include <gtest/gtest.h>
+#include <windows.h>
+
+#include <array>
+#include <map>
+#include <string>
+#include <utility>
 
 #include "host/Text.h"
 
@@ -11,4 +17,19 @@ TEST(Text, ShowsMomentsAsTheUserHasThem) {
   const auto text = DateTimeToStr(1'000'000'000);
   EXPECT_NE(text.find("2001"), text.npos) << text;
   EXPECT_NE(text.find(":46:40"), text.npos) << text;
+}
+
+TEST(Text, ReadsWhatIsNoUtf8AsThePageOfTheSystemsLocale) {
+  // One line for each page that the tests run in.
+  const std::map<std::wstring, std::pair<const char*, const char*>> rows = {
+      {L"1252", {"f\xFCr 5 \x80: \x84Größe\x93", "für 5 €: „Größe“"}},
+      {L"932", {"\x95\x5C\x8E\xA6 a.pas", "表示 a.pas"}},
+  };
+  std::array<wchar_t, 8> page{};
+  GetLocaleInfoW(LOCALE_SYSTEM_DEFAULT, LOCALE_IDEFAULTANSICODEPAGE, page.data(),
+                 static_cast<int>(page.size()));
+  const auto row = rows.find(page.data());
+  if (row == rows.end()) GTEST_SKIP() << "no line for the page of the system's locale";
+  EXPECT_EQ(FromSystemText(row->second.first), row->second.second);
+  EXPECT_EQ(FromSystemText("名前"), "名前");
 }
