@@ -71,6 +71,14 @@ void ChangeImage(TItem& item, const wxBitmapBundle& image) {
     item.SetupBitmaps(item.GetMenu()->GetWindow());
 }
 
+/// Gives an item its first picture.  On Windows the toolkit draws the item, as the theme has it: Wine's own menus show the
+/// transparent parts of a picture black.
+template <class TItem>
+void ShowImage(TItem& item, const wxBitmapBundle& image) {
+  if constexpr (requires { item.SetOwnerDrawn(); }) item.SetOwnerDrawn();
+  if (image.IsOk()) item.SetBitmap(image);
+}
+
 /// The visible items below `items`, depth first: what a filled menu shows.
 void CollectRows(const std::vector<TMenuItem*>& items, std::vector<const TMenuItem*>& rows) {
   for (const TMenuItem* item : VisibleRows(items)) {
@@ -123,7 +131,7 @@ void TMenuBridge::AppendItem(TTopMenu& top, wxMenu& menu, const TMenuItem& item)
   auto* shown = new wxMenuItem(&menu, wxID_ANY, wxString::FromUTF8(item.ShownCaption()), "", wxITEM_NORMAL,
                                submenu.get());
   const bool enabled = item.IsEnabled();
-  if (const auto image = ImageOf(ImageIndexOf(item), enabled); image.IsOk()) shown->SetBitmap(image);
+  ShowImage(*shown, ImageOf(ImageIndexOf(item), enabled));
   menu.Append(shown);
   shown->Enable(enabled);
   top.Rows.push_back({&item, ImageIndexOf(item), shown, enabled});
@@ -159,7 +167,7 @@ void TMenuBridge::AppendFileMenus(wxMenu& menu, const std::string& fileName) con
         continue;
       }
       auto* shown = new wxMenuItem(submenu, wxID_ANY, wxString::FromUTF8(item.Caption));
-      if (const auto image = ImageOf(item.ImageIndex, enabled); image.IsOk()) shown->SetBitmap(image);
+      ShowImage(*shown, ImageOf(item.ImageIndex, enabled));
       submenu->Append(shown)->Enable(enabled);
       submenu->Bind(
           wxEVT_MENU,
