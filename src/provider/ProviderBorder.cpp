@@ -77,7 +77,7 @@ scc::Long SCC_CALL TextOutProc(const char* text, scc::Dword kind) noexcept {
 
 TScratchText::TScratchText(const char* entry, std::string_view text)
     : entry_(entry), given_(ForProvider(UpToNul(text))), bytes_(kRoom + kGuard, '\0') {
-  given_ = CutSystemText(given_, kRoom - 1);
+  given_.resize(CutSystemText(given_, kRoom - 1).size());
   std::ranges::copy(given_, bytes_.begin());
   // The last byte stays a terminator: who reads on after filling the room stops there.
   std::fill(bytes_.begin() + kRoom, bytes_.end() - 1, kGuardByte);
@@ -167,7 +167,8 @@ std::string CurrentFault() {
   try {
     throw;
   } catch (const std::exception& error) {
-    if (error.what() != nullptr && *error.what() != '\0') return error.what();
+    // Its own words are the system's text, those of this side are UTF-8.
+    if (error.what() != nullptr && *error.what() != '\0') return RepairUtf8(error.what(), FromSystemText);
   } catch (...) {
   }
   return sUnknownFault;

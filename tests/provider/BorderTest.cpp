@@ -228,6 +228,10 @@ TEST_F(Border, TextsThatAreNoUtf8AreShownAndNamesGoBackAsTheyCame) {
   session().OpenProject(messages);
   EXPECT_EQ(provider->Last("SccOpenProject").ProjName, given);
   EXPECT_EQ(TakeFileName(given.c_str()), given);
+
+  provider->OnCall["SccGet"] = [](const ScriptedCall&) { throw std::runtime_error("f\xFCr Ann"); };
+  session().GetFile(kFiles, messages);
+  EXPECT_EQ(messages[2], "für Ann");
   EXPECT_EQ(TakeFileName(nullptr), std::nullopt);
 }
 
