@@ -22,7 +22,9 @@ constexpr int kFilePagesHeight = 132;
 constexpr int kGridHeight = 60;
 
 wxPanel* AddPage(wxNotebook* book, const TResString& caption) {
-  auto* page = new wxPanel(book);
+  // Painted whole, or on Windows a box that a maximised window moves far stays blank.
+  auto* page = new wxPanel(book, wxID_ANY, wxDefaultPosition, wxDefaultSize,
+                           wxTAB_TRAVERSAL | wxFULL_REPAINT_ON_RESIZE);
   book->AddPage(page, wxStripMenuCodes(ToWx(caption)));
   return page;
 }
@@ -82,7 +84,8 @@ void TCommitBrowser::CreateFilePages() {
   TMemoWorkspaceSource = new wxTextCtrl(TTabSheetWorkspaceSource, wxID_ANY, {}, wxDefaultPosition,
                                         wxDefaultSize, wxTE_MULTILINE | wxTE_READONLY | wxTE_DONTWRAP);
   TMemoWorkspaceSource->SetFont(wxFont(wxFontInfo(GetFont().GetPointSize()).Family(wxFONTFAMILY_TELETYPE)));
-  source_status_ = new wxStatusBar(TTabSheetWorkspaceSource, wxID_ANY, 0);
+  source_status_ =
+      new wxStatusBar(TTabSheetWorkspaceSource, wxID_ANY, wxSTB_ELLIPSIZE_MIDDLE | wxSTB_SHOW_TIPS);
   auto* source = new wxBoxSizer(wxVERTICAL);
   source->Add(TMemoWorkspaceSource, wxSizerFlags(1).Expand());
   source->Add(source_status_, wxSizerFlags().Expand());

@@ -86,6 +86,7 @@ class TOptionsDialog final : public wxDialog {
     SetMinSize(GetBestSize());
     CentreOnParent();
     list_->SetSelection(0);
+    list_->SetFocus();
     list_->Bind(wxEVT_LISTBOX, [this](wxCommandEvent& event) {
       book_->SetSelection(static_cast<std::size_t>(event.GetInt()));
     });
