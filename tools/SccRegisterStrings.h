@@ -10,9 +10,9 @@ constexpr TResString sUsage{
 constexpr TResString sHelp{
     "Installs, removes and lists the source control providers of this machine.\n"
     "\n"
-    "  add      installs the provider library PATH (absolute) under NAME, or changes the path of one that "
-    "is\n"
-    "           installed.  The first provider becomes the default one.\n"
+    "  add      installs the provider library PATH (absolute) under NAME, or changes\n"
+    "           the path of one that is installed.  The first provider becomes the\n"
+    "           default one.\n"
     "             --default  make it the default one in any case\n"
     "             --force    do not look whether PATH is a provider library\n"
     "  remove   takes a provider out of the registry; its library stays\n"
@@ -21,9 +21,9 @@ constexpr TResString sHelp{
     "  --       ends the options, for names that begin with '-'\n"
     "\n"
     "Exit status: 0 done, 1 failed, 2 wrong usage.\n"
-    "On Linux the current user's registry is changed; to change it for all users, run as an administrator "
-    "with\n"
-    "CORVANE_REGISTRY_DIR=/etc/corvane.\n"};
+    "On Windows changes need a command prompt opened as administrator.  On Linux the\n"
+    "current user's registry is changed; to change it for all users, run as an\n"
+    "administrator with CORVANE_REGISTRY_DIR=/etc/corvane.\n"};
 
 constexpr TResString sMessage{"scc-register: %s\n"};
 constexpr TResString sUnknownOption{"There is no option %s."};

@@ -202,6 +202,7 @@ void Run(const TCommandLine& line) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  PrepareConsole();
   try {
     Run(Parse(CommandLineArguments(argc, argv)));
     return 0;

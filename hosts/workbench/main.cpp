@@ -1,6 +1,7 @@
 // workbench: a small IDE that loads run-time packages.
 #include <cstdio>
 #include <exception>
+#include <string>
 
 #include "host/System.h"
 #include "workbench/macro/MacroParser.h"
@@ -13,21 +14,28 @@ namespace {
 
 /// Prints what the user only wanted to know; whether there was something.
 bool PrintInformation(const TCommandLine& line) {
+  if (!line.Help && !line.Version && !line.MacroHelp) return false;
+  PrepareConsole();
   if (line.Help) std::printf("%s", sUsage.Text);
   if (line.Version) std::printf("workbench %s\n", kWorkbenchVersion);
   if (line.MacroHelp)
     for (const auto& row : MacroVerbs()) std::printf("%-22s %s\n", row.Name.data(), row.Help.data());
-  return line.Help || line.Version || line.MacroHelp;
+  return true;
+}
+
+/// What it returns is the program's exit code.
+int Fail(int code, const std::string& text) {
+  PrepareConsole();
+  std::fputs(text.c_str(), stderr);
+  return code;
 }
 
 int RunProgram(const TCommandLine& line, char* program) {
+  if (!line.Macro.empty()) PrepareConsole();  // what it did is printed
   wxApp::SetInstance(new TWorkbenchApp(line));
   int count = 1;  // the toolkit has no options of its own here
   char* arguments[] = {program, nullptr};
-  if (!wxEntryStart(count, arguments)) {
-    std::fprintf(stderr, "%s\n", sNoDisplay.Text);
-    return kExitNoDisplay;
-  }
+  if (!wxEntryStart(count, arguments)) return Fail(kExitNoDisplay, sNoDisplay.str() + "\n");
   int code = kExitFailed;
   if (wxTheApp->CallOnInit()) {
     code = wxTheApp->OnRun();
@@ -44,14 +52,12 @@ int main(int argc, char** argv) {
   try {
     line = TCommandLine::Parse(CommandLineArguments(argc, argv));
   } catch (const std::exception& e) {
-    std::fprintf(stderr, "workbench: %s\n%s", e.what(), sUsage.Text);
-    return kExitUsage;
+    return Fail(kExitUsage, std::string("workbench: ") + e.what() + "\n" + sUsage.Text);
   }
   if (PrintInformation(line)) return 0;
   try {
     return RunProgram(line, argv[0]);
   } catch (const std::exception& e) {
-    std::fprintf(stderr, "workbench: %s\n", e.what());
-    return kExitFailed;
+    return Fail(kExitFailed, std::string("workbench: ") + e.what() + "\n");
   }
 }

@@ -10,6 +10,12 @@
 /// What the user typed behind the program's name; `argc` and `argv` are those of main().
 std::vector<std::string> CommandLineArguments(int argc, char** argv);
 
+/// To be called before anything is printed: the console that the program was started from shows UTF-8 until the
+/// program ends, and is there for a program with windows, too.  Such a program ends with the console from then on, so it
+/// calls this only when it prints.  What goes to the console is seen when it is flushed, at the latest at the program's end;
+/// output to a file or a pipe stays as it is.  Main thread.
+void PrepareConsole();
+
 /// The logged-on user's name.  Empty when it does not fit `bufferSize` characters, terminator included.
 std::string GetUserNameText(std::size_t bufferSize);
 /// The process's current directory.  Empty when it does not fit `bufferSize` characters, terminator included.

@@ -1,0 +1,162 @@
+// Drives the real program: on POSIX with a registry of its own, on Windows with the machine's.
+#include <gmock/gmock.h>
+
+#include <filesystem>
+#include <sstream>
+
+#include "host/FileName.h"
+#include "host/Paths.h"
+#include "host/Registry.h"
+#include "provider/sccapiintf.h"
+#include "support/Environment.h"
+#include "support/RunProgram.h"
+#include "support/TemporaryFolder.h"
+
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::StartsWith;
+using testing::UnorderedElementsAre;
+
+namespace {
+
+using TWords = std::vector<std::string>;
+
+class SccRegister : public testing::Test {
+ protected:
+  void SetUp() override {
+    if (Read(kProviderKey, kProviderRegKey) != kNoKey || Read(kInstalledProvidersKey, "") != kNoKey)
+      GTEST_SKIP() << "this machine has providers, which must not be touched";
+  }
+  void TearDown() override {
+    if (IsSkipped()) return;
+    for (const auto& key :
+         {std::string(kProviderKey), std::string("Software\\Tiny"), std::string("Software\\Größe = 2"),
+          std::string("Software\\Third"), std::string("Software\\Vendor")})
+      TRegistry().DeleteKey(key);
+  }
+
+  static TProgramResult Run(const TWords& arguments) {
+    auto result = RunProgram(SCC_REGISTER, arguments);
+    std::erase(result.Output, '\r');
+    return result;
+  }
+  static void Do(const TWords& arguments) {
+    const auto result = Run(arguments);
+    EXPECT_EQ(result.Status, 0) << testing::PrintToString(arguments) << ": " << result.Errors;
+    EXPECT_THAT(result.Errors, IsEmpty());
+  }
+  /// The lines of `list`; registries have orders of their own.
+  static TWords List() {
+    std::istringstream output(Run({"list"}).Output);
+    TWords lines;
+    for (std::string line; std::getline(output, line);) lines.push_back(line);
+    return lines;
+  }
+  static std::string Read(const std::string& key, const std::string& name) {
+    TRegistry registry;
+    return registry.OpenKeyReadOnly(key) ? registry.ReadString(name) : kNoKey;
+  }
+  static void Write(const std::string& key, const std::string& name, const std::string& value) {
+    TRegistry registry;
+    registry.OpenKey(key);
+    registry.WriteString(name, value);
+  }
+  static std::string Default() { return Read(kProviderKey, kProviderRegKey); }
+
+  static constexpr const char* kNoKey = "no such key";
+  const TTemporaryFolder folder_;
+  const std::string missing_ = folder_ / "no such/library.so";
+  const TEnvironmentVariable variable_{"CORVANE_REGISTRY_DIR", folder_.Path().c_str()};
+};
+
+const std::string kTiny = TINY_PROVIDER;
+
+}  // namespace
+
+TEST_F(SccRegister, InstallsListsChoosesAndRemovesProviders) {
+  EXPECT_THAT(Run({"list"}).Output, HasSubstr("No source control providers"));
+
+  Do({"add", "Tiny", kTiny});
+  EXPECT_EQ(Read(kInstalledProvidersKey, "Tiny"), "Software\\Tiny\\SCC");
+  EXPECT_EQ(Read("Software\\Tiny\\SCC", kServerName), "Tiny");
+  EXPECT_EQ(Read("Software\\Tiny\\SCC", kServerPath), kTiny);
+  EXPECT_EQ(Default(), "Software\\Tiny\\SCC") << "the first one is the default";
+
+  const auto other = folder_.MakeFolder("Größe 名前") + std::string(1, PathDelim) + ExtractFileName(kTiny);
+  std::filesystem::copy(ToFilePath(kTiny), ToFilePath(other));
+  Do({"add", "Größe = 2", other});
+  EXPECT_EQ(Default(), "Software\\Tiny\\SCC");
+  Do({"--default", "add", "Third", missing_, "--force"});
+  EXPECT_EQ(Default(), "Software\\Third\\SCC");
+  EXPECT_THAT(List(), UnorderedElementsAre("  Tiny  " + kTiny, "  Größe = 2  " + other,
+                                           "* Third  " + missing_ + " (not found)"));
+
+  Do({"default", "GRÖßE = 2"});
+  Do({"remove", "Third"});
+  EXPECT_EQ(Default(), "Software\\Größe = 2\\SCC") << "another one's removal leaves the default";
+  EXPECT_THAT(Run({"remove", "Größe = 2"}).Output, HasSubstr("no default provider"));
+  EXPECT_EQ(Default(), "");
+  EXPECT_THAT(List(), UnorderedElementsAre("  Tiny  " + kTiny));
+  EXPECT_EQ(Read("Software\\Third\\SCC", kServerName), "no such key");
+}
+
+TEST_F(SccRegister, ChangesThePathOfAnInstalledProvider) {
+  Do({"add", "Tiny", missing_, "--force"});
+  Do({"add", "TINY", kTiny});
+  EXPECT_THAT(List(), UnorderedElementsAre("* Tiny  " + kTiny));
+}
+
+TEST_F(SccRegister, LeavesWhatOthersInstalled) {
+  Write(kInstalledProvidersKey, "Vendor SCC", "Software\\Vendor");
+  Write("Software\\Vendor", kServerName, "Vendor SCC");
+  Write("Software\\Vendor", kServerPath, missing_);
+  Write("Software\\Vendor", "Licence", "1234");
+  Write("Software\\Tiny", "Version", "1");
+  Do({"add", "Tiny", kTiny});
+  Do({"add", "Vendor SCC", kTiny});
+  EXPECT_EQ(Read("Software\\Vendor", kServerPath), kTiny) << "its own key stays its key";
+  Do({"remove", "Tiny"});
+  Do({"remove", "Vendor SCC"});
+  EXPECT_EQ(Read("Software\\Vendor", "Licence"), "1234");
+  EXPECT_EQ(Read("Software\\Vendor", kServerPath), "");
+  EXPECT_EQ(Read("Software\\Tiny", "Version"), "1");
+}
+
+TEST_F(SccRegister, ExplainsWhatItCannotDo) {
+  const auto text = folder_.Write("text.so", "not a library");
+  const struct {
+    TWords arguments;
+    int status;
+    std::string words;
+  } rows[] = {
+      {{"add", "Tiny", "relative.so"}, 1, "relative.so is not an absolute path."},
+      {{"add", "Tiny", "C:relative.so"}, 1, "C:relative.so is not an absolute path."},
+      {{"add", "Tiny", "\\relative.so"}, 1, "\\relative.so is not an absolute path."},
+      {{"add", "Tiny", "relative.so", "--force"}, 1, "relative.so is not an absolute path."},
+      {{"add", "Tiny", missing_}, 1, missing_ + " does not exist."},
+      {{"add", "Tiny", folder_.Path()}, 1, " does not exist."},
+      {{"add", "Tiny", text}, 1, "cannot be loaded: "},
+      {{"add", "Tiny", CORVANE_LIBRARY}, 1, "does not export SccInitialize."},
+      {{"add", "", kTiny}, 1, "cannot be the name"},
+      {{"add", " Tiny", kTiny}, 1, "cannot be the name"},
+      {{"add", "A\\B", kTiny}, 1, "cannot be the name"},
+      {{"remove", "Tiny"}, 1, "under the name \"Tiny\"."},
+      {{"default", "Größe 名前"}, 1, "under the name \"Größe 名前\"."},
+      {{}, 2, "Usage: "},
+      {{"frobnicate"}, 2, "no command frobnicate"},
+      {{"--frobnicate"}, 2, "no option --frobnicate"},
+      {{"add", "Tiny"}, 2, "Wrong number of arguments for add."},
+      {{"list", "all"}, 2, "Wrong number of arguments for list."},
+      {{"remove", "Tiny", "--force"}, 2, "remove has no option --force."},
+      {{"add", "--", "--default"}, 2, "Wrong number of arguments for add."},
+  };
+  for (const auto& row : rows) {
+    SCOPED_TRACE(testing::PrintToString(row.arguments));
+    const auto result = Run(row.arguments);
+    EXPECT_EQ(result.Status, row.status);
+    EXPECT_THAT(result.Errors, HasSubstr(row.words));
+    EXPECT_THAT(result.Output, IsEmpty());
+  }
+  EXPECT_EQ(Default(), kNoKey) << "nothing was written";
+  EXPECT_THAT(Run({"--help"}).Output, StartsWith("Usage: "));
+}
