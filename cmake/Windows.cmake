@@ -26,6 +26,7 @@ foreach(name IN ITEMS libstdc++-6 libgcc_s_seh-1 libgcc_s_dw2-1 libwinpthread-1)
   endif()
 endforeach()
 file(GLOB toolkit_libraries ${KESTREL_WINDOWS_LIBRARIES}/lib/*/wx*.dll)
+list(FILTER toolkit_libraries EXCLUDE REGEX "_(adv|net)_")  # nobody needs them
 list(APPEND runtime_libraries ${toolkit_libraries})
 file(COPY ${runtime_libraries} DESTINATION ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
 install(FILES ${runtime_libraries} DESTINATION .)
