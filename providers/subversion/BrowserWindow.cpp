@@ -13,7 +13,7 @@
 #include "TextWindow.h"
 #include "WindowStrings.h"
 #include "Windows.h"
-#include "ui/WxText.h"
+#include "host/WxText.h"
 
 namespace svnscc {
 namespace {

@@ -1,6 +1,6 @@
 #include "DiffPane.h"
 
-#include "ui/WxText.h"
+#include "host/WxText.h"
 
 namespace svnscc {
 namespace {

@@ -8,7 +8,7 @@
 #include "WindowStrings.h"
 #include "Windows.h"
 #include "host/System.h"
-#include "ui/WxText.h"
+#include "host/WxText.h"
 
 namespace svnscc {
 namespace {

@@ -2,7 +2,7 @@
 #include "WindowStrings.h"
 #include "WindowTools.h"
 #include "Windows.h"
-#include "ui/WxText.h"
+#include "host/WxText.h"
 
 namespace svnscc {
 namespace {

@@ -1,7 +1,7 @@
 #include "TextWindow.h"
 
 #include "WindowStrings.h"
-#include "ui/WxText.h"
+#include "host/WxText.h"
 
 namespace svnscc {
 namespace {

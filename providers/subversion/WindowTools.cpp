@@ -5,8 +5,8 @@
 
 #include "SvnHandles.h"
 #include "WindowStrings.h"
+#include "host/WxText.h"
 #include "ui/WindowSize.h"
-#include "ui/WxText.h"
 
 namespace svnscc {
 

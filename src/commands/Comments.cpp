@@ -3,8 +3,8 @@
 #include <wx/wx.h>
 
 #include "commands/CommentsStrings.h"
+#include "host/WxText.h"
 #include "ui/ButtonStrings.h"
-#include "ui/WxText.h"
 
 TCommentsForm* CommentsForm = nullptr;
 

@@ -7,10 +7,10 @@
 #include "commands/Comments.h"
 #include "commands/GetFileList.h"
 #include "expert/SccSystem.h"
+#include "host/WxText.h"
 #include "ui/MsgDialog.h"
 #include "ui/MsgDialogStrings.h"
 #include "ui/MsgWin.h"
-#include "ui/WxText.h"
 
 namespace {
 

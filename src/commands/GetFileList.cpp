@@ -9,9 +9,9 @@
 #include "commands/GetFileListStrings.h"
 #include "expert/SccExpert.h"
 #include "expert/SccSystem.h"
+#include "host/WxText.h"
 #include "ui/ButtonStrings.h"
 #include "ui/WindowSize.h"
-#include "ui/WxText.h"
 
 TGetFileListForm* GetFileListForm = nullptr;
 

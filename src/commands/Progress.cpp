@@ -6,7 +6,7 @@
 
 #include "commands/ProgressStrings.h"
 #include "host/Paths.h"
-#include "ui/WxText.h"
+#include "host/WxText.h"
 
 using namespace std::chrono_literals;
 

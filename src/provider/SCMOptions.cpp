@@ -7,6 +7,7 @@
 #include <wx/textctrl.h>
 
 #include "host/Registry.h"
+#include "host/WxText.h"
 #include "provider/SCMAddInOptions.h"
 #include "provider/SCMOptionsStrings.h"
 #include "provider/sccapiintf.h"
@@ -21,8 +22,6 @@ constexpr int kProviderWidth = 345;
 constexpr int kUserNameWidth = 177;
 constexpr int kGap = 100;  // between the two groups
 
-wxString Text(const std::string& text) { return wxString::FromUTF8(text); }
-
 }  // namespace
 
 TSCMOptionsPage::TSCMOptionsPage(wxWindow* parent, IOTAOptionsPageHost& host, TChosen chosen)
@@ -36,12 +35,12 @@ TSCMOptionsPage::TSCMOptionsPage(wxWindow* parent, IOTAOptionsPageHost& host, TC
 void TSCMOptionsPage::Arrange() {
   auto* column = new wxBoxSizer(wxVERTICAL);
   const auto indented = wxSizerFlags().Border(wxLEFT, FromDIP(kIndent));
-  column->Add(new wxStaticText(this, wxID_ANY, Text(sSCMProvidersLabel)));
+  column->Add(new wxStaticText(this, wxID_ANY, ToWx(sSCMProvidersLabel)));
   TPropComboBoxSCMProvider =
       new wxChoice(this, wxID_ANY, wxDefaultPosition, FromDIP(wxSize(kProviderWidth, -1)));
   column->Add(TPropComboBoxSCMProvider, indented);
   column->AddSpacer(FromDIP(kGap));
-  column->Add(new wxStaticText(this, wxID_ANY, Text(sSCMUserNameLabel)));
+  column->Add(new wxStaticText(this, wxID_ANY, ToWx(sSCMUserNameLabel)));
   TPropEditSCMUserName =
       new wxTextCtrl(this, wxID_ANY, "", wxDefaultPosition, FromDIP(wxSize(kUserNameWidth, -1)));
   column->Add(TPropEditSCMUserName, indented);
@@ -54,17 +53,17 @@ void TSCMOptionsPage::Arrange() {
 void TSCMOptionsPage::ReadProviders() {
   TRegistry registry;
   if (!registry.OpenKeyReadOnly(kInstalledProvidersKey)) return;
-  for (const auto& name : registry.GetValueNames()) TPropComboBoxSCMProvider->Append(Text(name));
+  for (const auto& name : registry.GetValueNames()) TPropComboBoxSCMProvider->Append(ToWx(name));
 }
 
 void TSCMOptionsPage::PropertySheetCreate(IOTAOptionsPageHost& host) {
-  const auto setting = Text(host.GetValue(kSCMProviderField));
+  const auto setting = ToWx(host.GetValue(kSCMProviderField));
   ReadProviders();
   host.Bind(TPropEditSCMUserName, kSCMUserNameField);
   const auto count = TPropComboBoxSCMProvider->GetCount();
   if (count == 0) {
     // Not bound to the field: the notice is no provider's name, and the user's choice may come back.
-    TPropComboBoxSCMProvider->SetSelection(TPropComboBoxSCMProvider->Append(Text(sNoProvidersAvailable)));
+    TPropComboBoxSCMProvider->SetSelection(TPropComboBoxSCMProvider->Append(ToWx(sNoProvidersAvailable)));
     return;
   }
   TPropComboBoxSCMProvider->SetSelection(0);
@@ -79,6 +78,6 @@ void TSCMOptionsPage::TPropComboBoxSCMProviderChange(wxCommandEvent&) try {
   chosen_(TPropComboBoxSCMProvider->GetStringSelection().utf8_string(),
           TPropEditSCMUserName->GetValue().utf8_string());
 } catch (const std::exception& error) {
-  wxMessageBox(Text(Format(sProviderCreateError, {error.what()})), Text(sSCMOptionsPage), wxOK | wxICON_ERROR,
+  wxMessageBox(ToWx(Format(sProviderCreateError, {error.what()})), ToWx(sSCMOptionsPage), wxOK | wxICON_ERROR,
                this);
 }

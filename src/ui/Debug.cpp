@@ -3,9 +3,9 @@
 #include <wx/wupdlock.h>
 #include <wx/wx.h>
 
+#include "host/WxText.h"
 #include "ui/ButtonStrings.h"
 #include "ui/DebugStrings.h"
-#include "ui/WxText.h"
 
 TDebugForm* DebugForm = nullptr;
 

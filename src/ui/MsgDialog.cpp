@@ -8,10 +8,10 @@
 #include <array>
 
 #include "host/System.h"
+#include "host/WxText.h"
 #include "ui/ButtonStrings.h"
 #include "ui/Icons.h"
 #include "ui/MsgDialogStrings.h"
-#include "ui/WxText.h"
 
 TMsgDialogForm* MsgDialogForm = nullptr;
 

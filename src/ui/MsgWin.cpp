@@ -7,10 +7,10 @@
 #include <ctime>
 #include <utility>
 
+#include "host/WxText.h"
 #include "ui/Icons.h"
 #include "ui/MsgWinStrings.h"
 #include "ui/WindowSize.h"
-#include "ui/WxText.h"
 
 TMsgWinForm* MsgWinForm = nullptr;
 

@@ -17,7 +17,7 @@
 #include "host/FileName.h"
 #include "host/Paths.h"
 #include "host/System.h"
-#include "ui/WxText.h"
+#include "host/WxText.h"
 #include "wizards/CommitBrowserStrings.h"
 #include "wizards/CommitGrid.h"
 #include "wizards/CommitPass.h"

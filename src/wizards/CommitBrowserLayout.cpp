@@ -5,9 +5,9 @@
 #include <wx/wx.h>
 
 #include "commands/CommentsStrings.h"
+#include "host/WxText.h"
 #include "ui/MenuImages.h"
 #include "ui/WindowSize.h"
-#include "ui/WxText.h"
 #include "wizards/CommitBrowser.h"
 #include "wizards/CommitBrowserStrings.h"
 #include "wizards/CommitGrid.h"

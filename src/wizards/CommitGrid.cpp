@@ -6,7 +6,7 @@
 #include <array>
 
 #include "host/Paths.h"
-#include "ui/WxText.h"
+#include "host/WxText.h"
 #include "wizards/CommitBrowserStrings.h"
 
 namespace {

@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-#include "ui/WxText.h"
+#include "host/WxText.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 
 #include <wx/wx.h>
 
-#include "ui/WxText.h"
+#include "host/WxText.h"
 #include "wizards/PlaceProjectWizardStrings.h"
 
 namespace {

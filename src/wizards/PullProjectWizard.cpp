@@ -5,7 +5,7 @@
 
 #include "host/Paths.h"
 #include "host/System.h"
-#include "ui/WxText.h"
+#include "host/WxText.h"
 #include "wizards/PullProjectWizardStrings.h"
 
 namespace {

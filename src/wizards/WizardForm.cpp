@@ -4,7 +4,7 @@
 #include <wx/statline.h>
 #include <wx/wx.h>
 
-#include "ui/WxText.h"
+#include "host/WxText.h"
 #include "wizards/WizardFormStrings.h"
 #include "wizards/WizardPagesStrings.h"
 

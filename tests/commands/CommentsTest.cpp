@@ -1,8 +1,8 @@
 #include <gmock/gmock.h>
 
 #include "commands/Comments.h"
+#include "host/WxText.h"
 #include "support/ModalScript.h"
-#include "ui/WxText.h"
 
 using testing::ElementsAre;
 

@@ -2,10 +2,10 @@
 
 #include "commands/Comments.h"
 #include "commands/ExpertFormsWx.h"
+#include "host/WxText.h"
 #include "support/ModalScript.h"
 #include "ui/MsgDialog.h"
 #include "ui/MsgWin.h"
-#include "ui/WxText.h"
 
 namespace {
 

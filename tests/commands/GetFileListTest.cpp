@@ -3,6 +3,7 @@
 #include "commands/GetFileList.h"
 #include "expert/SccExpert.h"
 #include "host/Registry.h"
+#include "host/WxText.h"
 #include "provider/SCMAddInOptions.h"
 #include "support/ModalScript.h"
 #include "support/NativePath.h"
@@ -10,7 +11,6 @@
 #include "support/ScriptedHost.h"
 #include "support/ScriptedProvider.h"
 #include "support/TestRegistry.h"
-#include "ui/WxText.h"
 
 using testing::ElementsAre;
 

@@ -3,9 +3,9 @@
 #include <wx/evtloop.h>
 
 #include "commands/Progress.h"
+#include "host/WxText.h"
 #include "support/ModalScript.h"
 #include "ui/MsgDialog.h"
-#include "ui/WxText.h"
 
 using testing::ElementsAre;
 using testing::IsEmpty;

@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
+#include "host/WxText.h"
 #include "support/ModalScript.h"
 #include "ui/MsgDialog.h"
-#include "ui/WxText.h"
 
 namespace {
 

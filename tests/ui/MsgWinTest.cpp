@@ -1,9 +1,9 @@
 #include <gmock/gmock.h>
 #include <wx/clipbrd.h>
 
+#include "host/WxText.h"
 #include "support/ModalScript.h"
 #include "ui/MsgWin.h"
-#include "ui/WxText.h"
 
 using testing::HasSubstr;
 using testing::MatchesRegex;

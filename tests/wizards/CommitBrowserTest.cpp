@@ -2,8 +2,8 @@
 #include <wx/notebook.h>
 
 #include "expert/ExpertFixture.h"
+#include "host/WxText.h"
 #include "support/ModalScript.h"
-#include "ui/WxText.h"
 #include "wizards/CommitBrowser.h"
 #include "wizards/CommitGrid.h"
 

@@ -4,8 +4,8 @@
 #include <filesystem>
 
 #include "expert/ExpertFixture.h"
+#include "host/WxText.h"
 #include "support/ModalScript.h"
-#include "ui/WxText.h"
 #include "wizards/PlaceProjectWizard.h"
 #include "wizards/PullProjectWizard.h"
 

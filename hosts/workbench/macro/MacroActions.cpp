@@ -4,6 +4,7 @@
 #include <stdexcept>
 
 #include "host/System.h"
+#include "host/WxText.h"
 #include "workbench/macro/MacroControls.h"
 #include "workbench/macro/MacroMenus.h"
 #include "workbench/macro/MacroPlayer.h"
@@ -14,8 +15,6 @@
 #include "workbench/windows/ModalStack.h"
 
 namespace {
-
-wxString Text(const std::string& text) { return wxString::FromUTF8(text); }
 
 void Require(bool done, const TResString& text, const std::string& what = {}) {
   if (!done) throw std::runtime_error(Format(text, {what}));
@@ -83,7 +82,7 @@ std::string TMacroPlayer::DoRefocus(const TArguments&) {
 std::string TMacroPlayer::DoMenu(const TArguments& arguments) {
   if (const wxDialog* dialog = TModalStack::Top())
     return Format(sDialogOpen, {dialog->GetTitle().utf8_string()});
-  const wxMenuItem* item = OpenMenuItem(frame_, Text(arguments[0]));
+  const wxMenuItem* item = OpenMenuItem(frame_, ToWx(arguments[0]));
   if (!item) return Format(sNoMenu, {arguments[0]});
   if (!item->IsEnabled()) return Format(sControlDisabled, {arguments[0]});
   ClickMenuItem(frame_, *item);
@@ -95,7 +94,7 @@ std::string TMacroPlayer::DoFileMenu(const TArguments& arguments) {
     return Format(sDialogOpen, {dialog->GetTitle().utf8_string()});
   wxMenu menu;
   frame_.PackageMenus().AppendFileMenus(menu, FullPath(arguments[0]));
-  const wxMenuItem* item = FindMenuItem(menu, Text(arguments[1]));
+  const wxMenuItem* item = FindMenuItem(menu, ToWx(arguments[1]));
   if (!item) return Format(sNoMenu, {arguments[1]});
   if (!item->IsEnabled()) return Format(sControlDisabled, {arguments[1]});
   item->GetMenu()->SendEvent(item->GetId());
@@ -103,30 +102,30 @@ std::string TMacroPlayer::DoFileMenu(const TArguments& arguments) {
 }
 
 std::string TMacroPlayer::DoPress(const TArguments& arguments) {
-  return PressButton(Front(), Text(arguments[0]));
+  return PressButton(Front(), ToWx(arguments[0]));
 }
 std::string TMacroPlayer::DoTick(const TArguments& arguments) {
-  return TickBox(Front(), Text(arguments[0]), true);
+  return TickBox(Front(), ToWx(arguments[0]), true);
 }
 std::string TMacroPlayer::DoUntick(const TArguments& arguments) {
-  return TickBox(Front(), Text(arguments[0]), false);
+  return TickBox(Front(), ToWx(arguments[0]), false);
 }
 std::string TMacroPlayer::DoSelect(const TArguments& arguments) {
-  return SelectRow(Front(), Text(arguments[0]));
+  return SelectRow(Front(), ToWx(arguments[0]));
 }
 std::string TMacroPlayer::DoPage(const TArguments& arguments) {
-  return TurnToPage(Front(), Text(arguments[0]));
+  return TurnToPage(Front(), ToWx(arguments[0]));
 }
-std::string TMacroPlayer::DoKey(const TArguments& arguments) { return PressKey(Front(), Text(arguments[0])); }
+std::string TMacroPlayer::DoKey(const TArguments& arguments) { return PressKey(Front(), ToWx(arguments[0])); }
 
 std::string TMacroPlayer::DoCell(const TArguments& arguments) {
-  return EditCell(Front(), Text(arguments[0]), Text(arguments[1]), Text(arguments[2]));
+  return EditCell(Front(), ToWx(arguments[0]), ToWx(arguments[1]), ToWx(arguments[2]));
 }
 
 std::string TMacroPlayer::DoType(const TArguments& arguments) {
-  return TypeText(Front(), Text(arguments[0]), Text(arguments[1]));
+  return TypeText(Front(), ToWx(arguments[0]), ToWx(arguments[1]));
 }
 
 std::string TMacroPlayer::DoChoose(const TArguments& arguments) {
-  return ChooseItem(Front(), Text(arguments[0]), Text(arguments[1]));
+  return ChooseItem(Front(), ToWx(arguments[0]), ToWx(arguments[1]));
 }

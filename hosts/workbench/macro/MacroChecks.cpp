@@ -8,6 +8,7 @@
 #include <stdexcept>
 
 #include "host/System.h"
+#include "host/WxText.h"
 #include "workbench/macro/MacroControls.h"
 #include "workbench/macro/MacroMenus.h"
 #include "workbench/macro/MacroPlayer.h"
@@ -19,10 +20,8 @@
 
 namespace {
 
-wxString Text(const std::string& text) { return wxString::FromUTF8(text); }
-
 bool IsShownSomewhere(const std::string& text) {
-  const wxString wanted = Text(text);
+  const wxString wanted = ToWx(text);
   for (wxTopLevelWindow* window : ShownWindows()) {
     const auto shows = [&](wxWindow& control) {
       wxString shown = TextOf(control);
@@ -48,7 +47,7 @@ bool VisitLogs(const std::function<bool(wxListCtrl&)>& visit) {
 }
 
 bool IsInMessages(const std::string& text) {
-  const wxString wanted = Text(text);
+  const wxString wanted = ToWx(text);
   return VisitLogs([&](wxListCtrl& list) { return TextOf(list).Contains(wanted); });
 }
 
@@ -66,7 +65,7 @@ std::pair<std::string, int> RunInShell(const std::string& command) {
 
 /// Empty when the box is there in that state.
 std::string CheckTick(wxWindow& window, const std::string& text, bool ticked) {
-  const auto state = IsTicked(window, Text(text));
+  const auto state = IsTicked(window, ToWx(text));
   if (!state) return Format(sNoControl, {window.GetLabel().utf8_string(), sKindBox, text});
   if (*state == ticked) return {};
   return Format(ticked ? sIsNotTicked : sIsTicked, {text});
@@ -90,13 +89,13 @@ std::string CheckItem(const wxMenuItem* item, const std::string& path, bool enab
 }
 
 std::string CheckMenu(TMainFrame& frame, const std::string& path, bool enabled) {
-  return CheckItem(OpenMenuItem(frame, Text(path)), path, enabled);
+  return CheckItem(OpenMenuItem(frame, ToWx(path)), path, enabled);
 }
 
 std::string CheckFileMenu(TMainFrame& frame, const std::string& file, const std::string& path, bool enabled) {
   wxMenu menu;
   frame.PackageMenus().AppendFileMenus(menu, FullPath(file));
-  return CheckItem(FindMenuItem(menu, Text(path)), path, enabled);
+  return CheckItem(FindMenuItem(menu, ToWx(path)), path, enabled);
 }
 
 }  // namespace
@@ -104,11 +103,11 @@ std::string CheckFileMenu(TMainFrame& frame, const std::string& file, const std:
 std::string TMacroPlayer::DoExpect(const TArguments& arguments) {
   const wxDialog* front = TModalStack::Top();
   for (wxTopLevelWindow* window : ShownWindows())
-    if (window->GetTitle() == Text(arguments[0]) && (!front || front == window)) {
+    if (window->GetTitle() == ToWx(arguments[0]) && (!front || front == window)) {
       expected_ = window;
       return {};
     }
-  return front && front->GetTitle() != Text(arguments[0])
+  return front && front->GetTitle() != ToWx(arguments[0])
              ? Format(sDialogOpen, {front->GetTitle().utf8_string()})
              : Format(sNoWindow, {arguments[0]});
 }
@@ -156,7 +155,7 @@ std::string TMacroPlayer::DoExpectDisabled(const TArguments& arguments) {
 }
 
 std::string TMacroPlayer::DoExpectHidden(const TArguments& arguments) {
-  return OpenMenuItem(frame_, Text(arguments[0])) ? Format(sMenuVisible, {arguments[0]}) : std::string();
+  return OpenMenuItem(frame_, ToWx(arguments[0])) ? Format(sMenuVisible, {arguments[0]}) : std::string();
 }
 
 std::string TMacroPlayer::DoExpectFileEnabled(const TArguments& arguments) {
@@ -199,9 +198,9 @@ std::string TMacroPlayer::DoExpectWritable(const TArguments& arguments) {
 }
 
 std::string TMacroPlayer::DoExpectButton(const TArguments& arguments) {
-  return HasButton(Front(), Text(arguments[0])) ? std::string() : Format(sControlDisabled, {arguments[0]});
+  return HasButton(Front(), ToWx(arguments[0])) ? std::string() : Format(sControlDisabled, {arguments[0]});
 }
 
 std::string TMacroPlayer::DoExpectNoButton(const TArguments& arguments) {
-  return HasButton(Front(), Text(arguments[0])) ? Format(sHasButton, {arguments[0]}) : std::string();
+  return HasButton(Front(), ToWx(arguments[0])) ? Format(sHasButton, {arguments[0]}) : std::string();
 }

@@ -8,20 +8,19 @@
 #include <wx/textctrl.h>
 
 #include "host/Text.h"
+#include "host/WxText.h"
 #include "workbench/windows/FrameStrings.h"
 #include "workbench/windows/MenuBridge.h"
 
 namespace {
 
-wxString Text(const std::string& text) { return wxString::FromUTF8(text); }
-
 class TCommandsDialog final : public wxDialog {
  public:
   TCommandsDialog(wxWindow* parent, const TMenuBridge& menus)
-      : wxDialog(parent, wxID_ANY, Text(sCommandsTitle), wxDefaultPosition, wxDefaultSize,
+      : wxDialog(parent, wxID_ANY, ToWx(sCommandsTitle), wxDefaultPosition, wxDefaultSize,
                  wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER),
         menus_(menus) {
-    auto* label = new wxStaticText(this, wxID_ANY, Text(sCommandsFilter));
+    auto* label = new wxStaticText(this, wxID_ANY, ToWx(sCommandsFilter));
     filter_ = new wxTextCtrl(this, wxID_ANY);
     list_ = new wxListView(this, wxID_ANY, wxDefaultPosition, FromDIP(wxSize(420, 260)),
                            wxLC_REPORT | wxLC_NO_HEADER | wxLC_SINGLE_SEL);
@@ -34,7 +33,7 @@ class TCommandsDialog final : public wxDialog {
     SetSizerAndFit(sizer);
     SetMinSize(GetSize());
     CentreOnParent();
-    FindWindow(wxID_OK)->SetLabel(Text(sCommandsRun));
+    FindWindow(wxID_OK)->SetLabel(ToWx(sCommandsRun));
     filter_->Bind(wxEVT_TEXT, [this](wxCommandEvent&) { ShowMatches(); });
     filter_->Bind(wxEVT_CHAR_HOOK, &TCommandsDialog::OnFilterKey, this);
     list_->Bind(wxEVT_LIST_ITEM_SELECTED, [this](wxListEvent&) { ShowSelected(); });
@@ -54,9 +53,9 @@ class TCommandsDialog final : public wxDialog {
   static bool Enabled(const TAction* action) { return action && action->Enabled && action->OnExecute; }
 
   static wxString RowText(const TAction& action) {
-    const wxString caption = wxControl::RemoveMnemonics(Text(action.Caption));
+    const wxString caption = wxControl::RemoveMnemonics(ToWx(action.Caption));
     return action.Category.empty() ? caption
-                                   : Text(Format(sCommandRow, {action.Category, caption.utf8_string()}));
+                                   : ToWx(Format(sCommandRow, {action.Category, caption.utf8_string()}));
   }
 
   void ShowMatches() {

@@ -4,6 +4,7 @@
 
 #include "host/Paths.h"
 #include "host/Text.h"
+#include "host/WxText.h"
 #include "workbench/windows/FrameStrings.h"
 #include "workbench/windows/Icons.h"
 #include "workbench/windows/PascalStyle.h"
@@ -68,7 +69,7 @@ TEditorPage* TEditorBook::FindPage(const TTextEditor& editor) const {
 
 void TEditorBook::AddEditor(TTextEditor& editor) {
   auto* page = new TEditorPage(this, *owner_, editor, fontSize_);
-  AddPage(page, wxString::FromUTF8(ExtractFileName(editor.FileName())), false);
+  AddPage(page, ToWx(ExtractFileName(editor.FileName())), false);
   RefreshEditor(editor);
 }
 
@@ -92,9 +93,9 @@ void TEditorBook::RefreshEditor(TTextEditor& editor) {
   if (!page) return;
   const auto index = static_cast<std::size_t>(GetPageIndex(page));
   const std::string name = ExtractFileName(editor.FileName());
-  SetPageText(index, wxString::FromUTF8(editor.GetModified() ? "*" + name : name));
+  SetPageText(index, ToWx(editor.GetModified() ? "*" + name : name));
   SetPageBitmap(index, editor.IsReadOnly() ? IconBundle(TIcon::Lock) : wxBitmapBundle());
-  SetPageToolTip(index, wxString::FromUTF8(editor.FileName()));
+  SetPageToolTip(index, ToWx(editor.FileName()));
   hooks_.StateChanged();
 }
 

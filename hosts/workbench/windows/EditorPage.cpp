@@ -2,13 +2,14 @@
 
 #include <algorithm>
 
+#include "host/WxText.h"
 #include "workbench/windows/PascalStyle.h"
 
 TEditorPage::TEditorPage(wxWindow* parent, IEditorPageOwner& owner, TTextEditor& editor, int fontSize)
     : wxStyledTextCtrl(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxBORDER_NONE),
       owner_(owner),
       editor_(editor) {
-  SetName(wxString::FromUTF8(editor.FileName()));
+  SetName(ToWx(editor.FileName()));
   ApplyPascalStyle(*this, fontSize);
   editor_.AttachView(this);
   Bind(wxEVT_SIZE, [this](wxSizeEvent& event) {

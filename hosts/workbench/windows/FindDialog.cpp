@@ -3,11 +3,12 @@
 #include <wx/stc/stc.h>
 
 #include "host/Text.h"
+#include "host/WxText.h"
 #include "workbench/windows/FrameStrings.h"
 
 namespace {
 wxString Title(const TResString& caption) {
-  return wxControl::RemoveMnemonics(wxString::FromUTF8(caption.str()).BeforeFirst('.'));
+  return wxControl::RemoveMnemonics(ToWx(caption.str()).BeforeFirst('.'));
 }
 }  // namespace
 

@@ -6,6 +6,7 @@
 #include <wx/sizer.h>
 #include <wx/stattext.h>
 
+#include "host/WxText.h"
 #include "workbench/windows/FrameStrings.h"
 #include "workbench/windows/Icons.h"
 
@@ -14,19 +15,19 @@ namespace {
 constexpr int kGlyphSize = 32;
 
 wxStaticText* Label(wxWindow* parent, const TResString& text) {
-  return new wxStaticText(parent, wxID_ANY, wxString::FromUTF8(text.str()));
+  return new wxStaticText(parent, wxID_ANY, ToWx(text.str()));
 }
 
 class TGalleryDialog final : public wxDialog {
  public:
   TGalleryDialog(wxWindow* parent, TGalleryCategories& categories, const TRegistrations<IOTAWizard>& wizards)
-      : wxDialog(parent, wxID_ANY, wxString::FromUTF8(sGalleryTitle.str()), wxDefaultPosition, wxDefaultSize,
+      : wxDialog(parent, wxID_ANY, ToWx(sGalleryTitle), wxDefaultPosition, wxDefaultSize,
                  wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER),
         categories_(categories),
         wizards_(wizards) {
     CreateControls();
     for (const auto& category : categories_.InOrder())
-      categoryList_->Append(wxString::FromUTF8(category->GetDisplayName()));
+      categoryList_->Append(ToWx(category->GetDisplayName()));
     categoryList_->SetSelection(0);
     ShowCategory();
     Bind(wxEVT_LISTBOX, [this](wxCommandEvent&) { ShowCategory(); });
@@ -87,17 +88,16 @@ class TGalleryDialog final : public wxDialog {
     });
     itemList_->SetSmallImages(glyphs);
     for (std::size_t i = 0; i < shown_.size(); ++i)
-      itemList_->InsertItem(static_cast<long>(i), wxString::FromUTF8(shown_[i]->GetName()),
-                            static_cast<int>(i));
+      itemList_->InsertItem(static_cast<long>(i), ToWx(shown_[i]->GetName()), static_cast<int>(i));
     if (!shown_.empty()) itemList_->Select(0);
     ShowSelected();
   }
 
   void ShowSelected() {
     const auto wizard = Selected();
-    comment_->SetLabel(wxString::FromUTF8(wizard           ? wizard->GetComment()
-                                          : shown_.empty() ? sGalleryEmpty.str()
-                                                           : std::string()));
+    comment_->SetLabel(ToWx(wizard           ? wizard->GetComment()
+                            : shown_.empty() ? sGalleryEmpty.str()
+                                             : std::string()));
     FindWindow(wxID_OK)->Enable(Enabled(wizard));
     Layout();
   }

@@ -5,6 +5,7 @@
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
 
+#include "host/WxText.h"
 #include "workbench/model/Settings.h"
 #include "workbench/windows/FrameStrings.h"
 
@@ -15,7 +16,7 @@ wxWindow* CreateGeneralPage(wxWindow* parent, IOTAOptionsPageHost& host) {
   auto* sizer = new wxBoxSizer(wxVERTICAL);
   // Labels are made before their controls: that is how access keys find them.
   const auto addLabel = [&](const TResString& text) {
-    sizer->Add(new wxStaticText(page, wxID_ANY, wxString::FromUTF8(text.str())),
+    sizer->Add(new wxStaticText(page, wxID_ANY, ToWx(text.str())),
                wxSizerFlags().Border(wxLEFT | wxTOP | wxRIGHT));
   };
   addLabel(sFontSizeLabel);

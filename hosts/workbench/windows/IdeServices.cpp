@@ -8,11 +8,12 @@
 #include "host/FileName.h"
 #include "host/Paths.h"
 #include "host/Text.h"
+#include "host/WxText.h"
 #include "workbench/windows/FrameStrings.h"
 
 bool TApplicationService::HelpKeyword(const std::string& keyword) {
-  wxMessageBox(wxString::FromUTF8(Format(sNoHelp, {keyword})), wxString::FromUTF8(sProgramName.str()),
-               wxOK | wxICON_INFORMATION, wxGetActiveWindow());
+  wxMessageBox(ToWx(Format(sNoHelp, {keyword})), ToWx(sProgramName), wxOK | wxICON_INFORMATION,
+               wxGetActiveWindow());
   return false;
 }
 

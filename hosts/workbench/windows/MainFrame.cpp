@@ -8,6 +8,7 @@
 #include "host/Paths.h"
 #include "host/System.h"
 #include "host/Text.h"
+#include "host/WxText.h"
 #include "workbench/windows/EditorBook.h"
 #include "workbench/windows/FindDialog.h"
 #include "workbench/windows/FrameStrings.h"
@@ -21,12 +22,10 @@ namespace {
 enum TStatusField { sfText, sfPosition, sfState, sfProject, sfCount };
 constexpr int kStatusWidths[] = {-1, 120, 90, 180};
 
-wxString Text(const std::string& text) { return wxString::FromUTF8(text); }
-
 /// A pane with its caption above it.
 wxPanel* CaptionedPanel(wxWindow* parent, const TResString& caption) {
   auto* panel = new wxPanel(parent);
-  auto* label = new wxStaticText(panel, wxID_ANY, Text(caption));
+  auto* label = new wxStaticText(panel, wxID_ANY, ToWx(caption));
   label->SetFont(label->GetFont().Bold().Smaller());
   auto* sizer = new wxBoxSizer(wxVERTICAL);
   sizer->Add(label, wxSizerFlags().Border(wxALL, panel->FromDIP(4)));
@@ -41,11 +40,11 @@ void FillPanel(wxPanel* panel, wxWindow* content) {
 }  // namespace
 
 TMainFrame::TMainFrame(TIdeServices& services)
-    : wxFrame(nullptr, wxID_ANY, Text(sProgramName)),
+    : wxFrame(nullptr, wxID_ANY, ToWx(sProgramName)),
       services_(services),
       session_(*this, services.Guard(), services.Notifications()),
       recent_(services.Options().PropertySet(kRecentSet)) {
-  SetName(Text(sProgramName));
+  SetName(ToWx(sProgramName));
   wxIcon icon;
   icon.CopyFromBitmap(IconBundle(TIcon::Program).GetBitmap(wxSize(32, 32)));
   SetIcon(icon);
@@ -91,7 +90,7 @@ void TMainFrame::CreateWindows() {
                              session_.Close(*module);
                          });
                        },
-                       [this](const std::string& text) { SetStatusText(Text(text), sfText); },
+                       [this](const std::string& text) { SetStatusText(ToWx(text), sfText); },
                        [this](wxMenu& menu, TTextEditor& editor) { FillTabMenu(menu, editor.FileName()); }},
                       fontSize);
   messagePanel_ = CaptionedPanel(rows_, sMessagesCaption);
@@ -99,7 +98,7 @@ void TMainFrame::CreateWindows() {
   FillPanel(messagePanel_, messages_);
   find_ = std::make_unique<TFindReplace>(
       this, [this]() -> wxStyledTextCtrl* { return book_->FrontPage(); },
-      [this](const std::string& text) { SetStatusText(Text(text), sfText); });
+      [this](const std::string& text) { SetStatusText(ToWx(text), sfText); });
 
   CreateStatusBar(sfCount);
   int widths[sfCount];
@@ -144,21 +143,21 @@ void TMainFrame::ShowState() {
   const TProject* project = session_.ActiveProject();
   TTextEditor* editor = page ? &page->Editor() : nullptr;
   const int position = page ? page->GetCurrentPos() : 0;
-  SetStatusText(page ? Text(Format(sPosition,
+  SetStatusText(page ? ToWx(Format(sPosition,
                                    {page->LineFromPosition(position) + 1LL, page->GetColumn(position) + 1LL}))
                      : wxString(),
                 sfPosition);
-  SetStatusText(Text(!editor                 ? std::string()
+  SetStatusText(ToWx(!editor                 ? std::string()
                      : editor->IsReadOnly()  ? sReadOnlyState.str()
                      : editor->GetModified() ? sModifiedState.str()
                                              : std::string()),
                 sfState);
-  SetStatusText(Text(project ? ExtractFileName(project->FileName()) : sNoOpenProject.str()), sfProject);
+  SetStatusText(ToWx(project ? ExtractFileName(project->FileName()) : sNoOpenProject.str()), sfProject);
   const std::string shown = editor ? editor->FileName() : project ? project->FileName() : std::string();
   // A hint belongs to the file that it was about.
-  const wxString about = Text(shown + (editor && editor->IsReadOnly() ? sReadOnlyState.str() : ""));
+  const wxString about = ToWx(shown + (editor && editor->IsReadOnly() ? sReadOnlyState.str() : ""));
   if (std::exchange(hintedFile_, about) != about) SetStatusText(wxString(), sfText);
-  SetTitle(Text(shown.empty() ? sProgramName.str() : Format(sFrameTitle, {shown})));
+  SetTitle(ToWx(shown.empty() ? sProgramName.str() : Format(sFrameTitle, {shown})));
 }
 
 void TMainFrame::EditorOpened(TTextEditor& editor) { book_->AddEditor(editor); }
@@ -177,10 +176,10 @@ void TMainFrame::ProjectsChanged() {
 }
 
 TSaveAnswer TMainFrame::AskSave(const std::string& fileName) {
-  wxMessageDialog box(this, Text(Format(sAskSave, {ExtractFileName(fileName)})), Text(sProgramName),
+  wxMessageDialog box(this, ToWx(Format(sAskSave, {ExtractFileName(fileName)})), ToWx(sProgramName),
                       wxYES_NO | wxCANCEL | wxICON_QUESTION);
-  box.SetExtendedMessage(Text(sAskSaveHint));
-  box.SetYesNoLabels(Text(sAskSaveYes), Text(sAskSaveNo));
+  box.SetExtendedMessage(ToWx(sAskSaveHint));
+  box.SetYesNoLabels(ToWx(sAskSaveYes), ToWx(sAskSaveNo));
   switch (box.ShowModal()) {
     case wxID_YES:
       return TSaveAnswer::Save;
@@ -192,10 +191,10 @@ TSaveAnswer TMainFrame::AskSave(const std::string& fileName) {
 }
 
 bool TMainFrame::AskReload(const std::string& fileName) {
-  wxMessageDialog box(this, Text(Format(sAskReload, {fileName})), Text(sProgramName),
+  wxMessageDialog box(this, ToWx(Format(sAskReload, {fileName})), ToWx(sProgramName),
                       wxYES_NO | wxNO_DEFAULT | wxICON_QUESTION);
-  box.SetExtendedMessage(Text(sAskReloadHint));
-  box.SetYesNoLabels(Text(sAskReloadYes), Text(sAskReloadNo));
+  box.SetExtendedMessage(ToWx(sAskReloadHint));
+  box.SetYesNoLabels(ToWx(sAskReloadYes), ToWx(sAskReloadNo));
   return box.ShowModal() == wxID_YES;
 }
 
@@ -205,7 +204,7 @@ wxString TMainFrame::AskFile(const TResString& title, const TResString& filter, 
   const std::string directory = !proposed.empty() ? ExtractFileDir(proposed)
                                 : project         ? ExtractFileDir(project->FileName())
                                                   : services_.GetStartupDirectory();
-  wxFileDialog dialog(this, Text(title), Text(directory), Text(ExtractFileName(proposed)), Text(filter),
+  wxFileDialog dialog(this, ToWx(title), ToWx(directory), ToWx(ExtractFileName(proposed)), ToWx(filter),
                       style);
   return dialog.ShowModal() == wxID_OK ? dialog.GetPath() : wxString();
 }
@@ -223,7 +222,7 @@ void TMainFrame::Attempt(const std::function<void()>& operation) {
   try {
     operation();
   } catch (const std::exception& e) {
-    wxMessageBox(Text(e.what()), Text(sProgramName), wxOK | wxICON_ERROR, this);
+    wxMessageBox(ToWx(e.what()), ToWx(sProgramName), wxOK | wxICON_ERROR, this);
   }
 }
 

@@ -9,6 +9,7 @@
 
 #include "host/Paths.h"
 #include "host/Text.h"
+#include "host/WxText.h"
 #include "workbench/windows/CommandsDialog.h"
 #include "workbench/windows/EditorBook.h"
 #include "workbench/windows/FindDialog.h"
@@ -68,8 +69,6 @@ enum TCommandId {
   cmNewMenu,
   cmRecentMenu  // submenus
 };
-
-wxString Text(const std::string& text) { return wxString::FromUTF8(text); }
 
 }  // namespace
 
@@ -151,13 +150,13 @@ void TMainFrame::AppendCommand(wxMenu& menu, int id) {
     menu.AppendSeparator();
   } else if (id == cmNewMenu) {
     menu.AppendSubMenu(CreateMenu({sMenuNew, {cmNewUnit, cmNewProject, cmSeparator, cmNewOther}}),
-                       Text(sMenuNew));
+                       ToWx(sMenuNew));
   } else if (id == cmRecentMenu) {
     recentMenu_ = new wxMenu;
-    menu.AppendSubMenu(recentMenu_, Text(sMenuRecent));
+    menu.AppendSubMenu(recentMenu_, ToWx(sMenuRecent));
     FillRecentMenu();
   } else {
-    menu.Append(id, Text(FindCommand(id)->Caption));
+    menu.Append(id, ToWx(FindCommand(id)->Caption));
   }
 }
 
@@ -170,7 +169,7 @@ wxMenu* TMainFrame::CreateMenu(const TCommandMenu& description) {
 void TMainFrame::CreateMenus() {
   auto* bar = new wxMenuBar;
   for (const auto& description : CommandMenus()) {
-    bar->Append(CreateMenu(description), Text(description.Caption));
+    bar->Append(CreateMenu(description), ToWx(description.Caption));
     if (description.Caption.Text == sMenuView.Text) viewMenu_ = bar->GetMenu(bar->GetMenuCount() - 1);
   }
   SetMenuBar(bar);
@@ -180,10 +179,10 @@ void TMainFrame::CreateMenus() {
 
 void TMainFrame::FillRecentMenu() {
   while (recentMenu_->GetMenuItemCount() > 0) recentMenu_->Destroy(recentMenu_->FindItemByPosition(0));
-  if (recent_.Files().empty()) recentMenu_->Append(wxID_ANY, Text(sNoRecent))->Enable(false);
+  if (recent_.Files().empty()) recentMenu_->Append(wxID_ANY, ToWx(sNoRecent))->Enable(false);
   int id = cmRecentFirst;
   for (const auto& file : recent_.Files()) {
-    wxString caption = Text(file);
+    wxString caption = ToWx(file);
     caption.Replace("&", "&&");
     recentMenu_->Append(id, wxString::Format("&%d %s", id - cmRecentFirst + 1, caption));
     ++id;
@@ -264,7 +263,7 @@ void TMainFrame::ReloadCurrent() {
 void TMainFrame::SaveCurrent() {
   TTextEditor& editor = book_->FrontPage()->Editor();
   session_.Save(editor);
-  SetStatusText(Text(Format(sSaved, {ExtractFileName(editor.FileName())})));
+  SetStatusText(ToWx(Format(sSaved, {ExtractFileName(editor.FileName())})));
 }
 
 void TMainFrame::SaveCurrentAs() {
@@ -292,8 +291,8 @@ void TMainFrame::Replace() { find_->Show(true); }
 void TMainFrame::GoToLine() {
   TEditorPage* page = book_->FrontPage();
   const long last = page->GetLineCount();
-  const long line = wxGetNumberFromUser("", Text(Format(sGoToPrompt, {static_cast<long long>(last)})),
-                                        Text(sGoToTitle), page->GetCurrentLine() + 1, 1, last, this);
+  const long line = wxGetNumberFromUser("", ToWx(Format(sGoToPrompt, {static_cast<long long>(last)})),
+                                        ToWx(sGoToTitle), page->GetCurrentLine() + 1, 1, last, this);
   if (line > 0) page->GotoLine(static_cast<int>(line) - 1);
 }
 
@@ -327,7 +326,7 @@ void TMainFrame::NextEditor() { book_->AdvanceSelection(); }
 
 void TMainFrame::AddToProject() {
   const std::string directory = ExtractFileDir(session_.ActiveProject()->FileName());
-  wxFileDialog dialog(this, Text(sAddToProjectTitle), Text(directory), "", Text(sUnitFilter),
+  wxFileDialog dialog(this, ToWx(sAddToProjectTitle), ToWx(directory), "", ToWx(sUnitFilter),
                       wxFD_OPEN | wxFD_FILE_MUST_EXIST | wxFD_MULTIPLE);
   if (dialog.ShowModal() != wxID_OK) return;
   wxArrayString paths;
@@ -335,7 +334,7 @@ void TMainFrame::AddToProject() {
   std::vector<std::string> files;
   for (const auto& path : paths) files.push_back(path.utf8_string());
   const auto added = static_cast<long long>(session_.AddToProject(files));
-  SetStatusText(Text(Format(sAddedFiles, {added})));
+  SetStatusText(ToWx(Format(sAddedFiles, {added})));
 }
 
 void TMainFrame::RemoveFromProject() {
@@ -365,7 +364,7 @@ void TMainFrame::ShowOptions() {
 }
 
 void TMainFrame::ShowAbout() {
-  wxMessageBox(Text(Format(sAboutText, {kWorkbenchVersion})), Text(sProgramName), wxOK | wxICON_INFORMATION,
+  wxMessageBox(ToWx(Format(sAboutText, {kWorkbenchVersion})), ToWx(sProgramName), wxOK | wxICON_INFORMATION,
                this);
 }
 

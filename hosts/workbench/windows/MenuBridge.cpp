@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "host/WxText.h"
 #include "workbench/model/MenuRows.h"
 #include "workbench/windows/Icons.h"
 
@@ -43,7 +44,7 @@ void TMenuBridge::InsertMenu(TMenuItem& top) {
   TTopMenu& shown = *owned;
   tops_.push_back(std::move(owned));
   Fill(shown, *shown.Menu, top.Items);
-  bar_.Insert(bar_.GetMenuCount() - 1, shown.Menu, wxString::FromUTF8(top.ShownCaption()));
+  bar_.Insert(bar_.GetMenuCount() - 1, shown.Menu, ToWx(top.ShownCaption()));
 }
 
 void TMenuBridge::RemoveMenu(TMenuItem& top) {
@@ -109,7 +110,7 @@ void TMenuBridge::Show(TTopMenu& top) {
   }
   for (auto& row : top.Rows) {
     if (row.Item->IsSeparator()) continue;
-    const wxString caption = wxString::FromUTF8(row.Item->ShownCaption());
+    const wxString caption = ToWx(row.Item->ShownCaption());
     if (row.Shown->GetItemLabel() != caption) row.Shown->SetItemLabel(caption);
     const bool enabled = row.Item->IsEnabled();
     if (std::exchange(row.Enabled, enabled) == enabled) continue;
@@ -128,8 +129,7 @@ void TMenuBridge::AppendItem(TTopMenu& top, wxMenu& menu, const TMenuItem& item)
     return;
   }
   auto submenu = item.Items.empty() ? nullptr : std::make_unique<wxMenu>();
-  auto* shown = new wxMenuItem(&menu, wxID_ANY, wxString::FromUTF8(item.ShownCaption()), "", wxITEM_NORMAL,
-                               submenu.get());
+  auto* shown = new wxMenuItem(&menu, wxID_ANY, ToWx(item.ShownCaption()), "", wxITEM_NORMAL, submenu.get());
   const bool enabled = item.IsEnabled();
   ShowImage(*shown, ImageOf(ImageIndexOf(item), enabled));
   menu.Append(shown);
@@ -166,7 +166,7 @@ void TMenuBridge::AppendFileMenus(wxMenu& menu, const std::string& fileName) con
         submenu->AppendSeparator();
         continue;
       }
-      auto* shown = new wxMenuItem(submenu, wxID_ANY, wxString::FromUTF8(item.Caption));
+      auto* shown = new wxMenuItem(submenu, wxID_ANY, ToWx(item.Caption));
       ShowImage(*shown, ImageOf(item.ImageIndex, enabled));
       submenu->Append(shown)->Enable(enabled);
       submenu->Bind(
@@ -176,7 +176,7 @@ void TMenuBridge::AppendFileMenus(wxMenu& menu, const std::string& fileName) con
           },
           shown->GetId());
     }
-    menu.AppendSubMenu(submenu, wxString::FromUTF8(fileMenu->Caption));
+    menu.AppendSubMenu(submenu, ToWx(fileMenu->Caption));
   }
 }
 

@@ -5,12 +5,13 @@
 
 #include <algorithm>
 
+#include "host/WxText.h"
 #include "workbench/windows/FrameStrings.h"
 
 TMessagePane::TMessagePane(wxWindow* parent)
     : wxListView(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize,
                  wxLC_REPORT | wxLC_NO_HEADER | wxBORDER_NONE) {
-  SetName(wxString::FromUTF8(sMessagesCaption.str()));
+  SetName(ToWx(sMessagesCaption));
   AppendColumn("");
   Bind(wxEVT_SIZE, [this](wxSizeEvent& event) {
     event.Skip();
@@ -31,7 +32,7 @@ void TMessagePane::FitColumn() {
 }
 
 void TMessagePane::AddLine(const std::string& line) {
-  const long row = InsertItem(GetItemCount(), wxString::FromUTF8(line));
+  const long row = InsertItem(GetItemCount(), ToWx(line));
   FitColumn();
   EnsureVisible(row);
 }
@@ -46,8 +47,8 @@ void TMessagePane::CopySelected() {
 
 void TMessagePane::ShowContextMenu(wxContextMenuEvent&) {
   wxMenu menu;
-  menu.Append(wxID_COPY, wxString::FromUTF8(sMessagesCopy.str()))->Enable(GetSelectedItemCount() > 0);
-  menu.Append(wxID_CLEAR, wxString::FromUTF8(sMessagesClear.str()))->Enable(GetItemCount() > 0);
+  menu.Append(wxID_COPY, ToWx(sMessagesCopy))->Enable(GetSelectedItemCount() > 0);
+  menu.Append(wxID_CLEAR, ToWx(sMessagesClear))->Enable(GetItemCount() > 0);
   switch (GetPopupMenuSelectionFromUser(menu)) {
     case wxID_COPY:
       return CopySelected();

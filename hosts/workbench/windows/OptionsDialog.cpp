@@ -10,6 +10,7 @@
 #include <wx/textctrl.h>
 
 #include "host/Text.h"
+#include "host/WxText.h"
 #include "workbench/windows/FrameStrings.h"
 #include "workbench/windows/GeneralPage.h"
 
@@ -23,7 +24,7 @@ std::string ValueOf(wxControl& control) {
 }
 
 void ShowValue(wxControl& control, const std::string& value) {
-  const wxString text = wxString::FromUTF8(value);
+  const wxString text = ToWx(value);
   if (auto* box = dynamic_cast<wxTextCtrl*>(&control)) return box->ChangeValue(text);
   auto* list = dynamic_cast<wxItemContainerImmutable*>(&control);
   // A value that is no longer offered leaves what the page itself chose.
@@ -66,7 +67,7 @@ class TBindings final : public IOTAOptionsPageHost {
 class TOptionsDialog final : public wxDialog {
  public:
   TOptionsDialog(wxWindow* parent, TOptionsServices& options, const TPackageGuard& guard)
-      : wxDialog(parent, wxID_ANY, wxString::FromUTF8(sOptionsTitle.str()), wxDefaultPosition, wxDefaultSize,
+      : wxDialog(parent, wxID_ANY, ToWx(sOptionsTitle), wxDefaultPosition, wxDefaultSize,
                  wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER),
         options_(options),
         guard_(guard),
@@ -117,7 +118,7 @@ class TOptionsDialog final : public wxDialog {
   };
 
   void AddPage(const TOptionsPage& page, TBindings& bindings) {
-    const wxString caption = wxString::FromUTF8(page.Caption);
+    const wxString caption = ToWx(page.Caption);
     book_->AddPage(page.Create(book_, bindings), caption);
     list_->Append(caption);
   }
@@ -141,8 +142,8 @@ class TOptionsDialog final : public wxDialog {
       }
       return true;
     } catch (const std::exception& e) {
-      wxMessageBox(wxString::FromUTF8(Format(sCannotSaveOptions, {e.what()})),
-                   wxString::FromUTF8(sOptionsTitle.str()), wxOK | wxICON_ERROR, this);
+      wxMessageBox(ToWx(Format(sCannotSaveOptions, {e.what()})), ToWx(sOptionsTitle), wxOK | wxICON_ERROR,
+                   this);
       return false;
     }
   }

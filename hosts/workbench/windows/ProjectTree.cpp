@@ -5,6 +5,7 @@
 #include "host/Paths.h"
 #include "host/System.h"
 #include "host/Text.h"
+#include "host/WxText.h"
 #include "workbench/windows/FrameStrings.h"
 #include "workbench/windows/Icons.h"
 
@@ -36,7 +37,7 @@ TProjectTree::TProjectTree(wxWindow* parent, TSession& session, THooks hooks)
                  wxTR_HAS_BUTTONS | wxTR_LINES_AT_ROOT | wxTR_SINGLE | wxTR_NO_LINES | wxBORDER_NONE),
       session_(session),
       hooks_(std::move(hooks)) {
-  SetName(wxString::FromUTF8(sProjectTreeCaption.str()));
+  SetName(ToWx(sProjectTreeCaption));
   wxVector<wxBitmapBundle> images;
   for (const TIcon icon : kTreeIcons) images.push_back(IconBundle(icon));
   SetImages(images);
@@ -66,7 +67,7 @@ TProjectTree::TNode* TProjectTree::NodeOf(const wxTreeItemId& item) const {
 
 wxTreeItemId TProjectTree::AddNode(const wxTreeItemId& parent, const std::string& label, int icon,
                                    TNode* node) {
-  const wxString text = wxString::FromUTF8(label);
+  const wxString text = ToWx(label);
   return parent.IsOk() ? AppendItem(parent, text, icon, icon, node) : AddRoot(text, icon, icon, node);
 }
 

@@ -5,6 +5,7 @@
 #include <wx/dcscreen.h>
 #include <wx/image.h>
 
+#include "host/WxText.h"
 #include "workbench/windows/Toolkit.h"
 
 bool SaveScreenshot(const std::string& fileName) {
@@ -16,6 +17,7 @@ bool SaveScreenshot(const std::string& fileName) {
   memory.Blit(wxPoint(0, 0), size, &screen, wxPoint(0, 0));
   memory.SelectObject(wxNullBitmap);
   wxImage image = bitmap.ConvertToImage();
-  if (image.HasAlpha()) image.ClearAlpha();  // what some systems leave in a screen's fourth byte means nothing
-  return image.SaveFile(wxString::FromUTF8(fileName), wxBITMAP_TYPE_PNG);
+  if (image.HasAlpha())
+    image.ClearAlpha();  // what some systems leave in a screen's fourth byte means nothing
+  return image.SaveFile(ToWx(fileName), wxBITMAP_TYPE_PNG);
 }
