@@ -33,7 +33,11 @@ void TBoundedText::SetUncut(std::string_view text) { text_ = UpToNul(text); }
 
 void TBoundedText::Set(std::string_view text) {
   SetUncut(text);
-  if (!Fits()) text_ = FromSystemName(CutSystemText(*ToSystemText(text_), size_ - 1)).value();
+  text_ = Cut();
+}
+
+std::string TBoundedText::Cut() const {
+  return Fits() ? text_ : FromSystemText(CutSystemText(*ToSystemText(text_), size_ - 1));
 }
 
 bool TBoundedText::Fits() const {
@@ -90,17 +94,17 @@ TScratchText::~TScratchText() {
 
 std::string_view TScratchText::Text() const { return UpToNul({bytes_.data(), kRoom}); }
 
-void TScratchText::MoveTo(TBoundedText& field) const {
+std::string TScratchText::TextFor(const TBoundedText& field) const {
   const auto whole = Text();
-  if (whole == given_) return;
+  if (whole == given_) return field.Str();
   // A provider may leave out the terminator, so all bytes of a field count.
   const auto fitting = CutSystemText(whole, field.Size());
   const auto name = FromSystemName(fitting);
   if (!name) throw EAbort(Format(sNotFromCodePage.str(), {providerName, FromSystemText(fitting), entry_}));
-  field.SetUncut(*name);
-  if (fitting.size() == whole.size()) return;
-  WriteProviderLine(IProviderSink::Kind::Warning,
-                    Format(sTextCut.str(), {providerName, entry_, static_cast<long long>(field.Size())}));
+  if (fitting.size() != whole.size())
+    WriteProviderLine(IProviderSink::Kind::Warning,
+                      Format(sTextCut.str(), {providerName, entry_, static_cast<long long>(field.Size())}));
+  return *name;
 }
 
 TComment::TComment(std::string_view typed) : text_(ForProvider(typed)) { Cut(); }
@@ -166,9 +170,11 @@ void ThrowFault(scc::TEntry entry, const std::string& fault) {
 std::string CurrentFault() {
   try {
     throw;
+  } catch (const EAbort& error) {
+    return error.what();
   } catch (const std::exception& error) {
-    // Its own words are the system's text, those of this side are UTF-8.
-    if (error.what() != nullptr && *error.what() != '\0') return RepairUtf8(error.what(), FromSystemText);
+    // A provider's own words are the system's text.
+    if (error.what() != nullptr && *error.what() != '\0') return FromSystemText(error.what());
   } catch (...) {
   }
   return sUnknownFault;

@@ -45,9 +45,9 @@ class TScratchText {
   char* Data() { return bytes_.data(); }
   /// What stands there now, up to the terminator or the end of the room.
   std::string_view Text() const;
-  /// Moves it into the field, unless the provider left it as it was; warns when it was longer than the field.  Throws
-  /// EAbort when it cannot be given back as it came (see FromSystemName).
-  void MoveTo(TBoundedText& field) const;
+  /// What the field has to hold now: its own text, when the provider left that as it was.  Warns when the provider's was
+  /// longer than the field.  Throws EAbort when it cannot be given back as it came (see FromSystemName).
+  std::string TextFor(const TBoundedText& field) const;
 
  private:
   const char* entry_;

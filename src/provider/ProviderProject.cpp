@@ -1,8 +1,31 @@
 // The project half of a session: identity, choosing, opening and closing.
+#include <initializer_list>
+#include <optional>
+#include <utility>
+
 #include "provider/ProviderBorder.h"
 #include "provider/ProviderStrings.h"
 
 using namespace scc;
+
+namespace {
+
+/// The texts of a session on their way through one call.  Throws EAbort for those that the provider cannot be given.
+struct TIdentityTexts {
+  TIdentityTexts(const char* entry, const TBoundedText& user, const TBoundedText& name,
+                 const TBoundedText& local, const TBoundedText& aux)
+      : User(entry, user), Name(entry, name), Local(entry, RequireFits(local)), Aux(entry, aux) {}
+  TScratchText User, Name, Local, Aux;
+};
+
+/// Gives the fields what the provider made of their texts: all of them, or none when one cannot be taken.
+void TakeBack(std::initializer_list<std::pair<const TScratchText&, TBoundedText&>> texts) {
+  TStringList taken;
+  for (const auto& [text, field] : texts) taken.push_back(text.TextFor(field));
+  for (auto next = taken.begin(); const auto& [text, field] : texts) field.SetUncut(*next++);
+}
+
+}  // namespace
 
 TSCCProviderProject::TSCCProviderProject(const std::string& localPath, TWindowHandle window,
                                          const std::string& userName)
@@ -19,7 +42,7 @@ std::string TSCCProviderProject::get_ProjName() const { return projName_.Str(); 
 void TSCCProviderProject::set_ProjName(const std::string& value) { projName_.Set(value); }
 std::string TSCCProviderProject::get_ProjPath() const { return projPath_.Str(); }
 void TSCCProviderProject::set_ProjPath(const std::string& value) { projPath_.Set(value); }
-std::string TSCCProviderProject::get_LocalPath() const { return localPath_.Str(); }
+std::string TSCCProviderProject::get_LocalPath() const { return localPath_.Cut(); }
 void TSCCProviderProject::set_LocalPath(const std::string& value) { localPath_.SetUncut(value); }
 std::string TSCCProviderProject::get_UserName() const { return userName_.Str(); }
 void TSCCProviderProject::set_UserName(const std::string& value) { userName_.Set(value); }
@@ -28,15 +51,13 @@ Long TSCCProviderProject::GetProjectPath(TStateMessages& messages, bool mayCreat
   const auto toBool = [](bool value) -> Bool { return value ? -1 : 0; };
   TOutWord isNew{toBool(mayCreate)};
   const Long code = AttemptWith(messages, [&] {
-    constexpr const char* entry = "SccGetProjPath";
-    TScratchText user(entry, userName_), name(entry, projName_), local(entry, RequireFits(localPath_)),
-        aux(entry, projPath_);
-    const Long result = Invoke(SccGetProjPath, context_, Window(), user.Data(), name.Data(), local.Data(),
-                               aux.Data(), toBool(mayChangePath), &isNew.Value);
-    user.MoveTo(userName_);
-    name.MoveTo(projName_);
-    local.MoveTo(localPath_);
-    aux.MoveTo(projPath_);
+    TIdentityTexts texts("SccGetProjPath", userName_, projName_, localPath_, projPath_);
+    const Long result = Invoke(SccGetProjPath, context_, Window(), texts.User.Data(), texts.Name.Data(),
+                               texts.Local.Data(), texts.Aux.Data(), toBool(mayChangePath), &isNew.Value);
+    TakeBack({{texts.User, userName_},
+              {texts.Name, projName_},
+              {texts.Local, localPath_},
+              {texts.Aux, projPath_}});
     return result;
   });
   if (code == SCC_OK) messages[0] = isNew.Value != 0 ? sNewProjectCreated : sExistingProjectSelected;
@@ -52,18 +73,21 @@ Long TSCCProviderProject::OpenProject(TStateMessages& messages, const std::strin
 }
 
 Long TSCCProviderProject::OpenAt(TStateMessages& messages, const TBoundedText& localPath) {
+  std::optional<TIdentityTexts> texts;
+  const auto prepare = [&] {
+    texts.emplace("SccOpenProject", userName_, projName_, localPath, projPath_);
+    return SCC_OK;
+  };
   const auto open = [&] {
-    constexpr const char* entry = "SccOpenProject";
     const TComment comment({}, sProjectComment);
-    TScratchText user(entry, userName_), name(entry, projName_), local(entry, RequireFits(localPath)),
-        aux(entry, projPath_);
-    const Long result = Invoke(SccOpenProject, context_, Window(), user.Data(), name.Data(), local.Data(),
-                               aux.Data(), comment.Data(), &TextOutProc, SCC_OP_CREATEIFNEW);
-    user.MoveTo(userName_);
-    name.MoveTo(projName_);
-    aux.MoveTo(projPath_);
+    const Long result =
+        Invoke(SccOpenProject, context_, Window(), texts->User.Data(), texts->Name.Data(),
+               texts->Local.Data(), texts->Aux.Data(), comment.Data(), &TextOutProc, SCC_OP_CREATEIFNEW);
+    TakeBack({{texts->User, userName_}, {texts->Name, projName_}, {texts->Aux, projPath_}});
     return result;
   };
+  // What the provider is not even asked for has not been opened.
+  if (const Long refused = AttemptWith(messages, prepare); refused != SCC_OK) return refused;
   // After an exception the code says 0 all the same: callers find the failure in the error text.
   return AttemptWith(messages, open, SCC_OK);
 }

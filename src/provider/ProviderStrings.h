@@ -27,9 +27,8 @@ constexpr TResString sNotInCodePage{
     "\"%s\" cannot be passed to the source code control provider: the system's code page lacks a character "
     "of it"};
 constexpr TResString sNotFromCodePage{
-    "The provider \"%s\" gave a name that cannot be passed back to it, because it is no text of the system's "
-    "code "
-    "page: \"%s\" (%s)"};
+    "The provider \"%s\" gave a name that cannot be passed back to it, because it is no text of the "
+    "system's code page: \"%s\" (%s)"};
 constexpr TResString sPathTooLong{
     "\"%s\" is too long for the source code control provider: a path may have %d bytes at most"};
 constexpr TResString sTooManyFiles{

@@ -107,12 +107,13 @@ TEST_F(ProviderProject, IdentityTextsAreCutAtTheirBuffers) {
 
 TEST_F(ProviderProject, ALocalPathIsRefusedRatherThanCut) {
   const std::string tooLong(261, 'x');
-  EXPECT_EQ(session().OpenProject(messages, tooLong), 0);
+  EXPECT_EQ(session().OpenProject(messages, tooLong), -15) << "it is not open";
   EXPECT_EQ(messages[2],
             "\"" + tooLong +
                 "\" is too long for the source code control provider: a path may have 260 bytes at most");
   session().set_LocalPath(tooLong);
-  EXPECT_EQ(session().get_LocalPath(), tooLong) << "it is still the session of that path";
+  EXPECT_EQ(session().get_LocalPath(), std::string(260, 'x'));
+  EXPECT_TRUE(list->SetCurrentProject(tooLong)) << "it is still the session of that path";
   EXPECT_EQ(session().GetProjectPath(messages, true, true), -15);
   EXPECT_THAT(messages[2], StartsWith("\"" + tooLong));
   EXPECT_THAT(provider->Calls, IsEmpty());

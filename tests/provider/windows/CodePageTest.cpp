@@ -81,7 +81,7 @@ TEST_F(CodePage, RefusesANameThatItCannotHold) {
   EXPECT_FALSE(session().CheckOutFile({"C:\\名前.pas"}, "", messages));
   EXPECT_THAT(messages[2], HasSubstr("\"C:\\名前.pas\" cannot be passed"));
   session().set_ProjName("名前");
-  session().OpenProject(messages);
+  EXPECT_EQ(session().OpenProject(messages), -15) << "it is not open";
   EXPECT_THAT(messages[2], HasSubstr("\"名前\" cannot be passed"));
   EXPECT_TRUE(provider->Calls.empty()) << "the provider was asked nothing";
 }
