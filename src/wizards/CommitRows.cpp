@@ -82,7 +82,8 @@ scc::Bool SCC_CALL TakePopulated(void*, scc::Bool, scc::Long status, const char*
   constexpr scc::Bool kStop = 0;
   if (!populated || populated->size() >= kMaxPopulated) return kStop;
   const bool known = status != scc::SCC_STATUS_INVALID && status != scc::SCC_STATUS_NOTCONTROLLED;
-  if (known && fileName && *fileName) populated->emplace_back(fileName);
+  if (!known) return kGoOn;
+  if (auto name = TakeFileName(fileName); name && !name->empty()) populated->push_back(*std::move(name));
   return kGoOn;
 } catch (...) {
   return 0;

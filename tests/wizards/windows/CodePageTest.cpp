@@ -1,20 +1,22 @@
-// Pulling a project where providers get text of 8 bits: this program has no manifest that asks for UTF-8.
+// Where providers get text of 8 bits: this program has no manifest that asks for UTF-8.
 #include <windows.h>
 
 #include "expert/ExpertFixture.h"
+#include "host/Text.h"
+#include "wizards/CommitRows.h"
 #include "wizards/PullProjectPages.h"
 
 namespace {
 
-class PullProjectCodePage : public TExpertTest {
+class WizardsCodePage : public TExpertTest {
  protected:
   void SetUp() override {
     if (GetACP() != 1252) GTEST_SKIP() << "the system's code page is " << GetACP();
-    Start();
   }
 };
 
-TEST_F(PullProjectCodePage, BoundsTheTargetAsTheProviderGetsIt) {
+TEST_F(WizardsCodePage, BoundsATargetAsTheProviderGetsIt) {
+  Start();
   std::string umlauts = "C:\\";
   for (int i = 0; i < 257; ++i) umlauts += "ü";
   const struct {
@@ -33,6 +35,18 @@ TEST_F(PullProjectCodePage, BoundsTheTargetAsTheProviderGetsIt) {
     EXPECT_THAT(pages.Page().Problem, row.problem.empty() ? testing::Matcher<std::string>(testing::IsEmpty())
                                                           : testing::HasSubstr(row.problem));
   }
+}
+
+TEST_F(WizardsCodePage, CommitRowsKnowTheProvidersNames) {
+  Open();
+  provider_->List = {{true, 1, ToSystemText(At("sub/Größe.pas"))}};
+  provider_->StatusOf = [](const std::string&) { return 1; };
+  std::vector<std::string> names;
+  for (const auto& row : GatherCommitRows(*expert_)) {
+    EXPECT_NE(row.Status, "Not Controlled") << row.FileName;
+    names.push_back(row.FileName);
+  }
+  EXPECT_THAT(names, testing::Contains(At("sub/Größe.pas")));
 }
 
 }  // namespace
