@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <exception>
 #include <iterator>
+#include <optional>
 
 #include "host/windows/Api.h"
 #include "host/windows/GuardStrings.h"
@@ -18,11 +19,14 @@ struct TGuardedCall {
   void (*Body)(void*);
   void* Data;
   std::exception_ptr Exception;
-  DWORD Fault;
+  std::optional<DWORD> Fault;
 };
 
 // What a thread keeps to handle a stack overflow with, bytes: less than the unwinding needs would end the process.
 constexpr ULONG kSpareStack = 32 * 1024;
+
+// What GCC's run-time raises for an exception of its kind; one that another compiler threw so has no exception_ptr.
+constexpr DWORD kForeignGccException = 0x20474343;
 
 struct TFaultRow {
   DWORD Code;
@@ -45,6 +49,7 @@ constexpr TFaultRow kFaults[] = {
     {EXCEPTION_ILLEGAL_INSTRUCTION, sIllegalInstruction},
     {EXCEPTION_PRIV_INSTRUCTION, sPrivilegedInstruction},
     {EXCEPTION_STACK_OVERFLOW, sStackOverflow},
+    {kForeignGccException, sForeignCppException},
     {0xE06D7363, sForeignCppException},  // as another compiler's run-time throws
 };
 
@@ -60,9 +65,9 @@ std::string NameOf(DWORD fault) {
 
 extern "C" {
 
-/// Calls function(call) inside a frame that stops what the system raises.  0: it returned; 1: it was stopped, and
-/// KeepFault has been told.  No C++ exception may pass it: the two kinds of unwinding know nothing of each other.
-int CallInFrame(void (*function)(TGuardedCall*), TGuardedCall* call);
+/// Calls function(call) inside a frame that stops what the system raises and tells KeepFault.  No C++ exception may pass
+/// it: the two kinds of unwinding know nothing of each other.
+void CallInFrame(void (*function)(TGuardedCall*), TGuardedCall* call);
 
 /// Whether CallInFrame shall end because of this.  Runs while the stack still stands, perhaps on its last page.
 int __attribute__((used)) KeepFault(const EXCEPTION_RECORD* record, TGuardedCall* call) {
@@ -101,11 +106,7 @@ CallInFrame:
   call *%rax
   nop
 2:
-  xorl %eax, %eax
-  addq $56, %rsp
-  ret
 3:
-  movl $1, %eax
   addq $56, %rsp
   ret
   .seh_endproc
@@ -121,7 +122,7 @@ extern "C" LONG __attribute__((used)) CallInFrameFilter(EXCEPTION_POINTERS* faul
 
 // The system finds the frame through the list that begins at fs:0.  The handler goes on searching while others unwind
 // (flags 2 and 4) and where KeepFault says no.  Otherwise it lets the handlers of the skipped calls end - RtlUnwind keeps
-// no register but ebp - and goes on at the frame as if the call had returned 1.
+// no register but ebp - and goes on at the frame as if the call had returned.
 //
 //   frame +  0: the next handler of the list    frame +  8: edi, esi, ebx, ebp    frame + 28: function
 //   frame +  4: CallInFrameHandler              frame + 24: the way back          frame + 32: call
@@ -140,7 +141,6 @@ _CallInFrame:
   pushl 32(%esp)
   call *32(%esp)
   addl $4, %esp
-  xorl %eax, %eax
 1:
   popl %fs:0
   addl $4, %esp
@@ -171,7 +171,6 @@ _CallInFrameHandler:
 3:
   cld
   movl 12(%ebp), %esp
-  movl $1, %eax
   jmp 1b
 2:
   movl $1, %eax
@@ -188,6 +187,7 @@ void Call(TGuardedCall* call) {
     call->Body(call->Data);
   } catch (...) {
     call->Exception = std::current_exception();
+    if (!call->Exception) call->Fault = kForeignGccException;
   }
 }
 
@@ -196,11 +196,10 @@ void Call(TGuardedCall* call) {
 std::string RunGuarded(void (*body)(void* data), void* data) {
   ULONG spare = kSpareStack;
   SetThreadStackGuarantee(&spare);
-  TGuardedCall call{body, data, {}, 0};
-  if (CallInFrame(Call, &call) == 0) {
-    if (call.Exception) std::rethrow_exception(call.Exception);
-    return {};
-  }
+  TGuardedCall call{body, data, {}, {}};
+  CallInFrame(Call, &call);
+  if (call.Exception) std::rethrow_exception(call.Exception);
+  if (!call.Fault) return {};
   if (call.Fault == EXCEPTION_STACK_OVERFLOW) _resetstkoflw();  // or the next one would end the process
-  return NameOf(call.Fault);
+  return NameOf(*call.Fault);
 }
