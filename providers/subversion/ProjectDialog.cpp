@@ -7,12 +7,11 @@
 #include "RecentRepositories.h"
 #include "Repository.h"
 #include "SubversionSccStrings.h"
+#include "host/WxText.h"
 
 namespace svnscc {
 namespace {
 
-wxString ToWx(const std::string& text) { return wxString::FromUTF8(text.data(), text.size()); }
-wxString ToWx(const TResString& text) { return wxString::FromUTF8(text.Text); }
 /// The same where a control would read "&" as a mnemonic.
 wxString ToPlainWx(const std::string& text) { return wxControl::EscapeMnemonics(ToWx(text)); }
 
