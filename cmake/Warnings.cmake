@@ -2,7 +2,7 @@
 add_library(warnings INTERFACE)
 target_compile_options(warnings INTERFACE
   -Wall -Wextra -Wpedantic -Werror -Wshadow -Wnon-virtual-dtor -Wold-style-cast -Wcast-align
-  -Woverloaded-virtual -Wconversion -Wsign-conversion -Wnull-dereference -Wformat=2
+  -Woverloaded-virtual -Wconversion -Wsign-conversion -Wformat=2
   # g++ 12 reports these inside libstdc++ for correct code at -O2 (GCC bugs 105329, 105651).
-  -Wno-restrict -Wno-error=null-dereference -Wno-error=stringop-overflow)
+  -Wno-restrict -Wno-error=stringop-overflow)
 target_include_directories(warnings INTERFACE ${CMAKE_SOURCE_DIR}/src)

@@ -15,6 +15,7 @@ set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS
 add_link_options($<$<STREQUAL:$<TARGET_PROPERTY:TYPE>,EXECUTABLE>:${program_resource}>)
 
 include_directories(SYSTEM ${KESTREL_WINDOWS_LIBRARIES}/include)
+add_compile_options(-ffile-prefix-map=${KESTREL_WINDOWS_LIBRARIES}/=)  # no folder of this machine in what is handed on
 
 # The C++ runtime is shared, so that exceptions cross from one module into another.
 set(runtime_libraries)
@@ -26,7 +27,7 @@ foreach(name IN ITEMS libstdc++-6 libgcc_s_seh-1 libgcc_s_dw2-1 libwinpthread-1)
   endif()
 endforeach()
 file(GLOB toolkit_libraries ${KESTREL_WINDOWS_LIBRARIES}/lib/*/wx*.dll)
-list(FILTER toolkit_libraries EXCLUDE REGEX "_(adv|net)_")  # nobody needs them
+list(FILTER toolkit_libraries EXCLUDE REGEX "_(adv|net)_[^/]*$")  # nobody needs them
 list(APPEND runtime_libraries ${toolkit_libraries})
 file(COPY ${runtime_libraries} DESTINATION ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
 install(FILES ${runtime_libraries} DESTINATION .)
