@@ -87,9 +87,6 @@ namespace {
 TStringList addList;
 TStringList removeList;
 
-// A provider that never stops calling must not eat the IDE's memory.
-constexpr std::size_t kMaxPopulated = 4 * kMaxFiles;
-
 scc::Bool SCC_CALL PopListFunc(void*, scc::Bool addKeep, scc::Long, const char* fileName) noexcept try {
   auto& list = addKeep ? addList : removeList;
   if (list.size() >= kMaxPopulated) return 0;

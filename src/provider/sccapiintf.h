@@ -69,6 +69,8 @@ void DecodeQueryStatus(const std::string& fileName, scc::Long status);
 
 /// The most files that one query or list population may carry.
 inline constexpr std::size_t kMaxFiles = 65536;
+/// Of the names that a list callback takes: a provider that never stops calling must not eat the IDE's memory.
+inline constexpr std::size_t kMaxPopulated = 4 * kMaxFiles;
 /// The most bytes of a comment that a provider is handed.
 inline constexpr std::size_t kMaxComment = 128;
 /// Caller-owned status words, one per file; always kMaxFiles of them, and a guard behind.

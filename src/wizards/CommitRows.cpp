@@ -74,9 +74,6 @@ void SortWithoutDuplicates(TStringList& names) {
 /// Where the callback below puts the names, while a population runs; only one runs at a time.
 TStringList* populated = nullptr;
 
-// A provider that never stops calling must not eat the IDE's memory.
-constexpr std::size_t kMaxPopulated = 4 * kMaxFiles;
-
 scc::Bool SCC_CALL TakePopulated(void*, scc::Bool, scc::Long status, const char* fileName) noexcept try {
   constexpr scc::Bool kGoOn = -1;
   constexpr scc::Bool kStop = 0;

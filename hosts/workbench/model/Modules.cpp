@@ -9,9 +9,9 @@
 
 namespace {
 
-/// Of a file that the list in `listFile` names, the same for all the ways to name it there.
-std::string Key(const std::string& listFile, const std::string& stored) {
-  return FoldCase(FromStoredPath(ExtractFileDir(listFile), stored));
+/// Of a file that a list in `directory` names, the same for all the ways to name it there.
+std::string Key(const std::string& directory, const std::string& stored) {
+  return FoldCase(FromStoredPath(directory, stored));
 }
 
 }  // namespace
@@ -54,20 +54,22 @@ std::string TProject::GetModuleFileName(int index) {
 }
 
 int TProject::IndexOfModuleFile(const std::string& fileName) const {
-  const std::string wanted = Key(FileName(), fileName);
+  const std::string directory = ExtractFileDir(FileName());
+  const std::string wanted = Key(directory, fileName);
   const auto& items = definition_.Get().Items();
   const auto found =
-      std::ranges::find_if(items, [&](const auto& item) { return Key(FileName(), item) == wanted; });
+      std::ranges::find_if(items, [&](const auto& item) { return Key(directory, item) == wanted; });
   return found == items.end() ? -1 : static_cast<int>(found - items.begin());
 }
 
 std::size_t TProject::AddModuleFiles(const std::vector<std::string>& fileNames) {
+  const std::string directory = ExtractFileDir(FileName());
   std::unordered_set<std::string> known;
-  for (const auto& item : definition_.Get().Items()) known.insert(Key(FileName(), item));
+  for (const auto& item : definition_.Get().Items()) known.insert(Key(directory, item));
   std::size_t added = 0;
   for (const auto& fileName : fileNames) {
-    if (!known.insert(Key(FileName(), fileName)).second) continue;
-    definition_.Edit().Items().push_back(ToStoredPath(ExtractFileDir(FileName()), fileName));
+    if (!known.insert(Key(directory, fileName)).second) continue;
+    definition_.Edit().Items().push_back(ToStoredPath(directory, fileName));
     ++added;
   }
   return added;
@@ -104,8 +106,9 @@ void TProjectGroup::Add(TProject& project) {
 
 void TProjectGroup::Remove(TProject& project) {
   Detach(project);
-  const std::string gone = Key(FileName(), project.FileName());
-  std::erase_if(definition_.Edit().Items(), [&](const auto& item) { return Key(FileName(), item) == gone; });
+  const std::string directory = ExtractFileDir(FileName());
+  const std::string gone = Key(directory, project.FileName());
+  std::erase_if(definition_.Edit().Items(), [&](const auto& item) { return Key(directory, item) == gone; });
   if (!active_ && !projects_.empty()) SetActive(*projects_.front());
 }
 

@@ -8,7 +8,7 @@
 
 namespace {
 wxString Title(const TResString& caption) {
-  return wxControl::RemoveMnemonics(ToWx(caption.str()).BeforeFirst('.'));
+  return wxControl::RemoveMnemonics(ToWx(caption).BeforeFirst('.'));
 }
 }  // namespace
 

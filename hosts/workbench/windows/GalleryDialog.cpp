@@ -15,7 +15,7 @@ namespace {
 constexpr int kGlyphSize = 32;
 
 wxStaticText* Label(wxWindow* parent, const TResString& text) {
-  return new wxStaticText(parent, wxID_ANY, ToWx(text.str()));
+  return new wxStaticText(parent, wxID_ANY, ToWx(text));
 }
 
 class TGalleryDialog final : public wxDialog {

@@ -16,7 +16,7 @@ wxWindow* CreateGeneralPage(wxWindow* parent, IOTAOptionsPageHost& host) {
   auto* sizer = new wxBoxSizer(wxVERTICAL);
   // Labels are made before their controls: that is how access keys find them.
   const auto addLabel = [&](const TResString& text) {
-    sizer->Add(new wxStaticText(page, wxID_ANY, ToWx(text.str())),
+    sizer->Add(new wxStaticText(page, wxID_ANY, ToWx(text)),
                wxSizerFlags().Border(wxLEFT | wxTOP | wxRIGHT));
   };
   addLabel(sFontSizeLabel);

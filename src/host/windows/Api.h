@@ -9,3 +9,8 @@
 // clang-format on
 
 #undef FreeModule
+
+/// Deletes what a call of the system allocated for its caller.
+struct TLocalFree {
+  void operator()(void* memory) const { LocalFree(memory); }
+};

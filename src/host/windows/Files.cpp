@@ -92,10 +92,6 @@ TTarget FindTarget(const std::string& path) {
 
 // ------------------------------------------------------------------------------------------------- its successor
 
-struct TLocalFree {
-  void operator()(void* memory) const { LocalFree(memory); }
-};
-
 /// A list of permissions and what its folder may add to it.
 struct TPermissions {
   std::unique_ptr<void, TLocalFree> Descriptor;

@@ -15,10 +15,6 @@ std::string IfItFits(std::string text, std::size_t bufferSize) {
 
 DWORD AttributesOf(const std::string& path) { return GetFileAttributesW(ToWideFileName(path).c_str()); }
 
-struct TLocalFree {
-  void operator()(void* memory) const { LocalFree(memory); }
-};
-
 }  // namespace
 
 std::vector<std::string> CommandLineArguments(int, char**) {
