@@ -30,7 +30,7 @@ TEST(MacroParser, NamesTheLineItCannotRead) {
     const char* Macro;
     const char* Message;
   } rows[] = {
-      {"quit\nclick OK\n", "line 2: there is no verb \"click\""},
+      {"quit\nfly OK\n", "line 2: there is no verb \"fly\""},
       {"press\n", "line 1: \"press\" takes 1 arguments, not 0"},
       {"\n\npress a b\n", "line 3: \"press\" takes 1 arguments, not 2"},
       {"note \"open", "line 1: the closing quote is missing"},

@@ -89,6 +89,35 @@ TEST(Workbench, OffersAPackagesCommandsForAFileAndInTheCommandList) {
   EXPECT_THAT(story.Log(), IsSupersetOf({"hail Deck.pas", "cancelled, comment "}));
 }
 
+TEST(Workbench, OpensMenusByMouseAndKeyboard) {
+  TStory story;
+  EXPECT_EQ(story.Play("open Boat.qvxproj\n"
+                       "point menu Crew\n"
+                       "click left\n"
+                       "expect-menu\n"
+                       "point menu \"Crew|Check Out...\"\n"
+                       "click left\n"
+                       "expect \"Crew Files\"\n"
+                       "expect-no-menu\n"
+                       "key Escape\n"
+                       "expect-no-dialog\n"
+                       "key F10\n"
+                       "expect-menu\n"
+                       "key Escape\n"
+                       "expect-no-menu\n"
+                       "point row sub/Deck.pas\n"
+                       "click right\n"
+                       "expect-menu\n"
+                       "key Up\n"
+                       "key Right\n"
+                       "key Return\n"
+                       "expect-no-menu\n"
+                       "quit\n"),
+            0)
+      << story.Output();
+  EXPECT_THAT(story.Log(), IsSupersetOf({"cancelled, comment ", "hail Deck.pas"}));
+}
+
 TEST(Workbench, SurvivesPackagesThatThrow) {
   TStory story;
   EXPECT_EQ(story.Play("open Boat.qvxproj\n"

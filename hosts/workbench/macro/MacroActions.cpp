@@ -116,7 +116,18 @@ std::string TMacroPlayer::DoSelect(const TArguments& arguments) {
 std::string TMacroPlayer::DoPage(const TArguments& arguments) {
   return TurnToPage(Front(), ToWx(arguments[0]));
 }
-std::string TMacroPlayer::DoKey(const TArguments& arguments) { return PressKey(Front(), ToWx(arguments[0])); }
+std::string TMacroPlayer::DoPoint(const TArguments& arguments) {
+  return PointAt(frame_, Front(), arguments[0], arguments[1]);
+}
+std::string TMacroPlayer::DoClick(const TArguments& arguments) { return ClickMouse(arguments[0]); }
+
+std::string TMacroPlayer::DoKey(const TArguments& arguments) {
+  wxTopLevelWindow& window = Front();
+  // Raising a window closes the menu that is open.
+  if (openMenus_.Any() || window.IsActive()) return PressKey(ToWx(arguments[0]));
+  window.Raise();  // also what moves the keyboard to it where there is no window manager
+  return Format(sNotActive, {window.GetTitle().utf8_string()});
+}
 
 std::string TMacroPlayer::DoCell(const TArguments& arguments) {
   return EditCell(Front(), ToWx(arguments[0]), ToWx(arguments[1]), ToWx(arguments[2]));

@@ -117,6 +117,14 @@ std::string TMacroPlayer::DoExpectNoDialog(const TArguments&) {
   return dialog ? Format(sDialogOpen, {dialog->GetTitle().utf8_string()}) : std::string();
 }
 
+std::string TMacroPlayer::DoExpectMenu(const TArguments&) {
+  return openMenus_.Any() ? std::string() : sNoOpenMenu.str();
+}
+
+std::string TMacroPlayer::DoExpectNoMenu(const TArguments&) {
+  return openMenus_.Any() ? sMenuOpen.str() : std::string();
+}
+
 std::string TMacroPlayer::DoExpectText(const TArguments& arguments) {
   return IsShownSomewhere(arguments[0]) ? std::string() : Format(sNoText, {arguments[0]});
 }

@@ -163,6 +163,37 @@ bool SelectIn(wxGrid& grid, const wxString& text) {
   return true;
 }
 
+/// From pixels of `window`.
+wxRect OnScreen(const wxWindow& window, const wxRect& rect) {
+  return {window.ClientToScreen(rect.GetPosition()), rect.GetSize()};
+}
+
+wxRect RowRectIn(wxListCtrl& list, const wxString& text) {
+  const int row = RowWith(list, text);
+  wxRect rect;
+  return row != wxNOT_FOUND && list.GetItemRect(row, rect) ? OnScreen(list, rect) : wxRect();
+}
+
+wxRect RowRectIn(wxTreeCtrl& tree, const wxString& text) {
+  const auto item = TreeItemWith(tree, tree.GetRootItem(), text);
+  wxRect rect;
+  return item.IsOk() && tree.GetBoundingRect(item, rect, true) ? OnScreen(tree, rect) : wxRect();
+}
+
+wxRect RowRectIn(wxGrid& grid, const wxString& text) {
+  const int row = RowWith(grid, text);
+  if (row == wxNOT_FOUND) return {};
+  wxRect rect = grid.CellToRect(row, 0);
+  rect.SetPosition(grid.CalcScrolledPosition(rect.GetPosition()));
+  return OnScreen(*grid.GetGridWindow(), rect);
+}
+
+template <class T>
+wxRect TryRowRect(wxWindow& control, const wxString& text) {
+  T* list = dynamic_cast<T*>(&control);
+  return list ? RowRectIn(*list, text) : wxRect();
+}
+
 template <class T>
 bool TrySelect(wxWindow& control, const wxString& text) {
   T* list = dynamic_cast<T*>(&control);
@@ -287,15 +318,29 @@ std::string ChooseItem(wxWindow& window, const wxString& label, const wxString& 
   return {};
 }
 
-std::string PressKey(wxTopLevelWindow& window, const wxString& name) {
+std::string PressKey(const wxString& name) {
   wxAcceleratorEntry key;
   const wxString alias = name == "Escape" ? wxString("Esc") : name;
   if (!key.FromString("\t" + alias)) return Format(sNoKey, {name.utf8_string()});
-  window.Raise();  // also what moves the keyboard to it where there is no window manager
   int modifiers = wxMOD_NONE;
   if (key.GetFlags() & wxACCEL_CTRL) modifiers |= wxMOD_CONTROL;
   if (key.GetFlags() & wxACCEL_SHIFT) modifiers |= wxMOD_SHIFT;
   if (key.GetFlags() & wxACCEL_ALT) modifiers |= wxMOD_ALT;
   wxUIActionSimulator().Char(key.GetKeyCode(), modifiers);
   return {};
+}
+
+wxRect ButtonRect(wxWindow& window, const wxString& label) {
+  const wxAnyButton* button = FindButton(window, label);
+  return button ? button->GetScreenRect() : wxRect();
+}
+
+wxRect RowRect(wxWindow& window, const wxString& text) {
+  wxRect rect;
+  VisitControls(window, [&](wxWindow& control) {
+    for (const auto find : {TryRowRect<wxListCtrl>, TryRowRect<wxTreeCtrl>, TryRowRect<wxGrid>})
+      if (rect.IsEmpty()) rect = find(control, text);
+    return !rect.IsEmpty();
+  });
+  return rect;
 }

@@ -19,6 +19,9 @@ std::string TurnToPage(wxWindow& window, const wxString& caption);
 std::string TypeText(wxWindow& window, const wxString& label, const wxString& text);
 std::string ChooseItem(wxWindow& window, const wxString& label, const wxString& item);
 /// A key to the window that has the focus, through the system: names as "Escape", "Ctrl+Shift+F1", "A".
-std::string PressKey(wxTopLevelWindow& window, const wxString& name);
+std::string PressKey(const wxString& name);
 /// Whether a button of that label is there and enabled.
 bool HasButton(wxWindow& window, const wxString& label);
+/// Where that button, and where a row of a list, tree or grid that shows `text` is on the screen; empty for nowhere.
+wxRect ButtonRect(wxWindow& window, const wxString& label);
+wxRect RowRect(wxWindow& window, const wxString& text);

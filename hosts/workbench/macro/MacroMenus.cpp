@@ -5,6 +5,7 @@
 #include <wx/tokenzr.h>
 
 #include "workbench/macro/WindowFinder.h"
+#include "workbench/windows/Toolkit.h"
 
 namespace {
 
@@ -21,9 +22,11 @@ wxMenuItem* ItemOf(const wxMenu& menu, const wxString& label) {
 }
 
 void Open(wxFrame& frame, wxMenu& menu) {
-  wxMenuEvent event(wxEVT_MENU_OPEN, 0, &menu);
-  event.SetEventObject(&menu);
-  frame.HandleWindowEvent(event);
+  for (const auto type : {wxEVT_MENU_OPEN, wxEVT_MENU_CLOSE}) {
+    wxMenuEvent event(type, 0, &menu);
+    event.SetEventObject(&menu);
+    frame.HandleWindowEvent(event);
+  }
   menu.UpdateUI();
 }
 
@@ -54,4 +57,11 @@ void ClickMenuItem(wxFrame& frame, const wxMenuItem& item) {
   wxCommandEvent event(wxEVT_MENU, item.GetId());
   event.SetEventObject(item.GetMenu());
   frame.GetMenuBar()->HandleWindowEvent(event);
+}
+
+wxRect MenuRect(const wxMenuBar& bar, const wxString& path) {
+  const wxMenu* menu = TopMenu(bar, path.BeforeFirst('|'));
+  if (!menu || !path.Contains("|")) return menu ? TitleRect(*menu) : wxRect();
+  const wxMenuItem* item = FindMenuItem(*menu, path.AfterFirst('|'));
+  return item ? ItemRect(*item) : wxRect();
 }

@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "workbench/macro/MacroMouse.h"
 #include "workbench/macro/MacroParser.h"
 #include "workbench/macro/MessageBoxes.h"
 #include "workbench/model/CommandLine.h"
@@ -59,8 +60,12 @@ class TMacroPlayer final : public wxTimer {
   std::string DoType(const TArguments& arguments);
   std::string DoChoose(const TArguments& arguments);
   std::string DoKey(const TArguments& arguments);
+  std::string DoPoint(const TArguments& arguments);
+  std::string DoClick(const TArguments& arguments);
   std::string DoExpect(const TArguments& arguments);
   std::string DoExpectNoDialog(const TArguments& arguments);
+  std::string DoExpectMenu(const TArguments& arguments);
+  std::string DoExpectNoMenu(const TArguments& arguments);
   std::string DoExpectText(const TArguments& arguments);
   std::string DoExpectNoText(const TArguments& arguments);
   std::string DoExpectMessage(const TArguments& arguments);
@@ -89,6 +94,7 @@ class TMacroPlayer final : public wxTimer {
   std::function<void(int)> end_;
   std::string screenshots_;
   TMessageBoxes messageBoxes_;
+  TOpenMenus openMenus_;
   std::vector<TMacroStep> steps_;
   std::size_t next_ = 0;
   bool retrying_ = false;
