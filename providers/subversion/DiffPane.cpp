@@ -97,10 +97,17 @@ void DiffPane::MarkRow(int row, const DiffRow& what, const FileDiff& diff) {
 void DiffPane::ScrollWith(DiffPane& other) {
   Bind(wxEVT_STC_UPDATEUI, [this, &other](wxStyledTextEvent& event) {
     event.Skip();
-    if (other.GetFirstVisibleLine() != GetFirstVisibleLine())
-      other.SetFirstVisibleLine(GetFirstVisibleLine());
-    if (other.GetXOffset() != GetXOffset()) other.SetXOffset(GetXOffset());
+    const wxPoint place(GetXOffset(), GetFirstVisibleLine());
+    if (std::exchange(scrolledTo_, place) == place) return;
+    // The event comes while this pane is painted, when the other one may not be touched.
+    CallAfter([this, &other] { other.ScrollTo(scrolledTo_); });
   });
+}
+
+void DiffPane::ScrollTo(wxPoint place) {
+  scrolledTo_ = place;
+  if (GetFirstVisibleLine() != place.y) SetFirstVisibleLine(place.y);
+  if (GetXOffset() != place.x) SetXOffset(place.x);
 }
 
 void DiffPane::CopyWithoutFillers(wxStyledTextEvent& event) {

@@ -19,9 +19,11 @@ class DiffPane : public TextPane {
   void MarkRow(int row, const DiffRow& what, const FileDiff& diff);
   int NumberOf(const DiffRow& row) const { return side_ == DiffSideOf::Left ? row.Left : row.Right; }
   void CopyWithoutFillers(wxStyledTextEvent& event);
+  void ScrollTo(wxPoint place);
 
   DiffSideOf side_;
   std::vector<bool> isFiller_;  // by row
+  wxPoint scrolledTo_;          // what the other pane knows: pixels to the right, first row shown
 };
 
 }  // namespace svnscc

@@ -106,10 +106,10 @@ wxSizer* DiffWindow::CreatePanes() {
   for (DiffPane* pane : {leftPane_, rightPane_}) {
     pane->SetMinSize(FromDIP(wxSize(120, 80)));
     grid->Add(pane, wxSizerFlags().Expand());
-    // Where the user is decides what is next.
+    // The caret's row decides what is next.  The event comes while the pane is painted: other windows follow later.
     pane->Bind(wxEVT_STC_UPDATEUI, [this](wxStyledTextEvent& event) {
       event.Skip();
-      if ((event.GetUpdated() & wxSTC_UPDATE_SELECTION) != 0) ShowState();
+      if ((event.GetUpdated() & wxSTC_UPDATE_SELECTION) != 0) CallAfter([this] { ShowState(); });
     });
   }
   return grid;
