@@ -14,13 +14,9 @@ wxString Title(const TResString& caption) {
 
 TFindReplace::TFindReplace(wxWindow* parent, std::function<wxStyledTextCtrl*()> editor,
                            std::function<void(const std::string&)> status)
-    : parent_(parent), editor_(std::move(editor)), status_(std::move(status)) {
-  Bind(wxEVT_FIND, [this](wxFindDialogEvent&) { Step(); });
-  Bind(wxEVT_FIND_NEXT, [this](wxFindDialogEvent&) { Step(); });
-  Bind(wxEVT_FIND_REPLACE, [this](wxFindDialogEvent&) { ReplaceOne(); });
-  Bind(wxEVT_FIND_REPLACE_ALL, [this](wxFindDialogEvent&) { ReplaceAll(); });
-  Bind(wxEVT_FIND_CLOSE, [this](wxFindDialogEvent&) { dialog_->Destroy(); });
-}
+    : parent_(parent), editor_(std::move(editor)), status_(std::move(status)) {}
+
+TFindReplace::~TFindReplace() { delete dialog_.get(); }
 
 void TFindReplace::Show(bool replace) {
   if (dialog_) dialog_->Destroy();
@@ -30,11 +26,11 @@ void TFindReplace::Show(bool replace) {
   }
   dialog_ = new wxFindReplaceDialog(parent_, &data_, Title(replace ? sReplace : sFind),
                                     replace ? wxFR_REPLACEDIALOG : 0);
-  dialog_->PushEventHandler(this);
-  dialog_->Bind(wxEVT_DESTROY, [this](wxWindowDestroyEvent& event) {
-    if (event.GetEventObject() == dialog_.get()) dialog_->RemoveEventHandler(this);
-    event.Skip();
-  });
+  for (const auto type : {wxEVT_FIND, wxEVT_FIND_NEXT})
+    dialog_->Bind(type, [this](wxFindDialogEvent&) { Step(); });
+  dialog_->Bind(wxEVT_FIND_REPLACE, [this](wxFindDialogEvent&) { ReplaceOne(); });
+  dialog_->Bind(wxEVT_FIND_REPLACE_ALL, [this](wxFindDialogEvent&) { ReplaceAll(); });
+  dialog_->Bind(wxEVT_FIND_CLOSE, [dialog = dialog_.get()](wxFindDialogEvent&) { dialog->Destroy(); });
   dialog_->Show();
 }
 

@@ -2,17 +2,22 @@
 #pragma once
 
 #include <wx/fdrepdlg.h>
+#include <wx/weakref.h>
 
 #include <functional>
 #include <string>
 
 class wxStyledTextCtrl;
 
-class TFindReplace final : public wxEvtHandler {
+class TFindReplace final {
  public:
   /// `editor` answers the editor to search, nullptr for none; `status` shows a line to the user.
   TFindReplace(wxWindow* parent, std::function<wxStyledTextCtrl*()> editor,
                std::function<void(const std::string&)> status);
+  TFindReplace(const TFindReplace&) = delete;
+  TFindReplace& operator=(const TFindReplace&) = delete;
+  /// Takes its dialog with it.
+  ~TFindReplace();
   void Show(bool replace);
   /// Finds the last text again; asks for one when there was none.
   void FindNext();
