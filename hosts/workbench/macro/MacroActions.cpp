@@ -7,12 +7,14 @@
 #include "host/WxText.h"
 #include "workbench/macro/MacroControls.h"
 #include "workbench/macro/MacroMenus.h"
+#include "workbench/macro/MacroMouse.h"
 #include "workbench/macro/MacroPlayer.h"
 #include "workbench/macro/MacroStrings.h"
 #include "workbench/macro/WindowFinder.h"
 #include "workbench/windows/EditorBook.h"
 #include "workbench/windows/MainFrame.h"
 #include "workbench/windows/ModalStack.h"
+#include "workbench/windows/OpenMenus.h"
 
 namespace {
 
@@ -124,7 +126,7 @@ std::string TMacroPlayer::DoClick(const TArguments& arguments) { return ClickMou
 std::string TMacroPlayer::DoKey(const TArguments& arguments) {
   wxTopLevelWindow& window = Front();
   // Raising a window closes the menu that is open.
-  if (openMenus_.Any() || window.IsActive()) return PressKey(ToWx(arguments[0]));
+  if (TOpenMenus::Any() || window.IsActive()) return PressKey(ToWx(arguments[0]));
   window.Raise();  // also what moves the keyboard to it where there is no window manager
   return Format(sNotActive, {window.GetTitle().utf8_string()});
 }

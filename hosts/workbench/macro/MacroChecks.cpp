@@ -17,6 +17,7 @@
 #include "workbench/windows/EditorBook.h"
 #include "workbench/windows/MainFrame.h"
 #include "workbench/windows/ModalStack.h"
+#include "workbench/windows/OpenMenus.h"
 
 namespace {
 
@@ -118,11 +119,11 @@ std::string TMacroPlayer::DoExpectNoDialog(const TArguments&) {
 }
 
 std::string TMacroPlayer::DoExpectMenu(const TArguments&) {
-  return openMenus_.Any() ? std::string() : sNoOpenMenu.str();
+  return TOpenMenus::Any() ? std::string() : sNoOpenMenu.str();
 }
 
 std::string TMacroPlayer::DoExpectNoMenu(const TArguments&) {
-  return openMenus_.Any() ? sMenuOpen.str() : std::string();
+  return TOpenMenus::Any() ? sMenuOpen.str() : std::string();
 }
 
 std::string TMacroPlayer::DoExpectText(const TArguments& arguments) {

@@ -78,13 +78,3 @@ std::string ClickMouse(const std::string& button) {
   wxUIActionSimulator().MouseClick(row->Button);
   return {};
 }
-
-TOpenMenus::TOpenMenus() { wxEvtHandler::AddFilter(this); }
-TOpenMenus::~TOpenMenus() { wxEvtHandler::RemoveFilter(this); }
-
-int TOpenMenus::FilterEvent(wxEvent& event) {
-  const auto* menu = dynamic_cast<const wxMenuEvent*>(&event);
-  if (menu && event.GetEventType() == wxEVT_MENU_OPEN) open_.insert(menu->GetMenu());
-  if (menu && event.GetEventType() == wxEVT_MENU_CLOSE) open_.erase(menu->GetMenu());
-  return Event_Skip;
-}

@@ -1,13 +1,9 @@
 // Working the program with the real mouse: the system sees a pointer, buttons and a wheel, as from a user's hand.
 #pragma once
 
-#include <wx/event.h>
-
-#include <set>
 #include <string>
 
 class TMainFrame;
-class wxMenu;
 class wxTopLevelWindow;
 
 /// Moves the pointer onto the middle of what `kind` and `text` name: a "menu" of `frame` or an item of one that is open
@@ -18,16 +14,3 @@ std::string PointAt(TMainFrame& frame, wxTopLevelWindow& window, const std::stri
 /// One click of "left", "middle" or "right", or one notch "up" or "down" of the wheel, where the pointer is.  Answers
 /// an empty text, or that there is no such button.
 std::string ClickMouse(const std::string& button);
-
-/// Which menus are open, told by their own events.
-class TOpenMenus final : private wxEventFilter {
- public:
-  TOpenMenus();
-  ~TOpenMenus() override;
-  bool Any() const { return !open_.empty(); }
-
- private:
-  int FilterEvent(wxEvent& event) override;
-
-  std::set<const wxMenu*> open_;
-};

@@ -9,7 +9,6 @@
 #include <string>
 #include <vector>
 
-#include "workbench/macro/MacroMouse.h"
 #include "workbench/macro/MacroParser.h"
 #include "workbench/macro/MessageBoxes.h"
 #include "workbench/model/CommandLine.h"
@@ -94,7 +93,6 @@ class TMacroPlayer final : public wxTimer {
   std::function<void(int)> end_;
   std::string screenshots_;
   TMessageBoxes messageBoxes_;
-  TOpenMenus openMenus_;
   std::vector<TMacroStep> steps_;
   std::size_t next_ = 0;
   bool retrying_ = false;

@@ -19,6 +19,7 @@
 #include "workbench/windows/IdeServices.h"
 #include "workbench/windows/MainFrame.h"
 #include "workbench/windows/ModalStack.h"
+#include "workbench/windows/OpenMenus.h"
 #include "workbench/windows/Toolkit.h"
 
 namespace {
@@ -57,6 +58,7 @@ bool TWorkbenchApp::OnInit() {
   ShowMenuImages();
   SetBeepHandler([](TBeep) { wxBell(); });
   modals_ = std::make_unique<TModalStack>();
+  menus_ = std::make_unique<TOpenMenus>();
   services_ = std::make_unique<TIdeServices>([this](const std::string& line) { Log(line); });
   packages_ = std::make_unique<TPackageLoader>(services_->Guard());
   for (const auto& package : PackagesToLoad(line_, services_->Options())) packages_->Load(package);
@@ -120,8 +122,12 @@ void TWorkbenchApp::EndProgram(int exitCode) {
 void TWorkbenchApp::EndStep() {
   // A dialog returns to the code that opened it, and that may open the next one: so one per round.
   if (++endSteps_ > kMaxEndSteps) std::_Exit(exitCode_ ? exitCode_ : kExitFailed);
-  if (wxDialog* dialog = TModalStack::Top()) {
-    if (dialog->IsModal())
+  wxDialog* dialog = TModalStack::Top();
+  const bool menu = TOpenMenus::Any();
+  if (dialog || menu) {
+    if (menu)
+      TOpenMenus::Close();  // what opened it runs a loop of its own until then
+    else if (dialog->IsModal())
       dialog->EndModal(wxID_CANCEL);
     else
       wxUIActionSimulator().Char(WXK_ESCAPE);  // a box of the system's own, which the toolkit cannot end

@@ -17,6 +17,7 @@ class TMainFrame;
 class TIdeServices;
 class TPackageLoader;
 class TModalStack;
+class TOpenMenus;
 
 class TWorkbenchApp final : public wxApp {
  public:
@@ -29,17 +30,17 @@ class TWorkbenchApp final : public wxApp {
   /// The toolkit found itself misused: a line for the user, instead of a box that stops everything.
   void OnAssertFailure(const wxChar* file, int line, const wxChar* function, const wxChar* condition,
                        const wxChar* message) override;
-  /// Cancels the dialogs that are open, then ends the program without asking about unsaved changes.
+  /// Closes the menus and cancels the dialogs that are open, then ends the program without asking about unsaved changes.
   void EndProgram(int exitCode);
 
  private:
-  void LoadPackages();
   void Log(const std::string& line);
   void TakeApart();
   void EndStep();
 
   TCommandLine line_;
   std::unique_ptr<TModalStack> modals_;
+  std::unique_ptr<TOpenMenus> menus_;
   std::unique_ptr<TIdeServices> services_;
   std::unique_ptr<TPackageLoader> packages_;
   std::unique_ptr<TMacroPlayer> player_;

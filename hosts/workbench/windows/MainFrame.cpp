@@ -61,7 +61,10 @@ TMainFrame::TMainFrame(TIdeServices& services)
     event.Skip();
     if (event.GetActive()) CallAfter([this] { LookAtDisk(); });
   });
-  ShowState();
+  Bind(wxEVT_IDLE, [this](wxIdleEvent& event) {
+    event.Skip();
+    if (!std::exchange(stateShown_, true)) ShowState();
+  });
 }
 
 TMainFrame::~TMainFrame() {
@@ -83,7 +86,7 @@ void TMainFrame::CreateWindows() {
   rows_ = new wxSplitterWindow(columns_, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxSP_LIVE_UPDATE);
   book_ =
       new TEditorBook(rows_,
-                      {[this] { ShowState(); },
+                      {[this] { StateChanged(); },
                        [this](TTextEditor& editor) {
                          Attempt([&] {
                            if (auto* module = session_.Modules().Find(editor.FileName()))
@@ -138,6 +141,11 @@ void TMainFrame::SaveWindowState() {
 
 void TMainFrame::AddMessage(const std::string& line) { messages_->AddLine(line); }
 
+void TMainFrame::StateChanged() {
+  stateShown_ = false;
+  wxWakeUpIdle();
+}
+
 void TMainFrame::ShowState() {
   const TEditorPage* page = book_ ? book_->FrontPage() : nullptr;
   const TProject* project = session_.ActiveProject();
@@ -172,7 +180,7 @@ TTextEditor* TMainFrame::ActiveEditor() {
 
 void TMainFrame::ProjectsChanged() {
   tree_->Rebuild();
-  ShowState();
+  StateChanged();
 }
 
 TSaveAnswer TMainFrame::AskSave(const std::string& fileName) {

@@ -62,6 +62,9 @@ class TMainFrame final : public wxFrame, public ISessionUi {
   void OnCommand(wxCommandEvent& event);
   void OnUpdateCommand(wxUpdateUIEvent& event);
   void OnClose(wxCloseEvent& event);
+  /// Caret, state or title may be others now: they are shown as soon as nothing else is to be done.  Editors say so
+  /// while they are painted, when no other window may be touched.
+  void StateChanged();
   void ShowState();
   void SaveWindowState();
   void AddWizards();
@@ -136,5 +139,6 @@ class TMainFrame final : public wxFrame, public ISessionUi {
   TEditorBook* book_ = nullptr;
   TMessagePane* messages_ = nullptr;
   wxString hintedFile_;
+  bool stateShown_ = false;
   bool lookingAtDisk_ = false;
 };

@@ -73,6 +73,17 @@ wxRect ItemRect(const wxMenuItem& item) {
   }(item);
 }
 
+void CloseMenu(wxMenu& menu) {
+  const TLibrary gtk("libgtk-3.so.0");
+  const auto cancel = gtk.Find<void (*)(void* menuShell)>("gtk_menu_shell_cancel");
+  [&](auto& m) {
+    if constexpr (requires { m.m_menu; })
+      if (cancel) cancel(m.m_menu);
+  }(menu);
+  const TLibrary user("user32.dll");
+  if (const auto end = user.Find<int (*)()>("EndMenu")) end();
+}
+
 void TurnWheel(bool up) {
   const TLibrary x11("libX11.so.6");
   const TLibrary test("libXtst.so.6");

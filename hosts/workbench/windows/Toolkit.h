@@ -16,5 +16,7 @@ void ShowMenuImages();
 /// Where the title of a menu of the menu bar, and where an item of an open menu is on the screen; empty for nowhere.
 wxRect TitleRect(const wxMenu& menu);
 wxRect ItemRect(const wxMenuItem& item);
+/// Closes a menu that is open, and those that belong to it, as Escape does.
+void CloseMenu(wxMenu& menu);
 /// Turns the mouse's wheel by one notch where the pointer is, as a user's hand does.
 void TurnWheel(bool up);

@@ -1,0 +1,32 @@
+#include "workbench/windows/OpenMenus.h"
+
+#include "workbench/windows/Toolkit.h"
+
+namespace {
+TOpenMenus* theMenus = nullptr;
+}
+
+TOpenMenus::TOpenMenus() {
+  theMenus = this;
+  wxEvtHandler::AddFilter(this);
+}
+
+TOpenMenus::~TOpenMenus() {
+  wxEvtHandler::RemoveFilter(this);
+  theMenus = nullptr;
+}
+
+bool TOpenMenus::Any() { return theMenus && !theMenus->open_.empty(); }
+
+void TOpenMenus::Close() {
+  const auto open = theMenus ? theMenus->open_ : std::set<wxMenu*>();
+  for (wxMenu* menu : open)
+    if (theMenus->open_.contains(menu)) CloseMenu(*menu);  // closing one closes those that belong to it
+}
+
+int TOpenMenus::FilterEvent(wxEvent& event) {
+  const auto* menu = dynamic_cast<const wxMenuEvent*>(&event);
+  if (menu && event.GetEventType() == wxEVT_MENU_OPEN) open_.insert(menu->GetMenu());
+  if (menu && event.GetEventType() == wxEVT_MENU_CLOSE) open_.erase(menu->GetMenu());
+  return Event_Skip;
+}
