@@ -2,6 +2,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <csignal>
+
 #include "Story.h"
 #include "host/System.h"
 
@@ -116,6 +118,55 @@ TEST(Workbench, OpensMenusByMouseAndKeyboard) {
             0)
       << story.Output();
   EXPECT_THAT(story.Log(), IsSupersetOf({"cancelled, comment ", "hail Deck.pas"}));
+}
+
+TEST(Workbench, ShowsTheEditorsOwnMenuAndEndsWithAMenuOpen) {
+  TStory story;
+  const std::string menus =
+      "open Boat.qvxproj\n"
+      "open Main.pas\n"
+      "point editor Main.pas\n"
+      "click right\n"
+      "expect-menu\n"
+      "expect-text \"Ln 3, Col 1\"\n"
+      "key Escape\n"
+      "expect-no-menu\n"
+      "point row Main.pas\n"
+      "point editor Main.pas\n"
+      "click right\n"
+      "expect-menu\n";
+  EXPECT_EQ(story.Play(menus + "key Escape\nexpect-no-menu\nquit\n"), 0) << story.Output();
+  for (const auto* open : {"", "key Escape\nexpect-no-menu\nkey F10\nexpect-menu\n"})
+    EXPECT_EQ(story.Play(menus + open + "run \"kill -TERM $PPID\"\nexpect-no-menu\nwait 60000\n"),
+              128 + SIGTERM)
+        << story.Output();
+  EXPECT_EQ(story.Log().back(), "unloaded");
+}
+
+TEST(Workbench, FindsAndReplacesInOneDialogThatEndsWithTheProgram) {
+  TStory story;
+  EXPECT_EQ(story.Play("open Main.pas\n"
+                       "key Ctrl+F\n"
+                       "expect Find\n"
+                       "key E\n"
+                       "key N\n"
+                       "key Return\n"
+                       "expect-text \"Ln 2, Col 1\"\n"
+                       "menu Search|Replace...\n"
+                       "expect Replace\n"
+                       "type \"Replace with\" EN\n"
+                       "press \"Replace all\"\n"
+                       "expect-editor Main.pas ENd.\n"
+                       "key Escape\n"
+                       "expect-no-text \"Replace with\"\n"
+                       "save\n"
+                       "menu Search|Find...\n"
+                       "expect Find\n"
+                       "menu File|Exit\n"
+                       "wait 60000\n"),
+            0)
+      << story.Output();
+  EXPECT_THAT(story.Output(), Not(HasSubstr("wincmn"))) << "the toolkit complains";
 }
 
 TEST(Workbench, SurvivesPackagesThatThrow) {
