@@ -1,10 +1,11 @@
 // The project mapping file: an INI file beside the project that binds it to a provider project, one section per
-// provider display name.  Rewriting keeps order, comments and everything it does not understand.
+// provider display name.  A change of one key leaves every other byte as it is.
 #pragma once
 
-#include <memory>
 #include <string>
 #include <vector>
+
+#include "host/IniText.h"
 
 inline constexpr const char* kMappingExtension = ".cdp";
 
@@ -22,24 +23,21 @@ class TMappingFile {
   /// Reads the file; a missing one is empty.  Throws std::runtime_error with a sentence that names the file when it
   /// cannot be read or holds binary data.
   explicit TMappingFile(std::string path);
-  ~TMappingFile();
 
   /// Section names in the order of the file.
   std::vector<std::string> Sections() const;
   bool HasSection(const std::string& section) const;
   bool HasKey(const std::string& section, const std::string& key) const;
-  /// Empty, or a sentence about the first line that is neither header, comment nor key and value.
+  /// Empty, or a sentence about the first damaged line.
   std::string Damage() const;
   /// Empty when section or key is missing.
   std::string Read(const std::string& section, const std::string& key) const;
-  /// Changes one key and stores the file at once, wholly or not at all.  Does not touch the disk when the key has that
-  /// value already.  Throws std::runtime_error with a sentence that names the file when it cannot be stored, or when
-  /// rewriting it would lose a damaged line.
+  /// Reads the file again, as others write it too, changes one key and stores the file at once, wholly or not at all.
+  /// Writes nothing when the key has that value already.  Throws std::runtime_error with a sentence that names the file
+  /// when it cannot be read or stored, or has a damaged line.
   void Write(const std::string& section, const std::string& key, const std::string& value);
 
  private:
-  struct TIni;
   std::string path_;
-  std::string text_;
-  std::unique_ptr<TIni> ini_;
+  TIniText ini_;
 };

@@ -34,7 +34,8 @@ class TRegistry {
   void WriteString(const std::string& name, const std::string& value);
   /// False when there was nothing that the user may delete: what the machine's administrator set stays.
   bool DeleteValue(const std::string& name);
-  /// Removes a key with its values and everything below it.  Needs no open key.  False when it was not there.
+  /// Removes a key with its values and everything below it.  Needs no open key.  False when it was not there.  A root
+  /// is refused: std::runtime_error.
   bool DeleteKey(const std::string& key);
 
  private:

@@ -18,6 +18,9 @@ struct TResString {
   std::string str() const { return Text; }
 };
 
+/// How lines end in the platform's text files.
+extern const std::string_view LineEnd;
+
 /// One argument of Format.
 using TFormatArg = std::variant<std::string, long long>;
 

@@ -42,6 +42,7 @@ TEST_F(Registry, DeletesValuesAndKeysWithAllBelow) {
   EXPECT_TRUE(registry.DeleteKey("software\\a"));
   EXPECT_FALSE(registry.DeleteKey("Software\\A"));
   EXPECT_FALSE(KeyExists("Software\\A\\SCC"));
+  for (const char* root : {"", "\\"}) EXPECT_THROW(registry.DeleteKey(root), std::runtime_error);
 
   registry.OpenKey("Software\\AB");
   EXPECT_EQ(registry.ReadString("name"), "value") << "a key that is open for writing can be read";

@@ -4,7 +4,6 @@
 #include <charconv>
 #include <stdexcept>
 
-#include "host/Ini.h"
 #include "host/Paths.h"
 #include "workbench/model/ModelStrings.h"
 
@@ -15,97 +14,39 @@ constexpr int kVersion = 1;
 constexpr TPathListFile::TLayout kProject{"Project", "Modules", "Module"};
 constexpr TPathListFile::TLayout kGroup{"Group", "Projects", "Project"};
 
-using TIni = CSimpleIniCaseA;
-
-// INI values lose blanks at their ends and cannot hold control characters, but file names can have both.
-bool NeedsEscape(const std::string& text, std::size_t at) {
-  const auto c = static_cast<unsigned char>(text[at]);
-  const bool atEnd = at == 0 || at + 1 == text.size();
-  return c < 0x20 || c == 0x7F || c == '%' || (c == ' ' && atEnd);
-}
-
-std::string Escape(const std::string& text) {
-  static constexpr char kDigits[] = "0123456789ABCDEF";
-  std::string out;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    if (!NeedsEscape(text, i)) {
-      out += text[i];
-      continue;
-    }
-    const auto c = static_cast<unsigned char>(text[i]);
-    out += {'%', kDigits[c >> 4], kDigits[c & 15]};
-  }
-  return out;
-}
-
-std::string Unescape(std::string_view text) {
-  std::string out;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    unsigned char value = 0;
-    const char* digits = text.data() + i + 1;
-    if (text[i] == '%' && i + 2 < text.size() &&
-        std::from_chars(digits, digits + 2, value, 16).ptr == digits + 2) {
-      out += static_cast<char>(value);
-      i += 2;
-    } else {
-      out += text[i];
-    }
-  }
-  return out;
-}
-
-void Load(TIni& ini, std::string_view text) {
-  ini.SetMultiKey(true);
-  ini.SetSpaces(false);
-  if (ini.LoadData(text.data(), text.size()) < 0) throw std::runtime_error(sUnreadableList);
+/// What is no number counts as this version.
+int VersionOf(const TIniText& ini, const char* section) {
+  int version = kVersion;
+  const auto text = ini.Value(section, kVersionKey).value_or("");
+  std::from_chars(text.data(), text.data() + text.size(), version);
+  return version;
 }
 
 }  // namespace
 
+TPathListFile::TPathListFile(const TLayout& layout) : layout_(&layout) {
+  ini_.SetValue(layout.Head, kVersionKey, std::to_string(kVersion));
+}
+
 void TPathListFile::Read(std::string_view text) {
-  TIni ini;
-  Load(ini, text);
-  if (!ini.GetSection(layout_->Head)) throw std::runtime_error(Format(sNotThisKind, {layout_->Head}));
-  if (ini.GetLongValue(layout_->Head, kVersionKey, kVersion) > kVersion)
-    throw std::runtime_error(sNewerVersion);
-  original_ = text;
-  head_.clear();
-  items_.clear();
-  TIni::TNamesDepend keys;
-  ini.GetAllKeys(layout_->Head, keys);
-  for (const auto& key : keys) head_.emplace_back(key.pItem, ini.GetValue(layout_->Head, key.pItem, ""));
-  TIni::TNamesDepend values;
-  ini.GetAllValues(layout_->List, layout_->Item, values);
-  values.sort(TIni::Entry::LoadOrder());
-  for (const auto& value : values) items_.push_back(Unescape(value.pItem));
+  if (!TIniText::IsText(text)) throw std::runtime_error(sUnreadableList);
+  const TIniText ini(text, TIniText::TPercent::Escape);
+  if (!ini.HasSection(layout_->Head)) throw std::runtime_error(Format(sNotThisKind, {layout_->Head}));
+  if (VersionOf(ini, layout_->Head) > kVersion) throw std::runtime_error(sNewerVersion);
+  ini_ = ini;
+  items_ = ini_.Values(layout_->List, layout_->Item);
 }
 
 std::string TPathListFile::Text() const {
-  TIni ini;
-  Load(ini, original_);
-  if (original_.empty()) ini.SetLongValue(layout_->Head, kVersionKey, kVersion, nullptr, false, true);
-  for (const auto& [key, value] : head_)
-    ini.SetValue(layout_->Head, key.c_str(), value.c_str(), nullptr, true);
-  ini.Delete(layout_->List, layout_->Item);
-  for (const auto& item : items_) ini.SetValue(layout_->List, layout_->Item, Escape(item).c_str());
-  std::string out;
-  ini.Save(out);
-  return out;
+  auto ini = ini_;
+  ini.SetValues(layout_->List, layout_->Item, items_);
+  return ini.Text();
 }
 
-std::string TPathListFile::Head(const char* key) const {
-  for (const auto& [name, value] : head_)
-    if (name == key) return Unescape(value);
-  return {};
-}
+std::string TPathListFile::Head(const char* key) const { return ini_.Value(layout_->Head, key).value_or(""); }
 
 void TPathListFile::SetHead(const char* key, const std::string& value) {
-  for (auto& [name, old] : head_)
-    if (name == key) {
-      old = Escape(value);
-      return;
-    }
-  head_.emplace_back(key, Escape(value));
+  ini_.SetValue(layout_->Head, key, value);
 }
 
 TProjectFile::TProjectFile() : TPathListFile(kProject) {}

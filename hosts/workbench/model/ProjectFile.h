@@ -5,13 +5,15 @@
 #include <string_view>
 #include <vector>
 
+#include "host/IniText.h"
+
 inline constexpr const char* kProjectExt = ".qvxproj";
 inline constexpr const char* kGroupExt = ".qvxgroup";
 inline constexpr const char* kUnitExt = ".pas";
 inline constexpr const char* kFormExt = ".kfm";
 
 /// What both kinds of file have in common.  Paths are stored relative to the file's directory, with '/'.
-/// Sections, keys and comments that this program does not know survive a change.
+/// A change leaves every other byte of the text as it is.
 class TPathListFile {
  public:
   /// Each kind's section and key names, its list's included.
@@ -26,7 +28,7 @@ class TPathListFile {
   std::string Text() const;
 
  protected:
-  explicit TPathListFile(const TLayout& layout) : layout_(&layout) {}
+  explicit TPathListFile(const TLayout& layout);
   /// Throws std::runtime_error with a sentence for the user when `text` is not of this layout.
   void Read(std::string_view text);
   std::string Head(const char* key) const;
@@ -34,8 +36,7 @@ class TPathListFile {
 
  private:
   const TLayout* layout_;
-  std::string original_;
-  std::vector<std::pair<std::string, std::string>> head_;
+  TIniText ini_{{}, TIniText::TPercent::Escape};
   std::vector<std::string> items_;
 };
 

@@ -2,6 +2,7 @@
 
 #include <stdexcept>
 
+#include "host/RegistryKey.h"
 #include "host/posix/RegistryLayers.h"
 
 struct TRegistry::TImpl {
@@ -53,4 +54,7 @@ bool TRegistry::DeleteValue(const std::string& name) {
   return impl_->Layers.DeleteValue(impl_->Key, name);
 }
 
-bool TRegistry::DeleteKey(const std::string& key) { return impl_->Layers.DeleteKey(key); }
+bool TRegistry::DeleteKey(const std::string& key) {
+  RequireBelowRoot(key);
+  return impl_->Layers.DeleteKey(key);
+}

@@ -3,24 +3,21 @@
 //   [Software\SourceCodeControlProvider\InstalledSCCProviders]
 //   Subversion=Software\Subversion\SCC
 //
-// What INI text cannot hold is written so that the rest stays as a person would type it: a text that begins or ends
-// with a blank or is quoted itself, and a name that is empty or begins like a comment or a section, stands in double
-// quotes; control characters, and in names '=' and ']', stand as %XX (two upper-case hexadecimal digits), and a percent
-// sign that would read as such an escape stands as %25.
+// IniText.h says how names and values are written.
 #pragma once
 
 #include <functional>
-#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
+#include "host/IniText.h"
+
 /// The contents of one store file.  Keys and names compare ignoring case; order is the file's.
 class TRegistryStore {
  public:
-  /// Parses INI text; lines that are none are ignored.
+  /// Damaged lines of the INI text are kept and ignored.
   explicit TRegistryStore(const std::string& text);
-  ~TRegistryStore();
   /// What can be read of the file; nothing of it when it is missing, unreadable or no text.
   static TRegistryStore Read(const std::string& path);
   /// Reads the file, lets `change` work on it and writes it back when that answers true.  Others that update it wait
@@ -36,12 +33,13 @@ class TRegistryStore {
   // These answer whether they changed anything.
   bool SetValue(const std::string& key, const std::string& name, const std::string& value);
   bool DeleteValue(const std::string& key, const std::string& name);
-  /// Deletes the key with everything below it.
+  /// Deletes the key with everything below it.  `key` must not be a root.
   bool DeleteKey(const std::string& key);
 
-  std::string Text() const;
+  std::string Text() const { return ini_.Text(); }
 
  private:
-  struct TIni;
-  std::unique_ptr<TIni> ini_;
+  std::vector<std::string> SectionsAtOrBelow(const std::string& key) const;
+
+  TIniText ini_;
 };

@@ -7,6 +7,8 @@
 #include <array>
 #include <cwchar>
 
+const std::string_view LineEnd = "\n";
+
 namespace {
 
 /// Makes this thread read and write UTF-8, whatever locale the program runs in.  Case tables need no more than the

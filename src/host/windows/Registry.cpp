@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <stdexcept>
 
+#include "host/RegistryKey.h"
 #include "host/windows/Api.h"
 #include "host/windows/Wide.h"
 
@@ -13,14 +14,8 @@ namespace {
                            SystemMessage(static_cast<unsigned long>(error)));
 }
 
-/// Keys are written with one backslash between two names, and none at the ends, whatever the caller has.
-std::wstring CanonicalKey(const std::string& key) {
-  std::string canonical;
-  for (const char c : key)
-    if (c != '\\' || (!canonical.empty() && canonical.back() != '\\')) canonical += c;
-  if (!canonical.empty() && canonical.back() == '\\') canonical.pop_back();
-  return ToWide(canonical);
-}
+/// As the system's calls take it.
+std::wstring WideKey(const std::string& key) { return ToWide(CanonicalKey(key)); }
 
 HKEY RootOf(TRegRoot root) { return root == TRegRoot::LocalMachine ? HKEY_LOCAL_MACHINE : HKEY_CURRENT_USER; }
 
@@ -36,13 +31,13 @@ struct TRegistry::TImpl {
   void CreateKey() {
     if (!Writable) throw std::runtime_error("No registry key is open for writing.");
     if (Key) return;
-    const auto error = RegCreateKeyExW(Root, CanonicalKey(Name).c_str(), 0, nullptr, 0,
-                                       KEY_READ | KEY_SET_VALUE, nullptr, &Key, nullptr);
+    const auto error = RegCreateKeyExW(Root, WideKey(Name).c_str(), 0, nullptr, 0, KEY_READ | KEY_SET_VALUE,
+                                       nullptr, &Key, nullptr);
     if (error != ERROR_SUCCESS) Fail(Name, error);
   }
   /// The open key, or nothing: reading from nothing fails.
   bool Open(REGSAM access) {
-    return Key || RegOpenKeyExW(Root, CanonicalKey(Name).c_str(), 0, access, &Key) == ERROR_SUCCESS;
+    return Key || RegOpenKeyExW(Root, WideKey(Name).c_str(), 0, access, &Key) == ERROR_SUCCESS;
   }
 };
 
@@ -121,7 +116,8 @@ bool TRegistry::DeleteValue(const std::string& name) {
 }
 
 bool TRegistry::DeleteKey(const std::string& key) {
-  const auto error = RegDeleteTreeW(impl_->Root, CanonicalKey(key).c_str());
+  RequireBelowRoot(key);
+  const auto error = RegDeleteTreeW(impl_->Root, WideKey(key).c_str());
   if (error != ERROR_SUCCESS && error != ERROR_FILE_NOT_FOUND) Fail(key, error);
   return error == ERROR_SUCCESS;
 }

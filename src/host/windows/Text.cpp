@@ -7,6 +7,8 @@
 #include "host/windows/Api.h"
 #include "host/windows/Wide.h"
 
+const std::string_view LineEnd = "\r\n";
+
 namespace {
 
 bool IsAscii(char c) { return static_cast<unsigned char>(c) < 0x80; }
