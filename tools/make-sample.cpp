@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "Repository.h"
+#include "UsedRepositories.h"
 #include "host/Paths.h"
 #include "host/Registry.h"
 #include "host/System.h"
@@ -110,6 +111,7 @@ void Make(const fs::path& folder, const fs::path& projectFolder, const std::stri
   fs::copy(projectFolder, work, fs::copy_options::recursive);
   RegisterProvider(library);
   const auto url = svnscc::CreateRepository((folder / "repository").string());
+  svnscc::MarkProjectUsed(url, kProjectName);  // as choosing it in the provider's dialog does
 
   TProviderLines lines;
   auto* before = SetProviderSink(&lines);

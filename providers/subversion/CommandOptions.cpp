@@ -6,6 +6,30 @@
 
 namespace svnscc {
 
+namespace {
+
+/// Copies what `command` heeds.
+void CopyOption(scc::SCCCommand command, const CommandOptions& from, CommandOptions& to) {
+  switch (command) {
+    case scc::SCC_COMMAND_GET:
+      to.GetRevision = from.GetRevision;
+      break;
+    case scc::SCC_COMMAND_CHECKOUT:
+      to.StealLocks = from.StealLocks;
+      break;
+    case scc::SCC_COMMAND_CHECKIN:
+      to.KeepUnchangedOut = from.KeepUnchangedOut;
+      break;
+    case scc::SCC_COMMAND_ADD:
+      to.WithoutNeedsLock = from.WithoutNeedsLock;
+      break;
+    default:
+      break;
+  }
+}
+
+}  // namespace
+
 bool HasOptions(scc::SCCCommand command) {
   return command == scc::SCC_COMMAND_GET || command == scc::SCC_COMMAND_CHECKOUT ||
          command == scc::SCC_COMMAND_CHECKIN || command == scc::SCC_COMMAND_ADD;
@@ -31,26 +55,21 @@ CommandOptions* OptionBlocks::Find(void* argument) const {
   return Live(held);
 }
 
-CommandOptions OptionBlocks::Take(void* argument, scc::SCCCommand command) const {
+void OptionBlocks::Forget() {
+  for (const auto& block : blocks_) *block = {};
+  running_ = taken_ = std::nullopt;
+}
+
+void OptionBlocks::EndRun() {
+  if (!running_) return;
+  for (const auto& block : blocks_) CopyOption(*running_, {}, *block);
+  running_.reset();
+}
+
+CommandOptions OptionBlocks::Take(void* argument, scc::SCCCommand command) {
+  taken_ = command;
   CommandOptions taken;
-  CommandOptions* block = Find(argument);
-  if (block == nullptr) return taken;
-  switch (command) {
-    case scc::SCC_COMMAND_GET:
-      taken.GetRevision = block->GetRevision;
-      break;
-    case scc::SCC_COMMAND_CHECKOUT:
-      taken.StealLocks = block->StealLocks;
-      break;
-    case scc::SCC_COMMAND_CHECKIN:
-      taken.KeepUnchangedOut = block->KeepUnchangedOut;
-      break;
-    case scc::SCC_COMMAND_ADD:
-      taken.WithoutNeedsLock = block->WithoutNeedsLock;
-      break;
-    default:
-      break;
-  }
+  if (const CommandOptions* block = Find(argument)) CopyOption(command, *block, taken);
   return taken;
 }
 

@@ -12,6 +12,7 @@ template <class Body>
 scc::Long Guard(void* context, Body&& body) noexcept {
   auto* session = static_cast<Session*>(context);
   if (session == nullptr) return scc::SCC_E_INITIALIZEFAILED;
+  const OptionBlocks::Call call(session->Options());
   try {
     return body(*session);
   } catch (const Failure& failure) {

@@ -61,6 +61,7 @@ SCC_EXPORT Long SCC_CALL SccInitialize(void** context, WindowHandle, const char*
   try {
     svnscc::EnsureRuntime();
     svnscc::SetLoginPrompt(svnscc::AskLogin);
+    svnscc::SetQuestionPrompt(svnscc::ShowQuestion);
     *context = new Session;
   } catch (...) {  // no text-out yet: the code must do
     return SCC_E_INITIALIZEFAILED;
@@ -119,7 +120,7 @@ SCC_EXPORT Long SCC_CALL SccGetProjPath(void* context, WindowHandle window, char
   });
 }
 
-SCC_EXPORT Long SCC_CALL SccOpenProject(void* context, WindowHandle, char* user, char* projectName,
+SCC_EXPORT Long SCC_CALL SccOpenProject(void* context, WindowHandle window, char* user, char* projectName,
                                         const char* localPath, char* auxPath, const char* comment,
                                         TTextOutProc textOut, Long flags) {
   bool opened = false;
@@ -130,9 +131,10 @@ SCC_EXPORT Long SCC_CALL SccOpenProject(void* context, WindowHandle, char* user,
     session.Out().Attach(textOut);
     svnscc::ProjectNames names{Text(user), Text(projectName), Text(auxPath), Text(localPath), Text(comment)};
     const auto given = names;
+    const bool silent = (flags & SCC_OP_SILENTOPEN) != 0;
     svnscc::OpenProject(
         session, names,
-        (flags & SCC_OP_CREATEIFNEW) != 0 ? svnscc::IfUnknown::Create : svnscc::IfUnknown::Refuse);
+        {.MayCreate = !silent && (flags & SCC_OP_CREATEIFNEW) != 0, .Silent = silent, .Parent = window});
     // The client's strings are its own: only what it left open is filled in.
     if (given.User.empty()) Return(user, names.User, SCC_USER_SIZE);
     if (given.ProjectName.empty()) Return(projectName, names.ProjectName, SCC_PRJPATH_SIZE);
@@ -173,6 +175,7 @@ SCC_EXPORT Long SCC_CALL SccPopulateList(void* context, SCCCommand command, Long
                                          TPopListFunc populate, void* callerData, Long* statuses,
                                          Long flags) {
   return GuardFiles(context, count, names, [&](Session& session, Names files) {
+    session.Options().Forget();
     const auto named = (flags & SCC_PL_DIR) != 0 ? svnscc::Named::Folders : svnscc::Named::Files;
     return svnscc::Populate(session, command, files, named, populate, callerData, statuses);
   });

@@ -3,6 +3,7 @@
 #include <svn_dirent_uri.h>
 
 #include "LocalStatus.h"
+#include "ProjectConsent.h"
 #include "Repository.h"
 #include "SubversionSccStrings.h"
 #include "host/System.h"
@@ -14,17 +15,16 @@ std::string LocalFolderOf(const std::string& text) {
   const Pool pool;
   const char* path = svn_dirent_internal_style(text.c_str(), pool);
   const char* absolute = nullptr;
-  if (!svn_dirent_is_absolute(path))
+  if (svn_dirent_is_absolute(path)) Check(svn_dirent_get_absolute(&absolute, path, pool));
+  if (absolute == nullptr || IsPerProcess(absolute))
     throw Failure(scc::SCC_E_INVALIDFILEPATH, Format(sNoLocalFolder.Text, {text}));
-  Check(svn_dirent_get_absolute(&absolute, path, pool));
   return absolute;
 }
 
 /// A client may leave both names empty and expect the provider to know them.
 void FillNamesFromWorkingCopy(Client& client, const std::string& folder, ProjectNames& names) {
-  const auto url = UrlOfWorkingCopy(client, folder);
-  if (!url) throw Failure(scc::SCC_E_UNKNOWNPROJECT, sNoProjectNamed);
-  const RepositoryPlace place = PlaceOf(client, *url);
+  if (!UrlOfWorkingCopy(client, folder)) throw Failure(scc::SCC_E_UNKNOWNPROJECT, sNoProjectNamed);
+  const RepositoryPlace place = PlaceOfWorkingCopy(client, folder);
   names.Repository = place.Root;
   names.ProjectName = ToProjectName(place.Path);
 }
@@ -43,13 +43,16 @@ void CreateProject(Session& session, Client& client, const std::string& url, con
   }
 }
 
-void RequireProject(Session& session, Client& client, const std::string& url, const ProjectNames& names,
-                    IfUnknown ifUnknown) {
-  switch (KindOf(client, url)) {
+void RequireProject(Session& session, Client& client, const std::string& root, const Project& project,
+                    const ProjectNames& names, const OpenMode& mode) {
+  switch (KindOf(client, project.Url)) {
     case svn_node_dir:
       return;
     case svn_node_none:
-      if (ifUnknown == IfUnknown::Create) return CreateProject(session, client, url, names);
+      if (mode.MayCreate) {
+        RequireFolderConsent(root, project, names, mode);
+        return CreateProject(session, client, project.Url, names);
+      }
       throw Failure(scc::SCC_E_UNKNOWNPROJECT,
                     Format(sUnknownProject.Text, {names.Repository, names.ProjectName}));
     default:
@@ -105,7 +108,7 @@ bool IsAdministrationGone(Client& client, const std::string& folder) {
 
 std::string SystemUser() { return GetUserNameText(scc::SCC_USER_SIZE); }
 
-void OpenProject(Session& session, ProjectNames& names, IfUnknown ifUnknown) {
+void OpenProject(Session& session, ProjectNames& names, const OpenMode& mode) {
   if (names.User.empty()) names.User = SystemUser();
   auto client = std::make_unique<Client>(names.User);
   Project project;
@@ -119,8 +122,9 @@ void OpenProject(Session& session, ProjectNames& names, IfUnknown ifUnknown) {
   if (!path) throw Failure(scc::SCC_E_PROJSYNTAXERR, Format(sBadProjectPath.Text, {names.ProjectName}));
   project.Url = UrlOf(*root, *path);
 
+  RequireConsent(*root, project, names, mode);
   const bool bound = IsWorkingCopyOf(*client, project);  // before anything is made in the repository
-  RequireProject(session, *client, project.Url, names, ifUnknown);
+  RequireProject(session, *client, *root, project, names, mode);
   if (bound)
     FinishInterrupted(session, *client, project.Folder);
   else

@@ -7,7 +7,12 @@
 
 namespace svnscc {
 
-enum class IfUnknown { Create, Refuse };
+/// How a client opens a project.
+struct OpenMode {
+  bool MayCreate = false;  ///< the project's folder may be made in the repository
+  bool Silent = false;     ///< the user must not be asked anything
+  scc::WindowHandle Parent = nullptr;
+};
 
 /// What the client stores for a project.  All but LocalFolder and Comment may be empty; opening fills them in.
 struct ProjectNames {
@@ -18,8 +23,9 @@ struct ProjectNames {
   std::string Comment;  // for a folder that is made
 };
 
-/// Opens the project into `session`, whose output is attached already.  Throws Failure, and the session stays closed.
-void OpenProject(Session& session, ProjectNames& names, IfUnknown ifUnknown);
+/// Opens the project into `session`, whose output is attached already.  A repository that this user has not used before
+/// is asked about first.  Throws Failure, and the session stays closed.
+void OpenProject(Session& session, ProjectNames& names, const OpenMode& mode);
 
 /// Makes the project folder a working copy when it is none; files that are there stay as they are.  Throws Failure when
 /// it is a working copy of something else.

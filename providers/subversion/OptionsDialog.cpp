@@ -95,9 +95,12 @@ class OptionsDialog : public wxDialog {
 
 scc::Long AskCommandOptions(Session& session, scc::WindowHandle parent, scc::SCCCommand command,
                             void** options) {
-  if (options == nullptr)
+  if (options == nullptr) {  // a client asks when it begins a list for the command
+    session.Options().Forget();
     return HasOptions(command) && CanShowWindows() ? scc::SCC_I_ADV_SUPPORT
                                                    : static_cast<scc::Long>(scc::SCC_OK);
+  }
+  session.Options().EndRun();
   if (!HasOptions(command)) return scc::SCC_E_OPNOTSUPPORTED;
   RequireWindows();
   CommandOptions* block = session.Options().Find(*options != nullptr ? static_cast<void*>(options) : nullptr);

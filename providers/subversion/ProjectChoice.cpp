@@ -7,6 +7,7 @@
 #include "RecentRepositories.h"
 #include "Repository.h"
 #include "SubversionSccStrings.h"
+#include "UsedRepositories.h"
 #include "host/Paths.h"
 #include "host/System.h"
 
@@ -31,10 +32,12 @@ bool IsFolderName(const std::string& name) {
   return !name.empty() && name != "." && name != ".." && name.find('/') == std::string::npos;
 }
 
-std::string WorkingCopyRepository(const std::string& user, const std::string& folder) {
-  if (!IsAbsolutePath(folder)) return {};
+/// What the folder is a working copy of, and the repository's own address; empty texts when it is none.
+RepositoryPlace WorkingCopyPlace(const std::string& user, const std::string& folder) {
+  const std::string path = ExcludeTrailingPathDelimiter(folder);
   Client client(user);
-  return UrlOfWorkingCopy(client, ExcludeTrailingPathDelimiter(folder)).value_or("");
+  if (!IsAbsolutePath(folder) || !UrlOfWorkingCopy(client, path)) return {};
+  return PlaceOfWorkingCopy(client, path);
 }
 
 std::string TooLong(const TResString& text, std::size_t most) {
@@ -46,8 +49,14 @@ std::string TooLong(const TResString& text, std::size_t most) {
 ProjectChoice::ProjectChoice(const ProjectRequest& request) : request_(request) {
   EnsureRuntime();
   if (request_.User.empty()) request_.User = SystemUser();
-  proposed_ = request_.Repository.empty() ? WorkingCopyRepository(request_.User, request_.LocalFolder)
-                                          : request_.Repository;
+  proposed_ = request_.Repository;
+  std::string root = proposed_;
+  if (proposed_.empty()) {
+    const RepositoryPlace place = WorkingCopyPlace(request_.User, request_.LocalFolder);
+    root = place.Root;
+    proposed_ = root.empty() ? root : UrlOf(root, place.Path);
+  }
+  knowsProposed_ = IsUsed(ToRepositoryUrl(root).value_or(""));
   TellNext();
 }
 
@@ -58,8 +67,9 @@ std::string ProjectChoice::ProposedRepository() const {
 }
 
 bool ProjectChoice::ShouldConnectAtOnce() const {
-  // A server that was used last may be out of reach, and waiting for it is not what the user asked for.
-  return !proposed_.empty() || ProposedRepository().starts_with("file://");
+  // What a project names may be somebody else's idea.  A server that was used last may be out of reach, and waiting for
+  // it is not what the user asked for.
+  return !proposed_.empty() ? knowsProposed_ : ProposedRepository().starts_with("file://");
 }
 
 std::string ProjectChoice::ProposedFolderName() const {

@@ -58,6 +58,7 @@ class ProjectChoice {
 
   ProjectRequest request_;
   std::string proposed_;
+  bool knowsProposed_ = false;  // the user agreed to its repository before
   std::unique_ptr<Client> client_;
   std::string root_;
   std::set<std::string> planned_;

@@ -1,6 +1,7 @@
 // From the provider border to the dialog.
 #include "ProjectDialog.h"
 #include "SubversionSccStrings.h"
+#include "UsedRepositories.h"
 #include "WindowTools.h"
 
 namespace svnscc {
@@ -15,6 +16,7 @@ scc::Long PromptForProject(Session& session, scc::WindowHandle parent, ProjectRe
   request.User = choice.User();
   if (answer != wxID_OK || !choice.CanAccept()) return scc::SCC_I_OPERATIONCANCELED;
   request = choice.Result();
+  MarkProjectUsed(request.Repository, request.ProjectName);
   return scc::SCC_OK;
 }
 

@@ -6,11 +6,15 @@
 #include <svn_repos.h>
 
 #include <algorithm>
+#include <array>
 
 #include "host/Text.h"
 
 namespace svnscc {
 namespace {
+
+/// "/proc/self/cwd" is the current directory, and the numbers in these folders mean open files and directories.
+constexpr std::array kPerProcess{"/proc", "/dev/fd"};
 
 svn_opt_revision_t Head() {
   svn_opt_revision_t head{};
@@ -55,22 +59,31 @@ svn_error_t* RelativeFromText(const char** path, const char* text, apr_pool_t* p
   return svn_relpath_canonicalize_safe(path, nullptr, text, pool, pool);
 }
 
-bool IsCompleteUrl(const std::string& url) {
-  const bool hasHost = !url.ends_with("://") || url.starts_with("file:");
-  return hasHost && svn_path_is_url(url.c_str()) && !svn_path_is_backpath_present(url.c_str());
+bool IsUsableUrl(const std::string& url) {
+  if (url.ends_with("://") || !svn_path_is_url(url.c_str()) || svn_path_is_backpath_present(url.c_str()))
+    return false;
+  if (!url.starts_with("file:")) return true;
+  const auto folder = Canonical(url, [](const char** path, const char* text, apr_pool_t* pool) {
+    return svn_uri_get_dirent_from_file_url(path, text, pool);
+  });
+  return folder && svn_dirent_is_absolute(folder->c_str()) && !IsPerProcess(*folder);
 }
 
 }  // namespace
 
+bool IsPerProcess(const std::string& path) {
+  return std::any_of(kPerProcess.begin(), kPerProcess.end(),
+                     [&](const char* folder) { return svn_dirent_is_ancestor(folder, path.c_str()); });
+}
+
 std::optional<std::string> ToRepositoryUrl(const std::string& text) {
   const Pool pool;
   const std::string trimmed = Trim(text);
-  if (svn_path_is_url(trimmed.c_str())) {
-    const auto url = Canonical(trimmed, UrlFromText);
-    return url && IsCompleteUrl(*url) ? url : std::nullopt;
-  }
-  if (!svn_dirent_is_absolute(svn_dirent_internal_style(trimmed.c_str(), pool))) return std::nullopt;
-  return Canonical(trimmed, UrlFromFolder);
+  const bool isUrl = svn_path_is_url(trimmed.c_str());
+  if (!isUrl && !svn_dirent_is_absolute(svn_dirent_internal_style(trimmed.c_str(), pool)))
+    return std::nullopt;
+  const auto url = isUrl ? Canonical(trimmed, UrlFromText) : Canonical(trimmed, UrlFromFolder);
+  return url && IsUsableUrl(*url) ? url : std::nullopt;
 }
 
 std::optional<std::string> ToProjectPath(const std::string& text) {
@@ -100,6 +113,13 @@ RepositoryPlace PlaceOf(Client& client, const std::string& url) {
   client.Run(svn_client_open_ra_session2(&session, url.c_str(), nullptr, client.Context(), pool, pool));
   client.Run(svn_ra_get_repos_root2(session, &root, pool));
   return {root, svn_uri_skip_ancestor(root, url.c_str(), pool)};
+}
+
+RepositoryPlace PlaceOfWorkingCopy(Client& client, const std::string& folder) {
+  const Pool pool;
+  const char* root = nullptr;
+  client.Run(svn_client_get_repos_root(&root, nullptr, folder.c_str(), client.Context(), pool, pool));
+  return {root, svn_uri_skip_ancestor(root, UrlOfWorkingCopy(client, folder).value_or(root).c_str(), pool)};
 }
 
 svn_node_kind_t KindOf(Client& client, const std::string& url) {

@@ -12,8 +12,10 @@
 
 namespace svnscc {
 
+/// Whether an absolute path means another place in each process, as what lies below /proc does.
+bool IsPerProcess(const std::string& path);
 /// The address that `text` means, as libsvn spells it: a URL, or the absolute name of a local folder.  nullopt when it
-/// is neither.
+/// is neither, or names a local folder that is not the same for every process.
 std::optional<std::string> ToRepositoryUrl(const std::string& text);
 /// A path in a repository as libsvn spells it, empty for its root; nullopt when `text` is none.
 std::optional<std::string> ToProjectPath(const std::string& text);
@@ -29,6 +31,8 @@ struct RepositoryPlace {
   std::string Root;
   std::string Path;
 };
+/// Where a working copy's folder lies, as it knows itself.  Throws Failure.
+RepositoryPlace PlaceOfWorkingCopy(Client& client, const std::string& folder);
 // The following ask the repository and throw Failure.
 RepositoryPlace PlaceOf(Client& client, const std::string& url);
 svn_node_kind_t KindOf(Client& client, const std::string& url);

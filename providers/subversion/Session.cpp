@@ -32,6 +32,7 @@ void Session::Close() {
   lastStatuses_ = {};
   refusals_.clear();
   events_.Clear();
+  options_.Forget();
   output_.Attach(nullptr);
 }
 

@@ -60,6 +60,28 @@ constexpr TResString sProjectCreated{"Created %s."};
 constexpr TResString sFinishedInterrupted{"A command that was interrupted in %s was cleaned up."};
 constexpr TResString sCreateProjectLog{"Create the project folder."};
 
+// A repository that was not used before
+constexpr TResString sConsentTitle{"Use This Repository?"};
+constexpr TResString sConsentNewRepository{
+    "%s names a repository that you have not used on this computer before.\n\n"
+    "Repository: %s\nFolder: %s\nUser name: %s\n\n"};
+constexpr TResString sConsentNewFolder{
+    "%s names a folder that its repository does not have.\n\n"
+    "Repository: %s\nFolder: %s\nUser name: %s\n\n"};
+constexpr TResString sConsentMayCreate{"The folder is created there if it does not exist. "};
+constexpr TResString sConsentWillCreate{"The folder will be created there. "};
+constexpr TResString sConsentNoNote{""};
+constexpr TResString sConsentQuestion{
+    "A repository can run programs on this computer: use it only if you trust whoever made this project.\n\n"
+    "Use it?"};
+constexpr TResString sConsentRefused{
+    "You chose not to use the repository %s: nothing was opened. Open the project again to be asked again."};
+constexpr TResString sNotAskedSilent{
+    "The repository %s has not been used on this computer before, and this way of opening asks nothing."};
+constexpr TResString sNotAskedNoWindow{
+    "The repository %s has not been used on this computer before, and this program cannot show the "
+    "question."};
+
 // Session
 constexpr TResString sNoRuntime{"The Apache portable runtime did not start."};
 constexpr TResString sUnknownFault{"The provider failed for an unknown reason."};

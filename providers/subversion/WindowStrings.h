@@ -106,7 +106,9 @@ constexpr TResString sOneEntry{"one entry."};
 constexpr TResString sEntries{"%d entries."};
 // Options of commands
 constexpr TResString sOptionsTitle{"Advanced Options"};
-constexpr TResString sOptionsOnce{"This applies to this command only, not to later ones."};
+constexpr TResString sOptionsOnce{
+    "This applies to the files of this list only. It is forgotten when the command has run or was "
+    "cancelled."};
 constexpr TResString sNewestRevision{"Get the &newest revision"};
 constexpr TResString sGivenRevision{"Get &revision"};
 constexpr TResString sStealLocks{"&Steal the lock if another user has it"};

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "Login.h"
+#include "Question.h"
 #include "Session.h"
 
 namespace svnscc {
@@ -23,6 +24,8 @@ scc::Long AskCommandOptions(Session& session, scc::WindowHandle parent, scc::SCC
                             void** options);
 /// A LoginPrompt with a window of its own.  Nothing is asked, and nothing thrown, where none can be shown.
 std::optional<Login> AskLogin(const LoginQuestion& question);
+/// A QuestionPrompt with a window of its own.
+std::optional<bool> ShowQuestion(scc::WindowHandle parent, const Question& question);
 /// Gets files that only the repository has, as the user chooses; `names` receives them.  `folder` (may be null) limits
 /// the choice to what is below it.
 scc::Long ChooseMissingFiles(Session& session, scc::WindowHandle parent, const char* folder,

@@ -77,6 +77,7 @@ class Team : public testing::Test {
  protected:
   Team() {
     TRegistry registry;
+    repository_.Choose("/trunk/Flight plan");
     registry.OpenKey("Software\\Subversion");
     registry.WriteString(kServerPath, SUBVERSION_SCC_PATH);
     registry.OpenKey(kInstalledProvidersKey);

@@ -15,8 +15,9 @@ namespace {
 
 struct OptionsAtWork : testing::Test {
   OptionsAtWork() {
+    repository.Choose("project");
     svnscc::ProjectNames names{"ann", "project", repository.Url(), ann.Folder(), ""};
-    svnscc::OpenProject(session, names, svnscc::IfUnknown::Create);
+    svnscc::OpenProject(session, names, {.MayCreate = true});
     bob.Open(repository.Url(), "project");
   }
   const std::string& File(const char* name) { return names_.emplace_back(ann.File(name)); }
@@ -49,16 +50,28 @@ TEST(OptionBlocks, AreFoundByThemselvesAndThroughTheClientsVariable) {
   EXPECT_EQ(nullptr, others.Find(&variable));
 }
 
-TEST(OptionBlocks, CountForEveryCallOfTheirCommand) {
+TEST(OptionBlocks, CountUntilTheirCommandHasRunOrANewListBegins) {
   svnscc::OptionBlocks blocks;
   void* variable = blocks.Make();
-  *blocks.Find(variable) = {7, true, true, true};
-  EXPECT_FALSE(blocks.Take(&variable, scc::SCC_COMMAND_REMOVE).StealLocks);
-  EXPECT_EQ(SVN_INVALID_REVNUM, blocks.Take(&variable, scc::SCC_COMMAND_CHECKOUT).GetRevision);
-  EXPECT_TRUE(blocks.Take(&variable, scc::SCC_COMMAND_CHECKOUT).StealLocks) << "a run calls once per file";
-  EXPECT_EQ(7, blocks.Take(&variable, scc::SCC_COMMAND_GET).GetRevision);
-  EXPECT_TRUE(blocks.Take(variable, scc::SCC_COMMAND_CHECKIN).KeepUnchangedOut);
-  EXPECT_TRUE(blocks.Take(variable, scc::SCC_COMMAND_ADD).WithoutNeedsLock);
+  const auto choose = [&] { *blocks.Find(variable) = {7, true, true, true}; };
+  const auto take = [&](scc::SCCCommand command) {
+    const svnscc::OptionBlocks::Call call(blocks);
+    return blocks.Take(&variable, command);
+  };
+  choose();
+  EXPECT_FALSE(take(scc::SCC_COMMAND_REMOVE).StealLocks);
+  EXPECT_EQ(SVN_INVALID_REVNUM, take(scc::SCC_COMMAND_CHECKOUT).GetRevision);
+  EXPECT_TRUE(take(scc::SCC_COMMAND_CHECKOUT).StealLocks) << "a run calls once per file";
+  EXPECT_EQ(7, take(scc::SCC_COMMAND_GET).GetRevision);
+  EXPECT_FALSE(take(scc::SCC_COMMAND_CHECKOUT).StealLocks) << "it has run";
+  EXPECT_TRUE(take(scc::SCC_COMMAND_CHECKIN).KeepUnchangedOut);
+  { const svnscc::OptionBlocks::Call another(blocks); }
+  EXPECT_FALSE(take(scc::SCC_COMMAND_CHECKIN).KeepUnchangedOut) << "something else was called";
+  EXPECT_TRUE(take(scc::SCC_COMMAND_ADD).WithoutNeedsLock);
+  choose();
+  blocks.Forget();
+  for (const auto command : {scc::SCC_COMMAND_CHECKOUT, scc::SCC_COMMAND_CHECKIN})
+    EXPECT_FALSE(take(command).StealLocks || take(command).KeepUnchangedOut);
 }
 
 TEST_F(OptionsAtWork, ChangeWhatTheCommandsDo) {

@@ -6,6 +6,7 @@
 #include <cstring>
 
 #include "host/System.h"
+#include "subversion/UsedRepositories.h"
 
 namespace {
 
@@ -83,6 +84,11 @@ TDeveloper::~TDeveloper() {
 }
 
 scc::Long TDeveloper::Open(const std::string& url, const std::string& project, scc::Long flags) {
+  svnscc::MarkProjectUsed(url, project);
+  return OpenMapped(url, project, flags);
+}
+
+scc::Long TDeveloper::OpenMapped(const std::string& url, const std::string& project, scc::Long flags) {
   std::array<char, 33> user;  // as small as clients make them
   std::array<char, 261> name;
   std::array<char, scc::SCC_PRJPATH_SIZE> aux;

@@ -57,8 +57,12 @@ class TDeveloper {
 
   const std::string& Folder() const { return folder_; }
   std::string File(const std::string& name) const { return folder_ + "/" + name; }
+  /// Opens what the user chose in the provider's dialog before.
   scc::Long Open(const std::string& url, const std::string& project,
                  scc::Long flags = scc::SCC_OP_CREATEIFNEW);
+  /// Opens what a mapping file names.
+  scc::Long OpenMapped(const std::string& url, const std::string& project,
+                       scc::Long flags = scc::SCC_OP_CREATEIFNEW);
   scc::Long Close();
   /// What the provider holds for the user's name after opening.
   const std::string& User() const { return user_; }

@@ -23,7 +23,7 @@ struct History : testing::Test {
   /// The same working copy, opened in this program: for functions that no entry point reaches without a window.
   svnscc::Session& Opened() {
     svnscc::ProjectNames names{"ann", "project", repository.Url(), ann.Folder(), ""};
-    svnscc::OpenProject(session, names, svnscc::IfUnknown::Refuse);
+    svnscc::OpenProject(session, names, {});
     return session;
   }
   static std::vector<svn_revnum_t> Numbers(const svnscc::History& history) {

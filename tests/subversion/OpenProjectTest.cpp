@@ -7,6 +7,7 @@
 #include "Developer.h"
 #include "Server.h"
 #include "host/System.h"
+#include "subversion/Repository.h"
 
 using testing::HasSubstr;
 
@@ -68,6 +69,26 @@ TEST_F(OpenProject, UnknownProjectsAreCreatedOnlyOnRequest) {
   EXPECT_EQ(scc::SCC_E_PROJNOTOPEN, ann.Close());
 }
 
+// Nothing can be asked here; what the question is answered with is in ProjectDialogTest.cpp.
+TEST_F(OpenProject, RepositoriesThatWereNeverUsedAreNotTouchedUnasked) {
+  const TTemporaryFolder elsewhere;
+  const std::string url = svnscc::CreateRepository(elsewhere / "repository");
+  for (const auto flags : {scc::SCC_OP_CREATEIFNEW, scc::SCC_OP_SILENTOPEN}) {
+    EXPECT_EQ(scc::SCC_E_OPNOTPERFORMED, ann.OpenMapped(url, "project", flags));
+    EXPECT_THAT(ann.Said(), HasSubstr("has not been used on this computer before"));
+  }
+  EXPECT_EQ(scc::SCC_E_OPNOTPERFORMED, ann.OpenMapped("svn://127.0.0.1:1/r", "p"))
+      << "asked before it is contacted";
+  EXPECT_EQ(scc::SCC_E_OPNOTPERFORMED, ann.OpenMapped(repository.Url(), "made unasked"));
+  EXPECT_EQ(0, repository.Youngest());
+  EXPECT_FALSE(std::filesystem::exists(ann.File(".svn")));
+
+  ASSERT_EQ(scc::SCC_OK, ann.Open(url, "project")) << "chosen meanwhile: " << ann.Said();
+  ann.Close();
+  const TEnvironmentVariable another("CORVANE_REGISTRY_DIR", elsewhere.MakeFolder("registry").c_str());
+  EXPECT_EQ(scc::SCC_E_OPNOTPERFORMED, ann.OpenMapped("", "")) << "a folder can bring its working copy along";
+}
+
 TEST_F(OpenProject, AnotherWorkingCopyIsLeftAlone) {
   ann.Open(repository.Url(), "one");
   ann.Close();
@@ -87,6 +108,11 @@ TEST_F(OpenProject, BadNamesAreRefusedInWords) {
   };
   for (const auto& row : {Row{"not an address", "p", scc::SCC_E_PROJSYNTAXERR},
                           Row{"xyz://host/path", "p", scc::SCC_E_PROJSYNTAXERR},
+                          Row{"repository", "p", scc::SCC_E_PROJSYNTAXERR},
+                          Row{"file://repository", "p", scc::SCC_E_PROJSYNTAXERR},
+                          Row{"file:///proc/self/cwd/repository", "p", scc::SCC_E_PROJSYNTAXERR},
+                          Row{"file:///%70roc/self/cwd/repository", "p", scc::SCC_E_PROJSYNTAXERR},
+                          Row{"/home/../proc/self/cwd/repository", "p", scc::SCC_E_PROJSYNTAXERR},
                           Row{repository.Url(), "../p", scc::SCC_E_PROJSYNTAXERR},
                           Row{repository.Url(), "project/unit1.pas", scc::SCC_E_PROJSYNTAXERR},
                           Row{"file:///no/such/repository", "p", scc::SCC_E_ACCESSFAILURE},

@@ -148,3 +148,40 @@ TEST_F(ProjectDialog, ShowsTheProjectThatWasBoundBefore) {
   EXPECT_EQ(scc::SCC_I_OPERATIONCANCELED, answer.Result);
   EXPECT_EQ("trunk/Größe", answer.Project);
 }
+
+// A project's mapping file comes with the project, whoever made it.
+TEST_F(ProjectDialog, AsksBeforeAProjectUsesARepositoryForTheFirstTime) {
+  const TTemporaryFolder elsewhere;
+  const std::string url = svnscc::CreateRepository(elsewhere / "repository");
+  ann.Write("Flight.cdp", "[Subversion]\nProjName=trunk\nAuxProjPath=" + url + "\n");
+  TModalScript script;
+  const auto answer = [&](int code, const char* expected) {
+    script.Expect<wxMessageDialog>([=, this](wxMessageDialog& box) {
+      const std::string text = box.GetMessage().utf8_string();
+      for (const std::string& part : {ann.File("Flight.cdp"), url, std::string("/trunk"),
+                                      std::string("User name: ann"), std::string(expected)})
+        EXPECT_THAT(text, testing::HasSubstr(part));
+      EXPECT_NE(0, box.GetMessageDialogStyle() & wxNO_DEFAULT);
+      box.SetReturnCode(code);
+    });
+  };
+  answer(wxID_NO, "created there if it does not exist");
+  EXPECT_EQ(scc::SCC_E_OPNOTPERFORMED, ann.OpenMapped(url, "trunk"));
+  EXPECT_THAT(ann.Said(), testing::HasSubstr("You chose not to use the repository"));
+  EXPECT_FALSE(std::filesystem::exists(ann.File(".svn")));
+  EXPECT_EQ(scc::SCC_E_OPNOTPERFORMED, ann.OpenMapped(url, "trunk", scc::SCC_OP_SILENTOPEN))
+      << "asks nothing";
+
+  answer(wxID_YES, "created there if it does not exist");
+  ASSERT_EQ(scc::SCC_OK, ann.OpenMapped(url, "trunk")) << ann.Said();
+  ann.Close();
+  EXPECT_EQ(scc::SCC_OK, ann.OpenMapped(url, "trunk")) << "asked once";
+  TDeveloper bob("bob");
+  EXPECT_EQ(scc::SCC_OK, bob.OpenMapped(url, "trunk")) << "the same repository, from another folder";
+  script.Expect<wxMessageDialog>([](wxMessageDialog& box) {
+    EXPECT_THAT(box.GetMessage().utf8_string(), testing::HasSubstr("The folder will be created there."));
+    box.SetReturnCode(wxID_CANCEL);
+  });
+  TDeveloper carla("carla");
+  EXPECT_EQ(scc::SCC_E_OPNOTPERFORMED, carla.OpenMapped(url, "somewhere else"));
+}

@@ -6,6 +6,7 @@
 
 #include "subversion/Client.h"
 #include "subversion/Repository.h"
+#include "subversion/UsedRepositories.h"
 
 using svnscc::Check;
 using svnscc::Pool;
@@ -46,7 +47,11 @@ TTestRepository::TTestRepository()
     : configuration_("SUBVERSION_SCC_CONFIG_DIR", temporary_.MakeFolder("config").c_str()),
       registry_("CORVANE_REGISTRY_DIR", temporary_.MakeFolder("registry").c_str()),
       folder_(temporary_ / "repository"),
-      url_(svnscc::CreateRepository(folder_)) {}
+      url_(svnscc::CreateRepository(folder_)) {
+  svnscc::MarkUsed(url_);
+}
+
+void TTestRepository::Choose(const std::string& project) const { svnscc::MarkProjectUsed(url_, project); }
 
 svn_revnum_t TTestRepository::Youngest() const { return Open(folder_).youngest; }
 

@@ -16,6 +16,9 @@ class TTestRepository {
   const std::string& Folder() const { return folder_; }
   const std::string& Url() const { return url_; }
 
+  /// As if the user had chosen the project in the provider's dialog.  The repository itself is one that was used before.
+  void Choose(const std::string& project) const;
+
   svn_revnum_t Youngest() const;
   std::string Log(svn_revnum_t revision) const;
   std::string Author(svn_revnum_t revision) const;
