@@ -48,7 +48,10 @@ class TPlainUi final : public ISessionUi {
     Asked.push_back(ExtractFileName(fileName));
     return SaveAnswer;
   }
-  bool AskReload(const std::string&) override { return ReloadAnswer; }
+  bool AskReload(const std::string& fileName) override {
+    Asked.push_back(ExtractFileName(fileName));
+    return ReloadAnswer;
+  }
   std::string AskSaveName(const std::string&) override { return SaveName; }
 
   std::map<TTextEditor*, TPlainView> Views;
@@ -223,7 +226,12 @@ TEST_F(Session, ReloadsContentsAndReadOnlyState) {
   WriteFileAtomically(Path("A1.kfm"), "object Theirs\nend\n");
   SetFileAttributesOf(Path("A1.pas"), faReadOnly);
   Type("A1.pas", "unit Mine;\n");
+  EXPECT_FALSE(actions_.ReloadFile(Path("A1.pas")));
+  EXPECT_EQ(View("A1.pas").Text, "unit Mine;\n") << "nothing typed goes without a question";
+  EXPECT_TRUE(View("A1.pas").Locked);
+  ui_.ReloadAnswer = true;
   EXPECT_TRUE(actions_.ReloadFile(Path("A1.pas")));
+  EXPECT_THAT(ui_.Asked, ElementsAre("A1.pas", "A1.pas"));
   EXPECT_EQ(View("A1.pas").Text, "unit Theirs;\n");
   EXPECT_TRUE(View("A1.pas").Locked);
   EXPECT_FALSE(View("A1.pas").Changed);

@@ -10,6 +10,10 @@
 void TSession::Save(TDocument& document) {
   document.Save();
   if (group_ && &document == &group_->Definition()) group_->NoteSaved();
+  Changed(document);
+}
+
+void TSession::Changed(TDocument& document) {
   if (auto* text = dynamic_cast<TTextEditor*>(&document))
     ui_.EditorChanged(*text);
   else
@@ -58,28 +62,27 @@ bool TSession::SaveGroupAs() {
   return true;
 }
 
-void TSession::ReloadDocument(TDocument& document) {
-  document.Load();
-  if (auto* text = dynamic_cast<TTextEditor*>(&document))
-    ui_.EditorChanged(*text);
-  else
-    ui_.ProjectsChanged();
-}
-
 bool TSession::Reload(const std::string& fileName) {
   TOpenModule* module = index_.Find(fileName);
   TDocument* document = module ? module->FindDocument(fileName) : nullptr;
   if (!document) return false;
-  if (module == group_)
-    ReopenGroup();
-  else
-    ReloadDocument(*document);
-  return true;
+  if (module == group_) return ReopenGroup();
+  return ReloadUnlessKept(*document);
 }
 
-void TSession::ReopenGroup() {
+bool TSession::ReloadUnlessKept(TDocument& document) {
+  const bool kept = document.GetModified() && !ui_.AskReload(document.FileName());
+  if (!kept)
+    document.Load();
+  else
+    document.AcceptDisk();
+  Changed(document);
+  return !kept;
+}
+
+bool TSession::ReopenGroup() {
   const std::string file = group_->FileName();
-  if (CloseAll()) Open(file);
+  return CloseAll() && Open(file);
 }
 
 void TSession::CheckDocument(TDocument& document) {
@@ -95,12 +98,8 @@ void TSession::CheckDocument(TDocument& document) {
       Log(Format(sGone, {document.FileName()}));
       break;
     case TDiskChange::Contents:
-      if (document.GetModified() && !ui_.AskReload(document.FileName())) {
-        document.AcceptDisk();
-        break;
-      }
-      Log(Format(sReloaded, {document.FileName()}));
-      return ReloadDocument(document);
+      if (ReloadUnlessKept(document)) Log(Format(sReloaded, {document.FileName()}));
+      return;
   }
   if (text) ui_.EditorChanged(*text);
 }
@@ -113,7 +112,10 @@ void TSession::CheckDisk() {
   for (const auto& name : names) {
     TOpenModule* module = index_.Find(name);
     if (!module || (module == group_ && group_->IsUnsaved())) continue;
-    if (module == group_ && group_->Definition().CheckDisk() == TDiskChange::Contents) return ReopenGroup();
+    if (module == group_ && group_->Definition().CheckDisk() == TDiskChange::Contents) {
+      ReopenGroup();
+      return;
+    }
     try {
       if (TDocument* document = module->FindDocument(name)) CheckDocument(*document);
     } catch (const std::exception& e) {

@@ -60,7 +60,7 @@ class TSession {
   /// Closes what is left without asking: the program ends and has asked, or may not ask.
   void DropAll();
 
-  /// Shows what is on disk.  False when the file is not open.
+  /// Shows what is on disk.  Asks about unsaved changes first.  False when the file is not open or the user keeps them.
   bool Reload(const std::string& fileName);
   /// Looks at the disk for every open document and takes over what changed there.
   void CheckDisk();
@@ -102,8 +102,9 @@ class TSession {
   std::vector<TOpenModule*> OpenUnitsOf(TProject& project) const;
   void RememberActive();
 
-  void ReloadDocument(TDocument& document);
-  void ReopenGroup();
+  void Changed(TDocument& document);
+  bool ReloadUnlessKept(TDocument& document);
+  bool ReopenGroup();
   void CheckDocument(TDocument& document);
 
   ISessionUi& ui_;

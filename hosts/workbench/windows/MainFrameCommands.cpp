@@ -255,10 +255,7 @@ void TMainFrame::OpenProject() {
   if (!name.empty()) OpenForUser(name.utf8_string());
 }
 
-void TMainFrame::ReloadCurrent() {
-  TTextEditor& editor = book_->FrontPage()->Editor();
-  if (!editor.GetModified() || AskReload(editor.FileName())) session_.Reload(editor.FileName());
-}
+void TMainFrame::ReloadCurrent() { session_.Reload(book_->FrontPage()->Editor().FileName()); }
 
 void TMainFrame::SaveCurrent() {
   TTextEditor& editor = book_->FrontPage()->Editor();
