@@ -141,6 +141,10 @@ TEST_F(Session, PutsALoneProjectIntoAGroupInMemory) {
   ASSERT_TRUE(actions_.OpenProject(Path("A.qvxproj"), true));
   EXPECT_EQ(services_.GetMainProjectGroup()->GetFileName(), Path("ProjectGroup2.qvxgroup"));
   EXPECT_EQ(services_.GetMainProjectGroup()->GetActiveProject()->GetFileName(), Path("A.qvxproj"));
+  ASSERT_TRUE(actions_.OpenProject(Path("B.qvxproj"), false));
+  EXPECT_THAT(listener_->Take(), ElementsAre("1 A.qvxproj", "1 B.qvxproj", "9 B.qvxproj"))
+      << "the project that joined is the active one";
+  session_.Close(Project("B.qvxproj"));
   EXPECT_TRUE(services_.CloseAll());
   EXPECT_TRUE(ui_.Asked.empty()) << "nobody misses the file of such a group";
   EXPECT_EQ(services_.GetMainProjectGroup(), nullptr);

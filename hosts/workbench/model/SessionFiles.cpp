@@ -77,10 +77,13 @@ bool TSession::OpenProject(const std::string& fileName, bool newGroup) {
   if ((newGroup || !group_) && !CloseAll()) return false;
   TProjectGroup& group = group_ ? *group_ : MakeGroup(full);
   TProject& added = AddModule(std::move(project));
+  const bool alone = !group.Active();
   group.Add(added);
-  group.SetActive(added);
+  if (alone) group.SetActive(added);
   ui_.ProjectsChanged();
   AnnounceOpened({full});
+  // Opened first, then made active: packages hear of both, and the earlier project is left when they do.
+  if (auto* open = dynamic_cast<TProject*>(index_.Find(full))) SetActiveProject(*open);
   return true;
 }
 
