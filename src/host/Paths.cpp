@@ -84,7 +84,7 @@ std::string ExcludeTrailingPathDelimiter(std::string_view path) {
 std::string RelativePath(std::string_view base, std::string_view path) {
   const auto directory = IncludeTrailingPathDelimiter(WithoutTrailingDelimiters(base));
   const bool below = !base.empty() && path.size() > directory.size() &&
-                     SameFileName(path.substr(0, directory.size()), directory);
+                     FileNameKey(path.substr(0, directory.size())) == FileNameKey(directory);
   return std::string(below ? path.substr(directory.size()) : path);
 }
 

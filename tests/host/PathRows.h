@@ -31,8 +31,9 @@ extern const std::vector<TWithinRow> kWithin;
 
 extern const std::vector<const char*> kAbsolute, kNotAbsolute;
 
+/// Two spellings: whether they lead to the same file, and whether they compare as one name.
 struct TSameRow {
   const char *A, *B;
-  bool Same;
+  bool Same, OneName;
 };
 extern const std::vector<TSameRow> kSame;

@@ -43,6 +43,8 @@ class PlaceProject : public TExpertTest {
 TEST_F(PlaceProject, GoesThroughItsPagesAndLeavesTheProjectOpen) {
   SetFileAttributesOf(units_[0], faReadOnly);
   units_.push_back(At("unit1.kfm"));  // its unit's companion too
+  units_.push_back(folder_.Write("work/UNIT2.pas", "x"));
+  units_.push_back(folder_.Write("lib/shared.pas", "x"));
   Show();
   EXPECT_EQ(Page().Caption, "Place project Wizard: Step 1 of 3");
   EXPECT_FALSE(Page().Back);
@@ -57,12 +59,14 @@ TEST_F(PlaceProject, GoesThroughItsPagesAndLeavesTheProjectOpen) {
 
   Next();
   EXPECT_EQ(Page().Caption, "Place project Wizard: Step 3 of 3");
-  EXPECT_THAT(Files(), ElementsAre("unit1.pas", "unit2.pas", "unit1.kfm", "App.qvxproj"));
+  EXPECT_THAT(Files(),
+              ElementsAre("unit1.pas", "unit2.pas", "unit1.kfm", Native("../lib/shared.pas"), "App.qvxproj"));
   pages_->SetTicked(1, false);
   pages_->KeepCheckedOut = true;
   provider_->OpenProject.User = "ann@repo";
   provider_->OnCall["SccAdd"] = [&](const ScriptedCall& call) {
-    provider_->Results["SccAdd"] = call.Files[0] == At("App.qvxproj") ? scc::SCC_E_NONSPECIFICERROR : 0;
+    const bool fails = call.Files[0] == At("App.qvxproj") || call.Files[0] == units_.back();
+    provider_->Results["SccAdd"] = fails ? scc::SCC_E_NONSPECIFICERROR : 0;
   };
   provider_->Calls.clear();
 
@@ -71,16 +75,17 @@ TEST_F(PlaceProject, GoesThroughItsPagesAndLeavesTheProjectOpen) {
   EXPECT_EQ(Page().NextCaption, "&Close");
   EXPECT_FALSE(Page().Back);
   EXPECT_THAT(provider_->Entries(), ElementsAre("SccOpenProject", "SccCloseProject", "SccOpenProject",
-                                                "SccAdd", "SccAdd", "SccAdd"));
+                                                "SccAdd", "SccAdd", "SccAdd", "SccAdd"));
   EXPECT_EQ(provider_->Last("SccAdd").FileFlags[0], scc::SCC_KEEP_CHECKEDOUT);
   const auto& status = pages_->Status();
-  ASSERT_EQ(status.size(), 6u);
+  ASSERT_EQ(status.size(), 8u);
   EXPECT_EQ(status[0], "Initializing Project App.qvxproj");
   EXPECT_EQ(status[1], "Add unit1.pas: ok");
   EXPECT_EQ(status[2], "Add unit1.kfm: ok");
-  EXPECT_EQ(status[3], "Add " + Native("work/App.qvxproj") + ": failed");
+  EXPECT_EQ(status[3], "Add " + Native("lib/shared.pas") + ": failed");
   EXPECT_THAT(status[4], HasSubstr("      ")) << "and why";
-  EXPECT_EQ(status[5], "Succeeded");
+  EXPECT_EQ(status[5], "Add " + Native("work/App.qvxproj") + ": failed");
+  EXPECT_EQ(status[7], "Succeeded");
   EXPECT_EQ(GetFileAttributesOf(units_[0]), faArchive) << "writable";
   EXPECT_EQ(Mapping(), "[Scripted]\nProjName=trunk/App\nAuxProjPath=repo\nUserName=ann@repo\n");
 

@@ -1,5 +1,7 @@
 #include "host/Paths.h"
 
+#include "host/Text.h"
+
 const char PathDelim = '/';
 
 bool IsPathDelim(char c) { return c == PathDelim; }
@@ -15,6 +17,6 @@ std::string PathWithin(std::string_view directory, std::string_view path) {
   return IncludeTrailingPathDelimiter(directory).append(path);
 }
 
-std::string FileNameKey(std::string_view path) { return std::string(path); }
+std::string FileNameKey(std::string_view path) { return FoldCase(path); }
 
 bool SameFileName(std::string_view a, std::string_view b) { return a == b; }

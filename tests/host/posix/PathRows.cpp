@@ -31,7 +31,7 @@ const std::vector<TWayRow> kWays{
     {"/proj", "/proj", "/proj", "."},
     {"/proj", "/proj/", "/proj/", "."},
     {"/proj", "/", "/", ".."},
-    {"/proj", "/Proj/a.pas", "/Proj/a.pas", "../Proj/a.pas"},  // another directory on this platform
+    {"/proj", "/Proj/a.pas", "a.pas", "../Proj/a.pas"},  // one name, but another directory on this platform
     {"", "/a.pas", "/a.pas", "/a.pas"},
     {"", "a.pas", "a.pas", "a.pas"},
     {"/proj", "a.pas", "a.pas", "a.pas"},
@@ -63,4 +63,5 @@ const std::vector<TWithinRow> kWithin{
 const std::vector<const char*> kAbsolute{"/a"};
 const std::vector<const char*> kNotAbsolute{"", "a/b", "./a", "~/a", "C:\\a"};
 
-const std::vector<TSameRow> kSame{{"/p/a", "/p/a", true}, {"/p/a", "/p/A", false}, {"/p\\a", "/p/a", false}};
+const std::vector<TSameRow> kSame{
+    {"/p/a", "/p/a", true, true}, {"/p/a", "/P/A", false, true}, {"/p\\a", "/p/a", false, false}};

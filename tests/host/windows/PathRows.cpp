@@ -76,5 +76,6 @@ const std::vector<const char*> kAbsolute{"C:\\a", "c:/a", "\\\\server\\share\\a"
                                          "\\\\?\\C:\\a"};
 const std::vector<const char*> kNotAbsolute{"", "a\\b", ".\\a", "\\a", "/a", "C:a", "C:"};
 
-const std::vector<TSameRow> kSame{
-    {"C:\\Größe", "c:/GRÖSSE", false}, {"C:\\Größe\\Ü", "c:/GRößE/ü", true}, {"C:\\a", "C:\\ab", false}};
+const std::vector<TSameRow> kSame{{"C:\\Größe", "c:/GRÖSSE", false, false},
+                                  {"C:\\Größe\\Ü", "c:/GRößE/ü", true, true},
+                                  {"C:\\a", "C:\\ab", false, false}};
