@@ -28,7 +28,8 @@ void TSccExpert::ReloadProject(const std::string& projectFile) {
 }
 
 void TSccExpert::ReloadFile(const std::string& fileName) {
-  if (SameText(fileName, GetCurrentProjectFile())) return ReloadProject(fileName);
+  const auto project = GetCurrentProjectFile();
+  if (SameText(fileName, project)) return ReloadProject(project);
   auto* modules = IdeService<IOTAModuleServices>();
   auto* actions = IdeService<IOTAActionServices>();
   if (!modules || !actions || SameText(ExtractFileExt(fileName), project_extension_)) return;

@@ -86,7 +86,7 @@ IOTAFormEditor* GetFormEditor(IOTAModule* module, const std::string& extension) 
   for (int i = 0; i < count; ++i) {
     auto* editor = module->GetEditor(i);
     result = Supports<IOTAFormEditor>(editor);
-    if (result && ExtractFileExt(editor->GetFileName()) == extension) break;
+    if (editor && ExtractFileExt(editor->GetFileName()) == extension) break;
   }
   return result;
 }

@@ -28,8 +28,8 @@ int rv_GetUnitCount();
 /// Leaves it alone without a project.
 void rv_EnumProjectUnits(std::vector<std::string>* list);
 
-/// The module's form editor whose file has that extension (exact comparison).  Without a match: the last editor, if it
-/// is a form editor.
+/// The module's first editor whose file has that extension (exact comparison), if it is a form editor.  Without a match:
+/// the last editor, if it is one.
 IOTAFormEditor* GetFormEditor(IOTAModule* module, const std::string& extension);
 /// The first form editor of the host's current module.
 IOTAFormEditor* GetActiveFormEditor();

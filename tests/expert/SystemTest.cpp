@@ -51,6 +51,10 @@ TEST(HostAccess, EditorsAndTheirState) {
   unit.Editors.emplace_back("/u.txt", false);
   EXPECT_EQ(GetFormEditor(&static_cast<IOTAProject&>(unit), ".kfm"), nullptr);
 
+  unit.Editors.emplace_back("/u.kfm", false);
+  unit.Editors.emplace_back("/v.KFM", true);
+  EXPECT_EQ(GetFormEditor(&static_cast<IOTAProject&>(unit), ".kfm"), nullptr) << "the match is no form";
+
   auto& form = host.AddUnit("/f.pas");
   form.Editors.front().IsForm = true;
   EXPECT_THROW(IsUnitModified("/f.pas"), std::runtime_error);
