@@ -91,7 +91,8 @@ void TFileCommandRun::Gather() {
   TStateMessages messages;
   const TCallProgress progress(expert_.Forms(), command_.List, TCallProgress::Kind::Status, sAskingStatus,
                                all_files_);
-  Project().Query(all_files_, statuses_, messages);
+  // Files whose status is unknown are not offered; the user must be able to find out why.
+  if (!Project().Query(all_files_, statuses_, messages)) WriteFailure(command_.Single, messages);
 }
 
 void TFileCommandRun::SelectEligible() {

@@ -27,6 +27,11 @@ void WriteMessageFmt(TMsgWinType kind, std::string_view format, std::initializer
   WriteMessage(kind, Format(format, args));
 }
 
+void WriteFailure(const std::string& what, const TStateMessages& messages) {
+  const auto& [line, information, error] = messages;
+  WriteMessageFmt(mwtError, sFailure.Text, {what, error.empty() ? information : error});
+}
+
 void Guarded(TMsgWinType kind, const TResString& format, const std::function<void()>& body) {
   try {
     body();
@@ -69,7 +74,8 @@ void TSccExpert::Create() {
   auto* services = IdeService<IOTAServices>();
   if (!services) throw std::runtime_error(sUnableToGetIDEServices);
   menu_ = std::make_unique<TExpertMainMenuModule>(*this);
-  menu_->EnableMenus(false);  // no project is open; and the host knows before the menu opens what is not in it
+  menu_->EnableMenus(
+      false);  // no project is open; and the host knows before the menu opens what is not in it
   WriteMessage(mwtInfo, sStartUp);
   WriteMessageFmt(mwtInfo, sProviderLine.Text, {provider_name_});
   ide_notifier_ = std::make_shared<TSccIDENotifier>(*this);

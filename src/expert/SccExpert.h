@@ -34,6 +34,9 @@ inline constexpr std::array PRJ_EXTENSIONS{".kpr",  ".cfg", ".kof", ".dsk",     
 void WriteMessage(TMsgWinType kind, const std::string& text);
 void WriteMessageFmt(TMsgWinType kind, std::string_view format, std::initializer_list<TFormatArg> args);
 
+/// Writes why a provider call failed, behind the name of what was to be done.
+void WriteFailure(const std::string& what, const TStateMessages& messages);
+
 /// The boundary of a routine: whatever `body` throws becomes one line of the message window, `format` with the error's
 /// message in place of %s.
 void Guarded(TMsgWinType kind, const TResString& format, const std::function<void()>& body);

@@ -47,5 +47,6 @@ constexpr TResString sSaveAllFailed{
     // "Unkown" is meant: the message is known and searched for by it
     "Project and project related files must be saved before mapping: Unkown save error."};
 constexpr TResString sPulledNotOpened{"%s could not be opened"};
+constexpr TResString sFailure{"%s: %s"};
 constexpr TResString sFileNotSaved{"%s has unsaved changes and could not be saved"};
 constexpr TResString sCommandRunning{"Another source control command is still running"};

@@ -230,6 +230,7 @@ void TPullProjectPages::ListFetched() {
   TStringList entries;
   SearchRecursiveFiles(entries, target_);
   TStatusArray statuses;
+  TProviderWords words;
   // A provider may keep as many files of its own there as the project has: more than one query's worth, then.
   for (std::size_t first = 0; first < entries.size(); first += kMaxFiles) {
     const auto last = std::min(entries.size(), first + kMaxFiles);
@@ -237,7 +238,10 @@ void TPullProjectPages::ListFetched() {
                            entries.begin() + static_cast<std::ptrdiff_t>(last));
     TStateMessages messages;
     statuses.Clear();
-    Project().Query(part, statuses, messages);
+    if (!Project().Query(part, statuses, messages)) {
+      WriteFailure(target_, messages);
+      AddFailure(Reasons(words, messages));
+    }
     for (std::size_t i = 0; i < part.size(); ++i) {
       if (!(statuses[i] & scc::SCC_STATUS_CONTROLLED)) continue;
       AddStatus(Format(sPullGetOf.Text, {RelativePath(target_, part[i])}));

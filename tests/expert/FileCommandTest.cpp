@@ -103,6 +103,9 @@ TEST_F(FileCommand, NothingEligibleShowsABoxAndAborts) {
   provider_->DefaultStatus = 0;
   EXPECT_EQ(AbortOf([&] { expert.CheckInFiles({}); }), "No files available");
   EXPECT_EQ(forms_.Boxes.back(), (TShownBox{"Check In File", "No files available", metInfo}));
+  provider_->Results["SccQueryInfo"] = SCC_E_CONNECTIONFAILURE;
+  EXPECT_EQ(AbortOf([&] { expert.CheckInFiles({}); }), "No files available");
+  EXPECT_THAT(forms_.LinesOf(mwtError), Contains("Check In File: Connection failure"));
 }
 
 TEST_F(FileCommand, CommentOfACancelledOrFailedCommandIsOfferedAgain) {

@@ -67,7 +67,9 @@ TEST_F(PullProject, FetchesListsAndMaps) {
   EXPECT_FALSE(asked.Allowed);
   EXPECT_FALSE(DirectoryExists(Target())) << "nothing is made before it has to be";
 
-  folder_.Write("böb's copy/own.txt", "mine");  // is not listed
+  folder_.Write("böb's copy/own.txt", "mine");                       // is not listed
+  provider_->Results["SccOpenProject"] = scc::SCC_I_PROJECTCREATED;  // no failures
+  provider_->Results["SccGet"] = scc::SCC_I_FILENOTAFFECTED;
   provider_->Texts["SccGet"] = {{scc::SCC_MSG_INFO, "Fetched"}, {scc::SCC_MSG_WARNING, "unit1.pas was kept"}};
   pages_->NextFinishButtonClick();
   EXPECT_EQ(Page().Caption, "Pull project Wizard: Status page");
@@ -114,6 +116,12 @@ TEST_F(PullProject, FailuresAreListedAndCanBeTriedAgain) {
   EXPECT_THAT(ReadWholeFile(In("App.cdp")), HasSubstr("trunk/App")) << "the rest can be got later";
   EXPECT_FALSE(pages_->CanOpen());
   EXPECT_TRUE(Page().Back);
+
+  provider_->Results = {{"SccQueryInfo", scc::SCC_E_CONNECTIONFAILURE}};
+  pages_->BackButtonClick();
+  pages_->NextFinishButtonClick();
+  EXPECT_THAT(pages_->Status(), Contains("Connection failure"));
+  EXPECT_THAT(forms_.LinesOf(mwtError), Contains(HasSubstr(": Connection failure")));
 }
 
 TEST_F(PullProject, ShowsWhatItWaitsFor) {
