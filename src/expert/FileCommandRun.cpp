@@ -42,7 +42,7 @@ TFileCommandRun::TFileCommandRun(TSccExpert& expert, const TFileCommand& command
 
 void TFileCommandRun::Execute() {
   directory_ = ExtractFileDir(expert_.GetCurrentProjectFile());
-  Project().ClearOptions();  // what was chosen for another run, cancelled or not, does not count for this one
+  Project();  // before anything is saved or gathered
   if (command_.SaveAllFirst) expert_.SaveAll();
   Gather();
   TStateMessages messages;

@@ -192,8 +192,6 @@ class TSCCProviderProject {
                                TStatusArray& statuses, TStateMessages& messages);
   /// coQuery: whether the provider has advanced options for the command.  coShowAdvDialog: shows them; false.
   bool GetCommandOptions(TCommandOptions command, TCommandOptionFlags flag, TStateMessages& messages);
-  /// Forgets what the options dialog left for the commands.
-  void ClearOptions() { options_.fill(nullptr); }
   /// Opens the provider's browser for files under control; a box tells how it ended.
   void AddFromScc(TStateMessages& messages);
 
