@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <array>
+#include <unordered_set>
 
 #include "expert/CallProgress.h"
+#include "expert/Edits.h"
 #include "expert/FileCommandStrings.h"
 #include "expert/SccExpertStrings.h"
 #include "host/Errors.h"
@@ -147,6 +149,27 @@ bool TFileCommandRun::WantsComment() {
          expert_.ProviderList()->Capabilities().test(*command_.CommentCapability);
 }
 
+bool TFileCommandRun::SaveFile(const std::string& fileName) try {
+  SaveEdits(expert_, fileName);
+  return true;
+} catch (const EAbort& failure) {
+  WriteMessage(mwtError, failure.what());
+  Box(command_.Single, failure.what(), metError);
+  return false;
+}
+
+bool TFileCommandRun::SaveSelected() {
+  TStringList saved;
+  std::unordered_set<std::string> unsaved;  // a file may be selected twice
+  for (const auto& file : selected_)
+    if (!unsaved.contains(file) && SaveFile(file))
+      saved.push_back(file);
+    else
+      unsaved.insert(file);
+  selected_ = std::move(saved);
+  return unsaved.empty();
+}
+
 bool TFileCommandRun::CallProvider(const TStringList& files) {
   TStateMessages messages;
   const bool done = command_.Run(Project(), {files, comment_, keep_checked_out_, messages});
@@ -157,13 +180,14 @@ bool TFileCommandRun::CallProvider(const TStringList& files) {
 
 void TFileCommandRun::CallTogether() {
   if (WantsComment()) AskComment({}, false);
-  for (const auto& file : selected_) expert_.SaveIfModified(file);
+  const bool allSaved = SaveSelected();
+  if (selected_.empty()) return;
   const bool done = command_.CallKind == TFileCommand::Calls::Batch ? CallBatch() : CallOneByOne();
   if (all_succeeded_) expert_.comments_.Used(command_.Command);
   if (done && command_.ClearReadOnly && !keep_checked_out_)
     for (const auto& file : selected_) SetFileAttributesOf(file, faArchive);
   Reload(done);
-  if (done) ReportDone();
+  if (done && allSaved) ReportDone();
 }
 
 bool TFileCommandRun::CallBatch() {
@@ -188,7 +212,7 @@ void TFileCommandRun::CallCounting() {
   std::size_t succeeded = 0;
   for (const auto& file : selected_) {
     progress->Step(done++, file);
-    expert_.SaveIfModified(file);
+    if (!SaveFile(file)) continue;
     if (WantsComment() && !apply_to_all_)
       AskComment(Format(sCommentsFor.Text, {ExtractFileName(file)}), true);
     if (CallProvider({file})) ++succeeded;

@@ -25,9 +25,14 @@ class TFileCommandRun {
   bool WantsComment();
   /// Throws EAbort when the user cancels.
   void AskComment(const std::string& caption, bool showApplyToAll);
+  /// Puts what the editor shows of the file on disk; false, with the reason shown, when that fails.
+  bool SaveFile(const std::string& fileName);
+  /// The same for all selected files; those that cannot be saved are selected no more.  Whether all were saved.
+  bool SaveSelected();
   /// Calls the provider for these files and shows what it says.
   bool CallProvider(const TStringList& files);
-  /// All commands but add: one comment, everything saved first, then the files in one call or one by one.
+  /// All commands but add: one comment, everything saved first, then the files in one call or one by one.  A run that
+  /// left a file out reports no success.
   void CallTogether();
   bool CallBatch();
   /// The result of the last call decides, and it alone, which is meant: earlier failures have shown their messages, and

@@ -154,8 +154,6 @@ class TSccExpert final : public TNotifierObject, public IOTAWizard {
   /// or when no provider project matches.  Not to be kept across anything that shows a window: the host may close the
   /// project meanwhile.
   TSCCProviderProject& RequireProject(const std::string& directory, const std::string& noProvider);
-  /// Asks the host to save a unit or project file that has unsaved changes.
-  void SaveIfModified(const std::string& fileName);
 
   /// Runs a user's command: refuses a second one while one is running, catches what it throws and writes it to the
   /// message window as `format` with the message in place of %s.

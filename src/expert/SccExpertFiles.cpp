@@ -36,13 +36,6 @@ TSCCProviderProject& TSccExpert::RequireProject(const std::string& directory, co
   return *provider_list_->CurrentProject();
 }
 
-void TSccExpert::SaveIfModified(const std::string& fileName) {
-  if (!IsUnit(fileName) && !IsProject(fileName)) return;
-  if (!IsUnitModified(fileName)) return;
-  auto* actions = IdeService<IOTAActionServices>();
-  if (!actions || !actions->SaveFile(fileName)) WriteMessageFmt(mwtWarning, sFileNotSaved.Text, {fileName});
-}
-
 namespace {
 
 void AppendCompanions(const std::string& fileName, const auto& extensions, TStringList& extras) {

@@ -3,6 +3,7 @@
 #include <unordered_map>
 #include <unordered_set>
 
+#include "expert/Edits.h"
 #include "expert/SccExpert.h"
 #include "expert/SccExpertStrings.h"
 #include "expert/SccSystem.h"
@@ -17,7 +18,7 @@ TSCCProviderProject& TSccExpert::RequireCurrentProject() {
 
 void TSccExpert::ShowDiff(const std::string& fileName) {
   RequireCurrentProject();
-  SaveIfModified(fileName);
+  SaveEdits(*this, fileName);
   TStateMessages messages;
   // Differences in case only are none to the compilers of this IDE, so the window opens without them.
   RequireCurrentProject().ShowDiff(fileName, scc::SCC_DIFF_IGNORECASE, messages);
@@ -25,12 +26,16 @@ void TSccExpert::ShowDiff(const std::string& fileName) {
 }
 
 void TSccExpert::ShowHistory(const std::string& fileName) {
+  RequireCurrentProject();
+  SaveEdits(*this, fileName);  // the provider may put an earlier revision in the file's place
   TStateMessages messages;
   if (RequireCurrentProject().ShowHistory(fileName, messages) == scc::SCC_I_RELOADFILE) ReloadFile(fileName);
   DisplayMessages(sShowHistory, messages);
 }
 
 void TSccExpert::Properties(const std::string& fileName) {
+  RequireCurrentProject();
+  SaveEdits(*this, fileName);
   TStateMessages messages;
   RequireCurrentProject().Properties(fileName, messages);
   DisplayMessages(sProperties, messages);

@@ -55,6 +55,17 @@ bool IsUnitModified(const std::string& fileName) {
   return source->GetModified();
 }
 
+IOTAEditor* FindEditor(const std::string& fileName, const std::string& unit) {
+  auto* services = IdeService<IOTAModuleServices>();
+  auto* module = services ? services->FindModule(fileName) : nullptr;
+  if (!module && services) module = services->FindModule(unit);
+  const int count = module ? module->GetEditorCount() : 0;
+  for (int i = 0; i < count; ++i)
+    if (auto* editor = module->GetEditor(i); editor && SameText(editor->GetFileName(), fileName))
+      return editor;
+  return nullptr;
+}
+
 std::string rv_GetCurrentFile() {
   auto* editors = IdeService<IOTAEditorServices>();
   auto* buffer = editors ? editors->GetTopBuffer() : nullptr;

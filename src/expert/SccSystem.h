@@ -20,6 +20,10 @@ IOTAProject* CurrentProject();
 /// when the module's first editor is no source editor.
 bool IsUnitModified(const std::string& fileName);
 
+/// The editor of that file (compared ignoring case) in the module that the host has open for it, else in the one of
+/// `unit`; nullptr when it is not open.
+IOTAEditor* FindEditor(const std::string& fileName, const std::string& unit);
+
 /// The file name of the front-most editor buffer; empty when there is none or it is not open as a module.
 std::string rv_GetCurrentFile();
 /// The number of modules of the current project.

@@ -4,6 +4,7 @@
 #include <exception>
 #include <utility>
 
+#include "expert/Edits.h"
 #include "expert/SccExpert.h"
 #include "host/Paths.h"
 #include "host/System.h"
@@ -15,43 +16,41 @@ namespace {
 struct TCall {
   const TStringList& Files;  // exactly one
   const std::string& Comment;
-  TStateMessages Messages;  // the provider's words have gone to the message window; these are not shown
+  TStateMessages Messages;
 };
 
 /// What an activity means.
 struct TStep {
   TResString Line;
   bool (*Run)(TSCCProviderProject& project, TCall& call);  // nullptr: nothing is done
-  bool SavesFirst;  // the provider takes the file from disk, so it must hold what the user sees in the editor
-  bool Reloads;     // the local copy may have changed
+  bool Reloads;  // the local copy may have changed
 };
 
 /// By activity.
 constexpr std::array kSteps{
-    TStep{sNoAction, nullptr, false, false},
+    TStep{sNoAction, nullptr, false},
     TStep{sCommiting,
           [](auto& project, auto& call) {
             return project.CheckInFile(call.Files, call.Comment, false, call.Messages);
           },
-          true, true},
+          true},
     TStep{sCheckingOut,
           [](auto& project, auto& call) {
             return project.CheckOutFile(call.Files, call.Comment, call.Messages);
           },
-          false, true},
-    TStep{sUndoingCheckOut,
-          [](auto& project, auto& call) { return project.UnCheckOutFile(call.Files, call.Messages); }, false,
           true},
+    TStep{sUndoingCheckOut,
+          [](auto& project, auto& call) { return project.UnCheckOutFile(call.Files, call.Messages); }, true},
     TStep{sAdding,
           [](auto& project, auto& call) {
             return project.AddFile(call.Files, call.Comment, false, call.Messages);
           },
-          true, false},
+          false},
     TStep{sRemoving, [](auto& project, auto& call) { return project.RemoveFile(call.Files, call.Messages); },
-          false, false},
+          false},
     TStep{sGettingLatest,
           [](auto& project, auto& call) { return project.GetFile(call.Files, call.Messages) == scc::SCC_OK; },
-          false, true},
+          true},
 };
 static_assert(kSteps.size() == kCommitActivities);
 
@@ -70,7 +69,7 @@ class TCommitPass {
       CarryOut(rows[i]);
     }
     progress.reset();
-    expert_.ReloadFiles(changed_);
+    Guarded(mwtError, sReloadError, [this] { expert_.ReloadFiles(changed_); });
     expert_.Forms().ShowMsgDialog(sCommitSummaryTitle, summary_, metInfo);
   }
 
@@ -91,12 +90,18 @@ class TCommitPass {
   }
 
   /// Whatever goes wrong is this row's failure: the others are still to be done.
-  bool Attempt(const TStep& step, const TCommitRowData& row) try {
-    if (step.SavesFirst) expert_.SaveIfModified(row.FileName);
+  bool Attempt(const TStep& step, const TCommitRowData& row) {
     const TStringList file{row.FileName};
     TCall call{file, comments_.Individual ? row.Comment : comments_.Summary, {}};
-    return step.Run(Project(), call);
-  } catch (const std::exception&) {
+    try {
+      SaveEdits(expert_, row.FileName);
+      if (step.Run(Project(), call)) {
+        return true;
+      }
+    } catch (const std::exception& error) {
+      call.Messages.back() = error.what();
+    }
+    WriteFailure(row.FileName, call.Messages);
     return false;
   }
 

@@ -15,8 +15,9 @@ struct TCommitComments {
 };
 
 /// Carries out the activity of every row, one file at a time in row order, reloads what changed and shows a summary of
-/// what was done.  A failure marks only its row in the summary.  Afterwards every listed file on disk is writable.
-/// `progress` is told each row before it is begun; it ends before the summary is shown.
+/// what was done.  What the editor shows of a file is saved first.  A failure marks only its row in the summary; its
+/// reason goes to the message window.  Afterwards every listed file on disk is writable.  `progress` is told each row
+/// before it is begun; it ends before the summary is shown.
 ///
 /// Throws EAbort, with nothing touched, when there is no provider or the project's directory is no provider project.
 void CommitRows(TSccExpert& expert, const std::vector<TCommitRowData>& rows, const TCommitComments& comments,

@@ -16,3 +16,4 @@ constexpr TResString sOutcomeFollows{": "};
 constexpr TResString sSucceeded{"Succeeded"};
 constexpr TResString sFailed{"Failed"};
 constexpr TResString sCommitSummaryTitle{"Commit Borwser"};
+constexpr TResString sReloadError{"ReloadFiles; %s"};

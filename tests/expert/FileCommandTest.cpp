@@ -255,17 +255,54 @@ TEST_F(FileCommand, FailedSaveAllStopsBeforeTheProvider) {
   EXPECT_THAT(provider_->Entries(), IsEmpty());
 }
 
-TEST_F(FileCommand, CheckOutSavesModifiedUnitsAndProjectsFirst) {
+TEST_F(FileCommand, TakesWhatTheEditorsShowAndLeavesOutWhatCannotBeSaved) {
+  const struct {
+    void (TSccExpert::*Command)(const std::string&);
+    const char* Entry;
+    const char* Box;
+    Long Status;
+    bool Reloads;
+  } rows[] = {
+      {&TSccExpert::AddFiles, "SccAdd", "Add File", 0, false},
+      {&TSccExpert::RemoveFiles, "SccRemove", "Remove File", 1, false},
+      {&TSccExpert::GetLatestVersion, "SccGet", "Get File", 1, true},
+      {&TSccExpert::CheckInFiles, "SccCheckin", "Check In File", kMine, true},
+      {&TSccExpert::CheckOutFiles, "SccCheckout", "Check Out File", 1, true},
+      {&TSccExpert::UndoCheckOut, "SccUncheckout", "Undo Check out File", kMine, true},
+  };
   provider_->Capabilities = 0;  // a comment dialog would be unexpected
   auto& expert = Open();
-  host_.AddUnit(units_[0]).Editors.front().Modified = true;
-  host_.AddUnit(units_[1]);
-  provider_->OnCall["SccCheckout"] = [&](const ScriptedCall&) { host_.Log.emplace_back("SccCheckout"); };
-  WillTick({"unit1.pas", "unit2.pas"});
-  provider_->StatusOf = [](const std::string& file) { return Long{ExtractFileExt(file) == ".pas"}; };
-  expert.CheckOutFiles({});
-  EXPECT_EQ(host_.Log.front(), "SaveFile " + units_[0]);
-  EXPECT_EQ(std::ranges::count(host_.Log, "SaveFile " + units_[1]), 0);
+  auto& unit1 = host_.AddUnit(units_[0]);
+  unit1.Editors.emplace_back(At("unit1.kfm"), true);
+  for (auto& editor : unit1.Editors) editor.Modified = true;
+  host_.AddUnit(units_[1]).Editors.front().Modified = true;
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.Entry);
+    provider_->StatusOf = [&](const std::string& file) { return FileExists(file) ? row.Status : Long{4}; };
+    provider_->OnCall[row.Entry] = [&](const ScriptedCall& call) {
+      for (const auto& file : call.Files) EXPECT_THAT(host_.Log, Contains("SaveFile " + file));
+    };
+    const auto run = [&](const std::string& unsavable) {
+      host_.Unsavable = unsavable;
+      host_.Log.clear();
+      forms_.Boxes.clear();
+      provider_->Calls.clear();
+      WillTick({"unit1.pas", "unit2.pas"});
+      (expert.*row.Command)({});
+      std::vector<std::string> given;
+      for (const auto& call : provider_->Calls)
+        if (call.Entry == row.Entry) given.insert(given.end(), call.Files.begin(), call.Files.end());
+      return given;
+    };
+    EXPECT_THAT(run({}), ElementsAre(units_[0], At("unit1.kfm"), units_[1]));
+    EXPECT_THAT(run(At("unit1.kfm")), ElementsAre(units_[0], units_[1]));
+    EXPECT_EQ(
+        forms_.Boxes.front(),
+        (TShownBox{row.Box, At("unit1.kfm") + " has unsaved changes and could not be saved", metError}));
+    EXPECT_THAT(host_.Log, Not(Contains("ReloadFile " + At("unit1.kfm"))));
+    EXPECT_EQ(std::ranges::count(host_.Log, "ReloadFile " + units_[1]), row.Reloads);
+    EXPECT_THAT(forms_.Boxes, Not(Contains(testing::Field(&TShownBox::Text, HasSubstr("success")))));
+  }
 }
 
 TEST_F(FileCommand, OnlyTheLastCheckOutDecidesAboutTheReport) {

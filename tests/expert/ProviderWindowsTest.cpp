@@ -7,11 +7,27 @@ using namespace scc;
 
 class ProviderWindows : public TExpertTest {};
 
-TEST_F(ProviderWindows, DifferencesSaveFirstAndPassTheFlag) {
+TEST_F(ProviderWindows, SaveFirstAndAreNotShownWhenThatFails) {
   auto& expert = Open();
   host_.AddUnit(units_[0]).Editors.front().Modified = true;
-  expert.ShowDiff(units_[0]);
-  EXPECT_THAT(host_.Log, ElementsAre("SaveFile " + units_[0]));
+  const std::pair<void (TSccExpert::*)(const std::string&), const char*> windows[] = {
+      {&TSccExpert::ShowDiff, "SccDiff"},
+      {&TSccExpert::ShowHistory, "SccHistory"},
+      {&TSccExpert::Properties, "SccProperties"}};
+  provider_->Results["SccHistory"] = SCC_I_RELOADFILE;
+  for (const auto& [show, entry] : windows) {
+    SCOPED_TRACE(entry);
+    host_.Log.clear();
+    host_.Unsavable.clear();
+    (expert.*show)(units_[0]);
+    EXPECT_EQ(host_.Log.front(), "SaveFile " + units_[0]);
+    host_.Log.clear();
+    host_.Unsavable = units_[0];
+    EXPECT_EQ(AbortOf([&, command = show] { (expert.*command)(units_[0]); }),
+              units_[0] + " has unsaved changes and could not be saved");
+    EXPECT_EQ(provider_->Count(entry), 1);
+    EXPECT_THAT(host_.Log, ElementsAre("SaveFile " + units_[0]));
+  }
   EXPECT_EQ(provider_->Last("SccDiff").Flags, 2);
 }
 
@@ -52,6 +68,9 @@ TEST_F(ProviderWindows, ReloadingAProjectFileReopensTheGroupOrTheProject) {
   auto& expert = Open();
   host_.AddUnit(units_[0]);
   expert.ReloadFiles({units_[0], At("APP.QVXPROJ"), At("notopen.pas")});
+  EXPECT_THAT(host_.Log, ElementsAre("CloseAll", "OpenProject " + project_file_));
+  host_.Log.clear();
+  expert.ReloadFile(At("APP.QVXPROJ"));
   EXPECT_THAT(host_.Log, ElementsAre("CloseAll", "OpenProject " + project_file_));
   host_.Log.clear();
 

@@ -112,5 +112,10 @@ bool TScriptedHost::CloseAll() {
 
 bool TScriptedHost::SaveFile(const std::string& fileName) {
   Did("SaveFile", fileName);
-  return SaveSucceeds;
+  return SaveSucceeds && fileName != Unsavable;
+}
+
+bool TScriptedHost::ReloadFile(const std::string& fileName) {
+  if (!ReloadError.empty()) throw std::runtime_error(ReloadError);
+  return Did("ReloadFile", fileName);
 }

@@ -103,6 +103,8 @@ class TScriptedHost final : public IOTAServices,
   std::vector<std::string> Log;
   // What the host answers.
   bool SaveSucceeds = true;
+  std::string Unsavable;    // the one file that SaveFile fails for
+  std::string ReloadError;  // what ReloadFile throws; empty: nothing
   bool HasServices = true;
   std::string TopBuffer;  // empty: none
   std::string StartupDirectory = "/startup";
@@ -129,7 +131,7 @@ class TScriptedHost final : public IOTAServices,
   bool OpenFile(const std::string& fileName) override { return Did("OpenFile", fileName); }
   bool OpenProject(const std::string& fileName, bool) override { return Did("OpenProject", fileName); }
   bool SaveFile(const std::string& fileName) override;
-  bool ReloadFile(const std::string& fileName) override { return Did("ReloadFile", fileName); }
+  bool ReloadFile(const std::string& fileName) override;
   IOTAEditBuffer* GetTopBuffer() override { return TopBuffer.empty() ? nullptr : this; }
   std::string GetFileName() override { return TopBuffer; }
   void InsertMenu(TMenuItem& top) override { Menus.push_back(&top); }

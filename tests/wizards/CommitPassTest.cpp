@@ -99,6 +99,10 @@ TEST_F(CommitPass, AFailureMarksOnlyItsRow) {
             "\r\n + Undoing checkout on unit2.pas: Succeeded");
   EXPECT_THAT(host_.Log, Not(Contains("ReloadFile " + At("unit1.pas"))));
   EXPECT_TRUE(Writable("unit1.pas"));
+  EXPECT_THAT(
+      forms_.LinesOf(mwtError),
+      ElementsAre(testing::StartsWith(At("unit1.pas") + ": "), At("gone.pas") + ": Operation was cancelled",
+                  testing::AllOf(testing::StartsWith(At("unit1.kfm")), HasSubstr("SccAdd"))));
 }
 
 TEST_F(CommitPass, NothingChosenCallsNoProviderButFreesTheFiles) {
@@ -119,15 +123,30 @@ TEST_F(CommitPass, TheSummaryCommentGoesToEveryRow) {
   EXPECT_EQ(provider_->Calls.size(), 2U);
 }
 
-TEST_F(CommitPass, TakesWhatTheEditorShows) {
-  for (const auto& unit : units_) {
-    auto& module = host_.AddUnit(unit);
-    module.Editors.front().Modified = true;
+TEST_F(CommitPass, TakesWhatTheEditorShowsAndKeepsWhatCannotBeSaved) {
+  std::vector<TCommitRowData> rows;
+  for (int activity = caNone; activity < kCommitActivities; ++activity) {
+    rows.push_back(Row("file" + std::to_string(activity) + (activity % 2 ? ".kfm" : ".pas"),
+                       static_cast<TCommitActivity>(activity)));
+    host_.AddUnit(rows.back().FileName).Editors.front().Modified = true;
   }
   Open();
-  Summary({Row("unit1.pas", caCommit), Row("unit2.pas", caUndo)});
-  EXPECT_THAT(host_.Log, ElementsAre("SaveFile " + At("unit1.pas"), "ReloadFile " + At("unit1.pas"),
-                                     "ReloadFile " + At("unit2.pas")));
+  for (const char* entry : {"SccCheckin", "SccCheckout", "SccUncheckout", "SccAdd", "SccRemove", "SccGet"})
+    provider_->OnCall[entry] = [this](const ScriptedCall& call) {
+      EXPECT_EQ(host_.Log.back(), "SaveFile " + call.Files[0]);
+    };
+  host_.Unsavable = At("file1.kfm");
+  EXPECT_THAT(Summary(rows), HasSubstr("Commiting file1.kfm: Failed"));
+  EXPECT_EQ(provider_->Count("SccCheckin"), 0);
+  EXPECT_EQ(provider_->Count("SccAdd"), 1);
+  EXPECT_THAT(host_.Log, Not(Contains("ReloadFile " + At("file1.kfm"))));
+  EXPECT_THAT(host_.Log, Contains("ReloadFile " + At("file2.pas")));
+  EXPECT_THAT(host_.Log, Not(Contains("SaveFile " + At("file0.pas")))) << "nothing is done with it";
+  EXPECT_THAT(forms_.LinesOf(mwtError), ElementsAre(HasSubstr("could not be saved")));
+
+  host_.ReloadError = "the editor is gone";
+  EXPECT_THAT(Summary(rows), HasSubstr("Getting Latest file6.pas: Succeeded"));
+  EXPECT_THAT(forms_.LinesOf(mwtError), Contains("ReloadFiles; the editor is gone"));
 }
 
 TEST_F(CommitPass, IsRefusedWithoutAProviderProjectBeforeAnythingIsTouched) {
