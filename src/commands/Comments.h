@@ -3,7 +3,7 @@
 
 #include <wx/menu.h>
 
-#include "commands/CommentHistory.h"
+#include "expert/CommentMemory.h"
 #include "expert/FileListModel.h"
 #include "ui/ModalForm.h"
 

@@ -1,16 +1,189 @@
 #include "expert/CommentMemory.h"
 
-#include "host/Text.h"
+#include <algorithm>
+#include <charconv>
+#include <limits>
+#include <stdexcept>
 
-std::string TCommentMemory::Pending(scc::SCCCommand command) const {
-  const auto found = pending_.find(command);
+#include "expert/SccExpert.h"
+#include "expert/SccExpertStrings.h"
+#include "host/Options.h"
+
+namespace {
+
+// The store: one field for each project, "turn&project file&kind=comment&...".  The turn counts changes, so that the
+// project whose comments have not changed for longest is known.  A kind is kRecentKind or the place of a pending one.
+constexpr const char* kSettings = "SCMComments";
+constexpr const char* kField = "Project%d";
+constexpr std::string_view kRecentKind = "recent";
+constexpr std::string_view kHexDigits = "0123456789ABCDEF";
+
+IOTAPropertySet* Settings() {
+  auto* services = IdeService<IOTAOptionsServices>();
+  return services ? &services->PropertySet(kSettings) : nullptr;
+}
+
+std::string FieldName(std::size_t index) { return Format(kField, {static_cast<long long>(index) + 1}); }
+
+std::string Encoded(std::string_view text) {
+  std::string encoded;
+  for (const char c : text) {
+    const auto byte = static_cast<unsigned char>(c);
+    if (byte < ' ' || std::string_view("%&=").find(c) != std::string_view::npos)
+      encoded.append({'%', kHexDigits[byte / 16], kHexDigits[byte % 16]});
+    else
+      encoded += c;
+  }
+  return encoded;
+}
+
+std::string Decoded(std::string_view text) {
+  std::string decoded;
+  while (!text.empty()) {
+    unsigned char byte = 0;
+    const bool escape = text.size() >= 3 && text.front() == '%' &&
+                        std::from_chars(text.data() + 1, text.data() + 3, byte, 16).ptr == text.data() + 3;
+    decoded += escape ? static_cast<char>(byte) : text.front();
+    text.remove_prefix(escape ? 3 : 1);
+  }
+  return decoded;
+}
+
+/// Takes the part up to the next `mark` off `text`, and the mark with it.
+std::string_view NextPart(std::string_view& text, char mark) {
+  const auto part = text.substr(0, text.find(mark));
+  text.remove_prefix(std::min(text.size(), part.size() + 1));
+  return part;
+}
+
+struct TStored {
+  long long Turn = 0;
+  std::string Project;
+  std::string_view Comments;
+};
+
+TStored TakeApart(std::string_view text) {
+  TStored stored;
+  const auto turn = NextPart(text, '&');
+  std::from_chars(turn.data(), turn.data() + turn.size(), stored.Turn);
+  stored.Project = Decoded(NextPart(text, '&'));
+  stored.Comments = text;
+  return stored;
+}
+
+}  // namespace
+
+TCommentMemory::TCommentMemory(std::string projectFile) : project_file_(std::move(projectFile)) {
+  auto* settings = Settings();
+  if (!settings) return;
+  settings->Load();
+  for (std::size_t i = 0; i < kProjects; ++i) {
+    const auto text = settings->GetValue(FieldName(i));
+    const auto stored = TakeApart(text);
+    if (SameText(stored.Project, project_file_)) TakeOver(stored.Comments);
+  }
+}
+
+void TCommentMemory::TakeOver(std::string_view comments) {
+  while (!comments.empty()) {
+    auto comment = NextPart(comments, '&');
+    const auto kind = NextPart(comment, '=');
+    if (kind == kRecentKind && recent_.size() < kRecent)
+      recent_.push_back(Decoded(comment));
+    else if (kind != kRecentKind && pending_.size() < kPending)
+      pending_.emplace_back(Decoded(kind), Decoded(comment));
+  }
+}
+
+std::string TCommentMemory::Text(long long turn) const {
+  if (recent_.empty() && pending_.empty()) return {};
+  auto text = std::to_string(turn) + '&' + Encoded(project_file_);
+  for (const auto& comment : recent_)
+    text.append("&").append(kRecentKind).append("=").append(Encoded(comment));
+  for (const auto& [place, comment] : pending_)
+    text.append("&").append(Encoded(place)).append("=").append(Encoded(comment));
+  return text;
+}
+
+std::string TCommentMemory::Place(std::string_view command, std::string_view fileName) {
+  return std::string(command).append(" ").append(FoldCase(fileName));
+}
+
+std::string TCommentMemory::Pending(const std::string& place) const {
+  const auto found = std::ranges::find(pending_, place, &std::pair<std::string, std::string>::first);
   return found == pending_.end() ? std::string() : found->second;
 }
 
-void TCommentMemory::Typed(scc::SCCCommand command, const std::string& text) {
-  if (Trim(text).empty()) return;
-  pending_[command] = text;
+void TCommentMemory::Typed(const std::string& place, const std::string& text) {
+  const bool blank = Trim(text).empty();
+  if (Pending(place) == (blank ? std::string() : text)) return;
+  std::erase_if(pending_, [&](const auto& pending) { return pending.first == place; });
+  if (!blank) pending_.emplace(pending_.begin(), place, text);
+  if (pending_.size() > kPending) pending_.pop_back();
+  changed_ = true;
+}
+
+void TCommentMemory::Used(const std::string& place, const std::string& text) {
+  if (Pending(place) == text) Typed(place, {});
+  if (Trim(text).empty() || (!recent_.empty() && recent_.front() == text)) return;
   std::erase(recent_, text);
   recent_.insert(recent_.begin(), text);
   if (recent_.size() > kRecent) recent_.pop_back();
+  changed_ = true;
 }
+
+void TCommentMemory::Save() try {
+  if (changed_) Store();
+  changed_ = false;
+} catch (const std::runtime_error& error) {
+  WriteMessageFmt(mwtWarning, sCommentsNotStored.Text, {error.what()});
+}
+
+void TCommentMemory::Store() {
+  auto* settings = Settings();
+  if (!settings) return;
+  settings->Load();  // another program may have stored its own
+  long long last = 0;
+  long long lowest = std::numeric_limits<long long>::max();
+  std::size_t field = 0;
+  for (std::size_t i = 0; i < kProjects; ++i) {
+    const auto text = settings->GetValue(FieldName(i));
+    const auto stored = TakeApart(text);
+    last = std::max(last, stored.Turn);
+    // Its own field comes before a free one, and that before the oldest of another project.
+    const auto rank = SameText(stored.Project, project_file_) ? -1 : stored.Turn;
+    if (rank >= lowest) continue;
+    lowest = rank;
+    field = i;
+  }
+  settings->SetValue(FieldName(field), Text(last + 1));
+  settings->Save();
+}
+
+TCommentHistory::TCommentHistory(const std::vector<std::string>& recent, const std::string& offered)
+    : entries_(recent) {
+  // What is offered can be typed over, so it stands among the earlier comments too.
+  if (!Trim(offered).empty() && std::ranges::count(recent, offered) == 0) entries_.push_back(offered);
+  entries_.insert(entries_.begin(), offered);
+}
+
+void TCommentHistory::Keep(const std::string& shown) {
+  if (IsAtDraft()) entries_[0] = shown;
+  if (entries_[at_] == shown || Trim(shown).empty()) return;
+  at_ = 1;
+  entries_.insert(entries_.begin() + 1, shown);
+}
+
+std::optional<std::string> TCommentHistory::Older() {
+  for (auto i = at_ + 1; i < entries_.size(); ++i)
+    if (entries_[i] != entries_[at_]) return Choose(i);
+  return {};
+}
+
+std::optional<std::string> TCommentHistory::Newer() {
+  for (auto i = at_; i-- > 0;)
+    if (entries_[i] != entries_[at_]) return Choose(i);
+  return {};
+}
+
+const std::string& TCommentHistory::Choose(std::size_t entry) { return entries_[at_ = entry]; }

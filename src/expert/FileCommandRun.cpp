@@ -40,7 +40,10 @@ const TResString& ProbeText(scc::Long code) {
 }  // namespace
 
 TFileCommandRun::TFileCommandRun(TSccExpert& expert, const TFileCommand& command, const std::string& fileName)
-    : expert_(expert), command_(command), file_name_(Trim(fileName).empty() ? std::string() : fileName) {}
+    : expert_(expert),
+      command_(command),
+      file_name_(Trim(fileName).empty() ? std::string() : fileName),
+      comments_(expert.GetCurrentProjectFile()) {}
 
 void TFileCommandRun::Execute() {
   directory_ = ExtractFileDir(expert_.GetCurrentProjectFile());
@@ -127,24 +130,26 @@ void TFileCommandRun::TakeTicked(const TFileListModel& model) {
                                                                                      : false;
 }
 
-void TFileCommandRun::AskComment(const std::string& caption, bool showApplyToAll) {
+void TFileCommandRun::AskComment(const std::string& caption, const std::string& fileName) {
+  comment_place_ = TCommentMemory::Place(std::to_string(command_.Command), fileName);
   TCommentModel model;
   model.Caption = caption;
-  model.ShowApplyToAll = showApplyToAll;
-  model.Text = expert_.comments_.Pending(command_.Command);
-  model.Recent = expert_.comments_.Recent();
+  model.ShowApplyToAll = !fileName.empty();
+  model.Text = comments_.Pending(comment_place_);
+  model.Recent = comments_.Recent();
   const int result = expert_.Forms().ShowComments(model);
-  expert_.comments_.Typed(command_.Command, model.Text);
+  comments_.Typed(comment_place_, model.Text);
+  comments_.Save();
   if (result != mrOk) {
     Box(command_.Single, sUserCancelledDialog);
     throw EAbort(sUserCancelledDialog);
   }
   comment_ = model.Text;
-  apply_to_all_ = showApplyToAll && model.ApplyToAll;
+  apply_to_all_ = model.ShowApplyToAll && model.ApplyToAll;
 }
 
 bool TFileCommandRun::WantsComment() {
-  Project();
+  Project();  // before anything is saved or gathered
   return command_.CommentCapability &&
          expert_.ProviderList()->Capabilities().test(*command_.CommentCapability);
 }
@@ -173,17 +178,19 @@ bool TFileCommandRun::SaveSelected() {
 bool TFileCommandRun::CallProvider(const TStringList& files) {
   TStateMessages messages;
   const bool done = command_.Run(Project(), {files, comment_, keep_checked_out_, messages});
+  if (done) {  // the comment has arrived, whatever becomes of other files
+    comments_.Used(comment_place_, comment_);
+    comments_.Save();
+  }
   expert_.DisplayMessages(command_.Single, messages);
-  all_succeeded_ = all_succeeded_ && done;
   return done;
 }
 
 void TFileCommandRun::CallTogether() {
-  if (WantsComment()) AskComment({}, false);
+  if (WantsComment()) AskComment({}, {});
   const bool allSaved = SaveSelected();
   if (selected_.empty()) return;
   const bool done = command_.CallKind == TFileCommand::Calls::Batch ? CallBatch() : CallOneByOne();
-  if (all_succeeded_) expert_.comments_.Used(command_.Command);
   if (done && command_.ClearReadOnly && !keep_checked_out_)
     for (const auto& file : selected_) SetFileAttributesOf(file, faArchive);
   Reload(done);
@@ -214,10 +221,9 @@ void TFileCommandRun::CallCounting() {
     progress->Step(done++, file);
     if (!SaveFile(file)) continue;
     if (WantsComment() && !apply_to_all_)
-      AskComment(Format(sCommentsFor.Text, {ExtractFileName(file)}), true);
+      AskComment(Format(sCommentsFor.Text, {ExtractFileName(file)}), file);
     if (CallProvider({file})) ++succeeded;
   }
-  if (all_succeeded_) expert_.comments_.Used(command_.Command);
   if (succeeded == selected_.size())
     ReportDone();
   else

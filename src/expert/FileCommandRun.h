@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "expert/CommentMemory.h"
 #include "expert/FileCommands.h"
 #include "expert/FileIndex.h"
 #include "expert/SccExpert.h"
@@ -23,8 +24,9 @@ class TFileCommandRun {
   void FillList(TFileListModel& model);
   void TakeTicked(const TFileListModel& model);
   bool WantsComment();
-  /// Throws EAbort when the user cancels.
-  void AskComment(const std::string& caption, bool showApplyToAll);
+  /// For one file, if it is named, with the box that makes the comment serve the others, too.  Throws EAbort when the
+  /// user cancels.
+  void AskComment(const std::string& caption, const std::string& fileName);
   /// Puts what the editor shows of the file on disk; false, with the reason shown, when that fails.
   bool SaveFile(const std::string& fileName);
   /// The same for all selected files; those that cannot be saved are selected no more.  Whether all were saved.
@@ -53,8 +55,9 @@ class TFileCommandRun {
   TFileIndex all_index_;
   TStringList selected_;
   TStatusArray statuses_;
+  TCommentMemory comments_;
   std::string comment_;
+  std::string comment_place_;  // where it was typed
   bool apply_to_all_ = false;
   bool keep_checked_out_ = false;
-  bool all_succeeded_ = true;
 };

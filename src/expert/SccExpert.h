@@ -10,7 +10,6 @@
 #include <string>
 #include <vector>
 
-#include "expert/CommentMemory.h"
 #include "expert/ExpertForms.h"
 #include "expert/FileIndex.h"
 #include "expert/FileListModel.h"
@@ -178,8 +177,6 @@ class TSccExpert final : public TNotifierObject, public IOTAWizard {
   bool IsProjectFile(const std::string& fileName) const;
 
  private:
-  friend class TFileCommandRun;
-
   void Create();
   void ReadProviderOption();
   void ReadUserOption();
@@ -212,7 +209,6 @@ class TSccExpert final : public TNotifierObject, public IOTAWizard {
   std::unique_ptr<TSCCProviderList> provider_list_;
   std::string open_project_file_;  // whose provider project is open; empty when none is
   std::unique_ptr<TExpertMainMenuModule> menu_;
-  TCommentMemory comments_;
 
   struct TNotification {
     TOTAFileNotification Code;

@@ -49,4 +49,5 @@ constexpr TResString sSaveAllFailed{
 constexpr TResString sPulledNotOpened{"%s could not be opened"};
 constexpr TResString sFailure{"%s: %s"};
 constexpr TResString sFileNotSaved{"%s has unsaved changes and could not be saved"};
+constexpr TResString sCommentsNotStored{"The comments could not be stored: %s"};
 constexpr TResString sCommandRunning{"Another source control command is still running"};

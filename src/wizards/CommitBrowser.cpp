@@ -13,6 +13,7 @@
 #include <memory>
 
 #include "commands/CommentsStrings.h"
+#include "expert/CommentMemory.h"
 #include "expert/SccExpert.h"
 #include "host/FileName.h"
 #include "host/Paths.h"
@@ -82,7 +83,8 @@ class TCommitBrowser::TProgressLine final : public IProgress {
 
 TCommitBrowser::TCommitBrowser(TSccExpert& expert)
     : TModalForm(ToWx(sCommitBrowserCaption), wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER | wxMAXIMIZE_BOX),
-      FExpert(&expert) {
+      FExpert(&expert),
+      project_file_(expert.GetCurrentProjectFile()) {
   CreateControls();
   LayOut();
   FormCreate();
@@ -91,7 +93,8 @@ TCommitBrowser::TCommitBrowser(TSccExpert& expert)
 
 void TCommitBrowser::FormCreate() {
   AddRows();
-  table_ = new TCommitTable(FRows, ExtractFileDir(FExpert->GetCurrentProjectFile()));
+  table_ = new TCommitTable(FRows, ExtractFileDir(project_file_));
+  RestoreComments();
   FitMemo(individual_);
   FitMemo(summary_);
   StringGrid1->Fill(table_, ActivityComboBox->GetBestSize().GetHeight());
@@ -315,6 +318,33 @@ void TCommitBrowser::FitMemo(const TCommentMemo& comment) {
   comment.Memo->GetParent()->Layout();
 }
 
+void TCommitBrowser::RestoreComments() {
+  const TCommentMemory memory(project_file_);
+  bool anyOwn = false;
+  for (auto& row : FRows) {
+    row.Comment = memory.Pending(CommitCommentPlace(row.FileName));
+    anyOwn = anyOwn || !row.Comment.empty();
+  }
+  if (!FRows.empty()) TMemoIndividualComment->ChangeValue(ToWx(FRows.front().Comment));
+  const auto summary = memory.Pending(CommitCommentPlace());
+  TMemoSummaryComments->ChangeValue(ToWx(summary));
+  if (summary.empty() || anyOwn) return;
+  TCheckBoxSummaryComment->SetValue(true);  // as typing it did
+  TCheckboxIndividualComment->SetValue(false);
+}
+
+void TCommitBrowser::RememberComments() {
+  FitMemo(individual_);  // what was typed last may still wait for it
+  FitMemo(summary_);
+  TCommentMemory memory(project_file_);
+  const auto* current = CurrentRow();
+  for (const auto& row : FRows)
+    memory.Typed(CommitCommentPlace(row.FileName),
+                 &row == current ? FromWx(TMemoIndividualComment->GetValue()) : row.Comment);
+  memory.Typed(CommitCommentPlace(), FromWx(TMemoSummaryComments->GetValue()));
+  memory.Save();
+}
+
 void TCommitBrowser::TMemoIndividualCommentChange(wxCommandEvent&) {
   CallAfter([this] { FitMemo(individual_); });  // GTK is still busy with what was typed
   TCheckBoxSummaryComment->SetValue(false);
@@ -361,7 +391,7 @@ void TCommitBrowser::TButtonShowHistoryClick(wxCommandEvent&) {
 void TCommitBrowser::TButtonCancelClick(wxCommandEvent&) { CloseWith(mrCancel); }
 
 void TCommitBrowser::TButtonCommitClick(wxCommandEvent&) {
-  FitMemo(summary_);
+  RememberComments();
   const TCommitComments comments{TCheckboxIndividualComment->GetValue(),
                                  FromWx(TMemoSummaryComments->GetValue())};
   SetBusy(true);
@@ -385,5 +415,7 @@ void TCommitBrowser::SetBusy(bool busy) {
 }
 
 void TCommitBrowser::CloseWith(int modalResult) {
-  if (!busy_) TModalForm::CloseWith(modalResult);
+  if (busy_) return;
+  if (modalResult == mrCancel) RememberComments();
+  TModalForm::CloseWith(modalResult);
 }

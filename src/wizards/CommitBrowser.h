@@ -101,6 +101,10 @@ class TCommitBrowser final : public TModalForm {
   void BindEvents();
 
   void CloseWith(int modalResult) override;
+  /// Shows the comments that were typed and not used in an earlier browser.
+  void RestoreComments();
+  /// Remembers what is typed, whatever becomes of it.
+  void RememberComments();
   /// The row of the grid's cursor, nullptr when there is none.
   TCommitRowData* CurrentRow();
   TCommitRowData* RowAt(int row);
@@ -122,5 +126,6 @@ class TCommitBrowser final : public TModalForm {
   TCommentMemo summary_{};
   wxStatusBar* source_status_ = nullptr;
   wxStaticText* progress_ = nullptr;
+  std::string project_file_;
   bool busy_ = false;  // a pass is running
 };

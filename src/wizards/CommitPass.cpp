@@ -4,6 +4,7 @@
 #include <exception>
 #include <utility>
 
+#include "expert/CommentMemory.h"
 #include "expert/Edits.h"
 #include "expert/SccExpert.h"
 #include "host/Paths.h"
@@ -23,34 +24,36 @@ struct TCall {
 struct TStep {
   TResString Line;
   bool (*Run)(TSCCProviderProject& project, TCall& call);  // nullptr: nothing is done
+  bool TakesComment;
   bool Reloads;  // the local copy may have changed
 };
 
 /// By activity.
 constexpr std::array kSteps{
-    TStep{sNoAction, nullptr, false},
+    TStep{sNoAction, nullptr, false, false},
     TStep{sCommiting,
           [](auto& project, auto& call) {
             return project.CheckInFile(call.Files, call.Comment, false, call.Messages);
           },
-          true},
+          true, true},
     TStep{sCheckingOut,
           [](auto& project, auto& call) {
             return project.CheckOutFile(call.Files, call.Comment, call.Messages);
           },
-          true},
+          true, true},
     TStep{sUndoingCheckOut,
-          [](auto& project, auto& call) { return project.UnCheckOutFile(call.Files, call.Messages); }, true},
+          [](auto& project, auto& call) { return project.UnCheckOutFile(call.Files, call.Messages); }, false,
+          true},
     TStep{sAdding,
           [](auto& project, auto& call) {
             return project.AddFile(call.Files, call.Comment, false, call.Messages);
           },
-          false},
+          true, false},
     TStep{sRemoving, [](auto& project, auto& call) { return project.RemoveFile(call.Files, call.Messages); },
-          false},
+          false, false},
     TStep{sGettingLatest,
           [](auto& project, auto& call) { return project.GetFile(call.Files, call.Messages) == scc::SCC_OK; },
-          true},
+          false, true},
 };
 static_assert(kSteps.size() == kCommitActivities);
 
@@ -60,6 +63,7 @@ class TCommitPass {
       : expert_(expert),
         comments_(comments),
         directory_(ExtractFileDir(expert.GetCurrentProjectFile())),
+        memory_(expert.GetCurrentProjectFile()),
         summary_(sProcessingFiles.str() + sCRLF.str()) {}
 
   void Execute(const std::vector<TCommitRowData>& rows, std::unique_ptr<IProgress> progress) {
@@ -69,6 +73,7 @@ class TCommitPass {
       CarryOut(rows[i]);
     }
     progress.reset();
+    memory_.Save();
     Guarded(mwtError, sReloadError, [this] { expert_.ReloadFiles(changed_); });
     expert_.Forms().ShowMsgDialog(sCommitSummaryTitle, summary_, metInfo);
   }
@@ -96,6 +101,8 @@ class TCommitPass {
     try {
       SaveEdits(expert_, row.FileName);
       if (step.Run(Project(), call)) {
+        if (step.TakesComment)
+          memory_.Used(CommitCommentPlace(comments_.Individual ? row.FileName : std::string()), call.Comment);
         return true;
       }
     } catch (const std::exception& error) {
@@ -108,11 +115,16 @@ class TCommitPass {
   TSccExpert& expert_;
   const TCommitComments& comments_;
   const std::string directory_;
+  TCommentMemory memory_;
   std::string summary_;
   TStringList changed_;
 };
 
 }  // namespace
+
+std::string CommitCommentPlace(const std::string& fileName) {
+  return TCommentMemory::Place("browser", fileName);
+}
 
 void CommitRows(TSccExpert& expert, const std::vector<TCommitRowData>& rows, const TCommitComments& comments,
                 std::unique_ptr<IProgress> progress) {

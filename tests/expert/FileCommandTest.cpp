@@ -1,6 +1,7 @@
 // The file commands from gathering to the final box.
 #include <map>
 
+#include "expert/CommentMemory.h"
 #include "expert/ExpertFixture.h"
 #include "expert/FileCommands.h"
 #include "host/System.h"
@@ -108,8 +109,8 @@ TEST_F(FileCommand, NothingEligibleShowsABoxAndAborts) {
   EXPECT_THAT(forms_.LinesOf(mwtError), Contains("Check In File: Connection failure"));
 }
 
-TEST_F(FileCommand, CommentOfACancelledOrFailedCommandIsOfferedAgain) {
-  auto& expert = Open();
+TEST_F(FileCommand, CommentIsOfferedUntilItIsUsedOrCleared) {
+  Open();
   provider_->DefaultStatus = kMine;
   std::vector<std::string> offered;
   std::vector<std::string> recent;
@@ -122,21 +123,43 @@ TEST_F(FileCommand, CommentOfACancelledOrFailedCommandIsOfferedAgain) {
       model.Text = type;
       return answer;
     });
-    expert.RunCommand("%s", [&] { expert.CheckInFiles({}); });
+    expert_->RunCommand("%s", [&] { expert_->CheckInFiles({}); });
   };
   run("typed with care", mrCancel, SCC_OK);
   EXPECT_EQ(provider_->Count("SccCheckin"), 0);
   EXPECT_EQ(forms_.Boxes.back(), (TShownBox{"Check In File", "User cancelled dialog", metInfo}));
   EXPECT_THAT(forms_.LinesOf(mwtInfo), Contains("User cancelled dialog"));
+  EXPECT_EQ(TCommentMemory(At("Other.qvxproj")).Pending(TCommentMemory::Place("2")), "") << "another project";
   run("typed with more care", mrOk, SCC_E_ACCESSFAILURE);
+  expert_.reset();
+  Open();  // a restart
   run("typed with more care", mrOk, SCC_OK);
+  run("100 % a=b & \"c\"", mrCancel, SCC_OK);
   run("", mrCancel, SCC_OK);
-  EXPECT_THAT(offered, ElementsAre("", "typed with care", "typed with more care", ""));
-  EXPECT_THAT(recent, ElementsAre("typed with more care", "typed with care"));
-  for (int i = 0; i < 12; ++i) run("comment " + std::to_string(i), mrOk, SCC_OK);
   run("", mrCancel, SCC_OK);
-  EXPECT_EQ(recent.size(), 10U);
-  EXPECT_EQ(recent.front(), "comment 11");
+  EXPECT_THAT(offered,
+              ElementsAre("", "typed with care", "typed with more care", "", "100 % a=b & \"c\"", ""));
+  EXPECT_THAT(recent, ElementsAre("typed with more care")) << "what was used, and nothing else";
+}
+
+TEST(CommentMemory, IsBounded) {
+  TScriptedHost host;
+  for (int i = 0; i < 150; ++i) {
+    TCommentMemory memory("/p" + std::to_string(i % 25) + "/App.qvxproj");
+    for (int n = 0; n < 30; ++n) {
+      const auto text = std::to_string(i * 30 + n) + "\r\nmore";
+      memory.Typed(TCommentMemory::Place("add", text), text);
+      memory.Used({}, text);
+    }
+    memory.Save();
+  }
+  EXPECT_EQ(host.Options.Values.size(), 20U);
+  const TCommentMemory last("/P24/APP.qvxproj");
+  EXPECT_EQ(last.Recent().size(), 10U);
+  EXPECT_EQ(last.Recent().front(), "4499\r\nmore");
+  EXPECT_EQ(last.Pending(TCommentMemory::Place("add", "4400\r\nMORE")), "");
+  EXPECT_EQ(last.Pending(TCommentMemory::Place("add", "4499\r\nMORE")), "4499\r\nmore");
+  EXPECT_THAT(TCommentMemory("/p4/App.qvxproj").Recent(), IsEmpty());
 }
 
 TEST_F(FileCommand, LongWorkReportsEveryFile) {
@@ -170,7 +193,7 @@ TEST_F(FileCommand, OneCallOnManyFilesReportsTheFilesThatTheProviderNames) {
   EXPECT_THAT(forms_.LinesOf(mwtInfo), Contains("Asking the repository"));
 }
 
-TEST_F(FileCommand, PartlyFailedRunKeepsCommentForTheNextOne) {
+TEST_F(FileCommand, CommentsThatArrivedAreNotOfferedAgainAndOptionsLast) {
   struct TRow {
     void (TSccExpert::*Command)(const std::string&);
     const char* Entry;
@@ -179,25 +202,29 @@ TEST_F(FileCommand, PartlyFailedRunKeepsCommentForTheNextOne) {
   const TRow rows[] = {{&TSccExpert::AddFiles, "SccAdd", 0}, {&TSccExpert::CheckOutFiles, "SccCheckout", 1}};
   auto& expert = Open();
   provider_->Advanced = {SCC_COMMAND_ADD, SCC_COMMAND_CHECKOUT};
+  int chosen = 0;
   for (const auto& row : rows) {
     SCOPED_TRACE(row.Entry);
     provider_->StatusOf = [&](const std::string& file) {
       return std::ranges::count(units_, file) > 0 ? row.Status : SCC_STATUS_DELETED | SCC_STATUS_OUTBYUSER;
     };
+    provider_->AdvancedBlock = &chosen;
+    forms_.OnFileList.push_back([&](TFileListModel& model) {
+      EXPECT_TRUE(model.HasOptions);
+      TStateMessages messages;
+      expert.ProviderList()->CurrentProject()->GetCommandOptions(model.CommandKind, coShowAdvDialog,
+                                                                 messages);
+      return mrCancel;
+    });
+    EXPECT_EQ(AbortOf([&] { (expert.*row.Command)({}); }), "User cancelled dialog");
     std::vector<std::string> offered;
     for (const bool fails : {true, false, false}) {
       provider_->OnCall[row.Entry] = [&, fails](const ScriptedCall& call) {
+        EXPECT_EQ(*static_cast<void* const*>(call.Options), &chosen) << "how long it lasts is the provider's";
         const bool first = ExtractFileName(call.Files[0]) == "unit1.pas";
         provider_->Results[row.Entry] = fails && first ? SCC_E_ACCESSFAILURE : SCC_OK;
       };
-      forms_.OnFileList.push_back([&](TFileListModel& model) {
-        EXPECT_TRUE(model.HasOptions);
-        TStateMessages messages;
-        expert.ProviderList()->CurrentProject()->GetCommandOptions(model.CommandKind, coShowAdvDialog,
-                                                                   messages);
-        model.ChangeAllCheckedStates(true);
-        return mrOk;
-      });
+      WillTick({"unit1.pas", "unit2.pas"});
       forms_.OnComments.push_back([&](TCommentModel& model) {
         offered.push_back(model.Text);
         model.Text = "why";
@@ -205,7 +232,7 @@ TEST_F(FileCommand, PartlyFailedRunKeepsCommentForTheNextOne) {
       });
       (expert.*row.Command)({});
     }
-    EXPECT_THAT(offered, ElementsAre("", "why", ""));
+    EXPECT_THAT(offered, ElementsAre("", "", ""));
   }
 }
 
@@ -340,6 +367,7 @@ TEST_F(FileCommand, AddAsksPerFileUntilTheCommentIsToldToServeAll) {
   for (const bool all : {false, true})
     forms_.OnComments.push_back([&, all](TCommentModel& model) {
       EXPECT_TRUE(model.ShowApplyToAll);
+      EXPECT_EQ(model.Text, "") << "the last file's comment is not this one's";
       captions.push_back(model.Caption);
       model.Text = "comment " + std::to_string(captions.size());
       model.ApplyToAll = all;

@@ -210,11 +210,26 @@ TEST_F(CommitBrowser, CommentsTravelWithTheirRowsAndFitTheProvider) {
     EXPECT_EQ(form.TMemoIndividualComment->GetValue(), "first line\nsecond");
     form.StringGrid1->SetGridCursor(3, cgcStatus);
     Type(form.TMemoIndividualComment, "not stored");
+    Type(form.TMemoSummaryComments, "for all");
+    Preview(form.StringGrid1, WXK_ESCAPE);
+  });
+  Show([&](TCommitBrowser& form) {
+    EXPECT_EQ(form.TMemoSummaryComments->GetValue(), "for all");
+    EXPECT_TRUE(form.TCheckboxIndividualComment->GetValue());
+    form.StringGrid1->SetGridCursor(3, cgcStatus);
+    EXPECT_EQ(FromWx(form.TMemoIndividualComment->GetValue()), "n" + std::string(127, 'x'));
     form.FRows[3].Activity = caAdd;
+    form.FRows[3].Comment = std::string(127, 'x');
     Click(form.TButtonCommit);
   });
   EXPECT_EQ(provider_->Last("SccCheckin").Comment, "first line\nsecond");
   EXPECT_EQ(provider_->Last("SccAdd").Comment, std::string(127, 'x')) << "the row was not left since";
+  Show([&](TCommitBrowser& form) {
+    EXPECT_EQ(form.FRows[2].Comment, "") << "used";
+    EXPECT_EQ(form.FRows[3].Comment, "n" + std::string(127, 'x'));
+    EXPECT_EQ(form.TMemoSummaryComments->GetValue(), "for all");
+    form.Close();
+  });
 }
 
 TEST_F(CommitBrowser, TheSummaryCommentServesAllRows) {
