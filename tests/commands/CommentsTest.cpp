@@ -135,6 +135,9 @@ TEST(Comments, WithoutEarlierOnesThereIsNothingToChoose) {
 }
 
 TEST(CommentHistory, LosesNothingThatWasTyped) {
+  TCommentHistory same({"same", "other"}, "same");
+  EXPECT_EQ(same.Older(), "other") << "does not stop at the one that is shown";
+  EXPECT_EQ(same.Newer(), "same");
   TCommentHistory history({"b", "a"}, "forgotten long ago");
   EXPECT_THAT(history.Entries(), ElementsAre("forgotten long ago", "b", "a", "forgotten long ago"));
   history.Keep("draft");
@@ -150,13 +153,6 @@ TEST(CommentHistory, LosesNothingThatWasTyped) {
   EXPECT_EQ(history.Choose(4), "forgotten long ago");
   EXPECT_EQ(history.Older(), std::nullopt);
   EXPECT_EQ(history.Entries().size(), 5u);
-}
-
-TEST(CommentHistory, DoesNotStopAtTheCommentThatIsShown) {
-  TCommentHistory history({"same", "other"}, "same");
-  EXPECT_EQ(history.Older(), "other");
-  EXPECT_EQ(history.Newer(), "same");
-  EXPECT_EQ(history.Newer(), std::nullopt);
 }
 
 }  // namespace

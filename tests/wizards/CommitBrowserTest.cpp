@@ -235,11 +235,13 @@ TEST_F(CommitBrowser, CommentsTravelWithTheirRowsAndFitTheProvider) {
 TEST_F(CommitBrowser, TheSummaryCommentServesAllRows) {
   EXPECT_EQ(Show([](TCommitBrowser& form) {
               form.FRows[2].Comment = "own";
+              form.FRows[3].Activity = caAdd;
               Type(form.TMemoSummaryComments, "for all");
               Click(form.TButtonCommit);
             }),
             mrOk);
   EXPECT_EQ(provider_->Last("SccCheckin").Comment, "for all");
+  EXPECT_EQ(provider_->Last("SccAdd").Comment, "for all");
 }
 
 TEST_F(CommitBrowser, ShowsTheLocalSource) {
@@ -326,12 +328,6 @@ TEST_F(CommitBrowser, CannotBeWorkedWhileThePassRuns) {
   EXPECT_EQ(provider_->Count("SccCheckin"), 2);
   ASSERT_EQ(progress.size(), 2U);
   EXPECT_EQ(progress.back(), "File 4 of 4: unit2.pas");
-}
-
-TEST_F(CommitBrowser, IsNotShownWithoutAProject) {
-  auto& expert = Start();
-  EXPECT_EQ(AbortOf([&] { TCommitBrowser form(expert); }),
-            "Unable to run Commit Browser, provider not assigned");
 }
 
 TEST_F(CommitBrowser, KeepsItsMinimumAndItsColumnsEqual) {

@@ -115,14 +115,6 @@ TEST_F(CommitPass, NothingChosenCallsNoProviderButFreesTheFiles) {
   EXPECT_TRUE(Writable("unit1.pas"));
 }
 
-TEST_F(CommitPass, TheSummaryCommentGoesToEveryRow) {
-  Open();
-  provider_->Calls.clear();
-  Summary({Row("unit1.pas", caCommit, "own"), Row("unit2.pas", caAdd)}, {false, "for all"});
-  for (const auto& call : provider_->Calls) EXPECT_EQ(call.Comment, "for all");
-  EXPECT_EQ(provider_->Calls.size(), 2U);
-}
-
 TEST_F(CommitPass, TakesWhatTheEditorShowsAndKeepsWhatCannotBeSaved) {
   std::vector<TCommitRowData> rows;
   for (int activity = caNone; activity < kCommitActivities; ++activity) {

@@ -123,13 +123,6 @@ TEST_F(CommitRowsOf, AProjectAreItsFilesAndWhatTheProviderKnows) {
   EXPECT_THAT(forms_.Boxes, IsEmpty());
 }
 
-TEST_F(CommitRowsOf, AProjectWithoutFilesAreNone) {
-  auto& expert = Open();
-  for (const char* file : {"App.qvxproj", "unit1.pas", "unit2.pas", "unit1.kfm"})
-    std::filesystem::remove(At(file));
-  EXPECT_THAT(GatherCommitRows(expert), IsEmpty());
-}
-
 TEST_F(CommitRowsOf, AreRefusedWithoutAProviderProject) {
   auto& expert = Start();
   EXPECT_EQ(AbortOf([&] { GatherCommitRows(expert); }),
