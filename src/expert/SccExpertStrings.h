@@ -48,6 +48,7 @@ constexpr TResString sSaveAllFailed{
     "Project and project related files must be saved before mapping: Unkown save error."};
 constexpr TResString sPulledNotOpened{"%s could not be opened"};
 constexpr TResString sFailure{"%s: %s"};
-constexpr TResString sFileNotSaved{"%s has unsaved changes and could not be saved"};
+constexpr TResString sFileNotSaved{
+    "%s has unsaved changes and could not be saved. Nothing was done with it."};
 constexpr TResString sCommentsNotStored{"The comments could not be stored: %s"};
 constexpr TResString sCommandRunning{"Another source control command is still running"};

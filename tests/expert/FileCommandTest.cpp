@@ -325,7 +325,9 @@ TEST_F(FileCommand, TakesWhatTheEditorsShowAndLeavesOutWhatCannotBeSaved) {
     EXPECT_THAT(run(At("unit1.kfm")), ElementsAre(units_[0], units_[1]));
     EXPECT_EQ(
         forms_.Boxes.front(),
-        (TShownBox{row.Box, At("unit1.kfm") + " has unsaved changes and could not be saved", metError}));
+        (TShownBox{row.Box,
+                   At("unit1.kfm") + " has unsaved changes and could not be saved. Nothing was done with it.",
+                   metError}));
     EXPECT_THAT(host_.Log, Not(Contains("ReloadFile " + At("unit1.kfm"))));
     EXPECT_EQ(std::ranges::count(host_.Log, "ReloadFile " + units_[1]), row.Reloads);
     EXPECT_THAT(forms_.Boxes, Not(Contains(testing::Field(&TShownBox::Text, HasSubstr("success")))));

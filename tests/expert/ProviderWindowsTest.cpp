@@ -25,7 +25,7 @@ TEST_F(ProviderWindows, SaveFirstAndAreNotShownWhenThatFails) {
     host_.Log.clear();
     host_.Unsavable = units_[0];
     EXPECT_EQ(AbortOf([&, command = show] { (expert.*command)(units_[0]); }),
-              units_[0] + " has unsaved changes and could not be saved");
+              units_[0] + " has unsaved changes and could not be saved. Nothing was done with it.");
     EXPECT_EQ(provider_->Count(entry), 1);
     EXPECT_THAT(host_.Log, ElementsAre("SaveFile " + units_[0]));
   }
