@@ -1,7 +1,7 @@
 // The project half of a session: identity, choosing, opening and closing.
 #include <initializer_list>
 #include <optional>
-#include <utility>
+#include <string>
 
 #include "provider/ProviderBorder.h"
 #include "provider/ProviderStrings.h"
@@ -18,11 +18,24 @@ struct TIdentityTexts {
   TScratchText User, Name, Local, Aux;
 };
 
-/// Gives the fields what the provider made of their texts: all of them, or none when one cannot be taken.
-void TakeBack(std::initializer_list<std::pair<const TScratchText&, TBoundedText&>> texts) {
+/// One of them on its way back.
+struct TReturned {
+  const TScratchText& Text;
+  TBoundedText& Field;
+};
+
+/// The mapping file and the registry keep these texts as one line each.
+std::string FirstLine(const std::string& text) { return text.substr(0, text.find_first_of("\r\n")); }
+
+/// Gives the fields what the provider made of their texts: all of them, or none when one cannot be taken.  Only a path,
+/// cut, would be another folder's.
+void TakeBack(std::initializer_list<TReturned> lines, std::initializer_list<TReturned> paths = {}) {
   TStringList taken;
-  for (const auto& [text, field] : texts) taken.push_back(text.TextFor(field));
-  for (auto next = taken.begin(); const auto& [text, field] : texts) field.SetUncut(*next++);
+  for (const auto& [text, field] : lines) taken.push_back(FirstLine(text.TextFor(field)));
+  for (const auto& [text, field] : paths) taken.push_back(text.TextFor(field));
+  auto next = taken.begin();
+  for (const auto& texts : {lines, paths})
+    for (const auto& returned : texts) returned.Field.SetUncut(*next++);
 }
 
 }  // namespace
@@ -54,10 +67,8 @@ Long TSCCProviderProject::GetProjectPath(TStateMessages& messages, bool mayCreat
     TIdentityTexts texts("SccGetProjPath", userName_, projName_, localPath_, projPath_);
     const Long result = Invoke(SccGetProjPath, context_, Window(), texts.User.Data(), texts.Name.Data(),
                                texts.Local.Data(), texts.Aux.Data(), toBool(mayChangePath), &isNew.Value);
-    TakeBack({{texts.User, userName_},
-              {texts.Name, projName_},
-              {texts.Local, localPath_},
-              {texts.Aux, projPath_}});
+    TakeBack({{texts.User, userName_}, {texts.Name, projName_}, {texts.Aux, projPath_}},
+             {{texts.Local, localPath_}});
     return result;
   });
   if (code == SCC_OK) messages[0] = isNew.Value != 0 ? sNewProjectCreated : sExistingProjectSelected;

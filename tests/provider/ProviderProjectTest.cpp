@@ -40,7 +40,7 @@ TEST_F(ProviderProject, ChoosingAProjectBringsBackWhatTheProviderWrote) {
 }
 
 TEST_F(ProviderProject, OpensWithACommentAndTheTextCallback) {
-  provider->OpenProject.AuxPath = "rewritten";
+  provider->OpenProject = {"ann\n[Other]", "$/p\r\nUserName=root", {}, "rewritten\r"};
   provider->Texts["SccOpenProject"] = {{scc::SCC_MSG_INFO, "welcome"}};
   EXPECT_EQ(session().OpenProject(messages), 0);
   const ScriptedCall& call = provider->Last("SccOpenProject");
@@ -49,6 +49,8 @@ TEST_F(ProviderProject, OpensWithACommentAndTheTextCallback) {
   EXPECT_EQ(call.Flags, scc::SCC_OP_CREATEIFNEW);
   EXPECT_EQ(call.LocalPath, "/p");
   EXPECT_EQ(session().get_ProjPath(), "rewritten");
+  EXPECT_EQ(session().get_ProjName(), "$/p") << "a text ends at a line break";
+  EXPECT_EQ(session().get_UserName(), "ann");
   EXPECT_THAT(sink.Of(Kind::Info), ElementsAre("welcome"));
 
   EXPECT_EQ(session().OpenProject(messages), scc::SCC_E_PROJECTALREADYOPEN);
