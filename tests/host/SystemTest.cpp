@@ -52,8 +52,8 @@ TEST(System, ReturnsNoTextThatItsBufferCannotHold) {
 
   const TTemporaryFolder folder;
   const auto before = fs::current_path();
-  const auto longest = folder.MakeFolder(std::string(126 - folder.Path().size(), 'x'));
-  ASSERT_EQ(longest.size(), 127u);
+  const auto longest = folder.MakeFolder(std::string(125 - folder.Path().size(), 'x') + "ö");
+  ASSERT_EQ(longest.size(), 128u) << "127 characters";
   fs::current_path(ToFilePath(longest));
   EXPECT_EQ(GetCurrentDirectoryText(128), longest);
   EXPECT_EQ(GetCurrentDirectoryText(127), "");

@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <optional>
@@ -18,7 +19,8 @@ namespace {
 constexpr mode_t kAllWrite = S_IWUSR | S_IWGRP | S_IWOTH;
 
 std::string IfItFits(std::string text, std::size_t bufferSize) {
-  return text.size() < bufferSize ? text : std::string();
+  const auto begins = [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; };
+  return static_cast<std::size_t>(std::ranges::count_if(text, begins)) < bufferSize ? text : std::string();
 }
 
 std::optional<mode_t> ModeOf(const std::string& path) {

@@ -9,8 +9,9 @@
 
 namespace {
 
-std::string IfItFits(std::string text, std::size_t bufferSize) {
-  return text.size() < bufferSize ? text : std::string();
+/// The system counts characters, not the bytes that they have as UTF-8.
+std::string IfItFits(const std::wstring& text, std::size_t bufferSize) {
+  return text.size() < bufferSize ? FromWide(text) : std::string();
 }
 
 DWORD AttributesOf(const std::string& path) { return GetFileAttributesW(ToWideFileName(path).c_str()); }
@@ -28,13 +29,13 @@ std::vector<std::string> CommandLineArguments(int, char**) {
 std::string GetUserNameText(std::size_t bufferSize) {
   std::array<wchar_t, UNLEN + 1> name{};
   auto size = static_cast<DWORD>(name.size());
-  return GetUserNameW(name.data(), &size) ? IfItFits(FromWide(name.data()), bufferSize) : std::string();
+  return GetUserNameW(name.data(), &size) ? IfItFits(name.data(), bufferSize) : std::string();
 }
 
 std::string GetCurrentDirectoryText(std::size_t bufferSize) {
   std::wstring directory(GetCurrentDirectoryW(0, nullptr), L'\0');
   directory.resize(GetCurrentDirectoryW(static_cast<DWORD>(directory.size()), directory.data()));
-  return IfItFits(FromWide(directory), bufferSize);
+  return IfItFits(directory, bufferSize);
 }
 
 std::string FullPath(const std::string& path) {
