@@ -16,9 +16,9 @@ std::vector<std::string> CommandLineArguments(int argc, char** argv);
 /// output to a file or a pipe stays as it is.  Main thread.
 void PrepareConsole();
 
-/// The logged-on user's name.  Empty when it does not fit `bufferSize` characters, terminator included.
+/// The logged-on user's name.  Empty when it does not fit `bufferSize` characters (not bytes), terminator included.
 std::string GetUserNameText(std::size_t bufferSize);
-/// The process's current directory.  Empty when it does not fit `bufferSize` characters, terminator included.
+/// The process's current directory.  Empty when it does not fit `bufferSize` characters (not bytes), terminator included.
 std::string GetCurrentDirectoryText(std::size_t bufferSize);
 
 /// `path` as it is meant from within the current directory, absolute and in normal form (see NormalPath), without asking the
@@ -55,7 +55,8 @@ void MessageBeep(TBeep kind);
 /// Installs what sounds a beep; an empty function removes it.  User-interface thread.
 void SetBeepHandler(std::function<void(TBeep)> handler);
 
-/// Writes the whole file, or leaves the old one as it was: temporary file beside it, synced, renamed over it.
+/// Writes the whole file, or leaves the old one as it was: temporary file beside it, synced, renamed over it.  Removes
+/// what processes that were killed in the middle left beside it.
 /// Keeps the old file's permissions and writes through symbolic links.  A read-only file is refused.  Throws
 /// std::runtime_error with a sentence that names the file.
 void WriteFileAtomically(const std::string& path, const std::string& contents);

@@ -1,8 +1,8 @@
 #include <gmock/gmock.h>
 #include <unistd.h>
 
+#include <chrono>
 #include <filesystem>
-#include <fstream>
 #include <functional>
 #include <stdexcept>
 #include <thread>
@@ -67,15 +67,20 @@ TEST(Files, FailWithASentenceThatNamesThem) {
   EXPECT_THAT(NamesIn(folder.Path()), UnorderedElementsAre("file", "read-only"));
 }
 
-TEST(Files, AreWrittenBesideWhatAKilledProcessLeft) {
+TEST(Files, TakeAwayWhatAKilledProcessLeft) {
   const TTemporaryFolder folder;
+  const auto own = ".corvane-" + std::to_string(getpid()) + "-";
+  const std::string gone = ".corvane-4194305-";  // beyond the numbers of processes on Linux, and odd
+  std::vector<std::string> left{"a.cdp", gone + "new.tmp", gone + "0.txt", ".corvane-x-0.tmp"};
   // More than this process has written so far.
-  for (int i = 0; i < 300; ++i)
-    std::ofstream(folder / (".corvane-" + std::to_string(getpid()) + "-" + std::to_string(i) + ".tmp"))
-        << "left";
+  for (int i = 0; i < 300; ++i) left.push_back(own + std::to_string(i) + ".tmp");
+  for (const auto& name : left) folder.Write(name, "left");
+  for (const auto& name : {gone + "0.tmp", gone + "1.tmp", left[2], left[3], left[4]})
+    fs::last_write_time(ToFilePath(folder.Write(name, "left")),
+                        fs::file_time_type::clock::now() - std::chrono::hours(2));
   WriteFileAtomically(folder / "a.cdp", "new");
   EXPECT_EQ(ReadWholeFile(folder / "a.cdp"), "new");
-  EXPECT_EQ(NamesIn(folder.Path()).size(), 301u);
+  EXPECT_THAT(NamesIn(folder.Path()), testing::UnorderedElementsAreArray(left));
 }
 
 TEST(Files, AreNeverSeenHalfWritten) {

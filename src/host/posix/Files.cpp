@@ -1,10 +1,10 @@
 // Whole files, read and written.
 #include <fcntl.h>
+#include <signal.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <array>
-#include <atomic>
 #include <cerrno>
 #include <cstdio>
 #include <filesystem>
@@ -14,6 +14,7 @@
 
 #include "host/Paths.h"
 #include "host/System.h"
+#include "host/TemporaryFiles.h"
 
 namespace {
 
@@ -74,12 +75,8 @@ class TTemporaryFile {
   }
 
  private:
-  /// Short, so that a target whose own name is as long as names may be can be written too.
   static std::string NewName(const std::string& target) {
-    static std::atomic<unsigned> count{0};
-    const auto directory = ExtractFileDir(target);
-    const auto name = ".corvane-" + std::to_string(getpid()) + "-" + std::to_string(count++) + ".tmp";
-    return directory.empty() ? name : IncludeTrailingPathDelimiter(directory) + name;
+    return PathWithin(ExtractFileDir(target), NewTemporaryName());
   }
   int Create() {
     constexpr int flags = O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC;
@@ -128,7 +125,13 @@ void WriteFileAtomically(const std::string& path, const std::string& contents) {
   if (exists) file.TakePermissionsOf(old);
   file.Write(contents);
   file.Replace();
+  RemoveLeftTemporaryFiles(ExtractFileDir(target));
 }
+
+bool IsProcessRunning(unsigned long process) {
+  return kill(static_cast<pid_t>(process), 0) == 0 || errno != ESRCH;
+}
+unsigned long CurrentProcess() { return static_cast<unsigned long>(getpid()); }
 
 std::string ReadWholeFile(const std::string& path) {
   const TFile file(open(path.c_str(), O_RDONLY | O_CLOEXEC));

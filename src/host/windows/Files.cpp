@@ -1,12 +1,12 @@
 // Whole files, read and written.
 
 #include <algorithm>
-#include <atomic>
 #include <initializer_list>
 #include <memory>
 #include <stdexcept>
 
 #include "host/System.h"
+#include "host/TemporaryFiles.h"
 #include "host/windows/Api.h"
 #include "host/windows/Wide.h"
 
@@ -64,6 +64,9 @@ struct TTarget {
   std::string Shown;  ///< as the caller has it
   std::wstring Path;  ///< the file behind links: a link stays a link when its file is written
   bool Exists;
+
+  /// With its delimiter.
+  std::string Folder() const { return FromWide(Path.substr(0, Path.find_last_of(L"\\:") + 1)); }
 };
 
 /// The name of an open file without links in it; empty where the system has none, as on some virtual disks.
@@ -164,13 +167,7 @@ class TTemporaryFile {
   }
 
  private:
-  /// In the target's directory.  Short, so that a target whose own name is as long as names may be can be written too.
-  std::wstring NewName() const {
-    static std::atomic<unsigned> count{0};
-    const auto directory = target_.Path.substr(0, target_.Path.find_last_of(L"\\:") + 1);
-    return ToWideFileName(FromWide(directory) + ".corvane-" + std::to_string(GetCurrentProcessId()) + "-" +
-                          std::to_string(count++) + ".tmp");
-  }
+  std::wstring NewName() const { return ToWideFileName(target_.Folder() + NewTemporaryName()); }
   void Check(bool succeeded) const {
     if (!succeeded) FailToWrite(target_.Shown, GetLastError());
   }
@@ -188,7 +185,18 @@ void WriteFileAtomically(const std::string& path, const std::string& contents) {
   if (target.Exists) file.TakePermissions();
   file.Write(contents);
   file.Replace();
+  RemoveLeftTemporaryFiles(target.Folder());
 }
+
+bool IsProcessRunning(unsigned long process) {
+  const auto handle = OpenProcess(SYNCHRONIZE, FALSE, process);
+  if (!handle) return GetLastError() != ERROR_INVALID_PARAMETER;
+  // A process that has ended keeps its number as long as somebody has a handle of it.
+  const bool ended = WaitForSingleObject(handle, 0) == WAIT_OBJECT_0;
+  CloseHandle(handle);
+  return !ended;
+}
+unsigned long CurrentProcess() { return GetCurrentProcessId(); }
 
 std::string ReadWholeFile(const std::string& path) {
   TFile file;
