@@ -3,7 +3,7 @@
 #include "host/Text.h"
 
 constexpr TResString sUsage{
-    "Usage: scc-register add NAME PATH [--default] [--force]\n"
+    "Usage: scc-register add NAME PATH [--default] [--force] [--search-path]\n"
     "       scc-register remove NAME\n"
     "       scc-register default NAME\n"
     "       scc-register list\n"};
@@ -15,6 +15,10 @@ constexpr TResString sHelp{
     "           default one.\n"
     "             --default  make it the default one in any case\n"
     "             --force    do not look whether PATH is a provider library\n"
+    "             --search-path\n"
+    "                        (Windows) search the folders in PATH, too, for the\n"
+    "                        libraries that the provider needs; without it only its\n"
+    "                        own folder and the system's.  Other programs do not see it\n"
     "  remove   takes a provider out of the registry; its library stays\n"
     "  default  chooses the provider that projects use unless they name another\n"
     "  list     shows the providers; the default one is marked with '*'\n"
@@ -44,8 +48,9 @@ constexpr TResString sInstalledForAll{
     "\"%s\" is installed for all users of this machine; only an administrator can remove it."};
 
 constexpr TResString sNoProviders{"No source control providers are installed.\n"};
-constexpr TResString sProviderLine{"%s %s  %s\n"};
-constexpr TResString sMissingProviderLine{"%s %s  %s (not found)\n"};
+constexpr TResString sProviderLine{"%s %s  %s"};
+constexpr TResString sNoSuchFile{" (not found)"};
+constexpr TResString sInPath{" (searches PATH)"};
 constexpr TResString sAdded{"Installed \"%s\".\n"};
 constexpr TResString sRemoved{"Removed \"%s\".\n"};
 constexpr TResString sIsDefault{"\"%s\" is the default provider.\n"};

@@ -26,6 +26,7 @@ struct EUsage : std::runtime_error {
 
 constexpr const char* kDefaultOption = "--default";
 constexpr const char* kForceOption = "--force";
+constexpr const char* kSearchPathOption = "--search-path";
 constexpr const char* kEntryPoint = "SccInitialize";
 
 struct TCommandLine {
@@ -82,10 +83,10 @@ void CheckName(const std::string& name) {
     throw EFailure(Format(sBadName, {name}));
 }
 
-void CheckLibrary(const std::string& path) {
+void CheckLibrary(const std::string& path, TDependencySearch search) {
   if (!FileExists(path)) throw EFailure(Format(sFileNotFound, {path}));
   std::string error;
-  const auto module = LoadModule(path, &error);
+  const auto module = LoadModule(path, &error, search);
   if (!module) throw EFailure(Format(sNotLoadable, {path, error}));
   const bool isProvider = FindSymbol(module, kEntryPoint);
   FreeModule(module);
@@ -102,7 +103,9 @@ void Add(const TCommandLine& line) {
   const auto& path = line.Words[2];
   CheckName(name);
   if (!IsAbsolutePath(path)) throw EFailure(Format(sPathNotAbsolute, {path}));
-  if (!line.Options.contains(kForceOption)) CheckLibrary(path);
+  const bool searchesPath = line.Options.contains(kSearchPathOption);
+  if (!line.Options.contains(kForceOption))
+    CheckLibrary(path, searchesPath ? TDependencySearch::OwnFolderPath : TDependencySearch::OwnFolder);
 
   const bool isFirst = InstalledProviders().empty();
   const auto known = KeyOf(name);
@@ -110,6 +113,10 @@ void Add(const TCommandLine& line) {
   // The list comes last: whoever reads it meanwhile finds complete entries only.
   WriteValue(key, kServerName, name);
   WriteValue(key, kServerPath, path);
+  if (searchesPath)
+    WriteValue(key, kSearchPath, "1");
+  else
+    DeleteValue(key, kSearchPath);
   WriteValue(kInstalledProvidersKey, name, key);
   std::cout << Format(sAdded, {name});
   if (isFirst || line.Options.contains(kDefaultOption)) Choose(name);
@@ -124,8 +131,7 @@ void Remove(const TCommandLine& line) {
     TRegistry().DeleteKey(key);
   } else {
     // A key that its own installer made may hold more than what this program knows about.
-    DeleteValue(key, kServerName);
-    DeleteValue(key, kServerPath);
+    for (const char* value : {kServerName, kServerPath, kSearchPath}) DeleteValue(key, value);
   }
   if (!KeyOf(name).empty()) throw EFailure(Format(sInstalledForAll, {name}));
   if (wasDefault) DeleteValue(kProviderKey, kProviderRegKey);
@@ -141,8 +147,9 @@ void List(const TCommandLine&) {
   for (const auto& name : names) {
     const auto key = KeyOf(name);
     const auto path = ReadValue(key, kServerPath);
-    const auto& text = FileExists(path) ? sProviderLine : sMissingProviderLine;
-    std::cout << Format(text, {IsDefault(key) ? "*" : " ", name, path});
+    std::cout << Format(sProviderLine, {IsDefault(key) ? "*" : " ", name, path})
+              << (FileExists(path) ? "" : sNoSuchFile.Text)
+              << (ReadValue(key, kSearchPath) == "1" ? sInPath.Text : "") << '\n';
   }
 }
 
@@ -156,7 +163,7 @@ struct TCommand {
 };
 
 const TCommand kCommands[] = {
-    {"add", 2, {kDefaultOption, kForceOption}, Add},
+    {"add", 2, {kDefaultOption, kForceOption, kSearchPathOption}, Add},
     {"remove", 1, {}, Remove},
     {"default", 1, {}, MakeDefault},
     {"list", 0, {}, List},

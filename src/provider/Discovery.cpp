@@ -1,3 +1,6 @@
+#include <algorithm>
+
+#include "host/Paths.h"
 #include "host/Registry.h"
 #include "provider/sccapiintf.h"
 
@@ -20,4 +23,15 @@ void GetDefaultProvider(std::string& name, std::string& path) {
   registry.OpenKeyReadOnly(providerKey);
   name = registry.ReadString(kServerName);
   path = registry.ReadString(kDefaultServerPath);
+}
+
+bool SearchesPath(const std::string& libraryPath) {
+  TRegistry installed;
+  if (!installed.OpenKeyReadOnly(kInstalledProvidersKey)) return false;
+  return std::ranges::any_of(installed.GetValueNames(), [&](const std::string& name) {
+    TRegistry provider;
+    return provider.OpenKeyReadOnly(installed.ReadString(name)) &&
+           SameFileName(provider.ReadString(kServerPath), libraryPath) &&
+           provider.ReadString(kSearchPath) == "1";
+  });
 }

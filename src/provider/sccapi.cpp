@@ -2,6 +2,7 @@
 
 #include "provider/ProviderBorder.h"
 #include "provider/ProviderStrings.h"
+#include "provider/sccapiintf.h"
 
 namespace scc {
 
@@ -33,7 +34,8 @@ void Bind(Function*& variable, const char* name) {
 bool LoadSCCDLL(const std::string& path) {
   const TFloatingPointKeeper floatingPoint;
   std::string reason;
-  if (hSosScc == nullptr) hSosScc = LoadModule(path, &reason);
+  const auto search = SearchesPath(path) ? TDependencySearch::OwnFolderPath : TDependencySearch::OwnFolder;
+  if (hSosScc == nullptr) hSosScc = LoadModule(path, &reason, search);
   if (hSosScc == nullptr) {
     WriteProviderLine(IProviderSink::Kind::Error, Format(sLibraryNotLoaded, {path, reason}));
     return false;

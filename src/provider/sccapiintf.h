@@ -27,11 +27,17 @@ inline constexpr const char* kInstalledProvidersKey =
 inline constexpr const char* kProviderRegKey = "ProviderRegKey";
 inline constexpr const char* kServerName = "SccServerName";
 inline constexpr const char* kServerPath = "SccServerPath";
+/// Value of a provider's key that other programs do not know: "1" when the provider's own dependencies are searched for
+/// in PATH, too (Windows).
+inline constexpr const char* kSearchPath = "CorvaneSearchPath";
 
 /// Whether at least one provider is installed.
 bool SCCProviderInstalled();
 /// Display name and library path of the machine's default provider; what is missing comes back empty.
 void GetDefaultProvider(std::string& name, std::string& path);
+
+/// Whether a provider that is installed with this library has that mark.
+bool SearchesPath(const std::string& libraryPath);
 
 // ---------------------------------------------------------------------------------------------- messages
 

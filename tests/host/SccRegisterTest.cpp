@@ -101,8 +101,11 @@ TEST_F(SccRegister, InstallsListsChoosesAndRemovesProviders) {
 }
 
 TEST_F(SccRegister, ChangesThePathOfAnInstalledProvider) {
-  Do({"add", "Tiny", missing_, "--force"});
+  Do({"add", "Tiny", missing_, "--force", "--search-path"});
+  EXPECT_EQ(Read("Software\\Tiny\\SCC", kSearchPath), "1");
+  EXPECT_THAT(List(), UnorderedElementsAre("* Tiny  " + missing_ + " (not found) (searches PATH)"));
   Do({"add", "TINY", kTiny});
+  EXPECT_EQ(Read("Software\\Tiny\\SCC", kSearchPath), "") << "the last word counts";
   EXPECT_THAT(List(), UnorderedElementsAre("* Tiny  " + kTiny));
 }
 
@@ -140,6 +143,7 @@ TEST_F(SccRegister, ExplainsWhatItCannotDo) {
       {{"add", "", kTiny}, 1, "cannot be the name"},
       {{"add", " Tiny", kTiny}, 1, "cannot be the name"},
       {{"add", "A\\B", kTiny}, 1, "cannot be the name"},
+      {{"add", "Tiny\n", kTiny}, 1, "cannot be the name"},
       {{"remove", "Tiny"}, 1, "under the name \"Tiny\"."},
       {{"default", "Größe 名前"}, 1, "under the name \"Größe 名前\"."},
       {{}, 2, "Usage: "},

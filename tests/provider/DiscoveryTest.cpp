@@ -42,6 +42,13 @@ TEST_F(Discovery, TheDefaultProviderIsWhatItsKeySays) {
   EXPECT_EQ(Default(), Pair("Example", ""));
   Write("Software\\Example", "SCCServerPath", "/opt/example.so");
   EXPECT_EQ(Default(), Pair("Example", "/opt/example.so"));
+
+  Write("Software\\Example", kSearchPath, "1");
+  EXPECT_FALSE(SearchesPath("/opt/example.so")) << "it is not in the list";
+  Write(kInstalledProvidersKey, "Other", "Software\\Other");
+  Write(kInstalledProvidersKey, "Example", "Software\\Example");
+  EXPECT_TRUE(SearchesPath("/opt/example.so"));
+  EXPECT_FALSE(SearchesPath("/opt/other.so"));
 }
 
 }  // namespace

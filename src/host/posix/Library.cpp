@@ -4,7 +4,7 @@
 
 #include "host/Paths.h"
 
-TModuleHandle LoadModule(const std::string& path, std::string* error) {
+TModuleHandle LoadModule(const std::string& path, std::string* error, TDependencySearch) {
   const bool absolute = IsAbsolutePath(path);
   // RTLD_NOW: a library that lacks something fails here, with a message, not in the middle of a command.
   const auto module = absolute ? dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL) : nullptr;

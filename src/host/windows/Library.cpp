@@ -4,6 +4,8 @@
 #include <bit>
 #include <filesystem>
 #include <fstream>
+#include <optional>
+#include <vector>
 
 #include "host/Paths.h"
 #include "host/System.h"
@@ -13,9 +15,49 @@
 
 namespace {
 
-// What the library needs itself comes from its own folder or the system's: never from the current directory, the
-// program's folder or the path, where anybody could put something of the same name.
-constexpr DWORD kSearch = LOAD_LIBRARY_SEARCH_DLL_LOAD_DIR | LOAD_LIBRARY_SEARCH_SYSTEM32;
+/// Lets LOAD_LIBRARY_SEARCH_USER_DIRS search the folders in PATH.  The system takes absolute paths only, so that the
+/// current directory is not one of them.
+class TPathFolders {
+ public:
+  TPathFolders() {
+    std::wstring path(GetEnvironmentVariableW(L"PATH", nullptr, 0), L'\0');
+    path.resize(GetEnvironmentVariableW(L"PATH", path.data(), static_cast<DWORD>(path.size())));
+    std::erase(path, L'"');
+    // No order is promised, but what was added last has been seen to be searched first.
+    for (auto end = path.size(); end != path.npos && !path.empty();) {
+      const auto before = end == 0 ? path.npos : path.rfind(L';', end - 1);
+      const auto begin = before == path.npos ? 0 : before + 1;
+      if (const auto added = AddDllDirectory(path.substr(begin, end - begin).c_str()))
+        added_.push_back(added);
+      end = before;
+    }
+  }
+  TPathFolders(const TPathFolders&) = delete;
+  TPathFolders& operator=(const TPathFolders&) = delete;
+  ~TPathFolders() {
+    for (const auto added : added_) RemoveDllDirectory(added);
+  }
+
+ private:
+  std::vector<DLL_DIRECTORY_COOKIE> added_;
+};
+
+/// The module, or the error of the system.
+struct TLoaded {
+  HMODULE Module;
+  DWORD Error;
+};
+
+TLoaded Load(const std::string& path, TDependencySearch search) {
+  std::optional<TPathFolders> folders;
+  DWORD places = LOAD_LIBRARY_SEARCH_DLL_LOAD_DIR | LOAD_LIBRARY_SEARCH_SYSTEM32;
+  if (search == TDependencySearch::OwnFolderPath) {
+    folders.emplace();
+    places |= LOAD_LIBRARY_SEARCH_USER_DIRS;
+  }
+  const auto module = LoadLibraryExW(ToWideFileName(path).c_str(), nullptr, places);
+  return {module, GetLastError()};
+}
 
 constexpr bool kIs32Bit = sizeof(void*) == 4;
 constexpr WORD kOwnMachine = kIs32Bit ? IMAGE_FILE_MACHINE_I386 : IMAGE_FILE_MACHINE_AMD64;
@@ -49,8 +91,9 @@ WORD MachineOf(const std::string& path) {
 }
 
 /// The system has the same words whether the library itself or one that it needs is at fault.
-std::string Reason(const std::string& path, DWORD error) {
-  if (error == ERROR_MOD_NOT_FOUND && FileExists(path)) return sLacksLibrary;
+std::string Reason(const std::string& path, TDependencySearch search, DWORD error) {
+  if (error == ERROR_MOD_NOT_FOUND && FileExists(path))
+    return search == TDependencySearch::OwnFolder ? sLacksLibrary : sLacksLibraryInPath;
   if (error != ERROR_BAD_EXE_FORMAT) return SystemMessage(error);
   const auto machine = MachineOf(path);
   if (machine != kOwnMachine && !NameOf(machine).empty())
@@ -64,12 +107,14 @@ void* Find(TModuleHandle module, const std::string& name) {
 
 }  // namespace
 
-TModuleHandle LoadModule(const std::string& path, std::string* error) {
-  const bool absolute = IsAbsolutePath(path);
-  const auto module = absolute ? LoadLibraryExW(ToWideFileName(path).c_str(), nullptr, kSearch) : nullptr;
-  const auto code = GetLastError();
-  if (!module && error) *error = absolute ? Reason(path, code) : path + ": not an absolute path";
-  return module;
+TModuleHandle LoadModule(const std::string& path, std::string* error, TDependencySearch search) {
+  if (!IsAbsolutePath(path)) {
+    if (error) *error = path + ": not an absolute path";
+    return nullptr;
+  }
+  const auto loaded = Load(path, search);
+  if (!loaded.Module && error) *error = Reason(path, search, loaded.Error);
+  return loaded.Module;
 }
 
 void* FindSymbol(TModuleHandle module, const char* name) {

@@ -7,6 +7,7 @@
 #include "host/Library.h"
 #include "host/Paths.h"
 #include "host/System.h"
+#include "support/Environment.h"
 #include "support/TemporaryFolder.h"
 
 namespace fs = std::filesystem;
@@ -15,8 +16,8 @@ using testing::Not;
 
 namespace {
 
-bool Loads(const std::string& path) {
-  const auto module = LoadModule(path);
+bool Loads(const std::string& path, TDependencySearch search = TDependencySearch::OwnFolder) {
+  const auto module = LoadModule(path, nullptr, search);
   FreeModule(module);
   return module != nullptr;
 }
@@ -32,7 +33,7 @@ std::string ForTheOtherBitness(std::string library) {
 
 }  // namespace
 
-TEST(Library, FindsWhatItNeedsOnlyInItsOwnFolder) {
+TEST(Library, FindsWhatItNeedsInItsOwnFolderOrInPathWhereThatIsWanted) {
   const TTemporaryFolder folder;
   const auto provider = folder.MakeFolder("名前");
   const auto elsewhere = folder.MakeFolder("elsewhere");
@@ -43,8 +44,14 @@ TEST(Library, FindsWhatItNeedsOnlyInItsOwnFolder) {
 
   const auto before = fs::current_path();
   fs::current_path(ToFilePath(elsewhere));
-  EXPECT_FALSE(Loads(library)) << "neither the current folder nor the program's is searched";
+  for (const auto search : {TDependencySearch::OwnFolder, TDependencySearch::OwnFolderPath})
+    EXPECT_FALSE(Loads(library, search)) << "neither the current folder nor the program's is searched";
   fs::current_path(before);
+  {
+    const TEnvironmentVariable path("PATH", elsewhere.c_str());
+    EXPECT_FALSE(Loads(library));
+    EXPECT_TRUE(Loads(library, TDependencySearch::OwnFolderPath));
+  }
 
   fs::copy(ToFilePath(NEEDED_LIBRARY), ToFilePath(provider + "\\" + needed));
   EXPECT_TRUE(Loads(library));
@@ -59,7 +66,10 @@ TEST(Library, SaysWhyItCannotBeLoaded) {
   const struct {
     std::string path, words;
   } rows[] = {
-      {alone, "a library that it needs is neither in its folder nor in the system's"},
+      {alone,
+       "a library that it needs is neither in its folder nor in the system's; PATH is searched only for "
+       "providers "
+       "that were registered with --search-path"},
       {folder.Write("text.dll", "not a library"),
        "it, or a library that it needs, is damaged or no library for a " + own + " program"},
       {folder.Write("short.dll", "MZ"),
