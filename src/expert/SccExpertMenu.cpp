@@ -14,7 +14,7 @@
 #include "ui/ExpertMainMenuStrings.h"
 
 void TSccExpert::MainMenu() {
-  if (project_not_mapped_) {
+  if (project_not_mapped_ || MappingAppeared()) {
     ReleaseProvider();
     project_not_mapped_ = false;
   }

@@ -1,4 +1,6 @@
 // Settings: which provider, where its library is, under which user name; and the project mapping file.
+#include <stdexcept>
+
 #include "expert/MappingFile.h"
 #include "expert/MappingFileStrings.h"
 #include "expert/SccExpert.h"
@@ -132,9 +134,11 @@ bool TSccExpert::UpdateSCCIniFile(const std::string& projectFile, const std::str
 
 bool TSccExpert::ProjectExists(const std::string& mappingFile) {
   bool result = false;
+  unread_mapping_ = mappingFile;
   Guarded(mwtInfo, sProjectExistsError, [&] {
     if (!FileExists(mappingFile)) return;
     const TMappingFile mapping(mappingFile);
+    unread_mapping_.clear();
     result = mapping.HasSection(provider_name_);
     project_not_mapped_ = !result;
     if (const auto damage = mapping.Damage(); !damage.empty())
@@ -143,4 +147,15 @@ bool TSccExpert::ProjectExists(const std::string& mappingFile) {
       WarnOnce(Format(sMappingFileEmpty, {mappingFile}));
   });
   return result;
+}
+
+bool TSccExpert::MappingAppeared() {
+  if (!open_project_file_.empty() || !FileExists(unread_mapping_)) return false;
+  if (unread_mapping_ != ChangeFileExt(Trim(GetCurrentProjectFile()), kMappingExtension)) return false;
+  try {
+    const TMappingFile mapping(unread_mapping_);
+    return true;
+  } catch (const std::runtime_error&) {
+    return false;  // as before, and that has been said
+  }
 }

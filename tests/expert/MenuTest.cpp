@@ -85,6 +85,28 @@ TEST_F(TeamMenu, WithoutAMappingOnlyPlacingAndPullingRemain) {
   EXPECT_THAT(Enabled(), ElementsAre(kPlace, kPull, kRun));
 }
 
+TEST_F(TeamMenu, SeesAMappingThatAppearsOrIsRepaired) {
+  const auto mapping = Mapping();
+  const auto starts = [this] { return std::ranges::count(provider_->Entries(), "SccInitialize"); };
+  SetMappedStatus(1);
+  std::filesystem::remove(At("App.cdp"));
+  Open();
+  for (const auto& unreadable : {std::string(), std::string("[Scripted]\n\0", 12)}) {
+    if (!unreadable.empty()) {
+      host_.Notify(TOTAFileNotification::fnFileClosing, project_file_);
+      WriteMapping(unreadable);
+    }
+    Drop();
+    const auto before = starts();
+    Drop();
+    EXPECT_EQ(starts(), before) << "nothing has changed";
+    EXPECT_THAT(Enabled(), Not(Contains(kOut)));
+    WriteMapping(mapping);
+    Drop();
+    EXPECT_THAT(Enabled(), Contains(kOut));
+  }
+}
+
 TEST_F(TeamMenu, ProviderThatCannotBeLoadedIsNamedInTheMessageWindow) {
   InstallProvider(kScripted, At("unit1.pas"), true);  // no library
   Open();
