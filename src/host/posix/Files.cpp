@@ -120,7 +120,8 @@ void WriteFileAtomically(const std::string& path, const std::string& contents) {
   const bool exists = stat(target.c_str(), &old) == 0;
   if (exists && S_ISDIR(old.st_mode)) FailToWrite(path, EISDIR);
   // A rename asks nobody: without this a file that its owner protected would be replaced.
-  if (exists && (!(old.st_mode & S_IWUSR) || access(target.c_str(), W_OK) != 0)) FailToWrite(path, EACCES);
+  if (exists && !(old.st_mode & S_IWUSR)) FailToWrite(path, EACCES);
+  if (exists && access(target.c_str(), W_OK) != 0) FailToWrite(path, errno);
   TTemporaryFile file(target);
   if (exists) file.TakePermissionsOf(old);
   file.Write(contents);
