@@ -131,8 +131,6 @@ TEST(Workbench, ShowsTheEditorsOwnMenuAndEndsWithAMenuOpen) {
       "expect-text \"Ln 3, Col 1\"\n"
       "key Escape\n"
       "expect-no-menu\n"
-      "point row Main.pas\n"
-      "point editor Main.pas\n"
       "click right\n"
       "expect-menu\n";
   EXPECT_EQ(story.Play(menus + "key Escape\nexpect-no-menu\nquit\n"), 0) << story.Output();

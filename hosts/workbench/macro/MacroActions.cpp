@@ -119,14 +119,14 @@ std::string TMacroPlayer::DoPage(const TArguments& arguments) {
   return TurnToPage(Front(), ToWx(arguments[0]));
 }
 std::string TMacroPlayer::DoPoint(const TArguments& arguments) {
-  return PointAt(frame_, Front(), arguments[0], arguments[1]);
+  return PointAt(*input_, frame_, Front(), arguments[0], arguments[1]);
 }
-std::string TMacroPlayer::DoClick(const TArguments& arguments) { return ClickMouse(arguments[0]); }
+std::string TMacroPlayer::DoClick(const TArguments& arguments) { return ClickMouse(*input_, arguments[0]); }
 
 std::string TMacroPlayer::DoKey(const TArguments& arguments) {
   wxTopLevelWindow& window = Front();
   // Raising a window closes the menu that is open.
-  if (TOpenMenus::Any() || window.IsActive()) return PressKey(ToWx(arguments[0]));
+  if (TOpenMenus::Any() || window.IsActive()) return PressKey(*input_, ToWx(arguments[0]));
   window.Raise();  // also what moves the keyboard to it where there is no window manager
   return Format(sNotActive, {window.GetTitle().utf8_string()});
 }

@@ -163,9 +163,10 @@ bool SelectIn(wxGrid& grid, const wxString& text) {
   return true;
 }
 
-/// From pixels of `window`.
+/// From pixels of `window`; empty when its middle is out of sight.
 wxRect OnScreen(const wxWindow& window, const wxRect& rect) {
-  return {window.ClientToScreen(rect.GetPosition()), rect.GetSize()};
+  const bool inSight = window.GetClientRect().Contains(rect.GetPosition() + rect.GetSize() / 2);
+  return inSight ? wxRect(window.ClientToScreen(rect.GetPosition()), rect.GetSize()) : wxRect();
 }
 
 wxRect RowRectIn(wxListCtrl& list, const wxString& text) {
@@ -318,7 +319,7 @@ std::string ChooseItem(wxWindow& window, const wxString& label, const wxString& 
   return {};
 }
 
-std::string PressKey(const wxString& name) {
+std::string PressKey(wxUIActionSimulator& input, const wxString& name) {
   wxAcceleratorEntry key;
   const wxString alias = name == "Escape" ? wxString("Esc") : name;
   if (!key.FromString("\t" + alias)) return Format(sNoKey, {name.utf8_string()});
@@ -326,7 +327,7 @@ std::string PressKey(const wxString& name) {
   if (key.GetFlags() & wxACCEL_CTRL) modifiers |= wxMOD_CONTROL;
   if (key.GetFlags() & wxACCEL_SHIFT) modifiers |= wxMOD_SHIFT;
   if (key.GetFlags() & wxACCEL_ALT) modifiers |= wxMOD_ALT;
-  wxUIActionSimulator().Char(key.GetKeyCode(), modifiers);
+  input.Char(key.GetKeyCode(), modifiers);
   return {};
 }
 

@@ -7,6 +7,8 @@
 #include <optional>
 #include <string>
 
+class wxUIActionSimulator;
+
 std::string PressButton(wxWindow& window, const wxString& label);
 /// A check box or radio button of that label, or the row of a list with boxes that shows `text` in some column.
 std::string TickBox(wxWindow& window, const wxString& text, bool ticked);
@@ -19,7 +21,7 @@ std::string TurnToPage(wxWindow& window, const wxString& caption);
 std::string TypeText(wxWindow& window, const wxString& label, const wxString& text);
 std::string ChooseItem(wxWindow& window, const wxString& label, const wxString& item);
 /// A key to the window that has the focus, through the system: names as "Escape", "Ctrl+Shift+F1", "A".
-std::string PressKey(const wxString& name);
+std::string PressKey(wxUIActionSimulator& input, const wxString& name);
 /// Whether a button of that label is there and enabled.
 bool HasButton(wxWindow& window, const wxString& label);
 /// Where that button, and where a row of a list, tree or grid that shows `text` is on the screen; empty for nowhere.

@@ -57,24 +57,30 @@ constexpr struct {
   int Button;  // of the toolkit
 } kButtons[] = {{"left", wxMOUSE_BTN_LEFT}, {"middle", wxMOUSE_BTN_MIDDLE}, {"right", wxMOUSE_BTN_RIGHT}};
 
+/// As far as two clicks are from each other that are no double click.
+const wxPoint kAside{8, 0};
+
 }  // namespace
 
-std::string PointAt(TMainFrame& frame, wxTopLevelWindow& window, const std::string& kind,
-                    const std::string& text) {
+std::string PointAt(wxUIActionSimulator& input, TMainFrame& frame, wxTopLevelWindow& window,
+                    const std::string& kind, const std::string& text) {
   const auto row = std::ranges::find(kKinds, kind, [](const auto& k) { return k.Name; });
   const wxRect place = row == std::end(kKinds) ? wxRect() : row->Find(frame, window, text);
   if (place.IsEmpty()) return Format(sNoPlace, {kind, text});
-  wxUIActionSimulator().MouseMove(place.GetPosition() + place.GetSize() / 2);
+  input.MouseMove(place.GetPosition() + place.GetSize() / 2);
   return {};
 }
 
-std::string ClickMouse(const std::string& button) {
+std::string ClickMouse(wxUIActionSimulator& input, const std::string& button) {
   if (button == "up" || button == "down") {
     TurnWheel(button == "up");
     return {};
   }
   const auto row = std::ranges::find(kButtons, button, [](const auto& b) { return b.Name; });
   if (row == std::end(kButtons)) return Format(sNoMouseButton, {button});
-  wxUIActionSimulator().MouseClick(row->Button);
+  static wxPoint last;
+  if (wxGetMousePosition() == last) input.MouseMove(last + kAside);
+  last = wxGetMousePosition();
+  input.MouseClick(row->Button);
   return {};
 }

@@ -22,6 +22,10 @@ constexpr long long kDefaultLimitMs = 10'000;
 constexpr long long kSettleMs = 400;  // before a picture is taken
 constexpr const char* kFailedPicture = "failed.png";
 
+bool NeedsInput(TMacroVerb verb) {
+  return verb == TMacroVerb::Key || verb == TMacroVerb::Point || verb == TMacroVerb::Click;
+}
+
 void Print(std::FILE* to, const std::string& line) {
   std::fprintf(to, "%s\n", line.c_str());
   std::fflush(to);
@@ -57,6 +61,8 @@ void TMacroPlayer::Notify() {
     Print(stdout, Format(sStepDone, {static_cast<long long>(step.Line), step.Text}));
   }
   retrying_ = false;
+  // Under GTK creating it handles events: a step that ran meanwhile would overtake this one.
+  if (!input_ && NeedsInput(step.Verb)) input_ = std::make_unique<wxUIActionSimulator>();
   StartOnce(kStepMs);  // before the step: it may run a modal dialog, and the next steps go on inside
   const std::string problem = RunGuarded(step);
   if (problem.empty() || ended_) return;

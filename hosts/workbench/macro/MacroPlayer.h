@@ -2,10 +2,12 @@
 #pragma once
 
 #include <wx/timer.h>
+#include <wx/uiaction.h>
 #include <wx/weakref.h>
 
 #include <chrono>
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -95,6 +97,7 @@ class TMacroPlayer final : public wxTimer {
   TMessageBoxes messageBoxes_;
   std::vector<TMacroStep> steps_;
   std::size_t next_ = 0;
+  std::unique_ptr<wxUIActionSimulator> input_;  // from the first step on that needs it
   bool retrying_ = false;
   bool ended_ = false;
   long long limitMs_;

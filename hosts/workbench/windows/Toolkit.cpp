@@ -25,7 +25,7 @@ class TLibrary {
 };
 
 /// Where a widget of GTK is on the screen.
-wxRect WidgetRect(void* widget) {
+[[maybe_unused]] wxRect WidgetRect(void* widget) {
   const TLibrary gtk("libgtk-3.so.0");
   const TLibrary gdk("libgdk-3.so.0");
   const auto isMapped = gtk.Find<int (*)(void* widget)>("gtk_widget_get_mapped");
