@@ -34,6 +34,9 @@ constexpr std::size_t kShownBytes = 1 << 20;
 
 /// The beginning of a file, made fit for a text control.
 std::string BeginningOf(const std::string& fileName) {
+  std::error_code unknown;
+  if (!std::filesystem::is_regular_file(ToFilePath(fileName), unknown))
+    return {};  // a pipe could be waited for
   std::string text(kShownBytes + 1, '\0');
   std::ifstream file(ToFilePath(fileName), std::ios::binary);
   file.read(text.data(), static_cast<std::streamsize>(text.size()));
@@ -147,6 +150,7 @@ void TCommitBrowser::BindEvents() {
 
 void TCommitBrowser::FormShow() {
   FShown = true;
+  FormResize();  // the size event may have come and gone while the rows were gathered
   StringGrid1->SetFocus();
   DisplayWorkspaceFile(StringGrid1->GetGridCursorRow());
 }
@@ -191,6 +195,7 @@ void TCommitBrowser::PlaceActivities(int row) {
 void TCommitBrowser::HideActivities() {
   if (!ActivityComboBox->IsShown()) return;
   const bool hadFocus = ActivityComboBox->IsDescendant(FindFocus());
+  ActivityComboBox->Dismiss();  // its list is a window of its own
   ActivityComboBox->Hide();
   if (hadFocus) StringGrid1->SetFocus();  // or the keyboard would be nowhere
 }
@@ -417,5 +422,6 @@ void TCommitBrowser::SetBusy(bool busy) {
 void TCommitBrowser::CloseWith(int modalResult) {
   if (busy_) return;
   if (modalResult == mrCancel) RememberComments();
+  HideActivities();
   TModalForm::CloseWith(modalResult);
 }

@@ -107,13 +107,17 @@ bool TCommitGrid::MoveWith(int key) {
   }
 }
 
-TActivityComboBox::TActivityComboBox(wxWindow* parent) : list_(new wxVListBoxComboPopup) {
+TActivityComboBox::TActivityComboBox(TCommitGrid* parent) : list_(new wxVListBoxComboPopup) {
   Hide();  // before it exists: it never flashes up
   Create(parent, wxID_ANY, {}, wxDefaultPosition, wxDefaultSize, 0, nullptr, wxCB_READONLY | wxWANTS_CHARS);
   SetPopupControl(list_);
   for (int value = 0; value < kCommitActivities; ++value)
     Append(ToWx(ActivityToString(static_cast<TCommitActivity>(value))));
+  Bind(wxEVT_MOUSEWHEEL, &TActivityComboBox::OnWheel, this);
 }
+
+// The toolkit's own destructor would close the list with calls of what is no longer there.
+TActivityComboBox::~TActivityComboBox() { Dismiss(); }
 
 void TActivityComboBox::OpenAt(TCommitActivity activity) {
   if (!IsPopupShown()) Popup();
@@ -123,4 +127,16 @@ void TActivityComboBox::OpenAt(TCommitActivity activity) {
 TCommitActivity TActivityComboBox::Pointed() const {
   const int item = IsPopupShown() ? static_cast<const wxVListBox*>(list_)->GetSelection() : GetSelection();
   return static_cast<TCommitActivity>(std::max(0, item));
+}
+
+// The toolkit's own would choose the next item: a user who only wants to see further rows would not notice.
+void TActivityComboBox::OnWheel(wxMouseEvent& event) {
+  if (IsPopupShown()) return event.Skip();
+  wheelRotation_ += event.GetWheelRotation();
+  const int notches = wheelRotation_ / event.GetWheelDelta();
+  wheelRotation_ %= event.GetWheelDelta();
+  if (event.IsPageScroll())
+    GetParent()->ScrollPages(-notches);
+  else
+    GetParent()->ScrollLines(-notches * event.GetLinesPerAction());
 }

@@ -52,15 +52,20 @@ class TCommitGrid final : public wxGrid {
 };
 
 /// The list of activities, a child of the grid and not of its window of cells: GTK complains about hidden windows where
-/// it scrolls.  It can be opened with an item pointed at that is not yet chosen.
+/// it scrolls.  It can be opened with an item pointed at that is not yet chosen.  While it is closed the wheel scrolls
+/// the grid.
 class TActivityComboBox final : public wxOwnerDrawnComboBox {
  public:
-  explicit TActivityComboBox(wxWindow* parent);
+  explicit TActivityComboBox(TCommitGrid* parent);
+  ~TActivityComboBox() override;
   /// Opens the list, if it is not open yet, and points at that activity.
   void OpenAt(TCommitActivity activity);
   /// What the list points at while it is open, else what is chosen.
   TCommitActivity Pointed() const;
 
  private:
+  void OnWheel(wxMouseEvent& event);
+
   wxVListBoxComboPopup* list_;  // owned by the popup's window
+  int wheelRotation_ = 0;       // since the last whole notch
 };

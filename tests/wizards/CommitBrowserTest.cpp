@@ -172,7 +172,13 @@ TEST_F(CommitBrowser, TheKeyboardReachesTheActivities) {
     EXPECT_EQ(grid.GetGridCursorRow(), 0);
     Preview(&grid, WXK_END);
     EXPECT_EQ(grid.GetGridCursorRow(), 3);
-    Preview(&grid, WXK_ESCAPE);
+
+    Preview(&grid, 'U');
+    form.FormResize();
+    EXPECT_FALSE(list.IsPopupShown()) << "it would float where the cell was";
+    Preview(&grid, 'U');
+    form.Close();
+    EXPECT_FALSE(list.IsPopupShown());
   });
 }
 
