@@ -35,8 +35,8 @@ constexpr std::size_t kShownBytes = 1 << 20;
 /// The beginning of a file, made fit for a text control.
 std::string BeginningOf(const std::string& fileName) {
   std::error_code unknown;
-  if (!std::filesystem::is_regular_file(ToFilePath(fileName), unknown))
-    return {};  // a pipe could be waited for
+  if (std::filesystem::is_other(ToFilePath(fileName), unknown))
+    return {};  // a pipe: reading would wait for ever
   std::string text(kShownBytes + 1, '\0');
   std::ifstream file(ToFilePath(fileName), std::ios::binary);
   file.read(text.data(), static_cast<std::streamsize>(text.size()));

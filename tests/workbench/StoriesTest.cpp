@@ -321,8 +321,19 @@ TEST(Workbench, ReportsAFailedStepAndEndsOpenDialogs) {
               HasSubstr("FAILED line 4: expect \"Another Dialog\": the dialog \"Crew Files\" is open"));
   EXPECT_TRUE(FileExists(story.Folder() / "failed.png"));
   EXPECT_THAT(story.Log(), IsSupersetOf({"cancelled, comment ", "finalize", "unloaded"}));
-  EXPECT_EQ(story.Play("open Nothing.pas\n"), 1);
-  EXPECT_THAT(story.Output(), HasSubstr("Nothing.pas does not exist."));
+}
+
+TEST(Workbench, SaysWhyAFileCannotBeOpened) {
+  TStory story;
+  story.Folder().Write("Long.pas", std::string(5'000'000, 'x'));
+  ASSERT_EQ(std::system(("mkfifo '" + (story.Folder() / "Pipe.pas") + "'").c_str()), 0);
+  for (const auto& [file, reason] : std::map<std::string, std::string>{
+           {"Nothing.pas", "does not exist"},
+           {"Pipe.pas", "is a pipe or a device"},
+           {"Long.pas", "has a line of 5000000 bytes; the editor takes lines of up to 4194304"}}) {
+    EXPECT_EQ(story.Play("open " + file + "\n"), 1);
+    EXPECT_THAT(story.Output(), HasSubstr(file + " " + reason));
+  }
 }
 
 TEST(Workbench, StartsWithoutAPackageThatCannotBeLoaded) {

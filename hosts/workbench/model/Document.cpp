@@ -33,6 +33,9 @@ void TDocument::RefreshReadOnly() {
 
 void TDocument::Load() {
   if (!FileExists(fileName_)) throw std::runtime_error(Format(sFileNotFound, {fileName_}));
+  std::error_code unknown;
+  if (fs::is_other(ToFilePath(fileName_), unknown))
+    throw std::runtime_error(Format(sNoOrdinaryFile, {fileName_}));
   const std::string stamp = DiskStamp();  // before reading: a write in between is noticed at the next look
   SetContents(ReadWholeFile(fileName_));
   stamp_ = stamp;

@@ -1,5 +1,27 @@
 #include "workbench/model/Editors.h"
 
+#include <algorithm>
+#include <stdexcept>
+
+#include "workbench/model/ModelStrings.h"
+
+namespace {
+
+/// Measuring a line costs the editor time and memory many times its length.
+constexpr std::size_t kMaxLine = 4 << 20;
+
+std::size_t LongestLine(std::string_view text) {
+  std::size_t longest = 0;
+  while (!text.empty()) {
+    const std::size_t end = std::min(text.find_first_of("\r\n"), text.size());
+    longest = std::max(longest, end);
+    text.remove_prefix(std::min(end + 1, text.size()));
+  }
+  return longest;
+}
+
+}  // namespace
+
 void TTextEditor::AttachView(IDocumentView* view) {
   if (!view && view_) {
     text_ = view_->ReadText();
@@ -27,6 +49,9 @@ bool TTextEditor::GetModified() { return isNew_ || (view_ && view_->HasChanges()
 std::string TTextEditor::Contents() const { return view_ ? view_->ReadText() : text_; }
 
 void TTextEditor::SetContents(const std::string& text) {
+  if (const std::size_t longest = LongestLine(text); longest > kMaxLine)
+    throw std::runtime_error(Format(
+        sLineTooLong, {FileName(), static_cast<long long>(longest), static_cast<long long>(kMaxLine)}));
   isNew_ = false;
   if (view_)
     view_->ShowText(text);

@@ -8,6 +8,8 @@ constexpr TResString sNotThisKind{"The text has no section [%s]."};
 constexpr TResString sNewerVersion{"The file was written by a newer version of the workbench."};
 
 constexpr TResString sFileNotFound{"%s does not exist."};
+constexpr TResString sNoOrdinaryFile{"%s is a pipe or a device, not a file that can be edited."};
+constexpr TResString sLineTooLong{"%s has a line of %d bytes; the editor takes lines of up to %d."};
 constexpr TResString sCannotSaveReadOnly{"%s is read-only on disk and was not saved."};
 constexpr TResString sCannotReload{"Cannot reload %s: %s"};
 constexpr TResString sProjectMissing{"%s lists a project that cannot be opened: %s"};
