@@ -18,7 +18,8 @@ namespace {
 constexpr int kStepMs = 40;  // lets the toolkit lay out and paint between steps
 constexpr int kRetryMs = 100;
 constexpr int kStartMs = 300;
-constexpr long long kDefaultLimitMs = 10'000;
+/// Only for what never comes: a step goes on as soon as it can, and a machine may be slow.
+constexpr long long kDefaultLimitMs = 60'000;
 constexpr long long kSettleMs = 400;  // before a picture is taken
 constexpr const char* kFailedPicture = "failed.png";
 
