@@ -55,6 +55,8 @@ bool TWorkbenchApp::OnInit() {
   SetExitOnFrameDelete(false);
   wxImage::AddHandler(new wxPNGHandler);
   EndOnSignal(*this);
+  Bind(wxEVT_QUERY_END_SESSION, &TWorkbenchApp::OnQueryEndSession, this);
+  Bind(wxEVT_END_SESSION, &TWorkbenchApp::OnEndSession, this);
   ShowMenuImages();
   SetBeepHandler([](TBeep) { wxBell(); });
   modals_ = std::make_unique<TModalStack>();
@@ -102,6 +104,7 @@ void TWorkbenchApp::OnAssertFailure(const wxChar* file, int line, const wxChar*,
 }
 
 void TWorkbenchApp::TakeApart() {
+  if (std::exchange(takenApart_, true)) return;
   player_.reset();
   packages_->Finalize();  // with the frame alive: packages take their menus and windows away
   delete frame_;
@@ -112,6 +115,22 @@ void TWorkbenchApp::TakeApart() {
   packages_->Unload();
   SetBeepHandler({});
   services_.reset();
+}
+
+void TWorkbenchApp::OnQueryEndSession(wxCloseEvent& event) {
+  if (!frame_ || !frame_->IsShown()) return;  // asked before, once for each window
+  TOpenMenus::Close();
+  // Exit cannot be chosen in a dialog, whose caller is in the middle of its work.
+  if (TModalStack::Top() || !frame_->Close()) event.Veto();
+}
+
+void TWorkbenchApp::OnEndSession(wxCloseEvent&) {
+  if (frame_ && !TModalStack::Top()) {
+    if (frame_->IsShown()) frame_->Close(true);  // nobody was asked
+    TakeApart();
+  }
+  std::fflush(nullptr);
+  std::_Exit(exitCode_);  // the system ends the process anyway, and the window that was told is gone
 }
 
 void TWorkbenchApp::EndProgram(int exitCode) {

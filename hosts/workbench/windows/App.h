@@ -35,7 +35,12 @@ class TWorkbenchApp final : public wxApp {
 
  private:
   void Log(const std::string& line);
+  /// Finalizes and unloads the packages and deletes the windows, once.
   void TakeApart();
+  /// The system asks whether the user may log off: the same as Exit.
+  void OnQueryEndSession(wxCloseEvent& event);
+  /// The user logs off: the system ends the process when this returns, so everything is taken apart here.
+  void OnEndSession(wxCloseEvent& event);
   void EndStep();
 
   TCommandLine line_;
@@ -46,6 +51,7 @@ class TWorkbenchApp final : public wxApp {
   std::unique_ptr<TMacroPlayer> player_;
   std::vector<std::string> early_;  // lines from before there was a message pane
   TMainFrame* frame_ = nullptr;
+  bool takenApart_ = false;
   int exitCode_ = 0;
   int endSteps_ = 0;
 };
