@@ -1,6 +1,9 @@
 // The scripted provider's side of the API.
 #include <algorithm>
+#include <chrono>
+#include <cstdlib>
 #include <cstring>
+#include <thread>
 
 #include "support/ScriptedProvider.h"
 
@@ -253,6 +256,9 @@ Long SCC_CALL SccDiff(void* context, WindowHandle window, const char* name, Long
   call.Files = {name};
   call.Flags = flags;
   call.Options = options;
+  // For a program that the script cannot reach: how long a difference takes.
+  if (const char* time = std::getenv("SCRIPTED_DIFF_MS"))
+    std::this_thread::sleep_for(std::chrono::milliseconds(std::atoi(time)));
   return Play(call, script.Differing.contains(name) ? SCC_I_FILEDIFFERS : SCC_OK);
 }
 

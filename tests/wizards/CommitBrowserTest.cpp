@@ -337,10 +337,12 @@ TEST_F(CommitBrowser, CannotBeWorkedWhileThePassRuns) {
 }
 
 TEST_F(CommitBrowser, KeepsItsMinimumAndItsColumnsEqual) {
-  TCommitBrowser form(Browsed());
+  auto& expert = Browsed();
+  provider_->OnCall["SccDiff"] = [](const ScriptedCall&) { wxYield(); };  // as a progress window does
+  TCommitBrowser form(expert);
   EXPECT_EQ(form.GetSize(), form.FromDIP(wxSize(711, 507)));
   form.Show();
-  for (const auto size : {wxSize(100, 100), wxSize(1000, 700)}) {
+  for (const auto size : {wxSize(711, 507), wxSize(100, 100), wxSize(1000, 700)}) {
     form.SetSize(form.FromDIP(size));
     wxYield();
     auto& grid = *form.StringGrid1;
