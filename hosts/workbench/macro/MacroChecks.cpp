@@ -1,5 +1,6 @@
 // The macro steps that look whether something is so.
 #include <wx/filename.h>
+#include <wx/grid.h>
 #include <wx/listctrl.h>
 #include <wx/menu.h>
 
@@ -136,6 +137,16 @@ std::string TMacroPlayer::DoExpectNoText(const TArguments& arguments) {
 
 std::string TMacroPlayer::DoExpectMessage(const TArguments& arguments) {
   return IsInMessages(arguments[0]) ? std::string() : Format(sNoMessage, {arguments[0]});
+}
+
+std::string TMacroPlayer::DoExpectColumns(const TArguments&) {
+  const auto* grid = FindControl<wxGrid>(Front(), [](const wxGrid&) { return true; });
+  if (!grid) return Format(sNoControl, {Front().GetTitle().utf8_string(), sKindColumn, ""});
+  int used = 0;
+  for (int column = 0; column < grid->GetNumberCols(); ++column) used += grid->GetColSize(column);
+  const int width = grid->GetGridWindow()->GetClientSize().GetWidth();
+  const int left = std::abs(width - used);
+  return left < 3 * grid->GetNumberCols() ? std::string() : Format(sColumnsUnfit, {used + 0LL, width + 0LL});
 }
 
 std::string TMacroPlayer::DoPrintMessages(const TArguments&) {

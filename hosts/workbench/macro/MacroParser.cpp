@@ -54,6 +54,7 @@ const std::vector<TMacroVerbRow>& MacroVerbs() {
       {ExpectWritable, "expect-writable", 1, "PATH: the file, and its editor when open, are writable"},
       {ExpectButton, "expect-button", 1, "LABEL: waits for an enabled button"},
       {ExpectNoButton, "expect-no-button", 1, "LABEL: waits until it is disabled or gone"},
+      {ExpectColumns, "expect-columns", 0, "waits until the columns of the window's grid fill its width"},
       {PrintMessages, "print-messages", 0, "prints the lines of packages' message windows"},
       {Run, "run", 1, "COMMAND: runs it in the shell and prints what it says; it must succeed"},
       {Screenshot, "screenshot", 1, "FILE: takes a picture of the whole screen"},

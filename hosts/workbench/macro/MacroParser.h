@@ -55,6 +55,7 @@ enum class TMacroVerb {
   ExpectWritable,
   ExpectButton,
   ExpectNoButton,
+  ExpectColumns,
   PrintMessages,
   Run,
   Screenshot,

@@ -155,6 +155,7 @@ std::string TMacroPlayer::Run(const TMacroStep& step) {
                                          &P::DoExpectWritable,
                                          &P::DoExpectButton,
                                          &P::DoExpectNoButton,
+                                         &P::DoExpectColumns,
                                          &P::DoPrintMessages,
                                          &P::DoRun,
                                          &P::DoScreenshot,

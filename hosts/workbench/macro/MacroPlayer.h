@@ -83,6 +83,7 @@ class TMacroPlayer final : public wxTimer {
   std::string DoExpectWritable(const TArguments& arguments);
   std::string DoExpectButton(const TArguments& arguments);
   std::string DoExpectNoButton(const TArguments& arguments);
+  std::string DoExpectColumns(const TArguments& arguments);
   std::string DoPrintMessages(const TArguments& arguments);
   std::string DoRun(const TArguments& arguments);
   std::string DoScreenshot(const TArguments& arguments);

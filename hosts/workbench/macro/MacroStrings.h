@@ -30,6 +30,7 @@ constexpr TResString sNoMouseButton{"the mouse has no \"%s\""};
 constexpr TResString sNoOpenMenu{"no menu is open"};
 constexpr TResString sMenuOpen{"a menu is open"};
 constexpr TResString sNotActive{"the keyboard is not in \"%s\""};
+constexpr TResString sColumnsUnfit{"the columns are %d of %d pixels wide"};
 constexpr TResString sNoText{"no window shows \"%s\""};
 constexpr TResString sHasText{"a window shows \"%s\""};
 constexpr TResString sCommandFailed{"it failed (%d)\n%s"};
