@@ -30,7 +30,9 @@ struct TMenuItem {
   int ImageIndex = -1;
   bool Enabled = true;
   bool Visible = true;
-  std::function<void()> OnClick;  ///< of the top item: called each time its menu is about to open
+  /// Of the top item: called each time its menu opens, before the user can choose from it.  It may show windows: the host
+  /// calls it where its toolkit can do with them, and the menu is out of the way while one is up.
+  std::function<void()> OnClick;
   std::vector<TMenuItem*> Items;
 
   bool IsSeparator() const { return Caption == "-"; }
@@ -48,8 +50,8 @@ struct TMenuItem {
 /// Commands for one file, offered wherever the host shows a file: its project tree, its editor tabs.
 struct TFileMenu {
   struct TItem {
-    std::string Caption;  ///< "-" is a separator
-    int ImageIndex = -1;  ///< in the host's image list; -1 for none
+    std::string Caption;                                         ///< "-" is a separator
+    int ImageIndex = -1;                                         ///< in the host's image list; -1 for none
     std::function<void(const std::string& fileName)> OnExecute;  ///< must not let exceptions out
   };
   std::string Caption;  ///< of the submenu

@@ -1,6 +1,7 @@
 // A small package that uses every service of the host and writes down what the host calls: one line per call, into the
 // file that the environment names.
 #include <wx/choice.h>
+#include <wx/msgdlg.h>
 #include <wx/panel.h>
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
@@ -164,6 +165,7 @@ class TCrewMenu {
 
   void Refresh() {
     Log("menu opens");
+    if (std::getenv("CREW_BOX")) wxMessageBox("The crew is away.", "Crew Box");
     actCheckOut_.Enabled = Project() != nullptr;
     hidden_.Visible = Project() == nullptr;
   }

@@ -167,6 +167,25 @@ TEST(Workbench, FindsAndReplacesInOneDialogThatEndsWithTheProgram) {
   EXPECT_THAT(story.Output(), Not(HasSubstr("wincmn"))) << "the toolkit complains";
 }
 
+TEST(Workbench, ShowsABoxThatComesUpWhileAMenuOpensAndThenTheMenu) {
+  TStory story;
+  const TEnvironmentVariable box("CREW_BOX", "1");
+  const struct {
+    std::string Open, Answer;
+  } rows[] = {{"point menu Crew\nclick left\n", "key Return\n"},
+              {"key F10\nexpect-menu\nkey Left\nkey Left\n", "key KP_Enter\n"},
+              {"key Alt+C\n", "key Space\n"}};
+  for (const auto& [open, answer] : rows)
+    EXPECT_EQ(story.Play("open Boat.qvxproj\n" + open + "expect \"Crew Box\"\n" + answer +
+                         "expect-no-dialog\n"
+                         "expect-menu\n"
+                         "key F\n"
+                         "expect-message \"the crew is asleep\"\n"
+                         "quit\n"),
+              0)
+        << story.Output();
+}
+
 TEST(Workbench, SurvivesPackagesThatThrow) {
   TStory story;
   EXPECT_EQ(story.Play("open Boat.qvxproj\n"

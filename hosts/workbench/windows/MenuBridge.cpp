@@ -6,6 +6,7 @@
 #include "host/WxText.h"
 #include "workbench/model/MenuRows.h"
 #include "workbench/windows/Icons.h"
+#include "workbench/windows/Toolkit.h"
 
 namespace {
 constexpr int kMenuImageSize = 16;
@@ -182,8 +183,27 @@ void TMenuBridge::AppendFileMenus(wxMenu& menu, const std::string& fileName) con
 
 void TMenuBridge::OnMenuOpen(wxMenuEvent& event) {
   event.Skip();
-  for (const auto& top : tops_)
-    if (event.GetMenu() == top->Menu) return Refresh(*top);
+  auto* top = FindTop(event.GetMenu());
+  if (!top || reopening_) return;
+  if (!IsOnScreen(*top->Menu)) return Refresh(*top);
+  // GTK is in the middle of opening it, and a window shown now would end the program.
+  CallNext([this, menu = top->Menu] { RefreshOnScreen(*menu); });
+}
+
+void TMenuBridge::RefreshOnScreen(wxMenu& menu) {
+  auto* top = FindTop(&menu);
+  if (!top || !IsOnScreen(menu)) return;
+  const TMenuGivesWay givesWay(bar_, menu);
+  Refresh(*top);
+  if (!givesWay.HasGivenWay()) return SelectFirstItem(menu);
+  reopening_ = true;  // it has been asked for its items already
+  OpenFromBar(menu);
+  reopening_ = false;
+}
+
+TMenuBridge::TTopMenu* TMenuBridge::FindTop(const wxMenu* menu) const {
+  const auto found = std::ranges::find(tops_, menu, [](const auto& top) { return top->Menu; });
+  return found != tops_.end() ? found->get() : nullptr;
 }
 
 void TMenuBridge::OnMenu(wxCommandEvent& event) {

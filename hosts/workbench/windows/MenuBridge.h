@@ -48,6 +48,10 @@ class TMenuBridge final : public IOTAMenuServices {
   void Fill(TTopMenu& top, wxMenu& menu, const std::vector<TMenuItem*>& items);
   void AppendItem(TTopMenu& top, wxMenu& menu, const TMenuItem& item);
   void OnMenuOpen(wxMenuEvent& event);
+  /// Refresh of a menu that the user is looking at.  The package may show windows meanwhile: the menu goes before they
+  /// come and is back when the package has its commands up to date.
+  void RefreshOnScreen(wxMenu& menu);
+  TTopMenu* FindTop(const wxMenu* menu) const;
   void OnMenu(wxCommandEvent& event);
 
   wxMenuBar& bar_;
@@ -56,4 +60,5 @@ class TMenuBridge final : public IOTAMenuServices {
   std::vector<TFileMenu*> fileMenus_;
   std::vector<TAction*> actions_;
   std::vector<wxBitmapBundle> images_;
+  bool reopening_ = false;
 };

@@ -1,10 +1,14 @@
 #include "workbench/windows/Toolkit.h"
 
+#include <wx/app.h>
 #include <wx/dcscreen.h>
 #include <wx/dynlib.h>
 #include <wx/graphics.h>
 #include <wx/log.h>
 #include <wx/menu.h>
+
+#include <cstdint>
+#include <utility>
 
 namespace {
 
@@ -41,6 +45,49 @@ class TLibrary {
   return {x + rect[0], y + rect[1], rect[2], rect[3]};
 }
 
+const TLibrary& Gtk() {
+  static const TLibrary gtk("libgtk-3.so.0");
+  return gtk;
+}
+const TLibrary& Objects() {
+  static const TLibrary objects("libgobject-2.0.so.0");
+  return objects;
+}
+
+/// GTK's widget of a menu, of the item in the menu bar that opens it, and of a menu bar; nullptr under another toolkit.
+template <class TMenu>
+void* WidgetOf(const TMenu& menu) {
+  if constexpr (requires { menu.m_menubar; }) return menu.m_menubar;
+  if constexpr (requires { menu.m_menu; }) return menu.m_menu;
+  return nullptr;
+}
+template <class TMenu>
+void* OpenerOf(const TMenu& menu) {
+  if constexpr (requires { menu.m_owner; }) return menu.m_owner;
+  return nullptr;
+}
+
+/// Calls a function of GTK that takes a widget and, maybe, a flag; does nothing without the widget.
+template <class TResult = void, class... TArguments>
+TResult CallGtk(const char* name, void* widget, TArguments... arguments) {
+  const auto function = widget ? Gtk().Find<TResult (*)(void*, TArguments...)>(name) : nullptr;
+  return function ? function(widget, arguments...) : TResult();
+}
+
+/// Whether the widget is a window with a frame, unlike menus and hints.
+bool IsFramedWindow(void* widget) {
+  const auto typeOfWindows = Gtk().Find<std::size_t (*)()>("gtk_window_get_type");
+  const auto isA = Objects().Find<int (*)(void*, std::size_t)>("g_type_check_instance_is_a");
+  return typeOfWindows && isA && isA(widget, typeOfWindows()) &&
+         CallGtk<int>("gtk_window_get_window_type", widget) == 0;
+}
+
+unsigned ShowSignal() {
+  const auto lookUp = Objects().Find<unsigned (*)(const char*, std::size_t)>("g_signal_lookup");
+  const auto typeOfWidgets = Gtk().Find<std::size_t (*)()>("gtk_widget_get_type");
+  return lookUp && typeOfWidgets ? lookUp("show", typeOfWidgets()) : 0;
+}
+
 }  // namespace
 
 void ForgetScreenCopy(wxScreenDC& screen) {
@@ -52,10 +99,8 @@ void ForgetScreenCopy(wxScreenDC& screen) {
 }
 
 void ShowMenuImages() {
-  const TLibrary gtk("libgtk-3.so.0");
-  const TLibrary objects("libgobject-2.0.so.0");
-  const auto settings = gtk.Find<void* (*)()>("gtk_settings_get_default");
-  const auto set = objects.Find<void (*)(void* object, const char* property, ...)>("g_object_set");
+  const auto settings = Gtk().Find<void* (*)()>("gtk_settings_get_default");
+  const auto set = Objects().Find<void (*)(void* object, const char* property, ...)>("g_object_set");
   if (settings && set) set(settings(), "gtk-menu-images", 1, nullptr);
 }
 
@@ -94,4 +139,55 @@ void TurnWheel(bool up) {
   if (!display) return;
   for (const int pressed : {1, 0}) button(display, up ? 4 : 5, pressed, 0);
   close(display);  // what was sent is done by then
+}
+
+bool IsOnScreen(const wxMenu& menu) { return CallGtk<int>("gtk_widget_get_mapped", WidgetOf(menu)) != 0; }
+
+void CallNext(std::function<void()> body) {
+  constexpr int kBeforeEvents = -100;
+  using TCall = std::function<void()>;
+  using TSource = int (*)(void*);
+  using TAdd = unsigned (*)(int priority, TSource, void* data, void (*destroy)(void*));
+  static const TLibrary glib("libglib-2.0.so.0");
+  static const auto add = glib.Find<TAdd>("g_idle_add_full");
+  if (!add) return wxTheApp->CallAfter(std::move(body));
+  const auto call = [](void* data) {
+    (*static_cast<TCall*>(data))();
+    return 0;  // once
+  };
+  add(kBeforeEvents, call, new TCall(std::move(body)), [](void* data) { delete static_cast<TCall*>(data); });
+}
+
+void SelectFirstItem(wxMenu& menu) {
+  if (CallGtk<void*>("gtk_menu_shell_get_selected_item", WidgetOf(menu)))
+    CallGtk<void>("gtk_menu_shell_select_first", WidgetOf(menu), 1);
+}
+
+void OpenFromBar(wxMenu& menu) { CallGtk<int>("gtk_widget_mnemonic_activate", OpenerOf(menu), 0); }
+
+TMenuGivesWay::TMenuGivesWay(const wxMenuBar& bar, const wxMenu& menu) : bar_(bar), menu_(menu) {
+  struct TValue {  // of the library's; the first member is all that is needed of it
+    std::size_t Type;
+    std::uint64_t Data[2];
+  };
+  using THook = int (*)(void* hint, unsigned count, const TValue* values, void* data);
+  using TAdd = unsigned long (*)(unsigned signal, unsigned detail, THook, void* data, void (*destroy)(void*));
+  const auto add = Objects().Find<TAdd>("g_signal_add_emission_hook");
+  if (!add || !WidgetOf(menu)) return;
+  const THook hook = [](void*, unsigned, const TValue* values, void* data) {
+    const auto peek = Objects().Find<void* (*)(const TValue*)>("g_value_peek_pointer");
+    if (IsFramedWindow(peek(values))) static_cast<TMenuGivesWay*>(data)->WindowComesUp();
+    return 1;  // stays
+  };
+  hook_ = add(ShowSignal(), 0, hook, this, nullptr);
+}
+
+TMenuGivesWay::~TMenuGivesWay() {
+  const auto remove = Objects().Find<void (*)(unsigned, unsigned long)>("g_signal_remove_emission_hook");
+  if (hook_ && remove) remove(ShowSignal(), hook_);
+}
+
+void TMenuGivesWay::WindowComesUp() {
+  hasGivenWay_ = true;  // some dialogs of the toolkit have closed it already
+  if (IsOnScreen(menu_)) CallGtk<void>("gtk_menu_shell_cancel", WidgetOf(bar_));
 }
