@@ -225,6 +225,7 @@ void TGetFileListForm::btnCheckAllClick(wxCommandEvent&) { ChangeAllCheckedState
 void TGetFileListForm::btnUncheckAllClick(wxCommandEvent&) { ChangeAllCheckedStates(false); }
 
 void TGetFileListForm::btnAdvancedClick(wxCommandEvent&) {
+  if (Expert.Activities().InProviderCall()) return wxBell();  // its options are being shown
   // The host may have closed the project while the list was open.
   auto* providers = Expert.ProviderList();
   auto* project = providers ? providers->CurrentProject() : nullptr;

@@ -1,5 +1,7 @@
 #include "expert/SccExpert.h"
 
+#include <tuple>
+
 #include "expert/EditorNotifiers.h"
 #include "expert/SccExpertStrings.h"
 #include "expert/SccIDENotifier.h"
@@ -88,7 +90,10 @@ TSccExpert::~TSccExpert() {
   menu_.reset();
   if (ide_notifier_index_)
     if (auto* services = IdeService<IOTAServices>()) services->RemoveNotifier(*ide_notifier_index_);
-  ReleaseProvider();
+  if (activities_.InProviderCall())
+    std::ignore = provider_list_.release();  // stays for as long as the process does: its code is running
+  else
+    ReleaseProvider();
   provider_messages_.reset();
   aMsgWin.reset();
   form_editor_manager_.reset();
@@ -151,15 +156,9 @@ void Reported(std::string_view format, const std::function<void()>& body) noexce
 
 }  // namespace
 
-void TSccExpert::RunCommand(std::string_view format, const std::function<void()>& command) noexcept {
-  if (command_running_ || ProviderCallInProgress()) {
-    Reported(format, [] { throw EAbort(sCommandRunning); });
-    return;
-  }
-  command_running_ = true;
-  Reported(format, command);
-  command_running_ = false;
-  Reported(format, [this] { HandlePendingNotifications(); });
+void TSccExpert::RunCommand(std::string_view format, const std::function<void()>& command,
+                            TActivity activity) noexcept {
+  Reported(format, [&] { activities_.Run(activity, [&] { Reported(format, command); }); });
 }
 
 void TSccExpert::DisplayMessages(const std::string& title, const TStateMessages& messages) {

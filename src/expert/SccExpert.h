@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "expert/Activities.h"
 #include "expert/ExpertForms.h"
 #include "expert/FileIndex.h"
 #include "expert/FileListModel.h"
@@ -69,10 +70,11 @@ class TSccExpert final : public TNotifierObject, public IOTAWizard {
   void ReadDefaultProvider(std::string& name);
   /// The user chose another provider in the options dialog: drops the old one, library included, and creates the new
   /// one at once.  A library may refuse to leave the process (that of Subversion does, because what it links cannot be
-  /// torn down); it is out of use all the same, and comes back as it was.  Throws EAbort when that fails.
+  /// torn down); it is out of use all the same, and comes back as it was.  Throws EAbort when that fails, and when
+  /// Activities() refuse it.
   void ChooseProvider(const std::string& provider, const std::string& userName);
-  /// Creates the provider list for the current library path; false without a path.  Throws EAbort when the library
-  /// cannot be loaded.  `param` is the parent window of the provider's dialogs, 0 for none.
+  /// Creates the provider list for the current library path, in place of the one there is; false without a path.  Throws
+  /// EAbort when the library cannot be loaded, and when there is no releasing (see there).  `param` is the parent window of the provider's dialogs, 0 for none.
   bool ProviderCreate(TWindowHandle param);
   bool ReadSCCIniFile(const std::string& projectFile, std::string& projName, std::string& userName,
                       std::string& auxProjPath);
@@ -86,7 +88,8 @@ class TSccExpert final : public TNotifierObject, public IOTAWizard {
   // For the wizards, which work on a provider project of their own.
   /// Takes that installed provider: its name, and the path of its library (empty when it is not installed).
   void SelectProvider(const std::string& name);
-  /// Closes the provider project that is open and drops the provider, library included.
+  /// Closes the provider project that is open and drops the provider, library included.  The only way a provider goes.
+  /// Throws EAbort while a call of it is running.
   void ReleaseProvider();
   /// Writes a warning to the message window, unless it is the last one written: the menu asks again each time it opens.
   void WarnOnce(const std::string& text);
@@ -94,9 +97,7 @@ class TSccExpert final : public TNotifierObject, public IOTAWizard {
   void ProjectPlaced(const std::string& projectFile) { open_project_file_ = projectFile; }
 
   // Opening and closing of projects.
-  /// Handles one notification of the host.  One that arrives while another is being handled, or while a provider call
-  /// is running (a provider may pump messages), waits until that is over: the library must not go away under its own
-  /// feet.
+  /// Handles one notification of the host, now or when Activities() let it.
   void HandleNotification(TOTAFileNotification code, const std::string& fileName);
   void FileNotifyProjectOpen(const std::string& fileName);
   void FileNotifyProjectClose(const std::string& fileName);
@@ -157,9 +158,12 @@ class TSccExpert final : public TNotifierObject, public IOTAWizard {
   /// project meanwhile.
   TSCCProviderProject& RequireProject(const std::string& directory, const std::string& noProvider);
 
-  /// Runs a user's command: refuses a second one while one is running, catches what it throws and writes it to the
+  /// Runs what the user has asked for, if Activities() let it start.  What it throws, and a refusal, is written to the
   /// message window as `format` with the message in place of %s.
-  void RunCommand(std::string_view format, const std::function<void()>& command) noexcept;
+  void RunCommand(std::string_view format, const std::function<void()>& command,
+                  TActivity activity = TActivity::Command) noexcept;
+  /// What is running, and what may start.
+  const TActivities& Activities() const { return activities_; }
 
   // State that menus, dialogs and the options page look at.
   TSCCProviderList* ProviderList() const { return provider_list_.get(); }
@@ -188,7 +192,6 @@ class TSccExpert final : public TNotifierObject, public IOTAWizard {
   void CloseFailedProject(const std::string& directory);
   std::string OpenProjectFile();
   void ReopenProject();
-  void HandlePendingNotifications();
   void Handle(TOTAFileNotification code, const std::string& fileName);
   /// RequireProject for the current project's file, as the single-file commands want it.
   TSCCProviderProject& RequireCurrentProject();
@@ -214,14 +217,8 @@ class TSccExpert final : public TNotifierObject, public IOTAWizard {
   std::string open_project_file_;  // whose provider project is open; empty when none is
   std::unique_ptr<TExpertMainMenuModule> menu_;
 
-  struct TNotification {
-    TOTAFileNotification Code;
-    std::string FileName;
-  };
   std::string last_warning_;
-  std::vector<TNotification> pending_;
-  bool handling_ = false;
-  bool command_running_ = false;
+  TActivities activities_{ProviderCallInProgress};
 };
 
 /// The one expert, or nullptr before the host's main form exists.  Owned by the host once it is registered.

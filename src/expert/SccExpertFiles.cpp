@@ -30,7 +30,7 @@ void TSccExpert::UndoCheckOut(const std::string& fileName) {
 }
 
 TSCCProviderProject& TSccExpert::RequireProject(const std::string& directory, const std::string& noProvider) {
-  HandlePendingNotifications();
+  activities_.Resume();
   if (!provider_list_) throw EAbort(noProvider);
   if (!provider_list_->SetCurrentProject(directory)) throw EAbort(sNoMatchingPath);
   return *provider_list_->CurrentProject();

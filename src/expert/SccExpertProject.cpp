@@ -8,24 +8,6 @@
 #include "host/Paths.h"
 #include "ui/ExpertMainMenu.h"
 
-namespace {
-
-/// Says that a project is being opened or closed, as long as it lives: boxes shown meanwhile run message loops, and what
-/// the host says in them has to wait.
-class THandling {
- public:
-  explicit THandling(bool& flag) : flag_(flag), before_(std::exchange(flag, true)) {}
-  THandling(const THandling&) = delete;
-  THandling& operator=(const THandling&) = delete;
-  ~THandling() { flag_ = before_; }
-
- private:
-  bool& flag_;
-  bool before_;
-};
-
-}  // namespace
-
 void* TSccIDENotifier::QueryInterface(const TGuid& iid) noexcept {
   return FindInterface<IOTAIDENotifier, IOTANotifier>(this, iid);
 }
@@ -35,19 +17,9 @@ void TSccIDENotifier::FileNotification(TOTAFileNotification code, const std::str
 }
 
 void TSccExpert::HandleNotification(TOTAFileNotification code, const std::string& fileName) {
-  pending_.push_back({code, fileName});
-  HandlePendingNotifications();
-}
-
-void TSccExpert::HandlePendingNotifications() {
-  if (handling_ || ProviderCallInProgress()) return;
-  const THandling handling(handling_);
-  while (!pending_.empty()) {
-    const auto [code, fileName] = pending_.front();
-    pending_.erase(pending_.begin());
-    // The host discards what a notifier throws, so the reason is kept where the user can find it.
-    Guarded(mwtError, sFileNotificationError, [&] { Handle(code, fileName); });
-  }
+  // The host discards what a notifier throws, so the reason is kept where the user can find it.
+  activities_.Notify(
+      [=, this] { Guarded(mwtError, sFileNotificationError, [&] { Handle(code, fileName); }); });
 }
 
 void TSccExpert::Handle(TOTAFileNotification code, const std::string& fileName) {
@@ -88,7 +60,7 @@ void TSccExpert::FileNotifyProjectOpen(const std::string& fileName) {
 }
 
 void TSccExpert::OpenProviderProject(const std::string& fileName) {
-  const THandling handling(handling_);
+  const TActivities::TScope handling(activities_, TActivity::Notification);
   std::string projName;
   std::string auxProjPath;
   std::string userName = provider_list_->UserName();
@@ -128,6 +100,7 @@ void TSccExpert::CloseFailedProject(const std::string& directory) {
 
 // Providers may count on SccUninitialize coming with no project open.
 void TSccExpert::ReleaseProvider() {
+  activities_.RequireNoProviderCall();
   if (provider_list_ && provider_list_->SetCurrentProject(ExtractFileDir(open_project_file_))) {
     TStateMessages ignored;
     provider_list_->CurrentProject()->CloseProject(ignored);
@@ -138,7 +111,7 @@ void TSccExpert::ReleaseProvider() {
 
 void TSccExpert::FileNotifyProjectClose(const std::string& fileName) {
   if (!provider_list_) return;
-  const THandling handling(handling_);
+  const TActivities::TScope handling(activities_, TActivity::Notification);
   const auto directory = ExtractFileDir(fileName);
   if (provider_list_->SetCurrentProject(directory)) {
     TStateMessages messages;

@@ -46,25 +46,22 @@ namespace {
 /// A provider project, the current one, for as long as the provider's application runs.
 class TTemporaryProject {
  public:
-  /// `list` is the expert's; it may go or be replaced by another while the application runs.
-  TTemporaryProject(std::unique_ptr<TSCCProviderList>& list, const std::string& directory)
+  /// `list` is the expert's, and stays for as long as one of its functions runs.
+  TTemporaryProject(TSCCProviderList& list, const std::string& directory)
       : list_(list), directory_(directory) {
-    list_->Add(directory_);
-    if (!list_->SetCurrentProject(directory_)) throw EAbort(sNoProjectFile);
-    session_ = list_->CurrentProject();
+    list_.Add(directory_);
+    if (!list_.SetCurrentProject(directory_)) throw EAbort(sNoProjectFile);
   }
   TTemporaryProject(const TTemporaryProject&) = delete;
   TTemporaryProject& operator=(const TTemporaryProject&) = delete;
   ~TTemporaryProject() {
-    if (!list_ || list_->CurrentProject() != session_) return;
-    list_->Remove(directory_);
-    list_->SetCurrentProject(directory_);  // drops the reference to the one removed
+    list_.Remove(directory_);
+    list_.SetCurrentProject(directory_);  // drops the reference to the one removed
   }
 
  private:
-  std::unique_ptr<TSCCProviderList>& list_;
+  TSCCProviderList& list_;
   const std::string directory_;
-  const TSCCProviderProject* session_;
 };
 
 }  // namespace
@@ -77,13 +74,12 @@ void TSccExpert::RunSccApp() {
     RequireCurrentProject();
   } else {
     auto* services = IdeService<IOTAServices>();
-    temporary.emplace(provider_list_, services ? services->GetStartupDirectory() : std::string());
+    temporary.emplace(*provider_list_, services ? services->GetStartupDirectory() : std::string());
   }
   auto& session = *provider_list_->CurrentProject();
   session.set_UserName(user_name_);
-  TStateMessages messages;
-  DecodeReturnCode(session.RunSCC(), messages);
-  DisplayMessages(sRunScc, messages);
+  session
+      .RunSCC();  // what it has to say it says itself: the code is that of a window which the user has closed
 }
 
 namespace {
@@ -92,13 +88,8 @@ namespace {
 TStringList addList;
 TStringList removeList;
 
-scc::Bool SCC_CALL PopListFunc(void*, scc::Bool addKeep, scc::Long, const char* fileName) noexcept try {
-  auto& list = addKeep ? addList : removeList;
-  if (list.size() >= kMaxPopulated) return 0;
-  if (auto name = TakeFileName(fileName)) list.push_back(*std::move(name));
-  return -1;
-} catch (...) {
-  return 0;
+scc::Bool SCC_CALL PopListFunc(void*, scc::Bool addKeep, scc::Long, const char* fileName) noexcept {
+  return TakeFileName(fileName, addKeep ? addList : removeList) ? -1 : 0;
 }
 
 /// Deletes from `list`, for each of `names`, the first entry that matches it.
@@ -144,14 +135,14 @@ void TSccExpert::ProviderAddRemove(TStringList& list, scc::SCCCommand command) {
 }
 
 void TSccExpert::ViewChange(const std::string& fileName) {
-  try {
+  // Commands open views, too; what they do is not interrupted for a line in the message window.
+  if (activities_.Ask(TActivity::Command) != TActivities::TVerdict::Start) return;
+  RunCommand(sViewChangeError.Text, [&] {
     if (!provider_list_) return;
     if (!provider_list_->SetCurrentProject(ExtractFileDir(GetCurrentProjectFile()))) return;
     TStatusArray statuses;
     TStateMessages messages;
     if (provider_list_->CurrentProject()->Query({fileName}, statuses, messages))
       DecodeQueryStatus(fileName, statuses[0]);
-  } catch (const std::exception& error) {
-    WriteMessageFmt(mwtError, sViewChangeError.Text, {error.what()});
-  }
+  });
 }

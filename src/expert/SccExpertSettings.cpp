@@ -98,14 +98,16 @@ void TSccExpert::SelectProvider(const std::string& name) {
 }
 
 void TSccExpert::ChooseProvider(const std::string& provider, const std::string& userName) {
-  ReleaseProvider();
-  SelectProvider(provider);
-  user_name_ = userName;
-  auto* services = IdeService<IOTAServices>();
-  if (!services) throw EAbort(sUnableToGetIDEServices);
-  provider_list_ =
-      std::make_unique<TSCCProviderList>(provider_path_, services->GetParentHandle(), user_name_);
-  project_not_mapped_ = true;  // the next opening of the menu starts over with it
+  activities_.Run(TActivity::ProviderChoice, [&] {
+    ReleaseProvider();
+    SelectProvider(provider);
+    user_name_ = userName;
+    auto* services = IdeService<IOTAServices>();
+    if (!services) throw EAbort(sUnableToGetIDEServices);
+    provider_list_ =
+        std::make_unique<TSCCProviderList>(provider_path_, services->GetParentHandle(), user_name_);
+    project_not_mapped_ = true;  // the next opening of the menu starts over with it
+  });
 }
 
 bool TSccExpert::ReadSCCIniFile(const std::string& projectFile, std::string& projName, std::string& userName,

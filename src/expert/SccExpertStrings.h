@@ -42,7 +42,6 @@ constexpr TResString sSccPopulateList{"SccPopulateList"};
 constexpr TResString sShowDiff{"Show Diff"};
 constexpr TResString sShowHistory{"Show History"};
 constexpr TResString sProperties{"Properties"};
-constexpr TResString sRunScc{"Run SCC"};
 constexpr TResString sSaveAllFailed{
     // "Unkown" is meant: the message is known and searched for by it
     "Project and project related files must be saved before mapping: Unkown save error."};

@@ -35,7 +35,7 @@ void TSccExpert::PullProjectWizard() {
   const auto pulled = forms_.ShowPullProject(*this);
   ReleaseProvider();
   if (!pulled.empty()) OpenInHost(pulled, IsProject(pulled));
-  HandlePendingNotifications();
+  activities_.Resume();
   if (!provider_list_) ReopenProject();
 }
 

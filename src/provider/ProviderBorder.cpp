@@ -11,7 +11,7 @@ namespace {
 
 IProviderSink* sink = nullptr;
 std::string providerName;
-int callDepth = 0;
+bool calling = false;
 
 constexpr char kGuardByte = '\x5A';
 
@@ -52,9 +52,12 @@ IProviderSink* ProviderSink() { return sink; }
 TFloatingPointKeeper::TFloatingPointKeeper() noexcept { std::fegetenv(&environment_); }
 TFloatingPointKeeper::~TFloatingPointKeeper() { std::fesetenv(&environment_); }
 
-TCallMark::TCallMark() noexcept { ++callDepth; }
-TCallMark::~TCallMark() { --callDepth; }
-bool ProviderCallInProgress() { return callDepth > 0; }
+TCallMark::TCallMark() {
+  if (calling) throw EAbort(sProviderBusy);
+  calling = true;
+}
+TCallMark::~TCallMark() { calling = false; }
+bool ProviderCallInProgress() { return calling; }
 
 void SetProviderName(const std::string& name) { providerName = name; }
 
@@ -130,14 +133,18 @@ const TBoundedText& RequireFits(const TBoundedText& path) {
   return path;
 }
 
-std::optional<std::string> TakeFileName(const char* name) {
-  if (name == nullptr) return std::nullopt;
-  auto taken = FromSystemName(name);
-  if (!taken)
+bool TakeFileName(const char* name, TStringList& taken) noexcept try {
+  if (taken.size() >= kMaxPopulated) return false;
+  if (name == nullptr || *name == '\0') return true;
+  if (auto known = FromSystemName(name))
+    taken.push_back(*std::move(known));
+  else
     WriteProviderLine(
         IProviderSink::Kind::Warning,
         Format(sNotFromCodePage.str(), {providerName, FromSystemText(name), "SccPopulateList"}));
-  return taken;
+  return true;
+} catch (...) {
+  return false;
 }
 
 TFileArray::TFileArray(const TStringList& files) {

@@ -122,10 +122,11 @@ class TFloatingPointKeeper {
   std::fenv_t environment_;
 };
 
-/// Marks that a provider function is on the call stack; see ProviderCallInProgress().
+/// Marks that a provider function is on the call stack; see ProviderCallInProgress().  Throws EAbort when one is there
+/// already.
 class TCallMark {
  public:
-  TCallMark() noexcept;
+  TCallMark();
   ~TCallMark();
   TCallMark(const TCallMark&) = delete;
   TCallMark& operator=(const TCallMark&) = delete;

@@ -21,6 +21,7 @@ constexpr TResString sBufferOverrun{
     "wrong."};
 constexpr TResString sTextCut{
     "The provider \"%s\" gave a text that is too long (%s): it was cut to %d bytes."};
+constexpr TResString sProviderBusy{"The source code control provider is still busy with another call"};
 constexpr TResString sUnknownFault{"The source code control provider failed for an unknown reason"};
 constexpr TResString sProviderFault{"The source code control provider failed in %s: %s"};
 constexpr TResString sNotInCodePage{

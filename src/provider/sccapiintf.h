@@ -111,9 +111,10 @@ IProviderSink* SetProviderSink(IProviderSink* sink);
 /// The callback handed to providers.  Tolerates null texts, late calls and any kind; always returns 0.
 scc::Long SCC_CALL TextOutProc(const char* text, scc::Dword kind) noexcept;
 
-/// A file name that a provider gave a list callback.  Nothing for a null pointer, and, with a warning in the sink, for a
-/// name that could not be passed back to it (see FromSystemName).
-std::optional<std::string> TakeFileName(const char* name);
+/// Appends to `taken` a file name that a provider gave a list callback.  Leaves out null pointers, empty names and, with a
+/// warning in the sink, names that could not be passed back to it (see FromSystemName).  False when `taken` is full, that
+/// is, has kMaxPopulated names: the callback then asks the provider to stop.
+bool TakeFileName(const char* name, TStringList& taken) noexcept;
 
 /// Whether a provider function is on the call stack.  A provider may pump messages in its dialogs; whoever is called
 /// then must not close a project or unload the library.

@@ -215,10 +215,11 @@ void TExpertMainMenuModule::SetMenuCapabilities() {
 }
 
 void TExpertMainMenuModule::MapClick() {
-  expert_.RunCommand(sMainMenuError.Text, [this] {
+  const auto refresh = [this] {
     expert_.MainMenu();
     SetMenuCapabilities();
-  });
+  };
+  expert_.RunCommand(sMainMenuError.Text, refresh, TActivity::MenuOpening);
 }
 
 void TExpertMainMenuModule::actGetFilesExecute() { actGetSingleExecute({}); }

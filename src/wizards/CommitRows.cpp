@@ -74,16 +74,12 @@ void SortWithoutDuplicates(TStringList& names) {
 /// Where the callback below puts the names, while a population runs; only one runs at a time.
 TStringList* populated = nullptr;
 
-scc::Bool SCC_CALL TakePopulated(void*, scc::Bool, scc::Long status, const char* fileName) noexcept try {
+scc::Bool SCC_CALL TakePopulated(void*, scc::Bool, scc::Long status, const char* fileName) noexcept {
   constexpr scc::Bool kGoOn = -1;
   constexpr scc::Bool kStop = 0;
-  if (!populated || populated->size() >= kMaxPopulated) return kStop;
   const bool known = status != scc::SCC_STATUS_INVALID && status != scc::SCC_STATUS_NOTCONTROLLED;
-  if (!known) return kGoOn;
-  if (auto name = TakeFileName(fileName); name && !name->empty()) populated->push_back(*std::move(name));
-  return kGoOn;
-} catch (...) {
-  return 0;
+  if (populated && !known) return kGoOn;
+  return populated && TakeFileName(fileName, *populated) ? kGoOn : kStop;
 }
 
 class TPopulation {

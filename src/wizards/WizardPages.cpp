@@ -24,6 +24,7 @@ constexpr std::ptrdiff_t kShownReasons = 3;
 void TWizardPages::Attempt(const std::function<void()>& action) {
   page_.Problem.clear();
   try {
+    FExpert.Activities().RequireNoProviderCall();  // whose own window may have left this one open to the user
     action();
   } catch (const std::exception& error) {
     page_.Problem = error.what();
@@ -162,9 +163,11 @@ void TWizardPages::Complete(bool succeeded) {
 
 void TWizardPages::BackButtonClick() {
   if (FPage == 0) return;
-  --FPage;
-  if (SkipsProjectPage() && FPage == 1) --FPage;
-  Attempt([this] { DisplayPage(); });
+  Attempt([this] {
+    --FPage;
+    if (SkipsProjectPage() && FPage == 1) --FPage;
+    DisplayPage();
+  });
 }
 
 void TWizardPages::NextFinishButtonClick() {

@@ -483,18 +483,6 @@ TEST_F(FileCommand, ProjectClosedInsideAProviderCallIsClosedAfterIt) {
   EXPECT_THAT(forms_.LinesOf(mwtInfo), Contains("Unable to checkout files, provider not assigned"));
 }
 
-TEST_F(FileCommand, SecondCommandIsRefusedWhileOneRuns) {
-  auto& expert = Open();
-  forms_.OnFileList.push_back([&](TFileListModel&) {
-    expert.Menu()->actCheckInFiles.OnExecute();
-    return mrCancel;
-  });
-  expert.Menu()->actCheckOutFiles.OnExecute();
-  EXPECT_THAT(forms_.LinesOf(mwtInfo),
-              Contains("CheckFilesInClick; Another source control command is still running"));
-  EXPECT_THAT(forms_.LinesOf(mwtInfo), Contains("CheckFilesOutClick; User cancelled dialog"));
-}
-
 TEST_F(FileCommand, MoreFilesThanOneQueryCarriesAreRefused) {
   auto& expert = Open();
   for (int i = 0; i < 10000; ++i) units_.push_back(At("u" + std::to_string(i) + ".pas"));

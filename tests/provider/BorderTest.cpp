@@ -184,22 +184,31 @@ TEST_F(Border, WordsWrittenTwiceTooWideDoNoHarm) {
 }
 
 TEST_F(Border, AProviderMayFloodTheListCallback) {
-  static int calls;
-  calls = 0;
+  static TStringList taken;
+  taken.clear();
   provider->Faults.FloodList = true;
   TStatusArray statuses;
-  const auto count = [](void*, scc::Bool, scc::Long, const char*) -> scc::Bool { return ++calls, 0; };
-  EXPECT_TRUE(session().PopulateList(scc::SCC_COMMAND_GET, kFiles, count, statuses, messages));
-  EXPECT_EQ(calls, 100'000);
+  const auto take = [](void*, scc::Bool, scc::Long, const char* name) -> scc::Bool {
+    return TakeFileName(name, taken) ? -1 : 0;
+  };
+  EXPECT_TRUE(session().PopulateList(scc::SCC_COMMAND_GET, kFiles, take, statuses, messages));
+  EXPECT_GT(provider->ListAnswers, static_cast<scc::Long>(kMaxPopulated));
+  EXPECT_EQ(taken.size(), kMaxPopulated);
 }
 
-TEST_F(Border, ACallInProgressIsKnownUntilItEndsHoweverItEnds) {
+TEST_F(Border, OneCallAtATime) {
   bool inside = false;
-  provider->OnCall["SccGet"] = [&](const ScriptedCall&) { inside = ProviderCallInProgress(); };
+  TStateMessages nested;
+  provider->OnCall["SccGet"] = [&](const ScriptedCall&) {
+    inside = ProviderCallInProgress();
+    session().ShowHistory("/p/a.pas", nested);
+  };
   session().GetFile(kFiles, messages);
   EXPECT_TRUE(inside);
+  EXPECT_EQ(nested[2], "The source code control provider is still busy with another call");
   provider->Faults.ThrowInt = {"SccGet"};
   session().GetFile(kFiles, messages);
+  EXPECT_EQ(provider->Count("SccHistory"), 0);
   EXPECT_FALSE(ProviderCallInProgress());
 }
 
@@ -227,12 +236,14 @@ TEST_F(Border, TextsThatAreNoUtf8AreShownAndNamesGoBackAsTheyCame) {
   provider->OpenProject.ProjName = {};
   session().OpenProject(messages);
   EXPECT_EQ(provider->Last("SccOpenProject").ProjName, given);
-  EXPECT_EQ(TakeFileName(given.c_str()), given);
+  TStringList taken;
+  EXPECT_TRUE(TakeFileName(given.c_str(), taken));
+  EXPECT_TRUE(TakeFileName(nullptr, taken));
+  EXPECT_THAT(taken, ElementsAre(given));
 
   provider->OnCall["SccGet"] = [](const ScriptedCall&) { throw std::runtime_error("f\xFCr Ann"); };
   session().GetFile(kFiles, messages);
   EXPECT_EQ(messages[2], "für Ann");
-  EXPECT_EQ(TakeFileName(nullptr), std::nullopt);
 }
 
 TEST_F(Border, ArbitraryCodesComeBackAsTheyAre) {

@@ -66,7 +66,7 @@ struct ScriptedFaults {
   bool WriteFarBehind = false;       ///< in/out texts are written 100 bytes past the first 4096
   bool WriteBehindStatuses = false;  ///< one word more than 65,536 is written
   bool WideWords = false;            ///< out words are written as if they had eight bytes
-  bool FloodList = false;  ///< SccPopulateList goes on for 100,000 names, whatever the callback answers
+  bool FloodList = false;  ///< SccPopulateList goes on for 300,000 names, whatever the callback answers
   bool LateText = false;   ///< SccCloseProject and SccUninitialize still write to the text callback
 };
 

@@ -109,7 +109,7 @@ void CallBack(TPopListFunc populate, void* data) {
     ++script.ListAnswers;
     if (!populate(data, entry.Add ? 1 : 0, entry.Status, entry.File ? entry.File->c_str() : nullptr)) return;
   }
-  for (int i = 0; script.Faults.FloodList && i < 100'000; ++i, ++script.ListAnswers)
+  for (int i = 0; script.Faults.FloodList && i < 300'000; ++i, ++script.ListAnswers)
     populate(data, 1, SCC_STATUS_CONTROLLED, ("flood" + std::to_string(i)).c_str());
 }
 

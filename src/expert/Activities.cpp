@@ -1,0 +1,66 @@
+#include "expert/Activities.h"
+
+#include <algorithm>
+#include <array>
+
+#include "expert/SccExpertStrings.h"
+#include "host/Errors.h"
+#include "provider/ProviderStrings.h"
+
+namespace {
+
+using TVerdict = TActivities::TVerdict;
+
+/// What comes of something new while an activity runs: of what the user wants, and of a notification of the host.
+struct TRule {
+  TVerdict OfUser, OfHost;
+};
+// By TActivity.  A command looks its provider project up again after each of its dialogs, so the host need not wait for
+// its end.
+constexpr std::array kRules{
+    TRule{TVerdict::Refuse, TVerdict::Start},  // Command
+    TRule{TVerdict::Refuse, TVerdict::Wait},   // MenuOpening
+    TRule{TVerdict::Refuse, TVerdict::Wait},   // ProviderChoice
+    TRule{TVerdict::Refuse, TVerdict::Wait},   // Notification
+};
+constexpr TRule kInProviderCall{TVerdict::Refuse, TVerdict::Wait};
+
+}  // namespace
+
+TVerdict TActivities::Ask(TActivity wanted) const {
+  const auto of = wanted == TActivity::Notification ? &TRule::OfHost : &TRule::OfUser;
+  auto verdict = in_provider_call_() ? kInProviderCall.*of : TVerdict::Start;
+  for (const auto running : running_)
+    verdict = std::max(verdict, kRules[static_cast<std::size_t>(running)].*of);
+  return verdict;
+}
+
+void TActivities::Run(TActivity wanted, const std::function<void()>& body) {
+  if (Ask(wanted) != TVerdict::Start) throw EAbort(sCommandRunning);
+  try {
+    const TScope running(*this, wanted);
+    body();
+  } catch (...) {
+    Resume();
+    throw;
+  }
+  Resume();
+}
+
+void TActivities::Notify(std::function<void()> handle) {
+  waiting_.push_back(std::move(handle));
+  Resume();
+}
+
+void TActivities::Resume() {
+  while (!waiting_.empty() && Ask(TActivity::Notification) == TVerdict::Start) {
+    const auto handle = std::move(waiting_.front());
+    waiting_.pop_front();
+    const TScope handling(*this, TActivity::Notification);
+    handle();
+  }
+}
+
+void TActivities::RequireNoProviderCall() const {
+  if (in_provider_call_()) throw EAbort(sProviderBusy);
+}
