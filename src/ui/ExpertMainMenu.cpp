@@ -1,7 +1,5 @@
 #include "ui/ExpertMainMenu.h"
 
-#include <stdexcept>
-
 #include "expert/FileCommandStrings.h"
 #include "expert/SccExpert.h"
 #include "expert/SccExpertStrings.h"
@@ -41,7 +39,7 @@ TMenuItem HiddenItem(const char* name, const char* caption, int image, std::func
 
 IOTAMenuServices& MenuServices() {
   auto* services = IdeService<IOTAMenuServices>();
-  if (!services) throw std::runtime_error(sUnableToGetIDEServices);
+  if (!services) throw EExpertMenu(sUnableToGetIDEServices);
   return *services;
 }
 
@@ -83,39 +81,28 @@ void TExpertMainMenuModule::InstallMenuItems() {
 }
 
 void TExpertMainMenuModule::CreateActions() {
-  // A command of the whole project is called with an empty file name.
-  const auto project = [](void (TSccExpert::*command)(const std::string&)) {
-    return [command](TSccExpert& expert) { (expert.*command)({}); };
-  };
+  using TModule = TExpertMainMenuModule;
   struct TRow {
     TAction& Action;
     const char* Name;
     TResString Caption;
     bool Enabled;
     int Image;
-    TResString Error;
-    std::function<void(TSccExpert&)> Command;
+    void (TModule::*Execute)();
   };
   const TRow rows[] = {
-      {actPlaceProject, "actPlaceProject", sActPlaceProject, false, 5, sPlaceProjectError,
-       &TSccExpert::PlaceProject},
-      {actPullProject, "actPullProject", sActPullProject, false, 4, sPullProjectError,
-       &TSccExpert::PullProjectWizard},
-      {actAddFiles, "actAddFiles", sActAddFiles, true, 1, sAddFilesError, project(&TSccExpert::AddFiles)},
-      {actRemoveFiles, "actRemoveFiles", sActRemoveFiles, true, 6, sRemoveFilesError,
-       project(&TSccExpert::RemoveFiles)},
-      {actCheckInFiles, "actCheckInFiles", sActCheckInFiles, true, 1, sCheckFilesInError,
-       project(&TSccExpert::CheckInFiles)},
-      {actCheckOutFiles, "actCheckOutFiles", sActCheckOutFiles, true, 2, sCheckFilesOutError,
-       project(&TSccExpert::CheckOutFiles)},
-      {actUndoCheckOutFiles, "actUndoCheckOutFiles", sActUndoCheckOutFiles, true, 8, sUndoFilesCheckOutError,
-       project(&TSccExpert::UndoCheckOut)},
-      {actRunSccApp, "actRunSccApp", sActRunSccApp, true, 7, sRunSccAppError, &TSccExpert::RunSccApp},
-      {actCommitBrowser, "actCommitBrowser", sActCommitBrowser, true, 3, sCommitBrowserError,
-       &TSccExpert::CommitBrowser},
-      {actMessages, "actMessages", sActMessages, true, kNoImage, sMessagesError, &TSccExpert::ViewMessages},
-      {act_get_files_, "actGetFiles", sGetLatestVersion, true, 9, sGetLatestVersionError,
-       project(&TSccExpert::GetLatestVersion)},
+      {actPlaceProject, "actPlaceProject", sActPlaceProject, false, 5, &TModule::actPlaceProjectExecute},
+      {actPullProject, "actPullProject", sActPullProject, false, 4, &TModule::actPullProjectExecute},
+      {actAddFiles, "actAddFiles", sActAddFiles, true, 1, &TModule::actAddFilesExecute},
+      {actRemoveFiles, "actRemoveFiles", sActRemoveFiles, true, 6, &TModule::actRemoveFilesExecute},
+      {actCheckInFiles, "actCheckInFiles", sActCheckInFiles, true, 1, &TModule::actCheckInFilesExecute},
+      {actCheckOutFiles, "actCheckOutFiles", sActCheckOutFiles, true, 2, &TModule::actCheckOutFilesExecute},
+      {actUndoCheckOutFiles, "actUndoCheckOutFiles", sActUndoCheckOutFiles, true, 8,
+       &TModule::actUndoCheckOutFilesExecute},
+      {actRunSccApp, "actRunSccApp", sActRunSccApp, true, 7, &TModule::actRunSccAppExecute},
+      {actCommitBrowser, "actCommitBrowser", sActCommitBrowser, true, 3, &TModule::actCommitBrowserExecute},
+      {actMessages, "actMessages", sActMessages, true, kNoImage, &TModule::actMessagesExecute},
+      {act_get_files_, "actGetFiles", sGetLatestVersion, true, 9, &TModule::actGetFilesExecute},
   };
   for (const auto& row : rows) {
     auto& action = row.Action;
@@ -124,12 +111,9 @@ void TExpertMainMenuModule::CreateActions() {
     action.Category = sTeam;
     action.ImageIndex = row.Image;
     action.Enabled = row.Enabled;
-    action.OnExecute = [this, command = row.Command, error = row.Error] {
-      expert_.RunCommand(error.Text, [&] { command(expert_); });
-    };
+    action.OnExecute = [this, execute = row.Execute] { (this->*execute)(); };
     ExpertActionList.push_back(&action);
   }
-  act_get_files_.OnExecute = [this] { actGetFilesExecute(); };
 }
 
 void TExpertMainMenuModule::CreateItems() {
@@ -222,10 +206,29 @@ void TExpertMainMenuModule::MapClick() {
   expert_.RunCommand(sMainMenuError.Text, refresh, TActivity::MenuOpening);
 }
 
+void TExpertMainMenuModule::actPlaceProjectExecute() { Run(sPlaceProjectError, &TSccExpert::PlaceProject); }
+void TExpertMainMenuModule::actPullProjectExecute() {
+  Run(sPullProjectError, &TSccExpert::PullProjectWizard);
+}
+void TExpertMainMenuModule::actRunSccAppExecute() { Run(sRunSccAppError, &TSccExpert::RunSccApp); }
+void TExpertMainMenuModule::actCommitBrowserExecute() {
+  Run(sCommitBrowserError, &TSccExpert::CommitBrowser);
+}
+void TExpertMainMenuModule::actMessagesExecute() { Run(sMessagesError, &TSccExpert::ViewMessages); }
+
+// A command of the whole project is called with an empty file name.
+void TExpertMainMenuModule::actAddFilesExecute() { actAddSingleExecute({}); }
+void TExpertMainMenuModule::actRemoveFilesExecute() { actRemoveSingleExecute({}); }
 void TExpertMainMenuModule::actGetFilesExecute() { actGetSingleExecute({}); }
+void TExpertMainMenuModule::actCheckInFilesExecute() { actCheckInSingleExecute({}); }
+void TExpertMainMenuModule::actCheckOutFilesExecute() { actCheckOutSingleExecute({}); }
+void TExpertMainMenuModule::actUndoCheckOutFilesExecute() { actUndoCheckOutSingleExecute({}); }
 void TExpertMainMenuModule::actShowDiffExecute() { ShowDiffSingle(rv_GetCurrentFile()); }
 void TExpertMainMenuModule::actShowHistoryExecute() { ShowHistorySingle(rv_GetCurrentFile()); }
 
+void TExpertMainMenuModule::Run(const TResString& error, void (TSccExpert::*command)()) {
+  expert_.RunCommand(error.Text, [&] { (expert_.*command)(); });
+}
 void TExpertMainMenuModule::Run(const TResString& error, void (TSccExpert::*command)(const std::string&),
                                 const std::string& fileName) {
   expert_.RunCommand(error.Text, [&] { (expert_.*command)(fileName); });

@@ -1,6 +1,7 @@
 // The "Team" menu: its items, actions and the rules that enable them.  No windows: the host shows the menu.
 #pragma once
 
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -9,10 +10,16 @@
 
 class TSccExpert;
 
+/// The host lacks what the menu needs.
+class EExpertMenu : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
 /// Created by the expert and installed in the host for as long as it lives.  User-interface thread only.
 class TExpertMainMenuModule {
  public:
-  /// `expert` is borrowed.  Throws std::runtime_error when the host has no menu services.
+  /// `expert` is borrowed.  Throws EExpertMenu when the host has no menu services.
   explicit TExpertMainMenuModule(TSccExpert& expert);
   ~TExpertMainMenuModule();
   TExpertMainMenuModule(const TExpertMainMenuModule&) = delete;
@@ -25,6 +32,19 @@ class TExpertMainMenuModule {
   void EnableRunScc(bool enable);
   /// Shows the provider's application only when the provider has one; does nothing without a provider.
   void SetMenuCapabilities();
+
+  // Handlers of the actions.
+  void actPlaceProjectExecute();
+  void actPullProjectExecute();
+  void actAddFilesExecute();
+  void actRemoveFilesExecute();
+  void actGetFilesExecute();
+  void actCheckInFilesExecute();
+  void actCheckOutFilesExecute();
+  void actUndoCheckOutFilesExecute();
+  void actRunSccAppExecute();
+  void actCommitBrowserExecute();
+  void actMessagesExecute();
 
   // Handlers of the per-file variants, for the host's menus of files.
   void actAddSingleExecute(const std::string& fileName);
@@ -58,12 +78,12 @@ class TExpertMainMenuModule {
   void CreateFileMenu();
 
   void MapClick();
-  void actGetFilesExecute();
   void actShowDiffExecute();
   void actShowHistoryExecute();
   void ShowDiffSingle(const std::string& fileName);
   void ShowHistorySingle(const std::string& fileName);
   void PropertiesSingle(const std::string& fileName);
+  void Run(const TResString& error, void (TSccExpert::*command)());
   /// Runs a command of the expert for one file, or for the whole project when the name is empty.
   void Run(const TResString& error, void (TSccExpert::*command)(const std::string&),
            const std::string& fileName);

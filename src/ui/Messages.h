@@ -2,6 +2,7 @@
 #pragma once
 
 #include <ctime>
+#include <functional>
 #include <initializer_list>
 #include <string>
 #include <string_view>
@@ -24,6 +25,8 @@ class IMessageWindow {
   void SendMessage(TMsgWinType kind, std::string_view format, std::initializer_list<TFormatArg> args) {
     SendMessage(kind, Format(format, args));
   }
+  /// From any thread: calls `body` on the user-interface thread soon, unless the window is gone by then.
+  virtual void CallSoon(std::function<void()> body) = 0;
   /// Shows the window, or hides it without losing its lines.  Non-modal.
   virtual void ShowWindow(bool show) = 0;
 };

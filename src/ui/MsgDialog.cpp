@@ -48,8 +48,9 @@ TMsgDialogForm::~TMsgDialogForm() { MsgDialogForm = nullptr; }
 void TMsgDialogForm::btnOKClick(wxCommandEvent&) { CloseWith(mrOk); }
 
 void TMsgDialogForm::CreateControls(const std::string& title, const std::string& msg, TMsgType kind) {
-  const auto icon = wxBitmapBundle::FromSVG(kDialogIcons[kind], {kDialogIconSize, kDialogIconSize});
-  MsgIcon = new wxStaticBitmap(this, wxID_ANY, icon, wxDefaultPosition, FromDIP(wxSize(37, 37)));
+  for (const char* svg : kDialogIcons)
+    MsgIconList.push_back(wxBitmapBundle::FromSVG(svg, {kDialogIconSize, kDialogIconSize}));
+  MsgIcon = new wxStaticBitmap(this, wxID_ANY, MsgIconList[kind], wxDefaultPosition, FromDIP(wxSize(37, 37)));
   TitleLabel = new wxStaticText(this, wxID_ANY, {});
   TitleLabel->SetFont(TitleLabel->GetFont().Bold());
   TitleLabel->SetLabelText(ToWx(title));

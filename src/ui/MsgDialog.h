@@ -1,7 +1,10 @@
 // The modal message dialog: a titled box with an icon, a beep and a read-only text.
 #pragma once
 
+#include <wx/bmpbndl.h>
+
 #include <string>
+#include <vector>
 
 #include "ui/Messages.h"
 #include "ui/ModalForm.h"
@@ -18,6 +21,7 @@ class TMsgDialogForm final : public TModalForm {
 
   void btnOKClick(wxCommandEvent& event);
 
+  std::vector<wxBitmapBundle> MsgIconList;  ///< by TMsgType
   wxStaticBitmap* MsgIcon;
   wxStaticText* TitleLabel;
   wxTextCtrl* MessageText;

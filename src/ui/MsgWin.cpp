@@ -107,9 +107,15 @@ TMsgWinForm::TMsgWinForm(const std::string& helpFile)
   SetMinSize(FromDIP(wxSize(240, 120)));
   SetOuterSize(*this, FromDIP(wxSize(654, 240)));
   CentreOnScreen();
-  VCMPopupMenu.Append(wxID_CLEAR, ToWx(sClearMessages));
+  ClearMessages.Name = "ClearMessages";
+  ClearMessages.Caption = sClearMessages;
+  ClearMessages.OnExecute = [this] { ClearMessagesExecute(); };
+  for (const auto* action : VCMActionList) {
+    const auto* item = VCMPopupMenu.Append(wxID_ANY, ToWx(action->Caption));
+    Bind(
+        wxEVT_MENU, [action](wxCommandEvent&) { action->OnExecute(); }, item->GetId());
+  }
 
-  Bind(wxEVT_MENU, &TMsgWinForm::ClearMessagesExecute, this, wxID_CLEAR);
   Bind(wxEVT_CONTEXT_MENU, &TMsgWinForm::ShowPopupMenu, this);
   Bind(wxEVT_CHAR_HOOK, &TMsgWinForm::FormKeyDown, this);
   Bind(wxEVT_CLOSE_WINDOW, [this](wxCloseEvent&) { Hide(); });
@@ -134,7 +140,7 @@ void TMsgWinForm::ShowWindow(bool show) {
   MessageListView->SetFocus();
 }
 
-void TMsgWinForm::ClearMessagesExecute(wxCommandEvent&) { MessageListView->Clear(); }
+void TMsgWinForm::ClearMessagesExecute() { MessageListView->Clear(); }
 
 void TMsgWinForm::FormKeyDown(wxKeyEvent& event) {
   const int key = event.GetKeyCode();

@@ -5,9 +5,12 @@
 #include <wx/listctrl.h>
 #include <wx/menu.h>
 
+#include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
+#include "host/Menus.h"
 #include "ui/Messages.h"
 
 /// The lines.  The list control asks for what it shows, so that a long log costs no more than a short one.
@@ -48,15 +51,18 @@ class TMsgWinForm final : public wxFrame, public IMessageWindow {
 
   using IMessageWindow::SendMessage;
   void SendMessage(TMsgWinType kind, const std::string& text) override;
+  void CallSoon(std::function<void()> body) override { CallAfter(std::move(body)); }
   void ShowWindow(bool show) override;
   /// A log that is still open does not keep the host running.
   bool ShouldPreventAppExit() const override { return false; }
 
-  void ClearMessagesExecute(wxCommandEvent& event);
+  void ClearMessagesExecute();
   void FormKeyDown(wxKeyEvent& event);
 
   TMessageListView* const MessageListView;
-  wxMenu VCMPopupMenu;
+  TAction ClearMessages;
+  const std::vector<TAction*> VCMActionList{&ClearMessages};
+  wxMenu VCMPopupMenu;  ///< an item for each action
   const std::string HelpFile;
   static constexpr int HelpContext = 25016;
 

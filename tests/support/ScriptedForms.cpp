@@ -9,6 +9,7 @@ class TScriptedWindow final : public IMessageWindow {
   void SendMessage(TMsgWinType kind, const std::string& text) override {
     if (forms_.Recording) forms_.Lines.emplace_back(kind, text);
   }
+  void CallSoon(std::function<void()> body) override { forms_.Soon.push_back(std::move(body)); }
   void ShowWindow(bool show) override { forms_.WindowShown = show; }
 
  private:

@@ -36,6 +36,8 @@ class TScriptedForms final : public IExpertForms {
   std::vector<std::pair<TMsgWinType, std::string>> Lines;
   std::vector<std::string> Unexpected;
   bool WindowShown = false;
+  std::vector<std::function<void()>>
+      Soon;  ///< what the message window is to call on the user-interface thread
 
   /// The texts of one kind of line.
   std::vector<std::string> LinesOf(TMsgWinType kind) const;
