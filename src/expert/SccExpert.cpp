@@ -45,10 +45,15 @@ void Guarded(TMsgWinType kind, const TResString& format, const std::function<voi
 /// Brings what providers say to the message window.
 class TProviderMessages final : public IProviderSink {
  public:
-  explicit TProviderMessages(IExpertForms& forms) : forms_(forms), previous_(SetProviderSink(this)) {}
+  explicit TProviderMessages(IExpertForms& forms) : forms_(forms), previous_(SetProviderSink(this)) {
+    SetProviderWaker([] { aMsgWin->CallSoon(ShowProviderLines); });
+  }
   TProviderMessages(const TProviderMessages&) = delete;
   TProviderMessages& operator=(const TProviderMessages&) = delete;
-  ~TProviderMessages() override { SetProviderSink(previous_); }
+  ~TProviderMessages() override {
+    SetProviderWaker({});
+    SetProviderSink(previous_);
+  }
 
   void Line(Kind kind, const std::string& text) override {
     constexpr std::array kKinds{mwtInfo, mwtWarning, mwtError};

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <ctime>
+#include <mutex>
+#include <thread>
 #include <utility>
 
 #include "host/Errors.h"
@@ -14,6 +16,35 @@ std::string providerName;
 bool calling = false;
 
 constexpr char kGuardByte = '\x5A';
+
+/// Lines that a provider's own threads have written, until the user-interface thread shows them.
+struct TWaitingLines {
+  struct TLine {
+    IProviderSink::Kind Kind;
+    std::string Text;
+  };
+  std::mutex Lock;  // of all that follows
+  std::vector<TLine> Lines;
+  std::function<void()> Wake;
+  std::thread::id UserInterface;
+};
+TWaitingLines waiting;
+
+/// A text of the provider's as it is shown.
+std::string ShownText(std::string_view text) {
+  if (text.size() <= kMaxTextLine) return FromSystemText(text);
+  return FromSystemText(CutSystemText(text, kMaxTextLine)) + sLineCutMark.str();
+}
+
+/// Keeps the line when this is another thread than the one that shows lines.
+bool KeptForLater(IProviderSink::Kind kind, std::string_view text) {
+  const std::lock_guard lock(waiting.Lock);
+  const auto shows = waiting.UserInterface;
+  if (shows == std::thread::id() || shows == std::this_thread::get_id()) return false;
+  waiting.Lines.push_back({kind, std::string(text.substr(0, kMaxTextLine + 1))});
+  if (waiting.Lines.size() == 1 && waiting.Wake) waiting.Wake();
+  return true;
+}
 
 std::string_view UpToNul(std::string_view text) { return text.substr(0, text.find('\0')); }
 
@@ -45,7 +76,26 @@ bool TBoundedText::Fits() const {
   return !bytes || bytes->size() < size_;
 }
 
-IProviderSink* SetProviderSink(IProviderSink* newSink) { return std::exchange(sink, newSink); }
+IProviderSink* SetProviderSink(IProviderSink* newSink) {
+  const std::lock_guard lock(waiting.Lock);
+  waiting.UserInterface = std::this_thread::get_id();
+  return std::exchange(sink, newSink);
+}
+
+void SetProviderWaker(std::function<void()> wake) {
+  const std::lock_guard lock(waiting.Lock);
+  waiting.Wake = std::move(wake);
+}
+
+void ShowProviderLines() noexcept try {
+  std::vector<TWaitingLines::TLine> lines;
+  {
+    const std::lock_guard lock(waiting.Lock);
+    lines.swap(waiting.Lines);
+  }
+  for (const auto& line : lines) WriteProviderLine(line.Kind, ShownText(line.Text));
+} catch (...) {
+}
 
 IProviderSink* ProviderSink() { return sink; }
 
@@ -68,17 +118,23 @@ void WriteProviderLine(IProviderSink::Kind kind, const std::string& text) noexce
   }
 }
 
-void ReportOverrun(const char* entry) noexcept {
-  WriteProviderLine(IProviderSink::Kind::Warning, Format(sBufferOverrun.str(), {providerName, entry}));
+void ReportOverrun(const char* entry, TOverrun overrun) noexcept {
+  if (overrun == TOverrun::None) return;
+  const auto& text = overrun == TOverrun::Caught ? sBufferOverrun : sGuardOverrun;
+  WriteProviderLine(IProviderSink::Kind::Warning, Format(text.str(), {providerName, entry}));
 }
 
-scc::Long SCC_CALL TextOutProc(const char* text, scc::Dword kind) noexcept {
+scc::Long SCC_CALL TextOutProc(const char* text, scc::Dword kind) noexcept try {
   const auto known = std::ranges::find(kTextKinds, kind, &TTextKind::Value);
   if (text == nullptr || known == std::end(kTextKinds)) return scc::SCC_MSG_RTN_OK;
   // Providers end their lines as if they wrote to a console; the message window has lines of its own.
   std::string_view line = text;
   line.remove_suffix(line.size() - (line.find_last_not_of("\r\n") + 1));
-  WriteProviderLine(known->Kind, FromSystemText(line));
+  if (KeptForLater(known->Kind, line)) return scc::SCC_MSG_RTN_OK;
+  ShowProviderLines();  // what came first stands first
+  WriteProviderLine(known->Kind, ShownText(line));
+  return scc::SCC_MSG_RTN_OK;
+} catch (...) {
   return scc::SCC_MSG_RTN_OK;
 }
 
@@ -91,8 +147,10 @@ TScratchText::TScratchText(const char* entry, std::string_view text)
 }
 
 TScratchText::~TScratchText() {
-  const auto guard = bytes_.begin() + kRoom;
-  if (std::any_of(guard, bytes_.end() - 1, [](char c) { return c != kGuardByte; })) ReportOverrun(entry_);
+  const auto guard = std::string_view(bytes_.data() + kRoom, kGuard - 1);
+  const bool touched = guard.find_first_not_of(kGuardByte) != std::string_view::npos;
+  const bool passed = guard.back() != kGuardByte || bytes_.back() != '\0';
+  ReportOverrun(entry_, passed ? TOverrun::Passed : touched ? TOverrun::Caught : TOverrun::None);
 }
 
 std::string_view TScratchText::Text() const { return UpToNul({bytes_.data(), kRoom}); }
@@ -110,16 +168,16 @@ std::string TScratchText::TextFor(const TBoundedText& field) const {
   return *name;
 }
 
-TComment::TComment(std::string_view typed) : text_(ForProvider(typed)) { Cut(); }
+TComment::TComment(std::string_view typed) { Take(ForProvider(typed)); }
 
-TComment::TComment(std::string_view typed, const TResString& otherwise)
-    : text_(!typed.empty()
-                ? ForProvider(typed)
-                : ToReadableSystemText(Format(otherwise.str(), {DateTimeToStr(std::time(nullptr))}))) {
-  Cut();
+TComment::TComment(std::string_view typed, const TResString& otherwise) {
+  Take(!typed.empty() ? ForProvider(typed)
+                      : ToReadableSystemText(Format(otherwise.str(), {DateTimeToStr(std::time(nullptr))})));
 }
 
-void TComment::Cut() { text_.resize(CutSystemText(text_, kMaxComment).size()); }
+void TComment::Take(std::string_view text) {
+  std::ranges::copy(CutSystemText(UpToNul(text), kMaxComment), bytes_.begin());
+}
 
 std::string ForProvider(std::string_view text) {
   auto converted = ToSystemText(text);
@@ -181,7 +239,7 @@ std::string CurrentFault() {
     return error.what();
   } catch (const std::exception& error) {
     // A provider's own words are the system's text.
-    if (error.what() != nullptr && *error.what() != '\0') return FromSystemText(error.what());
+    if (error.what() != nullptr && *error.what() != '\0') return ShownText(error.what());
   } catch (...) {
   }
   return sUnknownFault;

@@ -2,6 +2,7 @@
 // the provider does with it stays in that copy.
 #pragma once
 
+#include <array>
 #include <cfenv>
 #include <cstddef>
 #include <exception>
@@ -21,8 +22,11 @@ void SetProviderName(const std::string& name);
 IProviderSink* ProviderSink();
 /// Sends a line to the sink, if there is one.  A sink that fails has nowhere else to report it.
 void WriteProviderLine(IProviderSink::Kind kind, const std::string& text) noexcept;
-/// Warns that the provider wrote behind a buffer handed to `entry`.
-void ReportOverrun(const char* entry) noexcept;
+/// Warns that the provider wrote behind a buffer handed to `entry`, if it did.
+void ReportOverrun(const char* entry, TOverrun overrun) noexcept;
+/// The most bytes of one line of a provider's that are shown.  More is cut, with a mark: no window is made for a line of
+/// megabytes.
+inline constexpr std::size_t kMaxTextLine = 4096;
 
 /// The text as providers read it.  Throws EAbort, naming it, when the active code page lacks a character of it: with
 /// another one in its place a provider would work on another file.
@@ -87,12 +91,12 @@ class TComment {
   /// The date, put into `otherwise`, when nothing was typed.  In its words the active code page may lack characters: the
   /// user's locale need not be the system's.
   TComment(std::string_view typed, const TResString& otherwise);
-  const char* Data() const { return text_.c_str(); }
+  const char* Data() const { return bytes_.data(); }
 
  private:
-  void Cut();
+  void Take(std::string_view text);
 
-  std::string text_;
+  std::array<char, kMaxComment + 1> bytes_{};  // zeros behind the text: a provider may copy all of it
 };
 
 /// How a call ended: the provider's code, or the text of the exception or fault that it let out.
@@ -144,6 +148,7 @@ scc::Long Invoke(scc::Long(SCC_CALL* entry)(Parameters...), Arguments... argumen
   const TFloatingPointKeeper floatingPoint;
   scc::Long result = scc::SCC_E_NONSPECIFICERROR;
   const auto fault = RunGuarded([&] { result = entry(arguments...); });
+  ShowProviderLines();  // of its other threads
   if (!fault.empty()) ThrowFault(reinterpret_cast<scc::TEntry>(entry), fault);
   return result;
 }

@@ -18,11 +18,12 @@ TStatusArray::TStatusArray() : words_(kMaxFiles + kGuardWords, kGuardWord) { Cle
 
 void TStatusArray::Clear() { std::fill_n(words_.begin(), kMaxFiles, 0); }
 
-bool TStatusArray::TakeOverrun() {
+TOverrun TStatusArray::TakeOverrun() {
   const auto guard = words_.begin() + kMaxFiles;
-  if (std::all_of(guard, words_.end(), [](Long word) { return word == kGuardWord; })) return false;
+  if (std::all_of(guard, words_.end(), [](Long word) { return word == kGuardWord; })) return TOverrun::None;
+  const bool passed = words_.back() != kGuardWord;
   std::fill(guard, words_.end(), kGuardWord);
-  return true;
+  return passed ? TOverrun::Passed : TOverrun::Caught;
 }
 
 bool TSCCProviderProject::Query(const TStringList& files, TStatusArray& statuses, TStateMessages& messages) {
@@ -33,7 +34,7 @@ bool TSCCProviderProject::Query(const TStringList& files, TStatusArray& statuses
     TFileArray names(files);
     return Invoke(SccQueryInfo, context_, names.Count(), names.Data(), statuses.data());
   });
-  if (statuses.TakeOverrun()) ReportOverrun("SccQueryInfo");
+  ReportOverrun("SccQueryInfo", statuses.TakeOverrun());
   return code == SCC_OK;
 }
 
@@ -154,7 +155,7 @@ bool TSCCProviderProject::Populate(SCCCommand command, const TStringList& files,
     answered = true;
     return code;
   });
-  if (statuses.TakeOverrun()) ReportOverrun("SccPopulateList");
+  ReportOverrun("SccPopulateList", statuses.TakeOverrun());
   return answered;  // the provider's code does not matter: it may decline, and the list stays as it was
 }
 

@@ -19,6 +19,11 @@ constexpr TResString sInitFailed{"System could not be initialized"};
 constexpr TResString sBufferOverrun{
     "The provider \"%s\" wrote past the end of a buffer (%s). Nothing was damaged, but its answer may be "
     "wrong."};
+constexpr TResString sGuardOverrun{
+    "The provider \"%s\" wrote far past the end of a buffer (%s). Memory of this program may be damaged: "
+    "save "
+    "your work and start it again."};
+constexpr TResString sLineCutMark{" [...]"};
 constexpr TResString sTextCut{
     "The provider \"%s\" gave a text that is too long (%s): it was cut to %d bytes."};
 constexpr TResString sProviderBusy{"The source code control provider is still busy with another call"};

@@ -8,6 +8,7 @@
 #include <array>
 #include <bitset>
 #include <cstddef>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -79,6 +80,8 @@ inline constexpr std::size_t kMaxFiles = 65536;
 inline constexpr std::size_t kMaxPopulated = 4 * kMaxFiles;
 /// The most bytes of a comment that a provider is handed.
 inline constexpr std::size_t kMaxComment = 128;
+/// Whether a provider wrote past the end of what it was given, and whether the guard behind it was large enough.
+enum class TOverrun { None, Caught, Passed };
 /// Caller-owned status words, one per file; always kMaxFiles of them, and a guard behind.
 class TStatusArray {
  public:
@@ -90,7 +93,7 @@ class TStatusArray {
   /// Sets all words to 0.
   void Clear();
   /// Whether somebody wrote behind the words since the last time; repairs the guard.
-  bool TakeOverrun();
+  TOverrun TakeOverrun();
 
  private:
   std::vector<scc::Long> words_;
@@ -108,7 +111,15 @@ class IProviderSink {
 /// Borrowed until replaced; nullptr removes it.  Returns the one before.
 IProviderSink* SetProviderSink(IProviderSink* sink);
 
-/// The callback handed to providers.  Tolerates null texts, late calls and any kind; always returns 0.
+/// What a provider's own thread calls when it has written a line: arranges that ShowProviderLines() is called soon.  An
+/// empty one: nobody.
+void SetProviderWaker(std::function<void()> wake);
+/// Sends the lines that have been written from other threads to the sink.  For the thread that installed the sink, the
+/// user interface's.
+void ShowProviderLines() noexcept;
+
+/// The callback handed to providers.  Tolerates null texts, late calls and any kind, from any thread; always returns 0.
+/// The sink gets the lines in their order, cut where they are too long to be read.
 scc::Long SCC_CALL TextOutProc(const char* text, scc::Dword kind) noexcept;
 
 /// Appends to `taken` a file name that a provider gave a list callback.  Leaves out null pointers, empty names and, with a

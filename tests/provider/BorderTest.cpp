@@ -1,8 +1,10 @@
 // What a provider may do wrong, and what is left of it on this side.
 #include <cfenv>
+#include <thread>
 
 #include "host/Paths.h"
 #include "provider/Fixture.h"
+#include "provider/ProviderBorder.h"
 
 namespace {
 
@@ -146,7 +148,11 @@ TEST_F(Border, ATextLongerThanItsFieldIsCutAndSaidSo) {
 }
 
 TEST_F(Border, WritingFarBehindABufferIsCaughtByTheGuard) {
-  provider->Faults.WriteFarBehind = true;
+  provider->Faults.WriteFarBehind = 1024;  // all of the guard
+  session().GetEvents(messages);
+  EXPECT_THAT(sink.Of(Kind::Warning), ElementsAre(HasSubstr("far past the end of a buffer (SccGetEvents)")));
+  sink.Lines.clear();
+  provider->Faults.WriteFarBehind = 100;
   session().GetEvents(messages);
   EXPECT_THAT(sink.Of(Kind::Warning), ElementsAre(HasSubstr("\"Scripted provider\" wrote past the end")));
   sink.Lines.clear();
@@ -244,6 +250,39 @@ TEST_F(Border, TextsThatAreNoUtf8AreShownAndNamesGoBackAsTheyCame) {
   provider->OnCall["SccGet"] = [](const ScriptedCall&) { throw std::runtime_error("f\xFCr Ann"); };
   session().GetFile(kFiles, messages);
   EXPECT_EQ(messages[2], "für Ann");
+}
+
+TEST_F(Border, LinesOfOtherThreadsWaitForTheUserInterface) {
+  int woken = 0;
+  SetProviderWaker([&] { ++woken; });
+  session().OpenProject(messages);
+  const auto write = provider->TextOut;
+  const auto writeMany = [&](int writer) {
+    for (int i = 0; i < 2000; ++i)
+      write((std::to_string(writer) + "/" + std::to_string(i)).c_str(), scc::SCC_MSG_INFO);
+  };
+  { const std::jthread first(writeMany, 0), second(writeMany, 1); }
+  EXPECT_THAT(sink.Lines, IsEmpty());
+  EXPECT_EQ(woken, 1);
+  provider->Texts["SccGet"] = {{scc::SCC_MSG_WARNING, "near"}};
+  provider->OnCall["SccGet"] = [&](const ScriptedCall&) {
+    std::jthread([&] { write("far", scc::SCC_MSG_WARNING); }).join();
+  };
+  session().GetFile(kFiles, messages);
+  EXPECT_THAT(sink.Of(Kind::Warning), ElementsAre("far", "near"));
+  int next[] = {0, 0};
+  for (const auto& line : sink.Of(Kind::Info))
+    EXPECT_EQ(line.substr(2), std::to_string(next[line[0] - '0']++));
+  EXPECT_THAT(next, ElementsAre(2000, 2000));
+  SetProviderWaker({});
+}
+
+TEST_F(Border, LinesAndCommentsHaveASize) {
+  provider->Texts["SccOpenProject"] = {{scc::SCC_MSG_INFO, std::string(10'000'000, 'x') + "\r\n"}};
+  session().OpenProject(messages);
+  EXPECT_THAT(sink.Of(Kind::Info), ElementsAre(std::string(4096, 'x') + " [...]"));
+  const TComment comment("why");
+  EXPECT_EQ(std::string_view(comment.Data(), kMaxComment + 1), "why" + std::string(126, '\0'));
 }
 
 TEST_F(Border, ArbitraryCodesComeBackAsTheyAre) {

@@ -63,7 +63,7 @@ struct ScriptedFaults {
   std::set<std::string> ThrowInt;    ///< entry points that throw an int
   bool Unterminated = false;         ///< in/out texts are filled to the API's size without a terminator
   bool LongProjName = false;         ///< 301 bytes, terminator included, go into every project name
-  bool WriteFarBehind = false;       ///< in/out texts are written 100 bytes past the first 4096
+  std::size_t WriteFarBehind = 0;    ///< in/out texts are written that many bytes past the first 4096
   bool WriteBehindStatuses = false;  ///< one word more than 65,536 is written
   bool WideWords = false;            ///< out words are written as if they had eight bytes
   bool FloodList = false;  ///< SccPopulateList goes on for 300,000 names, whatever the callback answers

@@ -24,7 +24,7 @@ namespace {
 
 ScriptedProvider script;
 
-constexpr int kScratchRoom = 4096;
+constexpr std::size_t kScratchRoom = 4096;
 constexpr int kMaxFiles = 65536;
 
 std::string Text(const char* text) { return text != nullptr ? text : ""; }
@@ -77,7 +77,7 @@ Long PlayFiles(const char* entry, const void* context, WindowHandle window, Long
 void PutText(char* place, const std::optional<std::string>& text, int size) {
   if (text) std::strcpy(place, text->c_str());
   if (script.Faults.Unterminated) std::memset(place, 'u', static_cast<std::size_t>(size));
-  if (script.Faults.WriteFarBehind) std::memset(place, 'o', kScratchRoom + 100);
+  if (const auto more = script.Faults.WriteFarBehind) std::memset(place, 'o', kScratchRoom + more);
 }
 
 void PutIdentity(const ScriptedIdentity& identity, char* user, char* name, char* aux) {
