@@ -188,6 +188,8 @@ class TSccExpert final : public TNotifierObject, public IOTAWizard {
   void ReadProviderOption();
   void ReadUserOption();
   void ReadProviderPath();
+  /// Creates the provider and opens its project, unless there is a provider.
+  void PrepareProvider(const std::string& project);
   void OpenProviderProject(const std::string& fileName);
   void CloseFailedProject(const std::string& directory);
   std::string OpenProjectFile();

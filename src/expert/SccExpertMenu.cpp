@@ -14,27 +14,31 @@
 #include "ui/ExpertMainMenuStrings.h"
 
 void TSccExpert::MainMenu() {
-  if (project_not_mapped_ || MappingAppeared()) {
-    ReleaseProvider();
-    project_not_mapped_ = false;
-  }
   const auto project = Trim(GetCurrentProjectFile());
-  if (!provider_list_) {
-    menu_->EnableMenus(false);  // holds if the provider cannot be created
-    if (project.empty())
-      ReadSettings();
-    else
-      ReadProjectSettings(project);
-    if (!ProviderCreate(0)) return;
-    if (!project.empty()) FileNotifyProjectOpen(project);
-  }
   const bool mapped = FileExists(ChangeFileExt(project, kMappingExtension));
-  if (mapped && provider_list_ && provider_list_->GetCount() > 0)
-    EnableActiveMenu();
-  else
-    menu_->EnableMenus(false);
+  menu_->EnableMenus(false);  // holds if what follows fails
   menu_->EnablePlaceMenu(!mapped && !project.empty());
+  try {
+    if (project_not_mapped_ || MappingAppeared()) {
+      ReleaseProvider();
+      project_not_mapped_ = false;
+    }
+    PrepareProvider(project);
+    if (mapped && provider_list_ && provider_list_->GetCount() > 0) EnableActiveMenu();
+  } catch (...) {
+    menu_->EnableRunScc(provider_list_ != nullptr);
+    throw;
+  }
   menu_->EnableRunScc(provider_list_ != nullptr);
+}
+
+void TSccExpert::PrepareProvider(const std::string& project) {
+  if (provider_list_) return;
+  if (project.empty())
+    ReadSettings();
+  else
+    ReadProjectSettings(project);
+  if (ProviderCreate(0) && !project.empty()) FileNotifyProjectOpen(project);
 }
 
 void TSccExpert::EnableActiveMenu() {

@@ -78,8 +78,8 @@ void TSccExpert::RunSccApp() {
   }
   auto& session = *provider_list_->CurrentProject();
   session.set_UserName(user_name_);
-  session
-      .RunSCC();  // what it has to say it says itself: the code is that of a window which the user has closed
+  // What there is to say the provider says itself; its code counts for nothing here.
+  session.RunSCC();
 }
 
 namespace {

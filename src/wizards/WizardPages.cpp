@@ -202,6 +202,7 @@ void TWizardPages::ProjectBrowserButtonClick() {
     TProviderWords words;
     auto& project = EnsureProject();
     const auto code = Browse(project, messages);
+    page_.Problem.clear();  // why something was refused meanwhile
     if (code == scc::SCC_OK) {
       Pick(project);
     } else if (code < 0) {

@@ -72,7 +72,7 @@ TEST_F(Reentrance, AProviderCallHasTheProviderToItself) {
 TEST_F(Reentrance, WhatTheHostSaysWhileAProviderIsChosenIsHandledAfterwards) {
   auto& expert = Start();
   provider_->OnCall["SccInitialize"] = [&](const ScriptedCall&) {
-    provider_->OnCall.clear();
+    if (host_.FindModule(project_file_)) return;
     host_.AddProject(project_file_, units_);
     host_.Notify(fnFileOpened, project_file_);
   };

@@ -493,6 +493,7 @@ TEST_F(FileCommand, MoreFilesThanOneQueryCarriesAreRefused) {
   EXPECT_EQ(provider_->Count("SccQueryInfo"), 0);
   expert.Menu()->Map.OnClick();
   EXPECT_FALSE(expert.Menu()->actRemoveFiles.Enabled);
+  EXPECT_TRUE(expert.Menu()->actRunSccApp.Enabled) << "it needs no files";
 }
 
 TEST_F(FileCommand, ProviderWidensAndNarrowsTheList) {

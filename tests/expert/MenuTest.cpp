@@ -83,6 +83,11 @@ TEST_F(TeamMenu, WithoutAMappingOnlyPlacingAndPullingRemain) {
   host_.Notify(TOTAFileNotification::fnFileOpened, project_file_);
   Drop();
   EXPECT_THAT(Enabled(), ElementsAre(kPlace, kPull, kRun));
+  host_.Notify(TOTAFileNotification::fnFileClosing, project_file_);
+  host_.CloseModule(project_file_);
+  TRegistry().DeleteKey("Software");
+  Drop();
+  EXPECT_THAT(Enabled(), ElementsAre(kPull)) << "no project, no provider";
 }
 
 TEST_F(TeamMenu, SeesAMappingThatAppearsOrIsRepaired) {

@@ -218,6 +218,21 @@ TEST_F(PlaceProject, WithoutAUsableProviderTheFirstPageSaysSo) {
   EXPECT_TRUE(Page().NoProviders);
 }
 
+TEST_F(PlaceProject, NothingElseStartsWhileTheProvidersBrowserIsOpen) {
+  Show();
+  provider_->OnCall["SccGetProjPath"] = [&](const ScriptedCall&) {
+    Choose(kScripted);
+    pages_->BackButtonClick();
+    EXPECT_EQ(Page().Problem, "The source code control provider is still busy with another call");
+    EXPECT_EQ(Page().Panel, 2);
+  };
+  provider_->Calls.clear();
+  Next();
+  EXPECT_THAT(provider_->Entries(), ElementsAre("SccGetProjPath"));
+  EXPECT_EQ(pages_->ProjectName(), "trunk/App");
+  EXPECT_EQ(Page().Problem, "");
+}
+
 TEST_F(PlaceProject, HostThatClosesTheProjectMeanwhileEndsItInWords) {
   Show();
   Next(2);
