@@ -1,6 +1,8 @@
 // A small package that uses every service of the host and writes down what the host calls: one line per call, into the
 // file that the environment names.
 #include <wx/choice.h>
+#include <wx/evtloop.h>
+#include <wx/frame.h>
 #include <wx/msgdlg.h>
 #include <wx/panel.h>
 #include <wx/stattext.h>
@@ -125,6 +127,7 @@ class TCrewMenu {
     Add(abort_, "Abort", "&Abort").OnClick = [] { throw EAbort("nobody hears this"); };
     Add(help_, "Help", "&Help").OnClick = [] { IdeService<IOTAApplication>()->HelpKeyword("HC_Crew"); };
     Add(beep_, "Beep", "&Beep").OnClick = [] { MessageBeep(TBeep::Hand); };
+    Add(watch_, "Watch", "&Watch").OnClick = [] { Watch(); };
     Add(more_, "More", "&More");
     deep_.Caption = "&Deep";
     deep_.OnClick = [] { Log("deep clicked"); };
@@ -170,6 +173,13 @@ class TCrewMenu {
     hidden_.Visible = Project() == nullptr;
   }
 
+  /// A window without an owner and a message loop of its own, as providers have them; nobody closes it.
+  static void Watch() {
+    wxFrame window(nullptr, wxID_ANY, "Crew Watch");
+    window.Show();
+    wxGUIEventLoop().Run();
+  }
+
   void CheckOut() {
     std::vector<std::string> files;
     IOTAProject* project = Project();
@@ -185,7 +195,7 @@ class TCrewMenu {
   }
 
   TMenuItem top_;
-  TMenuItem checkOut_, separator1_, hidden_, separator2_, fail_, abort_, help_, beep_, more_, deep_;
+  TMenuItem checkOut_, separator1_, hidden_, separator2_, fail_, abort_, help_, beep_, watch_, more_, deep_;
   TAction actCheckOut_;
   TFileMenu file_;
 };

@@ -186,6 +186,18 @@ TEST(Workbench, ShowsABoxThatComesUpWhileAMenuOpensAndThenTheMenu) {
         << story.Output();
 }
 
+TEST(Workbench, StaysOpenAroundAPackagesOwnWindowAndTheMacroEnds) {
+  TStory story;
+  EXPECT_EQ(story.Play("open Boat.qvxproj\n"
+                       "menu Crew|Watch\n"
+                       "menu File|Exit\n"
+                       "expect-message \"cannot be closed while a command is running\"\n"
+                       "limit 100\n"
+                       "open Nothing.pas\n"),
+            1)
+      << story.Output();
+}
+
 TEST(Workbench, SurvivesPackagesThatThrow) {
   TStory story;
   EXPECT_EQ(story.Play("open Boat.qvxproj\n"

@@ -3,7 +3,23 @@
 #include "host/Errors.h"
 #include "workbench/model/ModelStrings.h"
 
+namespace {
+
+class TDepth {
+ public:
+  explicit TDepth(int& depth) : depth_(++depth) {}
+  TDepth(const TDepth&) = delete;
+  TDepth& operator=(const TDepth&) = delete;
+  ~TDepth() { --depth_; }
+
+ private:
+  int& depth_;
+};
+
+}  // namespace
+
 bool TPackageGuard::Run(const std::string& what, const std::function<void()>& code) const {
+  const TDepth running(depth_);
   try {
     code();
     return true;

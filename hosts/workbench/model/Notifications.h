@@ -20,9 +20,12 @@ class TPackageGuard {
   /// False when it ended by an exception.
   bool Run(const std::string& what, const std::function<void()>& code) const;
   void Log(const std::string& line) const { log_(line); }
+  /// Whether code of a package is on the call stack.  It may have a window up and run a message loop.
+  bool IsRunning() const { return depth_ > 0; }
 
  private:
   TLogLine log_;
+  mutable int depth_ = 0;
 };
 
 /// Objects that packages registered, by the index they take them back with.  Indexes are never reused.

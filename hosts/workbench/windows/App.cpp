@@ -143,12 +143,13 @@ void TWorkbenchApp::EndStep() {
   if (++endSteps_ > kMaxEndSteps) std::_Exit(exitCode_ ? exitCode_ : kExitFailed);
   wxDialog* dialog = TModalStack::Top();
   const bool menu = TOpenMenus::Any();
-  if (dialog || menu) {
+  // Code of a package that runs without a dialog shows a window of its own: it cannot be ended, only waited for.
+  if (dialog || menu || services_->Guard().IsRunning()) {
     if (menu)
       TOpenMenus::Close();  // what opened it runs a loop of its own until then
-    else if (dialog->IsModal())
+    else if (dialog && dialog->IsModal())
       dialog->EndModal(wxID_CANCEL);
-    else
+    else if (dialog)
       wxUIActionSimulator().Char(WXK_ESCAPE);  // a box of the system's own, which the toolkit cannot end
     auto* next = new wxTimer;
     next->Bind(wxEVT_TIMER, [this, next](wxTimerEvent&) {

@@ -8,6 +8,9 @@ constexpr TResString sFrameTitle{"%s - Workbench"};
 constexpr TResString sAboutText{"Workbench %s\nA small IDE that hosts run-time packages."};
 constexpr TResString sNoDisplay{
     "workbench: no display; run under Xvfb (for example: xvfb-run -a workbench ...)"};
+constexpr TResString sCommandRunning{
+    "The workbench cannot be closed while a command is running. Finish the command, or close its window, "
+    "first."};
 constexpr TResString sNoHelp{"There is no help for %s."};
 
 constexpr TResString sMenuFile{"&File"};

@@ -254,6 +254,10 @@ void TMainFrame::LookAtDisk() {
 
 void TMainFrame::OnClose(wxCloseEvent& event) {
   bool closed = false;
+  if (event.CanVeto() && services_.Guard().IsRunning()) {
+    AddMessage(sCommandRunning);
+    return event.Veto();
+  }
   if (event.CanVeto()) {
     Attempt([&] { closed = session_.CloseAll(); });
     if (!closed) return event.Veto();
