@@ -1,4 +1,6 @@
 // What may start while something else of the add-in's is running.
+#include <thread>
+
 #include "expert/ExpertFixture.h"
 
 namespace {
@@ -94,6 +96,15 @@ TEST_F(Reentrance, CommandsAreRefusedWhileAnotherOrANotificationShowsABox) {
   });
   expert.Menu()->actCheckOutFiles.OnExecute();
   EXPECT_THAT(forms_.LinesOf(mwtInfo), Contains("CheckFilesInClick; " + kBusy));
+}
+
+TEST_F(Reentrance, LinesOfAProvidersThreadsReachTheMessageWindow) {
+  Open();
+  std::jthread([&] { provider_->TextOut("from afar", scc::SCC_MSG_INFO); }).join();
+  EXPECT_THAT(forms_.LinesOf(mwtInfo), Not(Contains("from afar")));
+  ASSERT_EQ(forms_.Soon.size(), 1U);
+  forms_.Soon.front()();
+  EXPECT_THAT(forms_.LinesOf(mwtInfo), Contains("from afar"));
 }
 
 }  // namespace
