@@ -148,6 +148,7 @@ TEST(Workbench, FindsAndReplacesInOneDialogThatEndsWithTheProgram) {
                        "expect Find\n"
                        "key E\n"
                        "key N\n"
+                       "expect-button Find...\n"
                        "key Return\n"
                        "expect-text \"Ln 2, Col 1\"\n"
                        "menu Search|Replace...\n"
