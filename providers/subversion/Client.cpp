@@ -55,6 +55,7 @@ std::string WithUnixLines(std::string text) {
 }
 
 struct CommitAnswer {
+  const std::function<void()>& committed;
   svn_revnum_t revision = SVN_INVALID_REVNUM;
   std::string warning;
   std::exception_ptr kept;
@@ -64,6 +65,7 @@ svn_error_t* TakeCommit(const svn_commit_info_t* info, void* baton, apr_pool_t*)
   auto& answer = *static_cast<CommitAnswer*>(baton);
   return Contain(answer.kept, [&] {
     answer.revision = info->revision;
+    if (answer.committed) answer.committed();
     if (info->post_commit_err != nullptr) answer.warning = info->post_commit_err;
   });
 }
@@ -140,11 +142,16 @@ void Client::Run(svn_error_t* error) { Check(error, std::exchange(kept_, nullptr
 svn_revnum_t Client::Commit(const std::string& log, std::string& warning,
                             const std::function<svn_error_t*(svn_commit_callback2_t, void*)>& commit) {
   log_ = WithUnixLines(log);
-  CommitAnswer answer;
+  CommitAnswer answer{.committed = committed_, .warning = {}, .kept = nullptr};
   svn_error_t* error = commit(TakeCommit, &answer);
   if (kept_ == nullptr) kept_ = answer.kept;
-  Run(error);
-  warning = answer.warning;
+  try {
+    Run(error);
+    warning = answer.warning;
+  } catch (const Failure& failure) {
+    if (!SVN_IS_VALID_REVNUM(answer.revision)) throw;
+    warning = failure.what();
+  }
   return answer.revision;
 }
 

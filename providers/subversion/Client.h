@@ -33,13 +33,16 @@ class Client {
   /// What libsvn reports while it works.  An exception of the handler ends the call in progress.
   void OnNotice(NoticeHandler handler) { notice_ = std::move(handler); }
 
+  /// Called when the server has taken a commit: there is no way back from then on.  Must not throw.
+  void OnCommitted(std::function<void()> committed) { committed_ = std::move(committed); }
   /// Asked while libsvn works: true stops it.  Must not throw.
   void OnPoll(std::function<bool()> poll) { poll_ = std::move(poll); }
 
   /// Throws what `error` or a callback's exception says.  Every call that uses Context() goes through here.
   void Run(svn_error_t* error);
   /// Commits what `commit(callback, baton)` commits, with `log` as its message; the revision it made, or
-  /// SVN_INVALID_REVNUM when there was nothing to do.  `warning` receives what a server's hook said afterwards.
+  /// SVN_INVALID_REVNUM when there was nothing to do.  `warning` receives what went wrong afterwards: what a server's hook
+  /// said, or what the working copy could not note.
   svn_revnum_t Commit(const std::string& log, std::string& warning,
                       const std::function<svn_error_t*(svn_commit_callback2_t, void*)>& commit);
 
@@ -59,6 +62,7 @@ class Client {
   svn_client_ctx_t* context_ = nullptr;
   NoticeHandler notice_;
   std::function<bool()> poll_;
+  std::function<void()> committed_;
   std::string log_;
   std::set<std::string> offered_;  // realms that a login was offered for
   std::exception_ptr kept_;        // of a callback, rethrown by Run

@@ -1,6 +1,9 @@
 // Check-out and its undoing: locks.
+#include <algorithm>
+
 #include "Commands.h"
 #include "LocalStatus.h"
+#include "Question.h"
 #include "SubversionSccStrings.h"
 
 namespace svnscc {
@@ -12,9 +15,35 @@ std::map<std::string, Failure> TryLock(Session& session, const std::vector<std::
   const Pool pool;
   session.TakeRefusals();
   if (paths.empty()) return {};
+  std::vector<std::string> settled;  // by this call; a refused one may be left over from an earlier check-out
+  std::copy_if(paths.begin(), paths.end(), std::back_inserter(settled),
+               [&](const std::string& path) { return !session.Journal().Has(path); });
+  session.Journal().Add(paths);
   session.Svn().Run(svn_client_lock(ToArray(paths, pool), comment.c_str(),
                                     /*steal_lock*/ others == OthersLocks::Steal, session.Context(), pool));
-  return session.TakeRefusals();
+  auto refused = session.TakeRefusals();
+  std::copy_if(paths.begin(), paths.end(), std::back_inserter(settled),
+               [&](const std::string& path) { return !refused.contains(path); });
+  session.Journal().Remove(settled);
+  return refused;
+}
+
+/// Asks about refused locks that an interrupted check-out here left, and takes them over.
+void TakeOver(Session& session, const std::string& comment, std::map<std::string, Failure>& refused) {
+  std::vector<std::string> left;
+  std::string labels;
+  for (const auto& [path, refusal] : refused) {
+    if (!refusal.Has(SVN_ERR_FS_PATH_ALREADY_LOCKED) || !session.Journal().Has(path)) continue;
+    if (!AskStatus(session, path).LeftOver) continue;
+    left.push_back(path);
+    labels += (labels.empty() ? "" : "\n") + session.Label(path);
+  }
+  if (left.empty()) return;
+  const bool wanted =
+      AskUser(nullptr, {sTakeOverTitle.str(), Format(sTakeOver.Text, {labels})}).value_or(false);
+  for (const auto& path : left) refused.erase(path);
+  if (wanted) return refused.merge(TryLock(session, left, comment, OthersLocks::Steal));
+  for (const auto& path : left) refused.emplace(path, Failure(scc::SCC_E_ALREADYCHECKEDOUT, sLeftOver));
 }
 
 /// A refused lock in the words of the API: whose is it?
@@ -68,6 +97,7 @@ void Lock(Session& session, const std::vector<std::string>& paths, const std::st
   }
   for (const auto& path : updated) refused.erase(path);
   refused.merge(TryLock(session, updated, comment, others));
+  TakeOver(session, comment, refused);
 
   for (const auto& path : paths) {
     const auto refusal = refused.find(path);

@@ -4,6 +4,7 @@
 #include "Session.h"
 #include "SubversionSccStrings.h"
 #include "WindowStrings.h"
+#include "WorkingCopyLocks.h"
 
 namespace svnscc {
 
@@ -32,7 +33,9 @@ scc::Long Guard(void* context, Body&& body) noexcept {
 template <class Body>
 scc::Long GuardOpen(void* context, Body&& body) noexcept {
   return Guard(context, [&](Session& session) -> scc::Long {
-    return session.IsOpen() ? body(session) : static_cast<scc::Long>(scc::SCC_E_PROJNOTOPEN);
+    if (!session.IsOpen()) return scc::SCC_E_PROJNOTOPEN;
+    const UseMark::Work work(session.Mark());
+    return body(session);
   });
 }
 
@@ -64,7 +67,7 @@ scc::Long GuardCommand(void* context, scc::Long count, const char** names, Body&
   return GuardFiles(context, count, names, [&](Session& session, Names files) -> scc::Long {
     const scc::Long result = [&] {
       const RunningCommand running(session);
-      return body(session, files);
+      return RunCommand(session, [&] { return body(session, files); });
     }();
     if (result == scc::SCC_OK) NoteCommand(session, files);
     return result;

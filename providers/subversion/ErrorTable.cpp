@@ -97,6 +97,10 @@ bool Failure::MeansNoWorkingCopy() const {
   return Has(SVN_ERR_WC_NOT_WORKING_COPY) || Has(SVN_ERR_WC_PATH_NOT_FOUND);
 }
 
+bool Failure::MeansBusyWorkingCopy() const {
+  return Has(SVN_ERR_WC_LOCKED) || Has(SVN_ERR_WC_CLEANUP_REQUIRED) || Has(SVN_ERR_SQLITE_BUSY);
+}
+
 Failure ToFailure(svn_error_t* error) {
   std::vector<apr_status_t> codes;
   std::string text;

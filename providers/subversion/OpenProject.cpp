@@ -6,6 +6,7 @@
 #include "ProjectConsent.h"
 #include "Repository.h"
 #include "SubversionSccStrings.h"
+#include "WorkingCopyLocks.h"
 #include "host/System.h"
 
 namespace svnscc {
@@ -70,21 +71,6 @@ bool IsWorkingCopyOf(Client& client, const Project& project) {
                                                                             ReadableUrl(project.Url)}));
 }
 
-/// A command that was killed leaves the working copy locked, and no other command would ever open it again.
-void FinishInterrupted(Session& session, Client& client, const std::string& folder) {
-  const Pool pool;
-  svn_boolean_t lockedHere = FALSE;
-  svn_boolean_t locked = FALSE;
-  client.Run(svn_wc_locked2(&lockedHere, &locked, client.Context()->wc_ctx, folder.c_str(), pool));
-  if (locked == FALSE || lockedHere != FALSE) return;
-  const char* root = nullptr;
-  client.Run(svn_client_get_wc_root(&root, folder.c_str(), client.Context(), pool, pool));
-  client.Run(svn_client_cleanup2(root, /*break_locks*/ TRUE, /*fix_recorded_timestamps*/ TRUE,
-                                 /*clear_dav_cache*/ FALSE, /*vacuum_pristines*/ FALSE,
-                                 /*include_externals*/ FALSE, client.Context(), pool));
-  session.Out().Warning(Format(sFinishedInterrupted.Text, {folder}));
-}
-
 // Nothing is fetched here: files come with the first get, and those of the same name that are here stay.
 void MakeWorkingCopy(Client& client, const Project& project) {
   const Pool pool;
@@ -123,12 +109,15 @@ void OpenProject(Session& session, ProjectNames& names, const OpenMode& mode) {
   project.Url = UrlOf(*root, *path);
 
   RequireConsent(*root, project, names, mode);
-  const bool bound = IsWorkingCopyOf(*client, project);  // before anything is made in the repository
+  bool bound = false;  // to be known before anything is made in the repository
+  RetryWhenFree(session, project.Folder, [&] { bound = IsWorkingCopyOf(*client, project); });
   RequireProject(session, *client, *root, project, names, mode);
-  if (bound)
-    FinishInterrupted(session, *client, project.Folder);
-  else
-    MakeWorkingCopy(*client, project);
+  RetryWhenFree(session, project.Folder, [&] {
+    if (bound || IsWorkingCopyOf(*client, project))
+      FinishInterrupted(session, project.Folder);
+    else
+      MakeWorkingCopy(*client, project);
+  });
   session.Open(std::move(client), std::move(project));
 }
 

@@ -185,10 +185,12 @@ std::string CreateRepository(const std::string& folder) {
 std::optional<std::string> UrlOfWorkingCopy(Client& client, const std::string& folder) {
   const Pool pool;
   const char* url = nullptr;
-  svn_error_t* error = svn_client_url_from_path2(&url, folder.c_str(), client.Context(), pool, pool);
-  svn_error_clear(error);
-  if (error != SVN_NO_ERROR || url == nullptr) return std::nullopt;
-  return url;
+  try {
+    client.Run(svn_client_url_from_path2(&url, folder.c_str(), client.Context(), pool, pool));
+  } catch (const Failure& failure) {
+    if (failure.MeansBusyWorkingCopy()) throw;  // it is one, and cannot be read now
+  }
+  return url != nullptr ? std::optional<std::string>(url) : std::nullopt;
 }
 
 }  // namespace svnscc

@@ -47,7 +47,7 @@ std::map<std::string, std::string> LockOwnersBelow(Client& client, const std::st
 /// Makes an empty repository in `folder`, which is missing or empty; returns its address.  Throws Failure.
 std::string CreateRepository(const std::string& folder);
 
-/// The address of which `folder` is a working copy, or nullopt.
+/// The address of which `folder` is a working copy, or nullopt.  Throws Failure when another process is at work there.
 std::optional<std::string> UrlOfWorkingCopy(Client& client, const std::string& folder);
 
 }  // namespace svnscc

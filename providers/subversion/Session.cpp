@@ -5,6 +5,7 @@
 #include "Notices.h"
 #include "SubversionSccStrings.h"
 #include "WindowStrings.h"
+#include "WorkingCopyLocks.h"
 
 namespace svnscc {
 
@@ -18,6 +19,11 @@ void Session::Open(std::unique_ptr<Client> client, Project project) {
   project_ = std::move(project);
   client_->OnNotice([this](const svn_wc_notify_t& notice) { HandleNotice(notice); });
   client_->OnPoll([this] { return IsCancelled(); });
+  client_->OnCommitted([this] { canCancel_ = false; });
+  const std::string root = WorkingCopyRoot(project_.Folder);
+  mark_ = UseMark(root);
+  journal_ = {};  // before another is made: it would find this one in use
+  journal_ = LockJournal(root);
 }
 
 void Session::Reconnect() {
@@ -29,6 +35,8 @@ void Session::Reconnect() {
 void Session::Close() {
   client_.reset();
   project_ = {};
+  mark_ = {};
+  journal_ = {};
   lastStatuses_ = {};
   refusals_.clear();
   events_.Clear();
@@ -100,7 +108,8 @@ void Session::HandleNotice(const svn_wc_notify_t& notice) {
 }
 
 void Outcome::Fail(const std::string& path, const Failure& failure) {
-  if (failure.Result() == scc::SCC_I_OPERATIONCANCELED) throw failure;  // no file failed: the command ends
+  // No file failed: the command ends, or is tried again.
+  if (failure.Result() == scc::SCC_I_OPERATIONCANCELED || failure.MeansBusyWorkingCopy()) throw failure;
   result_ = failure.Result();
   session_.Out().Error(Format(sFileFailed.Text, {session_.Label(path), failure.what()}));
 }

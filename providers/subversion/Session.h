@@ -14,6 +14,7 @@
 #include "Events.h"
 #include "Output.h"
 #include "Status.h"
+#include "WorkingCopyUse.h"
 #include "provider/sccdefs.h"
 
 namespace svnscc {
@@ -55,6 +56,9 @@ class Session {
   svn_client_ctx_t* Context() const { return client_->Context(); }
   const Project& CurrentProject() const { return project_; }
   Output& Out() { return output_; }
+  /// Of the working copy that the project lies in.
+  const UseMark& Mark() const { return mark_; }
+  LockJournal& Journal() { return journal_; }
 
   /// `name` as libsvn spells it; empty when it names nothing inside the project folder (the folder itself is inside).
   std::string InsidePath(const char* name) const;
@@ -92,6 +96,8 @@ class Session {
   Output output_;
   std::unique_ptr<Client> client_;
   Project project_;
+  UseMark mark_;
+  LockJournal journal_;
   OptionBlocks options_;
   EventQueue events_;
   NameArray handed_;

@@ -41,7 +41,20 @@ bool IsOnlyInRepository(const svn_client_status_t& status) {
   return !IsHere(status) && status.repos_node_status == svn_wc_status_added;
 }
 
+/// A lock of the user's that a check-out here may have taken before it died does not keep the file from being checked
+/// out.
+void SettleLeftOver(Session& session, const svn_client_status_t& status, FileStatus& file) {
+  if (!session.Journal().Has(status.local_abspath)) return;
+  constexpr scc::Long kElsewhere = scc::SCC_STATUS_OUTBYUSER | scc::SCC_STATUS_OUTEXCLUSIVE;
+  file.LeftOver = (file.Bits & (kElsewhere | scc::SCC_STATUS_CHECKEDOUT)) == kElsewhere;
+  if (file.LeftOver)
+    file.Bits &= ~kElsewhere;
+  else
+    session.Journal().Remove({status.local_abspath});
+}
+
 struct Walk {
+  Session& session;
   const std::string& user;
   bool online;
   StatusTable& table;
@@ -55,7 +68,8 @@ svn_error_t* TakeStatus(void* baton, const char*, const svn_client_status_t* sta
   return Contain(walk.kept, [&] {
     svn_client_status_t seen = *status;
     if (!walk.online) seen.repos_lock = seen.lock;
-    const FileStatus file = ToFileStatus(seen, walk.user);
+    FileStatus file = ToFileStatus(seen, walk.user);
+    if (walk.online) SettleLeftOver(walk.session, seen, file);
     if (file.Bits != 0) walk.table.Put(seen.local_abspath, file);
     if (IsOnlyInRepository(seen) && seen.node_status != svn_wc_status_none)
       walk.shadowed.emplace_back(seen.local_abspath);
@@ -81,7 +95,7 @@ enum class Ask { Repository, WorkingCopy };
 void WalkInto(StatusTable& table, Session& session, const std::string& path, svn_depth_t depth, Ask ask) {
   const Pool pool;
   const bool online = ask == Ask::Repository;
-  Walk walk{session.Svn().User(), online, table, {}, nullptr};
+  Walk walk{session, session.Svn().User(), online, table, {}, nullptr};
   svn_opt_revision_t head{};
   head.kind = svn_opt_revision_head;
   svn_error_t* error = svn_client_status6(

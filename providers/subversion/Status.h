@@ -19,6 +19,8 @@ struct FileStatus {
   bool IsFolder = false;
   /// The local copy is not what the repository holds: to be fetched by a get.
   bool NeedsGet = false;
+  /// Locked in the repository by a check-out that was interrupted here: can be taken over.
+  bool LeftOver = false;
 };
 
 /// Statuses by absolute path as libsvn spells it.

@@ -58,6 +58,18 @@ constexpr TResString sOtherWorkingCopy{"%s is a working copy of %s already: it c
 constexpr TResString sCouldNotCreate{"The folder \"%s\" could not be created in the repository: %s"};
 constexpr TResString sProjectCreated{"Created %s."};
 constexpr TResString sFinishedInterrupted{"A command that was interrupted in %s was cleaned up."};
+constexpr TResString sInUse{"%s is still working on %s: try again when it is done."};
+constexpr TResString sThisProvidersProgram{"Another program that has this project open"};
+constexpr TResString sOthersProgram{"A program of another user"};
+constexpr TResString sUnknownProgram{"Another program"};
+constexpr TResString sTakeOverTitle{"Take Over Locks?"};
+constexpr TResString sTakeOver{
+    "A check-out in this folder was interrupted before it was done. Its locks are still in the "
+    "repository:\n\n%s\n\n"
+    "Take them over?"};
+constexpr TResString sLeftOver{
+    "a check-out that was interrupted here left its lock: check the file out again and agree to take it "
+    "over"};
 constexpr TResString sCreateProjectLog{"Create the project folder."};
 
 // A repository that was not used before

@@ -49,6 +49,8 @@ class Failure : public std::runtime_error {
   bool Has(apr_status_t code) const;
   /// Whether the failure is that a path belongs to no working copy.
   bool MeansNoWorkingCopy() const;
+  /// Whether the failure is that another process is at work in the working copy, or was when it died.
+  bool MeansBusyWorkingCopy() const;
 
  private:
   scc::Long result_;

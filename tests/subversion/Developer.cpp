@@ -13,13 +13,16 @@ namespace {
 std::string said;  // the callback has no argument to find its owner by
 
 bool cancelPressed = false;
+std::string cancelSince;
+
+bool IsCancelPressed() { return cancelPressed && (cancelSince.empty() || FileExists(cancelSince)); }
 
 scc::Long SCC_CALL TakeText(const char* text, scc::Dword kind) {
   const bool isLine = kind < scc::SCC_MSG_STATUS;
   said += isLine ? std::string(1, "?IWE"[kind]) : "? " + std::to_string(kind);
   if (text != nullptr) said += std::string(" ") + text;
   said += "\n";
-  return kind == scc::SCC_MSG_DOCANCEL && cancelPressed ? scc::SCC_MSG_RTN_CANCEL : scc::SCC_MSG_RTN_OK;
+  return kind == scc::SCC_MSG_DOCANCEL && IsCancelPressed() ? scc::SCC_MSG_RTN_CANCEL : scc::SCC_MSG_RTN_OK;
 }
 
 scc::Bool SCC_CALL TakeFile(void* callerData, scc::Bool add, scc::Long status, const char* name) {
@@ -66,7 +69,10 @@ TProviderLibrary::TProviderLibrary() {
 #undef SCC_ENTRY
 }
 
-TCancelPressed::TCancelPressed() { cancelPressed = true; }
+TCancelPressed::TCancelPressed(const std::string& since) {
+  cancelPressed = true;
+  cancelSince = since;
+}
 TCancelPressed::~TCancelPressed() { cancelPressed = false; }
 
 TDeveloper::TDeveloper(const std::string& user, const std::string& folder)

@@ -40,10 +40,10 @@ struct TPopulated {
   scc::Long Result = 0;
 };
 
-/// The user presses the client's Cancel button for as long as it lives.
+/// The user presses the client's Cancel button for as long as it lives, or from when the file `since` is there.
 class TCancelPressed {
  public:
-  TCancelPressed();
+  explicit TCancelPressed(const std::string& since = {});
   TCancelPressed(const TCancelPressed&) = delete;
   TCancelPressed& operator=(const TCancelPressed&) = delete;
   ~TCancelPressed();

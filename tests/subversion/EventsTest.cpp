@@ -97,4 +97,14 @@ TEST_F(Events, CancelButtonEndsACommand) {
   }
   EXPECT_EQ((std::vector<scc::Long>{1, 1, 0}), ann.Statuses({"a.pas", "b.pas", "new.pas"}));
   EXPECT_EQ(scc::SCC_OK, ann.Add({"new.pas"})) << ann.Said();
+
+  // What the server took is done, whenever the button is pressed.
+  ann.CheckOut({"a.pas"});
+  ann.Write("a.pas", "taken\n");
+  const std::string taken = repository.Folder() + "/taken";
+  repository.WriteHook("post-commit", "touch '" + taken + "'\nsleep 0.2\n");
+  const TCancelPressed late(taken);
+  EXPECT_EQ(scc::SCC_OK, ann.CheckIn({"a.pas"})) << ann.Said();
+  EXPECT_EQ("taken\n", repository.Contents("project/a.pas"));
+  EXPECT_EQ(1, ann.Status("a.pas"));
 }

@@ -4,9 +4,15 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <functional>
+#include <iostream>
+
 #include "Developer.h"
 #include "Server.h"
 #include "host/System.h"
+#include "subversion/Commands.h"
+#include "subversion/OpenProject.h"
+#include "subversion/Question.h"
 #include "subversion/Repository.h"
 
 using testing::HasSubstr;
@@ -134,33 +140,147 @@ TEST_F(OpenProject, EmptyNamesAreFilledIn) {
   EXPECT_EQ(scc::SCC_E_UNKNOWNPROJECT, ann.Open("", ""));
 }
 
-// The command is killed in the middle of a commit, as with a whole IDE.
-TEST_F(OpenProject, CleansUpAfterACommandThatWasKilled) {
+namespace {
+
+/// Runs `work` in a process of its own.
+pid_t Start(const std::function<void()>& work) {
+  const pid_t child = fork();
+  if (child != 0) return child;
+  work();
+  _exit(0);
+}
+
+int Join(pid_t child) {
+  int status = 0;
+  waitpid(child, &status, 0);
+  return status;
+}
+
+void Svn(const std::string& arguments) {
+  const std::string command = "exec svn --non-interactive --no-auth-cache " + arguments;
+  execl("/bin/sh", "sh", "-c", command.c_str(), nullptr);
+}
+
+}  // namespace
+
+// The commit hangs, and its process is killed in the middle of it, as with a whole IDE.
+TEST_F(OpenProject, CleansUpAfterCommandsThatWereKilledAndLeavesLiveOnesAlone) {
   ann.Open(repository.Url(), "project");
-  ann.Write("unit1.pas", "1\n");
-  ann.Add({"unit1.pas"}, "", scc::SCC_KEEP_CHECKEDOUT);
-  ann.Write("unit1.pas", "2\n");
+  ann.Write("sub/unit1.pas", "1\n");
+  ann.Add({"sub/unit1.pas"}, "", scc::SCC_KEEP_CHECKEDOUT);
+  ann.Write("sub/unit1.pas", "2\n");
   ann.Close();
   const std::string marker = repository.Folder() + "/hook-pid";
-  repository.WriteHook("pre-commit", "echo $$ > '" + marker + ".new' && mv '" + marker + ".new' '" + marker +
-                                         "'\nexec sleep 60\n");
-  const pid_t child = fork();
-  if (child == 0) {
-    ann.Open(repository.Url(), "project");
-    ann.CheckIn({"unit1.pas"});
-    _exit(0);
-  }
-  while (!FileExists(marker) && waitpid(child, nullptr, WNOHANG) == 0) usleep(10000);
-  kill(child, SIGKILL);
-  waitpid(child, nullptr, 0);
-  ASSERT_TRUE(FileExists(marker));
-  kill(std::stoi(ReadWholeFile(marker)), SIGKILL);
-  repository.WriteHook("pre-commit", "exit 0\n");
+  const std::vector<std::function<void()>> commits{
+      [&] {
+        ann.Open(repository.Url(), "project");
+        ann.CheckIn({"sub/unit1.pas"});
+      },
+      [&] { Svn("commit -q -m svn --username ann '" + ann.File("sub/unit1.pas") + "'"); }};
+  for (const auto& commit : commits) {
+    repository.WriteHook("pre-commit", "echo $$ > '" + marker + ".new' && mv '" + marker + ".new' '" +
+                                           marker + "'\nexec sleep 600\n");
+    const pid_t child = Start(commit);
+    while (!FileExists(marker) && waitpid(child, nullptr, WNOHANG) == 0) usleep(10000);
+    ASSERT_TRUE(FileExists(marker));
+    ASSERT_EQ(scc::SCC_OK, ann.Open(repository.Url(), "project")) << ann.Said();
+    EXPECT_EQ("", ann.Said()) << "it lives";
+    EXPECT_EQ(scc::SCC_E_ACCESSFAILURE, ann.CheckIn({"sub/unit1.pas"}));
+    EXPECT_THAT(ann.Said(), HasSubstr("is still working on"));
+    ann.Close();
 
-  ASSERT_EQ(scc::SCC_OK, ann.Open(repository.Url(), "project")) << ann.Said();
-  EXPECT_THAT(ann.Said(), HasSubstr("was cleaned up"));
-  EXPECT_EQ(scc::SCC_OK, ann.CheckIn({"unit1.pas"})) << ann.Said();
-  EXPECT_EQ("2\n", repository.Contents("project/unit1.pas"));
+    kill(child, SIGKILL);
+    Join(child);
+    kill(std::stoi(ReadWholeFile(marker)), SIGKILL);
+    std::filesystem::remove(marker);
+    ASSERT_EQ(scc::SCC_OK, ann.Open(repository.Url(), "project")) << ann.Said();
+    EXPECT_THAT(ann.Said(), HasSubstr("was cleaned up"));
+    ann.Close();
+  }
+  repository.WriteHook("pre-commit", "exit 0\n");
+  ann.Open(repository.Url(), "project");
+  EXPECT_EQ(scc::SCC_OK, ann.CheckIn({"sub/unit1.pas"})) << ann.Said();
+  EXPECT_EQ("2\n", repository.Contents("project/sub/unit1.pas"));
+}
+
+TEST_F(OpenProject, TwoProgramsAndSvnShareAWorkingCopy) {
+  ann.Open(repository.Url(), "project");
+  for (const char* name : {"a.pas", "b.pas"}) {
+    ann.Write(name, "0\n");
+    ann.Add({name});
+  }
+  ann.Close();
+  std::vector<pid_t> programs;
+  for (const char* name : {"a.pas", "b.pas"})
+    programs.push_back(Start([&, name] {
+      for (int round = 0; round < 5; ++round) {
+        const bool done = ann.Open(repository.Url(), "project") == scc::SCC_OK &&
+                          ann.CheckOut({name}) == scc::SCC_OK &&
+                          (ann.Write(name, std::to_string(round)), ann.CheckIn({name})) == scc::SCC_OK;
+        if (!done) std::cerr << name << ": " << ann.Said();
+        if (!done || ann.Said().find("cleaned up") != std::string::npos) _exit(1);
+        ann.Close();
+      }
+    }));
+  bool working = true;
+  while (working) {
+    EXPECT_EQ(0, Join(Start([&] { Svn("status '" + ann.Folder() + "' > /dev/null"); })));
+    siginfo_t end{};
+    working = waitid(P_PID, static_cast<id_t>(programs[0]), &end, WEXITED | WNOHANG | WNOWAIT) == 0 &&
+              end.si_pid == 0;
+  }
+  for (const pid_t program : programs) EXPECT_EQ(0, Join(program));
+  EXPECT_EQ("4", repository.Contents("project/a.pas"));
+}
+
+// The process dies when it has asked for the lock, and another one takes the answer's place: the repository has locked the
+// file, and the working copy does not know.
+TEST_F(OpenProject, LocksOfACheckOutThatWasKilledCanBeTakenOver) {
+  ann.Open(repository.Url(), "project");
+  ann.Write("unit1.pas", "1\n");
+  ann.Add({"unit1.pas"});
+  ann.Close();
+  const std::string marker = repository.Folder() + "/hook-ran";
+  repository.WriteHook("pre-lock", "touch '" + marker + "'\nexec sleep 600\n");
+  const pid_t child = Start([&] {
+    ann.Open(repository.Url(), "project");
+    ann.CheckOut({"unit1.pas"});
+  });
+  while (!FileExists(marker)) usleep(10000);
+  kill(child, SIGKILL);
+  Join(child);
+  repository.WriteHook("pre-lock", "exit 0\n");
+  ASSERT_EQ(0,
+            Join(Start([&] { Svn("lock -q --username ann " + repository.Url() + "/project/unit1.pas"); })));
+  ASSERT_EQ("ann", repository.LockOwner("project/unit1.pas"));
+
+  ann.Open(repository.Url(), "project");
+  EXPECT_EQ(1, ann.Status("unit1.pas")) << "can be checked out";
+  TDeveloper elsewhere("ann", "another folder");
+  elsewhere.Open(repository.Url(), "project");
+  EXPECT_EQ(0x1029, elsewhere.Status("unit1.pas"));
+  EXPECT_EQ(scc::SCC_E_ALREADYCHECKEDOUT, elsewhere.CheckOut({"unit1.pas"}));
+  EXPECT_EQ(0x1009, elsewhere.Status("unit1.pas")) << "fetched; being refused leaves nothing to take over";
+  EXPECT_EQ(scc::SCC_E_ALREADYCHECKEDOUT, ann.CheckOut({"unit1.pas"})) << "nothing can be asked here";
+  EXPECT_THAT(ann.Said(), HasSubstr("interrupted"));
+  ann.Close();
+
+  static std::string asked;
+  svnscc::SetQuestionPrompt([](scc::WindowHandle, const svnscc::Question& question) {
+    asked = question.Text;
+    return std::optional(true);
+  });
+  svnscc::Session session;
+  svnscc::ProjectNames names{"ann", "project", repository.Url(), ann.Folder(), ""};
+  svnscc::OpenProject(session, names, {});
+  const std::string file = ann.File("unit1.pas");
+  const char* const path = file.c_str();
+  EXPECT_EQ(scc::SCC_OK, svnscc::CheckOut(session, svnscc::Names(&path, 1), "", {}));
+  svnscc::SetQuestionPrompt(nullptr);
+  EXPECT_THAT(asked, HasSubstr("unit1.pas"));
+  session.Close();
+  ann.Open(repository.Url(), "project");
+  EXPECT_EQ(0x100B, ann.Status("unit1.pas"));
 }
 
 TEST_F(OpenProject, AServerThatAsksForAPasswordRefusesTheUser) {
