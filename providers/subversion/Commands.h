@@ -46,6 +46,10 @@ enum class OthersLocks { Respect, Steal };
 /// Locks controlled files and makes them writable; a file that is out of date is updated first.
 void Lock(Session& session, const std::vector<std::string>& paths, const std::string& comment,
           OthersLocks others, Outcome& outcome);
+/// Tells the user that the working copy's lock on `path` is gone from the repository, and who has it instead.
+void TellLockGone(Session& session, const std::string& path);
+/// Why a file that the repository holds locked otherwise was refused: who has it.  `failure` when that cannot be asked.
+std::string WhyLocked(Session& session, const std::string& path, const Failure& failure);
 /// Releases locks that the working copy holds.
 void Unlock(Session& session, const std::vector<std::string>& paths, Outcome& outcome);
 

@@ -3,6 +3,7 @@
 
 #include "Commands.h"
 #include "LocalStatus.h"
+#include "Nodes.h"
 #include "Question.h"
 #include "SubversionSccStrings.h"
 
@@ -109,6 +110,26 @@ void Lock(Session& session, const std::vector<std::string>& paths, const std::st
   }
 }
 
+void TellLockGone(Session& session, const std::string& path) {
+  std::string owner;
+  try {
+    owner = FactsOf(session.Svn(), path, Newest()).Lock.Owner;
+  } catch (const Failure&) {  // told without
+  }
+  const auto& text = owner.empty() ? sLockGone : sLockTaken;
+  session.Out().Warning(Format(text.Text, {session.Label(path), owner}));
+}
+
+std::string WhyLocked(Session& session, const std::string& path, const Failure& failure) {
+  try {
+    const std::string owner = FactsOf(session.Svn(), path, Newest()).Lock.Owner;
+    if (owner.empty()) return sLockLost;
+    return owner == session.Svn().User() ? sOutElsewhere.str() : Format(sOutBy.Text, {owner});
+  } catch (const Failure&) {
+    return failure.what();
+  }
+}
+
 void Unlock(Session& session, const std::vector<std::string>& paths, Outcome& outcome) {
   if (paths.empty()) return;
   const Pool pool;
@@ -117,7 +138,7 @@ void Unlock(Session& session, const std::vector<std::string>& paths, Outcome& ou
   for (const auto& [path, refusal] : session.TakeRefusals()) {
     // Someone broke the lock: what was wanted has happened.
     if (refusal.Has(SVN_ERR_FS_NO_SUCH_LOCK) || refusal.Has(SVN_ERR_FS_BAD_LOCK_TOKEN))
-      session.Out().Warning(Format(sLockGone.Text, {session.Label(path)}));
+      TellLockGone(session, path);
     else
       outcome.Fail(path, refusal);
   }

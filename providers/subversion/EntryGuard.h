@@ -20,10 +20,10 @@ scc::Long Guard(void* context, Body&& body) noexcept {
     if (failure.Result() == scc::SCC_I_OPERATIONCANCELED)
       session->Out().Info(sCancelled);
     else
-      session->Out().Error(failure.what());
+      session->Out().Error(AsSentence(failure.what()));
     return failure.Result();
   } catch (const std::exception& exception) {
-    session->Out().Error(exception.what());
+    session->Out().Error(AsSentence(exception.what()));
   } catch (...) {
     session->Out().Error(sUnknownFault);
   }

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 
+#include "SubversionSccStrings.h"
 #include "SvnHandles.h"
 
 namespace svnscc {
@@ -12,23 +13,25 @@ namespace {
 struct Row {
   apr_status_t code;
   scc::Long result;
+  TResString text{nullptr};  // for people, where libsvn's own words are about its inside
 };
 
 // libsvn reports chains of errors, what was tried outside and the reason inside.  The first row that is found anywhere
 // in the chain decides: rows stand from the most telling to the most general.
 constexpr std::array kRows{
-    Row{SVN_ERR_FS_LOCK_OWNER_MISMATCH, scc::SCC_E_FILEOUTEXCLUSIVE},
-    Row{SVN_ERR_FS_PATH_ALREADY_LOCKED, scc::SCC_E_FILEOUTEXCLUSIVE},
-    Row{SVN_ERR_FS_BAD_LOCK_TOKEN, scc::SCC_E_FILEISLOCKED},
-    Row{SVN_ERR_FS_NO_LOCK_TOKEN, scc::SCC_E_FILEISLOCKED},
-    Row{SVN_ERR_FS_NO_SUCH_LOCK, scc::SCC_E_NOTCHECKEDOUT},
+    Row{SVN_ERR_SQLITE_READONLY, scc::SCC_E_NOTAUTHORIZED, sCopyReadOnly},
+    Row{SVN_ERR_FS_LOCK_OWNER_MISMATCH, scc::SCC_E_FILEOUTEXCLUSIVE, sOutByOther},
+    Row{SVN_ERR_FS_PATH_ALREADY_LOCKED, scc::SCC_E_FILEOUTEXCLUSIVE, sOutByOther},
+    Row{SVN_ERR_FS_BAD_LOCK_TOKEN, scc::SCC_E_FILEISLOCKED, sLockLost},
+    Row{SVN_ERR_FS_NO_LOCK_TOKEN, scc::SCC_E_FILEISLOCKED, sLockLost},
+    Row{SVN_ERR_FS_NO_SUCH_LOCK, scc::SCC_E_NOTCHECKEDOUT, sLockLost},
     Row{SVN_ERR_CLIENT_MISSING_LOCK_TOKEN, scc::SCC_E_NOTCHECKEDOUT},
     Row{SVN_ERR_WC_FOUND_CONFLICT, scc::SCC_E_FIXMERGE},
-    Row{SVN_ERR_FS_OUT_OF_DATE, scc::SCC_E_CHECKINCONFLICT},
-    Row{SVN_ERR_FS_TXN_OUT_OF_DATE, scc::SCC_E_CHECKINCONFLICT},
-    Row{SVN_ERR_FS_CONFLICT, scc::SCC_E_CHECKINCONFLICT},
-    Row{SVN_ERR_WC_NOT_UP_TO_DATE, scc::SCC_E_CHECKINCONFLICT},
-    Row{SVN_ERR_RA_OUT_OF_DATE, scc::SCC_E_CHECKINCONFLICT},
+    Row{SVN_ERR_FS_OUT_OF_DATE, scc::SCC_E_CHECKINCONFLICT, sOutOfDate},
+    Row{SVN_ERR_FS_TXN_OUT_OF_DATE, scc::SCC_E_CHECKINCONFLICT, sOutOfDate},
+    Row{SVN_ERR_FS_CONFLICT, scc::SCC_E_CHECKINCONFLICT, sOutOfDate},
+    Row{SVN_ERR_WC_NOT_UP_TO_DATE, scc::SCC_E_CHECKINCONFLICT, sOutOfDate},
+    Row{SVN_ERR_RA_OUT_OF_DATE, scc::SCC_E_CHECKINCONFLICT, sOutOfDate},
     Row{SVN_ERR_FS_ALREADY_EXISTS, scc::SCC_E_FILEALREADYEXISTS},
     Row{SVN_ERR_RA_DAV_ALREADY_EXISTS, scc::SCC_E_FILEALREADYEXISTS},
     Row{SVN_ERR_ENTRY_EXISTS, scc::SCC_E_FILEALREADYEXISTS},
@@ -45,9 +48,9 @@ constexpr std::array kRows{
     Row{SVN_ERR_RA_DAV_FORBIDDEN, scc::SCC_E_NOTAUTHORIZED},
     Row{SVN_ERR_REPOS_DISABLED_FEATURE, scc::SCC_E_NOTAUTHORIZED},
     Row{SVN_ERR_REPOS_HOOK_FAILURE, scc::SCC_E_NOTAUTHORIZED},
-    Row{SVN_ERR_RA_LOCAL_REPOS_OPEN_FAILED, scc::SCC_E_ACCESSFAILURE},
-    Row{SVN_ERR_RA_LOCAL_REPOS_NOT_FOUND, scc::SCC_E_ACCESSFAILURE},
-    Row{SVN_ERR_RA_SVN_REPOS_NOT_FOUND, scc::SCC_E_ACCESSFAILURE},
+    Row{SVN_ERR_RA_LOCAL_REPOS_OPEN_FAILED, scc::SCC_E_ACCESSFAILURE, sNoRepository},
+    Row{SVN_ERR_RA_LOCAL_REPOS_NOT_FOUND, scc::SCC_E_ACCESSFAILURE, sNoRepository},
+    Row{SVN_ERR_RA_SVN_REPOS_NOT_FOUND, scc::SCC_E_ACCESSFAILURE, sNoRepository},
     Row{SVN_ERR_RA_UUID_MISMATCH, scc::SCC_E_UNKNOWNPROJECT},
     Row{SVN_ERR_BAD_URL, scc::SCC_E_PROJSYNTAXERR},
     Row{SVN_ERR_RA_ILLEGAL_URL, scc::SCC_E_PROJSYNTAXERR},
@@ -60,9 +63,9 @@ constexpr std::array kRows{
     Row{APR_EHOSTUNREACH, scc::SCC_E_CONNECTIONFAILURE},
     Row{APR_ENETUNREACH, scc::SCC_E_CONNECTIONFAILURE},
     Row{APR_ETIMEDOUT, scc::SCC_E_CONNECTIONFAILURE},
-    Row{SVN_ERR_WC_LOCKED, scc::SCC_E_ACCESSFAILURE},
-    Row{SVN_ERR_WC_CLEANUP_REQUIRED, scc::SCC_E_ACCESSFAILURE},
-    Row{SVN_ERR_SQLITE_BUSY, scc::SCC_E_ACCESSFAILURE},
+    Row{SVN_ERR_WC_LOCKED, scc::SCC_E_ACCESSFAILURE, sBusy},
+    Row{SVN_ERR_WC_CLEANUP_REQUIRED, scc::SCC_E_ACCESSFAILURE, sBusy},
+    Row{SVN_ERR_SQLITE_BUSY, scc::SCC_E_ACCESSFAILURE, sBusy},
     Row{SVN_ERR_WC_UPGRADE_REQUIRED, scc::SCC_E_INVALIDFILEPATH},
     Row{SVN_ERR_FS_NO_SUCH_REVISION, scc::SCC_E_NOSPECIFIEDVERSION},
     Row{SVN_ERR_FS_NOT_FOUND, scc::SCC_E_FILENOTCONTROLLED},
@@ -83,10 +86,33 @@ bool Holds(const std::vector<apr_status_t>& codes, apr_status_t code) {
   return std::find(codes.begin(), codes.end(), code) != codes.end();
 }
 
-scc::Long ResultOf(const std::vector<apr_status_t>& codes) {
+const Row* RowOf(const std::vector<apr_status_t>& codes) {
   const auto row =
       std::find_if(kRows.begin(), kRows.end(), [&](const Row& r) { return Holds(codes, r.code); });
-  return row != kRows.end() ? row->result : static_cast<scc::Long>(scc::SCC_E_NONSPECIFICERROR);
+  return row != kRows.end() ? &*row : nullptr;
+}
+
+/// libsvn's words for one link of a chain, as part of a sentence.
+std::string WordsOf(const svn_error_t& error) {
+  char buffer[256];
+  std::string words =
+      error.message != nullptr ? error.message : svn_strerror(error.apr_err, buffer, sizeof buffer);
+  if (words.starts_with("sqlite[")) words.erase(0, std::min(words.find("]: ") + 3, words.size()));
+  const auto cut = [&](std::string_view letters) { words.resize(words.find_last_not_of(letters) + 1); };
+  cut("\n");
+  if (words.find('\n') == std::string::npos) cut(".:");  // what a server's hook printed stays as it is
+  return words;
+}
+
+/// A chain goes from what was tried to the reason: the reason comes first, and what was tried after it if only that says
+/// about what.
+std::string SentenceOf(const svn_error_t* error) {
+  std::string tried;
+  for (; error->child != nullptr; error = error->child)
+    if (const auto words = WordsOf(*error); words.find('\'') != std::string::npos) tried = words;
+  const std::string reason = WordsOf(*error);
+  const bool saysAboutWhat = tried.empty() || reason.find('\'') != std::string::npos || reason == tried;
+  return saysAboutWhat ? reason : reason + " (" + tried + ")";
 }
 
 }  // namespace
@@ -102,17 +128,20 @@ bool Failure::MeansBusyWorkingCopy() const {
 }
 
 Failure ToFailure(svn_error_t* error) {
+  error = svn_error_purge_tracing(error);
   std::vector<apr_status_t> codes;
-  std::string text;
-  for (error = svn_error_purge_tracing(error); error != nullptr; error = error->child) {
-    codes.push_back(error->apr_err);
-    char buffer[256];
-    const std::string words =
-        error->message != nullptr ? error->message : svn_strerror(error->apr_err, buffer, sizeof buffer);
-    if (text.find(words) != std::string::npos) continue;
-    text += (text.empty() ? "" : ": ") + words;
-  }
-  return Failure(ResultOf(codes), text, codes);
+  for (const svn_error_t* link = error; link != nullptr; link = link->child) codes.push_back(link->apr_err);
+  const Row* row = RowOf(codes);
+  const scc::Long result = row != nullptr ? row->result : static_cast<scc::Long>(scc::SCC_E_NONSPECIFICERROR);
+  const bool hasText = row != nullptr && row->text.Text != nullptr;
+  return Failure(result, hasText ? row->text.str() : SentenceOf(error), codes);
+}
+
+std::string AsSentence(std::string reason) {
+  if (!reason.empty() && reason.front() >= 'a' && reason.front() <= 'z')
+    reason.front() = static_cast<char>(reason.front() + ('A' - 'a'));
+  if (!reason.empty() && reason.find_last_of(".?!") + 1 != reason.size()) reason += '.';
+  return reason;
 }
 
 void Check(svn_error_t* error) {

@@ -30,7 +30,6 @@ constexpr std::array kRows{
     Row{svn_wc_notify_exists, About::Files, scc::SCC_MSG_WARNING, sKeptExisting},
     Row{svn_wc_notify_update_delete, About::Everything, scc::SCC_MSG_WARNING, sUpdateDeleted},
     Row{svn_wc_notify_update_replace, About::Files, scc::SCC_MSG_INFO, sUpdated},
-    Row{svn_wc_notify_update_broken_lock, About::Everything, scc::SCC_MSG_WARNING, sLockGone},
     Row{svn_wc_notify_tree_conflict, About::Everything, scc::SCC_MSG_WARNING, sTreeConflict},
     Row{svn_wc_notify_resolved, About::Files, scc::SCC_MSG_INFO, sResolved},
 };

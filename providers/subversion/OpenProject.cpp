@@ -2,6 +2,8 @@
 
 #include <svn_dirent_uri.h>
 
+#include <filesystem>
+
 #include "LocalStatus.h"
 #include "ProjectConsent.h"
 #include "Repository.h"
@@ -76,9 +78,13 @@ void MakeWorkingCopy(Client& client, const Project& project) {
   const Pool pool;
   svn_opt_revision_t head{};
   head.kind = svn_opt_revision_head;
-  client.Run(svn_client_checkout3(
-      nullptr, project.Url.c_str(), project.Folder.c_str(), &head, &head, svn_depth_empty,
-      /*ignore_externals*/ TRUE, /*allow_unver_obstructions*/ TRUE, client.Context(), pool));
+  // libsvn takes a link for something that stands in the way.
+  std::error_code missing;
+  const std::string folder = std::filesystem::canonical(project.Folder, missing).string();
+  client.Run(svn_client_checkout3(nullptr, project.Url.c_str(), (missing ? project.Folder : folder).c_str(),
+                                  &head, &head, svn_depth_empty,
+                                  /*ignore_externals*/ TRUE, /*allow_unver_obstructions*/ TRUE,
+                                  client.Context(), pool));
 }
 
 /// Whether someone deleted what libsvn still holds open.

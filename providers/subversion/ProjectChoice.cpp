@@ -103,7 +103,7 @@ bool ProjectChoice::Connect(const std::string& text) {
     PreselectProject(place.Path);
     RememberRepository(ReadableUrl(root_));
   } catch (const Failure& failure) {
-    return Refuse(failure.what());
+    return Refuse(AsSentence(failure.what()));
   }
   TellNext();
   return true;
@@ -123,7 +123,7 @@ bool ProjectChoice::CreateRepository(const std::string& folder) {
   try {
     if (!Connect(svnscc::CreateRepository(folder))) return false;
   } catch (const Failure& failure) {
-    return Refuse(failure.what());
+    return Refuse(AsSentence(failure.what()));
   }
   Tell(sRepositoryMade, false);
   return true;
@@ -152,7 +152,7 @@ std::vector<std::string> ProjectChoice::FoldersOf(const std::string& path) {
   try {
     if (!planned_.contains(path)) names = FoldersIn(Svn(), UrlOf(root_, path));
   } catch (const Failure& failure) {
-    Refuse(failure.what());
+    Refuse(AsSentence(failure.what()));
   }
   for (const auto& folder : planned_)
     if (ParentOf(folder) == path) names.push_back(folder.substr(path.empty() ? 0 : path.size() + 1));

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <array>
 
+#include "SubversionSccStrings.h"
 #include "host/Text.h"
 
 namespace svnscc {
@@ -57,6 +58,17 @@ svn_error_t* UrlFromFolder(const char** url, const char* text, apr_pool_t* pool)
 
 svn_error_t* RelativeFromText(const char** path, const char* text, apr_pool_t* pool) {
   return svn_relpath_canonicalize_safe(path, nullptr, text, pool, pool);
+}
+
+svn_ra_session_t* OpenConnection(Client& client, const std::string& url, apr_pool_t* pool) {
+  svn_ra_session_t* session = nullptr;
+  try {
+    client.Run(svn_client_open_ra_session2(&session, url.c_str(), nullptr, client.Context(), pool, pool));
+  } catch (const Failure& failure) {
+    if (failure.Result() != scc::SCC_E_ACCESSFAILURE) throw;
+    throw failure.With(Format(sNoRepositoryAt.Text, {ReadableUrl(url)}));
+  }
+  return session;
 }
 
 bool IsUsableUrl(const std::string& url) {
@@ -109,8 +121,7 @@ std::string ReadableUrl(const std::string& url) {
 RepositoryPlace PlaceOf(Client& client, const std::string& url) {
   const Pool pool;
   const char* root = nullptr;
-  svn_ra_session_t* session = nullptr;
-  client.Run(svn_client_open_ra_session2(&session, url.c_str(), nullptr, client.Context(), pool, pool));
+  svn_ra_session_t* session = OpenConnection(client, url, pool);
   client.Run(svn_ra_get_repos_root2(session, &root, pool));
   return {root, svn_uri_skip_ancestor(root, url.c_str(), pool)};
 }
@@ -124,8 +135,7 @@ RepositoryPlace PlaceOfWorkingCopy(Client& client, const std::string& folder) {
 
 svn_node_kind_t KindOf(Client& client, const std::string& url) {
   const Pool pool;
-  svn_ra_session_t* session = nullptr;
-  client.Run(svn_client_open_ra_session2(&session, url.c_str(), nullptr, client.Context(), pool, pool));
+  svn_ra_session_t* session = OpenConnection(client, url, pool);
   svn_node_kind_t kind = svn_node_none;
   client.Run(svn_ra_check_path(session, "", SVN_INVALID_REVNUM, &kind, pool));
   return kind;
@@ -155,8 +165,7 @@ svn_revnum_t MakeFolder(Client& client, const std::string& url, const std::strin
 
 std::map<std::string, std::string> LockOwnersBelow(Client& client, const std::string& url) {
   const Pool pool;
-  svn_ra_session_t* session = nullptr;
-  client.Run(svn_client_open_ra_session2(&session, url.c_str(), nullptr, client.Context(), pool, pool));
+  svn_ra_session_t* session = OpenConnection(client, url, pool);
   const char* inRepository = nullptr;
   client.Run(svn_ra_get_path_relative_to_root(session, &inRepository, url.c_str(), pool));
   apr_hash_t* locks = nullptr;

@@ -2,6 +2,8 @@
 
 #include <svn_dirent_uri.h>
 
+#include "BadNames.h"
+#include "Commands.h"
 #include "Notices.h"
 #include "SubversionSccStrings.h"
 #include "WindowStrings.h"
@@ -39,6 +41,8 @@ void Session::Close() {
   journal_ = {};
   lastStatuses_ = {};
   refusals_.clear();
+  leftOut_.clear();
+  lostLocks_.clear();
   events_.Clear();
   options_.Forget();
   output_.Attach(nullptr);
@@ -103,15 +107,29 @@ void Session::HandleNotice(const svn_wc_notify_t& notice) {
     output_.Write(Label(notice.path), scc::SCC_MSG_STATUS);
     nextPoll_ = {};
   }
+  if (notice.action == svn_wc_notify_update_broken_lock) {  // the repository cannot be asked while it answers
+    lostLocks_.emplace_back(notice.path);
+    return;
+  }
   if (const auto sentence = ToSentence(notice, Label(notice.path)))
     output_.Write(sentence->Text, sentence->Kind);
+}
+
+void Session::TellLeftOut(const std::vector<std::string>& paths) {
+  for (const auto& path : paths)
+    if (leftOut_.insert(path).second) output_.Warning(Format(sNameNotUtf8.Text, {Readable(Label(path))}));
+}
+
+void Session::TellLostLocks() {
+  for (const auto& path : std::exchange(lostLocks_, {})) TellLockGone(*this, path);
 }
 
 void Outcome::Fail(const std::string& path, const Failure& failure) {
   // No file failed: the command ends, or is tried again.
   if (failure.Result() == scc::SCC_I_OPERATIONCANCELED || failure.MeansBusyWorkingCopy()) throw failure;
   result_ = failure.Result();
-  session_.Out().Error(Format(sFileFailed.Text, {session_.Label(path), failure.what()}));
+  const std::string reason = failure.MeansOthersLock() ? WhyLocked(session_, path, failure) : failure.what();
+  session_.Out().Error(Format(sFileFailed.Text, {Readable(session_.Label(path)), reason}));
 }
 
 void Outcome::Fail(const std::string& path, scc::Long result, const char* reason) {
@@ -123,7 +141,9 @@ std::vector<std::string> Outcome::PathsOf(Names names) {
   paths.reserve(names.size());
   for (const char* name : names) {
     std::string path = session_.InsidePath(name);
-    if (path.empty())
+    if (name != nullptr && !IsUtf8(name))
+      Fail(name, scc::SCC_E_FILESYNTAXERR, sNotUtf8.Text);
+    else if (path.empty())
       Fail(name != nullptr ? name : "", scc::SCC_E_FILENOTCONTROLLED, sOutsideProject.Text);
     else
       paths.push_back(std::move(path));

@@ -71,6 +71,11 @@ class Session {
   /// What the client carries for the commands; outlives projects.
   OptionBlocks& Options() { return options_; }
 
+  /// Tells the user, once for each, of files that Subversion cannot name.
+  void TellLeftOut(const std::vector<std::string>& paths);
+  /// Tells the user who took the locks that an update found gone.
+  void TellLostLocks();
+
   /// Status changes for the client.
   EventQueue& Events() { return events_; }
   /// Names that the client holds until it asks for others, or gives them back.
@@ -105,6 +110,8 @@ class Session {
   std::chrono::steady_clock::time_point nextPoll_;
   StatusTable lastStatuses_;
   std::map<std::string, Failure> refusals_;
+  std::set<std::string> leftOut_;
+  std::vector<std::string> lostLocks_;
 };
 
 /// The result of one command over several files: the last failure, or success.  Every failure is told to the user.

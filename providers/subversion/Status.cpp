@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstring>
 
+#include "BadNames.h"
 #include "Repository.h"
 #include "Session.h"
 #include "SubversionSccStrings.h"
@@ -53,10 +54,23 @@ void SettleLeftOver(Session& session, const svn_client_status_t& status, FileSta
     session.Journal().Remove({status.local_abspath});
 }
 
+/// Fills in what a walk without the working copy leaves out.
+void AddLocalState(Session& session, svn_client_status_t& status) {
+  const Pool pool;
+  svn_wc_status3_t* local = nullptr;
+  Check(svn_wc_status3(&local, session.Context()->wc_ctx, status.local_abspath, pool, pool));
+  status.versioned = local->versioned;
+  status.node_status = local->node_status;
+  status.text_status = local->text_status;
+  status.prop_status = local->prop_status;
+  status.conflicted = local->conflicted;
+}
+
 struct Walk {
   Session& session;
   const std::string& user;
   bool online;
+  bool byName;  // libsvn could not read the folders: local states are asked for file by file
   StatusTable& table;
   std::vector<std::string>
       shadowed;  // in the repository, and a local file of that name that is not controlled
@@ -67,6 +81,7 @@ svn_error_t* TakeStatus(void* baton, const char*, const svn_client_status_t* sta
   auto& walk = *static_cast<Walk*>(baton);
   return Contain(walk.kept, [&] {
     svn_client_status_t seen = *status;
+    if (walk.byName) AddLocalState(walk.session, seen);
     if (!walk.online) seen.repos_lock = seen.lock;
     FileStatus file = ToFileStatus(seen, walk.user);
     if (walk.online) SettleLeftOver(walk.session, seen, file);
@@ -92,15 +107,19 @@ void AddLocksOfShadowed(StatusTable& table, Session& session, const std::vector<
 
 enum class Ask { Repository, WorkingCopy };
 
-void WalkInto(StatusTable& table, Session& session, const std::string& path, svn_depth_t depth, Ask ask) {
+enum class Read { Folders, NamedFiles };
+
+void WalkInto(StatusTable& table, Session& session, const std::string& path, svn_depth_t depth, Ask ask,
+              Read read) {
   const Pool pool;
   const bool online = ask == Ask::Repository;
-  Walk walk{session, session.Svn().User(), online, table, {}, nullptr};
+  const bool byName = read == Read::NamedFiles;
+  Walk walk{session, session.Svn().User(), online, byName, table, {}, nullptr};
   svn_opt_revision_t head{};
   head.kind = svn_opt_revision_head;
   svn_error_t* error = svn_client_status6(
       nullptr, session.Context(), path.c_str(), &head, depth, /*get_all*/ TRUE,
-      /*check_out_of_date*/ online, /*check_working_copy*/ TRUE, /*no_ignore*/ TRUE,
+      /*check_out_of_date*/ online, /*check_working_copy*/ !byName, /*no_ignore*/ TRUE,
       /*ignore_externals*/ TRUE, /*depth_as_sticky*/ TRUE, nullptr, TakeStatus, &walk, pool);
   if (walk.kept != nullptr) {
     svn_error_clear(error);
@@ -108,6 +127,19 @@ void WalkInto(StatusTable& table, Session& session, const std::string& path, svn
   }
   session.Svn().Run(error);
   AddLocksOfShadowed(table, session, walk.shadowed);
+}
+
+void WalkInto(StatusTable& table, Session& session, const std::string& path, svn_depth_t depth, Ask ask) {
+  try {
+    WalkInto(table, session, path, depth, ask, Read::Folders);
+  } catch (const Failure& failure) {
+    // libsvn gives up at a folder that holds a name which is not UTF-8.
+    const auto names = failure.Has(APR_EINVAL) ? NamesNotUtf8(path) : std::vector<std::string>();
+    if (names.empty()) throw;
+    session.TellLeftOut(names);
+    table = {};
+    WalkInto(table, session, path, depth, ask, Read::NamedFiles);
+  }
 }
 
 /// What the working copy knows, when the repository could not be asked.

@@ -45,10 +45,16 @@ class Failure : public std::runtime_error {
   Failure(scc::Long result, const std::string& text, std::vector<apr_status_t> codes = {})
       : std::runtime_error(text), result_(result), codes_(std::move(codes)) {}
   scc::Long Result() const { return result_; }
+  /// The same failure in better words.
+  Failure With(const std::string& text) const { return Failure(result_, text, codes_); }
   /// Whether `code` is anywhere in libsvn's chain of errors.
   bool Has(apr_status_t code) const;
   /// Whether the failure is that a path belongs to no working copy.
   bool MeansNoWorkingCopy() const;
+  /// Whether the failure is that the repository holds the file locked, and not for this working copy.
+  bool MeansOthersLock() const {
+    return result_ == scc::SCC_E_FILEOUTEXCLUSIVE || result_ == scc::SCC_E_FILEISLOCKED;
+  }
   /// Whether the failure is that another process is at work in the working copy, or was when it died.
   bool MeansBusyWorkingCopy() const;
 
@@ -56,6 +62,9 @@ class Failure : public std::runtime_error {
   scc::Long result_;
   std::vector<apr_status_t> codes_;
 };
+
+/// A reason that stands alone: with a capital letter and a full stop.
+std::string AsSentence(std::string reason);
 
 /// The failure that a chain of errors means.  Borrows `error`.
 Failure ToFailure(svn_error_t* error);

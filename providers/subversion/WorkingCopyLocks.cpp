@@ -134,6 +134,7 @@ scc::Long RunCommand(Session& session, const std::function<scc::Long()>& command
     if (IsInUse(folder)) CleanUpIfUnused(session, folder, Told::No);
     throw;
   }
+  session.TellLostLocks();
   return result;
 }
 

@@ -80,11 +80,11 @@ bool UseMark::Lock(int operation) const {
 }
 
 std::vector<std::string> UseMark::IfUnused(const std::function<void()>& body) const {
-  if (!Lock(LOCK_EX | LOCK_NB)) return {sThisProvidersProgram};
-  struct Share {
+  struct Share {  // also when refused: the attempt has given the shared lock up
     const UseMark& mark;
     ~Share() { mark.Lock(LOCK_SH); }
   } const share{*this};
+  if (!Lock(LOCK_EX | LOCK_NB)) return {sThisProvidersProgram};
   auto users = Users();
   if (users.empty()) body();
   return users;

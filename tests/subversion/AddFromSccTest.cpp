@@ -125,4 +125,22 @@ TEST_F(Picking, OptionsTravelThroughTheClientsVariable) {
   EXPECT_EQ(scc::SCC_OK, library->SccCheckOut(ann.Context(), nullptr, 1, &name, "", 0, &variable))
       << ann.Said();
   EXPECT_EQ("ann", repository.LockOwner("project/a.pas"));
+
+  // Chosen for a list that was cancelled: the next list begins without it.
+  ann.Undo({"a.pas"});
+  bob.CheckOut({"a.pas"});
+  for (const bool populated : {true, false}) {
+    script.Expect<wxDialog>([](wxDialog& dialog) {
+      EXPECT_FALSE(Find<wxCheckBox>(dialog, "option")->GetValue());
+      Find<wxCheckBox>(dialog, "option")->SetValue(true);
+      dialog.SetReturnCode(wxID_OK);
+    });
+    library->SccGetCommandOptions(ann.Context(), nullptr, scc::SCC_COMMAND_CHECKOUT, &variable);
+    if (populated)
+      ann.Populate(scc::SCC_COMMAND_CHECKOUT, {});
+    else
+      library->SccGetCommandOptions(ann.Context(), nullptr, scc::SCC_COMMAND_CHECKOUT, nullptr);
+    EXPECT_EQ(scc::SCC_E_FILEOUTEXCLUSIVE,
+              library->SccCheckOut(ann.Context(), nullptr, 1, &name, "", 0, &variable));
+  }
 }

@@ -93,8 +93,7 @@ TEST_F(CheckOut, TheColleagueSeesItAndIsRefused) {
   ann.CheckOut({"unit1.pas"});
   EXPECT_EQ(kOutByOther, bob.Status("unit1.pas"));
   EXPECT_EQ(scc::SCC_E_FILEOUTEXCLUSIVE, bob.CheckOut({"unit1.pas"}));
-  EXPECT_THAT(bob.Said(), HasSubstr("E unit1.pas: "));
-  EXPECT_THAT(bob.Said(), HasSubstr("ann"));
+  EXPECT_EQ("E unit1.pas: ann has it checked out\n", bob.Said());
   EXPECT_FALSE(bob.IsWritable("unit1.pas"));
   EXPECT_EQ(scc::SCC_E_FILEOUTEXCLUSIVE, bob.Remove({"unit1.pas"}));
   EXPECT_EQ(scc::SCC_E_NOTCHECKEDOUT, bob.CheckIn({"unit1.pas"}));
@@ -167,6 +166,17 @@ TEST_F(CheckOut, ALockThatWasTakenAwayEndsInACheckInConflict) {
   EXPECT_EQ(scc::SCC_E_CHECKINCONFLICT, ann.CheckIn({"unit1.pas"})) << ann.Said();
   EXPECT_EQ("mine\n", ann.Read("unit1.pas"));
   EXPECT_EQ("his\n", repository.Contents("project/unit1.pas"));
+}
+
+TEST_F(CheckOut, AStolenLockIsToldWithItsNewOwner) {
+  ann.CheckOut({"unit1.pas"});
+  ann.Write("unit1.pas", "mine\n");
+  repository.BreakLock("project/unit1.pas");
+  bob.CheckOut({"unit1.pas"});
+  EXPECT_NE(scc::SCC_OK, ann.CheckIn({"unit1.pas"}));
+  EXPECT_EQ("E unit1.pas: bob has it checked out\n", ann.Said());
+  ann.GetEverything();
+  EXPECT_THAT(ann.Said(), HasSubstr("unit1.pas was taken away in the repository: bob has it now.\n"));
 }
 
 TEST_F(CheckOut, UndoAfterTheLockWasTakenAwaySucceeds) {

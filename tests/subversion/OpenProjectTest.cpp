@@ -14,6 +14,7 @@
 #include "subversion/OpenProject.h"
 #include "subversion/Question.h"
 #include "subversion/Repository.h"
+#include "support/PlainUser.h"
 
 using testing::HasSubstr;
 
@@ -54,6 +55,42 @@ TEST_F(OpenProject, ExistingFilesOfTheSameNameStay) {
   ASSERT_EQ(scc::SCC_OK, bob.GetEverything());
   EXPECT_EQ("bob's own\n", bob.Read("unit1.pas"));
   EXPECT_EQ(0x0801, bob.Status("unit1.pas"));
+}
+
+TEST_F(OpenProject, TheFolderCanBeALink) {
+  std::filesystem::rename(ann.Folder(), ann.Folder() + " itself");
+  std::filesystem::create_directory_symlink(ann.Folder() + " itself", ann.Folder());
+  ASSERT_EQ(scc::SCC_OK, ann.Open(repository.Url(), "project")) << ann.Said();
+  ann.Write("sub/unit1.pas", "1\n");
+  EXPECT_EQ(scc::SCC_OK, ann.Add({"sub/unit1.pas"})) << ann.Said();
+  EXPECT_EQ(scc::SCC_OK, ann.CheckOut({"sub/unit1.pas"})) << ann.Said();
+  EXPECT_EQ(0x100B, ann.Status("sub/unit1.pas"));
+  const auto list = ann.Populate(scc::SCC_COMMAND_CHECKIN, {});
+  EXPECT_TRUE(list.Added.contains(ann.File("sub/unit1.pas"))) << "under the name that the client knows";
+  ann.Write("sub/unit1.pas", "2\n");
+  EXPECT_EQ(scc::SCC_OK, ann.CheckIn({"sub/unit1.pas"})) << ann.Said();
+  EXPECT_EQ(scc::SCC_OK, ann.GetEverything()) << ann.Said();
+  ann.Close();
+  EXPECT_EQ(scc::SCC_OK, ann.Open(repository.Url(), "project")) << ann.Said();
+  EXPECT_EQ(1, ann.Status("sub/unit1.pas"));
+}
+
+TEST_F(OpenProject, AWorkingCopyThatCannotBeWrittenToIsNoTroubleOfTheNetwork) {
+  ann.Open(repository.Url(), "project");
+  ann.Close();
+  const auto let = [&](unsigned folder, unsigned file) {
+    std::filesystem::permissions(ann.File(".svn"), std::filesystem::perms(folder));
+    std::filesystem::permissions(ann.File(".svn/wc.db"), std::filesystem::perms(file));
+  };
+  let(0555, 0444);
+  {
+    const TPlainUser nobody;
+    EXPECT_EQ(scc::SCC_OK, ann.Open(repository.Url(), "project")) << ann.Said();
+    EXPECT_EQ(scc::SCC_E_NOTAUTHORIZED, ann.GetEverything());
+    EXPECT_THAT(ann.Said(), HasSubstr("he working copy cannot be written to: it is read-only"));
+    ann.Close();
+  }
+  let(0755, 0644);
 }
 
 TEST_F(OpenProject, TheRootAndAFolderNameWillDo) {

@@ -118,6 +118,8 @@ TEST_F(Choice, ProposesWhatWasThereBefore) {
   ASSERT_TRUE(bound.ShouldConnectAtOnce());
   ASSERT_TRUE(bound.Connect(bound.ProposedRepository()));
   EXPECT_EQ("trunk/lib", bound.Selected());
+  again.Repository = "file:///somebody/else";
+  EXPECT_FALSE(ProjectChoice(again).ShouldConnectAtOnce()) << "never used: the user presses Connect";
 
   TDeveloper ann("ann");  // a working copy knows where it belongs
   ann.Open(repository.Url(), "trunk/app one");

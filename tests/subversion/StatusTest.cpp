@@ -1,6 +1,8 @@
 // Status queries as a whole: all cells, all names, with and without a repository.
 #include <gmock/gmock.h>
 
+#include <fstream>
+
 #include "Developer.h"
 
 using testing::Each;
@@ -50,6 +52,31 @@ TEST_F(Status, EveryCellIsFilledWhateverTheName) {
   EXPECT_EQ(1, cells[2]);
   EXPECT_EQ(77, cells.back());
   EXPECT_THAT(std::vector<scc::Long>(cells.begin() + 3, cells.end() - 1), Each(0));
+}
+
+TEST_F(Status, ANameThatIsNotUtf8IsLeftOutAndTheOthersAreAnswered) {
+  for (const char* name : {"in.pas", "out.pas", "sub/old.pas"}) ann.Write(name, "1\n");
+  ann.Add({"in.pas", "out.pas", "sub/old.pas"});
+  TDeveloper bob("bob");
+  bob.Open(repository.Url(), "project");
+  bob.GetEverything();
+  ann.CheckOut({"sub/old.pas"});
+  ann.Write("sub/old.pas", "2\n");
+  ann.CheckIn({"sub/old.pas"});
+  ann.Write("new.pas", "1\n");
+  ann.Add({"new.pas"});
+  bob.CheckOut({"out.pas"});
+  bob.Write("out.pas", "2\n");
+  for (const char* folder : {"", "sub/"}) std::ofstream(bob.File(folder + std::string("\xff.pas"))) << "1\n";
+  EXPECT_EQ((std::vector<scc::Long>{1, 0x180B, 0x21, 0x21, 0}),
+            bob.Statuses({"in.pas", "out.pas", "sub/old.pas", "new.pas", "\xff.pas"}));
+  EXPECT_THAT(bob.Said(), HasSubstr("W ?.pas is left out: its name is not UTF-8"));
+  EXPECT_THAT(bob.Said(), HasSubstr("W sub/?.pas is left out"));
+  bob.Status("in.pas");
+  EXPECT_EQ("", bob.Said()) << "told once";
+  EXPECT_EQ(scc::SCC_E_FILESYNTAXERR, bob.Add({"\xff.pas"}));
+  EXPECT_EQ(scc::SCC_OK, bob.GetEverything()) << bob.Said();
+  EXPECT_EQ(scc::SCC_OK, bob.CheckIn({"out.pas"})) << bob.Said();
 }
 
 TEST_F(Status, WithoutTheRepositoryTheWorkingCopyAnswers) {
