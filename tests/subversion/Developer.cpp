@@ -15,7 +15,9 @@ std::string said;  // the callback has no argument to find its owner by
 bool cancelPressed = false;
 std::string cancelSince;
 
-bool IsCancelPressed() { return cancelPressed && (cancelSince.empty() || FileExists(cancelSince)); }
+bool IsCancelPressed() {
+  return cancelPressed && (cancelSince.empty() || std::filesystem::exists(cancelSince));
+}
 
 scc::Long SCC_CALL TakeText(const char* text, scc::Dword kind) {
   const bool isLine = kind < scc::SCC_MSG_STATUS;

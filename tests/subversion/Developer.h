@@ -40,7 +40,7 @@ struct TPopulated {
   scc::Long Result = 0;
 };
 
-/// The user presses the client's Cancel button for as long as it lives, or from when the file `since` is there.
+/// The user presses the client's Cancel button for as long as it lives, or from when `since` is on disk.
 class TCancelPressed {
  public:
   explicit TCancelPressed(const std::string& since = {});

@@ -108,3 +108,19 @@ TEST_F(Events, CancelButtonEndsACommand) {
   EXPECT_EQ("taken\n", repository.Contents("project/a.pas"));
   EXPECT_EQ(1, ann.Status("a.pas"));
 }
+
+// In the middle of a get, with files fetched that the working copy has not noted yet.
+TEST_F(Events, ACancelledCommandLeavesNoLockBehind) {
+  std::vector<std::string> names;
+  for (int i = 0; i < 40; ++i) names.push_back("new/" + std::to_string(i) + ".pas");
+  for (const auto& name : names) bob.Write(name, "1\n");
+  ASSERT_EQ(scc::SCC_OK, bob.Add(names));
+  Set(scc::SCC_OPT_HASCANCELMODE, 1);
+  {
+    const TCancelPressed pressed(ann.File("new"));
+    ASSERT_EQ(scc::SCC_I_OPERATIONCANCELED, ann.GetEverything()) << ann.Said();
+  }
+  EXPECT_EQ(0, std::system(("svn update -q --non-interactive --depth empty '" + ann.Folder() + "'").c_str()));
+  EXPECT_EQ(scc::SCC_OK, ann.GetEverything()) << ann.Said();
+  EXPECT_THAT(ann.Statuses(names), testing::Each(1));
+}
