@@ -254,14 +254,16 @@ TEST_F(OpenProject, TwoProgramsAndSvnShareAWorkingCopy) {
         const bool done = ann.Open(repository.Url(), "project") == scc::SCC_OK &&
                           ann.CheckOut({name}) == scc::SCC_OK &&
                           (ann.Write(name, std::to_string(round)), ann.CheckIn({name})) == scc::SCC_OK;
-        if (!done) std::cerr << name << ": " << ann.Said();
-        if (!done || ann.Said().find("cleaned up") != std::string::npos) _exit(1);
+        if (!done || ann.Said().find("cleaned up") != std::string::npos) {
+          std::cerr << name << ": " << ann.Said();
+          _exit(1);
+        }
         ann.Close();
       }
     }));
   bool working = true;
   while (working) {
-    EXPECT_EQ(0, Join(Start([&] { Svn("status '" + ann.Folder() + "' > /dev/null"); })));
+    EXPECT_EQ(0, Join(Start([&] { Svn("info -R '" + ann.Folder() + "' > /dev/null"); })));
     siginfo_t end{};
     working = waitid(P_PID, static_cast<id_t>(programs[0]), &end, WEXITED | WNOHANG | WNOWAIT) == 0 &&
               end.si_pid == 0;
