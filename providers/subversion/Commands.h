@@ -31,11 +31,18 @@ scc::Long QuickDiff(Session& session, const char* name, scc::Long flags);
 
 // Steps that several commands share.
 
-/// Brings a path up to date, fetching it and its parent folders when only the repository has them.  A local file that
-/// stands in the way is kept and counts as an edit.
+/// Brings a path up to date, fetching it and its parent folders when only the repository has them.  No local file may
+/// stand in the way: it would count as an edit (see MadeRoom).
 void Update(Session& session, const std::vector<std::string>& paths);
 /// The same to a given revision, each path by itself.
 void UpdateTo(Session& session, const std::vector<std::string>& paths, const svn_opt_revision_t& revision);
+/// Takes a conflict in a text for settled.
+void Settle(Session& session, const std::string& path);
+/// Makes the working copy forget a file that was deleted in the repository, with the folders above it that were deleted,
+/// too.  All files in them stay on disk.
+void Forget(Session& session, const std::string& path);
+/// Ends a conflict, or an edit, in favour of the repository.  Edits are kept in copies beside the files.
+void GiveUp(Session& session, const std::string& path);
 /// The folders above `path`, up to the project's, that the repository does not have yet, outermost first.
 std::vector<std::string> NewFoldersAbove(const Session& session, const std::string& path);
 std::string ParentOf(const std::string& path);
@@ -43,13 +50,20 @@ std::string ParentOf(const std::string& path);
 void Commit(Session& session, const std::vector<std::string>& paths, const std::string& log,
             AfterCommit locks);
 enum class OthersLocks { Respect, Steal };
-/// Locks controlled files and makes them writable; a file that is out of date is updated first.
+/// Locks controlled files and makes them writable; a file that is out of date is updated first.  Returns who was refused,
+/// and why.
+std::map<std::string, Failure> LockWhatCanBe(Session& session, const std::vector<std::string>& paths,
+                                             const std::string& comment,
+                                             OthersLocks others = OthersLocks::Respect);
+/// The same; refusals are failures.
 void Lock(Session& session, const std::vector<std::string>& paths, const std::string& comment,
           OthersLocks others, Outcome& outcome);
 /// Tells the user that the working copy's lock on `path` is gone from the repository, and who has it instead.
 void TellLockGone(Session& session, const std::string& path);
 /// Why a file that the repository holds locked otherwise was refused: who has it.  `failure` when that cannot be asked.
 std::string WhyLocked(Session& session, const std::string& path, const Failure& failure);
+/// Tells of files that were named with others and are not checked out: a failure only when none of the others was.
+void TellIdle(Session& session, const std::vector<std::string>& paths, bool othersWereOut, Outcome& outcome);
 /// Releases locks that the working copy holds.
 void Unlock(Session& session, const std::vector<std::string>& paths, Outcome& outcome);
 

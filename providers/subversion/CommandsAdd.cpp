@@ -3,10 +3,14 @@
 #include <svn_io.h>
 #include <svn_props.h>
 
+#include <algorithm>
+#include <functional>
 #include <set>
 
+#include "CommandTable.h"
 #include "Commands.h"
 #include "LocalStatus.h"
+#include "Nodes.h"
 #include "OpenProject.h"
 #include "Repository.h"
 #include "SetAside.h"
@@ -16,14 +20,6 @@
 namespace svnscc {
 namespace {
 
-/// Makes the working copy forget a file that was deleted in the repository, and keeps the file.
-void ForgetDeleted(Session& session, const std::string& path) {
-  if ((AskStatus(session, path).Bits & scc::SCC_STATUS_DELETED) == 0)
-    throw Failure(scc::SCC_E_FILEALREADYEXISTS, sAlreadyControlled);
-  const SetAside aside(path);
-  Update(session, {path});
-}
-
 /// The file, or the outermost of the folders above it that the working copy does not know: what is not in the repository
 /// under that name is not there below it either.
 std::string OutermostUnknown(const Session& session, const std::string& path) {
@@ -31,32 +27,41 @@ std::string OutermostUnknown(const Session& session, const std::string& path) {
   return folders.empty() ? path : folders.front();
 }
 
-/// Whether the repository can have the file or folders above it that the working copy does not know yet.  `walked` is
-/// nullptr when nothing was asked so far.
-bool MayBeInRepository(Session& session, const StatusTable* walked, const std::string& path) {
+/// Whether the repository can have folders above the file that the working copy does not know yet.
+bool MayBeInRepository(Session& session, const Survey& survey, bool isAlone, const std::string& path) {
   const std::string unknown = OutermostUnknown(session, path);
-  if (walked != nullptr) return walked->Of(unknown).Bits != 0;
+  if (unknown == path) return false;  // then the file would have a status of its own
+  if (!isAlone) return survey.StatusOf(unknown).Bits != 0;
   const Project& project = session.CurrentProject();
   const char* inside = svn_dirent_skip_ancestor(project.Folder.c_str(), unknown.c_str());
   return KindOf(session.Svn(), UrlOf(project.Url, inside)) != svn_node_none;
 }
 
-/// What `path` is after the working copy learnt what the repository has of it and its folders.
-LocalStatus Acquaint(Session& session, const StatusTable* walked, const std::string& path) {
-  const LocalStatus local = AskLocal(session, path);
-  if (local.State == LocalState::Unversioned) {
-    if (MayBeInRepository(session, walked, path)) Update(session, {path});
-  } else if (local.IsControlled() && IsOnDisk(path)) {
-    ForgetDeleted(session, path);
-  }
-  return AskLocal(session, path);
+/// The nearest folder above that the working copy knows.
+std::string KnownFolderAbove(const Session& session, const std::string& path) {
+  std::string folder = ParentOf(path);
+  while (folder != session.CurrentProject().Folder && !AskLocal(session, folder).IsControlled() &&
+         !AskLocal(session, folder).IsConflicted())
+    folder = ParentOf(folder);
+  return folder;
 }
 
-void CheckAddable(Session& session, const StatusTable* walked, const std::string& path) {
+/// Readies the folders above a new file: what the repository has of them is fetched, what it has no more is forgotten.
+void PrepareFoldersAbove(Session& session, const Survey& survey, bool isAlone, const std::string& path) {
+  const std::string folder = KnownFolderAbove(session, path);
+  if (folder != session.CurrentProject().Folder) {
+    const FileStatus status = isAlone ? AskStatus(session, folder) : survey.StatusOf(folder);
+    if ((status.Bits & scc::SCC_STATUS_DELETED) != 0) Forget(session, folder);
+  }
+  if (MayBeInRepository(session, survey, isAlone, path)) Update(session, {path});
+}
+
+void CheckAddable(Session& session, const Survey& survey, bool isAlone, const std::string& path) {
   if (!IsOnDisk(path)) throw Failure(scc::SCC_E_FILENOTEXIST, sFileMissing);
   if (!FileExists(path)) throw Failure(scc::SCC_E_TYPENOTSUPPORTED, sNotAFile);
-  const LocalStatus local = Acquaint(session, walked, path);
-  if (local.IsControlled()) throw Failure(scc::SCC_E_FILEALREADYEXISTS, sAlreadyControlled);
+  if (Require(survey.StateOf(path), Command::Add) == Step::Forget) Forget(session, path);
+  PrepareFoldersAbove(session, survey, isAlone, path);
+  if (AskLocal(session, path).IsControlled()) throw Failure(scc::SCC_E_FILEALREADYEXISTS, sAlreadyControlled);
 }
 
 void SetProperty(Session& session, const std::string& path, const char* name, const char* value) {
@@ -90,10 +95,9 @@ class Addition {
   Addition(Session& session, const std::string& comment, Outcome& outcome)
       : session_(session), comment_(comment), outcome_(outcome) {}
 
-  void Take(const std::string& path, scc::Long type, const CommandOptions& options,
-            const StatusTable* walked) {
-    if (!known_.insert(path).second) return;  // clients name a form twice when they add it with its unit
-    CheckAddable(session_, walked, path);
+  void Take(const std::string& path, scc::Long type, const CommandOptions& options, const Survey& survey,
+            bool isAlone) {
+    CheckAddable(session_, survey, isAlone, path);
     const auto folders = NewFoldersAbove(session_, path);
     folders_.insert(folders.begin(), folders.end());
     scheduled_.push_back(path);
@@ -163,6 +167,7 @@ class Addition {
   /// Takes schedulings back that were not committed; what is on disk stays.
   void Unschedule(const std::vector<std::string>& paths) {
     if (paths.empty()) return;
+    const Silence silence(session_);
     const Pool pool;
     svn_error_clear(svn_client_revert4(ToArray(paths, pool), svn_depth_empty, nullptr, FALSE,
                                        /*metadata_only*/ TRUE,
@@ -181,9 +186,35 @@ class Addition {
   const std::string& comment_;
   Outcome& outcome_;
   std::vector<std::string> scheduled_;
-  std::set<std::string> known_;
   std::set<std::string> folders_;
 };
+
+svn_revnum_t RevisionOf(Session& session, const std::string& path) {
+  return LocalFactsOf(session.Svn(), path).ChangedRevision;
+}
+
+/// Takes those out of `paths` that this session added and nobody touched since, and returns them: clients name a form
+/// twice when they add it with its unit.
+std::vector<std::string> TakeJustAdded(Session& session, std::vector<std::string>& paths) {
+  const auto isKnown = [&](const std::string& path) {
+    const auto added = session.JustAdded().find(path);
+    if (added == session.JustAdded().end()) return false;
+    return StateOf(AskLocal(session, path)) == FileState::Current &&
+           RevisionOf(session, path) == added->second;
+  };
+  const auto split = std::stable_partition(paths.begin(), paths.end(), std::not_fn(isKnown));
+  std::vector<std::string> known(split, paths.end());
+  paths.erase(split, paths.end());
+  for (const auto& path : known) session.Out().Info(Format(sAddedAlready.Text, {session.Label(path)}));
+  return known;
+}
+
+/// The files are in the repository: a lock that was refused does not make that a failure.
+void CheckOutAdded(Session& session, const std::vector<std::string>& paths, const std::string& comment) {
+  if (paths.empty()) return;
+  for (const auto& [path, refusal] : LockWhatCanBe(session, paths, comment))
+    session.Out().Warning(Format(sAddedNotOut.Text, {session.Label(path), refusal.what()}));
+}
 
 }  // namespace
 
@@ -206,24 +237,24 @@ scc::Long Add(Session& session, Names names, const std::string& comment, scc::Lo
               const CommandOptions& options) {
   Outcome outcome(session);
   EnsureWorkingCopy(session);
-  const auto paths = outcome.PathsOf(names);
-  // One file is asked for alone (an update in place of the question would also wait for the clock's next tick); for
-  // more, one walk costs less.
-  const bool many = paths.size() > 1;
-  const StatusTable walked = many ? WalkProject(session) : StatusTable{};
-  if (walked.Result < 0) return walked.Result;
+  auto paths = outcome.PathsOf(names);
+  std::vector<std::string> known = TakeJustAdded(session, paths);
+  const Survey survey(session, paths);
+  if (survey.Result() < 0) return survey.Result();
 
   Addition addition(session, comment, outcome);
   std::vector<std::string> added;
   try {
     for (const auto& path : paths)
-      outcome.Try(path, [&] { addition.Take(path, type, options, many ? &walked : nullptr); });
+      outcome.Try(path, [&] { addition.Take(path, type, options, survey, paths.size() == 1); });
     added = addition.Run();
   } catch (const Failure&) {
     addition.Abandon();
     throw;
   }
-  if (after == AfterCommit::KeepCheckedOut) Lock(session, added, comment, OthersLocks::Respect, outcome);
+  for (const auto& path : added) session.JustAdded()[path] = RevisionOf(session, path);
+  added.insert(added.end(), known.begin(), known.end());
+  if (after == AfterCommit::KeepCheckedOut) CheckOutAdded(session, added, comment);
   return outcome.Result();
 }
 

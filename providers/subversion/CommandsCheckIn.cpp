@@ -1,35 +1,65 @@
 // Check-in, and committing as a step of other commands.
+#include <algorithm>
+
+#include "CommandTable.h"
 #include "Commands.h"
-#include "LocalStatus.h"
 #include "SubversionSccStrings.h"
-#include "host/System.h"
 
 namespace svnscc {
 namespace {
 
-/// Whether Subversion's marks of a conflict still stand in the text.
-bool HasConflictMarks(const std::string& path) {
-  const std::string text = "\n" + ReadWholeFile(path);
-  return text.find("\n<<<<<<< ") != std::string::npos && text.find("\n>>>>>>> ") != std::string::npos;
-}
+/// What is to be done with the files of one call.
+struct Batch {
+  std::vector<std::string> changed;
+  std::vector<std::string> unchanged;
+  std::vector<std::string> idle;  // neither checked out nor changed
+};
 
-/// A conflict is settled by editing the file: there is no other command for it.
-void SettleConflict(Session& session, const std::string& path) {
-  if (HasConflictMarks(path)) throw Failure(scc::SCC_E_FIXMERGE, sConflictMarks);
-  const Pool pool;
-  session.Svn().Run(svn_client_resolve(path.c_str(), svn_depth_empty, svn_wc_conflict_choose_merged,
-                                       session.Context(), pool));
-}
-
-LocalStatus RequireCheckedOut(Session& session, const std::string& path) {
+void Sort(Session& session, const std::string& path, bool isAlone, Batch& batch) {
   const LocalStatus local = AskLocal(session, path);
-  if (!local.IsControlled())
-    throw local.State == LocalState::Absent ? Failure(scc::SCC_E_FILENOTEXIST, sFileMissing)
-                                            : Failure(scc::SCC_E_FILENOTCONTROLLED, sNotControlled);
-  if (local.State == LocalState::Missing) throw Failure(scc::SCC_E_FILENOTEXIST, sFileMissing);
-  if (!local.HasLock) throw Failure(scc::SCC_E_NOTCHECKEDOUT, sNotCheckedOut);
-  if (local.Conflicted) SettleConflict(session, path);
-  return local;
+  const Step step = Require(StateOf(local), Command::CheckIn);
+  if (!local.HasLock && (isAlone || local.Modified)) throw Failure(scc::SCC_E_NOTCHECKEDOUT, sNotCheckedOut);
+  if (step == Step::Settle) Settle(session, path);
+  auto& kind = !local.HasLock ? batch.idle : local.Modified ? batch.changed : batch.unchanged;
+  kind.push_back(path);
+}
+
+/// Whether a refused commit says no more than that the working copy is behind: files that were moved away and back are
+/// as they were, but count as old.
+bool IsOnlyBehind(const Survey& survey, const std::vector<std::string>& paths) {
+  return survey.Result() >= 0 && std::all_of(paths.begin(), paths.end(), [&](const auto& path) {
+           return survey.StateOf(path) == FileState::Edited;
+         });
+}
+
+void CommitChanged(Session& session, const std::vector<std::string>& paths, const std::string& comment,
+                   AfterCommit after, Outcome& outcome) {
+  try {
+    return Commit(session, paths, comment, after);
+  } catch (const Failure& failure) {
+    if (failure.Result() != scc::SCC_E_CHECKINCONFLICT) throw;
+    const Survey survey(session, paths);
+    if (!IsOnlyBehind(survey, paths)) {
+      // A commit takes all of its files or none: each is told, the guilty ones with their reason.
+      for (const auto& path : paths)
+        outcome.Try(path, [&] {
+          Require(survey.StateOf(path), Command::CheckIn);
+          throw failure;
+        });
+      return;
+    }
+  }
+  Update(session, paths);
+  Commit(session, paths, comment, after);
+}
+
+/// A lock that was taken away is not noticed while nothing is sent.
+void TellLostLocks(Session& session, const std::vector<std::string>& paths) {
+  if (paths.empty()) return;
+  const Survey survey(session, paths);
+  for (const auto& path : paths)
+    if (survey.Result() >= 0 && (survey.StatusOf(path).Bits & scc::SCC_STATUS_CHECKEDOUT) == 0)
+      session.Out().Warning(Format(sLockGone.Text, {session.Label(path)}));
 }
 
 }  // namespace
@@ -54,26 +84,25 @@ void Commit(Session& session, const std::vector<std::string>& paths, const std::
 scc::Long CheckIn(Session& session, Names names, const std::string& comment, AfterCommit after,
                   const CommandOptions& options) {
   Outcome outcome(session);
-  std::vector<std::string> changed;
-  std::vector<std::string> unchanged;
-  for (const auto& path : outcome.PathsOf(names))
-    outcome.Try(path, [&] {
-      const bool modified = RequireCheckedOut(session, path).Modified;
-      (modified ? changed : unchanged).push_back(path);
-    });
+  Batch batch;
+  const auto paths = outcome.PathsOf(names);
+  for (const auto& path : paths) outcome.Try(path, [&] { Sort(session, path, paths.size() == 1, batch); });
 
-  if (!changed.empty()) {
+  if (!batch.changed.empty()) {
     try {
-      Commit(session, changed, comment, after);
+      CommitChanged(session, batch.changed, comment, after, outcome);
     } catch (const Failure& failure) {
-      // A commit takes all of its files or none.
-      for (const auto& path : changed) outcome.Fail(path, failure);
+      for (const auto& path : batch.changed) outcome.Fail(path, failure);
     }
   }
   if (after == AfterCommit::Release && !options.KeepUnchangedOut) {
-    for (const auto& path : unchanged) session.Out().Info(Format(sNotChanged.Text, {session.Label(path)}));
-    Unlock(session, unchanged, outcome);
+    for (const auto& path : batch.unchanged)
+      session.Out().Info(Format(sNotChanged.Text, {session.Label(path)}));
+    Unlock(session, batch.unchanged, outcome);
+  } else {
+    TellLostLocks(session, batch.unchanged);
   }
+  TellIdle(session, batch.idle, batch.idle.size() < paths.size(), outcome);
   return outcome.Result();
 }
 

@@ -1,11 +1,16 @@
 // Getting files, and updating as a step of other commands.
+#include <svn_dirent_uri.h>
+
 #include <algorithm>
 
+#include "CommandTable.h"
 #include "Commands.h"
 #include "LocalStatus.h"
 #include "Nodes.h"
 #include "OpenProject.h"
+#include "SetAside.h"
 #include "SubversionSccStrings.h"
+#include "WindowStrings.h"
 
 namespace svnscc {
 namespace {
@@ -21,19 +26,86 @@ void UpdateTo(Session& session, const std::vector<std::string>& paths, svn_depth
                                        /*make_parents*/ TRUE, session.Context(), pool));
 }
 
-void GetFolder(Session& session, const std::string& path, Below below, const svn_opt_revision_t& revision) {
+/// A get that left a conflict did not do what was asked, whoever caused it.
+void RequireNoConflict(Session& session, const std::string& path) {
   const LocalStatus local = AskLocal(session, path);
-  // Setting the reach to a smaller one would drop what is there: only a folder that was not fetched yet is widened.
-  const bool widen = below == Below::Everything || local.Depth < svn_depth_files;
-  UpdateTo(session, {path}, below == Below::Everything ? svn_depth_infinity : svn_depth_files,
-           widen ? Reach::Set : Reach::AsItIs, revision);
+  if (local.IsConflicted()) Require(StateOf(local), Command::Get);
+}
+
+/// The files that an update of the folder would lay its own over, out of its way.
+std::vector<MadeRoom> MakeRoomBelow(Session& session, const std::string& folder, Below below) {
+  const StatusTable walked = WalkProject(session);
+  if (walked.Result < 0) throw Failure(walked.Result, sNotAsked);
+  std::vector<MadeRoom> rooms;
+  for (const auto& file : walked.Files()) {
+    const bool concerned = below == Below::Everything ? svn_dirent_is_ancestor(folder.c_str(), file.c_str())
+                                                      : ParentOf(file) == folder;
+    if (concerned && StateOf(session, file, walked.Of(file)) == FileState::InTheWay)
+      rooms.emplace_back(session, file);
+  }
+  return rooms;
+}
+
+/// Setting a folder's reach drops what lies beyond: a folder that holds others is not narrowed to its files.
+bool HoldsFolders(Session& session, const std::string& folder) {
+  const auto known = LocalEntries(session, folder);
+  return std::any_of(known.begin(), known.end(),
+                     [&](const auto& entry) { return entry.second.IsFolder && entry.first != folder; });
+}
+
+/// The files right in a folder, each by itself.
+void GetFilesIn(Session& session, const std::string& folder, const svn_opt_revision_t& revision) {
+  UpdateTo(session, {folder}, svn_depth_files, Reach::AsItIs, revision);
+  const StatusTable walked = WalkProject(session);
+  std::vector<std::string> missing;
+  for (const auto& file : walked.Files())
+    if (ParentOf(file) == folder && !walked.Of(file).IsHere) missing.push_back(file);
+  if (!missing.empty()) UpdateTo(session, missing, svn_depth_unknown, Reach::AsItIs, revision);
+}
+
+void UpdateFolder(Session& session, const std::string& path, Below below,
+                  const svn_opt_revision_t& revision) {
+  const LocalStatus local = AskLocal(session, path);
+  if (below == Below::Everything)
+    UpdateTo(session, {path}, svn_depth_infinity, Reach::Set, revision);
+  else if (local.Depth >= svn_depth_files)
+    UpdateTo(session, {path}, svn_depth_files, Reach::AsItIs, revision);
+  else if (HoldsFolders(session, path))
+    GetFilesIn(session, path, revision);
+  else
+    UpdateTo(session, {path}, svn_depth_files, Reach::Set, revision);
+}
+
+void TellConflicts(Session& session, const std::string& folder, Outcome& outcome) {
+  for (const auto& [path, status] : LocalEntries(session, folder)) {
+    if ((status.Bits & scc::SCC_STATUS_MERGED) == 0) continue;
+    const LocalStatus local = AskLocal(session, path);
+    if (local.Victim == path || local.Modified)
+      outcome.Try(path, [&, &file = path] { RequireNoConflict(session, file); });
+  }
+}
+
+void GetFolder(Session& session, const std::string& path, Below below, const svn_opt_revision_t& revision,
+               Outcome& outcome) {
+  {
+    const auto rooms = MakeRoomBelow(session, path, below);
+    try {
+      UpdateFolder(session, path, below, revision);
+    } catch (const Failure& failure) {
+      // libsvn stumbles over what it has just dropped, and finds its way at the second try.
+      if (!failure.Has(SVN_ERR_WC_PATH_NOT_FOUND)) throw;
+      UpdateFolder(session, path, below, revision);
+    }
+  }
   if (!AskLocal(session, path).IsControlled()) throw Failure(scc::SCC_E_FILENOTCONTROLLED, sNotControlled);
+  TellConflicts(session, path, outcome);
 }
 
 void GetOld(Session& session, const std::string& path, svn_revnum_t revision) {
   if (AskLocal(session, path).HasLock) throw Failure(scc::SCC_E_FILEISCHECKEDOUT, sStillOut);
   RequireSameName(session, RequireControlled(session, path.c_str()), revision);
   UpdateTo(session, {path}, svn_depth_unknown, Reach::AsItIs, Numbered(revision));
+  RequireNoConflict(session, path);
 }
 
 /// Whether the paths are all of the project that an update would change.
@@ -73,18 +145,25 @@ scc::Long GetFiles(Session& session, Names names, const CommandOptions& options)
   if (statuses.Result < 0) return statuses.Result;
 
   std::vector<std::string> stale;
-  for (const auto& path : paths) {
-    const FileStatus status = statuses.Of(path);
-    if (status.Bits == 0)
-      outcome.Fail(path, scc::SCC_E_FILENOTCONTROLLED, sNotControlled.Text);
-    else if (status.NeedsGet)
-      stale.push_back(path);
-  }
+  std::vector<MadeRoom> rooms;
+  for (const auto& path : paths)
+    outcome.Try(path, [&] {
+      const FileStatus status = statuses.Of(path);
+      const Step step = Require(StateOf(session, path, status), Command::Get);
+      if (step == Step::Settle) Settle(session, path);
+      if (step == Step::MakeRoom) rooms.emplace_back(session, path);
+      if (step != Step::Nothing && status.NeedsGet) stale.push_back(path);
+    });
   if (stale.empty() && outcome.Result() == scc::SCC_OK) TellUpToDate(session, paths);
   if (stale.size() > 1 && CoverEverything(statuses, stale)) {
     UpdateTo(session, {session.CurrentProject().Folder}, svn_depth_infinity, Reach::Set);
+    for (const auto& path : stale) outcome.Try(path, [&] { RequireNoConflict(session, path); });
   } else {
-    for (const auto& path : stale) outcome.Try(path, [&] { Update(session, {path}); });
+    for (const auto& path : stale)
+      outcome.Try(path, [&] {
+        Update(session, {path});
+        RequireNoConflict(session, path);
+      });
   }
   return outcome.Result();
 }
@@ -94,7 +173,7 @@ scc::Long GetFolders(Session& session, Names names, Below below, const CommandOp
   EnsureWorkingCopy(session);
   const auto revision = SVN_IS_VALID_REVNUM(options.GetRevision) ? Numbered(options.GetRevision) : Newest();
   for (const auto& path : outcome.PathsOf(names))
-    outcome.Try(path, [&] { GetFolder(session, path, below, revision); });
+    outcome.Try(path, [&] { GetFolder(session, path, below, revision, outcome); });
   return outcome.Result();
 }
 

@@ -1,10 +1,15 @@
 // Check-out and its undoing: locks.
+#include <svn_dirent_uri.h>
+
 #include <algorithm>
 
+#include "CommandTable.h"
 #include "Commands.h"
 #include "LocalStatus.h"
 #include "Nodes.h"
 #include "Question.h"
+#include "Repository.h"
+#include "SetAside.h"
 #include "SubversionSccStrings.h"
 
 namespace svnscc {
@@ -71,20 +76,66 @@ void Renew(Session& session, const std::string& path) {
   if ((AskStatus(session, path).Bits & scc::SCC_STATUS_DELETED) != 0)
     throw Failure(scc::SCC_E_FILENOTCONTROLLED, sDeletedInRepository);
   Update(session, {path});
+  const LocalStatus local = AskLocal(session, path);
+  if (local.IsConflicted()) Require(StateOf(local), Command::CheckOut);
+}
+
+/// Fetches the repository's version of a file that stands in its way, if both are the same.
+void Adopt(Session& session, const std::string& path) {
+  const char* inside = svn_dirent_skip_ancestor(session.CurrentProject().Folder.c_str(), path.c_str());
+  const Contents theirs = ContentsOf(session.Svn(), UrlOf(session.CurrentProject().Url, inside), Newest());
+  if (theirs.Bytes != ContentsOnDisk(path).Bytes) {
+    const Rule rule = RuleFor(FileState::InTheWay, Command::CheckOut);
+    throw Failure(rule.answer, rule.reason);
+  }
+  const MadeRoom room(session, path);
+  Update(session, {path});
+}
+
+/// What the working copy does not have the repository is asked about.
+FileState StateFor(Session& session, const std::string& path, const LocalStatus& local) {
+  const FileState state = StateOf(local);
+  const bool unknown = state == FileState::Nowhere || state == FileState::Loose;
+  return unknown ? StateOf(session, path, AskStatus(session, path)) : state;
 }
 
 /// Fetches what is not here yet; false, with the failure noted, when there is nothing to lock.
 bool Prepare(Session& session, const std::string& path, Outcome& outcome) {
   return outcome.Try(path, [&] {
-    if (AskLocal(session, path).State != LocalState::Controlled) Update(session, {path});
+    const LocalStatus local = AskLocal(session, path);
+    if (local.IsFolder) throw Failure(scc::SCC_E_TYPENOTSUPPORTED, sNotAFile);
+    switch (Require(StateFor(session, path, local), Command::CheckOut)) {
+      case Step::Update:
+        Update(session, {path});
+        break;
+      case Step::Adopt:
+        Adopt(session, path);
+        break;
+      case Step::Settle:
+        Settle(session, path);
+        break;
+      default:
+        break;
+    }
     if (!AskLocal(session, path).IsControlled()) throw Failure(scc::SCC_E_FILENOTCONTROLLED, sNotControlled);
   });
 }
 
+/// Whether the check-out of the file can be undone, and how.  Nothing, when a file of a batch was never checked out.
+Step PrepareUndo(Session& session, const std::string& path, bool isBatch) {
+  const LocalStatus local = AskLocal(session, path);
+  FileState state = StateFor(session, path, local);
+  if (state == FileState::Edited && !local.HasLock) state = StateOf(session, path, AskStatus(session, path));
+  const Step step = Require(state, Command::Undo);
+  if (step == Step::GiveUp || local.HasLock) return step;
+  if (isBatch && !local.Modified) return Step::Nothing;
+  throw Failure(scc::SCC_E_NOTCHECKEDOUT, sNotCheckedOut);
+}
+
 }  // namespace
 
-void Lock(Session& session, const std::vector<std::string>& paths, const std::string& comment,
-          OthersLocks others, Outcome& outcome) {
+std::map<std::string, Failure> LockWhatCanBe(Session& session, const std::vector<std::string>& paths,
+                                             const std::string& comment, OthersLocks others) {
   auto refused = TryLock(session, paths, comment, others);
   std::vector<std::string> updated;
   for (auto& [path, refusal] : refused) {
@@ -99,15 +150,17 @@ void Lock(Session& session, const std::vector<std::string>& paths, const std::st
   for (const auto& path : updated) refused.erase(path);
   refused.merge(TryLock(session, updated, comment, others));
   TakeOver(session, comment, refused);
+  std::erase_if(refused, [&](const auto& entry) { return IsOutHere(session, entry.first, entry.second); });
+  for (auto& [path, refusal] : refused) refusal = Explain(session, path, refusal);
+  for (const auto& path : paths)
+    if (!refused.contains(path)) MakeWritable(path);
+  return refused;
+}
 
-  for (const auto& path : paths) {
-    const auto refusal = refused.find(path);
-    outcome.Try(path, [&] {
-      if (refusal != refused.end() && !IsOutHere(session, path, refusal->second))
-        throw Explain(session, path, refusal->second);
-      MakeWritable(path);
-    });
-  }
+void Lock(Session& session, const std::vector<std::string>& paths, const std::string& comment,
+          OthersLocks others, Outcome& outcome) {
+  for (const auto& [path, refusal] : LockWhatCanBe(session, paths, comment, others))
+    outcome.Fail(path, refusal);
 }
 
 void TellLockGone(Session& session, const std::string& path) {
@@ -137,10 +190,20 @@ void Unlock(Session& session, const std::vector<std::string>& paths, Outcome& ou
   session.Svn().Run(svn_client_unlock(ToArray(paths, pool), /*break_lock*/ FALSE, session.Context(), pool));
   for (const auto& [path, refusal] : session.TakeRefusals()) {
     // Someone broke the lock: what was wanted has happened.
-    if (refusal.Has(SVN_ERR_FS_NO_SUCH_LOCK) || refusal.Has(SVN_ERR_FS_BAD_LOCK_TOKEN))
+    if (refusal.Has(SVN_ERR_FS_NO_SUCH_LOCK) || refusal.Has(SVN_ERR_FS_BAD_LOCK_TOKEN) ||
+        refusal.Has(SVN_ERR_FS_NOT_FOUND))
       TellLockGone(session, path);
     else
       outcome.Fail(path, refusal);
+  }
+}
+
+void TellIdle(Session& session, const std::vector<std::string>& paths, bool othersWereOut, Outcome& outcome) {
+  for (const auto& path : paths) {
+    if (othersWereOut)
+      session.Out().Info(Format(sLeftAsItIs.Text, {session.Label(path)}));
+    else
+      outcome.Fail(path, scc::SCC_E_NOTCHECKEDOUT, sNotCheckedOut.Text);
   }
 }
 
@@ -153,23 +216,22 @@ scc::Long CheckOut(Session& session, Names names, const std::string& comment, co
   return outcome.Result();
 }
 
+// A client names the files that belong together, out or not: what was not out is no failure beside what was.
 scc::Long UndoCheckOut(Session& session, Names names) {
   Outcome outcome(session);
-  std::vector<std::string> wanted;
-  for (const auto& path : outcome.PathsOf(names)) {
+  std::vector<std::string> undone;
+  std::vector<std::string> idle;
+  const auto paths = outcome.PathsOf(names);
+  for (const auto& path : paths) {
     outcome.Try(path, [&] {
-      const LocalStatus local = AskLocal(session, path);
-      if (!local.IsControlled()) throw Failure(scc::SCC_E_FILENOTCONTROLLED, sNotControlled);
-      if (!local.HasLock) throw Failure(scc::SCC_E_NOTCHECKEDOUT, sNotCheckedOut);
-      wanted.push_back(path);
+      const bool nothing = PrepareUndo(session, path, paths.size() > 1) == Step::Nothing;
+      if (!nothing) GiveUp(session, path);
+      (nothing ? idle : undone).push_back(path);
     });
   }
-  if (wanted.empty()) return outcome.Result();
-  const Pool pool;
-  session.Svn().Run(svn_client_revert4(ToArray(wanted, pool), svn_depth_empty, nullptr, FALSE,
-                                       /*metadata_only*/ FALSE,
-                                       /*added_keep_local*/ TRUE, session.Context(), pool));
-  Unlock(session, wanted, outcome);
+  TellIdle(session, idle, !undone.empty(), outcome);
+  std::erase_if(undone, [&](const auto& path) { return !AskLocal(session, path).HasLock; });
+  Unlock(session, undone, outcome);
   return outcome.Result();
 }
 

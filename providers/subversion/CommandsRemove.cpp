@@ -1,23 +1,20 @@
 // Taking files out of the repository.
+#include "CommandTable.h"
 #include "Commands.h"
-#include "LocalStatus.h"
+#include "SetAside.h"
 #include "SubversionSccStrings.h"
 
 namespace svnscc {
 namespace {
 
-void CheckRemovable(const FileStatus& status) {
+/// Whether the file can be removed, and what comes before.
+Step PrepareRemoval(const Survey& survey, const std::string& path) {
+  const FileStatus status = survey.StatusOf(path);
   const auto has = [&](scc::Long bits) { return (status.Bits & bits) != 0; };
-  if (!has(scc::SCC_STATUS_CONTROLLED)) throw Failure(scc::SCC_E_FILENOTCONTROLLED, sNotControlled);
   if (status.IsFolder) throw Failure(scc::SCC_E_TYPENOTSUPPORTED, sNotAFile);
-  if (has(scc::SCC_STATUS_DELETED)) throw Failure(scc::SCC_E_FILENOTCONTROLLED, sDeletedInRepository);
   if (has(scc::SCC_STATUS_OUTBYUSER)) throw Failure(scc::SCC_E_FILEISCHECKEDOUT, sStillOut);
   if (has(scc::SCC_STATUS_OUTOTHER)) throw Failure(scc::SCC_E_FILEOUTEXCLUSIVE, sOutByOther);
-}
-
-/// Brings the file up to date where the repository would refuse to delete an old one.
-void MakeCurrent(Session& session, const std::string& path, const FileStatus& status) {
-  if ((status.Bits & scc::SCC_STATUS_OUTOFDATE) != 0) Update(session, {path});
+  return Require(survey.StateOf(path), Command::Remove);
 }
 
 void ScheduleDeletion(Session& session, const std::vector<std::string>& paths, bool keepLocal) {
@@ -29,6 +26,7 @@ void ScheduleDeletion(Session& session, const std::vector<std::string>& paths, b
 
 /// Takes the deletion back; local edits stay.
 void Unschedule(Session& session, const std::vector<std::string>& paths) {
+  const Silence silence(session);
   const Pool pool;
   svn_error_clear(svn_client_revert4(ToArray(paths, pool), svn_depth_empty, nullptr, FALSE,
                                      /*metadata_only*/ TRUE,
@@ -40,18 +38,17 @@ void Unschedule(Session& session, const std::vector<std::string>& paths) {
 scc::Long Remove(Session& session, Names names, const std::string& comment) {
   Outcome outcome(session);
   const auto paths = outcome.PathsOf(names);
-  // One file is asked for alone; for more, one walk costs less.
-  const StatusTable walked = paths.size() > 1 ? WalkProject(session) : StatusTable{};
-  if (walked.Result < 0) return walked.Result;
+  const Survey survey(session, paths);
+  if (survey.Result() < 0) return survey.Result();
 
   std::vector<std::string> kept;     // the copies on disk stay
   std::vector<std::string> fetched;  // only the repository had them: nothing is left behind
   for (const auto& path : paths)
     outcome.Try(path, [&] {
       const bool onDisk = IsOnDisk(path);
-      const FileStatus status = paths.size() > 1 ? walked.Of(path) : AskStatus(session, path);
-      CheckRemovable(status);
-      MakeCurrent(session, path, status);
+      const Step step = PrepareRemoval(survey, path);
+      if (step == Step::Settle) Settle(session, path);
+      if (step == Step::Update) Update(session, {path});
       (onDisk ? kept : fetched).push_back(path);
     });
   if (kept.empty() && fetched.empty()) return outcome.Result();

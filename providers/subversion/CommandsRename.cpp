@@ -22,7 +22,7 @@ bool CheckSource(Session& session, const std::string& path) {
   if (has(scc::SCC_STATUS_DELETED)) throw Failure(scc::SCC_E_FILENOTCONTROLLED, sDeletedInRepository);
   if (has(scc::SCC_STATUS_OUTOTHER)) throw Failure(scc::SCC_E_FILEOUTEXCLUSIVE, sOutByOther);
   // The local edits would be laid over what others checked in.
-  if (has(scc::SCC_STATUS_OUTOFDATE) || local.Conflicted)
+  if (has(scc::SCC_STATUS_OUTOFDATE) || local.IsConflicted())
     throw Failure(scc::SCC_E_OPNOTPERFORMED, sGetBeforeRename);
   if (has(scc::SCC_STATUS_OUTBYUSER) && !has(scc::SCC_STATUS_CHECKEDOUT))
     throw Failure(scc::SCC_E_FILEISCHECKEDOUT, sOutElsewhere);

@@ -1,7 +1,6 @@
 #include "History.h"
 
 #include <svn_compat.h>
-#include <svn_io.h>
 #include <svn_path.h>
 #include <svn_props.h>
 #include <svn_time.h>
@@ -9,6 +8,7 @@
 #include "Commands.h"
 #include "LocalStatus.h"
 #include "Session.h"
+#include "SetAside.h"
 #include "WindowStrings.h"
 #include "host/System.h"
 
@@ -32,17 +32,6 @@ svn_error_t* TakeRevision(void* baton, svn_log_entry_t* entry, apr_pool_t* pool)
     if (date != nullptr) svn_error_clear(svn_time_from_cstring(&revision.When, date, pool));
     taker.revisions.push_back(std::move(revision));
   });
-}
-
-std::string FreeNameBeside(const std::string& path) {
-  std::string name = path + ".mine";
-  while (IsOnDisk(name)) name += "~";
-  return name;
-}
-
-void Copy(const std::string& from, const std::string& to) {
-  const Pool pool;
-  Check(svn_io_copy_file(from.c_str(), to.c_str(), /*copy_perms*/ FALSE, pool));
 }
 
 void Revert(Session& session, const std::string& path) {
@@ -105,11 +94,7 @@ GotRevision GetRevision(Session& session, const std::string& path, svn_revnum_t 
   const LocalStatus local = AskLocal(session, path);
   if (!local.HasLock) RequireSameName(session, {path, path}, revision);
   GotRevision got;
-  if (local.Differs) {
-    got.Copy = FreeNameBeside(path);
-    Copy(path, got.Copy);
-    session.Out().Info(Format(sEditsKept.Text, {session.Label(path), session.Label(got.Copy)}));
-  }
+  if (local.Differs) got.Copy = KeepCopy(session, path);
   if (local.HasLock) {
     WriteFileAtomically(path, ContentsOf(session.Svn(), path, Numbered(revision)).Bytes);
   } else {

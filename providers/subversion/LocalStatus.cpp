@@ -1,8 +1,14 @@
 #include "LocalStatus.h"
 
+#include <svn_client.h>
+#include <svn_dirent_uri.h>
 #include <svn_io.h>
+#include <svn_props.h>
+
+#include <cstring>
 
 #include "Session.h"
+#include "host/System.h"
 
 namespace svnscc {
 namespace {
@@ -28,6 +34,44 @@ bool IsChanged(svn_wc_status_kind kind) {
   return kind == svn_wc_status_modified || kind == svn_wc_status_conflicted;
 }
 
+/// Whether Subversion's marks of a conflict still stand in the text.
+bool HasConflictMarks(const std::string& path) {
+  const std::string text = "\n" + ReadWholeFile(path);
+  return text.find("\n<<<<<<< ") != std::string::npos || text.find("\n>>>>>>> ") != std::string::npos;
+}
+
+Conflict KindOfConflict(const Session& session, const std::string& path, bool isInRepository) {
+  const Pool pool;
+  svn_client_conflict_t* conflict = nullptr;
+  svn_boolean_t text = FALSE;
+  svn_boolean_t tree = FALSE;
+  apr_array_header_t* properties = nullptr;
+  Check(svn_client_conflict_get(&conflict, path.c_str(), session.Context(), pool, pool));
+  Check(svn_client_conflict_get_conflicted(&text, &properties, &tree, conflict, pool, pool));
+  if (tree) return isInRepository ? Conflict::Open : Conflict::Lost;
+  const char* type = svn_client_conflict_text_get_mime_type(conflict);
+  const bool merged = text && properties->nelts == 0 && (type == nullptr || !svn_mime_type_is_binary(type));
+  if (!merged) return Conflict::Open;
+  return HasConflictMarks(path) ? Conflict::Marked : Conflict::Edited;
+}
+
+/// The conflict of a folder above a file that libsvn kept as a copy of what was deleted.
+void InheritConflict(const Session& session, LocalStatus& status, const std::string& path) {
+  const std::string& top = session.CurrentProject().Folder;
+  const Pool pool;
+  for (const char* folder = path.c_str();
+       folder != top && !svn_dirent_is_root(folder, std::strlen(folder));) {
+    folder = svn_dirent_dirname(folder, pool);
+    svn_wc_status3_t* above = nullptr;
+    Check(svn_wc_status3(&above, session.Context()->wc_ctx, folder, pool, pool));
+    if (!above->copied) return;
+    if (!above->conflicted) continue;
+    status.Victim = folder;
+    status.Kind = KindOfConflict(session, folder, above->node_status == svn_wc_status_replaced);
+    return;
+  }
+}
+
 }  // namespace
 
 LocalStatus AskLocal(const Session& session, const std::string& path) {
@@ -48,7 +92,12 @@ LocalStatus AskLocal(const Session& session, const std::string& path) {
   result.IsFolder = status->kind == svn_node_dir;
   result.Differs = IsChanged(status->text_status);
   result.Modified = result.Differs || IsChanged(status->prop_status);
-  result.Conflicted = status->conflicted;
+  if (status->conflicted) {
+    result.Victim = path;
+    result.Kind = KindOfConflict(session, path, status->node_status != svn_wc_status_added);
+  } else if (status->copied) {
+    InheritConflict(session, result, path);
+  }
   result.HasLock = status->lock != nullptr;
   result.Depth = status->depth;
   return result;

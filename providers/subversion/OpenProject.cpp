@@ -73,7 +73,7 @@ bool IsWorkingCopyOf(Client& client, const Project& project) {
                                                                             ReadableUrl(project.Url)}));
 }
 
-// Nothing is fetched here: files come with the first get, and those of the same name that are here stay.
+// Nothing is fetched here: files come with the first get, which keeps those of the same name beside them.
 void MakeWorkingCopy(Client& client, const Project& project) {
   const Pool pool;
   svn_opt_revision_t head{};

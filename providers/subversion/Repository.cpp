@@ -24,6 +24,7 @@ svn_opt_revision_t Head() {
 }
 
 struct Listing {
+  svn_node_kind_t kind;
   std::vector<std::string> names;
   std::exception_ptr kept;
 };
@@ -32,8 +33,24 @@ svn_error_t* TakeEntry(void* baton, const char* path, const svn_dirent_t* entry,
                        const char*, const char*, const char*, apr_pool_t*) noexcept {
   auto& listing = *static_cast<Listing*>(baton);
   return Contain(listing.kept, [&] {
-    if (entry->kind == svn_node_dir && *path != '\0') listing.names.emplace_back(path);
+    if (entry->kind == listing.kind && (*path != '\0' || entry->kind == svn_node_file))
+      listing.names.emplace_back(path);
   });
+}
+
+/// The entries of `kind` below `url`, sorted.
+std::vector<std::string> List(Client& client, const std::string& url, svn_node_kind_t kind,
+                              svn_depth_t depth) {
+  const Pool pool;
+  const svn_opt_revision_t head = Head();
+  Listing listing{kind, {}, nullptr};
+  svn_error_t* error =
+      svn_client_list4(url.c_str(), &head, &head, nullptr, depth, SVN_DIRENT_KIND, /*fetch_locks*/ FALSE,
+                       /*include_externals*/ FALSE, TakeEntry, &listing, client.Context(), pool);
+  if (listing.kept != nullptr) Check(error, listing.kept);
+  client.Run(error);
+  std::sort(listing.names.begin(), listing.names.end());
+  return listing.names;
 }
 
 /// nullopt instead of an error: the text comes from a user or a client.
@@ -142,16 +159,12 @@ svn_node_kind_t KindOf(Client& client, const std::string& url) {
 }
 
 std::vector<std::string> FoldersIn(Client& client, const std::string& url) {
-  const Pool pool;
-  const svn_opt_revision_t head = Head();
-  Listing listing;
-  svn_error_t* error = svn_client_list4(
-      url.c_str(), &head, &head, nullptr, svn_depth_immediates, SVN_DIRENT_KIND, /*fetch_locks*/ FALSE,
-      /*include_externals*/ FALSE, TakeEntry, &listing, client.Context(), pool);
-  if (listing.kept != nullptr) Check(error, listing.kept);
-  client.Run(error);
-  std::sort(listing.names.begin(), listing.names.end());
-  return listing.names;
+  return List(client, url, svn_node_dir, svn_depth_immediates);
+}
+
+std::vector<std::string> FilesBelow(Client& client, const std::string& url) {
+  if (KindOf(client, url) == svn_node_none) return {};
+  return List(client, url, svn_node_file, svn_depth_infinity);
 }
 
 svn_revnum_t MakeFolder(Client& client, const std::string& url, const std::string& log) {

@@ -38,6 +38,9 @@ RepositoryPlace PlaceOf(Client& client, const std::string& url);
 svn_node_kind_t KindOf(Client& client, const std::string& url);
 /// The names of the folders in the folder at `url`, sorted.
 std::vector<std::string> FoldersIn(Client& client, const std::string& url);
+/// The files below `url` at any depth, by their paths relative to it; one of them is "" when `url` is a file.  None when
+/// there is nothing at `url`.
+std::vector<std::string> FilesBelow(Client& client, const std::string& url);
 /// Makes the folder with all folders above it; returns the revision.
 svn_revnum_t MakeFolder(Client& client, const std::string& url, const std::string& log);
 

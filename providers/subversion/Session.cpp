@@ -2,6 +2,8 @@
 
 #include <svn_dirent_uri.h>
 
+#include <unordered_set>
+
 #include "BadNames.h"
 #include "Commands.h"
 #include "Notices.h"
@@ -40,6 +42,7 @@ void Session::Close() {
   mark_ = {};
   journal_ = {};
   lastStatuses_ = {};
+  justAdded_.clear();
   refusals_.clear();
   leftOut_.clear();
   lostLocks_.clear();
@@ -138,6 +141,7 @@ void Outcome::Fail(const std::string& path, scc::Long result, const char* reason
 
 std::vector<std::string> Outcome::PathsOf(Names names) {
   std::vector<std::string> paths;
+  std::unordered_set<std::string> seen;
   paths.reserve(names.size());
   for (const char* name : names) {
     std::string path = session_.InsidePath(name);
@@ -145,7 +149,7 @@ std::vector<std::string> Outcome::PathsOf(Names names) {
       Fail(name, scc::SCC_E_FILESYNTAXERR, sNotUtf8.Text);
     else if (path.empty())
       Fail(name != nullptr ? name : "", scc::SCC_E_FILENOTCONTROLLED, sOutsideProject.Text);
-    else
+    else if (seen.insert(path).second)
       paths.push_back(std::move(path));
   }
   return paths;

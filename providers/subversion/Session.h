@@ -68,6 +68,9 @@ class Session {
   /// What the project's files were at the last status walk.
   StatusTable& LastStatuses() { return lastStatuses_; }
 
+  /// Files that were added since the project was opened, and in which revision.
+  std::map<std::string, svn_revnum_t>& JustAdded() { return justAdded_; }
+
   /// What the client carries for the commands; outlives projects.
   OptionBlocks& Options() { return options_; }
 
@@ -109,6 +112,7 @@ class Session {
   bool canCancel_ = false;  // a command runs, and was not cancelled
   std::chrono::steady_clock::time_point nextPoll_;
   StatusTable lastStatuses_;
+  std::map<std::string, svn_revnum_t> justAdded_;
   std::map<std::string, Failure> refusals_;
   std::set<std::string> leftOut_;
   std::vector<std::string> lostLocks_;
@@ -134,7 +138,7 @@ class Outcome {
     }
     return false;
   }
-  /// The names that lie inside the project, as paths; the others are failures.
+  /// The names that lie inside the project, as paths, each once; the others are failures.
   std::vector<std::string> PathsOf(Names names);
   scc::Long Result() const { return result_; }
 

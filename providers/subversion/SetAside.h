@@ -1,7 +1,7 @@
-// Keeping a file that libsvn must not see or touch for a while.
+// Keeping files that libsvn must not see or touch.
 #pragma once
 
-#include <svn_io.h>
+#include <svn_client.h>
 
 #include <string>
 
@@ -10,31 +10,53 @@
 
 namespace svnscc {
 
-/// A file out of libsvn's sight while this lives.
+void RenameOnDisk(const std::string& from, const std::string& to);
+
+/// A file or folder out of libsvn's sight while this lives.  What takes its name meanwhile is lost.
 class SetAside {
  public:
-  explicit SetAside(const std::string& path) : path_(path), aside_(path + ".scc-aside") {
-    while (IsOnDisk(aside_)) aside_ += "~";
-    Move(path_, aside_);
-  }
+  explicit SetAside(const std::string& path);
   SetAside(const SetAside&) = delete;
   SetAside& operator=(const SetAside&) = delete;
-  ~SetAside() {
-    try {
-      Move(aside_, path_);
-    } catch (
-        const Failure&) {  // both names are in one folder, which was just writable; nothing is lost either way
-    }
-  }
+  ~SetAside();
 
  private:
-  static void Move(const std::string& from, const std::string& to) {
-    const Pool pool;
-    Check(svn_io_file_rename2(from.c_str(), to.c_str(), /*flush_to_disk*/ FALSE, pool));
-  }
-
   std::string path_;
   std::string aside_;
+};
+
+/// A free name in the folder of `path` for a copy of it.
+std::string FreeNameBeside(const std::string& path);
+/// Copies a file to a free name beside it, tells the user, and returns the name.  Throws Failure.
+std::string KeepCopy(Session& session, const std::string& path);
+
+/// Makes room for a file of the repository where a file stands that never came from it.
+class MadeRoom {
+ public:
+  MadeRoom(Session& session, std::string path);
+  MadeRoom(MadeRoom&& other) noexcept;
+  MadeRoom& operator=(MadeRoom&&) = delete;
+  /// Puts the file back when nothing took its place.  Otherwise it stays beside, under a name that the user is told,
+  /// unless it says the same as what was fetched.
+  ~MadeRoom();
+
+ private:
+  Session* session_;
+  std::string path_;
+  std::string copy_;
+};
+
+/// No notice reaches the user while this lives: what libsvn does is a step that the user did not ask for.
+class Silence {
+ public:
+  explicit Silence(const Session& session);
+  Silence(const Silence&) = delete;
+  Silence& operator=(const Silence&) = delete;
+  ~Silence();
+
+ private:
+  svn_client_ctx_t* context_;
+  svn_wc_notify_func2_t notify_;
 };
 
 }  // namespace svnscc

@@ -4,11 +4,14 @@
 
 #include <algorithm>
 #include <cstring>
+#include <set>
 
 #include "BadNames.h"
+#include "LocalStatus.h"
 #include "Repository.h"
 #include "Session.h"
 #include "SubversionSccStrings.h"
+#include "WindowStrings.h"
 
 namespace svnscc {
 namespace {
@@ -30,6 +33,11 @@ scc::Long LockBits(const svn_lock_t* here, const svn_lock_t* lock, const std::st
 bool IsHere(const svn_client_status_t& status) {
   return status.versioned && status.node_status != svn_wc_status_added &&
          status.node_status != svn_wc_status_none;
+}
+
+/// A copy that was not committed.  libsvn makes one of what is changed here and deleted in the repository.
+bool IsCopy(const svn_client_status_t& status) {
+  return status.versioned && status.copied && status.node_status != svn_wc_status_deleted;
 }
 
 bool IsChange(svn_wc_status_kind kind) { return kind != svn_wc_status_none && kind != svn_wc_status_normal; }
@@ -65,6 +73,12 @@ void AddLocalState(Session& session, svn_client_status_t& status) {
   status.prop_status = local->prop_status;
   status.conflicted = local->conflicted;
 }
+/// A file or folder that libsvn reports without a word on what lies below it.
+struct Root {
+  std::string path;
+  bool inConflict;    // deleted or replaced in the repository, and changed here
+  bool mayHoldFiles;  // the repository has a folder of that name
+};
 
 struct Walk {
   Session& session;
@@ -74,8 +88,19 @@ struct Walk {
   StatusTable& table;
   std::vector<std::string>
       shadowed;  // in the repository, and a local file of that name that is not controlled
+  std::vector<Root> roots;
+  std::vector<std::pair<std::string, FileStatus>> copies;
   std::exception_ptr kept;
 };
+
+void NoteRoot(Walk& walk, const svn_client_status_t& status) {
+  if (status.conflicted && status.copied)
+    walk.roots.push_back({status.local_abspath, true, status.node_status == svn_wc_status_replaced});
+  else if (status.repos_node_status == svn_wc_status_deleted && status.kind == svn_node_dir)
+    walk.roots.push_back({status.local_abspath, false, false});
+  else if (status.repos_node_status == svn_wc_status_replaced && status.kind == svn_node_dir)
+    walk.roots.push_back({status.local_abspath, false, true});
+}
 
 svn_error_t* TakeStatus(void* baton, const char*, const svn_client_status_t* status, apr_pool_t*) noexcept {
   auto& walk = *static_cast<Walk*>(baton);
@@ -83,9 +108,13 @@ svn_error_t* TakeStatus(void* baton, const char*, const svn_client_status_t* sta
     svn_client_status_t seen = *status;
     if (walk.byName) AddLocalState(walk.session, seen);
     if (!walk.online) seen.repos_lock = seen.lock;
+    NoteRoot(walk, seen);
     FileStatus file = ToFileStatus(seen, walk.user);
     if (walk.online) SettleLeftOver(walk.session, seen, file);
-    if (file.Bits != 0) walk.table.Put(seen.local_abspath, file);
+    if (IsCopy(seen))
+      walk.copies.emplace_back(seen.local_abspath, file);
+    else if (file.Bits != 0)
+      walk.table.Put(seen.local_abspath, file);
     if (IsOnlyInRepository(seen) && seen.node_status != svn_wc_status_none)
       walk.shadowed.emplace_back(seen.local_abspath);
   });
@@ -105,6 +134,54 @@ void AddLocksOfShadowed(StatusTable& table, Session& session, const std::vector<
   }
 }
 
+bool IsBelow(const std::string& path, const std::string& folder) {
+  return svn_dirent_is_ancestor(folder.c_str(), path.c_str());
+}
+
+/// What a file is whose copy is part of a conflict.
+FileStatus InConflict(FileStatus status, bool isInRepository) {
+  status.Bits |= scc::SCC_STATUS_CONTROLLED | scc::SCC_STATUS_MERGED;
+  if (!isInRepository) status.Bits |= scc::SCC_STATUS_DELETED;
+  status.IsHere = true;
+  return status;
+}
+
+/// The same for what lies below a folder that was deleted or replaced in the repository.
+FileStatus BelowStale(FileStatus status, bool isInRepository) {
+  status.Bits &= ~(scc::SCC_STATUS_DELETED | scc::SCC_STATUS_OUTOFDATE);
+  status.Bits |= isInRepository ? scc::SCC_STATUS_OUTOFDATE : scc::SCC_STATUS_DELETED;
+  status.NeedsGet = true;
+  return status;
+}
+
+/// What libsvn says of a folder that was deleted or replaced holds for the files in it.
+void Inherit(Walk& walk, Session& session) {
+  for (const Root& root : walk.roots) {
+    std::set<std::string> inRepository;
+    if (root.mayHoldFiles && walk.online) {
+      const char* inside =
+          svn_dirent_skip_ancestor(session.CurrentProject().Folder.c_str(), root.path.c_str());
+      for (const auto& file : FilesBelow(session.Svn(), UrlOf(session.CurrentProject().Url, inside)))
+        inRepository.insert(file.empty() ? root.path : root.path + "/" + file);
+    }
+    for (const auto& [path, status] : walk.copies)
+      if (root.inConflict && IsBelow(path, root.path))
+        walk.table.Put(path, InConflict(status, inRepository.contains(path) ||
+                                                    (path == root.path && root.mayHoldFiles)));
+    for (auto& [path, status] : walk.table.Entries())
+      if (!root.inConflict && path != root.path && IsBelow(path, root.path))
+        status = BelowStale(status, inRepository.contains(path));
+    for (const auto& path : inRepository) {
+      if (walk.table.Of(path).Bits != 0) continue;
+      FileStatus unseen;
+      unseen.Bits = scc::SCC_STATUS_CONTROLLED | scc::SCC_STATUS_OUTOFDATE;
+      unseen.NeedsGet = true;
+      walk.table.Put(path, unseen);
+      walk.shadowed.push_back(path);
+    }
+  }
+}
+
 enum class Ask { Repository, WorkingCopy };
 
 enum class Read { Folders, NamedFiles };
@@ -114,7 +191,7 @@ void WalkInto(StatusTable& table, Session& session, const std::string& path, svn
   const Pool pool;
   const bool online = ask == Ask::Repository;
   const bool byName = read == Read::NamedFiles;
-  Walk walk{session, session.Svn().User(), online, byName, table, {}, nullptr};
+  Walk walk{session, session.Svn().User(), online, byName, table, {}, {}, {}, nullptr};
   svn_opt_revision_t head{};
   head.kind = svn_opt_revision_head;
   svn_error_t* error = svn_client_status6(
@@ -126,6 +203,7 @@ void WalkInto(StatusTable& table, Session& session, const std::string& path, svn
     std::rethrow_exception(walk.kept);
   }
   session.Svn().Run(error);
+  Inherit(walk, session);
   AddLocksOfShadowed(table, session, walk.shadowed);
 }
 
@@ -140,6 +218,13 @@ void WalkInto(StatusTable& table, Session& session, const std::string& path, svn
     table = {};
     WalkInto(table, session, path, depth, ask, Read::NamedFiles);
   }
+}
+
+bool IsFolderKnown(Session& session, const std::string& path) {
+  if (path == session.CurrentProject().Folder) return true;
+  const Pool pool;
+  const LocalState state = AskLocal(session, svn_dirent_dirname(path.c_str(), pool)).State;
+  return state != LocalState::Absent && state != LocalState::Unversioned;
 }
 
 /// What the working copy knows, when the repository could not be asked.
@@ -172,13 +257,14 @@ std::vector<std::string> StatusTable::Files() const {
 FileStatus ToFileStatus(const svn_client_status_t& status, const std::string& user) {
   const bool onlyInRepository = IsOnlyInRepository(status);
   if (status.file_external || status.node_status == svn_wc_status_external) return {};
-  if (!IsHere(status) && !onlyInRepository) return {};
+  if (!IsHere(status) && !onlyInRepository && !IsCopy(status)) return {};
 
   const bool deleted = status.repos_node_status == svn_wc_status_deleted;
   const bool newer = onlyInRepository ||
                      (!deleted && (IsChange(status.repos_node_status) || IsChange(status.repos_text_status) ||
                                    IsChange(status.repos_prop_status)));
   FileStatus result;
+  result.IsHere = IsHere(status);
   result.Bits = scc::SCC_STATUS_CONTROLLED | LockBits(status.lock, status.repos_lock, user);
   if (deleted) result.Bits |= scc::SCC_STATUS_DELETED;
   if (newer) result.Bits |= scc::SCC_STATUS_OUTOFDATE;
@@ -202,9 +288,22 @@ const StatusTable& WalkProject(Session& session) {
 }
 
 FileStatus AskStatus(Session& session, const std::string& path) {
+  const LocalStatus local = AskLocal(session, path);
+  if (!local.IsConflicted() && IsFolderKnown(session, path)) {
+    StatusTable table;
+    WalkInto(table, session, path, svn_depth_empty, Ask::Repository);
+    return table.Of(path);
+  }
+  // libsvn says nothing of a file below a folder that it does not know, or that is in conflict itself.
+  const StatusTable& walked = WalkProject(session);
+  if (walked.Result < 0) throw Failure(walked.Result, sNotAsked);
+  return walked.Of(path);
+}
+
+std::map<std::string, FileStatus> LocalEntries(Session& session, const std::string& folder) {
   StatusTable table;
-  WalkInto(table, session, path, svn_depth_empty, Ask::Repository);
-  return table.Of(path);
+  WalkInto(table, session, folder, svn_depth_infinity, Ask::WorkingCopy);
+  return {table.Entries().begin(), table.Entries().end()};
 }
 
 void NoteCommand(Session& session, std::span<const char* const> names) {

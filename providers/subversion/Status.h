@@ -3,6 +3,7 @@
 
 #include <svn_client.h>
 
+#include <map>
 #include <span>
 #include <string>
 #include <unordered_map>
@@ -21,6 +22,8 @@ struct FileStatus {
   bool NeedsGet = false;
   /// Locked in the repository by a check-out that was interrupted here: can be taken over.
   bool LeftOver = false;
+  /// The working copy has it, though perhaps not on disk.
+  bool IsHere = false;
 };
 
 /// Statuses by absolute path as libsvn spells it.
@@ -29,6 +32,7 @@ class StatusTable {
   void Put(const std::string& path, const FileStatus& status);
   /// The status of a path; one that is not listed is not controlled.
   FileStatus Of(const std::string& path) const;
+  std::unordered_map<std::string, FileStatus>& Entries() { return entries_; }
   /// All controlled files, sorted.
   std::vector<std::string> Files() const;
   /// SCC_OK, or why the repository could not be asked: then the table holds what the working copy knows.
@@ -40,8 +44,10 @@ class StatusTable {
 
 /// One walk over the whole project folder and the repository.  Also keeps a copy as the session's last statuses.
 const StatusTable& WalkProject(Session& session);
-/// The status of one path, asked of the repository.  Throws Failure.
+/// The status of one path, asked of the repository: for one file that costs less than a walk.  Throws Failure.
 FileStatus AskStatus(Session& session, const std::string& path);
+/// What the working copy knows of a folder and of all that lies below it, sorted by path.  Nothing is asked.
+std::map<std::string, FileStatus> LocalEntries(Session& session, const std::string& folder);
 /// Queues what a command that succeeded for all of these files made of them, from the working copy's knowledge.
 void NoteCommand(Session& session, std::span<const char* const> names);
 /// The bits of one libsvn status for `user`.

@@ -22,7 +22,7 @@ constexpr TResString sMerged{"Merged changes from the repository into %s."};
 constexpr TResString sConflict{
     "Changes from the repository conflict with yours in %s: edit the marked places, then check it in."};
 constexpr TResString sTreeConflict{
-    "%s was changed here, and moved or deleted in the repository: it was left as it is."};
+    "%s was changed here, and moved, deleted or replaced in the repository: it was left as it is."};
 constexpr TResString sKeptExisting{"%s was here already and was kept."};
 constexpr TResString sUpdateDeleted{"%s was deleted in the repository and removed here."};
 constexpr TResString sLockGone{"The lock on %s was taken away in the repository."};
@@ -54,7 +54,24 @@ constexpr TResString sStillOut{"the file is checked out: check it in or undo the
 constexpr TResString sDeletedInRepository{"the file was deleted in the repository"};
 constexpr TResString sAlreadyControlled{"the file is under source control already"};
 constexpr TResString sNotAFile{"it is not a file"};
-constexpr TResString sConflictMarks{"the file still has conflict marks: edit the marked places first"};
+constexpr TResString sConflictMarks{
+    "the file still has conflict marks: edit the marked places and check it in, or undo the check-out"};
+constexpr TResString sOpenConflict{
+    "it was changed here and in the repository, and the two versions could not be merged: Undo Check Out takes the "
+    "repository's and keeps yours in a copy"};
+constexpr TResString sLostConflict{
+    "it was changed here, and moved or deleted in the repository: Add brings your version back, Undo Check Out gives it "
+    "up and keeps a copy"};
+constexpr TResString sInTheWay{
+    "a file of that name is here which never came from the repository: Get Latest Version fetches the repository's and "
+    "keeps yours in a copy"};
+constexpr TResString sNeverSeen{
+    "the repository has a version that you do not have: get the latest version first"};
+constexpr TResString sCheckedInAhead{
+    "it was changed in the repository meanwhile: get the latest version, then check it in"};
+constexpr TResString sLeftAsItIs{"%s is not checked out here: it was left as it is."};
+constexpr TResString sAddedAlready{"%s was added already."};
+constexpr TResString sAddedNotOut{"%s was added, and could not be checked out: %s"};
 constexpr TResString sStatusFailed{"The repository could not be asked: %s"};
 
 // Opening a project

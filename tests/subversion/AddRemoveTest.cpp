@@ -32,9 +32,11 @@ TEST_F(Files, StoryOfAFile) {
   EXPECT_EQ("*", repository.Property("project/src/deep/unit1.pas", "svn:needs-lock"));
   EXPECT_FALSE(ann.IsWritable("src/deep/unit1.pas"));
   EXPECT_EQ(kControlled, ann.Status("src/deep/unit1.pas"));
-  EXPECT_EQ(scc::SCC_E_FILEALREADYEXISTS, ann.Add({"src/deep/unit1.pas"}));
+  EXPECT_EQ(scc::SCC_OK, ann.Add({"src/deep/unit1.pas"})) << "a form is named twice when it goes with its unit";
+  EXPECT_EQ("I src/deep/unit1.pas was added already.\n", ann.Said());
 
   BobJoins();
+  EXPECT_EQ(scc::SCC_E_FILEALREADYEXISTS, bob.Add({"src/deep/unit1.pas"}));
   EXPECT_EQ("1\n", bob.Read("src/deep/unit1.pas"));
   EXPECT_FALSE(bob.IsWritable("src/deep/unit1.pas"));
 
@@ -89,7 +91,14 @@ TEST_F(Files, ANameThatTheColleagueAddedFirstIsNotOverwritten) {
   EXPECT_EQ(scc::SCC_E_FILEALREADYEXISTS, bob.Add({"sub/unit1.pas"})) << bob.Said();
   EXPECT_EQ("bob\n", bob.Read("sub/unit1.pas"));
   EXPECT_EQ("ann\n", repository.Contents("project/sub/unit1.pas"));
-  EXPECT_NE(0, bob.Status("sub/unit1.pas") & scc::SCC_STATUS_MODIFIED);
+  // Nor is it later: his stays beside hers when he takes it.
+  EXPECT_EQ(scc::SCC_E_OPNOTPERFORMED, bob.CheckOut({"sub/unit1.pas"})) << bob.Said();
+  EXPECT_EQ(scc::SCC_E_CHECKINCONFLICT, bob.Remove({"sub/unit1.pas"}));
+  EXPECT_EQ(kControlled | scc::SCC_STATUS_OUTOFDATE, bob.Status("sub/unit1.pas"));
+  ASSERT_EQ(scc::SCC_OK, bob.Get({"sub/unit1.pas"}));
+  EXPECT_THAT(bob.Said(), HasSubstr("kept in sub/unit1.pas.mine"));
+  EXPECT_EQ("ann\n", bob.Read("sub/unit1.pas"));
+  EXPECT_EQ("bob\n", bob.Read("sub/unit1.pas.mine"));
 }
 
 TEST_F(Files, WhatTheColleagueDeletedCanBeAddedAgain) {

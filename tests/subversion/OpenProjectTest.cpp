@@ -53,8 +53,9 @@ TEST_F(OpenProject, ExistingFilesOfTheSameNameStay) {
   bob.Write("unit1.pas", "bob's own\n");
   ASSERT_EQ(scc::SCC_OK, bob.Open(repository.Url(), "project"));
   ASSERT_EQ(scc::SCC_OK, bob.GetEverything());
-  EXPECT_EQ("bob's own\n", bob.Read("unit1.pas"));
-  EXPECT_EQ(0x0801, bob.Status("unit1.pas"));
+  EXPECT_EQ("bob's own\n", bob.Read("unit1.pas.mine"));
+  EXPECT_EQ("in the repository\n", bob.Read("unit1.pas"));
+  EXPECT_EQ(0x0001, bob.Status("unit1.pas"));
 }
 
 TEST_F(OpenProject, TheFolderCanBeALink) {

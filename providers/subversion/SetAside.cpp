@@ -1,0 +1,104 @@
+#include "SetAside.h"
+
+#include <svn_dirent_uri.h>
+#include <svn_io.h>
+
+#include <filesystem>
+#include <utility>
+
+#include "Session.h"
+#include "WindowStrings.h"
+#include "host/System.h"
+
+namespace svnscc {
+namespace {
+
+constexpr std::size_t kLongestName = 255;
+
+std::string Beside(const std::string& path, const std::string& name) {
+  const Pool pool;
+  return svn_dirent_join(svn_dirent_dirname(path.c_str(), pool), name.c_str(), pool);
+}
+
+std::string FreeName(std::string name) {
+  while (IsOnDisk(name)) name += "~";
+  return name;
+}
+
+bool SameContents(const std::string& left, const std::string& right) {
+  const Pool pool;
+  svn_boolean_t same = FALSE;
+  svn_error_t* error = svn_io_files_contents_same_p(&same, left.c_str(), right.c_str(), pool);
+  svn_error_clear(error);
+  return error == SVN_NO_ERROR && same;
+}
+
+}  // namespace
+
+void RenameOnDisk(const std::string& from, const std::string& to) {
+  const Pool pool;
+  Check(svn_io_file_rename2(from.c_str(), to.c_str(), /*flush_to_disk*/ FALSE, pool));
+}
+
+// The name is its own: a long one with something behind it would be too long.
+SetAside::SetAside(const std::string& path) : path_(path), aside_(FreeName(Beside(path, "scc-aside"))) {
+  RenameOnDisk(path_, aside_);
+}
+
+SetAside::~SetAside() {
+  try {
+    std::error_code ignored;
+    std::filesystem::remove_all(path_, ignored);
+    RenameOnDisk(aside_, path_);
+  } catch (const std::exception&) {
+    // Both names are in one folder, which was just writable; nothing is lost either way.
+  }
+}
+
+std::string FreeNameBeside(const std::string& path) {
+  constexpr std::string_view kEnding = ".mine";
+  constexpr std::size_t kRoom = 8;  // for more of them
+  const Pool pool;
+  const std::string name = svn_dirent_basename(path.c_str(), pool);
+  return FreeName(Beside(
+      path, std::string(CutAtCharacter(name, kLongestName - kEnding.size() - kRoom)) + std::string(kEnding)));
+}
+
+std::string KeepCopy(Session& session, const std::string& path) {
+  const Pool pool;
+  std::string copy = FreeNameBeside(path);
+  Check(svn_io_copy_file(path.c_str(), copy.c_str(), /*copy_perms*/ FALSE, pool));
+  session.Out().Info(Format(sEditsKept.Text, {session.Label(path), session.Label(copy)}));
+  return copy;
+}
+
+MadeRoom::MadeRoom(Session& session, std::string path)
+    : session_(&session), path_(std::move(path)), copy_(FreeNameBeside(path_)) {
+  RenameOnDisk(path_, copy_);
+}
+
+MadeRoom::MadeRoom(MadeRoom&& other) noexcept
+    : session_(std::exchange(other.session_, nullptr)),
+      path_(std::move(other.path_)),
+      copy_(std::move(other.copy_)) {}
+
+MadeRoom::~MadeRoom() {
+  if (session_ == nullptr) return;
+  try {
+    std::error_code ignored;
+    if (!IsOnDisk(path_))
+      RenameOnDisk(copy_, path_);
+    else if (SameContents(path_, copy_))
+      std::filesystem::remove(copy_, ignored);
+    else
+      session_->Out().Warning(Format(sEditsKept.Text, {session_->Label(path_), session_->Label(copy_)}));
+  } catch (const std::exception&) {  // the file stays under its new name, beside the old one
+  }
+}
+
+Silence::Silence(const Session& session)
+    : context_(session.Context()), notify_(std::exchange(context_->notify_func2, nullptr)) {}
+
+Silence::~Silence() { context_->notify_func2 = notify_; }
+
+}  // namespace svnscc
