@@ -38,6 +38,10 @@ void Update(Session& session, const std::vector<std::string>& paths);
 void UpdateTo(Session& session, const std::vector<std::string>& paths, const svn_opt_revision_t& revision);
 /// Takes a conflict in a text for settled.
 void Settle(Session& session, const std::string& path);
+/// End conflicts of folders: above these files, or of all below a folder.  Edits stay where the repository has no such
+/// file, and in copies beside the repository's otherwise.
+void SettleFoldersAbove(Session& session, const std::vector<std::string>& paths);
+void SettleFoldersBelow(Session& session, const std::string& folder);
 /// Makes the working copy forget a file that was deleted in the repository, with the folders above it that were deleted,
 /// too.  All files in them stay on disk.
 void Forget(Session& session, const std::string& path);

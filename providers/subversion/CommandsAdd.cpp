@@ -195,11 +195,11 @@ svn_revnum_t RevisionOf(Session& session, const std::string& path) {
 
 /// Takes those out of `paths` that this session added and nobody touched since, and returns them: clients name a form
 /// twice when they add it with its unit.
-std::vector<std::string> TakeJustAdded(Session& session, std::vector<std::string>& paths) {
+std::vector<std::string> TakeJustAdded(Session& session, const Survey& survey,
+                                       std::vector<std::string>& paths) {
   const auto isKnown = [&](const std::string& path) {
     const auto added = session.JustAdded().find(path);
-    if (added == session.JustAdded().end()) return false;
-    return StateOf(AskLocal(session, path)) == FileState::Current &&
+    return added != session.JustAdded().end() && survey.StateOf(path) == FileState::Current &&
            RevisionOf(session, path) == added->second;
   };
   const auto split = std::stable_partition(paths.begin(), paths.end(), std::not_fn(isKnown));
@@ -238,15 +238,17 @@ scc::Long Add(Session& session, Names names, const std::string& comment, scc::Lo
   Outcome outcome(session);
   EnsureWorkingCopy(session);
   auto paths = outcome.PathsOf(names);
-  std::vector<std::string> known = TakeJustAdded(session, paths);
+  SettleFoldersAbove(session, paths);
   const Survey survey(session, paths);
   if (survey.Result() < 0) return survey.Result();
+  const bool isAlone = paths.size() == 1;
+  const std::vector<std::string> known = TakeJustAdded(session, survey, paths);
 
   Addition addition(session, comment, outcome);
   std::vector<std::string> added;
   try {
     for (const auto& path : paths)
-      outcome.Try(path, [&] { addition.Take(path, type, options, survey, paths.size() == 1); });
+      outcome.Try(path, [&] { addition.Take(path, type, options, survey, isAlone); });
     added = addition.Run();
   } catch (const Failure&) {
     addition.Abandon();

@@ -86,6 +86,7 @@ scc::Long CheckIn(Session& session, Names names, const std::string& comment, Aft
   Outcome outcome(session);
   Batch batch;
   const auto paths = outcome.PathsOf(names);
+  SettleFoldersAbove(session, paths);
   for (const auto& path : paths) outcome.Try(path, [&] { Sort(session, path, paths.size() == 1, batch); });
 
   if (!batch.changed.empty()) {

@@ -87,6 +87,8 @@ void TellConflicts(Session& session, const std::string& folder, Outcome& outcome
 
 void GetFolder(Session& session, const std::string& path, Below below, const svn_opt_revision_t& revision,
                Outcome& outcome) {
+  SettleFoldersAbove(session, {path});
+  const bool wasKnown = AskLocal(session, path).IsControlled();
   {
     const auto rooms = MakeRoomBelow(session, path, below);
     try {
@@ -97,7 +99,12 @@ void GetFolder(Session& session, const std::string& path, Below below, const svn
       UpdateFolder(session, path, below, revision);
     }
   }
-  if (!AskLocal(session, path).IsControlled()) throw Failure(scc::SCC_E_FILENOTCONTROLLED, sNotControlled);
+  const LocalStatus after = AskLocal(session, path);
+  if (after.IsConflicted() || after.IsControlled()) SettleFoldersBelow(session, path);
+  if (!AskLocal(session, path).IsControlled()) {
+    if (wasKnown) return;  // it was deleted in the repository
+    throw Failure(scc::SCC_E_FILENOTCONTROLLED, sNotControlled);
+  }
   TellConflicts(session, path, outcome);
 }
 
@@ -137,6 +144,7 @@ scc::Long GetFiles(Session& session, Names names, const CommandOptions& options)
   Outcome outcome(session);
   const auto paths = outcome.PathsOf(names);
   EnsureWorkingCopy(session);
+  SettleFoldersAbove(session, paths);
   if (SVN_IS_VALID_REVNUM(options.GetRevision)) {
     for (const auto& path : paths) outcome.Try(path, [&] { GetOld(session, path, options.GetRevision); });
     return outcome.Result();
@@ -157,6 +165,7 @@ scc::Long GetFiles(Session& session, Names names, const CommandOptions& options)
   if (stale.empty() && outcome.Result() == scc::SCC_OK) TellUpToDate(session, paths);
   if (stale.size() > 1 && CoverEverything(statuses, stale)) {
     UpdateTo(session, {session.CurrentProject().Folder}, svn_depth_infinity, Reach::Set);
+    SettleFoldersBelow(session, session.CurrentProject().Folder);
     for (const auto& path : stale) outcome.Try(path, [&] { RequireNoConflict(session, path); });
   } else {
     for (const auto& path : stale)

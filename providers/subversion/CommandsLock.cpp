@@ -210,7 +210,9 @@ void TellIdle(Session& session, const std::vector<std::string>& paths, bool othe
 scc::Long CheckOut(Session& session, Names names, const std::string& comment, const CommandOptions& options) {
   Outcome outcome(session);
   std::vector<std::string> wanted;
-  for (const auto& path : outcome.PathsOf(names))
+  const auto paths = outcome.PathsOf(names);
+  SettleFoldersAbove(session, paths);
+  for (const auto& path : paths)
     if (Prepare(session, path, outcome)) wanted.push_back(path);
   Lock(session, wanted, comment, options.StealLocks ? OthersLocks::Steal : OthersLocks::Respect, outcome);
   return outcome.Result();

@@ -38,6 +38,7 @@ void Unschedule(Session& session, const std::vector<std::string>& paths) {
 scc::Long Remove(Session& session, Names names, const std::string& comment) {
   Outcome outcome(session);
   const auto paths = outcome.PathsOf(names);
+  SettleFoldersAbove(session, paths);
   const Survey survey(session, paths);
   if (survey.Result() < 0) return survey.Result();
 

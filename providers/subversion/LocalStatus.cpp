@@ -40,7 +40,7 @@ bool HasConflictMarks(const std::string& path) {
   return text.find("\n<<<<<<< ") != std::string::npos || text.find("\n>>>>>>> ") != std::string::npos;
 }
 
-Conflict KindOfConflict(const Session& session, const std::string& path, bool isInRepository) {
+Conflict KindOfConflict(const Session& session, const std::string& path) {
   const Pool pool;
   svn_client_conflict_t* conflict = nullptr;
   svn_boolean_t text = FALSE;
@@ -48,10 +48,13 @@ Conflict KindOfConflict(const Session& session, const std::string& path, bool is
   apr_array_header_t* properties = nullptr;
   Check(svn_client_conflict_get(&conflict, path.c_str(), session.Context(), pool, pool));
   Check(svn_client_conflict_get_conflicted(&text, &properties, &tree, conflict, pool, pool));
-  if (tree) return isInRepository ? Conflict::Open : Conflict::Lost;
+  if (tree) {
+    const bool isLost = svn_client_conflict_get_incoming_change(conflict) == svn_wc_conflict_action_delete;
+    return isLost ? Conflict::Lost : Conflict::Open;
+  }
   const char* type = svn_client_conflict_text_get_mime_type(conflict);
   const bool merged = text && properties->nelts == 0 && (type == nullptr || !svn_mime_type_is_binary(type));
-  if (!merged) return Conflict::Open;
+  if (!merged || !IsOnDisk(path)) return Conflict::Open;
   return HasConflictMarks(path) ? Conflict::Marked : Conflict::Edited;
 }
 
@@ -67,7 +70,7 @@ void InheritConflict(const Session& session, LocalStatus& status, const std::str
     if (!above->copied) return;
     if (!above->conflicted) continue;
     status.Victim = folder;
-    status.Kind = KindOfConflict(session, folder, above->node_status == svn_wc_status_replaced);
+    status.Kind = KindOfConflict(session, folder);
     return;
   }
 }
@@ -94,7 +97,7 @@ LocalStatus AskLocal(const Session& session, const std::string& path) {
   result.Modified = result.Differs || IsChanged(status->prop_status);
   if (status->conflicted) {
     result.Victim = path;
-    result.Kind = KindOfConflict(session, path, status->node_status != svn_wc_status_added);
+    result.Kind = KindOfConflict(session, path);
   } else if (status->copied) {
     InheritConflict(session, result, path);
   }

@@ -1,6 +1,9 @@
 // Ways out of conflicts and deletions.
 #include <svn_dirent_uri.h>
 
+#include <optional>
+#include <set>
+
 #include "CommandTable.h"
 #include "Commands.h"
 #include "SetAside.h"
@@ -8,13 +11,15 @@
 namespace svnscc {
 namespace {
 
-enum class Disk { Keep, Restore };
-
-void Revert(Session& session, const std::string& path, svn_depth_t depth, Disk disk) {
+void Revert(Session& session, const std::string& path, svn_depth_t depth) {
   const Pool pool;
-  session.Svn().Run(svn_client_revert4(ToArray({path}, pool), depth, nullptr, FALSE,
-                                       /*metadata_only*/ disk == Disk::Keep, /*added_keep_local*/ TRUE,
-                                       session.Context(), pool));
+  session.Svn().Run(svn_client_revert4(ToArray({path}, pool), depth, nullptr, FALSE, /*metadata_only*/ FALSE,
+                                       /*added_keep_local*/ TRUE, session.Context(), pool));
+}
+
+void RemoveFromDisk(const std::string& path) {
+  const Pool pool;
+  Check(svn_io_remove_file2(path.c_str(), /*ignore_enoent*/ TRUE, pool));
 }
 
 /// The file or the outermost folder above it that was deleted in the repository; empty when there is none.
@@ -28,47 +33,69 @@ std::string OutermostGone(Session& session, const std::string& path) {
   return gone;
 }
 
-struct EditedFiles {
-  std::vector<std::string> paths;
+struct CopiedFiles {
+  std::set<std::string> untouched;
   std::exception_ptr kept;
 };
 
-svn_error_t* TakeEdited(void* baton, const char* path, const svn_client_status_t* status,
+svn_error_t* TakeCopied(void* baton, const char* path, const svn_client_status_t* status,
                         apr_pool_t*) noexcept {
-  auto& edited = *static_cast<EditedFiles*>(baton);
-  const bool differs =
-      status->text_status == svn_wc_status_modified || status->text_status == svn_wc_status_conflicted;
-  return Contain(edited.kept, [&] {
-    if (status->kind == svn_node_file && differs && IsOnDisk(path)) edited.paths.emplace_back(path);
+  auto& copied = *static_cast<CopiedFiles*>(baton);
+  return Contain(copied.kept, [&] {
+    // One that was added is a file whose own conflict came first.
+    if (status->kind == svn_node_file && status->node_status == svn_wc_status_normal && !status->conflicted)
+      copied.untouched.insert(path);
   });
 }
 
-/// The edited files in a folder, or the file itself.
-std::vector<std::string> EditedBelow(Session& session, const std::string& path) {
+/// The files below a folder in which nobody typed.
+std::set<std::string> UntouchedBelow(Session& session, const std::string& folder) {
   const Pool pool;
   const svn_opt_revision_t unused{};
-  EditedFiles edited;
+  CopiedFiles copied;
   svn_error_t* error = svn_client_status6(
-      nullptr, session.Context(), path.c_str(), &unused, svn_depth_infinity, /*get_all*/ FALSE,
+      nullptr, session.Context(), folder.c_str(), &unused, svn_depth_infinity, /*get_all*/ TRUE,
       /*check_out_of_date*/ FALSE, /*check_working_copy*/ TRUE, /*no_ignore*/ FALSE,
-      /*ignore_externals*/ TRUE, /*depth_as_sticky*/ FALSE, nullptr, TakeEdited, &edited, pool);
-  Check(error, edited.kept);
-  return edited.paths;
+      /*ignore_externals*/ TRUE, /*depth_as_sticky*/ FALSE, nullptr, TakeCopied, &copied, pool);
+  Check(error, copied.kept);
+  return copied.untouched;
+}
+
+/// Makes the working copy know what the repository has of a file or folder, and leaves everything on disk.
+void RevertBehind(Session& session, const std::string& path) {
+  const Silence silence(session);
+  if (!IsOnDisk(path)) return Revert(session, path, svn_depth_infinity);
+  const SetAside aside(path);
+  Revert(session, path, svn_depth_infinity);
+}
+
+/// Ends a folder's conflict.  What was typed stays: as it is where the repository has no such file, in a copy beside the
+/// repository's otherwise.  What nobody touched becomes what the repository has, which may be nothing.
+void SettleFolder(Session& session, const std::string& folder) {
+  const std::set<std::string> untouched = UntouchedBelow(session, folder);
+  RevertBehind(session, folder);
+  for (const auto& [path, status] : LocalEntries(session, folder)) {
+    if (status.IsFolder || (status.Bits & scc::SCC_STATUS_MODIFIED) == 0) continue;
+    if (!untouched.contains(path)) KeepCopy(session, path);
+    const Silence silence(session);
+    Revert(session, path, svn_depth_empty);
+  }
+  for (const auto& path : untouched)
+    if (AskLocal(session, path).State == LocalState::Unversioned) RemoveFromDisk(path);
 }
 
 /// Keeps what is here beside the file, and makes the file what the working copy knows of it.
 void RevertWithCopy(Session& session, const std::string& path) {
   const auto local = AskLocal(session, path);
   if (local.Differs && IsOnDisk(path)) KeepCopy(session, path);
-  Revert(session, path, svn_depth_empty, Disk::Restore);
+  Revert(session, path, svn_depth_empty);
 }
 
 /// The file goes, the working copy having forgotten it; what was typed stays beside it.
 void TakeAway(Session& session, const std::string& path, bool edited) {
   if (!IsOnDisk(path)) return;
   if (edited) KeepCopy(session, path);
-  const Pool pool;
-  Check(svn_io_remove_file2(path.c_str(), /*ignore_enoent*/ TRUE, pool));
+  RemoveFromDisk(path);
 }
 
 }  // namespace
@@ -79,28 +106,46 @@ void Settle(Session& session, const std::string& path) {
                                        session.Context(), pool));
 }
 
-// libsvn takes away what it forgets, and calls an edited file a conflict: therefore it must not see the files.
+// libsvn takes away what it forgets, and calls an edited or missing file a conflict: therefore it sees unchanged files,
+// and not those that are here.
 void Forget(Session& session, const std::string& path) {
   const Silence silence(session);
   const LocalStatus local = AskLocal(session, path);
-  if (local.Kind == Conflict::Lost) return Revert(session, local.Victim, svn_depth_infinity, Disk::Keep);
+  if (local.Kind == Conflict::Lost) return RevertBehind(session, local.Victim);
   const std::string gone = OutermostGone(session, path);
   if (gone.empty()) return;
-  if (!IsOnDisk(gone)) return Update(session, {gone});
-  const SetAside aside(gone);
+  std::optional<SetAside> aside;
+  if (IsOnDisk(gone)) aside.emplace(gone);
+  Revert(session, gone, svn_depth_infinity);
   Update(session, {gone});
+}
+
+void SettleFoldersAbove(Session& session, const std::vector<std::string>& paths) {
+  std::set<std::string> folders;
+  for (const auto& path : paths)
+    if (path != session.CurrentProject().Folder) folders.insert(ParentOf(path));
+  for (const auto& folder : folders)
+    for (LocalStatus local = AskLocal(session, folder); local.IsConflicted();
+         local = AskLocal(session, folder))
+      SettleFolder(session, local.Victim);
+}
+
+void SettleFoldersBelow(Session& session, const std::string& folder) {
+  for (const auto& [path, status] : LocalEntries(session, folder)) {
+    if (!status.IsFolder || (status.Bits & scc::SCC_STATUS_MERGED) == 0) continue;
+    const LocalStatus local = AskLocal(session, path);
+    if (local.IsConflicted() && local.Victim == path) SettleFolder(session, path);
+  }
 }
 
 void GiveUp(Session& session, const std::string& path) {
   const LocalStatus local = AskLocal(session, path);
-  if (local.Kind == Conflict::Lost) {
-    Forget(session, path);
-    return TakeAway(session, path, local.Modified);
-  }
-  if (local.IsConflicted() && local.Victim != path) {
-    for (const auto& edited : EditedBelow(session, local.Victim)) KeepCopy(session, edited);
-    return Revert(session, local.Victim, svn_depth_infinity, Disk::Restore);
-  }
+  const bool edited = local.Modified;
+  if (local.IsConflicted() && local.Victim != path) SettleFoldersAbove(session, {path});
+  const LocalStatus now = AskLocal(session, path);
+  if (now.Kind == Conflict::Lost) Forget(session, path);
+  if (now.Kind == Conflict::Lost || now.State == LocalState::Unversioned)
+    return TakeAway(session, path, edited);
   RevertWithCopy(session, path);
   // Without a lock it was an edit of a file that the repository has no more.
   if (!local.IsConflicted() && !local.HasLock) Update(session, {path});

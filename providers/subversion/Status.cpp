@@ -37,6 +37,7 @@ bool IsHere(const svn_client_status_t& status) {
 
 /// A copy that was not committed.  libsvn makes one of what is changed here and deleted in the repository.
 bool IsCopy(const svn_client_status_t& status) {
+  if (status.node_status == svn_wc_status_missing) return status.conflicted;  // libsvn does not tell any more
   return status.versioned && status.copied && status.node_status != svn_wc_status_deleted;
 }
 
@@ -94,8 +95,8 @@ struct Walk {
 };
 
 void NoteRoot(Walk& walk, const svn_client_status_t& status) {
-  if (status.conflicted && status.copied)
-    walk.roots.push_back({status.local_abspath, true, status.node_status == svn_wc_status_replaced});
+  if (status.conflicted && IsCopy(status))
+    walk.roots.push_back({status.local_abspath, true, true});
   else if (status.repos_node_status == svn_wc_status_deleted && status.kind == svn_node_dir)
     walk.roots.push_back({status.local_abspath, false, false});
   else if (status.repos_node_status == svn_wc_status_replaced && status.kind == svn_node_dir)
@@ -140,22 +141,19 @@ bool IsBelow(const std::string& path, const std::string& folder) {
 
 /// What a file is whose copy is part of a conflict.
 FileStatus InConflict(FileStatus status, bool isInRepository) {
+  status.Bits &= ~scc::SCC_STATUS_DELETED;
   status.Bits |= scc::SCC_STATUS_CONTROLLED | scc::SCC_STATUS_MERGED;
   if (!isInRepository) status.Bits |= scc::SCC_STATUS_DELETED;
   status.IsHere = true;
   return status;
 }
 
-/// The same for what lies below a folder that was deleted or replaced in the repository.
-FileStatus BelowStale(FileStatus status, bool isInRepository) {
-  status.Bits &= ~(scc::SCC_STATUS_DELETED | scc::SCC_STATUS_OUTOFDATE);
-  status.Bits |= isInRepository ? scc::SCC_STATUS_OUTOFDATE : scc::SCC_STATUS_DELETED;
-  status.NeedsGet = true;
-  return status;
-}
+void AskBelow(Walk& walk, Session& session, const Root& root);
 
 /// What libsvn says of a folder that was deleted or replaced holds for the files in it.
 void Inherit(Walk& walk, Session& session) {
+  std::sort(walk.roots.begin(), walk.roots.end(),
+            [](const Root& a, const Root& b) { return a.path < b.path; });
   for (const Root& root : walk.roots) {
     std::set<std::string> inRepository;
     if (root.mayHoldFiles && walk.online) {
@@ -166,11 +164,8 @@ void Inherit(Walk& walk, Session& session) {
     }
     for (const auto& [path, status] : walk.copies)
       if (root.inConflict && IsBelow(path, root.path))
-        walk.table.Put(path, InConflict(status, inRepository.contains(path) ||
-                                                    (path == root.path && root.mayHoldFiles)));
-    for (auto& [path, status] : walk.table.Entries())
-      if (!root.inConflict && path != root.path && IsBelow(path, root.path))
-        status = BelowStale(status, inRepository.contains(path));
+        walk.table.Put(path, InConflict(status, inRepository.contains(path)));
+    if (!root.inConflict) AskBelow(walk, session, root);
     for (const auto& path : inRepository) {
       if (walk.table.Of(path).Bits != 0) continue;
       FileStatus unseen;
@@ -225,6 +220,23 @@ bool IsFolderKnown(Session& session, const std::string& path) {
   const Pool pool;
   const LocalState state = AskLocal(session, svn_dirent_dirname(path.c_str(), pool)).State;
   return state != LocalState::Absent && state != LocalState::Unversioned;
+}
+
+/// The files below a folder that was deleted in the repository were deleted with it.  When it was replaced, libsvn calls
+/// all of them deleted: each is asked for alone.
+void AskBelow(Walk& walk, Session& session, const Root& root) {
+  for (auto& [path, status] : walk.table.Entries()) {
+    if (path == root.path || !status.IsHere || !IsBelow(path, root.path)) continue;
+    if (root.mayHoldFiles) {
+      StatusTable alone;
+      WalkInto(alone, session, path, svn_depth_empty, Ask::Repository);
+      status = alone.Of(path);
+    } else {
+      status.Bits &= ~scc::SCC_STATUS_OUTOFDATE;
+      status.Bits |= scc::SCC_STATUS_DELETED;
+      status.NeedsGet = true;
+    }
+  }
 }
 
 /// What the working copy knows, when the repository could not be asked.

@@ -20,7 +20,7 @@ constexpr TResString sFetched{"Fetched %s."};
 constexpr TResString sUpdated{"Updated %s."};
 constexpr TResString sMerged{"Merged changes from the repository into %s."};
 constexpr TResString sConflict{
-    "Changes from the repository conflict with yours in %s: edit the marked places, then check it in."};
+    "Changes from the repository conflict with yours in %s: this must be settled before it is checked in."};
 constexpr TResString sTreeConflict{
     "%s was changed here, and moved, deleted or replaced in the repository: it was left as it is."};
 constexpr TResString sKeptExisting{"%s was here already and was kept."};

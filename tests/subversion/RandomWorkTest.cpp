@@ -1,0 +1,12 @@
+// Two users and plain `svn` at random: no command loses work, and every state has a way out.
+#include <gtest/gtest.h>
+
+#include "RandomWork.h"
+
+TEST(RandomWork, LosesNothingAndEndsNowhere) {
+  for (unsigned seed = 1; seed <= 20; ++seed) {
+    SCOPED_TRACE(seed);
+    TRandomWork work(seed);
+    ASSERT_NO_THROW(work.Run(100));
+  }
+}
