@@ -4,6 +4,7 @@
 #include "Developer.h"
 
 using testing::HasSubstr;
+using testing::Not;
 
 namespace {
 
@@ -60,6 +61,10 @@ TEST_F(Files, AddCanKeepThemCheckedOut) {
   ASSERT_EQ(scc::SCC_OK, ann.Add({"a.pas", "b.pas"}, "", scc::SCC_KEEP_CHECKEDOUT)) << ann.Said();
   EXPECT_EQ((std::vector<scc::Long>{kOutHere, kOutHere}), ann.Statuses({"a.pas", "b.pas"}));
   EXPECT_TRUE(ann.IsWritable("b.pas"));
+  repository.WriteHook("pre-lock", "exit 1\n");
+  ann.Write("c.pas", "c\n");
+  EXPECT_EQ(scc::SCC_OK, ann.Add({"c.pas"}, "", scc::SCC_KEEP_CHECKEDOUT)) << "it was added all the same";
+  EXPECT_THAT(ann.Said(), HasSubstr("W c.pas was added, and could not be checked out: "));
 }
 
 TEST_F(Files, BinaryFilesAreMarkedAsSuch) {
@@ -78,6 +83,7 @@ TEST_F(Files, WhatCannotBeAddedIsToldAndNothingIsLeftBehind) {
   repository.WriteHook("pre-commit", "exit 1\n");
   ann.Write("new/unit1.pas", "1\n");
   EXPECT_EQ(scc::SCC_E_NOTAUTHORIZED, ann.Add({"new/unit1.pas"}));
+  EXPECT_THAT(ann.Said(), Not(HasSubstr("Undid")));
   EXPECT_EQ(0, ann.Status("new/unit1.pas"));
   repository.WriteHook("pre-commit", "exit 0\n");
   EXPECT_EQ(scc::SCC_OK, ann.Add({"new/unit1.pas"})) << ann.Said();
@@ -101,17 +107,25 @@ TEST_F(Files, ANameThatTheColleagueAddedFirstIsNotOverwritten) {
   EXPECT_EQ("bob\n", bob.Read("sub/unit1.pas.mine"));
 }
 
+// A folder that was deleted comes back with the file, and its other files stay as they are.
 TEST_F(Files, WhatTheColleagueDeletedCanBeAddedAgain) {
-  ann.Write("unit1.pas", "ann\n");
-  ann.Add({"unit1.pas"});
+  const std::string name = "sub/" + std::string(250, 'u');
+  ann.Write(name, "ann\n");
+  ann.Write("sub/other.pas", "other\n");
+  ann.Add({name, "sub/other.pas"});
   BobJoins();
-  ann.Remove({"unit1.pas"});
-  std::filesystem::permissions(bob.File("unit1.pas"), std::filesystem::perms::owner_all);
-  bob.Write("unit1.pas", "bob\n");
-  ASSERT_EQ(scc::SCC_OK, bob.Add({"unit1.pas"})) << bob.Said();
-  EXPECT_EQ("bob\n", bob.Read("unit1.pas"));
-  EXPECT_EQ("bob\n", repository.Contents("project/unit1.pas"));
-  EXPECT_EQ(kControlled, bob.Status("unit1.pas"));
+  const std::string remove = "svn rm -q -m gone " + repository.Url() + "/project/sub";
+  ASSERT_EQ(0, std::system(remove.c_str()));
+  std::filesystem::permissions(bob.File(name), std::filesystem::perms::owner_all);
+  bob.Write(name, "bob\n");
+  EXPECT_EQ((std::vector<scc::Long>{0x0841, 0x0041}), bob.Statuses({name, "sub/other.pas"}));
+  EXPECT_EQ(scc::SCC_E_FIXMERGE, bob.Get({name}));
+  EXPECT_EQ(scc::SCC_E_FILENOTCONTROLLED, bob.CheckOut({name}));
+  ASSERT_EQ(scc::SCC_OK, bob.Add({name})) << bob.Said();
+  EXPECT_EQ("bob\n", bob.Read(name));
+  EXPECT_EQ("bob\n", repository.Contents("project/" + name));
+  EXPECT_EQ("other\n", bob.Read("sub/other.pas"));
+  EXPECT_EQ((std::vector<scc::Long>{kControlled, 0}), bob.Statuses({name, "sub/other.pas"}));
 }
 
 TEST_F(Files, ACheckedOutFileIsNotRemoved) {
@@ -142,30 +156,12 @@ TEST_F(Files, RemovingWhatIsOnlyInTheRepositoryLeavesNothingBehind) {
   ann.Write("sub/a.pas", "a\n");
   ann.Write("sub/b.pas", "b\n");
   ann.Add({"sub/a.pas", "sub/b.pas"});
+  ann.Write("far/c.pas", "c\n");
+  ann.Add({"far/c.pas"});
+  ASSERT_EQ(scc::SCC_OK, bob.Remove({"far/c.pas"})) << bob.Said();
   ASSERT_EQ(scc::SCC_OK, bob.Remove({"sub/a.pas", "sub/b.pas"})) << bob.Said();
   EXPECT_FALSE(repository.Exists("project/sub/a.pas"));
   EXPECT_FALSE(bob.Has("sub/a.pas"));
-}
-
-TEST_F(Files, GetRestoresUpdatesAndKeepsEdits) {
-  for (const auto* name : {"a.pas", "sub/b.pas", "sub/c.pas"}) {
-    ann.Write(name, "1\n");
-    ASSERT_EQ(scc::SCC_OK, ann.Add({name}));
-  }
-  BobJoins();
-  ann.CheckOut({"sub/b.pas"});
-  ann.Write("sub/b.pas", "2\n");
-  ann.CheckIn({"sub/b.pas"});
-  std::filesystem::remove(bob.File("a.pas"));
-  std::filesystem::permissions(bob.File("sub/c.pas"), std::filesystem::perms::owner_all);
-  bob.Write("sub/c.pas", "mine\n");
-
-  ASSERT_EQ(scc::SCC_OK, bob.Get({"a.pas"})) << bob.Said();
-  EXPECT_EQ("I Restored a.pas.\n", bob.Said());
-  EXPECT_EQ("1\n", bob.Read("sub/b.pas"));  // not asked for
-  EXPECT_EQ(scc::SCC_E_FILENOTCONTROLLED, bob.Get({"nonsense.pas", "sub/b.pas", "sub/c.pas"}));
-  EXPECT_EQ("2\n", bob.Read("sub/b.pas"));
-  EXPECT_EQ("mine\n", bob.Read("sub/c.pas"));
 }
 
 TEST_F(Files, AFolderIsFetchedAloneOrWithAllBelow) {
@@ -180,6 +176,13 @@ TEST_F(Files, AFolderIsFetchedAloneOrWithAllBelow) {
   EXPECT_FALSE(bob.Has("top.pas"));
   ASSERT_EQ(scc::SCC_OK, bob.GetEverything());
   EXPECT_TRUE(bob.Has("src/deep/b.pas"));
+  // What was fetched by itself below a folder stays when the folder's own files are fetched.
+  TDeveloper carl("carl");
+  EXPECT_EQ(scc::SCC_OK, carl.Open(repository.Url(), "project"));
+  ASSERT_EQ(scc::SCC_OK, carl.Get({"src/deep/b.pas"}));
+  ASSERT_EQ(scc::SCC_OK, carl.Get({"src"}, scc::SCC_GET_ALL)) << carl.Said();
+  EXPECT_TRUE(carl.Has("src/a.pas"));
+  EXPECT_TRUE(carl.Has("src/deep/b.pas"));
   // Once everything is here, a shallow get takes nothing away.
   ASSERT_EQ(scc::SCC_OK, bob.Get({"src"}, scc::SCC_GET_ALL));
   EXPECT_TRUE(bob.Has("src/deep/b.pas"));

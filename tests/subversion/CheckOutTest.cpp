@@ -55,29 +55,12 @@ TEST_F(CheckOut, EditAndCheckInAreSeenInTheRepository) {
   EXPECT_EQ(kControlled, ann.Status("unit1.pas"));
 }
 
-TEST_F(CheckOut, KeepCheckedOutCommitsAndKeepsTheLock) {
-  ann.CheckOut({"unit1.pas"});
-  ann.Write("unit1.pas", "new\n");
-  ASSERT_EQ(scc::SCC_OK, ann.CheckIn({"unit1.pas"}, "", scc::SCC_KEEP_CHECKEDOUT));
-  EXPECT_EQ("new\n", repository.Contents("project/unit1.pas"));
-  EXPECT_EQ("ann", repository.LockOwner("project/unit1.pas"));
-  EXPECT_TRUE(ann.IsWritable("unit1.pas"));
-  EXPECT_EQ(kOutHere, ann.Status("unit1.pas"));
-}
-
-TEST_F(CheckOut, CheckingInWhatWasNotChangedOnlyReleasesTheLock) {
-  ann.CheckOut({"unit1.pas"});
-  const auto before = repository.Youngest();
-  ASSERT_EQ(scc::SCC_OK, ann.CheckIn({"unit1.pas"}));
-  EXPECT_EQ(before, repository.Youngest());
-  EXPECT_EQ(std::nullopt, repository.LockOwner("project/unit1.pas"));
-  EXPECT_FALSE(ann.IsWritable("unit1.pas"));
-}
-
 TEST_F(CheckOut, UndoBringsTheTextBackEvenIfTheFileIsGone) {
   ann.CheckOut({"unit1.pas"});
   ann.Write("unit1.pas", "scribbled\n");
   ASSERT_EQ(scc::SCC_OK, ann.Undo({"unit1.pas"})) << ann.Said();
+  EXPECT_THAT(ann.Said(), HasSubstr("I The changes to unit1.pas were kept in unit1.pas.mine.\n"));
+  EXPECT_EQ("scribbled\n", ann.Read("unit1.pas.mine"));
   EXPECT_EQ("one\ntwo\nthree\n", ann.Read("unit1.pas"));
   EXPECT_EQ(std::nullopt, repository.LockOwner("project/unit1.pas"));
   EXPECT_FALSE(ann.IsWritable("unit1.pas"));
@@ -98,12 +81,6 @@ TEST_F(CheckOut, TheColleagueSeesItAndIsRefused) {
   EXPECT_EQ(scc::SCC_E_FILEOUTEXCLUSIVE, bob.Remove({"unit1.pas"}));
   EXPECT_EQ(scc::SCC_E_NOTCHECKEDOUT, bob.CheckIn({"unit1.pas"}));
   EXPECT_EQ(scc::SCC_E_NOTCHECKEDOUT, bob.Undo({"unit1.pas"}));
-}
-
-TEST_F(CheckOut, WhatIsOutHereAlreadyIsNoFailure) {
-  ann.CheckOut({"unit1.pas"});
-  EXPECT_EQ(scc::SCC_OK, ann.CheckOut({"unit1.pas"}));
-  EXPECT_EQ("I unit1.pas is checked out already.\n", ann.Said());
 }
 
 TEST_F(CheckOut, MineElsewhereIsNotMineHere) {
@@ -145,6 +122,8 @@ TEST_F(CheckOut, AConflictIsMarkedRefusedAndSettledByEditing) {
   EXPECT_THAT(bob.Said(), HasSubstr("W Changes from the repository conflict with yours in unit1.pas"));
   EXPECT_EQ(kOutHere | kModified | kMerged, bob.Status("unit1.pas"));
   EXPECT_EQ(scc::SCC_E_FIXMERGE, bob.CheckIn({"unit1.pas"}));
+  EXPECT_EQ(scc::SCC_E_FIXMERGE, bob.Get({"unit1.pas"}));
+  EXPECT_THAT(bob.Said(), HasSubstr("E unit1.pas: the file still has conflict marks"));
   EXPECT_EQ("ann\ntwo\nthree\n", repository.Contents("project/unit1.pas"));
 
   bob.Write("unit1.pas", "ann and bob\ntwo\nthree\n");
@@ -179,20 +158,6 @@ TEST_F(CheckOut, AStolenLockIsToldWithItsNewOwner) {
   EXPECT_THAT(ann.Said(), HasSubstr("unit1.pas was taken away in the repository: bob has it now.\n"));
 }
 
-TEST_F(CheckOut, UndoAfterTheLockWasTakenAwaySucceeds) {
-  ann.CheckOut({"unit1.pas"});
-  repository.BreakLock("project/unit1.pas");
-  EXPECT_EQ(scc::SCC_OK, ann.Undo({"unit1.pas"})) << ann.Said();
-  EXPECT_EQ(kControlled, ann.Status("unit1.pas"));
-}
-
-TEST_F(CheckOut, WhatTheColleagueDeletedIsSeenAsDeleted) {
-  ASSERT_EQ(scc::SCC_OK, ann.Remove({"unit1.pas"}));
-  EXPECT_EQ(kControlled | kDeleted, bob.Status("unit1.pas"));
-  EXPECT_EQ(scc::SCC_E_FILENOTCONTROLLED, bob.CheckOut({"unit1.pas"}));
-  EXPECT_TRUE(bob.Has("unit1.pas"));
-}
-
 TEST_F(CheckOut, OneBadNameDoesNotStopTheOthers) {
   ann.Write("unit2.pas", "2\n");
   ann.Add({"unit2.pas"});
@@ -207,15 +172,40 @@ TEST_F(CheckOut, OneBadNameDoesNotStopTheOthers) {
   EXPECT_EQ(kControlled, ann.Status("unit1.pas"));
 }
 
-TEST_F(CheckOut, FilesOfOneCheckInMakeOneRevision) {
+// Clients name a unit with its form, whichever of them is out.
+TEST_F(CheckOut, ABatchMayNameWhatIsNotOut) {
   ann.Write("unit2.pas", "2\n");
   ann.Add({"unit2.pas"});
-  ann.CheckOut({"unit1.pas", "unit2.pas"});
-  ann.Write("unit1.pas", "a\n");
-  ann.Write("unit2.pas", "b\n");
-  const auto before = repository.Youngest();
-  ASSERT_EQ(scc::SCC_OK, ann.CheckIn({"unit1.pas", "unit2.pas"}));
-  EXPECT_EQ(before + 1, repository.Youngest());
+  ann.CheckOut({"unit1.pas", "unit1.pas"});
+  EXPECT_EQ(scc::SCC_OK, ann.CheckOut({"unit1.pas"}));
+  EXPECT_EQ("I unit1.pas is checked out already.\n", ann.Said());
+  EXPECT_EQ(scc::SCC_OK, ann.CheckIn({"unit1.pas", "unit2.pas"}));
+  EXPECT_THAT(ann.Said(), HasSubstr("I unit2.pas is not checked out here: it was left as it is.\n"));
+  EXPECT_EQ(scc::SCC_E_NOTCHECKEDOUT, ann.CheckIn({"unit1.pas", "unit2.pas"}));
+  ann.CheckOut({"unit1.pas"});
+  EXPECT_EQ(scc::SCC_OK, ann.Undo({"unit2.pas", "unit1.pas"}));
+  EXPECT_EQ(scc::SCC_E_NOTCHECKEDOUT, ann.Undo({"unit2.pas", "unit1.pas"}));
+}
+
+TEST_F(CheckOut, ALostLockIsToldWhenNothingIsSent) {
+  ann.CheckOut({"unit1.pas"});
+  repository.BreakLock("project/unit1.pas");
+  EXPECT_EQ(scc::SCC_OK, ann.CheckIn({"unit1.pas"}, "", scc::SCC_KEEP_CHECKEDOUT));
+  EXPECT_EQ("W The lock on unit1.pas was taken away in the repository.\n", ann.Said());
+}
+
+// The server counts such a file as old, and there is nothing to fetch.
+TEST_F(CheckOut, AFileThatWasMovedAwayAndBackIsCheckedIn) {
+  ann.CheckOut({"unit1.pas"});
+  ann.Write("unit1.pas", "mine\n");
+  repository.BreakLock("project/unit1.pas");
+  const auto move = [&](const std::string& from, const std::string& to) {
+    return bob.Library()->SccRename(bob.Context(), nullptr, bob.File(from).c_str(), bob.File(to).c_str());
+  };
+  ASSERT_EQ(scc::SCC_OK, move("unit1.pas", "away.pas")) << bob.Said();
+  ASSERT_EQ(scc::SCC_OK, move("away.pas", "unit1.pas")) << bob.Said();
+  EXPECT_EQ(scc::SCC_OK, ann.CheckIn({"unit1.pas"})) << ann.Said();
+  EXPECT_EQ("mine\n", repository.Contents("project/unit1.pas"));
 }
 
 TEST_F(CheckOut, ARefusalOfTheServersHookIsToldAndLosesNothing) {
