@@ -11,6 +11,7 @@
 #include "SetAside.h"
 #include "SubversionSccStrings.h"
 #include "WindowStrings.h"
+#include "WorkingCopyLocks.h"
 
 namespace svnscc {
 namespace {
@@ -76,21 +77,6 @@ void UpdateFolder(Session& session, const std::string& path, Below below,
     UpdateTo(session, {path}, svn_depth_files, Reach::Set, revision);
 }
 
-/// An update that failed inside libsvn can keep the working copy locked, for this process and for all others.
-void ReleaseOwnLock(Session& session) {
-  const Pool pool;
-  const std::string folder = session.CurrentProject().Folder;
-  svn_boolean_t lockedHere = FALSE;
-  session.Svn().Run(svn_wc_locked2(&lockedHere, nullptr, session.Context()->wc_ctx, folder.c_str(), pool));
-  if (lockedHere == FALSE) return;
-  session.Reconnect();
-  const char* root = nullptr;
-  session.Svn().Run(svn_client_get_wc_root(&root, folder.c_str(), session.Context(), pool, pool));
-  session.Svn().Run(svn_client_cleanup2(root, /*break_locks*/ TRUE, /*fix_recorded_timestamps*/ TRUE,
-                                        /*clear_dav_cache*/ FALSE, /*vacuum_pristines*/ FALSE,
-                                        /*include_externals*/ FALSE, session.Context(), pool));
-}
-
 void TellConflicts(Session& session, const std::string& folder, Outcome& outcome) {
   for (const auto& [path, status] : LocalEntries(session, folder)) {
     if ((status.Bits & scc::SCC_STATUS_MERGED) == 0) continue;
@@ -111,7 +97,7 @@ void GetFolder(Session& session, const std::string& path, Below below, const svn
     } catch (const Failure& failure) {
       // libsvn stumbles over what it has just dropped, and finds its way at the second try.
       if (!failure.Has(SVN_ERR_WC_PATH_NOT_FOUND)) throw;
-      ReleaseOwnLock(session);
+      ReleaseOwnLocks(session);
       UpdateFolder(session, path, below, revision);
     }
   }

@@ -123,6 +123,12 @@ void RetryWhenFree(Session& session, const std::string& folder, const std::funct
   }
 }
 
+void ReleaseOwnLocks(Session& session) {
+  const std::string folder = session.CurrentProject().Folder;
+  session.Reconnect();  // libsvn believes that it still holds its lock
+  if (IsInUse(folder)) CleanUpIfUnused(session, folder, Told::No);
+}
+
 scc::Long RunCommand(Session& session, const std::function<scc::Long()>& command) {
   scc::Long result = scc::SCC_OK;
   const std::string folder = session.CurrentProject().Folder;
@@ -130,8 +136,7 @@ scc::Long RunCommand(Session& session, const std::function<scc::Long()>& command
     RetryWhenFree(session, folder, [&] { result = command(); });
   } catch (const Failure& failure) {
     if (failure.Result() != scc::SCC_I_OPERATIONCANCELED) throw;
-    session.Reconnect();  // libsvn believes that it still holds its lock
-    if (IsInUse(folder)) CleanUpIfUnused(session, folder, Told::No);
+    ReleaseOwnLocks(session);
     throw;
   }
   session.TellLostLocks();

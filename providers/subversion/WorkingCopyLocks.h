@@ -22,6 +22,9 @@ void FinishInterrupted(Session& session, const std::string& folder);
 /// names the other program, when that one is not done in time.
 void RetryWhenFree(Session& session, const std::string& folder, const std::function<void()>& body);
 
+/// Releases what a command of the open project that failed or was cancelled left locked in this process.
+void ReleaseOwnLocks(Session& session);
+
 /// Runs a command of the open project so, and cleans up when it is cancelled.
 scc::Long RunCommand(Session& session, const std::function<scc::Long()>& command);
 
