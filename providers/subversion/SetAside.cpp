@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "Session.h"
+#include "SubversionSccStrings.h"
 #include "WindowStrings.h"
 #include "host/System.h"
 
@@ -91,7 +92,7 @@ MadeRoom::~MadeRoom() {
     else if (SameContents(path_, copy_))
       std::filesystem::remove(copy_, ignored);
     else
-      session_->Out().Warning(Format(sEditsKept.Text, {session_->Label(path_), session_->Label(copy_)}));
+      session_->Out().Warning(Format(sKeptBeside.Text, {session_->Label(path_), session_->Label(copy_)}));
   } catch (const std::exception&) {  // the file stays under its new name, beside the old one
   }
 }

@@ -24,6 +24,7 @@ constexpr TResString sConflict{
 constexpr TResString sTreeConflict{
     "%s was changed here, and moved, deleted or replaced in the repository: it was left as it is."};
 constexpr TResString sKeptExisting{"%s was here already and was kept."};
+constexpr TResString sKeptBeside{"%s was here already and was kept as %s."};
 constexpr TResString sUpdateDeleted{"%s was deleted in the repository and removed here."};
 constexpr TResString sLockGone{"The lock on %s was taken away in the repository."};
 constexpr TResString sLockTaken{"The lock on %s was taken away in the repository: %s has it now."};

@@ -102,7 +102,7 @@ TEST_F(Files, ANameThatTheColleagueAddedFirstIsNotOverwritten) {
   EXPECT_EQ(scc::SCC_E_CHECKINCONFLICT, bob.Remove({"sub/unit1.pas"}));
   EXPECT_EQ(kControlled | scc::SCC_STATUS_OUTOFDATE, bob.Status("sub/unit1.pas"));
   ASSERT_EQ(scc::SCC_OK, bob.Get({"sub/unit1.pas"}));
-  EXPECT_THAT(bob.Said(), HasSubstr("kept in sub/unit1.pas.mine"));
+  EXPECT_THAT(bob.Said(), HasSubstr("kept as sub/unit1.pas.mine"));
   EXPECT_EQ("ann\n", bob.Read("sub/unit1.pas"));
   EXPECT_EQ("bob\n", bob.Read("sub/unit1.pas.mine"));
 }
