@@ -37,13 +37,13 @@ constexpr TResString sOptionNotForCommand{"%s has no option %s."};
 
 constexpr TResString sBadName{
     "\"%s\" cannot be the name of a provider: it must not be empty, contain backslashes or control "
-    "characters, or "
-    "begin or end with a blank."};
+    "characters, or begin or end with a blank."};
 constexpr TResString sPathNotAbsolute{"%s is not an absolute path."};
 constexpr TResString sFileNotFound{"%s does not exist."};
 constexpr TResString sNotLoadable{"%s cannot be loaded: %s"};
 constexpr TResString sNotAProvider{"%s is not a source control provider: it does not export %s."};
 constexpr TResString sNotInstalled{"No provider is installed under the name \"%s\"."};
+constexpr TResString sNoKey{"The entry of \"%s\" names no key of the registry; install the provider again."};
 constexpr TResString sInstalledForAll{
     "\"%s\" is installed for all users of this machine; only an administrator can remove it."};
 

@@ -62,13 +62,17 @@ std::vector<std::string> InstalledProviders() {
 /// The key that this program makes for a provider; an installer of its own may have chosen another.
 std::string OwnKey(const std::string& name) { return "Software\\" + name + "\\SCC"; }
 
-/// The key of an installed provider; empty when none of that name is.
+bool IsInstalled(const std::string& name) {
+  const auto names = InstalledProviders();
+  return std::any_of(names.begin(), names.end(),
+                     [&](const std::string& installed) { return SameText(installed, name); });
+}
+
+/// The key of an installed provider; empty when none of that name is, or its entry names no key.
 std::string KeyOf(const std::string& name) { return ReadValue(kInstalledProvidersKey, name); }
 
-std::string InstalledKeyOf(const std::string& name) {
-  const auto key = KeyOf(name);
-  if (key.empty()) throw EFailure(Format(sNotInstalled, {name}));
-  return key;
+void RequireInstalled(const std::string& name) {
+  if (!IsInstalled(name)) throw EFailure(Format(sNotInstalled, {name}));
 }
 
 bool IsDefault(const std::string& key) { return SameText(ReadValue(kProviderKey, kProviderRegKey), key); }
@@ -94,7 +98,10 @@ void CheckLibrary(const std::string& path, TDependencySearch search) {
 }
 
 void Choose(const std::string& name) {
-  WriteValue(kProviderKey, kProviderRegKey, InstalledKeyOf(name));
+  RequireInstalled(name);
+  const auto key = KeyOf(name);
+  if (key.empty()) throw EFailure(Format(sNoKey, {name}));
+  WriteValue(kProviderKey, kProviderRegKey, key);
   std::cout << Format(sIsDefault, {name});
 }
 
@@ -124,16 +131,17 @@ void Add(const TCommandLine& line) {
 
 void Remove(const TCommandLine& line) {
   const auto& name = line.Words[1];
-  const auto key = InstalledKeyOf(name);
+  RequireInstalled(name);
+  const auto key = KeyOf(name);
   const bool wasDefault = IsDefault(key);
   DeleteValue(kInstalledProvidersKey, name);
   if (SameText(key, OwnKey(name))) {
     TRegistry().DeleteKey(key);
-  } else {
+  } else if (!key.empty()) {
     // A key that its own installer made may hold more than what this program knows about.
     for (const char* value : {kServerName, kServerPath, kSearchPath}) DeleteValue(key, value);
   }
-  if (!KeyOf(name).empty()) throw EFailure(Format(sInstalledForAll, {name}));
+  if (IsInstalled(name)) throw EFailure(Format(sInstalledForAll, {name}));
   if (wasDefault) DeleteValue(kProviderKey, kProviderRegKey);
   std::cout << Format(sRemoved, {name});
   if (wasDefault && !InstalledProviders().empty()) std::cout << sNoDefault.str();

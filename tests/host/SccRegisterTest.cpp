@@ -116,13 +116,18 @@ TEST_F(SccRegister, LeavesWhatOthersInstalled) {
   Write("Software\\Vendor", "Licence", "1234");
   Write("Software\\Tiny", "Version", "1");
   Do({"add", "Tiny", kTiny});
-  Do({"add", "Vendor SCC", kTiny});
+  Do({"add", "Vendor SCC", kTiny, "--search-path"});
   EXPECT_EQ(Read("Software\\Vendor", kServerPath), kTiny) << "its own key stays its key";
   Do({"remove", "Tiny"});
   Do({"remove", "Vendor SCC"});
   EXPECT_EQ(Read("Software\\Vendor", "Licence"), "1234");
-  EXPECT_EQ(Read("Software\\Vendor", kServerPath), "");
+  for (const char* value : {kServerPath, kSearchPath}) EXPECT_EQ(Read("Software\\Vendor", value), "");
   EXPECT_EQ(Read("Software\\Tiny", "Version"), "1");
+
+  Write(kInstalledProvidersKey, "No key", "");
+  EXPECT_THAT(Run({"default", "No key"}).Errors, HasSubstr("names no key"));
+  Do({"remove", "NO KEY"});
+  EXPECT_THAT(Run({"list"}).Output, HasSubstr("No source control providers"));
 }
 
 TEST_F(SccRegister, ExplainsWhatItCannotDo) {

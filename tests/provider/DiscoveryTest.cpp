@@ -49,6 +49,8 @@ TEST_F(Discovery, TheDefaultProviderIsWhatItsKeySays) {
   Write(kInstalledProvidersKey, "Example", "Software\\Example");
   EXPECT_TRUE(SearchesPath("/opt/example.so"));
   EXPECT_FALSE(SearchesPath("/opt/other.so"));
+  Write("Software\\Example", kSearchPath, "0");
+  EXPECT_FALSE(SearchesPath("/opt/example.so"));
 }
 
 }  // namespace
