@@ -81,8 +81,8 @@ class TSccExpert final : public TNotifierObject, public IOTAWizard {
   bool UpdateSCCIniFile(const std::string& projectFile, const std::string& userName);
   /// Whether the mapping file exists and binds the current provider; also sets ProjectNotMapped.
   bool ProjectExists(const std::string& mappingFile);
-  /// Whether the current project's mapping file, which was missing or unreadable when the project was opened, can be read
-  /// now.
+  /// Whether the current project's mapping file, which was missing, unreadable or damaged when the project could not be
+  /// opened, can be read wholly now.
   bool MappingAppeared();
 
   // For the wizards, which work on a provider project of their own.
@@ -207,7 +207,7 @@ class TSccExpert final : public TNotifierObject, public IOTAWizard {
   std::string provider_name_;
   std::string provider_path_;
   bool project_not_mapped_ = false;
-  std::string unread_mapping_;  // the file that ProjectExists could not read last; empty when it could
+  std::string unread_mapping_;  // the file that ProjectExists could not read wholly last; empty when it could
   const std::string source_extension_ = ".pas";
   const std::string form_extension_ = ".kfm";
   const std::string project_group_extension_ = ".qvxgroup";

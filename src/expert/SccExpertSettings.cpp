@@ -140,10 +140,11 @@ bool TSccExpert::ProjectExists(const std::string& mappingFile) {
   Guarded(mwtInfo, sProjectExistsError, [&] {
     if (!FileExists(mappingFile)) return;
     const TMappingFile mapping(mappingFile);
-    unread_mapping_.clear();
+    const auto damage = mapping.Damage();
+    if (damage.empty()) unread_mapping_.clear();
     result = mapping.HasSection(provider_name_);
     project_not_mapped_ = !result;
-    if (const auto damage = mapping.Damage(); !damage.empty())
+    if (!damage.empty())
       WarnOnce(damage);
     else if (mapping.Sections().empty())
       WarnOnce(Format(sMappingFileEmpty, {mappingFile}));
@@ -155,8 +156,7 @@ bool TSccExpert::MappingAppeared() {
   if (!open_project_file_.empty() || !FileExists(unread_mapping_)) return false;
   if (unread_mapping_ != ChangeFileExt(Trim(GetCurrentProjectFile()), kMappingExtension)) return false;
   try {
-    const TMappingFile mapping(unread_mapping_);
-    return true;
+    return TMappingFile(unread_mapping_).Damage().empty();
   } catch (const std::runtime_error&) {
     return false;  // as before, and that has been said
   }

@@ -96,10 +96,11 @@ TEST_F(TeamMenu, SeesAMappingThatAppearsOrIsRepaired) {
   SetMappedStatus(1);
   std::filesystem::remove(At("App.cdp"));
   Open();
-  for (const auto& unreadable : {std::string(), std::string("[Scripted]\n\0", 12)}) {
+  for (const auto& unreadable : {std::string(), std::string("[Scripted]\n\0", 12), mapping + "cut"}) {
     if (!unreadable.empty()) {
       host_.Notify(TOTAFileNotification::fnFileClosing, project_file_);
       WriteMapping(unreadable);
+      provider_->Results["SccOpenProject"] = scc::SCC_E_ACCESSFAILURE;
     }
     Drop();
     const auto before = starts();
@@ -107,6 +108,7 @@ TEST_F(TeamMenu, SeesAMappingThatAppearsOrIsRepaired) {
     EXPECT_EQ(starts(), before) << "nothing has changed";
     EXPECT_THAT(Enabled(), Not(Contains(kOut)));
     WriteMapping(mapping);
+    provider_->Results.clear();
     Drop();
     EXPECT_THAT(Enabled(), Contains(kOut));
   }
