@@ -340,7 +340,7 @@ bool TIniText::DeleteSection(std::string_view section) {
          ++next)
       if (next->Kind == TKind::Key) end = std::next(next);
     // The empty line before it came with it.
-    while (begin != lines_.begin() && std::prev(begin)->Kind == TKind::Blank) --begin;
+    if (begin != lines_.begin() && std::prev(begin)->Kind == TKind::Blank) --begin;
     lines_.erase(begin, end);
   }
   return true;

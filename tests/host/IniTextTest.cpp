@@ -109,8 +109,8 @@ TEST(IniText, ChangesNoByteButThoseOfTheKey) {
        "[S]\nk=a\n; of b\nk = x\nk=y\n\nk=c\n"},
       {"[S]\nk = a\nx=1\n", list({"b", "a"}), "[S]\nk=b\nk = a\nx=1\n"},
       {"[S]\nk=a\nx=1\nK=b\n", list({}), "[S]\nx=1\n"},
-      {"[A]\na=1\n\n[S]\n; of s\nk=1\nbad\n\n# of t\n[T]\n[s]\nk=2", drop("S"),
-       "[A]\na=1\nbad\n\n# of t\n[T]\n"},
+      {"[A]\na=1\n\n\n[S]\n; of s\nk=1\nbad\n\n# of t\n[T]\n[s]\nk=2", drop("S"),
+       "[A]\na=1\n\nbad\n\n# of t\n[T]\n"},
       {"k=1\n[S]\nk=2\n", [](TIniText& ini) { ini.SetValue("", "l", "3"); }, "k=1\nl=3\n[S]\nk=2\n"},
   };
   for (const auto& row : rows) {
