@@ -66,14 +66,3 @@ TEST_F(Crash, AtTheBeginningAndTheEndIsLogged) {
                           AllOf(StartsWith("SccUninitialize; "), HasSubstr("access violation"))));
   EXPECT_EQ(scc::hSosScc, nullptr) << "the library was let go of";
 }
-
-TEST_F(Crash, OfACallInACallEndsTheInnerOne) {
-  provider->OnCall["SccGet"] = [&](const ScriptedCall&) {
-    TStateMessages inner;
-    provider->OnCall["SccHistory"] = Violate;
-    session().ShowHistory("C:\\a", inner);  // from a dialog of the provider that pumps messages
-    EXPECT_THAT(inner[2], HasSubstr("failed in SccHistory"));
-    EXPECT_TRUE(ProviderCallInProgress());
-  };
-  EXPECT_EQ(session().GetFile({"C:\\a"}, messages), 0);
-}
