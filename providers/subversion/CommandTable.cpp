@@ -16,6 +16,7 @@ constexpr Rule kForget{Step::Forget};
 constexpr Rule kGiveUp{Step::GiveUp};
 
 constexpr Rule No(scc::Long answer, const TResString& reason) { return {Step::Refuse, answer, reason.Text}; }
+constexpr Rule Offered(Rule refused) { return {Step::Offer, refused.answer, refused.reason}; }
 
 constexpr Rule kUnknown = No(scc::SCC_E_FILENOTCONTROLLED, sNotControlled);
 constexpr Rule kNoFile = No(scc::SCC_E_FILENOTEXIST, sFileMissing);
@@ -28,6 +29,8 @@ constexpr Rule kLostAhead = No(scc::SCC_E_CHECKINCONFLICT, sLostConflict);
 constexpr Rule kMarks = No(scc::SCC_E_FIXMERGE, sConflictMarks);
 constexpr Rule kOpen = No(scc::SCC_E_FIXMERGE, sOpenConflict);
 constexpr Rule kLost = No(scc::SCC_E_FIXMERGE, sLostConflict);
+constexpr Rule kOfferOpen = Offered(kOpen);
+constexpr Rule kOfferLost = Offered(kLost);
 constexpr Rule kMakeRoom{Step::MakeRoom};
 constexpr Rule kAdopt{Step::Adopt, scc::SCC_E_OPNOTPERFORMED, sInTheWay.Text};
 
@@ -37,7 +40,8 @@ struct Row {
 };
 
 // Check-in and undo also need the lock, which Remove must not find.  A conflict and a deletion in the repository can be
-// given up without it: nobody can get it any more.
+// given up without it: nobody can get it any more.  A client may offer undo for what is locked only, so get and check-out
+// ask about it, too.
 constexpr std::array kRows{
     // state                get        check-out  check-in    undo      add       remove
     Row{FileState::Nowhere, kUnknown, kUnknown, kNoFile, kUnknown, kNoFile, kUnknown},
@@ -50,11 +54,11 @@ constexpr std::array kRows{
     Row{FileState::Diverged, kUpdate, kUpdate, kAhead, kGo, kKnown, kUnseen},
     Row{FileState::Missing, kUpdate, kUpdate, kNoFile, kGo, kNoFile, kGo},
     Row{FileState::Gone, kUpdate, kDeleted, kGo, kGo, kForget, kDeleted},
-    Row{FileState::GoneEdited, kLost, kDeleted, kLostAhead, kGiveUp, kForget, kDeleted},
+    Row{FileState::GoneEdited, kOfferLost, kDeleted, kLostAhead, kGiveUp, kForget, kDeleted},
     Row{FileState::Merged, kSettle, kSettle, kSettle, kGiveUp, kKnown, kSettle},
     Row{FileState::Marked, kMarks, kGo, kMarks, kGiveUp, kKnown, kMarks},
-    Row{FileState::Open, kOpen, kOpen, kOpen, kGiveUp, kKnown, kOpen},
-    Row{FileState::Lost, kLost, kLost, kLost, kGiveUp, kForget, kLost},
+    Row{FileState::Open, kOfferOpen, kOfferOpen, kOpen, kGiveUp, kKnown, kOpen},
+    Row{FileState::Lost, kOfferLost, kLost, kLost, kGiveUp, kForget, kLost},
 };
 
 constexpr bool IsInOrder() {
@@ -99,7 +103,7 @@ Rule RuleFor(FileState state, Command command) {
 
 Step Require(FileState state, Command command) {
   const Rule rule = RuleFor(state, command);
-  if (rule.step == Step::Refuse) throw Failure(rule.answer, rule.reason);
+  if (rule.step == Step::Refuse || rule.step == Step::Offer) throw Failure(rule.answer, rule.reason);
   return rule.step;
 }
 

@@ -38,17 +38,18 @@ enum class Step {
   Settle,  // takes the conflict for settled, and looks again
   Forget,  // makes the working copy forget it, and keeps the file
   GiveUp,  // takes what the repository has, and keeps a copy of what is here
+  Offer,   // asks whether to give up, and refuses otherwise
   Refuse,
 };
 
 struct Rule {
   Step step;
-  scc::Long answer = scc::SCC_OK;  // of Refuse and Adopt
+  scc::Long answer = scc::SCC_OK;  // of Refuse, Offer and Adopt
   const char* reason = "";
 };
 
 Rule RuleFor(FileState state, Command command);
-/// The rule, unless it is to refuse: then throws its Failure.
+/// The rule, unless it is to refuse, or to ask first: then throws its Failure.
 Step Require(FileState state, Command command);
 
 /// What the working copy alone can tell: what it has counts as current until the repository was asked.

@@ -47,6 +47,8 @@ void SettleFoldersBelow(Session& session, const std::string& folder);
 void Forget(Session& session, const std::string& path);
 /// Ends a conflict, or an edit, in favour of the repository.  Edits are kept in copies beside the files.
 void GiveUp(Session& session, const std::string& path);
+/// Asks, once for all, whether to give up what is here of these files in conflict.  False also when nothing can be asked.
+bool AskToGiveUp(Session& session, const std::vector<std::string>& paths);
 /// The folders above `path`, up to the project's, that the repository does not have yet, outermost first.
 std::vector<std::string> NewFoldersAbove(const Session& session, const std::string& path);
 std::string ParentOf(const std::string& path);

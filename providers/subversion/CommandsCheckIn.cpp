@@ -59,7 +59,7 @@ void TellLostLocks(Session& session, const std::vector<std::string>& paths) {
   const Survey survey(session, paths);
   for (const auto& path : paths)
     if (survey.Result() >= 0 && (survey.StatusOf(path).Bits & scc::SCC_STATUS_CHECKEDOUT) == 0)
-      session.Out().Warning(Format(sLockGone.Text, {session.Label(path)}));
+      TellLockGone(session, path);
 }
 
 }  // namespace

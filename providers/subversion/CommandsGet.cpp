@@ -2,6 +2,8 @@
 #include <svn_dirent_uri.h>
 
 #include <algorithm>
+#include <map>
+#include <ranges>
 
 #include "CommandTable.h"
 #include "Commands.h"
@@ -156,15 +158,18 @@ scc::Long GetFiles(Session& session, Names names, const CommandOptions& options)
 
   std::vector<std::string> stale;
   std::vector<MadeRoom> rooms;
+  std::map<std::string, FileState> offered;
   for (const auto& path : paths)
     outcome.Try(path, [&] {
       const FileStatus status = statuses.Of(path);
-      const Step step = Require(StateOf(session, path, status), Command::Get);
+      const FileState state = StateOf(session, path, status);
+      if (RuleFor(state, Command::Get).step == Step::Offer) return void(offered.emplace(path, state));
+      const Step step = Require(state, Command::Get);
       if (step == Step::Settle) Settle(session, path);
       if (step == Step::MakeRoom) rooms.emplace_back(session, path);
       if (step != Step::Nothing && status.NeedsGet) stale.push_back(path);
     });
-  if (stale.empty() && outcome.Result() == scc::SCC_OK) TellUpToDate(session, paths);
+  if (stale.empty() && offered.empty() && outcome.Result() == scc::SCC_OK) TellUpToDate(session, paths);
   if (stale.size() > 1 && CoverEverything(statuses, stale)) {
     UpdateTo(session, {session.CurrentProject().Folder}, svn_depth_infinity, Reach::Set);
     SettleFoldersBelow(session, session.CurrentProject().Folder);
@@ -176,6 +181,14 @@ scc::Long GetFiles(Session& session, Names names, const CommandOptions& options)
         RequireNoConflict(session, path);
       });
   }
+  const auto keys = std::views::keys(offered);
+  const bool givenUp = AskToGiveUp(session, {keys.begin(), keys.end()});
+  for (const auto& path : keys)
+    outcome.Try(path, [&] {
+      if (!givenUp) Require(offered.at(path), Command::Get);
+      GiveUp(session, path);
+      Update(session, {path});
+    });
   return outcome.Result();
 }
 

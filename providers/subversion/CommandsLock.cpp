@@ -104,7 +104,14 @@ bool Prepare(Session& session, const std::string& path, Outcome& outcome) {
   return outcome.Try(path, [&] {
     const LocalStatus local = AskLocal(session, path);
     if (local.IsFolder) throw Failure(scc::SCC_E_TYPENOTSUPPORTED, sNotAFile);
-    switch (Require(StateFor(session, path, local), Command::CheckOut)) {
+    const FileState state = StateFor(session, path, local);
+    const bool givenUp =
+        RuleFor(state, Command::CheckOut).step == Step::Offer && AskToGiveUp(session, {path});
+    switch (givenUp ? Step::GiveUp : Require(state, Command::CheckOut)) {
+      case Step::GiveUp:
+        GiveUp(session, path);
+        Update(session, {path});
+        break;
       case Step::Update:
         Update(session, {path});
         break;

@@ -6,7 +6,9 @@
 
 #include "CommandTable.h"
 #include "Commands.h"
+#include "Question.h"
 #include "SetAside.h"
+#include "SubversionSccStrings.h"
 
 namespace svnscc {
 namespace {
@@ -149,6 +151,13 @@ void GiveUp(Session& session, const std::string& path) {
   RevertWithCopy(session, path);
   // Without a lock it was an edit of a file that the repository has no more.
   if (!local.IsConflicted() && !local.HasLock) Update(session, {path});
+}
+
+bool AskToGiveUp(Session& session, const std::vector<std::string>& paths) {
+  if (paths.empty()) return false;
+  std::string labels;
+  for (const auto& path : paths) labels += (labels.empty() ? "" : "\n") + session.Label(path);
+  return AskUser(nullptr, {sGiveUpTitle.str(), Format(sGiveUp.Text, {labels})}).value_or(false);
 }
 
 }  // namespace svnscc

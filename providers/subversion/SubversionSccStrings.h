@@ -58,13 +58,20 @@ constexpr TResString sNotAFile{"it is not a file"};
 constexpr TResString sConflictMarks{
     "the file still has conflict marks: edit the marked places and check it in, or undo the check-out"};
 constexpr TResString sOpenConflict{
-    "it was changed here and in the repository, and the two versions could not be merged: Undo Check Out takes the "
-    "repository's and keeps yours in a copy"};
+    "it was changed here and in the repository, and the two versions could not be merged: Get Latest Version "
+    "or "
+    "Undo Check Out takes the repository's and keeps yours in a copy"};
 constexpr TResString sLostConflict{
-    "it was changed here, and moved or deleted in the repository: Add brings your version back, Undo Check Out gives it "
-    "up and keeps a copy"};
+    "it was changed here, and moved or deleted in the repository: Add brings your version back, Get Latest "
+    "Version "
+    "or Undo Check Out gives it up and keeps a copy"};
+constexpr TResString sGiveUpTitle{"Take the Repository's Version?"};
+constexpr TResString sGiveUp{
+    "These files were changed here and in the repository, and the two versions could not be merged:\n\n%s\n\n"
+    "Take what the repository has? Your versions are kept in copies beside the files."};
 constexpr TResString sInTheWay{
-    "a file of that name is here which never came from the repository: Get Latest Version fetches the repository's and "
+    "a file of that name is here which never came from the repository: Get Latest Version fetches the "
+    "repository's and "
     "keeps yours in a copy"};
 constexpr TResString sNeverSeen{
     "the repository has a version that you do not have: get the latest version first"};

@@ -1,7 +1,12 @@
 // Check-out, check-in and undo, alone and with a colleague.
 #include <gmock/gmock.h>
 
+#include <span>
+
 #include "Developer.h"
+#include "subversion/Commands.h"
+#include "subversion/OpenProject.h"
+#include "subversion/Question.h"
 
 using testing::HasSubstr;
 
@@ -130,6 +135,59 @@ TEST_F(CheckOut, AConflictIsMarkedRefusedAndSettledByEditing) {
   EXPECT_EQ(scc::SCC_OK, bob.CheckIn({"unit1.pas"})) << bob.Said();
   EXPECT_EQ("ann and bob\ntwo\nthree\n", repository.Contents("project/unit1.pas"));
   EXPECT_EQ(kControlled, bob.Status("unit1.pas"));
+}
+
+// Nobody has a lock here, so that clients do not offer undo.
+TEST_F(CheckOut, AConflictThatCannotBeMergedIsAskedAbout) {
+  for (const char* name : {"kept.dat", "gone.pas", "both.dat"}) ann.Write(name, "0\n");
+  ann.Add({"kept.dat", "both.dat"}, "", scc::SCC_FILETYPE_BINARY | scc::SCC_KEEP_CHECKEDOUT);
+  ann.Add({"gone.pas"});
+  bob.GetEverything();
+  for (const char* name : {"kept.dat", "gone.pas", "both.dat"}) {
+    std::filesystem::permissions(bob.File(name), std::filesystem::perms::owner_all);
+    bob.Write(name, "bob\n");
+  }
+  ann.Write("kept.dat", "ann\n");
+  ann.Write("both.dat", "ann\n");
+  ASSERT_EQ(scc::SCC_OK, ann.CheckIn({"kept.dat", "both.dat"}));
+  ASSERT_EQ(scc::SCC_OK, ann.Remove({"gone.pas"}));
+  EXPECT_EQ(scc::SCC_E_FIXMERGE, bob.Get({"kept.dat", "gone.pas", "both.dat"}));
+  EXPECT_EQ(scc::SCC_E_FIXMERGE, bob.Get({"kept.dat", "gone.pas", "both.dat"}))
+      << "nothing can be asked here";
+  EXPECT_THAT(bob.Said(), HasSubstr("Get Latest Version or Undo Check Out takes the repository's"));
+
+  static std::string asked;
+  static bool answer;
+  svnscc::SetQuestionPrompt([](scc::WindowHandle, const svnscc::Question& question) {
+    asked += question.Text;
+    return std::optional(answer);
+  });
+  bob.Close();
+  svnscc::Session session;
+  svnscc::ProjectNames names{"bob", "project", repository.Url(), bob.Folder(), ""};
+  svnscc::OpenProject(session, names, {});
+  const std::vector<std::string> files{bob.File("kept.dat"), bob.File("gone.pas"), bob.File("both.dat")};
+  const std::vector<const char*> paths{files[0].c_str(), files[1].c_str(), files[2].c_str()};
+  const std::span get = std::span(paths).first(2);
+  answer = false;
+  EXPECT_EQ(scc::SCC_E_FIXMERGE, svnscc::GetFiles(session, get, {}));
+  EXPECT_THAT(asked, testing::AllOf(HasSubstr("kept.dat"), HasSubstr("gone.pas")));
+  EXPECT_EQ("bob\n", bob.Read("kept.dat"));
+  EXPECT_EQ("bob\n", bob.Read("gone.pas"));
+  answer = true;
+  EXPECT_EQ(scc::SCC_OK, svnscc::GetFiles(session, get, {}));
+  EXPECT_EQ(scc::SCC_OK, svnscc::CheckOut(session, std::span(paths).last(1), "", {}));
+  svnscc::SetQuestionPrompt(nullptr);
+  for (const char* name : {"kept.dat", "both.dat"}) {
+    EXPECT_EQ("ann\n", bob.Read(name));
+    EXPECT_EQ("bob\n", bob.Read(name + std::string(".mine")));
+  }
+  EXPECT_FALSE(bob.Has("gone.pas"));
+  EXPECT_EQ("bob\n", bob.Read("gone.pas.mine"));
+  session.Close();
+  bob.Open(repository.Url(), "project");
+  EXPECT_EQ((std::vector<scc::Long>{kControlled, 0, kOutHere}),
+            bob.Statuses({"kept.dat", "gone.pas", "both.dat"}));
 }
 
 TEST_F(CheckOut, ALockThatWasTakenAwayEndsInACheckInConflict) {
