@@ -5,6 +5,7 @@
 #include <map>
 #include <ranges>
 
+#include "BadNames.h"
 #include "CommandTable.h"
 #include "Commands.h"
 #include "LocalStatus.h"
@@ -35,18 +36,50 @@ void RequireNoConflict(Session& session, const std::string& path) {
   if (local.IsConflicted()) Require(StateOf(local), Command::Get);
 }
 
+std::vector<std::string> FilesBelow(const StatusTable& walked, const std::string& folder, Below below) {
+  if (walked.Result < 0) throw Failure(walked.Result, sNotAsked);
+  auto files = walked.Files();
+  std::erase_if(files, [&](const std::string& file) {
+    return below == Below::Everything ? !svn_dirent_is_ancestor(folder.c_str(), file.c_str())
+                                      : ParentOf(file) != folder;
+  });
+  return files;
+}
+
 /// The files that an update of the folder would lay its own over, out of its way.
 std::vector<MadeRoom> MakeRoomBelow(Session& session, const std::string& folder, Below below) {
   const StatusTable walked = WalkProject(session);
-  if (walked.Result < 0) throw Failure(walked.Result, sNotAsked);
   std::vector<MadeRoom> rooms;
-  for (const auto& file : walked.Files()) {
-    const bool concerned = below == Below::Everything ? svn_dirent_is_ancestor(folder.c_str(), file.c_str())
-                                                      : ParentOf(file) == folder;
-    if (concerned && StateOf(session, file, walked.Of(file)) == FileState::InTheWay)
-      rooms.emplace_back(session, file);
-  }
+  for (const auto& file : FilesBelow(walked, folder, below))
+    if (StateOf(session, file, walked.Of(file)) == FileState::InTheWay) rooms.emplace_back(session, file);
   return rooms;
+}
+
+/// Whether libsvn gave up at a name in the folder that is not UTF-8.  Files that are named it can fetch.
+bool IsOverBadName(const Failure& failure, const std::string& folder) {
+  return failure.Has(APR_EINVAL) && !NamesNotUtf8(folder).empty();
+}
+
+void UpdateEach(Session& session, const std::string& folder, Below below,
+                const svn_opt_revision_t& revision) {
+  const StatusTable walked = WalkProject(session);
+  for (const auto& file : FilesBelow(walked, folder, below))
+    if (walked.Of(file).NeedsGet || revision.kind == svn_opt_revision_number)
+      UpdateTo(session, {file}, svn_depth_unknown, Reach::AsItIs, revision);
+}
+
+/// False when the files have to be fetched one by one.
+bool UpdateProject(Session& session) {
+  const std::string folder = session.CurrentProject().Folder;
+  try {
+    UpdateTo(session, {folder}, svn_depth_infinity, Reach::Set);
+  } catch (const Failure& failure) {
+    if (!IsOverBadName(failure, folder)) throw;
+    ReleaseOwnLocks(session);
+    return false;
+  }
+  SettleFoldersBelow(session, folder);
+  return true;
 }
 
 /// Setting a folder's reach drops what lies beyond: a folder that holds others is not narrowed to its files.
@@ -98,9 +131,10 @@ void GetFolder(Session& session, const std::string& path, Below below, const svn
       UpdateFolder(session, path, below, revision);
     } catch (const Failure& failure) {
       // libsvn stumbles over what it has just dropped, and finds its way at the second try.
-      if (!failure.Has(SVN_ERR_WC_PATH_NOT_FOUND)) throw;
+      const bool stumbled = failure.Has(SVN_ERR_WC_PATH_NOT_FOUND);
+      if (!stumbled && !IsOverBadName(failure, path)) throw;
       ReleaseOwnLocks(session);
-      UpdateFolder(session, path, below, revision);
+      (stumbled ? UpdateFolder : UpdateEach)(session, path, below, revision);
     }
   }
   const LocalStatus after = AskLocal(session, path);
@@ -170,9 +204,7 @@ scc::Long GetFiles(Session& session, Names names, const CommandOptions& options)
       if (step != Step::Nothing && status.NeedsGet) stale.push_back(path);
     });
   if (stale.empty() && offered.empty() && outcome.Result() == scc::SCC_OK) TellUpToDate(session, paths);
-  if (stale.size() > 1 && CoverEverything(statuses, stale)) {
-    UpdateTo(session, {session.CurrentProject().Folder}, svn_depth_infinity, Reach::Set);
-    SettleFoldersBelow(session, session.CurrentProject().Folder);
+  if (stale.size() > 1 && CoverEverything(statuses, stale) && UpdateProject(session)) {
     for (const auto& path : stale) outcome.Try(path, [&] { RequireNoConflict(session, path); });
   } else {
     for (const auto& path : stale)

@@ -64,16 +64,20 @@ void SettleLeftOver(Session& session, const svn_client_status_t& status, FileSta
 }
 
 /// Fills in what a walk without the working copy leaves out.
-void AddLocalState(Session& session, svn_client_status_t& status) {
-  const Pool pool;
+void AddLocalState(Session& session, svn_client_status_t& status, apr_pool_t* pool) {
   svn_wc_status3_t* local = nullptr;
   Check(svn_wc_status3(&local, session.Context()->wc_ctx, status.local_abspath, pool, pool));
+  if (local->versioned) status.kind = local->kind;
   status.versioned = local->versioned;
   status.node_status = local->node_status;
   status.text_status = local->text_status;
   status.prop_status = local->prop_status;
   status.conflicted = local->conflicted;
+  status.copied = local->copied;
+  status.lock = local->lock;
+  status.file_external = local->file_external;
 }
+
 /// A file or folder that libsvn reports without a word on what lies below it.
 struct Root {
   std::string path;
@@ -103,11 +107,12 @@ void NoteRoot(Walk& walk, const svn_client_status_t& status) {
     walk.roots.push_back({status.local_abspath, false, true});
 }
 
-svn_error_t* TakeStatus(void* baton, const char*, const svn_client_status_t* status, apr_pool_t*) noexcept {
+svn_error_t* TakeStatus(void* baton, const char*, const svn_client_status_t* status,
+                        apr_pool_t* pool) noexcept {
   auto& walk = *static_cast<Walk*>(baton);
   return Contain(walk.kept, [&] {
     svn_client_status_t seen = *status;
-    if (walk.byName) AddLocalState(walk.session, seen);
+    if (walk.byName) AddLocalState(walk.session, seen, pool);
     if (!walk.online) seen.repos_lock = seen.lock;
     NoteRoot(walk, seen);
     FileStatus file = ToFileStatus(seen, walk.user);
@@ -177,6 +182,23 @@ void Inherit(Walk& walk, Session& session) {
   }
 }
 
+svn_error_t* TakeNode(void* baton, const char* path, const svn_client_info2_t*, apr_pool_t* pool) noexcept {
+  svn_client_status_t status{};
+  status.local_abspath = path;
+  status.repos_node_status = status.repos_text_status = status.repos_prop_status = svn_wc_status_none;
+  return TakeStatus(baton, path, &status, pool);
+}
+
+/// A walk that reads no folder on disk: the working copy's database names what it knows.
+svn_error_t* WalkKnown(Walk& walk, const std::string& path, svn_depth_t depth) {
+  const Pool pool;
+  svn_opt_revision_t here{};
+  here.kind = svn_opt_revision_unspecified;
+  return svn_client_info4(path.c_str(), &here, &here, depth, /*fetch_excluded*/ FALSE,
+                          /*fetch_actual_only*/ TRUE, /*include_externals*/ FALSE, nullptr, TakeNode, &walk,
+                          walk.session.Context(), pool);
+}
+
 enum class Ask { Repository, WorkingCopy };
 
 enum class Read { Folders, NamedFiles };
@@ -189,10 +211,14 @@ void WalkInto(StatusTable& table, Session& session, const std::string& path, svn
   Walk walk{session, session.Svn().User(), online, byName, table, {}, {}, {}, nullptr};
   svn_opt_revision_t head{};
   head.kind = svn_opt_revision_head;
-  svn_error_t* error = svn_client_status6(
-      nullptr, session.Context(), path.c_str(), &head, depth, /*get_all*/ TRUE,
-      /*check_out_of_date*/ online, /*check_working_copy*/ !byName, /*no_ignore*/ TRUE,
-      /*ignore_externals*/ TRUE, /*depth_as_sticky*/ TRUE, nullptr, TakeStatus, &walk, pool);
+  svn_error_t* error =
+      byName && !online
+          ? WalkKnown(walk, path, depth)
+          : svn_client_status6(nullptr, session.Context(), path.c_str(), &head, depth, /*get_all*/ TRUE,
+                               /*check_out_of_date*/ online, /*check_working_copy*/ !byName,
+                               /*no_ignore*/ TRUE,
+                               /*ignore_externals*/ TRUE, /*depth_as_sticky*/ TRUE, nullptr, TakeStatus,
+                               &walk, pool);
   if (walk.kept != nullptr) {
     svn_error_clear(error);
     std::rethrow_exception(walk.kept);

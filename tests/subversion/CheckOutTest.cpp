@@ -156,6 +156,11 @@ TEST_F(CheckOut, AConflictThatCannotBeMergedIsAskedAbout) {
       << "nothing can be asked here";
   EXPECT_THAT(bob.Said(), HasSubstr("Get Latest Version or Undo Check Out takes the repository's"));
 
+  const std::string lock = "svn lock -q --non-interactive --no-auth-cache --username bob '";
+  ASSERT_EQ(0, std::system((lock + bob.File("both.dat") + "'").c_str()));
+  EXPECT_EQ(scc::SCC_E_FIXMERGE, bob.CheckIn({"both.dat"})) << "no marks, and still not settled";
+  EXPECT_EQ("ann\n", repository.Contents("project/both.dat"));
+
   static std::string asked;
   static bool answer;
   svnscc::SetQuestionPrompt([](scc::WindowHandle, const svnscc::Question& question) {

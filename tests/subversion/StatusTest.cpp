@@ -75,8 +75,16 @@ TEST_F(Status, ANameThatIsNotUtf8IsLeftOutAndTheOthersAreAnswered) {
   bob.Status("in.pas");
   EXPECT_EQ("", bob.Said()) << "told once";
   EXPECT_EQ(scc::SCC_E_FILESYNTAXERR, bob.Add({"\xff.pas"}));
-  EXPECT_EQ(scc::SCC_OK, bob.Get({"sub/old.pas"})) << bob.Said();
+  EXPECT_EQ(scc::SCC_OK, bob.Get({"sub/old.pas", "new.pas"})) << bob.Said();
+  EXPECT_EQ("2\n", bob.Read("sub/old.pas"));
   EXPECT_EQ(scc::SCC_OK, bob.CheckIn({"out.pas"})) << bob.Said();
+  std::filesystem::remove(bob.File("new.pas"));
+  EXPECT_EQ(scc::SCC_OK, bob.GetEverything()) << bob.Said();
+  EXPECT_EQ("1\n", bob.Read("new.pas"));
+  bob.CheckOut({"out.pas"});
+  std::filesystem::rename(repository.Folder(), repository.Folder() + "-gone");
+  EXPECT_EQ((std::vector<scc::Long>{1, 0x100B, 1}),
+            bob.Statuses({"in.pas", "out.pas", "new.pas"}, scc::SCC_E_ACCESSFAILURE));
 }
 
 TEST_F(Status, WithoutTheRepositoryTheWorkingCopyAnswers) {
