@@ -67,8 +67,12 @@ constexpr TResString sLostConflict{
     "or Undo Check Out gives it up and keeps a copy"};
 constexpr TResString sGiveUpTitle{"Take the Repository's Version?"};
 constexpr TResString sGiveUp{
-    "These files were changed here and in the repository, and the two versions could not be merged:\n\n%s\n\n"
-    "Take what the repository has? Your versions are kept in copies beside the files."};
+    "These files were changed here, and in the repository they were changed, moved or deleted; the versions "
+    "cannot be "
+    "merged:\n\n%s\n\n"
+    "Take what the repository has? What it does not have is removed here. Your versions are kept in copies "
+    "beside the "
+    "files."};
 constexpr TResString sInTheWay{
     "a file of that name is here which never came from the repository: Get Latest Version fetches the "
     "repository's and "
