@@ -194,7 +194,7 @@ void TCommitBrowser::PlaceActivities(int row) {
 
 void TCommitBrowser::HideActivities() {
   if (!ActivityComboBox->IsShown()) return;
-  const bool hadFocus = ActivityComboBox->IsDescendant(FindFocus());
+  const bool hadFocus = ActivityComboBox->IsPopupShown() || ActivityComboBox->IsDescendant(FindFocus());
   ActivityComboBox->Dismiss();  // its list is a window of its own
   ActivityComboBox->Hide();
   if (hadFocus) StringGrid1->SetFocus();  // or the keyboard would be nowhere

@@ -176,6 +176,7 @@ TEST_F(CommitBrowser, TheKeyboardReachesTheActivities) {
     Preview(&grid, 'U');
     form.FormResize();
     EXPECT_FALSE(list.IsPopupShown()) << "it would float where the cell was";
+    EXPECT_TRUE(IsFocused(&grid));
     Preview(&grid, 'U');
     form.Close();
     EXPECT_FALSE(list.IsPopupShown());
