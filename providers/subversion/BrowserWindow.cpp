@@ -14,6 +14,7 @@
 #include "WindowStrings.h"
 #include "Windows.h"
 #include "host/WxText.h"
+#include "host/WxWheel.h"
 
 namespace svnscc {
 namespace {
@@ -75,6 +76,7 @@ wxSizer* BrowserWindow::CreateAddress(const std::string& address) {
   address_ = new wxComboBox(this, wxID_ANY, ToWx(ReadableUrl(address)), wxDefaultPosition, wxDefaultSize,
                             recent, wxTE_PROCESS_ENTER);
   address_->SetName("address");
+  IgnoreWheel(*address_);
   row->Add(address_, wxSizerFlags(1).CenterVertical().Border(wxRIGHT, FromDIP(6)));
   AddButton(row, sOpenButton, [this] { Open(); });
   address_->Bind(wxEVT_TEXT_ENTER, [this](wxCommandEvent&) { Open(); });

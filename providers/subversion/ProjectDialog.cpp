@@ -8,6 +8,7 @@
 #include "Repository.h"
 #include "SubversionSccStrings.h"
 #include "host/WxText.h"
+#include "host/WxWheel.h"
 
 namespace svnscc {
 namespace {
@@ -81,6 +82,7 @@ wxSizer* ProjectDialog::CreateRepositoryRows() {
   repository_ = new wxComboBox(this, wxID_ANY, ToWx(choice_.ProposedRepository()), wxDefaultPosition,
                                wxDefaultSize, recent, wxTE_PROCESS_ENTER);
   repository_->SetName("repository");
+  IgnoreWheel(*repository_);
   repository_->SetHint(ToWx(sRepositoryHint));
   grid->Add(repository_, wxSizerFlags().Expand().CenterVertical());
   connect_ = new wxButton(this, wxID_ANY, ToWx(sConnectButton));

@@ -8,6 +8,7 @@
 
 #include "host/Registry.h"
 #include "host/WxText.h"
+#include "host/WxWheel.h"
 #include "provider/SCMAddInOptions.h"
 #include "provider/SCMOptionsStrings.h"
 #include "provider/sccapiintf.h"
@@ -38,6 +39,7 @@ void TSCMOptionsPage::Arrange() {
   column->Add(new wxStaticText(this, wxID_ANY, ToWx(sSCMProvidersLabel)));
   TPropComboBoxSCMProvider =
       new wxChoice(this, wxID_ANY, wxDefaultPosition, FromDIP(wxSize(kProviderWidth, -1)));
+  IgnoreWheel(*TPropComboBoxSCMProvider);
   column->Add(TPropComboBoxSCMProvider, indented);
   column->AddSpacer(FromDIP(kGap));
   column->Add(new wxStaticText(this, wxID_ANY, ToWx(sSCMUserNameLabel)));

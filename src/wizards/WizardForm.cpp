@@ -5,6 +5,7 @@
 #include <wx/wx.h>
 
 #include "host/WxText.h"
+#include "host/WxWheel.h"
 #include "wizards/WizardFormStrings.h"
 #include "wizards/WizardPagesStrings.h"
 
@@ -72,6 +73,7 @@ wxBoxSizer* TWizardForm::BrowseRow(wxTextCtrl* text, wxButton* button) {
 void TWizardForm::CreateProviderPage() {
   DirectionLabelProviderSelect = AddLabel(Page1Panel, sSelectProvider);
   cbProviders = new wxChoice(Page1Panel, wxID_ANY);
+  IgnoreWheel(*cbProviders);
   NoProvidersLabel = new wxStaticText(Page1Panel, wxID_ANY, {});
   ColumnOf(Page1Panel)->Add(cbProviders, wxSizerFlags().Expand());
   ColumnOf(Page1Panel)->Add(NoProvidersLabel, wxSizerFlags().Border(wxTOP, FromDIP(12)));

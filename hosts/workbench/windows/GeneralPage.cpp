@@ -6,6 +6,7 @@
 #include <wx/textctrl.h>
 
 #include "host/WxText.h"
+#include "host/WxWheel.h"
 #include "workbench/model/Settings.h"
 #include "workbench/windows/FrameStrings.h"
 
@@ -16,13 +17,13 @@ wxWindow* CreateGeneralPage(wxWindow* parent, IOTAOptionsPageHost& host) {
   auto* sizer = new wxBoxSizer(wxVERTICAL);
   // Labels are made before their controls: that is how access keys find them.
   const auto addLabel = [&](const TResString& text) {
-    sizer->Add(new wxStaticText(page, wxID_ANY, ToWx(text)),
-               wxSizerFlags().Border(wxLEFT | wxTOP | wxRIGHT));
+    sizer->Add(new wxStaticText(page, wxID_ANY, ToWx(text)), wxSizerFlags().Border(wxLEFT | wxTOP | wxRIGHT));
   };
   addLabel(sFontSizeLabel);
   auto* sizes = new wxChoice(page, wxID_ANY);
   for (int points = kMinFontSize; points <= kMaxFontSize; ++points)
     sizes->Append(wxString::Format("%d", points));
+  IgnoreWheel(*sizes);
   sizes->SetStringSelection(wxString::Format("%d", kDefaultFontSize));
   sizer->Add(sizes, wxSizerFlags().Border());
   addLabel(sPackagesLabel);
