@@ -149,7 +149,7 @@ void TFileCommandRun::AskComment(const std::string& caption, const std::string& 
 }
 
 bool TFileCommandRun::WantsComment() {
-  Project();  // before anything is saved or gathered
+  Project();  // throws when there is no provider any more
   return command_.CommentCapability &&
          expert_.ProviderList()->Capabilities().test(*command_.CommentCapability);
 }

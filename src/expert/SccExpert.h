@@ -74,7 +74,8 @@ class TSccExpert final : public TNotifierObject, public IOTAWizard {
   /// Activities() refuse it.
   void ChooseProvider(const std::string& provider, const std::string& userName);
   /// Creates the provider list for the current library path, in place of the one there is; false without a path.  Throws
-  /// EAbort when the library cannot be loaded, and when there is no releasing (see there).  `param` is the parent window of the provider's dialogs, 0 for none.
+  /// EAbort when the library cannot be loaded, and when the old one cannot be released.  `param` is the parent window of
+  /// the provider's dialogs, 0 for none.
   bool ProviderCreate(TWindowHandle param);
   bool ReadSCCIniFile(const std::string& projectFile, std::string& projName, std::string& userName,
                       std::string& auxProjPath);

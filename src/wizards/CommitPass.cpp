@@ -67,6 +67,8 @@ class TCommitPass {
         summary_(sProcessingFiles.str() + sCRLF.str()) {}
 
   void Execute(const std::vector<TCommitRowData>& rows, std::unique_ptr<IProgress> progress) {
+    // A call whose own window has left the browser open to the user.
+    expert_.Activities().RequireNoProviderCall();
     Project();
     for (std::size_t i = 0; i < rows.size(); ++i) {
       progress->Step(i, rows[i].FileName);

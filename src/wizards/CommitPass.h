@@ -22,6 +22,7 @@ std::string CommitCommentPlace(const std::string& fileName = {});
 /// reason goes to the message window.  Afterwards every listed file on disk is writable.  `progress` is told each row
 /// before it is begun; it ends before the summary is shown.  Comments that reach the provider are noted as used.
 ///
-/// Throws EAbort, with nothing touched, when there is no provider or the project's directory is no provider project.
+/// Throws EAbort, with nothing touched, when there is no provider, when a call of it is running, or when the project's
+/// directory is no provider project.
 void CommitRows(TSccExpert& expert, const std::vector<TCommitRowData>& rows, const TCommitComments& comments,
                 std::unique_ptr<IProgress> progress);

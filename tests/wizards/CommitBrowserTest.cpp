@@ -176,7 +176,6 @@ TEST_F(CommitBrowser, TheKeyboardReachesTheActivities) {
     Preview(&grid, 'U');
     form.FormResize();
     EXPECT_FALSE(list.IsPopupShown()) << "it would float where the cell was";
-    EXPECT_TRUE(IsFocused(&grid));
     Preview(&grid, 'U');
     form.Close();
     EXPECT_FALSE(list.IsPopupShown());
@@ -304,6 +303,9 @@ TEST_F(CommitBrowser, ButtonsAndKeysLeadToTheProviderAndTheHelp) {
 
 TEST_F(CommitBrowser, StaysOpenWhenThePassCannotBegin) {
   EXPECT_EQ(Show([this](TCommitBrowser& form) {
+              provider_->OnCall["SccDiff"] = [&](const ScriptedCall&) { Click(form.TButtonCommit); };
+              Click(form.TButtonShowDiff);
+              EXPECT_TRUE(form.IsModal());
               host_.Notify(TOTAFileNotification::fnFileClosing, project_file_);
               Click(form.TButtonCommit);
               EXPECT_TRUE(form.IsModal());
@@ -311,9 +313,12 @@ TEST_F(CommitBrowser, StaysOpenWhenThePassCannotBegin) {
               form.Close();
             }),
             mrCancel);
-  EXPECT_THAT(forms_.Boxes,
-              ElementsAre(TShownBox{"Commit Browser", "Unable to run Commit Browser, provider not assigned",
-                                    metError}));
+  EXPECT_THAT(
+      forms_.Boxes,
+      ElementsAre(
+          TShownBox{"Commit Browser", "The source code control provider is still busy with another call",
+                    metError},
+          TShownBox{"Commit Browser", "Unable to run Commit Browser, provider not assigned", metError}));
 }
 
 TEST_F(CommitBrowser, CannotBeWorkedWhileThePassRuns) {
