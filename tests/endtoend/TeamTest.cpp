@@ -79,7 +79,7 @@ class Team : public testing::Test {
     TRegistry registry;
     repository_.Choose("/trunk/Flight plan");
     registry.OpenKey("Software\\Subversion");
-    registry.WriteString(kServerPath, SUBVERSION_SCC_PATH);
+    registry.WriteString(kServerPath, SubversionLibrary());
     registry.OpenKey(kInstalledProvidersKey);
     registry.WriteString(kProvider, "Software\\Subversion");
     registry.OpenKey(kProviderKey);

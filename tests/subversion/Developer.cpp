@@ -63,7 +63,7 @@ void Fill(std::array<char, Size>& buffer, const std::string& text) {
 
 TProviderLibrary::TProviderLibrary() {
   std::string error;
-  module_ = LoadModule(SUBVERSION_SCC_PATH, &error);
+  module_ = LoadModule(SubversionLibrary(), &error);
   if (module_ == nullptr) throw std::runtime_error(error);
 #define SCC_ENTRY(variable, name, result, arguments) \
   entries_.variable = reinterpret_cast<decltype(entries_.variable)>(FindSymbol(module_, name));

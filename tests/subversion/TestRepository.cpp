@@ -1,5 +1,6 @@
 #include "TestRepository.h"
 
+#include <cstdlib>
 #include <svn_fs.h>
 #include <svn_props.h>
 #include <svn_repos.h>
@@ -42,6 +43,11 @@ svn_lock_t* LockOf(const Open& open, const std::string& path) {
 }
 
 }  // namespace
+
+std::string SubversionLibrary() {
+  const char* const isolated = std::getenv("KESTREL_ISOLATED_PROVIDER");
+  return isolated != nullptr ? isolated : SUBVERSION_SCC_PATH;
+}
 
 TTestRepository::TTestRepository()
     : configuration_("SUBVERSION_SCC_CONFIG_DIR", temporary_.MakeFolder("config").c_str()),

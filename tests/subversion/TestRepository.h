@@ -9,6 +9,9 @@
 #include "support/Environment.h"
 #include "support/TemporaryFolder.h"
 
+/// The provider, or the library that stands for it in a run of the tests through a process of its own.
+std::string SubversionLibrary();
+
 class TTestRepository {
  public:
   TTestRepository();

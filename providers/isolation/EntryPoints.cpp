@@ -1,0 +1,158 @@
+// The 23 exported names.  Each crosses as the table says; what is more than that is here: which context it is, what has to
+// be remembered for the next process, and what needs no process at all.
+#include "Crossing.h"
+
+using namespace scc;
+using isolation::Session;
+
+namespace isolation {
+namespace {
+
+#define SCC_ISOLATED(name, ...) using name##Call = Crossing<Entry::name __VA_OPT__(, ) __VA_ARGS__>;
+using namespace client;
+#include "Entries.def"
+#undef SCC_ISOLATED
+
+/// Started for a question that comes before there is a context; the first context takes it over.
+std::unique_ptr<Session> early;
+
+/// A text that a client has in a buffer of at least `size` bytes.
+std::string TextIn(const char* buffer, std::size_t size) {
+  return buffer != nullptr ? std::string(buffer, strnlen(buffer, size)) : std::string();
+}
+
+Long Initialize(void** context, WindowHandle window, const char* caller, char* sccName, Long* capabilities,
+                char* auxPathLabel, Long* checkOutCommentLength, Long* commentLength) {
+  if (context == nullptr) return SCC_E_INITIALIZEFAILED;
+  Session& session = *(early ? std::exchange(early, nullptr) : std::make_unique<Session>()).release();
+  *context = &session;  // stays when the call fails: the next one tries again
+  session.Caller = caller != nullptr ? caller : "";
+  session.RoomIsKnown = session.Caller == kAddIn;
+  const Long result = SccInitializeCall::Forward(&session, context, window, caller, sccName, capabilities,
+                                                 auxPathLabel, checkOutCommentLength, commentLength);
+  session.Initialized = true;
+  session.Name = TextIn(sccName, SCC_NAME_SIZE);
+  return result;
+}
+
+Long Uninitialize(void* context) {
+  auto* session = Session::Of(context);
+  if (session == nullptr) return SCC_E_NONSPECIFICERROR;
+  const Long result = SccUninitializeCall::ForwardIfAlive(context, context);
+  if (result == SCC_E_OPNOTPERFORMED) return result;
+  session->End();
+  delete session;
+  return result;
+}
+
+Long SetOption(void* context, Long option, Long value) {
+  // Pointers of this process, which the other one cannot use.
+  if (option == SCC_OPT_USERDATA || option == SCC_OPT_NAMECHANGEPFN) return SCC_E_OPNOTSUPPORTED;
+  const Long result = SccSetOptionCall::Forward(context, context, option, value);
+  if (auto* session = Session::Of(context); session != nullptr && result >= 0)
+    session->SetOptions[option] = value;
+  return result;
+}
+
+Long OpenProject(void* context, WindowHandle window, char* user, char* projectName, const char* localPath,
+                 char* auxPath, const char* comment, TTextOutProc textOut, Long flags) {
+  auto* session = Session::Of(context);
+  if (session != nullptr) session->Listen(textOut);
+  const Long result = SccOpenProjectCall::Forward(context, context, window, user, projectName, localPath, auxPath,
+                                                  comment, textOut, flags);
+  if (session != nullptr && result >= 0)
+    session->Opened = OpenedProject{TextIn(user, SCC_USER_SIZE), TextIn(projectName, SCC_PRJPATH_SIZE),
+                                    localPath != nullptr ? localPath : "", TextIn(auxPath, SCC_PRJPATH_SIZE),
+                                    (flags & ~SCC_OP_CREATEIFNEW) | SCC_OP_SILENTOPEN};
+  return result;
+}
+
+Long CloseProject(void* context) {
+  const Long result = SccCloseProjectCall::ForwardIfAlive(context, context);
+  if (auto* session = Session::Of(context); session != nullptr && result != SCC_E_OPNOTPERFORMED) {
+    session->Opened.reset();
+    session->StopListening();
+  }
+  return result;
+}
+
+Long GetEvents(void* context, char* name, Long* status, Long* remaining) {
+  // Clients ask all the time: nothing is started for that.
+  if (name != nullptr) *name = '\0';
+  if (remaining != nullptr) *remaining = 0;
+  return SccGetEventsCall::ForwardIfAlive(context, context, name, status, remaining);
+}
+
+Long GetVersion() {
+  void* any = Session::Any();
+  if (any == nullptr) {
+    early = std::make_unique<Session>();
+    any = early.get();
+  }
+  return SccGetVersionCall::Forward(any);
+}
+
+}  // namespace
+
+Long Replay(Session& session) {
+  std::vector<char> user(kAddInText), project(kAddInText), aux(kAddInText);
+  void* context = nullptr;
+  Long capabilities = 0, checkOutCommentLength = 0, commentLength = 0;
+  const Long initialized =
+      SccInitializeCall::Carry(session, &context, nullptr, session.Caller.c_str(), user.data(), &capabilities,
+                               aux.data(), &checkOutCommentLength, &commentLength);
+  if (initialized < 0) return initialized;
+  for (const auto& [option, value] : session.SetOptions)
+    SccSetOptionCall::Carry(session, nullptr, option, value);
+  if (!session.Opened) return SCC_OK;
+  const auto put = [](std::vector<char>& buffer, const std::string& text) {
+    std::ranges::fill(buffer, '\0');
+    std::ranges::copy(text, buffer.begin());
+  };
+  put(user, session.Opened->User);
+  put(project, session.Opened->Name);
+  put(aux, session.Opened->Aux);
+  return SccOpenProjectCall::Carry(session, nullptr, nullptr, user.data(), project.data(),
+                                   session.Opened->Local.c_str(), aux.data(), nullptr, session.TextOut,
+                                   session.Opened->Flags);
+}
+
+}  // namespace isolation
+
+using namespace isolation;
+
+// Declared from the table that the client binds by, so that a wrong signature does not compile.
+#define SccCheckOut SccCheckout
+extern "C" {
+#define SCC_ENTRY(variable, name, result, arguments) SCC_EXPORT result SCC_CALL variable arguments;
+#include "provider/entry_points.def"
+#undef SCC_ENTRY
+}
+#undef SccCheckOut
+
+Long SCC_CALL SccInitialize(void** c, WindowHandle w, const char* caller, char* name, Long* caps, char* label, Long* out, Long* in) { return Initialize(c, w, caller, name, caps, label, out, in); }
+Long SCC_CALL SccUninitialize(void* c) { return Uninitialize(c); }
+Long SCC_CALL SccGetVersion() { return GetVersion(); }
+Long SCC_CALL SccSetOption(void* c, Long option, Long value) { return SetOption(c, option, value); }
+Long SCC_CALL SccOpenProject(void* c, WindowHandle w, char* user, char* name, const char* local, char* aux, const char* comment, TTextOutProc text, Long flags) { return OpenProject(c, w, user, name, local, aux, comment, text, flags); }
+Long SCC_CALL SccCloseProject(void* c) { return CloseProject(c); }
+Long SCC_CALL SccGetEvents(void* c, char* name, Long* status, Long* left) { return GetEvents(c, name, status, left); }
+
+// The others as they are.
+#define FORWARD(name, ...) return name##Call::Forward(c, c, __VA_ARGS__)
+Long SCC_CALL SccAdd(void* c, WindowHandle w, Long n, const char** f, const char* t, Long* g, void* o) { FORWARD(SccAdd, w, n, f, t, g, o); }
+Long SCC_CALL SccAddFromScc(void* c, WindowHandle w, Long* n, const char*** f) { FORWARD(SccAddFromScc, w, n, f); }
+Long SCC_CALL SccCheckin(void* c, WindowHandle w, Long n, const char** f, const char* t, Long g, void* o) { FORWARD(SccCheckin, w, n, f, t, g, o); }
+Long SCC_CALL SccCheckout(void* c, WindowHandle w, Long n, const char** f, const char* t, Long g, void* o) { FORWARD(SccCheckout, w, n, f, t, g, o); }
+Long SCC_CALL SccDiff(void* c, WindowHandle w, const char* f, Long g, void* o) { FORWARD(SccDiff, w, f, g, o); }
+Long SCC_CALL SccGet(void* c, WindowHandle w, Long n, const char** f, Long g, void* o) { FORWARD(SccGet, w, n, f, g, o); }
+Long SCC_CALL SccGetCommandOptions(void* c, WindowHandle w, SCCCommand i, void** o) { FORWARD(SccGetCommandOptions, w, i, o); }
+Long SCC_CALL SccGetProjPath(void* c, WindowHandle w, char* u, char* p, char* l, char* a, Bool m, Bool* n) { FORWARD(SccGetProjPath, w, u, p, l, a, m, n); }
+Long SCC_CALL SccHistory(void* c, WindowHandle w, Long n, const char** f, Long g, void* o) { FORWARD(SccHistory, w, n, f, g, o); }
+Long SCC_CALL SccPopulateList(void* c, SCCCommand i, Long n, const char** f, TPopListFunc p, void* d, Long* s, Long g) { FORWARD(SccPopulateList, i, n, f, p, d, s, g); }
+Long SCC_CALL SccProperties(void* c, WindowHandle w, const char* f) { FORWARD(SccProperties, w, f); }
+Long SCC_CALL SccQueryInfo(void* c, Long n, const char** f, Long* s) { FORWARD(SccQueryInfo, n, f, s); }
+Long SCC_CALL SccRemove(void* c, WindowHandle w, Long n, const char** f, const char* t, Long g, void* o) { FORWARD(SccRemove, w, n, f, t, g, o); }
+Long SCC_CALL SccRename(void* c, WindowHandle w, const char* f, const char* t) { FORWARD(SccRename, w, f, t); }
+Long SCC_CALL SccRunScc(void* c, WindowHandle w, Long n, const char** f) { FORWARD(SccRunScc, w, n, f); }
+Long SCC_CALL SccUncheckout(void* c, WindowHandle w, Long n, const char** f, Long g, void* o) { FORWARD(SccUncheckout, w, n, f, g, o); }

@@ -1,0 +1,16 @@
+// Carries calls out.
+#pragma once
+
+#include <string>
+
+#include "Wire.h"
+#include "host/Library.h"
+
+namespace isolation {
+
+/// Loads the provider; why it failed, or an empty text.
+std::string LoadProvider(const std::string& path);
+/// Carries out a call; the answer's body.
+std::string Carry(const std::string& call);
+
+}  // namespace isolation
