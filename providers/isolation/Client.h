@@ -24,7 +24,9 @@ struct Input {
 };
 
 struct Context : Input<void*> {
-  static void Give(Session& session, Out& out, Arg) { out(session.Context); }
+  static void Give(Session& session, Out& out, Arg context) {
+    out(context != nullptr ? session.Context : 0);
+  }
 };
 
 struct Window : Input<scc::WindowHandle> {

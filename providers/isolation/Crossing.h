@@ -43,7 +43,7 @@ struct Crossing {
  private:
   template <class Action>
   static scc::Long InTurn(void* context, Action action) {
-    Session* const session = Session::Of(context);
+    Session* const session = context != nullptr ? Session::Of(context) : Session::Any();
     if (session == nullptr) return scc::SCC_E_NONSPECIFICERROR;
     const Session::Turn turn(*session);
     if (!turn) return scc::SCC_E_OPNOTPERFORMED;

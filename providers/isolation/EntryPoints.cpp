@@ -14,7 +14,7 @@ using namespace client;
 #undef SCC_ISOLATED
 
 /// Started for a question that comes before there is a context; the first context takes it over.
-std::unique_ptr<Session> early;
+Session* early = nullptr;
 
 /// A text that a client has in a buffer of at least `size` bytes.
 std::string TextIn(const char* buffer, std::size_t size) {
@@ -24,7 +24,7 @@ std::string TextIn(const char* buffer, std::size_t size) {
 Long Initialize(void** context, WindowHandle window, const char* caller, char* sccName, Long* capabilities,
                 char* auxPathLabel, Long* checkOutCommentLength, Long* commentLength) {
   if (context == nullptr) return SCC_E_INITIALIZEFAILED;
-  Session& session = *(early ? std::exchange(early, nullptr) : std::make_unique<Session>()).release();
+  Session& session = *(early != nullptr ? std::exchange(early, nullptr) : new Session);
   *context = &session;  // stays when the call fails: the next one tries again
   session.Caller = caller != nullptr ? caller : "";
   session.RoomIsKnown = session.Caller == kAddIn;
@@ -36,10 +36,9 @@ Long Initialize(void** context, WindowHandle window, const char* caller, char* s
 }
 
 Long Uninitialize(void* context) {
-  auto* session = Session::Of(context);
-  if (session == nullptr) return SCC_E_NONSPECIFICERROR;
   const Long result = SccUninitializeCall::ForwardIfAlive(context, context);
-  if (result == SCC_E_OPNOTPERFORMED) return result;
+  auto* session = Session::Of(context);
+  if (session == nullptr || result == SCC_E_OPNOTPERFORMED) return result;
   session->End();
   delete session;
   return result;
@@ -84,12 +83,8 @@ Long GetEvents(void* context, char* name, Long* status, Long* remaining) {
 }
 
 Long GetVersion() {
-  void* any = Session::Any();
-  if (any == nullptr) {
-    early = std::make_unique<Session>();
-    any = early.get();
-  }
-  return SccGetVersionCall::Forward(any);
+  if (Session::Any() == nullptr) early = new Session;
+  return SccGetVersionCall::Forward(nullptr);
 }
 
 }  // namespace
@@ -103,7 +98,7 @@ Long Replay(Session& session) {
                                aux.data(), &checkOutCommentLength, &commentLength);
   if (initialized < 0) return initialized;
   for (const auto& [option, value] : session.SetOptions)
-    SccSetOptionCall::Carry(session, nullptr, option, value);
+    SccSetOptionCall::Carry(session, &session, option, value);
   if (!session.Opened) return SCC_OK;
   const auto put = [](std::vector<char>& buffer, const std::string& text) {
     std::ranges::fill(buffer, '\0');
@@ -112,7 +107,7 @@ Long Replay(Session& session) {
   put(user, session.Opened->User);
   put(project, session.Opened->Name);
   put(aux, session.Opened->Aux);
-  return SccOpenProjectCall::Carry(session, nullptr, nullptr, user.data(), project.data(),
+  return SccOpenProjectCall::Carry(session, &session, nullptr, user.data(), project.data(),
                                    session.Opened->Local.c_str(), aux.data(), nullptr, session.TextOut,
                                    session.Opened->Flags);
 }

@@ -13,31 +13,38 @@ namespace {
 
 constexpr int kMostFruitless = 3;
 
-std::mutex sessionsMutex;
-std::set<void*> sessions;
+/// Never destroyed: clients may still end sessions when the process ends.
+struct Sessions {
+  std::mutex Mutex;
+  std::set<void*> All;
+};
+Sessions& TheSessions() {
+  static auto& sessions = *new Sessions;
+  return sessions;
+}
 
 std::string FileNameOf(const std::string& path) { return path.substr(path.find_last_of("/\\") + 1); }
 
 }  // namespace
 
 Session::Session() : place_(ReadPlace(OwnPlaceFile())) {
-  const std::lock_guard lock(sessionsMutex);
-  sessions.insert(this);
+  const std::lock_guard lock(TheSessions().Mutex);
+  TheSessions().All.insert(this);
 }
 
 Session::~Session() {
-  const std::lock_guard lock(sessionsMutex);
-  sessions.erase(this);
+  const std::lock_guard lock(TheSessions().Mutex);
+  TheSessions().All.erase(this);
 }
 
 Session* Session::Of(void* context) {
-  const std::lock_guard lock(sessionsMutex);
-  return sessions.contains(context) ? static_cast<Session*>(context) : nullptr;
+  const std::lock_guard lock(TheSessions().Mutex);
+  return TheSessions().All.contains(context) ? static_cast<Session*>(context) : nullptr;
 }
 
-void* Session::Any() {
-  const std::lock_guard lock(sessionsMutex);
-  return sessions.empty() ? nullptr : *sessions.begin();
+Session* Session::Any() {
+  const std::lock_guard lock(TheSessions().Mutex);
+  return TheSessions().All.empty() ? nullptr : static_cast<Session*>(*TheSessions().All.begin());
 }
 
 Session::Turn::Turn(Session& session)

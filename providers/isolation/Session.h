@@ -36,8 +36,8 @@ class Session {
   /// The session behind a context; nullptr for anything else.
   static Session* Of(void* context);
 
-  /// The context of one of them; nullptr when there is none.
-  static void* Any();
+  /// One of them, for calls without a context; nullptr when there is none.
+  static Session* Any();
 
   /// One call at a time: another thread waits, the same thread (out of a window or a callback) does not get in.
   class Turn {

@@ -202,6 +202,8 @@ struct Buffer {
   void Return(Out& out) {
     std::size_t changed = bytes_.size();
     while (changed > 0 && bytes_[changed - 1] == given_[changed - 1]) --changed;
+    // What the client's buffer has behind its text is not known, so the terminator goes along.
+    if (changed > 0 && changed < Size && bytes_[changed] == '\0') ++changed;
     bytes_.resize(changed);
     out(bytes_);
   }

@@ -38,8 +38,9 @@ class Leaving {
   }
 
  private:
-  static inline std::mutex mutex_;
-  static inline std::vector<pid_t> processes_;
+  // Never destroyed: clients may still end sessions when the process ends.
+  static inline std::mutex& mutex_ = *new std::mutex;
+  static inline std::vector<pid_t>& processes_ = *new std::vector<pid_t>;
 };
 
 class Handle {
@@ -101,6 +102,7 @@ class PosixProcess final : public Process {
   }
   ~PosixProcess() override {
     channel_.Close();
+    if (InForkedCopy()) return;
     if (letGo_ && !ended_) {
       Leaving::Add(pid_);
       return;
@@ -110,6 +112,7 @@ class PosixProcess final : public Process {
   }
 
   bool Move(Outgoing& out, std::string& in, std::size_t room, std::chrono::milliseconds wait) override {
+    if (InForkedCopy()) return false;
     pollfd waits[] = {
         {channel_.Get(), static_cast<short>(room > 0 ? POLLIN : 0), 0},
         {life_.Get(), POLLIN, 0},
@@ -123,11 +126,11 @@ class PosixProcess final : public Process {
     return waits[0].revents == (waits[0].revents & POLLOUT) && waits[1].revents == 0;
   }
   void Kill() override {
-    if (!ended_) kill(pid_, SIGKILL);
+    if (!ended_ && !InForkedCopy()) kill(pid_, SIGKILL);
   }
   void LetGo() override { letGo_ = true; }
   std::string HowItEnded() override {
-    if (ended_) return how_;
+    if (ended_ || InForkedCopy()) return how_;
     ended_ = true;
     pollfd life{life_.Get(), POLLIN, 0};
     const bool byItself = poll(&life, 1, kLastMoments) > 0;
@@ -162,6 +165,10 @@ class PosixProcess final : public Process {
     return got > 0 || (got < 0 && (errno == EAGAIN || errno == EINTR));
   }
 
+  /// A client may go on in a copy of itself: the process belongs to the original.
+  bool InForkedCopy() const { return getpid() != owner_; }
+
+  const pid_t owner_ = getpid();
   Handle channel_, life_;
   pid_t pid_ = 0;
   bool letGo_ = false;
