@@ -55,7 +55,8 @@ std::optional<Frame> Child::Receive(std::chrono::milliseconds wait, std::size_t 
     if (ended_) return std::nullopt;
     const auto left = std::chrono::ceil<std::chrono::milliseconds>(end - std::chrono::steady_clock::now());
     const auto before = in_.size();
-    ended_ = !process_->Move(out_, in_, std::min(missing, kChunk), std::max(left, std::chrono::milliseconds(0)));
+    ended_ =
+        !process_->Move(out_, in_, std::min(missing, kChunk), std::max(left, std::chrono::milliseconds(0)));
     if (in_.size() == before && !ended_ && left.count() <= 0) return std::nullopt;
   }
   Frame frame{HeaderOf(in_).Of, in_.substr(sizeof(FrameHeader))};

@@ -6,8 +6,8 @@
 #include <cstring>
 
 #include "IsolationStrings.h"
-#include "Owner.h"
 #include "OwnMemory.h"
+#include "Owner.h"
 #include "Rooms.h"
 #include "Session.h"
 
@@ -24,9 +24,7 @@ struct Input {
 };
 
 struct Context : Input<void*> {
-  static void Give(Session& session, Out& out, Arg context) {
-    out(context != nullptr ? session.Context : 0);
-  }
+  static void Give(Session& session, Out& out, Arg context) { out(context != nullptr ? session.Context : 0); }
 };
 
 struct Window : Input<scc::WindowHandle> {
@@ -46,8 +44,10 @@ struct Text : Input<const char*> {
 };
 
 struct Count : Input<Long> {
-  static void Give(Session& session, Out& out, Arg count) { session.Count = count;
-    out(count); }
+  static void Give(Session& session, Out& out, Arg count) {
+    session.Count = count;
+    out(count);
+  }
 };
 
 struct Names : Input<const char**> {

@@ -36,8 +36,8 @@ struct Crossing {
 
   /// The same for what is done anyway when the process has ended.
   static scc::Long ForwardIfAlive(void* context, typename Kinds::Arg... args) {
-    return InTurn(context,
-                  [&](Session& session) { return session.IsAlive() ? Carry(session, args...) : scc::SCC_OK; });
+    return InTurn(
+        context, [&](Session& session) { return session.IsAlive() ? Carry(session, args...) : scc::SCC_OK; });
   }
 
  private:

@@ -57,8 +57,8 @@ Long OpenProject(void* context, WindowHandle window, char* user, char* projectNa
                  char* auxPath, const char* comment, TTextOutProc textOut, Long flags) {
   auto* session = Session::Of(context);
   if (session != nullptr) session->Listen(textOut);
-  const Long result = SccOpenProjectCall::Forward(context, context, window, user, projectName, localPath, auxPath,
-                                                  comment, textOut, flags);
+  const Long result = SccOpenProjectCall::Forward(context, context, window, user, projectName, localPath,
+                                                  auxPath, comment, textOut, flags);
   if (session != nullptr && result >= 0)
     session->Opened = OpenedProject{TextIn(user, SCC_USER_SIZE), TextIn(projectName, SCC_PRJPATH_SIZE),
                                     localPath != nullptr ? localPath : "", TextIn(auxPath, SCC_PRJPATH_SIZE),
@@ -125,29 +125,64 @@ extern "C" {
 }
 #undef SccCheckOut
 
-Long SCC_CALL SccInitialize(void** c, WindowHandle w, const char* caller, char* name, Long* caps, char* label, Long* out, Long* in) { return Initialize(c, w, caller, name, caps, label, out, in); }
+Long SCC_CALL SccInitialize(void** c, WindowHandle w, const char* caller, char* name, Long* caps, char* label,
+                            Long* out, Long* in) {
+  return Initialize(c, w, caller, name, caps, label, out, in);
+}
 Long SCC_CALL SccUninitialize(void* c) { return Uninitialize(c); }
 Long SCC_CALL SccGetVersion() { return GetVersion(); }
 Long SCC_CALL SccSetOption(void* c, Long option, Long value) { return SetOption(c, option, value); }
-Long SCC_CALL SccOpenProject(void* c, WindowHandle w, char* user, char* name, const char* local, char* aux, const char* comment, TTextOutProc text, Long flags) { return OpenProject(c, w, user, name, local, aux, comment, text, flags); }
+Long SCC_CALL SccOpenProject(void* c, WindowHandle w, char* user, char* name, const char* local, char* aux,
+                             const char* comment, TTextOutProc text, Long flags) {
+  return OpenProject(c, w, user, name, local, aux, comment, text, flags);
+}
 Long SCC_CALL SccCloseProject(void* c) { return CloseProject(c); }
-Long SCC_CALL SccGetEvents(void* c, char* name, Long* status, Long* left) { return GetEvents(c, name, status, left); }
+Long SCC_CALL SccGetEvents(void* c, char* name, Long* status, Long* left) {
+  return GetEvents(c, name, status, left);
+}
 
 // The others as they are.
 #define FORWARD(name, ...) return name##Call::Forward(c, c, __VA_ARGS__)
-Long SCC_CALL SccAdd(void* c, WindowHandle w, Long n, const char** f, const char* t, Long* g, void* o) { FORWARD(SccAdd, w, n, f, t, g, o); }
-Long SCC_CALL SccAddFromScc(void* c, WindowHandle w, Long* n, const char*** f) { FORWARD(SccAddFromScc, w, n, f); }
-Long SCC_CALL SccCheckin(void* c, WindowHandle w, Long n, const char** f, const char* t, Long g, void* o) { FORWARD(SccCheckin, w, n, f, t, g, o); }
-Long SCC_CALL SccCheckout(void* c, WindowHandle w, Long n, const char** f, const char* t, Long g, void* o) { FORWARD(SccCheckout, w, n, f, t, g, o); }
-Long SCC_CALL SccDiff(void* c, WindowHandle w, const char* f, Long g, void* o) { FORWARD(SccDiff, w, f, g, o); }
-Long SCC_CALL SccGet(void* c, WindowHandle w, Long n, const char** f, Long g, void* o) { FORWARD(SccGet, w, n, f, g, o); }
-Long SCC_CALL SccGetCommandOptions(void* c, WindowHandle w, SCCCommand i, void** o) { FORWARD(SccGetCommandOptions, w, i, o); }
-Long SCC_CALL SccGetProjPath(void* c, WindowHandle w, char* u, char* p, char* l, char* a, Bool m, Bool* n) { FORWARD(SccGetProjPath, w, u, p, l, a, m, n); }
-Long SCC_CALL SccHistory(void* c, WindowHandle w, Long n, const char** f, Long g, void* o) { FORWARD(SccHistory, w, n, f, g, o); }
-Long SCC_CALL SccPopulateList(void* c, SCCCommand i, Long n, const char** f, TPopListFunc p, void* d, Long* s, Long g) { FORWARD(SccPopulateList, i, n, f, p, d, s, g); }
+Long SCC_CALL SccAdd(void* c, WindowHandle w, Long n, const char** f, const char* t, Long* g, void* o) {
+  FORWARD(SccAdd, w, n, f, t, g, o);
+}
+Long SCC_CALL SccAddFromScc(void* c, WindowHandle w, Long* n, const char*** f) {
+  FORWARD(SccAddFromScc, w, n, f);
+}
+Long SCC_CALL SccCheckin(void* c, WindowHandle w, Long n, const char** f, const char* t, Long g, void* o) {
+  FORWARD(SccCheckin, w, n, f, t, g, o);
+}
+Long SCC_CALL SccCheckout(void* c, WindowHandle w, Long n, const char** f, const char* t, Long g, void* o) {
+  FORWARD(SccCheckout, w, n, f, t, g, o);
+}
+Long SCC_CALL SccDiff(void* c, WindowHandle w, const char* f, Long g, void* o) {
+  FORWARD(SccDiff, w, f, g, o);
+}
+Long SCC_CALL SccGet(void* c, WindowHandle w, Long n, const char** f, Long g, void* o) {
+  FORWARD(SccGet, w, n, f, g, o);
+}
+Long SCC_CALL SccGetCommandOptions(void* c, WindowHandle w, SCCCommand i, void** o) {
+  FORWARD(SccGetCommandOptions, w, i, o);
+}
+Long SCC_CALL SccGetProjPath(void* c, WindowHandle w, char* u, char* p, char* l, char* a, Bool m, Bool* n) {
+  FORWARD(SccGetProjPath, w, u, p, l, a, m, n);
+}
+Long SCC_CALL SccHistory(void* c, WindowHandle w, Long n, const char** f, Long g, void* o) {
+  FORWARD(SccHistory, w, n, f, g, o);
+}
+Long SCC_CALL SccPopulateList(void* c, SCCCommand i, Long n, const char** f, TPopListFunc p, void* d, Long* s,
+                              Long g) {
+  FORWARD(SccPopulateList, i, n, f, p, d, s, g);
+}
 Long SCC_CALL SccProperties(void* c, WindowHandle w, const char* f) { FORWARD(SccProperties, w, f); }
 Long SCC_CALL SccQueryInfo(void* c, Long n, const char** f, Long* s) { FORWARD(SccQueryInfo, n, f, s); }
-Long SCC_CALL SccRemove(void* c, WindowHandle w, Long n, const char** f, const char* t, Long g, void* o) { FORWARD(SccRemove, w, n, f, t, g, o); }
-Long SCC_CALL SccRename(void* c, WindowHandle w, const char* f, const char* t) { FORWARD(SccRename, w, f, t); }
+Long SCC_CALL SccRemove(void* c, WindowHandle w, Long n, const char** f, const char* t, Long g, void* o) {
+  FORWARD(SccRemove, w, n, f, t, g, o);
+}
+Long SCC_CALL SccRename(void* c, WindowHandle w, const char* f, const char* t) {
+  FORWARD(SccRename, w, f, t);
+}
 Long SCC_CALL SccRunScc(void* c, WindowHandle w, Long n, const char** f) { FORWARD(SccRunScc, w, n, f); }
-Long SCC_CALL SccUncheckout(void* c, WindowHandle w, Long n, const char** f, Long g, void* o) { FORWARD(SccUncheckout, w, n, f, g, o); }
+Long SCC_CALL SccUncheckout(void* c, WindowHandle w, Long n, const char** f, Long g, void* o) {
+  FORWARD(SccUncheckout, w, n, f, g, o);
+}

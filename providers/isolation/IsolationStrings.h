@@ -18,3 +18,7 @@ constexpr TResString sNotReopened{
 constexpr TResString sGivenUp{
     "%s has ended again and again and is not started any more until the project is opened anew."};
 constexpr TResString sWroteBehind{"%s wrote behind a buffer of %s."};
+
+// The waiting window
+constexpr TResString sWaiting{"Waiting for %s since %d s..."};
+constexpr TResString sStop{"Stop"};

@@ -169,12 +169,11 @@ std::string Session::SentenceOfEnd(const char* call) {
   }
   if (!failure_.empty()) return Format(sGarbled, {ProviderName(), call, failure_});
   const auto how = child_->HowItEnded();
-  return how.empty() ? Format(sEnded, {ProviderName(), call}) : Format(sEndedHow, {ProviderName(), call, how});
+  return how.empty() ? Format(sEnded, {ProviderName(), call})
+                     : Format(sEndedHow, {ProviderName(), call, how});
 }
 
-void Session::WarnOfOverrun() {
-  Say(scc::SCC_MSG_WARNING, Format(sWroteBehind, {ProviderName(), call_}));
-}
+void Session::WarnOfOverrun() { Say(scc::SCC_MSG_WARNING, Format(sWroteBehind, {ProviderName(), call_})); }
 
 void Session::SayThrown(const std::string& what) {
   Say(scc::SCC_MSG_ERROR, Format(sThrew, {ProviderName(), call_, what}));

@@ -27,9 +27,10 @@ std::vector<const char*> NameList::Pointers() const {
   const char* next = bytes_.data();
   const char* const end = next + bytes_.size();
   for (std::uint32_t i = 0; i < count_; ++i) {
-    const auto* stop = next < end ? static_cast<const char*>(std::memchr(
-                                        next + 1, 0, static_cast<std::size_t>(end - next - 1)))
-                                  : nullptr;
+    const auto* stop =
+        next < end
+            ? static_cast<const char*>(std::memchr(next + 1, 0, static_cast<std::size_t>(end - next - 1)))
+            : nullptr;
     if (stop == nullptr) throw WireError("name without an end");
     pointers.push_back(*next != 0 ? next + 1 : nullptr);
     next = stop + 1;

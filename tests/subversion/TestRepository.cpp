@@ -1,9 +1,10 @@
 #include "TestRepository.h"
 
-#include <cstdlib>
 #include <svn_fs.h>
 #include <svn_props.h>
 #include <svn_repos.h>
+
+#include <cstdlib>
 
 #include "subversion/Client.h"
 #include "subversion/Repository.h"

@@ -1,5 +1,7 @@
 #include "workbench/macro/MacroPlayer.h"
 
+#include <wx/evtloop.h>
+
 #include <cstdio>
 #include <filesystem>
 
@@ -21,6 +23,7 @@ constexpr int kStartMs = 300;
 /// Only for what never comes: a step goes on as soon as it can, and a machine may be slow.
 constexpr long long kDefaultLimitMs = 60'000;
 constexpr long long kSettleMs = 400;  // before a picture is taken
+constexpr const char* kProviderIsWaitedFor = "SccWaiting";  // the name of the isolating provider's window
 constexpr const char* kFailedPicture = "failed.png";
 
 bool NeedsInput(TMacroVerb verb) {
@@ -49,8 +52,18 @@ long long TMacroPlayer::Elapsed() const {
   return std::chrono::duration_cast<std::chrono::milliseconds>(TClock::now() - started_).count();
 }
 
+bool TMacroPlayer::CallRuns() const {
+  if (const wxDialog* dialog = TModalStack::Top()) return dialog->GetName() == kProviderIsWaitedFor;
+  const auto* loop = wxEventLoopBase::GetActive();
+  return loop && loop->IsYielding();
+}
+
 void TMacroPlayer::Notify() {
   if (ended_) return;
+  if (CallRuns()) {
+    StartOnce(kRetryMs);
+    return;
+  }
   if (next_ == steps_.size()) {
     Print(stdout, Format(sMacroPassed, {static_cast<long long>(steps_.size())}));
     return End(0);

@@ -36,6 +36,8 @@ class TMacroPlayer final : public wxTimer {
   void Fail(const TMacroStep& step, const std::string& reason);
   void End(int exitCode);
   long long Elapsed() const;
+  /// Users cannot do anything then either: their clicks wait, or there is only the window that says so.
+  bool CallRuns() const;
   /// The window that a user works in: the innermost dialog, else the window expected last, else the main window.
   wxTopLevelWindow& Front() const;
   std::string Screenshot(const std::string& file);

@@ -30,7 +30,8 @@ T Read(In& in) {
 }
 
 struct Context {
-  Context(In& in, Call&) : context_(reinterpret_cast<void*>(static_cast<std::uintptr_t>(Read<std::uint64_t>(in)))) {}
+  Context(In& in, Call&)
+      : context_(reinterpret_cast<void*>(static_cast<std::uintptr_t>(Read<std::uint64_t>(in)))) {}
   void* Get() { return context_; }
   void Return(Out&) {}
 

@@ -15,7 +15,7 @@
 namespace isolation::link {
 namespace {
 
-constexpr int kHighFd = 300;        // where a provider that closes its standard streams by mistake seldom looks
+constexpr int kHighFd = 300;  // where a provider that closes its standard streams by mistake seldom looks
 constexpr unsigned kLastSeconds = 5;
 
 int channel = -1;

@@ -1,0 +1,90 @@
+#include "WaitingWindow.h"
+
+#include <wx/button.h>
+#include <wx/dialog.h>
+#include <wx/sizer.h>
+#include <wx/stattext.h>
+#include <wx/timer.h>
+
+#include "IsolationStrings.h"
+#include "host/WxText.h"
+
+using namespace std::chrono_literals;
+
+namespace isolation {
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+constexpr int kTickMs = 15;
+constexpr auto kWorkPerTick = 5ms;
+constexpr int kWidth = 380;
+
+class WaitingWindow final : public wxDialog {
+ public:
+  WaitingWindow(const Wait& wait, Clock::time_point begun)
+      : wxDialog(nullptr, wxID_ANY, ToWx(wait.Provider), wxDefaultPosition, wxDefaultSize, wxCAPTION,
+                 kWaitingWindow),
+        wait_(wait),
+        begun_(begun) {
+    time_ = new wxStaticText(this, wxID_ANY, {});
+    line_ = new wxStaticText(this, wxID_ANY, {}, wxDefaultPosition, FromDIP(wxSize(kWidth, -1)),
+                             wxST_NO_AUTORESIZE | wxST_ELLIPSIZE_END);
+    stop_ = new wxButton(this, wxID_CANCEL, ToWx(sStop));
+    auto* column = new wxBoxSizer(wxVERTICAL);
+    column->Add(time_, wxSizerFlags().Expand().Border(wxALL, FromDIP(8)));
+    column->Add(line_, wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT, FromDIP(8)));
+    column->Add(stop_, wxSizerFlags().Right().Border(wxALL, FromDIP(8)));
+    ShowState();
+    SetSizerAndFit(column);
+    CentreOnParent();
+    timer_.Bind(wxEVT_TIMER, [this](wxTimerEvent&) { Tick(); });
+    timer_.Start(kTickMs);
+  }
+
+ private:
+  void Tick() {
+    if (working_ || !IsModal()) return;  // a line's way to the client may handle events
+    working_ = true;
+    const auto end = Clock::now() + kWorkPerTick;
+    bool over = false;
+    while (!over && Clock::now() < end) over = wait_.Step(1ms);
+    working_ = false;
+    if (over || wait_.ProviderShowsWindow()) {
+      timer_.Stop();
+      if (IsModal()) EndModal(over ? wxID_OK : wxID_MORE);
+      return;
+    }
+    ShowState();
+  }
+  void ShowState() {
+    const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(Clock::now() - begun_).count();
+    const auto time = ToWx(Format(sWaiting, {wait_.Call, static_cast<long long>(seconds)}));
+    if (time_->GetLabelText() != time) time_->SetLabelText(time);
+    const auto line = ToWx(wait_.LastLine());
+    if (line_->GetLabelText() != line) line_->SetLabelText(line);
+  }
+
+  const Wait& wait_;
+  Clock::time_point begun_;
+  wxStaticText* time_;
+  wxStaticText* line_;
+  wxButton* stop_;
+  wxTimer timer_;
+  bool working_ = false;
+};
+
+}  // namespace
+
+bool ShowWaiting(const Wait& wait, Clock::time_point begun) {
+  const int ended = WaitingWindow(wait, begun).ShowModal();
+  if (ended == wxID_MORE) return false;
+  if (ended != wxID_OK) {
+    wait.Stop();
+    while (!wait.Step(100ms)) {
+    }
+  }
+  return true;
+}
+
+}  // namespace isolation
