@@ -3,9 +3,11 @@
 #include "host/Text.h"
 
 constexpr TResString sUsage{
-    "Usage: scc-register add NAME PATH [--default] [--force] [--search-path]\n"
+    "Usage: scc-register add NAME PATH [--default] [--force] [--search-path] [--isolated]\n"
     "       scc-register remove NAME\n"
     "       scc-register default NAME\n"
+    "       scc-register isolate NAME\n"
+    "       scc-register direct NAME\n"
     "       scc-register list\n"};
 constexpr TResString sHelp{
     "Installs, removes and lists the source control providers of this machine.\n"
@@ -19,8 +21,12 @@ constexpr TResString sHelp{
     "                        (Windows) search the folders in PATH, too, for the\n"
     "                        libraries that the provider needs; without it only its\n"
     "                        own folder and the system's.  Other programs do not see it\n"
+    "             --isolated run it in a process of its own\n"
     "  remove   takes a provider out of the registry; its library stays\n"
     "  default  chooses the provider that projects use unless they name another\n"
+    "  isolate  runs a provider in a process of its own: it can neither end the program\n"
+    "           that uses it nor keep it waiting for ever\n"
+    "  direct   loads a provider into the program that uses it\n"
     "  list     shows the providers; the default one is marked with '*'\n"
     "  --       ends the options, for names that begin with '-'\n"
     "\n"
@@ -51,8 +57,11 @@ constexpr TResString sNoProviders{"No source control providers are installed.\n"
 constexpr TResString sProviderLine{"%s %s  %s"};
 constexpr TResString sNoSuchFile{" (not found)"};
 constexpr TResString sInPath{" (searches PATH)"};
+constexpr TResString sInOwnProcess{" (isolated)"};
 constexpr TResString sAdded{"Installed \"%s\".\n"};
 constexpr TResString sRemoved{"Removed \"%s\".\n"};
+constexpr TResString sIsIsolated{"\"%s\" runs in a process of its own.\n"};
+constexpr TResString sIsDirect{"\"%s\" is loaded into the program that uses it.\n"};
 constexpr TResString sIsDefault{"\"%s\" is the default provider.\n"};
 constexpr TResString sNoDefault{
     "There is no default provider now; choose one with \"scc-register default NAME\".\n"};

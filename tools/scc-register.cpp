@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "Isolation.h"
 #include "SccRegisterStrings.h"
 #include "host/Library.h"
 #include "host/Paths.h"
@@ -27,6 +28,7 @@ struct EUsage : std::runtime_error {
 constexpr const char* kDefaultOption = "--default";
 constexpr const char* kForceOption = "--force";
 constexpr const char* kSearchPathOption = "--search-path";
+constexpr const char* kIsolatedOption = "--isolated";
 constexpr const char* kEntryPoint = "SccInitialize";
 
 struct TCommandLine {
@@ -75,6 +77,14 @@ void RequireInstalled(const std::string& name) {
   if (!IsInstalled(name)) throw EFailure(Format(sNotInstalled, {name}));
 }
 
+/// Throws EFailure for a provider that has no key.
+std::string InstalledKeyOf(const std::string& name) {
+  RequireInstalled(name);
+  const auto key = KeyOf(name);
+  if (key.empty()) throw EFailure(Format(sNoKey, {name}));
+  return key;
+}
+
 bool IsDefault(const std::string& key) { return SameText(ReadValue(kProviderKey, kProviderRegKey), key); }
 
 // ------------------------------------------------------------------------------------------------- commands
@@ -98,10 +108,7 @@ void CheckLibrary(const std::string& path, TDependencySearch search) {
 }
 
 void Choose(const std::string& name) {
-  RequireInstalled(name);
-  const auto key = KeyOf(name);
-  if (key.empty()) throw EFailure(Format(sNoKey, {name}));
-  WriteValue(kProviderKey, kProviderRegKey, key);
+  WriteValue(kProviderKey, kProviderRegKey, InstalledKeyOf(name));
   std::cout << Format(sIsDefault, {name});
 }
 
@@ -119,7 +126,7 @@ void Add(const TCommandLine& line) {
   const auto key = known.empty() ? OwnKey(name) : known;
   // The list comes last: whoever reads it meanwhile finds complete entries only.
   WriteValue(key, kServerName, name);
-  WriteValue(key, kServerPath, path);
+  WriteValue(key, kServerPath, line.Options.contains(kIsolatedOption) ? Isolate(name, path) : path);
   if (searchesPath)
     WriteValue(key, kSearchPath, "1");
   else
@@ -142,6 +149,7 @@ void Remove(const TCommandLine& line) {
     for (const char* value : {kServerName, kServerPath, kSearchPath}) DeleteValue(key, value);
   }
   if (IsInstalled(name)) throw EFailure(Format(sInstalledForAll, {name}));
+  RemoveIsolated(name);
   if (wasDefault) DeleteValue(kProviderKey, kProviderRegKey);
   std::cout << Format(sRemoved, {name});
   if (wasDefault && !InstalledProviders().empty()) std::cout << sNoDefault.str();
@@ -149,14 +157,38 @@ void Remove(const TCommandLine& line) {
 
 void MakeDefault(const TCommandLine& line) { Choose(line.Words[1]); }
 
+/// The path of the real provider, whoever stands for it.
+std::string RealPath(const std::string& path) {
+  const auto isolated = IsolatedProvider(path);
+  return isolated.empty() ? path : isolated;
+}
+
+/// Also makes the library anew that stands for it already: after an update of this program.
+void TurnToIsolated(const TCommandLine& line) {
+  const auto& name = line.Words[1];
+  const auto key = InstalledKeyOf(name);
+  WriteValue(key, kServerPath, Isolate(name, RealPath(ReadValue(key, kServerPath))));
+  std::cout << Format(sIsIsolated, {name});
+}
+
+void TurnToDirect(const TCommandLine& line) {
+  const auto& name = line.Words[1];
+  const auto key = InstalledKeyOf(name);
+  WriteValue(key, kServerPath, RealPath(ReadValue(key, kServerPath)));
+  RemoveIsolated(name);
+  std::cout << Format(sIsDirect, {name});
+}
+
 void List(const TCommandLine&) {
   const auto names = InstalledProviders();
   if (names.empty()) std::cout << sNoProviders.str();
   for (const auto& name : names) {
     const auto key = KeyOf(name);
-    const auto path = ReadValue(key, kServerPath);
+    const auto library = ReadValue(key, kServerPath);
+    const auto path = RealPath(library);
     std::cout << Format(sProviderLine, {IsDefault(key) ? "*" : " ", name, path})
-              << (FileExists(path) ? "" : sNoSuchFile.Text)
+              << (FileExists(library) && FileExists(path) ? "" : sNoSuchFile.Text)
+              << (path != library ? sInOwnProcess.Text : "")
               << (ReadValue(key, kSearchPath) == "1" ? sInPath.Text : "") << '\n';
   }
 }
@@ -171,9 +203,11 @@ struct TCommand {
 };
 
 const TCommand kCommands[] = {
-    {"add", 2, {kDefaultOption, kForceOption, kSearchPathOption}, Add},
+    {"add", 2, {kDefaultOption, kForceOption, kSearchPathOption, kIsolatedOption}, Add},
     {"remove", 1, {}, Remove},
     {"default", 1, {}, MakeDefault},
+    {"isolate", 1, {}, TurnToIsolated},
+    {"direct", 1, {}, TurnToDirect},
     {"list", 0, {}, List},
 };
 

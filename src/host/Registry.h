@@ -10,6 +10,10 @@
 
 enum class TRegRoot { LocalMachine, CurrentUser };
 
+/// Where files lie that belong to what is registered for this machine: with the registry's own files; where it has none,
+/// with the program.
+std::string RegistryFolder();
+
 /// A cursor on one open key at a time.
 class TRegistry {
  public:

@@ -21,6 +21,9 @@ std::string GetUserNameText(std::size_t bufferSize);
 /// The process's current directory.  Empty when it does not fit `bufferSize` characters (not bytes), terminator included.
 std::string GetCurrentDirectoryText(std::size_t bufferSize);
 
+/// The folder of the program that runs.
+std::string ProgramFolder();
+
 /// `path` as it is meant from within the current directory, absolute and in normal form (see NormalPath), without asking the
 /// disk.  Empty when `path` is.
 std::string FullPath(const std::string& path);

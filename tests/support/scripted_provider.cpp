@@ -5,6 +5,7 @@
 #include <cstring>
 #include <thread>
 
+#include "support/ProviderFaults.h"
 #include "support/ScriptedProvider.h"
 
 using namespace scc;
@@ -44,6 +45,7 @@ void WriteTexts(const std::string& entry) {
 
 /// What every entry point does: keep the call, write its texts, fail if told to.  The scripted result, or `result`.
 Long Play(const ScriptedCall& call, Long result = SCC_OK) {
+  CommitFault(call.Entry, script.TextOut);
   if (script.Record) script.Calls.push_back(call);
   if (const auto hook = script.OnCall.find(call.Entry); hook != script.OnCall.end()) hook->second(call);
   WriteTexts(call.Entry);

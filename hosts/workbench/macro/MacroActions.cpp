@@ -103,42 +103,7 @@ std::string TMacroPlayer::DoFileMenu(const TArguments& arguments) {
   return {};
 }
 
-std::string TMacroPlayer::DoPress(const TArguments& arguments) {
-  return PressButton(Front(), ToWx(arguments[0]));
-}
-std::string TMacroPlayer::DoTick(const TArguments& arguments) {
-  return TickBox(Front(), ToWx(arguments[0]), true);
-}
-std::string TMacroPlayer::DoUntick(const TArguments& arguments) {
-  return TickBox(Front(), ToWx(arguments[0]), false);
-}
-std::string TMacroPlayer::DoSelect(const TArguments& arguments) {
-  return SelectRow(Front(), ToWx(arguments[0]));
-}
-std::string TMacroPlayer::DoPage(const TArguments& arguments) {
-  return TurnToPage(Front(), ToWx(arguments[0]));
-}
 std::string TMacroPlayer::DoPoint(const TArguments& arguments) {
   return PointAt(*input_, frame_, Front(), arguments[0], arguments[1]);
 }
 std::string TMacroPlayer::DoClick(const TArguments& arguments) { return ClickMouse(*input_, arguments[0]); }
-
-std::string TMacroPlayer::DoKey(const TArguments& arguments) {
-  wxTopLevelWindow& window = Front();
-  // Raising a window closes the menu that is open.
-  if (TOpenMenus::Any() || window.IsActive()) return PressKey(*input_, ToWx(arguments[0]));
-  window.Raise();  // also what moves the keyboard to it where there is no window manager
-  return Format(sNotActive, {window.GetTitle().utf8_string()});
-}
-
-std::string TMacroPlayer::DoCell(const TArguments& arguments) {
-  return EditCell(Front(), ToWx(arguments[0]), ToWx(arguments[1]), ToWx(arguments[2]));
-}
-
-std::string TMacroPlayer::DoType(const TArguments& arguments) {
-  return TypeText(Front(), ToWx(arguments[0]), ToWx(arguments[1]));
-}
-
-std::string TMacroPlayer::DoChoose(const TArguments& arguments) {
-  return ChooseItem(Front(), ToWx(arguments[0]), ToWx(arguments[1]));
-}

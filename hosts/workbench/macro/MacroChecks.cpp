@@ -15,26 +15,13 @@
 #include "workbench/macro/MacroPlayer.h"
 #include "workbench/macro/MacroStrings.h"
 #include "workbench/macro/WindowFinder.h"
+#include "workbench/macro/WindowSteps.h"
 #include "workbench/windows/EditorBook.h"
 #include "workbench/windows/MainFrame.h"
 #include "workbench/windows/ModalStack.h"
 #include "workbench/windows/OpenMenus.h"
 
 namespace {
-
-bool IsShownSomewhere(const std::string& text) {
-  const wxString wanted = ToWx(text);
-  for (wxTopLevelWindow* window : ShownWindows()) {
-    const auto shows = [&](wxWindow& control) {
-      wxString shown = TextOf(control);
-      if (shown.Contains(wanted)) return true;
-      shown.Replace("\n", " ");  // labels are wrapped where the window ends
-      return shown.Contains(wanted);
-    };
-    if (window->GetTitle().Contains(wanted) || VisitControls(*window, shows)) return true;
-  }
-  return false;
-}
 
 /// Message windows are frames with a list; a log counts whether its window is on the screen or not.  Visits the lists
 /// until `visit` answers true; whether it did.
@@ -63,14 +50,6 @@ std::pair<std::string, int> RunInShell(const std::string& command) {
   std::string said;
   for (std::string text; std::getline(lines, text);) said += "    " + text + "\n";
   return {said, code};
-}
-
-/// Empty when the box is there in that state.
-std::string CheckTick(wxWindow& window, const std::string& text, bool ticked) {
-  const auto state = IsTicked(window, ToWx(text));
-  if (!state) return Format(sNoControl, {window.GetLabel().utf8_string(), sKindBox, text});
-  if (*state == ticked) return {};
-  return Format(ticked ? sIsNotTicked : sIsTicked, {text});
 }
 
 /// Empty when the file and its editor, if it is open, have that attribute.
@@ -103,15 +82,9 @@ std::string CheckFileMenu(TMainFrame& frame, const std::string& file, const std:
 }  // namespace
 
 std::string TMacroPlayer::DoExpect(const TArguments& arguments) {
-  const wxDialog* front = TModalStack::Top();
-  for (wxTopLevelWindow* window : ShownWindows())
-    if (window->GetTitle() == ToWx(arguments[0]) && (!front || front == window)) {
-      expected_ = window;
-      return {};
-    }
-  return front && front->GetTitle() != ToWx(arguments[0])
-             ? Format(sDialogOpen, {front->GetTitle().utf8_string()})
-             : Format(sNoWindow, {arguments[0]});
+  std::string problem;
+  if (auto* window = ExpectWindow(arguments[0], problem)) expected_ = window;
+  return problem;
 }
 
 std::string TMacroPlayer::DoExpectNoDialog(const TArguments&) {
@@ -125,14 +98,6 @@ std::string TMacroPlayer::DoExpectMenu(const TArguments&) {
 
 std::string TMacroPlayer::DoExpectNoMenu(const TArguments&) {
   return TOpenMenus::Any() ? sMenuOpen.str() : std::string();
-}
-
-std::string TMacroPlayer::DoExpectText(const TArguments& arguments) {
-  return IsShownSomewhere(arguments[0]) ? std::string() : Format(sNoText, {arguments[0]});
-}
-
-std::string TMacroPlayer::DoExpectNoText(const TArguments& arguments) {
-  return IsShownSomewhere(arguments[0]) ? Format(sHasText, {arguments[0]}) : std::string();
 }
 
 std::string TMacroPlayer::DoExpectMessage(const TArguments& arguments) {
@@ -186,13 +151,6 @@ std::string TMacroPlayer::DoExpectFileDisabled(const TArguments& arguments) {
   return CheckFileMenu(frame_, arguments[0], arguments[1], false);
 }
 
-std::string TMacroPlayer::DoExpectTicked(const TArguments& arguments) {
-  return CheckTick(Front(), arguments[0], true);
-}
-std::string TMacroPlayer::DoExpectUnticked(const TArguments& arguments) {
-  return CheckTick(Front(), arguments[0], false);
-}
-
 std::string TMacroPlayer::DoExpectEditor(const TArguments& arguments) {
   TOpenModule* module = frame_.Session().Modules().Find(FullPath(arguments[0]));
   const auto* editor =
@@ -215,12 +173,4 @@ std::string TMacroPlayer::DoExpectReadOnly(const TArguments& arguments) {
 
 std::string TMacroPlayer::DoExpectWritable(const TArguments& arguments) {
   return CheckReadOnly(frame_, arguments[0], false);
-}
-
-std::string TMacroPlayer::DoExpectButton(const TArguments& arguments) {
-  return HasButton(Front(), ToWx(arguments[0])) ? std::string() : Format(sControlDisabled, {arguments[0]});
-}
-
-std::string TMacroPlayer::DoExpectNoButton(const TArguments& arguments) {
-  return HasButton(Front(), ToWx(arguments[0])) ? Format(sHasButton, {arguments[0]}) : std::string();
 }

@@ -10,6 +10,7 @@
 #include "host/System.h"
 #include "workbench/macro/MacroStrings.h"
 #include "workbench/macro/WindowFinder.h"
+#include "workbench/macro/WindowSteps.h"
 #include "workbench/windows/App.h"
 #include "workbench/windows/MainFrame.h"
 #include "workbench/windows/ModalStack.h"
@@ -60,7 +61,7 @@ bool TMacroPlayer::CallRuns() const {
 
 void TMacroPlayer::Notify() {
   if (ended_) return;
-  if (CallRuns()) {
+  if (CallRuns() && providerWindows_.Front().empty()) {
     StartOnce(kRetryMs);
     return;
   }
@@ -125,7 +126,13 @@ std::string TMacroPlayer::Screenshot(const std::string& file) {
 
 std::string TMacroPlayer::Run(const TMacroStep& step) {
   using P = TMacroPlayer;
-  static constexpr TAction kActions[] = {// in the order of TMacroVerb
+  // What a provider shows in a process of its own is in front of everything here.
+  if (const auto front = providerWindows_.Front(); !front.empty()) {
+    if (IsWindowStep(step.Verb) || step.Verb == TMacroVerb::Expect) return providerWindows_.Work(step);
+    if (step.Verb == TMacroVerb::ExpectNoDialog) return Format(sDialogOpen, {front});
+  }
+  if (IsWindowStep(step.Verb)) return WorkWindow(step, Front(), input_.get());
+  static constexpr TAction kActions[] = {// in the order of TMacroVerb; none for WorkWindow's
                                          &P::DoOpen,
                                          &P::DoClose,
                                          &P::DoActivate,
@@ -137,37 +144,37 @@ std::string TMacroPlayer::Run(const TMacroStep& step) {
                                          &P::DoRefocus,
                                          &P::DoMenu,
                                          &P::DoFileMenu,
-                                         &P::DoPress,
-                                         &P::DoTick,
-                                         &P::DoUntick,
-                                         &P::DoSelect,
-                                         &P::DoCell,
-                                         &P::DoPage,
-                                         &P::DoType,
-                                         &P::DoChoose,
-                                         &P::DoKey,
+                                         nullptr,
+                                         nullptr,
+                                         nullptr,
+                                         nullptr,
+                                         nullptr,
+                                         nullptr,
+                                         nullptr,
+                                         nullptr,
+                                         nullptr,
                                          &P::DoPoint,
                                          &P::DoClick,
                                          &P::DoExpect,
                                          &P::DoExpectNoDialog,
                                          &P::DoExpectMenu,
                                          &P::DoExpectNoMenu,
-                                         &P::DoExpectText,
-                                         &P::DoExpectNoText,
+                                         nullptr,
+                                         nullptr,
                                          &P::DoExpectMessage,
                                          &P::DoExpectEnabled,
                                          &P::DoExpectDisabled,
                                          &P::DoExpectHidden,
                                          &P::DoExpectFileEnabled,
                                          &P::DoExpectFileDisabled,
-                                         &P::DoExpectTicked,
-                                         &P::DoExpectUnticked,
+                                         nullptr,
+                                         nullptr,
                                          &P::DoExpectEditor,
                                          &P::DoExpectFile,
                                          &P::DoExpectReadOnly,
                                          &P::DoExpectWritable,
-                                         &P::DoExpectButton,
-                                         &P::DoExpectNoButton,
+                                         nullptr,
+                                         nullptr,
                                          &P::DoExpectColumns,
                                          &P::DoPrintMessages,
                                          &P::DoRun,

@@ -13,6 +13,7 @@
 
 #include "workbench/macro/MacroParser.h"
 #include "workbench/macro/MessageBoxes.h"
+#include "workbench/macro/ProviderWindows.h"
 #include "workbench/model/CommandLine.h"
 
 class TMainFrame;
@@ -54,37 +55,22 @@ class TMacroPlayer final : public wxTimer {
   std::string DoRefocus(const TArguments& arguments);
   std::string DoMenu(const TArguments& arguments);
   std::string DoFileMenu(const TArguments& arguments);
-  std::string DoPress(const TArguments& arguments);
-  std::string DoTick(const TArguments& arguments);
-  std::string DoUntick(const TArguments& arguments);
-  std::string DoSelect(const TArguments& arguments);
-  std::string DoCell(const TArguments& arguments);
-  std::string DoPage(const TArguments& arguments);
-  std::string DoType(const TArguments& arguments);
-  std::string DoChoose(const TArguments& arguments);
-  std::string DoKey(const TArguments& arguments);
   std::string DoPoint(const TArguments& arguments);
   std::string DoClick(const TArguments& arguments);
   std::string DoExpect(const TArguments& arguments);
   std::string DoExpectNoDialog(const TArguments& arguments);
   std::string DoExpectMenu(const TArguments& arguments);
   std::string DoExpectNoMenu(const TArguments& arguments);
-  std::string DoExpectText(const TArguments& arguments);
-  std::string DoExpectNoText(const TArguments& arguments);
   std::string DoExpectMessage(const TArguments& arguments);
   std::string DoExpectEnabled(const TArguments& arguments);
   std::string DoExpectDisabled(const TArguments& arguments);
   std::string DoExpectHidden(const TArguments& arguments);
   std::string DoExpectFileEnabled(const TArguments& arguments);
   std::string DoExpectFileDisabled(const TArguments& arguments);
-  std::string DoExpectTicked(const TArguments& arguments);
-  std::string DoExpectUnticked(const TArguments& arguments);
   std::string DoExpectEditor(const TArguments& arguments);
   std::string DoExpectFile(const TArguments& arguments);
   std::string DoExpectReadOnly(const TArguments& arguments);
   std::string DoExpectWritable(const TArguments& arguments);
-  std::string DoExpectButton(const TArguments& arguments);
-  std::string DoExpectNoButton(const TArguments& arguments);
   std::string DoExpectColumns(const TArguments& arguments);
   std::string DoPrintMessages(const TArguments& arguments);
   std::string DoRun(const TArguments& arguments);
@@ -98,6 +84,7 @@ class TMacroPlayer final : public wxTimer {
   std::function<void(int)> end_;
   std::string screenshots_;
   TMessageBoxes messageBoxes_;
+  TProviderWindows providerWindows_;
   std::vector<TMacroStep> steps_;
   std::size_t next_ = 0;
   std::unique_ptr<wxUIActionSimulator> input_;  // from the first step on that needs it

@@ -3,6 +3,7 @@
 #include <wx/evtloop.h>
 #include <wx/init.h>
 
+#include <cstdlib>
 #include <memory>
 
 #include "Carry.h"
@@ -10,6 +11,8 @@
 #include "Link.h"
 #include "Loop.h"
 #include "Toolkit.h"
+#include "workbench/macro/PlayedWindows.h"
+#include "workbench/macro/ProviderWindows.h"
 
 namespace {
 
@@ -34,10 +37,15 @@ int main(int argc, char** argv) {
   const bool windows = ToolkitStarts(&argc, &argv);
   wxAppConsole::SetInstance(windows ? static_cast<wxAppConsole*>(new HostApp) : new wxAppConsole);
   if (argc < 1 || !wxEntryStart(argc, argv)) return 1;
-  if (windows) WatchWindows();
+  std::unique_ptr<TPlayedWindows> played;
+  if (windows) {
+    WatchWindows();
+    if (const char* folder = std::getenv(kPlayedFolder)) played = std::make_unique<TPlayedWindows>(folder);
+  }
   const auto fault = LoadProvider(argv[1] != nullptr ? argv[1] : "");
   link::Write(Kind::Hello, Body(fault));
   ServeUntilBye(windows, Serve);
   link::Leave();
+  played.reset();
   wxEntryCleanup();
 }

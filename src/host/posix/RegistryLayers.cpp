@@ -43,6 +43,8 @@ std::vector<std::string> DirectoriesOf(TRegRoot root) {
 
 }  // namespace
 
+std::string RegistryFolder() { return DirectoriesOf(TRegRoot::LocalMachine).front(); }
+
 TRegistryLayers TRegistryLayers::Of(TRegRoot root) {
   auto files = DirectoriesOf(root);
   const auto name = root == TRegRoot::LocalMachine ? "local-machine.ini" : "current-user.ini";

@@ -38,6 +38,8 @@ std::function<void(TBeep)>& BeepHandler() {
 
 std::vector<std::string> CommandLineArguments(int argc, char** argv) { return {argv + 1, argv + argc}; }
 
+std::string ProgramFolder() { return fs::read_symlink("/proc/self/exe").parent_path().string(); }
+
 std::string GetUserNameText(std::size_t bufferSize) {
   std::vector<char> buffer(16384);
   passwd entry{};

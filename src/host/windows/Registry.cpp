@@ -4,6 +4,7 @@
 #include <stdexcept>
 
 #include "host/RegistryKey.h"
+#include "host/System.h"
 #include "host/windows/Api.h"
 #include "host/windows/Wide.h"
 
@@ -40,6 +41,8 @@ struct TRegistry::TImpl {
     return Key || RegOpenKeyExW(Root, WideKey(Name).c_str(), 0, access, &Key) == ERROR_SUCCESS;
   }
 };
+
+std::string RegistryFolder() { return ProgramFolder(); }
 
 TRegistry::TRegistry(TRegRoot root) : impl_(new TImpl{.Root = RootOf(root), .Name = {}}) {}
 TRegistry::~TRegistry() { CloseKey(); }

@@ -9,6 +9,8 @@
 
 namespace {
 
+constexpr std::size_t kLongestPath = 32768;
+
 /// The system counts characters, not the bytes that they have as UTF-8.
 std::string IfItFits(const std::wstring& text, std::size_t bufferSize) {
   return text.size() < bufferSize ? FromWide(text) : std::string();
@@ -24,6 +26,12 @@ std::vector<std::string> CommandLineArguments(int, char**) {
   std::vector<std::string> arguments;
   for (int i = 1; i < count; ++i) arguments.push_back(FromWide(words.get()[i]));
   return arguments;
+}
+
+std::string ProgramFolder() {
+  std::wstring name(kLongestPath, L'\0');
+  name.resize(GetModuleFileNameW(nullptr, name.data(), static_cast<DWORD>(name.size())));
+  return ExtractFileDir(FromWide(name));
 }
 
 std::string GetUserNameText(std::size_t bufferSize) {

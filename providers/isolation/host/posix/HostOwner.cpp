@@ -1,7 +1,8 @@
+#include "HostOwner.h"
+
 #include <gdk/gdkx.h>
 #include <gtk/gtk.h>
 
-#include "HostOwner.h"
 #include "Link.h"
 
 namespace isolation {

@@ -1,0 +1,84 @@
+#include "workbench/macro/PlayedWindows.h"
+
+#include <wx/dialog.h>
+
+#include <filesystem>
+
+#include "host/FileName.h"
+#include "host/Paths.h"
+#include "host/System.h"
+#include "host/WxText.h"
+#include "workbench/macro/WindowFinder.h"
+#include "workbench/macro/WindowSteps.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int kTickMs = 20;
+
+wxTopLevelWindow* Front() {
+  if (auto* dialog = TModalStack::Top()) return dialog;
+  const auto shown = ShownWindows();
+  return shown.empty() ? nullptr : shown.back();
+}
+
+std::string Work(const std::string& line, std::unique_ptr<wxUIActionSimulator>& input) {
+  auto* const front = Front();
+  if (front == nullptr) return "no window is open";
+  try {
+    const auto step = ParseMacro(line).at(0);
+    if (step.Verb == TMacroVerb::Key && !input) input = std::make_unique<wxUIActionSimulator>();
+    if (step.Verb != TMacroVerb::Expect) return WorkWindow(step, *front, input.get());
+    std::string problem;
+    ExpectWindow(step.Arguments[0], problem);
+    return problem;
+  } catch (const std::exception& error) {
+    return error.what();
+  }
+}
+
+}  // namespace
+
+TPlayedWindows::TPlayedWindows(const std::string& folder) : folder_(folder) {
+  std::error_code ignored;
+  fs::remove(ToFilePath(PathWithin(folder_, "front")), ignored);  // of a process that was killed
+  StartOnce(kTickMs);
+}
+
+TPlayedWindows::~TPlayedWindows() {
+  std::error_code ignored;
+  fs::remove(ToFilePath(PathWithin(folder_, "front")), ignored);
+}
+
+void TPlayedWindows::Notify() {
+  StartOnce(kTickMs);  // before the step: it may open a dialog, and the next steps go on inside
+  ShowFront();
+  const auto step = PathWithin(folder_, "step");
+  if (working_) Answer({});  // it has opened one
+  if (!FileExists(step)) return;
+  const auto line = ReadWholeFile(step);
+  fs::remove(ToFilePath(step));
+  working_ = true;
+  const auto result = Work(line, input_);
+  ShowFront();
+  if (working_) Answer(result);
+}
+
+void TPlayedWindows::Answer(const std::string& result) {
+  working_ = false;
+  WriteFileAtomically(PathWithin(folder_, "answer"), result);
+}
+
+void TPlayedWindows::ShowFront() {
+  const auto* window = Front();
+  const auto title = window != nullptr ? FromWx(window->GetTitle()) : std::string();
+  if (title == front_) return;
+  front_ = title;
+  const auto file = PathWithin(folder_, "front");
+  std::error_code ignored;
+  if (title.empty())
+    fs::remove(ToFilePath(file), ignored);
+  else
+    WriteFileAtomically(file, title);
+}

@@ -1,0 +1,32 @@
+// The other half of ProviderWindows.h, in the process whose windows are worked.
+#pragma once
+
+#include <wx/timer.h>
+#include <wx/uiaction.h>
+
+#include <memory>
+#include <string>
+
+#include "workbench/macro/MessageBoxes.h"
+#include "workbench/windows/ModalStack.h"
+#include "workbench/windows/OpenMenus.h"
+
+/// Looks for steps and does them for as long as it lives.
+class TPlayedWindows final : public wxTimer {
+ public:
+  explicit TPlayedWindows(const std::string& folder);
+  ~TPlayedWindows() override;
+  void Notify() override;
+
+ private:
+  void ShowFront();
+  void Answer(const std::string& result);
+
+  std::string folder_;
+  std::string front_;
+  bool working_ = false;
+  std::unique_ptr<wxUIActionSimulator> input_;  // from the first step on that needs it
+  TModalStack modals_;
+  TOpenMenus menus_;
+  TMessageBoxes boxes_;
+};

@@ -1,0 +1,44 @@
+#include "workbench/macro/ProviderWindows.h"
+
+#include <wx/filename.h>
+#include <wx/utils.h>
+
+#include <filesystem>
+
+#include "host/FileName.h"
+#include "host/Paths.h"
+#include "host/System.h"
+#include "host/WxText.h"
+#include "workbench/macro/MacroStrings.h"
+
+namespace fs = std::filesystem;
+
+TProviderWindows::TProviderWindows() : folder_(FromWx(wxFileName::CreateTempFileName("played"))) {
+  fs::remove(ToFilePath(folder_));
+  fs::create_directory(ToFilePath(folder_));
+  wxSetEnv(kPlayedFolder, ToWx(folder_));
+}
+
+TProviderWindows::~TProviderWindows() {
+  std::error_code ignored;
+  fs::remove_all(ToFilePath(folder_), ignored);
+}
+
+std::string TProviderWindows::Front() const {
+  const auto file = PathWithin(folder_, "front");
+  try {
+    return FileExists(file) ? ReadWholeFile(file) : std::string();
+  } catch (const std::exception&) {  // it goes at this moment
+    return {};
+  }
+}
+
+std::string TProviderWindows::Work(const TMacroStep& step) {
+  const auto answer = PathWithin(folder_, "answer");
+  if (!asked_) WriteFileAtomically(PathWithin(folder_, "step"), step.Text);
+  asked_ = !FileExists(answer);
+  if (asked_) return sNotDone;
+  const auto result = ReadWholeFile(answer);
+  fs::remove(ToFilePath(answer));
+  return result;
+}

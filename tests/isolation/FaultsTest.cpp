@@ -1,0 +1,148 @@
+// A provider that misbehaves costs its own process and one call.
+#include <gmock/gmock.h>
+
+#include <csignal>
+#include <filesystem>
+#include <thread>
+#include <tuple>
+
+#include "isolation/Client.h"
+
+using testing::AllOf;
+using testing::Contains;
+using testing::Each;
+using testing::HasSubstr;
+
+namespace {
+
+/// The processes that this one has started.
+std::vector<pid_t> Children() {
+  std::vector<pid_t> children;
+  for (const auto& task : std::filesystem::directory_iterator("/proc/self/task")) {
+    std::ifstream list(task.path() / "children");
+    for (pid_t child; list >> child;) children.push_back(child);
+  }
+  return children;
+}
+
+struct TSpoken {
+  const char* Fault;
+  const char* Words;
+};
+// Each ends the call, and the sentence says how.
+const TSpoken kEnds[] = {
+    {"crash", "signal 11"}, {"abort", "signal 6"}, {"exit", "exit code 7"},
+    {"close", "ended in"},  {"copy", "signal 9"},  {"throw", "scripted failure"},
+};
+const char* const kEntries[] = {
+#define SCC_ENTRY(variable, name, result, arguments) name,
+#include "provider/entry_points.def"
+#undef SCC_ENTRY
+};
+
+using TCase = std::tuple<TSpoken, const char*>;
+
+class Faults : public testing::TestWithParam<TCase> {};
+
+/// Brings the client to where the entry point may be called.
+void Prepare(TIsolatedClient& client, const std::string& entry) {
+  if (entry == "SccInitialize") return;
+  ASSERT_EQ(scc::SCC_OK, client.Initialize());
+  if (entry == "SccOpenProject") return;
+  ASSERT_EQ(scc::SCC_OK, client.Open());
+}
+
+/// The client goes on as if nothing had been.
+void ExpectGoesOn(TIsolatedClient& client, const std::string& entry) {
+  if (client.Context == nullptr) {
+    ASSERT_EQ(scc::SCC_OK, client.Initialize());
+  }
+  if (entry == "SccCloseProject") client.Call(entry);  // for the one that only threw
+  if (entry == "SccInitialize" || entry == "SccUninitialize" || entry == "SccOpenProject" ||
+      entry == "SccCloseProject") {
+    ASSERT_EQ(scc::SCC_OK, client.Open());
+  }
+  client.Words[0] = 77;
+  EXPECT_EQ(scc::SCC_OK, client.Status());
+  EXPECT_EQ(scc::SCC_STATUS_CONTROLLED, client.Words[0]);
+}
+
+TEST_P(Faults, CostOneCall) {
+  const auto& [spoken, entryName] = GetParam();
+  const std::string entry = entryName;
+  TIsolatedClient client;
+  Prepare(client, entry);
+  client.Arm(entry, spoken.Fault);
+  EXPECT_EQ(scc::SCC_E_NONSPECIFICERROR, client.Call(entry));
+  if (entry == "SccUninitialize") return ExpectGoesOn(client, entry);  // nobody listens any more
+  ExpectGoesOn(client, entry);
+  EXPECT_THAT(lines, Contains(AllOf(
+                         HasSubstr(entry), HasSubstr(spoken.Words),
+                         HasSubstr(entry == "SccInitialize" ? "scripted_provider" : "Scripted provider"))));
+}
+
+INSTANTIATE_TEST_SUITE_P(All, Faults, testing::Combine(testing::ValuesIn(kEnds), testing::ValuesIn(kEntries)),
+                         [](const auto& row) {
+                           return std::string(std::get<0>(row.param).Fault) + "_" + std::get<1>(row.param);
+                         });
+
+TEST(FaultsWithoutEnd, AnEndlessLoopEndsWithItsProcess) {
+  for (const char* entry : kEntries) {
+    SCOPED_TRACE(entry);
+    TIsolatedClient client;
+    Prepare(client, entry);
+    client.Arm(entry, "loop");
+    std::thread killer([&] {
+      while (FileExists(client.Faults())) std::this_thread::yield();
+      for (const pid_t child : Children()) kill(child, SIGKILL);
+    });
+    EXPECT_EQ(scc::SCC_E_NONSPECIFICERROR, client.Call(entry));
+    killer.join();
+    ExpectGoesOn(client, entry);
+  }
+}
+
+// The provider may last for another call, with memory that is no longer what it was.
+TEST(FaultsOfMemory, NeitherHarmNorStopTheClient) {
+  for (const char* fault : {"garble", "junk"})
+    for (const char* entry : {"SccQueryInfo", "SccGetProjPath", "SccPopulateList", "SccAddFromScc"}) {
+      SCOPED_TRACE(std::string(fault) + " in " + entry);
+      TIsolatedClient client;
+      Prepare(client, entry);
+      client.Arm(entry, fault);
+      client.Call(entry);
+      client.Status();
+      ExpectGoesOn(client, entry);
+    }
+}
+
+TEST(Lines, ArriveWholeAndInOrderWhateverTheirLengthAndThread) {
+  TIsolatedClient client;
+  Prepare(client, "SccCheckout");
+  client.Arm("SccCheckout", "text");
+  EXPECT_EQ(scc::SCC_OK, client.Call("SccCheckout"));
+  EXPECT_THAT(lines, testing::ElementsAre(std::string(10 << 20, 'x')));
+  lines.clear();
+  client.Arm("SccCheckout", "threads");
+  EXPECT_EQ(scc::SCC_OK, client.Call("SccCheckout"));
+  EXPECT_EQ(4000u, lines.size());
+  EXPECT_THAT(lines, Each("threaded"));
+}
+
+TEST(Restarts, EndWhenTheyLeadNowhere) {
+  TIsolatedClient client;
+  for (int i = 0; i < 3; ++i) {
+    client.Arm("SccInitialize", "exit");
+    i == 0 ? client.Initialize() : client.Call("SccSetOption");
+  }
+  client.Arm("SccInitialize", "exit");
+  EXPECT_EQ(scc::SCC_E_NONSPECIFICERROR, client.Open());
+  EXPECT_THAT(lines, Contains(HasSubstr("again and again")));
+  EXPECT_TRUE(FileExists(client.Faults())) << "no process was started";
+  std::filesystem::remove(client.Faults());
+  client.Call("SccUninitialize");
+  EXPECT_EQ(scc::SCC_OK, client.Initialize());
+  EXPECT_EQ(scc::SCC_OK, client.Open());
+}
+
+}  // namespace

@@ -1,0 +1,51 @@
+// Frames of a process whose memory is damaged.
+#include <gtest/gtest.h>
+
+#include "Wire.h"
+
+using isolation::In;
+using isolation::NameList;
+using isolation::WireError;
+
+namespace {
+
+/// A length of four bytes, and a few bytes behind it.
+std::string WithLength(std::uint32_t length) { return isolation::Body(length, std::uint32_t{0}); }
+
+TEST(Wire, RefusesLengthsBeyondTheFrameBeforeItAllocates) {
+  for (const std::uint32_t length : {5U, 0x7FFFFFFFU, 0xFFFFFFFFU}) {
+    const auto body = WithLength(length);
+    std::string text;
+    std::vector<scc::Long> words;
+    EXPECT_THROW(In{body}(text), WireError);
+    EXPECT_THROW(In{body}(words), WireError);
+  }
+  scc::Long word = 0;
+  EXPECT_THROW(In{"abc"}(word), WireError);
+}
+
+TEST(Wire, KeepsNullNamesAndRefusesListsThatAreNone) {
+  NameList names;
+  for (const char* name : {"a", static_cast<const char*>(nullptr), ""}) names.Add(name);
+  const auto body = isolation::Body(names);
+  NameList read;
+  In{body}(read);
+  const auto pointers = read.Pointers();
+  ASSERT_EQ(4u, pointers.size());
+  EXPECT_STREQ("a", pointers[0]);
+  EXPECT_EQ(nullptr, pointers[1]);
+  EXPECT_STREQ("", pointers[2]);
+  EXPECT_EQ(nullptr, pointers[3]);
+  for (std::size_t i = 0; i < body.size(); ++i) {
+    auto damaged = body;
+    damaged[i] = '\x7F';
+    NameList list;
+    try {
+      In{damaged}(list);
+      list.Pointers();
+    } catch (const WireError&) {  // or something else that is a list
+    }
+  }
+}
+
+}  // namespace
