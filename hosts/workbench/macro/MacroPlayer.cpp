@@ -61,7 +61,7 @@ bool TMacroPlayer::CallRuns() const {
 
 void TMacroPlayer::Notify() {
   if (ended_) return;
-  if (CallRuns() && providerWindows_.Front().empty()) {
+  if (CallRuns() && !providerWindows_.IsAsked() && providerWindows_.Front().empty()) {
     StartOnce(kRetryMs);
     return;
   }
@@ -127,6 +127,7 @@ std::string TMacroPlayer::Screenshot(const std::string& file) {
 std::string TMacroPlayer::Run(const TMacroStep& step) {
   using P = TMacroPlayer;
   // What a provider shows in a process of its own is in front of everything here.
+  if (providerWindows_.IsAsked()) return providerWindows_.Work(step);
   if (const auto front = providerWindows_.Front(); !front.empty()) {
     if (IsWindowStep(step.Verb) || step.Verb == TMacroVerb::Expect) return providerWindows_.Work(step);
     if (step.Verb == TMacroVerb::ExpectNoDialog) return Format(sDialogOpen, {front});

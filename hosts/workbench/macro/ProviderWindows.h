@@ -21,6 +21,8 @@ class TProviderWindows {
 
   /// The title of the window in front; empty when none is shown.
   std::string Front() const;
+  /// A step is being done there, whatever is in front by now.
+  bool IsAsked() const { return asked_; }
   /// Does the step there; empty, or why it could not (yet).
   std::string Work(const TMacroStep& step);
 

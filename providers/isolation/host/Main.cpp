@@ -2,6 +2,7 @@
 #include <wx/app.h>
 #include <wx/evtloop.h>
 #include <wx/init.h>
+#include <wx/log.h>
 
 #include <cstdlib>
 #include <memory>
@@ -10,7 +11,6 @@
 #include "HostOwner.h"
 #include "Link.h"
 #include "Loop.h"
-#include "Toolkit.h"
 #include "workbench/macro/PlayedWindows.h"
 #include "workbench/macro/ProviderWindows.h"
 
@@ -23,6 +23,18 @@ class HostApp final : public wxApp {
   HostApp() { SetExitOnFrameDelete(false); }
 };
 
+/// With windows if there is a display for them; whether the toolkit runs with them.
+bool StartToolkit(int& argc, char** argv) {
+  {
+    const wxLogNull quiet;
+    wxAppConsole::SetInstance(new HostApp);
+    if (wxEntryStart(argc, argv)) return true;
+  }
+  wxAppConsole::SetInstance(new wxAppConsole);
+  wxEntryStart(argc, argv);
+  return false;
+}
+
 /// One frame; false for the last one.
 bool Serve() {
   const auto frame = link::Read();
@@ -34,15 +46,14 @@ bool Serve() {
 
 int main(int argc, char** argv) {
   link::Take();
-  const bool windows = ToolkitStarts(&argc, &argv);
-  wxAppConsole::SetInstance(windows ? static_cast<wxAppConsole*>(new HostApp) : new wxAppConsole);
-  if (argc < 1 || !wxEntryStart(argc, argv)) return 1;
+  const std::string provider = argc > 1 ? argv[1] : "";
+  const bool windows = StartToolkit(argc, argv);
   std::unique_ptr<TPlayedWindows> played;
   if (windows) {
     WatchWindows();
     if (const char* folder = std::getenv(kPlayedFolder)) played = std::make_unique<TPlayedWindows>(folder);
   }
-  const auto fault = LoadProvider(argv[1] != nullptr ? argv[1] : "");
+  const auto fault = LoadProvider(provider);
   link::Write(Kind::Hello, Body(fault));
   ServeUntilBye(windows, Serve);
   link::Leave();
