@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "Isolation.h"
 #include "Repository.h"
 #include "UsedRepositories.h"
 #include "host/Paths.h"
@@ -23,13 +24,14 @@ namespace fs = std::filesystem;
 constexpr const char* kProviderName = "Subversion";
 constexpr const char* kProjectName = "/trunk/Flight";
 constexpr const char* kUsage =
-    R"(Usage: make-sample FOLDER PROJECT PROVIDER [USER [OTHER...]]
+    R"(Usage: make-sample [--direct] FOLDER PROJECT PROVIDER [USER [OTHER...]]
 
 Makes, in FOLDER (which must not exist yet):
   repository/      a Subversion repository
   work/            a copy of the folder PROJECT, mapped to it for USER (default: you), its files under control
   work of OTHER/   what another user gets from the repository, mapped
-  registry/        a registry (CORVANE_REGISTRY_DIR) with the library PROVIDER installed
+  registry/        a registry (CORVANE_REGISTRY_DIR) with the library PROVIDER installed,
+                   isolated unless --direct
 )";
 
 void RegisterProvider(const std::string& library) {
@@ -101,7 +103,7 @@ class TUser {
   std::string url_;
 };
 
-void Make(const fs::path& folder, const fs::path& projectFolder, const std::string& library,
+void Make(const fs::path& folder, const fs::path& projectFolder, const std::string& library, bool direct,
           const std::vector<std::string>& users) {
   if (fs::exists(folder)) throw std::runtime_error("The folder " + folder.string() + " exists already.");
   const auto work = folder / "work";
@@ -109,7 +111,7 @@ void Make(const fs::path& folder, const fs::path& projectFolder, const std::stri
   fs::create_directories(registry);
   setenv("CORVANE_REGISTRY_DIR", registry.c_str(), 1);
   fs::copy(projectFolder, work, fs::copy_options::recursive);
-  RegisterProvider(library);
+  RegisterProvider(direct ? library : Isolate(kProviderName, library));
   const auto url = svnscc::CreateRepository((folder / "repository").string());
   svnscc::MarkProjectUsed(url, kProjectName);  // as choosing it in the provider's dialog does
 
@@ -131,15 +133,18 @@ void Make(const fs::path& folder, const fs::path& projectFolder, const std::stri
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (argc < 4) {
-    const bool asked = argc == 2 && std::string(argv[1]) == "--help";
+  std::vector<std::string> words(argv + 1, argv + argc);
+  const bool direct = !words.empty() && words.front() == "--direct";
+  if (direct) words.erase(words.begin());
+  if (words.size() < 3) {
+    const bool asked = words.size() == 1 && words.front() == "--help";
     std::fputs(kUsage, asked ? stdout : stderr);
     return asked ? 0 : 2;
   }
-  std::vector<std::string> users(argv + 4, argv + argc);
+  std::vector<std::string> users(words.begin() + 3, words.end());
   if (users.empty()) users.push_back(GetUserNameText(32));
   try {
-    Make(fs::absolute(argv[1]), fs::absolute(argv[2]), fs::absolute(argv[3]).string(), users);
+    Make(fs::absolute(words[0]), fs::absolute(words[1]), fs::absolute(words[2]).string(), direct, users);
   } catch (const std::exception& error) {
     std::fprintf(stderr, "make-sample: %s\n", error.what());
     return 1;

@@ -5,14 +5,24 @@
 
 namespace isolation {
 
+namespace {
+
+std::filesystem::path ToPath(const std::string& text) { return std::u8string(text.begin(), text.end()); }
+
+}  // namespace
+
 Place ReadPlace(const std::string& file) {
   Place place;
-  std::ifstream lines(std::filesystem::path(std::u8string(file.begin(), file.end())));
+  const auto folder = file.substr(0, file.find_last_of("/\\") + 1);
+  std::ifstream lines(ToPath(file));
   for (std::string line; std::getline(lines, line);) {
     if (line.ends_with('\r')) line.pop_back();
-    for (auto& [key, value] :
+    for (auto& [key, path] :
          {std::pair<std::string, std::string&>{kProviderKey, place.Provider}, {kHostKey, place.Host}})
-      if (line.starts_with(key)) value = line.substr(key.size());
+      if (line.starts_with(key)) {
+        path = line.substr(key.size());
+        if (ToPath(path).is_relative()) path.insert(0, folder);
+      }
   }
   return place;
 }

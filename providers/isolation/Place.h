@@ -16,7 +16,7 @@ struct Place {
   std::string Host;      ///< the path of the program that loads it, absolute
 };
 
-/// What the file says; empty what it does not say.
+/// What the file says; empty what it does not say.  Paths that are not absolute begin in its folder.
 Place ReadPlace(const std::string& file);
 /// The file that belongs to this library.
 std::string OwnPlaceFile();

@@ -7,6 +7,7 @@
 #include "host/FileName.h"
 #include "host/Paths.h"
 #include "host/Registry.h"
+#include "host/System.h"
 #include "provider/sccapiintf.h"
 #include "support/Environment.h"
 #include "support/RunProgram.h"
@@ -107,6 +108,15 @@ TEST_F(SccRegister, ChangesThePathOfAnInstalledProvider) {
   Do({"add", "TINY", kTiny});
   EXPECT_EQ(Read("Software\\Tiny\\SCC", kSearchPath), "") << "the last word counts";
   EXPECT_THAT(List(), UnorderedElementsAre("* Tiny  " + kTiny));
+  Do({"isolate", "Tiny"});
+  Do({"isolate", "tiny"});  // made anew, not isolated twice
+  EXPECT_THAT(List(), UnorderedElementsAre("* Tiny  " + kTiny + " (isolated)"));
+  EXPECT_TRUE(FileExists(Read("Software\\Tiny\\SCC", kServerPath)));
+  Do({"direct", "Tiny"});
+  EXPECT_THAT(List(), UnorderedElementsAre("* Tiny  " + kTiny));
+  Do({"add", "Other: 2", kTiny, "--isolated"});
+  EXPECT_THAT(List(), UnorderedElementsAre("* Tiny  " + kTiny, "  Other: 2  " + kTiny + " (isolated)"));
+  Do({"remove", "Other: 2"});
 }
 
 TEST_F(SccRegister, LeavesWhatOthersInstalled) {

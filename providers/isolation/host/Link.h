@@ -5,8 +5,9 @@
 
 namespace isolation::link {
 
-/// To be called first: takes the channel over, and ends the program when the other side ends.
-void Take();
+/// To be called first: takes over the channel that the last argument names, and ends the program when the other side
+/// ends.
+void Take(const std::string& argument);
 /// Waits for the next frame.  One thread at a time.  Ends the program when the other side has.
 Frame Read();
 /// POSIX: the channel, to be watched for what comes.

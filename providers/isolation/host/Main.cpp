@@ -11,6 +11,7 @@
 #include "HostOwner.h"
 #include "Link.h"
 #include "Loop.h"
+#include "host/System.h"
 #include "workbench/macro/PlayedWindows.h"
 #include "workbench/macro/ProviderWindows.h"
 
@@ -45,15 +46,16 @@ bool Serve() {
 }  // namespace
 
 int main(int argc, char** argv) {
-  link::Take();
-  const std::string provider = argc > 1 ? argv[1] : "";
+  const auto arguments = CommandLineArguments(argc, argv);
+  if (arguments.empty()) return 2;  // the library starts it
+  link::Take(arguments.back());
   const bool windows = StartToolkit(argc, argv);
   std::unique_ptr<TPlayedWindows> played;
   if (windows) {
     WatchWindows();
     if (const char* folder = std::getenv(kPlayedFolder)) played = std::make_unique<TPlayedWindows>(folder);
   }
-  const auto fault = LoadProvider(provider);
+  const auto fault = LoadProvider(arguments.front());
   link::Write(Kind::Hello, Body(fault));
   ServeUntilBye(windows, Serve);
   link::Leave();

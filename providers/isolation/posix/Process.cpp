@@ -102,13 +102,9 @@ class PosixProcess final : public Process {
   }
   ~PosixProcess() override {
     channel_.Close();
-    if (InForkedCopy()) return;
-    if (letGo_ && !ended_) {
-      Leaving::Add(pid_);
-      return;
-    }
-    Kill();
-    HowItEnded();
+    if (ended_ || InForkedCopy()) return;
+    if (!letGo_) Kill();
+    Leaving::Add(pid_);  // one that hangs in the system takes its time
   }
 
   bool Move(Outgoing& out, std::string& in, std::size_t room, std::chrono::milliseconds wait) override {

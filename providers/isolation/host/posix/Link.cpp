@@ -57,7 +57,7 @@ void WriteAll(const void* bytes, std::size_t size) {
 
 }  // namespace
 
-void Take() {
+void Take(const std::string&) {
   channel = fcntl(kChannelFd, F_DUPFD_CLOEXEC, kHighFd);
   if (channel < 0) EndNow();
   close(kChannelFd);

@@ -1,10 +1,10 @@
 #include "Owner.h"
 
-#include <gdk/gdkx.h>
-#include <gtk/gtk.h>
 #include <wx/app.h>
 #include <wx/dialog.h>
 #include <wx/thread.h>
+
+#include "WindowNumber.h"
 
 namespace isolation {
 namespace {
@@ -23,12 +23,10 @@ wxWindow* Front() {
 
 }  // namespace
 
-std::uint64_t OwnerFor(scc::WindowHandle) {
+std::uint64_t OwnerFor(scc::WindowHandle given) {
   const auto* app = wxAppConsole::GetInstance();
-  if (app == nullptr || !app->IsGUI() || !wxIsMainThread()) return 0;
-  auto* const window = Front();
-  auto* const widget = window != nullptr ? gtk_widget_get_window(window->GetHandle()) : nullptr;
-  return widget != nullptr && GDK_IS_X11_WINDOW(widget) ? gdk_x11_window_get_xid(widget) : 0;
+  auto* const front = app != nullptr && app->IsGUI() && wxIsMainThread() ? Front() : nullptr;
+  return WindowNumber(given, front);
 }
 
 }  // namespace isolation

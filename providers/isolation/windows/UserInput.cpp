@@ -1,0 +1,15 @@
+#include "UserInput.h"
+
+#include "host/windows/Api.h"
+
+namespace isolation {
+
+void DropUserInput() {
+  MSG message;
+  for (const auto& [first, last] :
+       {std::pair<UINT, UINT>{WM_KEYFIRST, WM_KEYLAST}, {WM_LBUTTONDOWN, WM_MOUSELAST}})
+    while (PeekMessageW(&message, nullptr, first, last, PM_REMOVE)) {
+    }
+}
+
+}  // namespace isolation
