@@ -6,6 +6,7 @@
 #include <thread>
 #include <tuple>
 
+#include "isolation/Children.h"
 #include "isolation/Client.h"
 
 using testing::AllOf;
@@ -14,16 +15,6 @@ using testing::Each;
 using testing::HasSubstr;
 
 namespace {
-
-/// The processes that this one has started.
-std::vector<pid_t> Children() {
-  std::vector<pid_t> children;
-  for (const auto& task : std::filesystem::directory_iterator("/proc/self/task")) {
-    std::ifstream list(task.path() / "children");
-    for (pid_t child; list >> child;) children.push_back(child);
-  }
-  return children;
-}
 
 struct TSpoken {
   const char* Fault;

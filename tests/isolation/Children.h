@@ -1,0 +1,17 @@
+// The processes that this one has started.
+#pragma once
+
+#include <sys/types.h>
+
+#include <filesystem>
+#include <fstream>
+#include <vector>
+
+inline std::vector<pid_t> Children() {
+  std::vector<pid_t> children;
+  for (const auto& task : std::filesystem::directory_iterator("/proc/self/task")) {
+    std::ifstream list(task.path() / "children");
+    for (pid_t child; list >> child;) children.push_back(child);
+  }
+  return children;
+}
