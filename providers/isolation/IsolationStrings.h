@@ -5,7 +5,7 @@
 
 constexpr TResString sNoPlace{"%s names no provider; register it again with \"scc-register isolate\"."};
 constexpr TResString sNotStarted{"The process for %s could not be started: %s"};
-constexpr TResString sNotLoaded{"%s could not be loaded: %s"};
+constexpr TResString sNotLoaded{"The provider library %s could not be loaded: %s"};
 constexpr TResString sEndedHow{"%s ended in %s: %s."};
 constexpr TResString sEnded{"%s ended in %s."};
 constexpr TResString sStopped{"%s was stopped in %s."};

@@ -96,7 +96,6 @@ void Session::Start() {
   if (fruitless_ >= kMostFruitless) throw CallFailed(Format(sGivenUp, {ProviderName()}));
   if (!unloadable_.empty()) throw CallFailed(unloadable_);
   Options.Forget();
-  HandedPointers.clear();
   Context = 0;
   answer_.reset();
   windows_ = 0;
