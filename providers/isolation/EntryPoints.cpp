@@ -56,7 +56,11 @@ Long SetOption(void* context, Long option, Long value) {
 Long OpenProject(void* context, WindowHandle window, char* user, char* projectName, const char* localPath,
                  char* auxPath, const char* comment, TTextOutProc textOut, Long flags) {
   auto* session = Session::Of(context);
-  if (session != nullptr) session->Listen(textOut);
+  if (session != nullptr) {
+    const Session::Turn turn(*session);
+    if (!turn) return SCC_E_OPNOTPERFORMED;
+    session->Listen(textOut);
+  }
   const Long result = SccOpenProjectCall::Forward(context, context, window, user, projectName, localPath,
                                                   auxPath, comment, textOut, flags);
   if (session != nullptr && result >= 0)
@@ -82,7 +86,7 @@ Long GetEvents(void* context, char* name, Long* status, Long* remaining) {
   return SccGetEventsCall::ForwardIfAlive(context, context, name, status, remaining);
 }
 
-Long GetVersion() {
+Long AskVersion() {
   if (Session::Any() == nullptr) early = new Session;
   return SccGetVersionCall::Forward(nullptr);
 }
@@ -130,7 +134,7 @@ Long SCC_CALL SccInitialize(void** c, WindowHandle w, const char* caller, char* 
   return Initialize(c, w, caller, name, caps, label, out, in);
 }
 Long SCC_CALL SccUninitialize(void* c) { return Uninitialize(c); }
-Long SCC_CALL SccGetVersion() { return GetVersion(); }
+Long SCC_CALL SccGetVersion() { return AskVersion(); }
 Long SCC_CALL SccSetOption(void* c, Long option, Long value) { return SetOption(c, option, value); }
 Long SCC_CALL SccOpenProject(void* c, WindowHandle w, char* user, char* name, const char* local, char* aux,
                              const char* comment, TTextOutProc text, Long flags) {

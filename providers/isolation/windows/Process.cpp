@@ -5,6 +5,7 @@
 #include <atomic>
 #include <cstdio>
 #include <stdexcept>
+#include <utility>
 #include <vector>
 
 #include "host/windows/Api.h"

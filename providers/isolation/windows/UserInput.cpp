@@ -1,5 +1,7 @@
 #include "UserInput.h"
 
+#include <utility>
+
 #include "host/windows/Api.h"
 
 namespace isolation {
