@@ -15,27 +15,28 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr const char* kFolder = "isolated";
-constexpr const char* kLibrary = "IsolatedScc" LIBRARY_SUFFIX;
+constexpr const char* kLibrary = "IsolatedScc";
 constexpr const char* kHost = "scc-provider-host" PROGRAM_SUFFIX;
 constexpr TResString sNotMade{"The library for \"%s\" cannot be written to %s: %s"};
 
-/// The name as that of a folder, on every system.
-std::string FolderName(const std::string& name) {
-  std::string folder;
+/// The name as part of a file's, on every system.
+std::string FileNamePart(const std::string& name) {
+  std::string part;
   for (const char c : name) {
     const auto byte = static_cast<unsigned char>(c);
     constexpr std::string_view kHex = "0123456789ABCDEF";
     if (std::isalnum(byte) || byte >= 0x80 || c == ' ' || c == '-' || c == '_')
-      folder += c;
+      part += c;
     else
-      folder += {'%', kHex[byte >> 4], kHex[byte & 0xF]};
+      part += {'%', kHex[byte >> 4], kHex[byte & 0xF]};
   }
-  return folder;
+  return part;
 }
 
-std::string FolderOf(const std::string& name) {
-  return PathWithin(PathWithin(RegistryFolder(), kFolder), FolderName(name));
+/// On Windows that is where the libraries are which it needs itself.
+std::string LibraryOf(const std::string& name) {
+  return PathWithin(RegistryFolder(),
+                    std::string(kLibrary) + "-" + FileNamePart(FoldCase(name)) + LIBRARY_SUFFIX);
 }
 
 std::string PlaceFileOf(const std::string& library) {
@@ -45,19 +46,18 @@ std::string PlaceFileOf(const std::string& library) {
 }  // namespace
 
 std::string Isolate(const std::string& name, const std::string& path) {
-  const auto folder = FolderOf(name);
-  const auto library = PathWithin(folder, kLibrary);
+  const auto library = LibraryOf(name);
   try {
-    fs::create_directories(ToFilePath(folder));
+    fs::create_directories(ToFilePath(ExtractFileDir(library)));
     WriteFileAtomically(PlaceFileOf(library), isolation::kProviderKey + path + "\n" + isolation::kHostKey +
                                                   PathWithin(ProgramFolder(), kHost) + "\n");
     // Beside it and over it: a client may have the old one loaded.
     const auto fresh = ToFilePath(library + ".new");
-    fs::copy_file(ToFilePath(PathWithin(ProgramFolder(), kLibrary)), fresh,
+    fs::copy_file(ToFilePath(PathWithin(ProgramFolder(), std::string(kLibrary) + LIBRARY_SUFFIX)), fresh,
                   fs::copy_options::overwrite_existing);
     fs::rename(fresh, ToFilePath(library));
   } catch (const std::exception& error) {
-    throw std::runtime_error(Format(sNotMade, {name, folder, error.what()}));
+    throw std::runtime_error(Format(sNotMade, {name, library, error.what()}));
   }
   return library;
 }
@@ -68,5 +68,6 @@ std::string IsolatedProvider(const std::string& library) {
 
 void RemoveIsolated(const std::string& name) {
   std::error_code ignored;
-  fs::remove_all(ToFilePath(FolderOf(name)), ignored);
+  for (const auto& file : {LibraryOf(name), PlaceFileOf(LibraryOf(name))})
+    fs::remove(ToFilePath(file), ignored);
 }

@@ -31,7 +31,7 @@ class TIsolatedClient {
   explicit TIsolatedClient(const char* caller = "tests") : Caller(caller) {
     lines.clear();
     std::string error;
-    const auto library = LoadModule(ISOLATED_SCRIPTED, &error);  // stays: it does so anyway
+    const auto library = LoadModule(std::string(ISOLATED_SCRIPTED), &error);  // stays: it does so anyway
     if (library == nullptr) throw std::runtime_error(error);
 #define SCC_ENTRY(variable, name, result, arguments) \
   Scc.variable = reinterpret_cast<decltype(Scc.variable)>(FindSymbol(library, name));

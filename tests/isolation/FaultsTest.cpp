@@ -6,8 +6,10 @@
 #include <thread>
 #include <tuple>
 
-#include "isolation/Children.h"
 #include "isolation/Client.h"
+#if !defined(_WIN32)
+#include "isolation/Children.h"
+#endif
 
 using testing::AllOf;
 using testing::Contains;
@@ -22,8 +24,14 @@ struct TSpoken {
 };
 // Each ends the call, and the sentence says how.
 const TSpoken kEnds[] = {
-    {"crash", "signal 11"}, {"abort", "signal 6"}, {"exit", "exit code 7"},
-    {"close", "ended in"},  {"copy", "signal 9"},  {"throw", "scripted failure"},
+#if defined(_WIN32)
+    {"crash", ""},
+    {"exit", "exit code 7"},
+#else
+    {"crash", "signal 11"},        {"abort", "signal 6"}, {"exit", "exit code 7"},
+    {"close", "ended in"},         {"copy", "signal 9"},
+#endif
+    {"throw", "scripted failure"},
 };
 const char* const kEntries[] = {
 #define SCC_ENTRY(variable, name, result, arguments) name,
@@ -77,6 +85,7 @@ INSTANTIATE_TEST_SUITE_P(All, Faults, testing::Combine(testing::ValuesIn(kEnds),
                            return std::string(std::get<0>(row.param).Fault) + "_" + std::get<1>(row.param);
                          });
 
+#if !defined(_WIN32)  // there the test of the waiting window ends one
 TEST(FaultsWithoutEnd, AnEndlessLoopEndsWithItsProcess) {
   for (const char* entry : kEntries) {
     SCOPED_TRACE(entry);
@@ -92,6 +101,7 @@ TEST(FaultsWithoutEnd, AnEndlessLoopEndsWithItsProcess) {
     ExpectGoesOn(client, entry);
   }
 }
+#endif
 
 // The provider may last for another call, with memory that is no longer what it was.
 TEST(FaultsOfMemory, NeitherHarmNorStopTheClient) {

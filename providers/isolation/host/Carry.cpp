@@ -30,6 +30,8 @@ Function* Find(Entry entry) {
   return reinterpret_cast<Function*>(FindSymbol(library, NameOf(entry)));
 }
 
+bool damaged = false;
+
 constexpr const char* kUnknownException = "an exception of an unknown kind";
 
 /// Runs the provider's code; what it threw, or a missing text.
@@ -37,6 +39,7 @@ template <class Body>
 MaybeText Guarded(Body body) {
   try {
     const auto fault = RunGuarded(body);
+    damaged = damaged || !fault.empty();
     return fault.empty() ? MaybeText() : MaybeText(fault.c_str());
   } catch (const std::exception& error) {
     return MaybeText(error.what() != nullptr && *error.what() != '\0' ? error.what() : kUnknownException);
@@ -72,6 +75,8 @@ std::string LoadProvider(const std::string& path) {
   library = LoadModule(path, &error);
   return library != nullptr ? std::string() : error;
 }
+
+bool IsDamaged() { return damaged; }
 
 std::string Carry(const std::string& call) {
   using namespace provider;

@@ -13,4 +13,7 @@ std::string LoadProvider(const std::string& path);
 /// Carries out a call; the answer's body.
 std::string Carry(const std::string& call);
 
+/// A fault of the system's has ended a call: nobody knows what the provider left behind, so no more is to be carried out.
+bool IsDamaged();
+
 }  // namespace isolation

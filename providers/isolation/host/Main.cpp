@@ -40,6 +40,7 @@ bool StartToolkit(int& argc, char** argv) {
 bool Serve() {
   const auto frame = link::Read();
   if (frame.Of == Kind::Call) link::Write(Kind::Answer, Carry(frame.Body));
+  if (IsDamaged()) std::_Exit(EXIT_FAILURE);
   return frame.Of != Kind::Bye;
 }
 
