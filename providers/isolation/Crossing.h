@@ -16,10 +16,12 @@ struct Crossing {
     try {
       In answer(body);
       MaybeText thrown;
+      bool damaged = false;
       scc::Long result = 0;
-      answer(thrown, result);
+      answer(thrown, damaged, result);
       (Kinds::Take(session, answer, args), ...);
       if (thrown.Present()) session.SayThrown(thrown.Get());
+      if (damaged) session.End();
       return result;
     } catch (const std::exception& error) {
       throw CallFailed(session.Condemn(error.what()));

@@ -30,9 +30,10 @@ enum class Entry : std::uint8_t {
 const char* NameOf(Entry entry);
 
 enum class Kind : std::uint32_t {
-  Hello,    ///< to the library, first of all: empty, or why the provider cannot be loaded
-  Call,     ///< to the provider: entry, arguments
-  Answer,   ///< to the library: what an exception said (else empty), result, arguments that may have changed
+  Hello,  ///< to the library, first of all: empty, or why the provider cannot be loaded
+  Call,   ///< to the provider: entry, arguments
+  /// to the library: what an exception said (else empty), whether it is the last, result, arguments that may have changed
+  Answer,
   Line,     ///< to the library: a line of text, kind first
   Ask,      ///< to the library: a message whose answer counts, like Line
   Item,     ///< to the library: a call of the list callback

@@ -63,7 +63,7 @@ std::string CarryOut(In& in) {
     });
   }
   Out out;
-  out(thrown, result);
+  out(thrown, damaged, result);
   std::apply([&](auto&... argument) { (argument.Return(out), ...); }, arguments);
   return std::move(out.Body);
 }

@@ -97,23 +97,25 @@ class WindowsProcess final : public Process {
     } else {
       Kill();
     }
-    CancelIo(pipe_.Get());
-    for (Transfer* transfer : {&read_, &write_})
-      if (DWORD ignored; transfer->Running)
-        GetOverlappedResult(pipe_.Get(), &transfer->Overlapped, &ignored, TRUE);
+    CancelIoEx(pipe_.Get(), nullptr);
+    for (auto* transfer : {&read_, &write_})
+      // What the system does not give back stays: it would be written to when it is something else.
+      if ((*transfer)->Running &&
+          WaitForSingleObject((*transfer)->Event.Get(), kLastMoments) != WAIT_OBJECT_0)
+        transfer->release();
   }
 
   bool Move(Outgoing& out, std::string& in, std::size_t room, std::chrono::milliseconds wait) override {
     if (Deliver(in, room)) return true;
     StartWriting(out);
     if (!StartReading()) return Deliver(in, room);
-    std::vector<HANDLE> events{read_.Event.Get(), process_.Get()};
-    if (write_.Running) events.push_back(write_.Event.Get());
+    std::vector<HANDLE> events{read_->Event.Get(), process_.Get()};
+    if (write_->Running) events.push_back(write_->Event.Get());
     const auto which = WaitForMultipleObjects(static_cast<DWORD>(events.size()), events.data(), FALSE,
                                               static_cast<DWORD>(wait.count()));
     if (which == WAIT_OBJECT_0 + 2) return FinishWriting();
     const bool ended = which == WAIT_OBJECT_0 + 1;
-    if (ended && WaitForSingleObject(read_.Event.Get(), kLastWords) != WAIT_OBJECT_0) return false;
+    if (ended && WaitForSingleObject(read_->Event.Get(), kLastWords) != WAIT_OBJECT_0) return false;
     if (which == WAIT_TIMEOUT) return true;
     return FinishReading() && Deliver(in, room);
   }
@@ -161,31 +163,31 @@ class WindowsProcess final : public Process {
     ResumeThread(thread.Get());
   }
   void StartWriting(Outgoing& out) {
-    if (write_.Running || out.Empty()) return;
+    if (write_->Running || out.Empty()) return;
     const auto size = std::min(out.Bytes.size() - out.Sent, kChunk);
     const auto first = out.Bytes.begin() + static_cast<std::ptrdiff_t>(out.Sent);
-    write_.Bytes.assign(first, first + static_cast<std::ptrdiff_t>(size));
+    write_->Bytes.assign(first, first + static_cast<std::ptrdiff_t>(size));
     out.Sent += size;
-    WriteFile(pipe_.Get(), write_.Bytes.data(), static_cast<DWORD>(size), nullptr, write_.Start());
+    WriteFile(pipe_.Get(), write_->Bytes.data(), static_cast<DWORD>(size), nullptr, write_->Start());
   }
   bool FinishWriting() {
     DWORD sent = 0;
-    write_.Running = false;
-    return GetOverlappedResult(pipe_.Get(), &write_.Overlapped, &sent, FALSE) != 0;
+    write_->Running = false;
+    return GetOverlappedResult(pipe_.Get(), &write_->Overlapped, &sent, FALSE) != 0;
   }
   bool StartReading() {
-    if (read_.Running) return true;
-    read_.Bytes.resize(kPipeBuffer);
-    auto* const overlapped = read_.Start();
-    if (ReadFile(pipe_.Get(), read_.Bytes.data(), kPipeBuffer, nullptr, overlapped)) return true;
-    read_.Running = GetLastError() == ERROR_IO_PENDING;
-    return read_.Running;
+    if (read_->Running) return true;
+    read_->Bytes.resize(kPipeBuffer);
+    auto* const overlapped = read_->Start();
+    if (ReadFile(pipe_.Get(), read_->Bytes.data(), kPipeBuffer, nullptr, overlapped)) return true;
+    read_->Running = GetLastError() == ERROR_IO_PENDING;
+    return read_->Running;
   }
   bool FinishReading() {
     DWORD got = 0;
-    read_.Running = false;
-    if (!GetOverlappedResult(pipe_.Get(), &read_.Overlapped, &got, FALSE)) return false;
-    ready_.append(read_.Bytes.data(), got);
+    read_->Running = false;
+    if (!GetOverlappedResult(pipe_.Get(), &read_->Overlapped, &got, FALSE)) return false;
+    ready_.append(read_->Bytes.data(), got);
     return got > 0;
   }
   /// What has come and not been asked for yet.
@@ -197,7 +199,7 @@ class WindowsProcess final : public Process {
   }
 
   Handle job_, pipe_, process_;
-  Transfer read_, write_;
+  std::unique_ptr<Transfer> read_ = std::make_unique<Transfer>(), write_ = std::make_unique<Transfer>();
   std::string ready_;
   bool letGo_ = false;
 };
