@@ -1,12 +1,11 @@
 #include "commands/Progress.h"
 
-#include <wx/eventfilter.h>
-#include <wx/evtloop.h>
 #include <wx/wx.h>
 
 #include "commands/ProgressStrings.h"
 #include "host/Paths.h"
 #include "host/WxText.h"
+#include "host/WxWaiting.h"
 
 using namespace std::chrono_literals;
 
@@ -97,30 +96,6 @@ void TProgressForm::Appear() {
 
 namespace {
 
-/// No window of the host is closed while this lives: the work would go on without it.
-class TNoClosing final : private wxEventFilter {
- public:
-  TNoClosing() { wxEvtHandler::AddFilter(this); }
-  TNoClosing(const TNoClosing&) = delete;
-  TNoClosing& operator=(const TNoClosing&) = delete;
-  ~TNoClosing() override { wxEvtHandler::RemoveFilter(this); }
-
- private:
-  int FilterEvent(wxEvent& event) override {
-    if (event.GetEventType() != wxEVT_CLOSE_WINDOW) return Event_Skip;
-    auto& close = static_cast<wxCloseEvent&>(event);
-    if (!close.CanVeto()) return Event_Skip;
-    close.Veto();
-    return Event_Processed;
-  }
-};
-
-/// Lets windows appear and paint.  Keys and clicks stay where they are.
-void Paint() {
-  auto* loop = wxEventLoopBase::GetActive();
-  if (loop && !loop->IsYielding()) loop->YieldFor(wxEVT_CATEGORY_UI);
-}
-
 /// The window that the user works in, or nullptr.
 wxWindow* WorkingWindow() {
   for (auto* window : {wxGetTopLevelParent(wxGetActiveWindow()), wxTheApp->GetTopWindow()})
@@ -133,7 +108,7 @@ wxWindow* WorkingWindow() {
 void PaintWindows(std::chrono::milliseconds duration) {
   const TNoClosing noClosing;
   const auto end = std::chrono::steady_clock::now() + duration;
-  for (Paint(); std::chrono::steady_clock::now() < end; Paint()) wxMilliSleep(2);
+  for (PaintPending(); std::chrono::steady_clock::now() < end; PaintPending()) wxMilliSleep(2);
 }
 
 TProgress::TProgress(const std::string& caption, std::size_t total, TCallPace& pace, TNow now)
