@@ -35,8 +35,8 @@ std::string FileNamePart(const std::string& name) {
 
 /// On Windows that is where the libraries are which it needs itself.
 std::string LibraryOf(const std::string& name) {
-  return PathWithin(RegistryFolder(),
-                    std::string(kLibrary) + "-" + FileNamePart(FoldCase(name)) + LIBRARY_SUFFIX);
+  return ResolvePath(RegistryFolder(),
+                     std::string(kLibrary) + "-" + FileNamePart(FoldCase(name)) + LIBRARY_SUFFIX);
 }
 
 std::string PlaceFileOf(const std::string& library) {
@@ -50,10 +50,10 @@ std::string Isolate(const std::string& name, const std::string& path) {
   try {
     fs::create_directories(ToFilePath(ExtractFileDir(library)));
     WriteFileAtomically(PlaceFileOf(library), isolation::kProviderKey + path + "\n" + isolation::kHostKey +
-                                                  PathWithin(ProgramFolder(), kHost) + "\n");
+                                                  ResolvePath(ProgramFolder(), kHost) + "\n");
     // Beside it and over it: a client may have the old one loaded.
     const auto fresh = ToFilePath(library + ".new");
-    fs::copy_file(ToFilePath(PathWithin(ProgramFolder(), std::string(kLibrary) + LIBRARY_SUFFIX)), fresh,
+    fs::copy_file(ToFilePath(ResolvePath(ProgramFolder(), std::string(kLibrary) + LIBRARY_SUFFIX)), fresh,
                   fs::copy_options::overwrite_existing);
     fs::rename(fresh, ToFilePath(library));
   } catch (const std::exception& error) {

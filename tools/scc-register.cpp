@@ -160,7 +160,7 @@ void MakeDefault(const TCommandLine& line) { Choose(line.Words[1]); }
 /// The path of the real provider, whoever stands for it.
 std::string RealPath(const std::string& path) {
   const auto isolated = IsolatedProvider(path);
-  return isolated.empty() ? path : NormalPath(isolated);
+  return isolated.empty() ? path : NormalizePath(isolated);
 }
 
 /// Also makes the library anew that stands for it already: after an update of this program.

@@ -41,7 +41,7 @@ void Append(TParts& parts, std::string_view name) {
 
 TParts TakeApart(std::string_view path) {
   const auto root = RootLength(path);
-  TParts parts{NormalRoot(path.substr(0, root)), {}};
+  TParts parts{NormalizeRoot(path.substr(0, root)), {}};
   for (auto at = path.begin() + static_cast<std::ptrdiff_t>(root);; ++at) {
     const auto end = std::find_if(at, path.end(), IsPathDelim);
     Append(parts, {at, end});
@@ -81,19 +81,19 @@ std::string ExcludeTrailingPathDelimiter(std::string_view path) {
   return std::string(WithoutTrailingDelimiters(path));
 }
 
-std::string RelativePath(std::string_view base, std::string_view path) {
+std::string RelativePathBelow(std::string_view base, std::string_view path) {
   const auto directory = IncludeTrailingPathDelimiter(WithoutTrailingDelimiters(base));
   const bool below = !base.empty() && path.size() > directory.size() &&
-                     FileNameKey(path.substr(0, directory.size())) == FileNameKey(directory);
+                     FoldFileName(path.substr(0, directory.size())) == FoldFileName(directory);
   return std::string(below ? path.substr(directory.size()) : path);
 }
 
-std::string NormalPath(std::string_view path) {
+std::string NormalizePath(std::string_view path) {
   const auto parts = TakeApart(path);
   return path.empty() ? std::string() : Join(parts.Root, parts.Names);
 }
 
-std::string WayToPath(std::string_view base, std::string_view path) {
+std::string RelativePath(std::string_view base, std::string_view path) {
   const auto from = TakeApart(base);
   const auto to = TakeApart(path);
   const auto [ours, theirs] = std::ranges::mismatch(from.Names, to.Names, SameFileName);

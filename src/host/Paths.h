@@ -13,9 +13,9 @@ bool IsPathDelim(char c);
 /// How many bytes of `path` name its root (1 for "/x"); 0 when it is relative.
 std::size_t RootLength(std::string_view path);
 /// The one spelling for what RootLength tells of a path; a directory's ends with a delimiter.
-std::string NormalRoot(std::string_view root);
+std::string NormalizeRoot(std::string_view root);
 /// Equal for two spellings of one name.  Names compare ignoring case, on every platform.
-std::string FileNameKey(std::string_view path);
+std::string FoldFileName(std::string_view path);
 /// Whether the platform takes two spellings for the same name (POSIX: only when they are equal).  Only for paths that
 /// are to lead somewhere.
 bool SameFileName(std::string_view a, std::string_view b);
@@ -34,13 +34,13 @@ std::string IncludeTrailingPathDelimiter(std::string_view path);
 std::string ExcludeTrailingPathDelimiter(std::string_view path);
 bool IsAbsolutePath(std::string_view path);
 /// `path` as it is meant from within `directory`: behind it, unless it says by itself where it begins.
-std::string PathWithin(std::string_view directory, std::string_view path);
+std::string ResolvePath(std::string_view directory, std::string_view path);
 /// `path` in its one spelling: no "." and doubled or trailing delimiters, "x/.." taken away, ".." only at the beginning of
 /// a relative path.  "." when nothing is left of it.
-std::string NormalPath(std::string_view path);
+std::string NormalizePath(std::string_view path);
 /// `path` as seen from directory `base`, when it lies below it; otherwise `path` unchanged.
-std::string RelativePath(std::string_view base, std::string_view path);
+std::string RelativePathBelow(std::string_view base, std::string_view path);
 /// The way from directory `base` to `path`, up by ".." where it has to; `path` unchanged when no way leads there, as to
 /// another drive or share, or when `base` is empty.  It can be followed: it takes two names for one only where the
 /// platform does.
-std::string WayToPath(std::string_view base, std::string_view path);
+std::string RelativePath(std::string_view base, std::string_view path);

@@ -24,7 +24,7 @@ std::string GetCurrentDirectoryText(std::size_t bufferSize);
 /// The folder of the program that runs.
 std::string ProgramFolder();
 
-/// `path` as it is meant from within the current directory, absolute and in normal form (see NormalPath), without asking the
+/// `path` as it is meant from within the current directory, absolute and in normal form (see NormalizePath), without asking the
 /// disk.  Empty when `path` is.
 std::string FullPath(const std::string& path);
 

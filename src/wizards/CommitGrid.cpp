@@ -42,7 +42,7 @@ wxString TCommitTable::GetValue(int row, int column) {
     case cgcStatus:
       return ToWx(data.Status);
     default:
-      return ToWx(TrimPaths ? WayToPath(directory_, data.FileName) : data.FileName);
+      return ToWx(TrimPaths ? RelativePath(directory_, data.FileName) : data.FileName);
   }
 }
 

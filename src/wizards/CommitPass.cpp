@@ -86,7 +86,7 @@ class TCommitPass {
 
   void CarryOut(const TCommitRowData& row) {
     const auto& step = kSteps[row.Activity];
-    summary_.append(sCRLF).append(step.Line).append(WayToPath(directory_, row.FileName));
+    summary_.append(sCRLF).append(step.Line).append(RelativePath(directory_, row.FileName));
     if (step.Run) {
       const bool done = Attempt(step, row);
       if (done && step.Reloads) changed_.push_back(row.FileName);

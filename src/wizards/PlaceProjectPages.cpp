@@ -63,8 +63,8 @@ void TPlaceProjectPages::PageSelectFilesDisplay() {
   FExpert.AddAssociatedFiles(&gathered, /*removeMissing*/ true);
   std::unordered_set<std::string> known;  // a unit may be another file's companion too
   for (auto& file : gathered)
-    if (known.insert(FileNameKey(file)).second) files_.push_back(std::move(file));
-  for (const auto& file : files_) shown_.push_back(WayToPath(directory_, file));
+    if (known.insert(FoldFileName(file)).second) files_.push_back(std::move(file));
+  for (const auto& file : files_) shown_.push_back(RelativePath(directory_, file));
   ticked_.assign(files_.size(), true);
 }
 
@@ -127,7 +127,7 @@ void TPlaceProjectPages::AddFile(std::size_t row, TProviderWords& words, bool op
   TStateMessages messages;
   if (!Project().AddFile({file}, {}, KeepCheckedOut, messages)) {
     // Seen from the directory above, so that the project's own name leads the way to the file: that is meant.
-    AddStatus(Format(sPlaceAddFailed.Text, {WayToPath(ExtractFileDir(directory_), file)}));
+    AddStatus(Format(sPlaceAddFailed.Text, {RelativePath(ExtractFileDir(directory_), file)}));
     const auto reasons = Reasons(words, messages);
     if (!opened) return;  // it is the same for all, and shown
     for (const auto& reason : reasons) AddStatus(Format(sPlaceReason.Text, {reason}));

@@ -121,8 +121,8 @@ void TPullProjectPages::TargetDirectoryChange(const std::string& text) {
 // What the user may leave out of a path: the start-up directory in front, a delimiter at the end.
 std::string TPullProjectPages::FullTarget(const std::string& text) {
   const auto path = Trim(text);
-  const auto full = PathWithin(ProjectDirectory(), path);
-  return path.empty() || !IsAbsolutePath(full) ? path : NormalPath(full);
+  const auto full = ResolvePath(ProjectDirectory(), path);
+  return path.empty() || !IsAbsolutePath(full) ? path : NormalizePath(full);
 }
 
 bool TPullProjectPages::MayLeave() {
@@ -206,7 +206,7 @@ std::size_t TPullProjectPages::FindProjectFile() {
       std::ranges::find_if(files, [this](const std::string& file) { return FExpert.IsProjectFile(file); });
   if (found != files.end()) FProjectFile = *found;
   return static_cast<std::size_t>(std::ranges::count_if(
-      files, [this](const std::string& file) { return RelativePath(target_, file) != file; }));
+      files, [this](const std::string& file) { return RelativePathBelow(target_, file) != file; }));
 }
 
 bool TPullProjectPages::Fetch(std::size_t expected) {
@@ -244,7 +244,7 @@ void TPullProjectPages::ListFetched() {
     }
     for (std::size_t i = 0; i < part.size(); ++i) {
       if (!(statuses[i] & scc::SCC_STATUS_CONTROLLED)) continue;
-      AddStatus(Format(sPullGetOf.Text, {RelativePath(target_, part[i])}));
+      AddStatus(Format(sPullGetOf.Text, {RelativePathBelow(target_, part[i])}));
       if (!DirectoryExists(part[i])) SetFileAttributesOf(part[i], faArchive);
     }
   }

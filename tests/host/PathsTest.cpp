@@ -36,21 +36,21 @@ TEST(Paths, AddAndDropTrailingDelimiters) {
 TEST(Paths, AreShownAsSeenFromADirectory) {
   for (const auto& row : kWays) {
     SCOPED_TRACE(std::string(row.Directory) + " " + row.Path);
-    EXPECT_EQ(RelativePath(row.Directory, row.Path), row.Below);
-    EXPECT_EQ(WayToPath(row.Directory, row.Path), row.Way);
+    EXPECT_EQ(RelativePathBelow(row.Directory, row.Path), row.Below);
+    EXPECT_EQ(RelativePath(row.Directory, row.Path), row.Way);
   }
 }
 
 TEST(Paths, HaveOneNormalForm) {
   for (const auto& row : kNormals) {
-    EXPECT_EQ(NormalPath(row.Path), row.Normal) << row.Path;
-    EXPECT_EQ(NormalPath(row.Normal), row.Normal) << "normal already";
+    EXPECT_EQ(NormalizePath(row.Path), row.Normal) << row.Path;
+    EXPECT_EQ(NormalizePath(row.Normal), row.Normal) << "normal already";
   }
 }
 
 TEST(Paths, BeginInADirectoryUnlessTheySayWhere) {
   for (const auto& row : kWithin)
-    EXPECT_EQ(PathWithin(row.Directory, row.Path), row.Within) << row.Directory << " " << row.Path;
+    EXPECT_EQ(ResolvePath(row.Directory, row.Path), row.Within) << row.Directory << " " << row.Path;
 }
 
 TEST(Paths, KnowAbsoluteOnes) {
@@ -61,6 +61,6 @@ TEST(Paths, KnowAbsoluteOnes) {
 TEST(Paths, KnowSpellingsOfOneName) {
   for (const auto& row : kSame) {
     EXPECT_EQ(SameFileName(row.A, row.B), row.Same) << row.A << " " << row.B;
-    EXPECT_EQ(FileNameKey(row.A) == FileNameKey(row.B), row.OneName) << row.A << " " << row.B;
+    EXPECT_EQ(FoldFileName(row.A) == FoldFileName(row.B), row.OneName) << row.A << " " << row.B;
   }
 }

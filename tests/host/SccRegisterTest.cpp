@@ -70,7 +70,7 @@ class SccRegister : public testing::Test {
   const TEnvironmentVariable variable_{"CORVANE_REGISTRY_DIR", folder_.Path().c_str()};
 };
 
-const std::string kTiny = NormalPath(TINY_PROVIDER);
+const std::string kTiny = NormalizePath(TINY_PROVIDER);
 
 }  // namespace
 

@@ -44,7 +44,7 @@ TEST_F(CommitPass, CarriesOutEachRowInRowOrderAndSaysSo) {
       Row("g.pas", caGetLatest),
   };
   for (const auto& row : rows) {
-    folder_.Write("work/" + WayToPath(At(""), row.FileName), "x");
+    folder_.Write("work/" + RelativePath(At(""), row.FileName), "x");
     SetFileAttributesOf(row.FileName, faReadOnly);
     host_.AddUnit(row.FileName);
   }

@@ -73,7 +73,7 @@ class CommitRowsOf : public TExpertTest {
     std::vector<std::string> texts;
     for (const auto& row : GatherCommitRows(*expert_)) {
       EXPECT_EQ(row.Comment, "");
-      texts.push_back(WayToPath(At(""), row.FileName) + ": " + row.Status + "/" +
+      texts.push_back(RelativePath(At(""), row.FileName) + ": " + row.Status + "/" +
                       ActivityToString(row.Activity));
     }
     return texts;

@@ -23,7 +23,7 @@ constexpr int kRetryMs = 100;
 constexpr int kStartMs = 300;
 /// Only for what never comes: a step goes on as soon as it can, and a machine may be slow.
 constexpr long long kDefaultLimitMs = 60'000;
-constexpr long long kSettleMs = 400;  // before a picture is taken
+constexpr long long kSettleMs = 400;                        // before a picture is taken
 constexpr const char* kProviderIsWaitedFor = "SccWaiting";  // the name of the isolating provider's window
 constexpr const char* kFailedPicture = "failed.png";
 
@@ -118,7 +118,7 @@ wxTopLevelWindow& TMacroPlayer::Front() const {
 }
 
 std::string TMacroPlayer::Screenshot(const std::string& file) {
-  const auto path = PathWithin(screenshots_, file);
+  const auto path = ResolvePath(screenshots_, file);
   std::error_code ignored;
   std::filesystem::create_directories(ToFilePath(ExtractFileDir(path)), ignored);
   return SaveScreenshot(path) ? std::string() : Format(sNoScreenshot, {path});

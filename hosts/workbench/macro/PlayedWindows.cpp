@@ -42,19 +42,19 @@ std::string Work(const std::string& line, std::unique_ptr<wxUIActionSimulator>& 
 
 TPlayedWindows::TPlayedWindows(const std::string& folder) : folder_(folder) {
   std::error_code ignored;
-  fs::remove(ToFilePath(PathWithin(folder_, "front")), ignored);  // of a process that was killed
+  fs::remove(ToFilePath(ResolvePath(folder_, "front")), ignored);  // of a process that was killed
   StartOnce(kTickMs);
 }
 
 TPlayedWindows::~TPlayedWindows() {
   std::error_code ignored;
-  fs::remove(ToFilePath(PathWithin(folder_, "front")), ignored);
+  fs::remove(ToFilePath(ResolvePath(folder_, "front")), ignored);
 }
 
 void TPlayedWindows::Notify() {
   StartOnce(kTickMs);  // before the step: it may open a dialog, and the next steps go on inside
   ShowFront();
-  const auto step = PathWithin(folder_, "step");
+  const auto step = ResolvePath(folder_, "step");
   if (working_) Answer({});  // it has opened one
   if (!FileExists(step)) return;
   const auto line = ReadWholeFile(step);
@@ -67,7 +67,7 @@ void TPlayedWindows::Notify() {
 
 void TPlayedWindows::Answer(const std::string& result) {
   working_ = false;
-  WriteFileAtomically(PathWithin(folder_, "answer"), result);
+  WriteFileAtomically(ResolvePath(folder_, "answer"), result);
 }
 
 void TPlayedWindows::ShowFront() {
@@ -75,7 +75,7 @@ void TPlayedWindows::ShowFront() {
   const auto title = window != nullptr ? FromWx(window->GetTitle()) : std::string();
   if (title == front_) return;
   front_ = title;
-  const auto file = PathWithin(folder_, "front");
+  const auto file = ResolvePath(folder_, "front");
   std::error_code ignored;
   if (title.empty())
     fs::remove(ToFilePath(file), ignored);

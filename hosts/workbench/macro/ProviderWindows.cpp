@@ -25,7 +25,7 @@ TProviderWindows::~TProviderWindows() {
 }
 
 std::string TProviderWindows::Front() const {
-  const auto file = PathWithin(folder_, "front");
+  const auto file = ResolvePath(folder_, "front");
   try {
     return FileExists(file) ? ReadWholeFile(file) : std::string();
   } catch (const std::exception&) {  // it goes at this moment
@@ -34,8 +34,8 @@ std::string TProviderWindows::Front() const {
 }
 
 std::string TProviderWindows::Work(const TMacroStep& step) {
-  const auto answer = PathWithin(folder_, "answer");
-  if (!asked_) WriteFileAtomically(PathWithin(folder_, "step"), step.Text);
+  const auto answer = ResolvePath(folder_, "answer");
+  if (!asked_) WriteFileAtomically(ResolvePath(folder_, "step"), step.Text);
   asked_ = !FileExists(answer);
   if (asked_) return sNotDone;
   const auto result = ReadWholeFile(answer);

@@ -64,11 +64,11 @@ TGroupFile TGroupFile::Parse(std::string_view text) {
 }
 
 std::string ToStoredPath(const std::string& base, const std::string& path) {
-  auto stored = WayToPath(base, path);
+  auto stored = RelativePath(base, path);
   std::ranges::replace(stored, PathDelim, '/');
   return stored;
 }
 
 std::string FromStoredPath(const std::string& base, const std::string& stored) {
-  return NormalPath(PathWithin(base, stored));
+  return NormalizePath(ResolvePath(base, stored));
 }

@@ -76,7 +76,7 @@ class TTemporaryFile {
 
  private:
   static std::string NewName(const std::string& target) {
-    return PathWithin(ExtractFileDir(target), NewTemporaryName());
+    return ResolvePath(ExtractFileDir(target), NewTemporaryName());
   }
   int Create() {
     constexpr int flags = O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC;

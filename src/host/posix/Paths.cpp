@@ -10,13 +10,13 @@ std::size_t RootLength(std::string_view path) { return !path.empty() && IsPathDe
 
 bool IsAbsolutePath(std::string_view path) { return RootLength(path) > 0; }
 
-std::string NormalRoot(std::string_view root) { return std::string(root); }
+std::string NormalizeRoot(std::string_view root) { return std::string(root); }
 
-std::string PathWithin(std::string_view directory, std::string_view path) {
+std::string ResolvePath(std::string_view directory, std::string_view path) {
   if (directory.empty() || IsAbsolutePath(path)) return std::string(path);
   return IncludeTrailingPathDelimiter(directory).append(path);
 }
 
-std::string FileNameKey(std::string_view path) { return FoldCase(path); }
+std::string FoldFileName(std::string_view path) { return FoldCase(path); }
 
 bool SameFileName(std::string_view a, std::string_view b) { return a == b; }

@@ -57,7 +57,7 @@ std::string GetCurrentDirectoryText(std::size_t bufferSize) {
 }
 
 std::string FullPath(const std::string& path) {
-  return path.empty() ? path : NormalPath(PathWithin(GetCurrentDirectoryText(std::string::npos), path));
+  return path.empty() ? path : NormalizePath(ResolvePath(GetCurrentDirectoryText(std::string::npos), path));
 }
 
 bool FileExists(const std::string& path) {

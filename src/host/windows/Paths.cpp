@@ -58,7 +58,7 @@ std::size_t RootLength(std::string_view path) {
   return path.size() > drive && IsPathDelim(path[drive]) ? drive + 1 : drive;
 }
 
-std::string NormalRoot(std::string_view root) {
+std::string NormalizeRoot(std::string_view root) {
   if (BeginsWith(root, kShareAsItStands)) return UncRoot(root.substr(kShareAsItStands.size()));
   if (BeginsWith(root, kAsItStands) && IsAbsolutePath(root.substr(kAsItStands.size())))
     root.remove_prefix(kAsItStands.size());
@@ -70,7 +70,7 @@ bool IsAbsolutePath(std::string_view path) {
   return IsUnc(path) || (HasDrive(path) && path.size() > 2 && IsPathDelim(path[2]));
 }
 
-std::string PathWithin(std::string_view directory, std::string_view path) {
+std::string ResolvePath(std::string_view directory, std::string_view path) {
   auto drive = directory.substr(0, RootLength(directory));
   if (!drive.empty() && IsPathDelim(drive.back())) drive.remove_suffix(1);
   if (IsAbsolutePath(path)) return std::string(path);
@@ -81,7 +81,7 @@ std::string PathWithin(std::string_view directory, std::string_view path) {
                                              : IncludeTrailingPathDelimiter(directory).append(path);
 }
 
-std::string FileNameKey(std::string_view path) { return FoldCase(WithOwnDelimiters(path)); }
+std::string FoldFileName(std::string_view path) { return FoldCase(WithOwnDelimiters(path)); }
 
 bool SameFileName(std::string_view a, std::string_view b) {
   return SameText(WithOwnDelimiters(a), WithOwnDelimiters(b));

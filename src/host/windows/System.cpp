@@ -50,7 +50,7 @@ std::string FullPath(const std::string& path) {
   const auto name = ToWide(path);
   std::wstring full(GetFullPathNameW(name.c_str(), 0, nullptr, nullptr), L'\0');
   full.resize(GetFullPathNameW(name.c_str(), static_cast<DWORD>(full.size()), full.data(), nullptr));
-  return NormalPath(FromWide(full));
+  return NormalizePath(FromWide(full));
 }
 
 bool FileExists(const std::string& path) {
