@@ -9,7 +9,7 @@ namespace svnscc {
 bool IsUtf8(std::string_view text) { return Readable(text) == text; }
 
 std::string Readable(std::string_view text) {
-  return RepairUtf8(text, [](std::string_view bytes) { return std::string(bytes.size(), '?'); });
+  return ReplaceInvalidUtf8(text, [](std::string_view bytes) { return std::string(bytes.size(), '?'); });
 }
 
 std::vector<std::string> NamesNotUtf8(const std::string& folder) {

@@ -36,7 +36,7 @@ std::string Text(const char* text) { return text != nullptr ? text : ""; }
 /// Writes into a client's buffer of `size` bytes, which may be missing.
 void Return(char* buffer, const std::string& text, std::size_t size) {
   if (buffer == nullptr) return;
-  const auto cut = CutAtCharacter(text, size - 1);
+  const auto cut = TruncateUtf8(text, size - 1);
   std::memcpy(buffer, cut.data(), cut.size());
   buffer[cut.size()] = '\0';
 }

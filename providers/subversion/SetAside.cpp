@@ -62,7 +62,7 @@ std::string FreeNameBeside(const std::string& path) {
   const Pool pool;
   const std::string name = svn_dirent_basename(path.c_str(), pool);
   return FreeName(Beside(
-      path, std::string(CutAtCharacter(name, kLongestName - kEnding.size() - kRoom)) + std::string(kEnding)));
+      path, std::string(TruncateUtf8(name, kLongestName - kEnding.size() - kRoom)) + std::string(kEnding)));
 }
 
 std::string KeepCopy(Session& session, const std::string& path) {

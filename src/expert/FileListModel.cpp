@@ -57,8 +57,8 @@ TFileListModel::TButtons TFileListModel::CheckState() const {
 }
 
 TCommentEdit CutComment(TCommentEdit edit) {
-  edit.After = CutAtCharacter(edit.After, kMaxComment);
-  edit.Before = CutAtCharacter(edit.Before, kMaxComment - edit.After.size());
+  edit.After = TruncateUtf8(edit.After, kMaxComment);
+  edit.Before = TruncateUtf8(edit.Before, kMaxComment - edit.After.size());
   return edit;
 }
 

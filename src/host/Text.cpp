@@ -71,7 +71,7 @@ bool SameText(std::string_view a, std::string_view b) {
   return FoldCase(a.substr(i)) == FoldCase(b.substr(i));
 }
 
-std::string RepairUtf8(std::string_view text, std::string (*decode)(std::string_view bytes)) {
+std::string ReplaceInvalidUtf8(std::string_view text, std::string (*decode)(std::string_view bytes)) {
   std::string repaired;
   for (std::size_t at = 0; at < text.size();) {
     const auto begin = at;
@@ -85,7 +85,7 @@ std::string RepairUtf8(std::string_view text, std::string (*decode)(std::string_
   return repaired;
 }
 
-std::string_view CutAtCharacter(std::string_view text, std::size_t bytes) {
+std::string_view TruncateUtf8(std::string_view text, std::size_t bytes) {
   if (text.size() <= bytes) return text;
   auto end = bytes;
   while (end > 0 && bytes - end < 3 && IsContinuation(text[end])) --end;

@@ -32,8 +32,8 @@ TWaitingLines waiting;
 
 /// A text of the provider's as it is shown.
 std::string ShownText(std::string_view text) {
-  if (text.size() <= kMaxTextLine) return FromSystemText(text);
-  return FromSystemText(CutSystemText(text, kMaxTextLine)) + sLineCutMark.str();
+  if (text.size() <= kMaxTextLine) return FromCodePageLossy(text);
+  return FromCodePageLossy(TruncateInCodePage(text, kMaxTextLine)) + sLineCutMark.str();
 }
 
 /// Keeps the line when this is another thread than the one that shows lines.
@@ -68,11 +68,11 @@ void TBoundedText::Set(std::string_view text) {
 }
 
 std::string TBoundedText::Cut() const {
-  return Fits() ? text_ : FromSystemText(CutSystemText(*ToSystemText(text_), size_ - 1));
+  return Fits() ? text_ : FromCodePageLossy(TruncateInCodePage(*ToCodePageExact(text_), size_ - 1));
 }
 
 bool TBoundedText::Fits() const {
-  const auto bytes = ToSystemText(text_);
+  const auto bytes = ToCodePageExact(text_);
   return !bytes || bytes->size() < size_;
 }
 
@@ -140,7 +140,7 @@ scc::Long SCC_CALL TextOutProc(const char* text, scc::Dword kind) noexcept try {
 
 TScratchText::TScratchText(const char* entry, std::string_view text)
     : entry_(entry), given_(ForProvider(UpToNul(text))), bytes_(kRoom + kGuard, '\0') {
-  given_.resize(CutSystemText(given_, kRoom - 1).size());
+  given_.resize(TruncateInCodePage(given_, kRoom - 1).size());
   std::ranges::copy(given_, bytes_.begin());
   // The last byte stays a terminator: who reads on after filling the room stops there.
   std::fill(bytes_.begin() + kRoom, bytes_.end() - 1, kGuardByte);
@@ -159,9 +159,9 @@ std::string TScratchText::TextFor(const TBoundedText& field) const {
   const auto whole = Text();
   if (whole == given_) return field.Str();
   // A provider may leave out the terminator, so all bytes of a field count.
-  const auto fitting = CutSystemText(whole, field.Size());
-  const auto name = FromSystemName(fitting);
-  if (!name) throw EAbort(Format(sNotFromCodePage.str(), {providerName, FromSystemText(fitting), entry_}));
+  const auto fitting = TruncateInCodePage(whole, field.Size());
+  const auto name = FromCodePageExact(fitting);
+  if (!name) throw EAbort(Format(sNotFromCodePage.str(), {providerName, FromCodePageLossy(fitting), entry_}));
   if (fitting.size() != whole.size())
     WriteProviderLine(IProviderSink::Kind::Warning,
                       Format(sTextCut.str(), {providerName, entry_, static_cast<long long>(field.Size())}));
@@ -172,15 +172,15 @@ TComment::TComment(std::string_view typed) { Take(ForProvider(typed)); }
 
 TComment::TComment(std::string_view typed, const TResString& otherwise) {
   Take(!typed.empty() ? ForProvider(typed)
-                      : ToReadableSystemText(Format(otherwise.str(), {DateTimeToStr(std::time(nullptr))})));
+                      : ToCodePageLossy(Format(otherwise.str(), {DateTimeToStr(std::time(nullptr))})));
 }
 
 void TComment::Take(std::string_view text) {
-  std::ranges::copy(CutSystemText(UpToNul(text), kMaxComment), bytes_.begin());
+  std::ranges::copy(TruncateInCodePage(UpToNul(text), kMaxComment), bytes_.begin());
 }
 
 std::string ForProvider(std::string_view text) {
-  auto converted = ToSystemText(text);
+  auto converted = ToCodePageExact(text);
   if (!converted) throw EAbort(Format(sNotInCodePage.str(), {std::string(text)}));
   return *std::move(converted);
 }
@@ -194,12 +194,12 @@ const TBoundedText& RequireFits(const TBoundedText& path) {
 bool TakeFileName(const char* name, TStringList& taken) noexcept try {
   if (taken.size() >= kMaxPopulated) return false;
   if (name == nullptr || *name == '\0') return true;
-  if (auto known = FromSystemName(name))
+  if (auto known = FromCodePageExact(name))
     taken.push_back(*std::move(known));
   else
     WriteProviderLine(
         IProviderSink::Kind::Warning,
-        Format(sNotFromCodePage.str(), {providerName, FromSystemText(name), "SccPopulateList"}));
+        Format(sNotFromCodePage.str(), {providerName, FromCodePageLossy(name), "SccPopulateList"}));
   return true;
 } catch (...) {
   return false;

@@ -50,7 +50,7 @@ class TScratchText {
   /// What stands there now, up to the terminator or the end of the room.
   std::string_view Text() const;
   /// What the field has to hold now: its own text, when the provider left that as it was.  Warns when the provider's was
-  /// longer than the field.  Throws EAbort when it cannot be given back as it came (see FromSystemName).
+  /// longer than the field.  Throws EAbort when it cannot be given back as it came (see FromCodePageExact).
   std::string TextFor(const TBoundedText& field) const;
 
  private:

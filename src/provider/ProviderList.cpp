@@ -108,7 +108,7 @@ void TSCCProviderList::Initialize(const std::string& providerPath) {
     const Long code =
         Invoke(SccInitialize, &context_, ToWindow(window_), caller.Data(), name.Data(), &capabilities.Value,
                auxLabel.Data(), &checkOutCommentLength.Value, &commentLength.Value);
-    const auto given = FromSystemText(CutSystemText(name.Text(), kNameSize));
+    const auto given = FromCodePageLossy(TruncateInCodePage(name.Text(), kNameSize));
     if (!Trim(given).empty()) SetProviderName(given);
     return code;
   });

@@ -123,7 +123,7 @@ void ShowProviderLines() noexcept;
 scc::Long SCC_CALL TextOutProc(const char* text, scc::Dword kind) noexcept;
 
 /// Appends to `taken` a file name that a provider gave a list callback.  Leaves out null pointers, empty names and, with a
-/// warning in the sink, names that could not be passed back to it (see FromSystemName).  False when `taken` is full, that
+/// warning in the sink, names that could not be passed back to it (see FromCodePageExact).  False when `taken` is full, that
 /// is, has kMaxPopulated names: the callback then asks the provider to stop.
 bool TakeFileName(const char* name, TStringList& taken) noexcept;
 

@@ -41,7 +41,7 @@ std::string BeginningOf(const std::string& fileName) {
   std::ifstream file(ToFilePath(fileName), std::ios::binary);
   file.read(text.data(), static_cast<std::streamsize>(text.size()));
   text.resize(static_cast<std::size_t>(file.gcount()));
-  text = CutAtCharacter(text, kShownBytes);
+  text = TruncateUtf8(text, kShownBytes);
   std::ranges::replace(text, '\0', ' ');  // a control's text would end there
   return text;
 }

@@ -37,7 +37,7 @@ bool MayChangePath(const std::string& providerPath) {
 std::string TargetProblem(const std::string& directory) {
   if (directory.empty()) return sTargetNone;
   if (!IsAbsolutePath(directory)) return sTargetNotAbsolute;
-  const auto told = ToSystemText(directory);
+  const auto told = ToCodePageExact(directory);
   if (!told) return Format(sTargetNotInCodePage.Text, {directory});
   if (told->size() > kLongestPath)
     return Format(sTargetTooLong.Text, {directory, static_cast<long long>(kLongestPath)});

@@ -54,8 +54,8 @@ TEST(Text, CutsAtCharacters) {
   const std::string text = "aé€😀";  // 1, 2, 3 and 4 bytes
   const std::size_t kept[] = {0, 1, 1, 3, 3, 3, 6, 6, 6, 6, 10, 10};
   for (std::size_t bytes = 0; bytes < std::size(kept); ++bytes)
-    EXPECT_EQ(CutAtCharacter(text, bytes), text.substr(0, kept[bytes])) << bytes;
-  EXPECT_EQ(CutAtCharacter("a" + std::string(9, '\x80'), 5).size(), 5u) << "no characters, no borders";
+    EXPECT_EQ(TruncateUtf8(text, bytes), text.substr(0, kept[bytes])) << bytes;
+  EXPECT_EQ(TruncateUtf8("a" + std::string(9, '\x80'), 5).size(), 5u) << "no characters, no borders";
 }
 
 TEST(Text, RepairsWhatIsNoUtf8AndNothingElse) {
@@ -82,7 +82,7 @@ TEST(Text, RepairsWhatIsNoUtf8AndNothingElse) {
       {"\xF4\x90\x80\x80", "<4>"},  // behind the last character
       {"\xF5\x80\x80\x80", "<4>"},
   };
-  for (const auto& row : rows) EXPECT_EQ(RepairUtf8(row.text, mark), row.repaired) << row.text;
+  for (const auto& row : rows) EXPECT_EQ(ReplaceInvalidUtf8(row.text, mark), row.repaired) << row.text;
 }
 
 TEST(Text, OfANameNoByteIsLost) {
@@ -90,9 +90,9 @@ TEST(Text, OfANameNoByteIsLost) {
                            "/p/Gr\xF6\xDF"
                            "e",
                            "\x81\xFF"}) {
-    EXPECT_EQ(FromSystemName(name), name);
-    EXPECT_EQ(ToSystemText(name), name);
+    EXPECT_EQ(FromCodePageExact(name), name);
+    EXPECT_EQ(ToCodePageExact(name), name);
   }
-  EXPECT_EQ(CutSystemText("aé€", 3), "aé");
-  EXPECT_EQ(CutSystemText("aé€", 2), "a");
+  EXPECT_EQ(TruncateInCodePage("aé€", 3), "aé");
+  EXPECT_EQ(TruncateInCodePage("aé€", 2), "a");
 }

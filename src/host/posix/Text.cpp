@@ -93,14 +93,14 @@ std::string DateTimeToStr(std::time_t when) {
 #pragma GCC diagnostic pop
 }
 
-std::optional<std::string> ToSystemText(std::string_view text) { return std::string(text); }
+std::optional<std::string> ToCodePageExact(std::string_view text) { return std::string(text); }
 
-std::string ToReadableSystemText(std::string_view text) { return std::string(text); }
+std::string ToCodePageLossy(std::string_view text) { return std::string(text); }
 
-std::string FromSystemText(std::string_view text) { return RepairUtf8(text, FromPage1252); }
+std::string FromCodePageLossy(std::string_view text) { return ReplaceInvalidUtf8(text, FromPage1252); }
 
-std::optional<std::string> FromSystemName(std::string_view name) { return std::string(name); }
+std::optional<std::string> FromCodePageExact(std::string_view name) { return std::string(name); }
 
-std::string_view CutSystemText(std::string_view text, std::size_t bytes) {
-  return CutAtCharacter(text, bytes);
+std::string_view TruncateInCodePage(std::string_view text, std::size_t bytes) {
+  return TruncateUtf8(text, bytes);
 }

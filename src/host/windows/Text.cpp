@@ -44,7 +44,7 @@ std::string Encode(DWORD flags, std::wstring_view text, bool& lost) {
 }
 
 /// Text that needs no conversion, whatever it holds.
-bool IsSystemText(std::string_view text) {
+bool IsSameInCodePage(std::string_view text) {
   return GetACP() == CP_UTF8 || std::all_of(text.begin(), text.end(), IsAscii);
 }
 
@@ -96,8 +96,8 @@ std::string DateTimeToStr(std::time_t when) {
   return FromWide(date.data()) + " " + FromWide(time.data());
 }
 
-std::optional<std::string> ToSystemText(std::string_view text) {
-  if (IsSystemText(text)) return std::string(text);
+std::optional<std::string> ToCodePageExact(std::string_view text) {
+  if (IsSameInCodePage(text)) return std::string(text);
   const auto wide = DecodeUtf8(text);
   if (wide.empty()) return std::nullopt;
   bool lost = false;
@@ -106,29 +106,29 @@ std::optional<std::string> ToSystemText(std::string_view text) {
   return lost ? std::nullopt : std::optional(std::move(narrow));
 }
 
-std::string ToReadableSystemText(std::string_view text) {
-  if (IsSystemText(text)) return std::string(text);
+std::string ToCodePageLossy(std::string_view text) {
+  if (IsSameInCodePage(text)) return std::string(text);
   bool lost = false;
   return Encode(0, ToWide(text), lost);
 }
 
-std::string FromSystemText(std::string_view text) {
+std::string FromCodePageLossy(std::string_view text) {
   if (std::all_of(text.begin(), text.end(), IsAscii)) return std::string(text);
   if (GetACP() != CP_UTF8) return FromWide(Decode(CP_ACP, 0, text));
   // Where the second byte of a character may be an ASCII one no part can be taken for itself.
   if (HasWideCharacters(LocalePage()) && DecodeUtf8(text).empty()) return FromLocalePage(text);
-  return RepairUtf8(text, FromLocalePage);
+  return ReplaceInvalidUtf8(text, FromLocalePage);
 }
 
-std::optional<std::string> FromSystemName(std::string_view name) {
-  if (IsSystemText(name)) return std::string(name);
-  auto text = FromSystemText(name);
-  return ToSystemText(text) == name ? std::optional(std::move(text)) : std::nullopt;
+std::optional<std::string> FromCodePageExact(std::string_view name) {
+  if (IsSameInCodePage(name)) return std::string(name);
+  auto text = FromCodePageLossy(name);
+  return ToCodePageExact(text) == name ? std::optional(std::move(text)) : std::nullopt;
 }
 
-std::string_view CutSystemText(std::string_view text, std::size_t bytes) {
+std::string_view TruncateInCodePage(std::string_view text, std::size_t bytes) {
   if (text.size() <= bytes) return text;
-  if (GetACP() == CP_UTF8) return CutAtCharacter(text, bytes);
+  if (GetACP() == CP_UTF8) return TruncateUtf8(text, bytes);
   std::size_t end = 0;
   for (std::size_t next = 0; next <= bytes;) {
     end = next;

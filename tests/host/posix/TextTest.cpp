@@ -13,5 +13,5 @@ TEST(Text, ShowsMomentsInLocalTime) {
 }
 
 TEST(Text, ReadsWhatIsNoUtf8AsPage1252) {
-  EXPECT_EQ(FromSystemText("f\xFCr 5 \x80: \x84Größe\x93 \x81"), "für 5 €: „Größe“ \u0081");
+  EXPECT_EQ(FromCodePageLossy("f\xFCr 5 \x80: \x84Größe\x93 \x81"), "für 5 €: „Größe“ \u0081");
 }

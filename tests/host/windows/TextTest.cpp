@@ -9,8 +9,8 @@
 #include "host/Text.h"
 
 TEST(Text, NeedsNoConversionWhereTheProgramRunsWithUtf8) {
-  EXPECT_EQ(ToSystemText("C:\\名前 😀.pas"), "C:\\名前 😀.pas") << "the manifest asks for it";
-  EXPECT_EQ(FromSystemText("C:\\名前 😀.pas"), "C:\\名前 😀.pas");
+  EXPECT_EQ(ToCodePageExact("C:\\名前 😀.pas"), "C:\\名前 😀.pas") << "the manifest asks for it";
+  EXPECT_EQ(FromCodePageLossy("C:\\名前 😀.pas"), "C:\\名前 😀.pas");
 }
 
 TEST(Text, ShowsMomentsAsTheUserHasThem) {
@@ -30,6 +30,6 @@ TEST(Text, ReadsWhatIsNoUtf8AsThePageOfTheSystemsLocale) {
                  static_cast<int>(page.size()));
   const auto row = rows.find(page.data());
   if (row == rows.end()) GTEST_SKIP() << "no line for the page of the system's locale";
-  EXPECT_EQ(FromSystemText(row->second.first), row->second.second);
-  EXPECT_EQ(FromSystemText("名前"), "名前");
+  EXPECT_EQ(FromCodePageLossy(row->second.first), row->second.second);
+  EXPECT_EQ(FromCodePageLossy("名前"), "名前");
 }

@@ -45,14 +45,14 @@ std::string Repeat(std::string_view text, int times) {
 }  // namespace
 
 TEST_F(CodePage, LosesNothingOfAText) {
-  EXPECT_EQ(ToSystemText("Größe €"),
+  EXPECT_EQ(ToCodePageExact("Größe €"),
             "Gr\xF6\xDF"
             "e \x80");
-  EXPECT_EQ(FromSystemText("Gr\xF6\xDF"
-                           "e \x80"),
+  EXPECT_EQ(FromCodePageLossy("Gr\xF6\xDF"
+                              "e \x80"),
             "Größe €");
   // Ā would become A, which is another file.
-  for (const char* text : {"名前", "Ā", "😀", "no UTF-8 \xFF"}) EXPECT_FALSE(ToSystemText(text)) << text;
+  for (const char* text : {"名前", "Ā", "😀", "no UTF-8 \xFF"}) EXPECT_FALSE(ToCodePageExact(text)) << text;
 }
 
 TEST_F(CodePage, IsWhatTheProviderReadsAndWrites) {
@@ -115,8 +115,8 @@ TEST_F(CodePage, CountsBytesAsTheProviderDoes) {
 
 // Characters of two bytes, the second of which may be a letter or a backslash.
 TEST_F(CodePage932, ShowsWhatItCanOfATextAndRefusesSuchNames) {
-  EXPECT_EQ(FromSystemText("\x95\x5C\x8E\xA6"), "表示");
-  EXPECT_THAT(FromSystemText("a \xFF b \x95\x5C"),
+  EXPECT_EQ(FromCodePageLossy("\x95\x5C\x8E\xA6"), "表示");
+  EXPECT_THAT(FromCodePageLossy("a \xFF b \x95\x5C"),
               testing::AllOf(testing::StartsWith("a "), testing::EndsWith(" b 表")));
   provider->GetProjPath.ProjName = "$/a\x95";
   EXPECT_EQ(session().GetProjectPath(messages, true, true), -15);

@@ -39,7 +39,7 @@ TEST_F(WizardsCodePage, BoundsATargetAsTheProviderGetsIt) {
 
 TEST_F(WizardsCodePage, CommitRowsKnowTheProvidersNames) {
   Open();
-  provider_->List = {{true, 1, ToSystemText(At("sub/Größe.pas"))}};
+  provider_->List = {{true, 1, ToCodePageExact(At("sub/Größe.pas"))}};
   provider_->StatusOf = [](const std::string&) { return 1; };
   std::vector<std::string> names;
   for (const auto& row : GatherCommitRows(*expert_)) {
