@@ -12,10 +12,10 @@
 /// stopped.  On POSIX no fault can: it is a signal there, and going on behind one is undefined.
 ///
 /// Not for LoadModule and FreeModule: the system's loader stops what a library's own start raises, and unlocks itself.
-std::string RunGuarded(void (*body)(void* data), void* data);
+std::string CallWithSehFrame(void (*body)(void* data), void* data);
 
 /// The same with a function object that takes nothing.
 template <class Body>
-std::string RunGuarded(Body body) {
-  return RunGuarded([](void* data) { (*static_cast<Body*>(data))(); }, &body);
+std::string CallWithSehFrame(Body body) {
+  return CallWithSehFrame([](void* data) { (*static_cast<Body*>(data))(); }, &body);
 }

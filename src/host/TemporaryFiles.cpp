@@ -42,7 +42,7 @@ std::string NewTemporaryName() {
          std::string(kSuffix);
 }
 
-void RemoveLeftTemporaryFiles(const std::string& directory) {
+void RemoveStaleTemporaryFiles(const std::string& directory) {
   const auto folder = directory.empty() ? std::string(".") : directory;
   std::vector<std::string> left;
   ForEachEntry(folder, [&](const TDirectoryEntry& entry) {

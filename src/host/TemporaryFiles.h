@@ -8,7 +8,7 @@
 std::string NewTemporaryName();
 /// Deletes such files of processes that are gone, as a kill leaves them.  Those younger than an hour stay: on a shared disk
 /// their process may run on another machine.  An empty directory is the current one.  Reports no errors.
-void RemoveLeftTemporaryFiles(const std::string& directory);
+void RemoveStaleTemporaryFiles(const std::string& directory);
 
 /// Whether a process of this number runs on this machine; true when the system does not tell.  Implemented once per
 /// platform.

@@ -136,7 +136,7 @@ class TCallMark {
   TCallMark& operator=(const TCallMark&) = delete;
 };
 
-/// Throws EAbort: the entry point ended with a fault of that name (see RunGuarded).
+/// Throws EAbort: the entry point ended with a fault of that name (see CallWithSehFrame).
 [[noreturn]] void ThrowFault(scc::TEntry entry, const std::string& fault);
 
 /// Calls an entry point.  One that the library lacks, or that went away with the library, answers "not supported"; one
@@ -147,7 +147,7 @@ scc::Long Invoke(scc::Long(SCC_CALL* entry)(Parameters...), Arguments... argumen
   const TCallMark mark;
   const TFloatingPointKeeper floatingPoint;
   scc::Long result = scc::SCC_E_NONSPECIFICERROR;
-  const auto fault = RunGuarded([&] { result = entry(arguments...); });
+  const auto fault = CallWithSehFrame([&] { result = entry(arguments...); });
   ShowProviderLines();  // of its other threads
   if (!fault.empty()) ThrowFault(reinterpret_cast<scc::TEntry>(entry), fault);
   return result;

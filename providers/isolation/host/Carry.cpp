@@ -38,7 +38,7 @@ constexpr const char* kUnknownException = "an exception of an unknown kind";
 template <class Body>
 MaybeText Guarded(Body body) {
   try {
-    const auto fault = RunGuarded(body);
+    const auto fault = CallWithSehFrame(body);
     damaged = damaged || !fault.empty();
     return fault.empty() ? MaybeText() : MaybeText(fault.c_str());
   } catch (const std::exception& error) {

@@ -126,7 +126,7 @@ void WriteFileAtomically(const std::string& path, const std::string& contents) {
   if (exists) file.TakePermissionsOf(old);
   file.Write(contents);
   file.Replace();
-  RemoveLeftTemporaryFiles(ExtractFileDir(target));
+  RemoveStaleTemporaryFiles(ExtractFileDir(target));
 }
 
 bool IsProcessRunning(unsigned long process) {

@@ -1,6 +1,6 @@
 #include "host/Guard.h"
 
-std::string RunGuarded(void (*body)(void* data), void* data) {
+std::string CallWithSehFrame(void (*body)(void* data), void* data) {
   body(data);
   return {};
 }

@@ -45,7 +45,7 @@ class TFile {
 /// Tries again for a second: another process that looks into the file just now, as virus scanners and indexers do, is in
 /// the way for a moment only.
 template <typename TAttempt>
-bool WithPatience(std::initializer_list<DWORD> passing, const TAttempt& attempt) {
+bool RetryOnSharingViolation(std::initializer_list<DWORD> passing, const TAttempt& attempt) {
   constexpr int kAttempts = 50;
   constexpr DWORD kPauseMs = 20;
   for (int i = 1; !attempt(); ++i) {
@@ -86,7 +86,8 @@ TTarget FindTarget(const std::string& path) {
   if (attributes & (FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_READONLY))
     FailToWrite(path, ERROR_ACCESS_DENIED);
   TFile file;
-  if (!WithPatience({ERROR_SHARING_VIOLATION}, [&] { return file.Open(name, GENERIC_WRITE, OPEN_EXISTING); }))
+  if (!RetryOnSharingViolation({ERROR_SHARING_VIOLATION},
+                               [&] { return file.Open(name, GENERIC_WRITE, OPEN_EXISTING); }))
     FailToWrite(path, GetLastError());
   const auto behind = FinalName(file.Get());
   if (behind.empty() && (attributes & FILE_ATTRIBUTE_REPARSE_POINT)) FailToWrite(path, GetLastError());
@@ -159,7 +160,7 @@ class TTemporaryFile {
   void Replace() {
     Check(FlushFileBuffers(file_.Get()));
     file_.Close();
-    Check(WithPatience({ERROR_SHARING_VIOLATION, ERROR_ACCESS_DENIED}, [this] {
+    Check(RetryOnSharingViolation({ERROR_SHARING_VIOLATION, ERROR_ACCESS_DENIED}, [this] {
       return MoveFileExW(path_.c_str(), target_.Path.c_str(),
                          MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH);
     }));
@@ -185,7 +186,7 @@ void WriteFileAtomically(const std::string& path, const std::string& contents) {
   if (target.Exists) file.TakePermissions();
   file.Write(contents);
   file.Replace();
-  RemoveLeftTemporaryFiles(target.Folder());
+  RemoveStaleTemporaryFiles(target.Folder());
 }
 
 bool IsProcessRunning(unsigned long process) {

@@ -193,7 +193,7 @@ void Call(TGuardedCall* call) {
 
 }  // namespace
 
-std::string RunGuarded(void (*body)(void* data), void* data) {
+std::string CallWithSehFrame(void (*body)(void* data), void* data) {
   ULONG spare = kSpareStack;
   SetThreadStackGuarantee(&spare);
   TGuardedCall call{body, data, {}, {}};

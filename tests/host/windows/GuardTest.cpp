@@ -36,15 +36,15 @@ TEST(Guard, NamesTheFaultThatEndedTheCall) {
       {TakeTooMuchStack, "stack overflow (0xC00000FD)"},  // the guard page is there again
       {[] {}, ""},
   };
-  for (const auto& row : rows) EXPECT_EQ(RunGuarded(row.Fail), row.Name);
+  for (const auto& row : rows) EXPECT_EQ(CallWithSehFrame(row.Fail), row.Name);
 }
 
 TEST(Guard, LetsExceptionsOutAndKeepsTheRegisters) {
   // Enough that the compiler keeps some in registers across the call.
   int a = zero + 1, b = zero + 2, c = zero + 3, d = zero + 4;
   for (int i = 0; i < 3; ++i) {
-    EXPECT_NE(RunGuarded([] { *nowhere = 1; }), "");
-    EXPECT_THROW(RunGuarded([] { throw std::out_of_range("far"); }), std::out_of_range);
+    EXPECT_NE(CallWithSehFrame([] { *nowhere = 1; }), "");
+    EXPECT_THROW(CallWithSehFrame([] { throw std::out_of_range("far"); }), std::out_of_range);
     a += b, b += c, c += d, d += a;
   }
   EXPECT_EQ((std::array{a, b, c, d}), (std::array{20, 26, 29, 35}));
@@ -52,8 +52,8 @@ TEST(Guard, LetsExceptionsOutAndKeepsTheRegisters) {
 
 TEST(Guard, StopsTheInnermostOfCallsInCalls) {
   std::string inner;
-  const auto outer = RunGuarded([&] {
-    inner = RunGuarded([] { *nowhere = 1; });
+  const auto outer = CallWithSehFrame([&] {
+    inner = CallWithSehFrame([] { *nowhere = 1; });
     RaiseException(0x0EEDFADE, 0, 0, nullptr);
   });
   EXPECT_EQ(inner, "access violation (0xC0000005)");
