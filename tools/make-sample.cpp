@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "Isolation.h"
+#include "ProxyLibrary.h"
 #include "Repository.h"
 #include "UsedRepositories.h"
 #include "host/Paths.h"
@@ -111,7 +111,7 @@ void Make(const fs::path& folder, const fs::path& projectFolder, const std::stri
   fs::create_directories(registry);
   setenv("CORVANE_REGISTRY_DIR", registry.c_str(), 1);
   fs::copy(projectFolder, work, fs::copy_options::recursive);
-  RegisterProvider(direct ? library : Isolate(kProviderName, library));
+  RegisterProvider(direct ? library : InstallProxyLibrary(kProviderName, library));
   const auto url = svnscc::CreateRepository((folder / "repository").string());
   svnscc::MarkProjectUsed(url, kProjectName);  // as choosing it in the provider's dialog does
 

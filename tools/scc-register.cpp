@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "Isolation.h"
+#include "ProxyLibrary.h"
 #include "SccRegisterStrings.h"
 #include "host/Library.h"
 #include "host/Paths.h"
@@ -126,7 +126,8 @@ void Add(const TCommandLine& line) {
   const auto key = known.empty() ? OwnKey(name) : known;
   // The list comes last: whoever reads it meanwhile finds complete entries only.
   WriteValue(key, kServerName, name);
-  WriteValue(key, kServerPath, line.Options.contains(kIsolatedOption) ? Isolate(name, path) : path);
+  WriteValue(key, kServerPath,
+             line.Options.contains(kIsolatedOption) ? InstallProxyLibrary(name, path) : path);
   if (searchesPath)
     WriteValue(key, kSearchPath, "1");
   else
@@ -149,7 +150,7 @@ void Remove(const TCommandLine& line) {
     for (const char* value : {kServerName, kServerPath, kSearchPath}) DeleteValue(key, value);
   }
   if (IsInstalled(name)) throw EFailure(Format(sInstalledForAll, {name}));
-  RemoveIsolated(name);
+  RemoveProxyLibrary(name);
   if (wasDefault) DeleteValue(kProviderKey, kProviderRegKey);
   std::cout << Format(sRemoved, {name});
   if (wasDefault && !InstalledProviders().empty()) std::cout << sNoDefault.str();
@@ -157,25 +158,25 @@ void Remove(const TCommandLine& line) {
 
 void MakeDefault(const TCommandLine& line) { Choose(line.Words[1]); }
 
-/// The path of the real provider, whoever stands for it.
-std::string RealPath(const std::string& path) {
-  const auto isolated = IsolatedProvider(path);
+/// Path of the provider itself, if `path` is that of its isolating library.
+std::string ProviderPath(const std::string& path) {
+  const auto isolated = ProviderBehindProxy(path);
   return isolated.empty() ? path : NormalizePath(isolated);
 }
 
-/// Also makes the library anew that stands for it already: after an update of this program.
-void TurnToIsolated(const TCommandLine& line) {
+/// For a provider that is isolated already this updates its library, e.g. after an update of this program.
+void MakeIsolated(const TCommandLine& line) {
   const auto& name = line.Words[1];
   const auto key = InstalledKeyOf(name);
-  WriteValue(key, kServerPath, Isolate(name, RealPath(ReadValue(key, kServerPath))));
+  WriteValue(key, kServerPath, InstallProxyLibrary(name, ProviderPath(ReadValue(key, kServerPath))));
   std::cout << Format(sIsIsolated, {name});
 }
 
-void TurnToDirect(const TCommandLine& line) {
+void MakeDirect(const TCommandLine& line) {
   const auto& name = line.Words[1];
   const auto key = InstalledKeyOf(name);
-  WriteValue(key, kServerPath, RealPath(ReadValue(key, kServerPath)));
-  RemoveIsolated(name);
+  WriteValue(key, kServerPath, ProviderPath(ReadValue(key, kServerPath)));
+  RemoveProxyLibrary(name);
   std::cout << Format(sIsDirect, {name});
 }
 
@@ -185,7 +186,7 @@ void List(const TCommandLine&) {
   for (const auto& name : names) {
     const auto key = KeyOf(name);
     const auto library = ReadValue(key, kServerPath);
-    const auto path = RealPath(library);
+    const auto path = ProviderPath(library);
     std::cout << Format(sProviderLine, {IsDefault(key) ? "*" : " ", name, path})
               << (FileExists(library) && FileExists(path) ? "" : sNoSuchFile.Text)
               << (path != library ? sInOwnProcess.Text : "")
@@ -206,8 +207,8 @@ const TCommand kCommands[] = {
     {"add", 2, {kDefaultOption, kForceOption, kSearchPathOption, kIsolatedOption}, Add},
     {"remove", 1, {}, Remove},
     {"default", 1, {}, MakeDefault},
-    {"isolate", 1, {}, TurnToIsolated},
-    {"direct", 1, {}, TurnToDirect},
+    {"isolate", 1, {}, MakeIsolated},
+    {"direct", 1, {}, MakeDirect},
     {"list", 0, {}, List},
 };
 

@@ -1,22 +1,23 @@
-// The 23 exported names.  Each crosses as the table says; what is more than that is here: which context it is, what has to
-// be remembered for the next process, and what needs no process at all.
-#include "Crossing.h"
+// The 23 exported functions.  entry_arguments.def defines how each is forwarded; this file adds the handling of contexts,
+// records the state to be restored after a restart, and answers calls that need no process.
+#include "RemoteCall.h"
 
 using namespace scc;
-using isolation::Session;
+using isolation::ProviderProxy;
 
 namespace isolation {
 namespace {
 
-#define SCC_ISOLATED(name, ...) using name##Call = Crossing<Entry::name __VA_OPT__(, ) __VA_ARGS__>;
+#define SCC_ENTRY_ARGUMENTS(name, ...) \
+  using name##Call = RemoteCall<EntryPoint::name __VA_OPT__(, ) __VA_ARGS__>;
 using namespace client;
-#include "Entries.def"
-#undef SCC_ISOLATED
+#include "entry_arguments.def"
+#undef SCC_ENTRY_ARGUMENTS
 
-/// Started for a question that comes before there is a context; the first context takes it over.
-Session* early = nullptr;
+/// Made for a call before SccInitialize; becomes the first context.
+ProviderProxy* earlyProxy = nullptr;
 
-/// A text that a client has in a buffer of at least `size` bytes.
+/// Reads a text from a client's buffer of at least `size` bytes.
 std::string TextIn(const char* buffer, std::size_t size) {
   return buffer != nullptr ? std::string(buffer, strnlen(buffer, size)) : std::string();
 }
@@ -24,103 +25,103 @@ std::string TextIn(const char* buffer, std::size_t size) {
 Long Initialize(void** context, WindowHandle window, const char* caller, char* sccName, Long* capabilities,
                 char* auxPathLabel, Long* checkOutCommentLength, Long* commentLength) {
   if (context == nullptr) return SCC_E_INITIALIZEFAILED;
-  Session& session = *(early != nullptr ? std::exchange(early, nullptr) : new Session);
-  *context = &session;  // stays when the call fails: the next one tries again
-  session.Caller = caller != nullptr ? caller : "";
-  session.RoomIsKnown = session.Caller == kAddIn;
-  const Long result = SccInitializeCall::Forward(&session, context, window, caller, sccName, capabilities,
+  ProviderProxy& proxy = *(earlyProxy != nullptr ? std::exchange(earlyProxy, nullptr) : new ProviderProxy);
+  *context = &proxy;  // also when the call fails: the next one retries
+  proxy.Caller = caller != nullptr ? caller : "";
+  proxy.HasAddInBuffers = proxy.Caller == kAddInCaller;
+  const Long result = SccInitializeCall::Forward(&proxy, context, window, caller, sccName, capabilities,
                                                  auxPathLabel, checkOutCommentLength, commentLength);
-  session.Initialized = true;
-  session.Name = TextIn(sccName, SCC_NAME_SIZE);
+  proxy.Initialized = true;
+  proxy.Name = TextIn(sccName, SCC_NAME_SIZE);
   return result;
 }
 
 Long Uninitialize(void* context) {
-  const Long result = SccUninitializeCall::ForwardIfAlive(context, context);
-  auto* session = Session::Of(context);
-  if (session == nullptr || result == SCC_E_OPNOTPERFORMED) return result;
-  session->End();
-  delete session;
+  const Long result = SccUninitializeCall::ForwardIfRunning(context, context);
+  auto* proxy = ProviderProxy::FromContext(context);
+  if (proxy == nullptr || result == SCC_E_OPNOTPERFORMED) return result;
+  proxy->End();
+  delete proxy;
   return result;
 }
 
 Long SetOption(void* context, Long option, Long value) {
-  // Pointers of this process, which the other one cannot use.
+  // The values are pointers, which mean nothing in the other process.
   if (option == SCC_OPT_USERDATA || option == SCC_OPT_NAMECHANGEPFN) return SCC_E_OPNOTSUPPORTED;
   const Long result = SccSetOptionCall::Forward(context, context, option, value);
-  if (auto* session = Session::Of(context); session != nullptr && result >= 0)
-    session->SetOptions[option] = value;
+  if (auto* proxy = ProviderProxy::FromContext(context); proxy != nullptr && result >= 0)
+    proxy->OptionValues[option] = value;
   return result;
 }
 
 Long OpenProject(void* context, WindowHandle window, char* user, char* projectName, const char* localPath,
                  char* auxPath, const char* comment, TTextOutProc textOut, Long flags) {
-  auto* session = Session::Of(context);
-  if (session != nullptr) {
-    const Session::Turn turn(*session);
+  auto* proxy = ProviderProxy::FromContext(context);
+  if (proxy != nullptr) {
+    const ProviderProxy::CallLock turn(*proxy);
     if (!turn) return SCC_E_OPNOTPERFORMED;
-    session->Listen(textOut);
+    proxy->SetTextOut(textOut);
   }
   const Long result = SccOpenProjectCall::Forward(context, context, window, user, projectName, localPath,
                                                   auxPath, comment, textOut, flags);
-  if (session != nullptr && result >= 0)
-    session->Opened = OpenedProject{TextIn(user, SCC_USER_SIZE), TextIn(projectName, SCC_PRJPATH_SIZE),
-                                    localPath != nullptr ? localPath : "", TextIn(auxPath, SCC_PRJPATH_SIZE),
-                                    (flags & ~SCC_OP_CREATEIFNEW) | SCC_OP_SILENTOPEN};
+  if (proxy != nullptr && result >= 0)
+    proxy->Opened = OpenedProject{TextIn(user, SCC_USER_SIZE), TextIn(projectName, SCC_PRJPATH_SIZE),
+                                  localPath != nullptr ? localPath : "", TextIn(auxPath, SCC_PRJPATH_SIZE),
+                                  (flags & ~SCC_OP_CREATEIFNEW) | SCC_OP_SILENTOPEN};
   return result;
 }
 
 Long CloseProject(void* context) {
-  const Long result = SccCloseProjectCall::ForwardIfAlive(context, context);
-  if (auto* session = Session::Of(context); session != nullptr && result != SCC_E_OPNOTPERFORMED) {
-    session->Opened.reset();
-    session->StopListening();
+  const Long result = SccCloseProjectCall::ForwardIfRunning(context, context);
+  if (auto* proxy = ProviderProxy::FromContext(context); proxy != nullptr && result != SCC_E_OPNOTPERFORMED) {
+    proxy->Opened.reset();
+    proxy->ClearTextOut();
   }
   return result;
 }
 
 Long GetEvents(void* context, char* name, Long* status, Long* remaining) {
-  // Clients ask all the time: nothing is started for that.
+  // Clients poll this function: it does not start a process.
   if (name != nullptr) *name = '\0';
   if (remaining != nullptr) *remaining = 0;
-  return SccGetEventsCall::ForwardIfAlive(context, context, name, status, remaining);
+  return SccGetEventsCall::ForwardIfRunning(context, context, name, status, remaining);
 }
 
-Long AskVersion() {
-  if (Session::Any() == nullptr) early = new Session;
+Long ProviderVersion() {
+  if (ProviderProxy::Any() == nullptr) earlyProxy = new ProviderProxy;
   return SccGetVersionCall::Forward(nullptr);
 }
 
 }  // namespace
 
-Long Replay(Session& session) {
-  std::vector<char> user(kAddInText), project(kAddInText), aux(kAddInText);
+Long RestoreProvider(ProviderProxy& proxy) {
+  std::vector<char> user(kAddInTextSize), project(kAddInTextSize), aux(kAddInTextSize);
   void* context = nullptr;
   Long capabilities = 0, checkOutCommentLength = 0, commentLength = 0;
   const Long initialized =
-      SccInitializeCall::Carry(session, &context, nullptr, session.Caller.c_str(), user.data(), &capabilities,
-                               aux.data(), &checkOutCommentLength, &commentLength);
+      SccInitializeCall::Invoke(proxy, &context, nullptr, proxy.Caller.c_str(), user.data(), &capabilities,
+                                aux.data(), &checkOutCommentLength, &commentLength);
   if (initialized < 0) return initialized;
-  for (const auto& [option, value] : session.SetOptions)
-    SccSetOptionCall::Carry(session, &session, option, value);
-  if (!session.Opened) return SCC_OK;
+  for (const auto& [option, value] : proxy.OptionValues)
+    SccSetOptionCall::Invoke(proxy, &proxy, option, value);
+  if (!proxy.Opened) return SCC_OK;
   const auto put = [](std::vector<char>& buffer, const std::string& text) {
     std::ranges::fill(buffer, '\0');
     std::ranges::copy(text, buffer.begin());
   };
-  put(user, session.Opened->User);
-  put(project, session.Opened->Name);
-  put(aux, session.Opened->Aux);
-  return SccOpenProjectCall::Carry(session, &session, nullptr, user.data(), project.data(),
-                                   session.Opened->Local.c_str(), aux.data(), nullptr, session.TextOut,
-                                   session.Opened->Flags);
+  put(user, proxy.Opened->User);
+  put(project, proxy.Opened->Name);
+  put(aux, proxy.Opened->Aux);
+  return SccOpenProjectCall::Invoke(proxy, &proxy, nullptr, user.data(), project.data(),
+                                    proxy.Opened->Local.c_str(), aux.data(), nullptr, proxy.TextOut,
+                                    proxy.Opened->Flags);
 }
 
 }  // namespace isolation
 
 using namespace isolation;
 
-// Declared from the table that the client binds by, so that a wrong signature does not compile.
+// Declared from the client's table, so that a wrong signature does not compile.
 #define SccCheckOut SccCheckout
 extern "C" {
 #define SCC_ENTRY(variable, name, result, arguments) SCC_EXPORT result SCC_CALL variable arguments;
@@ -134,7 +135,7 @@ Long SCC_CALL SccInitialize(void** c, WindowHandle w, const char* caller, char* 
   return Initialize(c, w, caller, name, caps, label, out, in);
 }
 Long SCC_CALL SccUninitialize(void* c) { return Uninitialize(c); }
-Long SCC_CALL SccGetVersion() { return AskVersion(); }
+Long SCC_CALL SccGetVersion() { return ProviderVersion(); }
 Long SCC_CALL SccSetOption(void* c, Long option, Long value) { return SetOption(c, option, value); }
 Long SCC_CALL SccOpenProject(void* c, WindowHandle w, char* user, char* name, const char* local, char* aux,
                              const char* comment, TTextOutProc text, Long flags) {
@@ -145,7 +146,7 @@ Long SCC_CALL SccGetEvents(void* c, char* name, Long* status, Long* left) {
   return GetEvents(c, name, status, left);
 }
 
-// The others as they are.
+// The others are only forwarded.
 #define FORWARD(name, ...) return name##Call::Forward(c, c, __VA_ARGS__)
 Long SCC_CALL SccAdd(void* c, WindowHandle w, Long n, const char** f, const char* t, Long* g, void* o) {
   FORWARD(SccAdd, w, n, f, t, g, o);

@@ -1,9 +1,9 @@
-// Keys and clicks that wait to be handled.
+// Pending keyboard and mouse input.
 #pragma once
 
 namespace isolation {
 
-/// Throws them away.
-void DropUserInput();
+/// Discards it without handling it.
+void DiscardUserInput();
 
 }  // namespace isolation

@@ -14,8 +14,8 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-constexpr auto kUnnoticed = 100ms;  // most calls are over by then
-constexpr auto kPatience = 700ms;   // how long the user waits without being told
+constexpr auto kSilentWait = 100ms;   // most calls finish within this time
+constexpr auto kWindowDelay = 700ms;  // from the start of the call to the waiting window
 constexpr auto kTick = 10ms;
 
 bool MayHandleEvents() {
@@ -23,16 +23,16 @@ bool MayHandleEvents() {
   return app != nullptr && app->IsGUI() && wxIsMainThread();
 }
 
-/// Until the call is over, or has gone on for `patience` without a window of the provider.  Whether it is over.
-bool PaintUntil(const Wait& wait, Clock::duration patience) {
+/// Repaints until the call has finished (returns true) or `timeout` has passed without a window of the provider (false).
+bool PaintDuringCall(const PendingCall& call, Clock::duration timeout) {
   const TNoClosing noClosing;
   auto since = Clock::now();
-  while (Clock::now() - since < patience) {
-    if (wait.Step(kTick)) return true;
+  while (Clock::now() - since < timeout) {
+    if (call.Step(kTick)) return true;
     PaintPending();
-    if (!wait.ProviderShowsWindow()) continue;
-    // The user is over there.  What is clicked here was not meant for later.
-    DropUserInput();
+    if (!call.ProviderShowsWindow()) continue;
+    // The user works in the provider's window; input to this program must not take effect after the call.
+    DiscardUserInput();
     since = Clock::now();
   }
   return false;
@@ -40,16 +40,16 @@ bool PaintUntil(const Wait& wait, Clock::duration patience) {
 
 }  // namespace
 
-void Until(const Wait& wait) {
+void WaitForCall(const PendingCall& call) {
   if (!MayHandleEvents()) {
-    while (!wait.Step(1h)) {
+    while (!call.Step(1h)) {
     }
     return;
   }
   const auto begun = Clock::now();
-  if (wait.Step(kUnnoticed)) return;
-  while (!PaintUntil(wait, kPatience - kUnnoticed))
-    if (ShowWaiting(wait, begun)) return;
+  if (call.Step(kSilentWait)) return;
+  while (!PaintDuringCall(call, kWindowDelay - kSilentWait))
+    if (ShowWaitingWindow(call, begun)) return;
 }
 
 }  // namespace isolation

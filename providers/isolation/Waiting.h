@@ -1,4 +1,4 @@
-// How the client's program lives on while a call runs.
+// Keeps the client's program responsive while a call runs.
 #pragma once
 
 #include <chrono>
@@ -7,20 +7,20 @@
 
 namespace isolation {
 
-struct Wait {
-  /// Does what there is to do for at most that long; true when the call is over.  No exception leaves it.
+struct PendingCall {
+  /// Works on the call for at most the given time; returns true when the call has finished.  Does not throw.
   std::function<bool(std::chrono::milliseconds)> Step;
-  /// Whether the provider shows a window of its own now.
+  /// Whether the provider currently shows a window of its own.
   std::function<bool()> ProviderShowsWindow;
-  /// The provider's last line of text.
+  /// The provider's most recent message.
   std::function<std::string()> LastLine;
-  /// The user gave up.
+  /// Called when the user presses Stop.
   std::function<void()> Stop;
   std::string Provider;
   std::string Call;
 };
 
-/// Returns when the call is over.  Keeps windows painted meanwhile, and offers Stop when it takes long.
-void Until(const Wait& wait);
+/// Returns when the call has finished.  Windows are repainted meanwhile; a call that takes long gets a window with Stop.
+void WaitForCall(const PendingCall& call);
 
 }  // namespace isolation

@@ -17,15 +17,15 @@ namespace {
 using Clock = std::chrono::steady_clock;
 
 constexpr int kTickMs = 15;
-constexpr auto kWorkPerTick = 5ms;
+constexpr auto kStepTimePerTick = 5ms;
 constexpr int kWidth = 380;
 
 class WaitingWindow final : public wxDialog {
  public:
-  WaitingWindow(const Wait& wait, Clock::time_point begun)
-      : wxDialog(nullptr, wxID_ANY, ToWx(wait.Provider), wxDefaultPosition, wxDefaultSize, wxCAPTION,
+  WaitingWindow(const PendingCall& call, Clock::time_point begun)
+      : wxDialog(nullptr, wxID_ANY, ToWx(call.Provider), wxDefaultPosition, wxDefaultSize, wxCAPTION,
                  kWaitingWindow),
-        wait_(wait),
+        call_(call),
         begun_(begun) {
     time_ = new wxStaticText(this, wxID_ANY, {});
     line_ = new wxStaticText(this, wxID_ANY, {}, wxDefaultPosition, FromDIP(wxSize(kWidth, -1)),
@@ -44,44 +44,44 @@ class WaitingWindow final : public wxDialog {
 
  private:
   void Tick() {
-    if (working_ || !IsModal()) return;  // a line's way to the client may handle events
-    working_ = true;
-    const auto end = Clock::now() + kWorkPerTick;
-    bool over = false;
-    while (!over && Clock::now() < end) over = wait_.Step(1ms);
-    working_ = false;
-    if (over || wait_.ProviderShowsWindow()) {
+    if (stepping_ || !IsModal()) return;  // passing a message to the client may handle events
+    stepping_ = true;
+    const auto end = Clock::now() + kStepTimePerTick;
+    bool finished = false;
+    while (!finished && Clock::now() < end) finished = call_.Step(1ms);
+    stepping_ = false;
+    if (finished || call_.ProviderShowsWindow()) {
       timer_.Stop();
-      if (IsModal()) EndModal(over ? wxID_OK : wxID_MORE);
+      if (IsModal()) EndModal(finished ? wxID_OK : wxID_MORE);
       return;
     }
     ShowState();
   }
   void ShowState() {
     const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(Clock::now() - begun_).count();
-    const auto time = ToWx(Format(sWaiting, {wait_.Call, static_cast<long long>(seconds)}));
+    const auto time = ToWx(Format(sWaiting, {call_.Call, static_cast<long long>(seconds)}));
     if (time_->GetLabelText() != time) time_->SetLabelText(time);
-    const auto line = ToWx(wait_.LastLine());
+    const auto line = ToWx(call_.LastLine());
     if (line_->GetLabelText() != line) line_->SetLabelText(line);
   }
 
-  const Wait& wait_;
+  const PendingCall& call_;
   Clock::time_point begun_;
   wxStaticText* time_;
   wxStaticText* line_;
   wxButton* stop_;
   wxTimer timer_;
-  bool working_ = false;
+  bool stepping_ = false;
 };
 
 }  // namespace
 
-bool ShowWaiting(const Wait& wait, Clock::time_point begun) {
-  const int ended = WaitingWindow(wait, begun).ShowModal();
+bool ShowWaitingWindow(const PendingCall& call, Clock::time_point begun) {
+  const int ended = WaitingWindow(call, begun).ShowModal();
   if (ended == wxID_MORE) return false;
   if (ended != wxID_OK) {
-    wait.Stop();
-    while (!wait.Step(100ms)) {
+    call.Stop();
+    while (!call.Step(100ms)) {
     }
   }
   return true;

@@ -1,4 +1,4 @@
-// The window that says what is waited for, with a way out.
+// The window that shows which call is running and offers to stop it.
 #pragma once
 
 #include <chrono>
@@ -7,10 +7,10 @@
 
 namespace isolation {
 
-/// The window's name, for programs that work the windows of the client.
+/// The window's name, by which other programs recognise it.
 constexpr const char* kWaitingWindow = "SccWaiting";
 
-/// Shows it until the call is over (true) or the provider shows a window of its own.
-bool ShowWaiting(const Wait& wait, std::chrono::steady_clock::time_point begun);
+/// Shows the window until the call has finished (returns true) or the provider shows a window of its own (false).
+bool ShowWaitingWindow(const PendingCall& call, std::chrono::steady_clock::time_point begun);
 
 }  // namespace isolation

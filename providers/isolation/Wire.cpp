@@ -4,13 +4,13 @@
 
 namespace isolation {
 
-const char* NameOf(Entry entry) {
+const char* NameOf(EntryPoint entry) {
   static constexpr const char* kNames[] = {
-#define SCC_ISOLATED(name, ...) #name,
-#include "Entries.def"
-#undef SCC_ISOLATED
+#define SCC_ENTRY_ARGUMENTS(name, ...) #name,
+#include "entry_arguments.def"
+#undef SCC_ENTRY_ARGUMENTS
   };
-  return entry < Entry::Count ? kNames[static_cast<std::size_t>(entry)] : "";
+  return entry < EntryPoint::Count ? kNames[static_cast<std::size_t>(entry)] : "";
 }
 
 void NameList::Add(const char* name) {

@@ -1,5 +1,5 @@
-// What crosses between the library and the process of the provider: frames, and the archives that fill them.  The same
-// bytes for 32 and 64 bits: lengths take four bytes, addresses and handles eight.
+// The wire format between the library and the host process: frames, and the archives for their bodies.  It is the same for
+// 32 and 64 bits: lengths have four bytes, addresses and handles eight.
 #pragma once
 
 #include <cereal/cereal.hpp>
@@ -14,63 +14,65 @@
 
 namespace isolation {
 
-/// The other side sent what it never sends: its memory is damaged, or it is another program.
+/// Malformed data: the memory of the other side is damaged, or it is another program.
 struct WireError : std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-/// The entry points, by their place in the table.
-enum class Entry : std::uint8_t {
-#define SCC_ISOLATED(name, ...) name,
-#include "Entries.def"
-#undef SCC_ISOLATED
+/// The entry points, in the order of the table.
+enum class EntryPoint : std::uint8_t {
+#define SCC_ENTRY_ARGUMENTS(name, ...) name,
+#include "entry_arguments.def"
+#undef SCC_ENTRY_ARGUMENTS
   Count
 };
 /// The exported name, e.g. "SccCheckout".
-const char* NameOf(Entry entry);
+const char* NameOf(EntryPoint entry);
 
-enum class Kind : std::uint32_t {
-  Hello,  ///< to the library, first of all: empty, or why the provider cannot be loaded
-  Call,   ///< to the provider: entry, arguments
-  /// to the library: what an exception said (else empty), whether it is the last, result, arguments that may have changed
+enum class FrameKind : std::uint32_t {
+  // to the host
+  Call,      ///< entry point, arguments
+  Reply,     ///< the client's return value for a Query or ListItem
+  Shutdown,  ///< ends the host in good order
+  // to the library
+  Hello,  ///< the first frame: empty, or why the provider cannot be loaded
+  /// text of an exception (null for none), whether the host ends because of it, result, output arguments
   Answer,
-  Line,     ///< to the library: a line of text, kind first
-  Ask,      ///< to the library: a message whose answer counts, like Line
-  Item,     ///< to the library: a call of the list callback
-  Reply,    ///< to the provider: the client's answer to Ask or Item
-  Windows,  ///< to the library: how many windows the provider shows now
-  Bye       ///< to the provider: end in good order
+  Message,     ///< for the text callback: kind, text; no reply
+  Query,       ///< the same with a Reply
+  ListItem,    ///< for the list callback; with a Reply
+  WindowCount  ///< number of windows that the provider shows
 };
 
 struct Frame {
-  Kind Of = Kind::Bye;
+  FrameKind Kind = FrameKind::Shutdown;
   std::string Body;
 };
 
-/// In front of each body.
+/// Precedes each body; Size is that of the body in bytes.
 struct FrameHeader {
   std::uint32_t Size;
-  Kind Of;
+  FrameKind Kind;
 };
 
-constexpr std::size_t kSmallFrame = 64 << 10;
-constexpr std::size_t kLongestLine = 16 << 20;
-constexpr std::size_t kMostNames = 65'536;
-constexpr std::size_t kMostNameBytes = 32 << 20;
+constexpr std::size_t kSmallFrameSize = 64 << 10;
+constexpr std::size_t kMaxMessageSize = 16 << 20;
+constexpr std::size_t kMaxNames = 65'536;
+constexpr std::size_t kMaxNameBytes = 32 << 20;
 
-/// Writes a body.
-class Out : public cereal::OutputArchive<Out, cereal::AllowEmptyClassElision> {
+/// Serialises the body of a frame.
+class FrameWriter : public cereal::OutputArchive<FrameWriter, cereal::AllowEmptyClassElision> {
  public:
-  Out() : OutputArchive(this) {}
+  FrameWriter() : OutputArchive(this) {}
   void Put(const void* bytes, std::size_t size) { Body.append(static_cast<const char*>(bytes), size); }
 
   std::string Body;
 };
 
-/// Reads a body.  Throws WireError where it ends too early, and before anything is allocated that is longer than the rest.
-class In : public cereal::InputArchive<In, cereal::AllowEmptyClassElision> {
+/// Deserialises the body of a frame.  Throws WireError if it is too short, before it allocates more than the rest of it.
+class FrameReader : public cereal::InputArchive<FrameReader, cereal::AllowEmptyClassElision> {
  public:
-  explicit In(std::string_view body) : InputArchive(this), rest_(body) {}
+  explicit FrameReader(std::string_view body) : InputArchive(this), rest_(body) {}
   void Get(void* place, std::size_t size) {
     if (size > rest_.size()) throw WireError("frame too short");
     rest_.copy(static_cast<char*>(place), size);
@@ -83,29 +85,29 @@ class In : public cereal::InputArchive<In, cereal::AllowEmptyClassElision> {
 };
 
 template <class T>
-std::enable_if_t<std::is_arithmetic_v<T>> CEREAL_SAVE_FUNCTION_NAME(Out& out, const T& value) {
+std::enable_if_t<std::is_arithmetic_v<T>> CEREAL_SAVE_FUNCTION_NAME(FrameWriter& out, const T& value) {
   out.Put(&value, sizeof value);
 }
 template <class T>
-std::enable_if_t<std::is_arithmetic_v<T>> CEREAL_LOAD_FUNCTION_NAME(In& in, T& value) {
+std::enable_if_t<std::is_arithmetic_v<T>> CEREAL_LOAD_FUNCTION_NAME(FrameReader& in, T& value) {
   in.Get(&value, sizeof value);
 }
 template <class T>
-void CEREAL_SAVE_FUNCTION_NAME(Out& out, const cereal::BinaryData<T>& data) {
+void CEREAL_SAVE_FUNCTION_NAME(FrameWriter& out, const cereal::BinaryData<T>& data) {
   out.Put(data.data, static_cast<std::size_t>(data.size));
 }
 template <class T>
-void CEREAL_LOAD_FUNCTION_NAME(In& in, cereal::BinaryData<T>& data) {
+void CEREAL_LOAD_FUNCTION_NAME(FrameReader& in, cereal::BinaryData<T>& data) {
   in.Get(data.data, static_cast<std::size_t>(data.size));
 }
 template <class T>
-void CEREAL_SAVE_FUNCTION_NAME(Out& out, const cereal::SizeTag<T>& tag) {
+void CEREAL_SAVE_FUNCTION_NAME(FrameWriter& out, const cereal::SizeTag<T>& tag) {
   const auto size = static_cast<std::uint32_t>(tag.size);
   out.Put(&size, sizeof size);
 }
-// cereal's own binary archive takes any length and allocates for it; the sender's memory may be damaged.
+// cereal's binary archive allocates for any length, but a damaged sender may send a wrong one.
 template <class T>
-void CEREAL_LOAD_FUNCTION_NAME(In& in, cereal::SizeTag<T>& tag) {
+void CEREAL_LOAD_FUNCTION_NAME(FrameReader& in, cereal::SizeTag<T>& tag) {
   std::uint32_t size = 0;
   in.Get(&size, sizeof size);
   if (size > in.Left()) throw WireError("length beyond the frame");
@@ -113,18 +115,18 @@ void CEREAL_LOAD_FUNCTION_NAME(In& in, cereal::SizeTag<T>& tag) {
 }
 
 template <class... Values>
-std::string Body(const Values&... values) {
-  Out out;
+std::string Serialize(const Values&... values) {
+  FrameWriter out;
   (out(values), ...);
   return std::move(out.Body);
 }
 
-/// A text that may be missing: a null pointer stays one.
-class MaybeText {
+/// A text of the API, which may be a null pointer.
+class NullableText {
  public:
-  MaybeText() = default;
-  explicit MaybeText(const char* text) : present_(text != nullptr), text_(text != nullptr ? text : "") {}
-  MaybeText(const char* bytes, std::size_t size) : present_(true), text_(bytes, size) {}
+  NullableText() = default;
+  explicit NullableText(const char* text) : present_(text != nullptr), text_(text != nullptr ? text : "") {}
+  NullableText(const char* bytes, std::size_t size) : present_(true), text_(bytes, size) {}
 
   bool Present() const { return present_ != 0; }
   const char* Get() const { return Present() ? text_.c_str() : nullptr; }
@@ -140,16 +142,16 @@ class MaybeText {
   std::string text_;
 };
 
-/// What became of the array of names that SccAddFromScc was called with.
-enum class HandedArray : std::uint8_t { Unchanged, Null, New };
+/// What SccAddFromScc did with the array of names that it was called with.
+enum class ReturnedArray : std::uint8_t { Unchanged, Null, New };
 
-/// An array of names in one piece: each with a byte in front that tells it from a null pointer, and a terminator.
+/// An array of names in one block: for each a byte that is 0 for a null pointer, the name, and a terminator.
 class NameList {
  public:
   void Add(const char* name);
   std::size_t Count() const { return count_; }
-  /// Pointers to the names, and a null pointer behind the last.  They live as long as this object stays where it is.
-  /// Throws WireError for bytes that are no list of Count() names.
+  /// Returns pointers to the names, followed by a null pointer.  They are valid until this object is changed, moved or
+  /// destroyed.  Throws WireError if the block is not a list of Count() names.
   std::vector<const char*> Pointers() const;
 
   template <class Archive>
@@ -164,6 +166,6 @@ class NameList {
 
 }  // namespace isolation
 
-CEREAL_REGISTER_ARCHIVE(isolation::Out)
-CEREAL_REGISTER_ARCHIVE(isolation::In)
-CEREAL_SETUP_ARCHIVE_TRAITS(isolation::In, isolation::Out)
+CEREAL_REGISTER_ARCHIVE(isolation::FrameWriter)
+CEREAL_REGISTER_ARCHIVE(isolation::FrameReader)
+CEREAL_SETUP_ARCHIVE_TRAITS(isolation::FrameReader, isolation::FrameWriter)

@@ -8,7 +8,7 @@
 #include <random>
 #include <thread>
 
-#include "isolation/Children.h"
+#include "isolation/ChildProcesses.h"
 #include "subversion/Developer.h"
 #include "support/Environment.h"
 #include "support/RunProgram.h"
@@ -35,7 +35,7 @@ TEST(Kills, AtAnyMomentCostNeitherTheClientNorTheWorkingCopy) {
   for (int round = 0; round < Rounds(); ++round) {
     SCOPED_TRACE(round);
     const auto delay = std::chrono::microseconds(random() % 250'000);
-    const auto children = Children();
+    const auto children = ChildProcessIds();
     std::thread killer([&] {
       std::this_thread::sleep_for(delay);
       for (const pid_t child : children) kill(child, SIGKILL);

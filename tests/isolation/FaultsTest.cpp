@@ -8,7 +8,7 @@
 
 #include "isolation/Client.h"
 #if !defined(_WIN32)
-#include "isolation/Children.h"
+#include "isolation/ChildProcesses.h"
 #endif
 
 using testing::AllOf;
@@ -94,7 +94,7 @@ TEST(FaultsWithoutEnd, AnEndlessLoopEndsWithItsProcess) {
     client.Arm(entry, "loop");
     std::thread killer([&] {
       while (FileExists(client.Faults())) std::this_thread::yield();
-      for (const pid_t child : Children()) kill(child, SIGKILL);
+      for (const pid_t child : ChildProcessIds()) kill(child, SIGKILL);
     });
     EXPECT_EQ(scc::SCC_E_NONSPECIFICERROR, client.Call(entry));
     killer.join();

@@ -3,33 +3,33 @@
 
 #include "Wire.h"
 
-using isolation::In;
+using isolation::FrameReader;
 using isolation::NameList;
 using isolation::WireError;
 
 namespace {
 
 /// A length of four bytes, and a few bytes behind it.
-std::string WithLength(std::uint32_t length) { return isolation::Body(length, std::uint32_t{0}); }
+std::string WithLength(std::uint32_t length) { return isolation::Serialize(length, std::uint32_t{0}); }
 
 TEST(Wire, RefusesLengthsBeyondTheFrameBeforeItAllocates) {
   for (const std::uint32_t length : {5U, 0x7FFFFFFFU, 0xFFFFFFFFU}) {
     const auto body = WithLength(length);
     std::string text;
     std::vector<scc::Long> words;
-    EXPECT_THROW(In{body}(text), WireError);
-    EXPECT_THROW(In{body}(words), WireError);
+    EXPECT_THROW(FrameReader{body}(text), WireError);
+    EXPECT_THROW(FrameReader{body}(words), WireError);
   }
   scc::Long word = 0;
-  EXPECT_THROW(In{"abc"}(word), WireError);
+  EXPECT_THROW(FrameReader{"abc"}(word), WireError);
 }
 
 TEST(Wire, KeepsNullNamesAndRefusesListsThatAreNone) {
   NameList names;
   for (const char* name : {"a", static_cast<const char*>(nullptr), ""}) names.Add(name);
-  const auto body = isolation::Body(names);
+  const auto body = isolation::Serialize(names);
   NameList read;
-  In{body}(read);
+  FrameReader{body}(read);
   const auto pointers = read.Pointers();
   ASSERT_EQ(4u, pointers.size());
   EXPECT_STREQ("a", pointers[0]);
@@ -41,7 +41,7 @@ TEST(Wire, KeepsNullNamesAndRefusesListsThatAreNone) {
     damaged[i] = '\x7F';
     NameList list;
     try {
-      In{damaged}(list);
+      FrameReader{damaged}(list);
       list.Pointers();
     } catch (const WireError&) {  // or something else that is a list
     }

@@ -3,41 +3,41 @@
 #include <cstring>
 #include <mutex>
 
-#include "Link.h"
+#include "Channel.h"
 
 namespace isolation {
 namespace {
 
-// One question at a time, and none beyond the end of the call: so whoever asks reads the channel alone.
-std::mutex asking;
-bool answerable = false;
+// Queries are serialised and refused outside of a call, so that only one thread reads the channel.
+std::mutex askMutex;
+bool callRunning = false;
 
-scc::Long Ask(Kind kind, const std::string& body, scc::Long otherwise) {
-  const std::lock_guard lock(asking);
-  if (!answerable) return otherwise;
-  link::Write(kind, body);
-  const auto reply = link::Read();
-  if (reply.Of != Kind::Reply) return otherwise;
+scc::Long Ask(FrameKind kind, const std::string& body, scc::Long otherwise) {
+  const std::lock_guard lock(askMutex);
+  if (!callRunning) return otherwise;
+  channel::Write(kind, body);
+  const auto reply = channel::Read();
+  if (reply.Kind != FrameKind::Reply) return otherwise;
   scc::Long answer = otherwise;
-  In{reply.Body}(answer);
+  FrameReader{reply.Body}(answer);
   return answer;
 }
 
-/// A text as it may cross: a longer one would be taken for a damaged one.
-MaybeText Within(const char* text, std::size_t limit) {
-  return text != nullptr ? MaybeText(text, strnlen(text, limit)) : MaybeText();
+/// Truncates a text to the size that the client accepts.
+NullableText Truncated(const char* text, std::size_t limit) {
+  return text != nullptr ? NullableText(text, strnlen(text, limit)) : NullableText();
 }
 
 }  // namespace
 
-Answerable::Answerable() {
-  const std::lock_guard lock(asking);
-  answerable = true;
+CallScope::CallScope() {
+  const std::lock_guard lock(askMutex);
+  callRunning = true;
 }
 
-Answerable::~Answerable() {
-  const std::lock_guard lock(asking);
-  answerable = false;
+CallScope::~CallScope() {
+  const std::lock_guard lock(askMutex);
+  callRunning = false;
 }
 
 scc::Long SCC_CALL TextOutProc(const char* text, scc::Dword kind) noexcept {
@@ -45,13 +45,14 @@ scc::Long SCC_CALL TextOutProc(const char* text, scc::Dword kind) noexcept {
   constexpr scc::Dword kFirstStructure = 8, kLastStructure = 11;
   if (kind >= kFirstStructure && kind <= kLastStructure) return scc::SCC_MSG_RTN_OK;
   const bool asks = kind >= scc::SCC_MSG_DOCANCEL && kind <= scc::SCC_MSG_STOPCANCEL;
-  if (asks) return Ask(Kind::Ask, Body(kind, Within(text, kSmallFrame / 2)), scc::SCC_MSG_RTN_OK);
-  link::Write(Kind::Line, Body(kind, Within(text, kLongestLine)));
+  if (asks)
+    return Ask(FrameKind::Query, Serialize(kind, Truncated(text, kSmallFrameSize / 2)), scc::SCC_MSG_RTN_OK);
+  channel::Write(FrameKind::Message, Serialize(kind, Truncated(text, kMaxMessageSize)));
   return scc::SCC_MSG_RTN_OK;
 }
 
 scc::Bool SCC_CALL PopulateProc(void*, scc::Bool addOrKeep, scc::Long status, const char* name) noexcept {
-  return Ask(Kind::Item, Body(addOrKeep, status, Within(name, kSmallFrame / 2)), 0);
+  return Ask(FrameKind::ListItem, Serialize(addOrKeep, status, Truncated(name, kSmallFrameSize / 2)), 0);
 }
 
 }  // namespace isolation

@@ -1,4 +1,4 @@
-// What the provider calls back, from whichever thread.
+// The callbacks that the provider gets; it may call them from any thread.
 #pragma once
 
 #include "provider/sccdefs.h"
@@ -8,13 +8,13 @@ namespace isolation {
 scc::Long SCC_CALL TextOutProc(const char* text, scc::Dword kind) noexcept;
 scc::Bool SCC_CALL PopulateProc(void* data, scc::Bool addOrKeep, scc::Long status, const char* name) noexcept;
 
-/// While this lives a call is carried out: somebody answers questions.
-class Answerable {
+/// Scope of a call: only within one does the client answer queries.
+class CallScope {
  public:
-  Answerable();
-  ~Answerable();
-  Answerable(const Answerable&) = delete;
-  Answerable& operator=(const Answerable&) = delete;
+  CallScope();
+  ~CallScope();
+  CallScope(const CallScope&) = delete;
+  CallScope& operator=(const CallScope&) = delete;
 };
 
 }  // namespace isolation

@@ -1,4 +1,4 @@
-// scc-provider-host: loads a provider and carries out its calls for the library that started this program.
+// scc-provider-host: loads a provider and executes the calls of the isolating library, which starts this program.
 #include <wx/app.h>
 #include <wx/evtloop.h>
 #include <wx/init.h>
@@ -7,10 +7,10 @@
 #include <cstdlib>
 #include <memory>
 
-#include "Carry.h"
-#include "HostOwner.h"
-#include "Link.h"
-#include "Loop.h"
+#include "CallDispatcher.h"
+#include "Channel.h"
+#include "ServeLoop.h"
+#include "WindowWatch.h"
 #include "host/System.h"
 #include "workbench/macro/PlayedWindows.h"
 #include "workbench/macro/ProviderWindows.h"
@@ -24,7 +24,7 @@ class HostApp final : public wxApp {
   HostApp() { SetExitOnFrameDelete(false); }
 };
 
-/// With windows if there is a display for them; whether the toolkit runs with them.
+/// Initialises the toolkit, without windows if there is no display.  Returns whether it has windows.
 bool StartToolkit(int& argc, char** argv) {
   {
     const wxLogNull quiet;
@@ -36,20 +36,20 @@ bool StartToolkit(int& argc, char** argv) {
   return false;
 }
 
-/// One frame; false for the last one.
+/// Handles one frame; returns false for the last one.
 bool Serve() {
-  const auto frame = link::Read();
-  if (frame.Of == Kind::Call) link::Write(Kind::Answer, Carry(frame.Body));
-  if (IsDamaged()) std::_Exit(EXIT_FAILURE);
-  return frame.Of != Kind::Bye;
+  const auto frame = channel::Read();
+  if (frame.Kind == FrameKind::Call) channel::Write(FrameKind::Answer, DispatchCall(frame.Body));
+  if (HasFaulted()) std::_Exit(EXIT_FAILURE);
+  return frame.Kind != FrameKind::Shutdown;
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
   const auto arguments = CommandLineArguments(argc, argv);
-  if (arguments.empty()) return 2;  // the library starts it
-  link::Take(arguments.back());
+  if (arguments.empty()) return 2;  // not started by the library
+  channel::Open(arguments.back());
   const bool windows = StartToolkit(argc, argv);
   std::unique_ptr<TPlayedWindows> played;
   if (windows) {
@@ -57,9 +57,9 @@ int main(int argc, char** argv) {
     if (const char* folder = std::getenv(kPlayedFolder)) played = std::make_unique<TPlayedWindows>(folder);
   }
   const auto fault = LoadProvider(arguments.front());
-  link::Write(Kind::Hello, Body(fault));
+  channel::Write(FrameKind::Hello, Serialize(fault));
   ServeUntilBye(windows, Serve);
-  link::Leave();
+  channel::ExpectClose();
   played.reset();
   wxEntryCleanup();
 }

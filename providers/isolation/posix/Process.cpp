@@ -14,19 +14,19 @@
 #include <stdexcept>
 #include <vector>
 
-#include "HostArguments.h"
+#include "ChannelFd.h"
 
-extern "C" {  // whose own header forgets that in older C libraries
+extern "C" {  // missing in the header of glibc 2.36
 #include <sys/pidfd.h>
 }
 
 namespace isolation {
 namespace {
 
-constexpr int kLastMoments = 200;  // ms from the end of the channel to that of the process
+constexpr int kExitTimeout = 200;  // ms that the process has to end after its channel closed
 
-/// Processes that were told to end.  Nobody waits for them; their entries in the process table go here.
-class Leaving {
+/// Processes that were told to end; reaps them without waiting.
+class DetachedProcesses {
  public:
   static void Add(pid_t process) {
     const std::lock_guard lock(mutex_);
@@ -38,7 +38,7 @@ class Leaving {
   }
 
  private:
-  // Never destroyed: clients may still end sessions when the process ends.
+  // Never destroyed: clients may uninitialise providers during static destruction.
   static inline std::mutex& mutex_ = *new std::mutex;
   static inline std::vector<pid_t>& processes_ = *new std::vector<pid_t>;
 };
@@ -63,7 +63,7 @@ class Handle {
   int fd_;
 };
 
-void Require(int error, const char* what) {
+void ThrowOnError(int error, const char* what) {
   if (error != 0) throw std::runtime_error(std::string(what) + ": " + std::strerror(error));
 }
 
@@ -85,7 +85,7 @@ pid_t Spawn(const std::string& program, const std::string& argument, int channel
   const int error = posix_spawn(&process, program.c_str(), &files, &attributes, words, environ);
   posix_spawnattr_destroy(&attributes);
   posix_spawn_file_actions_destroy(&files);
-  Require(error, program.c_str());
+  ThrowOnError(error, program.c_str());
   return process;
 }
 
@@ -93,21 +93,21 @@ class PosixProcess final : public Process {
  public:
   PosixProcess(const std::string& program, const std::string& argument) {
     int ends[2];
-    Require(socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends) == 0 ? 0 : errno, "socketpair");
+    ThrowOnError(socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends) == 0 ? 0 : errno, "socketpair");
     channel_.Set(ends[0]);
     const Handle other(ends[1]);
     pid_ = Spawn(program, argument, other.Get());
-    // A copy of the process that the provider forks keeps the channel open; this tells of the process itself.
+    // A process that the provider forks keeps the channel open; the pidfd reports the end of the host itself.
     life_.Set(pidfd_open(pid_, 0));
   }
   ~PosixProcess() override {
     channel_.Close();
     if (ended_ || InForkedCopy()) return;
-    if (!letGo_) Kill();
-    Leaving::Add(pid_);  // one that hangs in the system takes its time
+    if (!detached_) Kill();
+    DetachedProcesses::Add(pid_);  // a killed process may take time to end
   }
 
-  bool Move(Outgoing& out, std::string& in, std::size_t room, std::chrono::milliseconds wait) override {
+  bool Transfer(SendBuffer& out, std::string& in, std::size_t room, std::chrono::milliseconds wait) override {
     if (InForkedCopy()) return false;
     pollfd waits[] = {
         {channel_.Get(), static_cast<short>(room > 0 ? POLLIN : 0), 0},
@@ -124,17 +124,17 @@ class PosixProcess final : public Process {
   void Kill() override {
     if (!ended_ && !InForkedCopy()) kill(pid_, SIGKILL);
   }
-  void LetGo() override { letGo_ = true; }
-  std::string HowItEnded() override {
-    if (ended_ || InForkedCopy()) return how_;
+  void Detach() override { detached_ = true; }
+  std::string ExitDescription() override {
+    if (ended_ || InForkedCopy()) return exitDescription_;
     ended_ = true;
     pollfd life{life_.Get(), POLLIN, 0};
-    const bool byItself = poll(&life, 1, kLastMoments) > 0;
+    const bool byItself = poll(&life, 1, kExitTimeout) > 0;
     if (!byItself) kill(pid_, SIGKILL);
     int status = 0;
-    // Nobody knows when the client lets the system forget its processes.
-    if (waitpid(pid_, &status, 0) == pid_ && byItself) how_ = Words(status);
-    return how_;
+    // Fails if the client ignores SIGCHLD.
+    if (waitpid(pid_, &status, 0) == pid_ && byItself) exitDescription_ = Words(status);
+    return exitDescription_;
   }
 
  private:
@@ -142,8 +142,8 @@ class PosixProcess final : public Process {
     if (WIFEXITED(status)) return "exit code " + std::to_string(WEXITSTATUS(status));
     return "signal " + std::to_string(WTERMSIG(status)) + " (" + strsignal(WTERMSIG(status)) + ")";
   }
-  /// Whether anything went.
-  bool Send(Outgoing& out) {
+  /// Returns whether it sent anything.
+  bool Send(SendBuffer& out) {
     const auto before = out.Sent;
     while (!out.Empty()) {
       const auto now = send(channel_.Get(), out.Bytes.data() + out.Sent, out.Bytes.size() - out.Sent,
@@ -161,21 +161,21 @@ class PosixProcess final : public Process {
     return got > 0 || (got < 0 && (errno == EAGAIN || errno == EINTR));
   }
 
-  /// A client may go on in a copy of itself: the process belongs to the original.
+  /// True in a process forked from the client: the host belongs to the original.
   bool InForkedCopy() const { return getpid() != owner_; }
 
   const pid_t owner_ = getpid();
   Handle channel_, life_;
   pid_t pid_ = 0;
-  bool letGo_ = false;
+  bool detached_ = false;
   bool ended_ = false;
-  std::string how_;
+  std::string exitDescription_;
 };
 
 }  // namespace
 
 std::unique_ptr<Process> Process::Start(const std::string& program, const std::string& argument) {
-  Leaving::Reap();
+  DetachedProcesses::Reap();
   return std::make_unique<PosixProcess>(program, argument);
 }
 

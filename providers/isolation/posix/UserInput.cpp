@@ -22,7 +22,7 @@ bool IsUserInput(GdkEventType type) {
 
 }  // namespace
 
-void DropUserInput() {
+void DiscardUserInput() {
   while (GdkEvent* event = gdk_event_get()) {
     if (!IsUserInput(event->type)) gtk_main_do_event(event);
     gdk_event_free(event);

@@ -16,8 +16,8 @@ namespace {
 
 constexpr DWORD kPipeBuffer = 64 << 10;
 constexpr std::size_t kChunk = 256 << 10;
-constexpr DWORD kLastMoments = 200;  // ms from the end of the channel to that of the process
-constexpr DWORD kLastWords = 50;     // ms for what it had sent before it ended
+constexpr DWORD kExitTimeout = 200;  // ms that the process has to end after its channel closed
+constexpr DWORD kDrainTimeout = 50;  // ms for reading what the process sent before it ended
 
 class Handle {
  public:
@@ -40,13 +40,13 @@ class Handle {
   HANDLE handle_;
 };
 
-void Require(bool done, const std::string& what) {
+void ThrowUnless(bool done, const std::string& what) {
   if (!done) throw std::runtime_error(what + ": " + SystemMessage(GetLastError()));
 }
 
-/// One transfer that the system carries out by itself.
-struct Transfer {
-  Transfer() : Event(CreateEventW(nullptr, TRUE, FALSE, nullptr)) {}
+/// One overlapped transfer.
+struct OverlappedTransfer {
+  OverlappedTransfer() : Event(CreateEventW(nullptr, TRUE, FALSE, nullptr)) {}
   OVERLAPPED* Start() {
     Overlapped = {};
     Overlapped.hEvent = Event.Get();
@@ -60,7 +60,7 @@ struct Transfer {
   bool Running = false;
 };
 
-/// Both ends of a pipe that nobody else can open: its only instance has both from the beginning.
+/// Creates a pipe that no other process can open: both ends of its only instance are taken at once.
 void MakePipe(Handle& own, Handle& other) {
   static std::atomic<unsigned> count = 0;
   const auto name = ToWide("\\\\.\\pipe\\scc-provider-" + std::to_string(GetCurrentProcessId()) + "-" +
@@ -68,14 +68,14 @@ void MakePipe(Handle& own, Handle& other) {
   own.Set(CreateNamedPipeW(
       name.c_str(), PIPE_ACCESS_DUPLEX | FILE_FLAG_FIRST_PIPE_INSTANCE | FILE_FLAG_OVERLAPPED,
       PIPE_TYPE_BYTE | PIPE_REJECT_REMOTE_CLIENTS, 1, kPipeBuffer, kPipeBuffer, 0, nullptr));
-  Require(own.Get() != nullptr, "CreateNamedPipe");
+  ThrowUnless(own.Get() != nullptr, "CreateNamedPipe");
   SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
   other.Set(CreateFileW(name.c_str(), GENERIC_READ | GENERIC_WRITE, 0, &inherited, OPEN_EXISTING,
                         FILE_FLAG_OVERLAPPED, nullptr));
-  Require(other.Get() != nullptr, "CreateFile");
+  ThrowUnless(other.Get() != nullptr, "CreateFile");
 }
 
-/// A process of the job ends when the last handle of the job is closed, at the latest with this process.
+/// Creates a job whose processes end when its last handle is closed, at the latest with this process.
 HANDLE MakeJob() {
   const HANDLE job = CreateJobObjectW(nullptr, nullptr);
   JOBOBJECT_EXTENDED_LIMIT_INFORMATION limits{};
@@ -92,20 +92,20 @@ class WindowsProcess final : public Process {
     Spawn(program, argument, other.Get());
   }
   ~WindowsProcess() override {
-    if (letGo_) {
-      job_.Release();  // it ends by itself, and with this process at the latest
+    if (detached_) {
+      job_.Release();  // the handle stays open: the process ends by itself, at the latest with this one
     } else {
       Kill();
     }
     CancelIoEx(pipe_.Get(), nullptr);
     for (auto* transfer : {&read_, &write_})
-      // What the system does not give back stays: it would be written to when it is something else.
+      // A buffer that the system still uses must not be freed.
       if ((*transfer)->Running &&
-          WaitForSingleObject((*transfer)->Event.Get(), kLastMoments) != WAIT_OBJECT_0)
+          WaitForSingleObject((*transfer)->Event.Get(), kExitTimeout) != WAIT_OBJECT_0)
         transfer->release();
   }
 
-  bool Move(Outgoing& out, std::string& in, std::size_t room, std::chrono::milliseconds wait) override {
+  bool Transfer(SendBuffer& out, std::string& in, std::size_t room, std::chrono::milliseconds wait) override {
     if (Deliver(in, room)) return true;
     StartWriting(out);
     if (!StartReading()) return Deliver(in, room);
@@ -115,14 +115,14 @@ class WindowsProcess final : public Process {
                                               static_cast<DWORD>(wait.count()));
     if (which == WAIT_OBJECT_0 + 2) return FinishWriting();
     const bool ended = which == WAIT_OBJECT_0 + 1;
-    if (ended && WaitForSingleObject(read_->Event.Get(), kLastWords) != WAIT_OBJECT_0) return false;
+    if (ended && WaitForSingleObject(read_->Event.Get(), kDrainTimeout) != WAIT_OBJECT_0) return false;
     if (which == WAIT_TIMEOUT) return true;
     return FinishReading() && Deliver(in, room);
   }
   void Kill() override { TerminateProcess(process_.Get(), 1); }
-  void LetGo() override { letGo_ = true; }
-  std::string HowItEnded() override {
-    if (WaitForSingleObject(process_.Get(), kLastMoments) != WAIT_OBJECT_0) {
+  void Detach() override { detached_ = true; }
+  std::string ExitDescription() override {
+    if (WaitForSingleObject(process_.Get(), kExitTimeout) != WAIT_OBJECT_0) {
       Kill();
       return {};
     }
@@ -156,13 +156,13 @@ class WindowsProcess final : public Process {
     const auto error = GetLastError();
     DeleteProcThreadAttributeList(start.lpAttributeList);
     SetLastError(error);
-    Require(done, program);
+    ThrowUnless(done, program);
     process_.Set(made.hProcess);
     const Handle thread(made.hThread);
     AssignProcessToJobObject(job_.Get(), process_.Get());
     ResumeThread(thread.Get());
   }
-  void StartWriting(Outgoing& out) {
+  void StartWriting(SendBuffer& out) {
     if (write_->Running || out.Empty()) return;
     const auto size = std::min(out.Bytes.size() - out.Sent, kChunk);
     const auto first = out.Bytes.begin() + static_cast<std::ptrdiff_t>(out.Sent);
@@ -190,7 +190,7 @@ class WindowsProcess final : public Process {
     ready_.append(read_->Bytes.data(), got);
     return got > 0;
   }
-  /// What has come and not been asked for yet.
+  /// Moves received bytes to `in`.
   bool Deliver(std::string& in, std::size_t room) {
     const auto size = std::min(room, ready_.size());
     in.append(ready_, 0, size);
@@ -199,9 +199,10 @@ class WindowsProcess final : public Process {
   }
 
   Handle job_, pipe_, process_;
-  std::unique_ptr<Transfer> read_ = std::make_unique<Transfer>(), write_ = std::make_unique<Transfer>();
+  std::unique_ptr<OverlappedTransfer> read_ = std::make_unique<OverlappedTransfer>(),
+                                      write_ = std::make_unique<OverlappedTransfer>();
   std::string ready_;
-  bool letGo_ = false;
+  bool detached_ = false;
 };
 
 }  // namespace

@@ -6,7 +6,7 @@
 
 namespace isolation {
 
-void DropUserInput() {
+void DiscardUserInput() {
   MSG message;
   for (const auto& [first, last] :
        {std::pair<UINT, UINT>{WM_KEYFIRST, WM_KEYLAST}, {WM_LBUTTONDOWN, WM_MOUSELAST}})

@@ -1,11 +1,11 @@
-// What the message loop waits for besides messages.
+// The event by which the message loop notices frames.
 #pragma once
 
 #include "host/windows/Api.h"
 
-namespace isolation::link {
+namespace isolation::channel {
 
-/// Is set when a frame begins to arrive.  Main thread, between calls.
+/// Starts to wait for a frame; the event is set when one begins to arrive.  Main thread, between calls.
 HANDLE ArrivalEvent();
 
-}  // namespace isolation::link
+}  // namespace isolation::channel

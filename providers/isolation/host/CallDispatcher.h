@@ -1,0 +1,19 @@
+// Loads the provider and calls it.
+#pragma once
+
+#include <string>
+
+#include "Wire.h"
+#include "host/Library.h"
+
+namespace isolation {
+
+/// Loads the provider; returns the reason if that fails, otherwise an empty text.
+std::string LoadProvider(const std::string& path);
+/// Executes the call in the body of a Call frame; returns the body of the Answer.
+std::string DispatchCall(const std::string& call);
+
+/// True after a structured exception in a call: the state of the provider is unknown, so the process has to end.
+bool HasFaulted();
+
+}  // namespace isolation

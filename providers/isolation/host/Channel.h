@@ -1,0 +1,20 @@
+// The host's end of the channel to the library.
+#pragma once
+
+#include "Wire.h"
+
+namespace isolation::channel {
+
+/// Opens the channel that the program's last argument names, and makes the program end when the client ends.  To be called
+/// before all others.
+void Open(const std::string& argument);
+/// Waits for the next frame.  Not thread-safe.  Ends the program when the client has ended.
+Frame Read();
+/// POSIX: the descriptor, for event loops.
+int Descriptor();
+/// Sends a frame.  Thread-safe.
+void Write(FrameKind kind, const std::string& body);
+/// From now on the program has a few seconds to end after the client closes the channel.
+void ExpectClose();
+
+}  // namespace isolation::channel

@@ -1,0 +1,14 @@
+#include "ProxyConfig.h"
+
+#include <dlfcn.h>
+
+namespace isolation {
+
+std::string OwnConfigFile() {
+  Dl_info library{};
+  dladdr(reinterpret_cast<void*>(&OwnConfigFile), &library);
+  const std::string path = library.dli_fname != nullptr ? library.dli_fname : "";
+  return path.substr(0, path.rfind('.')) + kConfigExtension;
+}
+
+}  // namespace isolation

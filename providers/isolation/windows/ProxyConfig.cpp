@@ -1,0 +1,18 @@
+#include "ProxyConfig.h"
+
+#include "host/windows/Api.h"
+#include "host/windows/Wide.h"
+
+namespace isolation {
+
+std::string OwnConfigFile() {
+  HMODULE module = nullptr;
+  GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+                     reinterpret_cast<const wchar_t*>(&OwnConfigFile), &module);
+  std::wstring name(32768, L'\0');
+  name.resize(GetModuleFileNameW(module, name.data(), static_cast<DWORD>(name.size())));
+  const auto path = FromWide(name);
+  return path.substr(0, path.rfind('.')) + kConfigExtension;
+}
+
+}  // namespace isolation

@@ -1,0 +1,16 @@
+#include "WindowId.h"
+
+#include <wx/window.h>
+
+#include "host/windows/Api.h"
+
+namespace isolation {
+
+std::uint64_t WindowId(scc::WindowHandle client, wxWindow* fallback) {
+  AllowSetForegroundWindow(ASFW_ANY);  // the provider's window comes in fallback of this program's
+  HWND window = static_cast<HWND>(client);
+  if (!IsWindow(window)) window = fallback != nullptr ? static_cast<HWND>(fallback->GetHandle()) : nullptr;
+  return reinterpret_cast<std::uintptr_t>(window);
+}
+
+}  // namespace isolation

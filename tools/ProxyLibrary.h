@@ -1,0 +1,12 @@
+// The copies of the isolating library, one for each provider that is registered to run in a process of its own.
+#pragma once
+
+#include <string>
+
+/// Installs or replaces the library that stands for the provider `name` at `path`; returns its path.  Throws
+/// std::runtime_error with a sentence for the user.
+std::string InstallProxyLibrary(const std::string& name, const std::string& path);
+/// Returns the path of the provider that `library` stands for; empty if it is not an isolating library.
+std::string ProviderBehindProxy(const std::string& library);
+/// Removes the library that InstallProxyLibrary installed for the provider `name`, if there is one.
+void RemoveProxyLibrary(const std::string& name);
