@@ -14,7 +14,6 @@ constexpr TResString sAddFiles{"Add File(s)"};
 constexpr TResString sRemoveFile{"Remove File"};
 constexpr TResString sRemoveFiles{"Remove File(s)"};
 constexpr TResString sGetFile{"Get File"};
-constexpr TResString sGetLatestVersion{"Get Latest Version"};
 constexpr TResString sCheckInFile{"Check In File"};
 constexpr TResString sCheckInFiles{"Check In File(s)"};
 constexpr TResString sCheckOutFile{"Check Out File"};

@@ -2,6 +2,7 @@
 
 #include "expert/FileCommandStrings.h"
 #include "expert/SccExpertStrings.h"
+#include "ui/ExpertMainMenuStrings.h"
 
 namespace {
 

@@ -161,9 +161,17 @@ void Reported(std::string_view format, const std::function<void()>& body) noexce
 
 }  // namespace
 
-void TSccExpert::RunCommand(std::string_view format, const std::function<void()>& command,
-                            TActivity activity) noexcept {
-  Reported(format, [&] { activities_.Run(activity, [&] { Reported(format, command); }); });
+void TSccExpert::Run(TActivity activity, std::string_view format,
+                     const std::function<void()>& body) noexcept {
+  Reported(format, [&] { activities_.Run(activity, [&] { Reported(format, body); }); });
+}
+
+void TSccExpert::RunCommand(std::string_view format, const std::function<void()>& command) noexcept {
+  Run(TActivity::Command, format, command);
+}
+
+void TSccExpert::RunMenuOpening(std::string_view format, const std::function<void()>& refresh) noexcept {
+  Run(TActivity::MenuOpening, format, refresh);
 }
 
 void TSccExpert::DisplayMessages(const std::string& title, const TStateMessages& messages) {

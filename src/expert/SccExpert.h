@@ -16,9 +16,9 @@
 #include "expert/FileListModel.h"
 #include "host/Services.h"
 #include "provider/sccapiintf.h"
+#include "ui/ExpertMainMenu.h"
 #include "ui/Messages.h"
 
-class TExpertMainMenuModule;
 class TFormEditorManager;
 class TProviderMessages;
 class TSccIDENotifier;
@@ -41,7 +41,7 @@ void WriteFailure(const std::string& what, const TStateMessages& messages);
 /// message in place of %s.
 void Guarded(TMsgWinType kind, const TResString& format, const std::function<void()>& body);
 
-class TSccExpert final : public TNotifierObject, public IOTAWizard {
+class TSccExpert final : public TNotifierObject, public IOTAWizard, public ITeamCommands {
  public:
   /// `forms` is borrowed and must outlive the expert.  Never throws: a failure is shown in a box, and the expert exists
   /// with whatever was set before it.
@@ -105,13 +105,16 @@ class TSccExpert final : public TNotifierObject, public IOTAWizard {
   std::string GetCurrentProjectFile();
 
   // Menu state.
-  void MainMenu();
+  void MainMenu() override;
   void EnableActiveMenu();
+  std::string CurrentFile() const override;
+  bool HasProviderProject() const override;
+  std::optional<bool> HasProviderApplication() const override;
 
   // Messages.
   /// Shows the provider's collected texts: the error first, then the operation's own line, then the information.
   void DisplayMessages(const std::string& title, const TStateMessages& messages);
-  void ViewMessages();
+  void ViewMessages() override;
   void HideMessages();
 
   // Files that belong together.
@@ -125,27 +128,27 @@ class TSccExpert final : public TNotifierObject, public IOTAWizard {
                           bool checkDisk, const TStatusArray& statuses) const;
 
   // The file commands.  A blank name means every eligible file of the current project, otherwise that one file.
-  void AddFiles(const std::string& fileName);
-  void RemoveFiles(const std::string& fileName);
-  void GetLatestVersion(const std::string& fileName);
-  void CheckInFiles(const std::string& fileName);
-  void CheckOutFiles(const std::string& fileName);
-  void UndoCheckOut(const std::string& fileName);
+  void AddFiles(const std::string& fileName) override;
+  void RemoveFiles(const std::string& fileName) override;
+  void GetLatestVersion(const std::string& fileName) override;
+  void CheckInFiles(const std::string& fileName) override;
+  void CheckOutFiles(const std::string& fileName) override;
+  void UndoCheckOut(const std::string& fileName) override;
 
   // The provider's own windows.
-  void ShowDiff(const std::string& fileName);
-  void ShowHistory(const std::string& fileName);
-  void Properties(const std::string& fileName);
-  void RunSccApp();
+  void ShowDiff(const std::string& fileName) override;
+  void ShowHistory(const std::string& fileName) override;
+  void Properties(const std::string& fileName) override;
+  void RunSccApp() override;
   /// Lets the provider widen or narrow the file list of a command.
   void ProviderAddRemove(TStringList& list, scc::SCCCommand command);
   /// Shows the status of a file whose view became active in the message window.
   void ViewChange(const std::string& fileName);
 
   // Wizards.
-  void PlaceProject();
-  void PullProjectWizard();
-  void CommitBrowser();
+  void PlaceProject() override;
+  void PullProjectWizard() override;
+  void CommitBrowser() override;
 
   // Saving before and reloading after commands.
   void SaveAll();
@@ -159,10 +162,8 @@ class TSccExpert final : public TNotifierObject, public IOTAWizard {
   /// project meanwhile.
   TSCCProviderProject& RequireProject(const std::string& directory, const std::string& noProvider);
 
-  /// Runs what the user has asked for, if Activities() let it start.  What it throws, and a refusal, is written to the
-  /// message window as `format` with the message in place of %s.
-  void RunCommand(std::string_view format, const std::function<void()>& command,
-                  TActivity activity = TActivity::Command) noexcept;
+  void RunCommand(std::string_view format, const std::function<void()>& command) noexcept override;
+  void RunMenuOpening(std::string_view format, const std::function<void()>& refresh) noexcept override;
   /// What is running, and what may start.
   const TActivities& Activities() const { return activities_; }
 
@@ -196,6 +197,7 @@ class TSccExpert final : public TNotifierObject, public IOTAWizard {
   std::string OpenProjectFile();
   void ReopenProject();
   void Handle(TOTAFileNotification code, const std::string& fileName);
+  void Run(TActivity activity, std::string_view format, const std::function<void()>& body) noexcept;
   /// RequireProject for the current project's file, as the single-file commands want it.
   TSCCProviderProject& RequireCurrentProject();
 

@@ -8,6 +8,7 @@
 #include "expert/FileCommands.h"
 #include "expert/MappingFile.h"
 #include "expert/SccExpert.h"
+#include "expert/SccSystem.h"
 #include "host/Paths.h"
 #include "host/System.h"
 #include "ui/ExpertMainMenu.h"
@@ -30,6 +31,15 @@ void TSccExpert::MainMenu() {
     throw;
   }
   menu_->EnableRunScc(provider_list_ != nullptr);
+}
+
+std::string TSccExpert::CurrentFile() const { return rv_GetCurrentFile(); }
+
+bool TSccExpert::HasProviderProject() const { return provider_list_ && provider_list_->CurrentProject(); }
+
+std::optional<bool> TSccExpert::HasProviderApplication() const {
+  if (!provider_list_) return std::nullopt;
+  return provider_list_->Capabilities().test(pcSccRunScc);
 }
 
 void TSccExpert::PrepareProvider(const std::string& project) {

@@ -11,6 +11,7 @@
 #include "host/System.h"
 #include "provider/ProviderStrings.h"
 #include "provider/SCMAddInOptions.h"
+#include "ui/ExpertMainMenuStrings.h"
 
 namespace {
 

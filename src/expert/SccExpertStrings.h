@@ -12,7 +12,6 @@ constexpr TResString sWizardDescription{"Pull a project from a source code contr
 // Start-up.
 constexpr TResString sStartUp{"SccExpert; Quillon 7 Source Code Control Interface"};
 constexpr TResString sProviderLine{"Provider: %s"};
-constexpr TResString sUnableToGetIDEServices{"Unable to get IDE services"};
 constexpr TResString sExpertCreateError{"Expert create error: %s"};
 constexpr TResString sMessageWindowNil{"Message window is nil"};
 

@@ -1,9 +1,6 @@
 #include "ui/ExpertMainMenu.h"
 
-#include "expert/FileCommandStrings.h"
-#include "expert/SccExpert.h"
-#include "expert/SccExpertStrings.h"
-#include "expert/SccSystem.h"
+#include "host/Services.h"
 #include "ui/ExpertMainMenuStrings.h"
 #include "ui/MenuImages.h"
 
@@ -45,7 +42,9 @@ IOTAMenuServices& MenuServices() {
 
 }  // namespace
 
-TExpertMainMenuModule::TExpertMainMenuModule(TSccExpert& expert) : expert_(expert) { DataModuleCreate(); }
+TExpertMainMenuModule::TExpertMainMenuModule(ITeamCommands& commands) : commands_(commands) {
+  DataModuleCreate();
+}
 
 TExpertMainMenuModule::~TExpertMainMenuModule() {
   auto* services = IdeService<IOTAMenuServices>();
@@ -171,8 +170,7 @@ void TExpertMainMenuModule::CreateFileMenu() {
       item(sItemProperties, kNoImage, &TModule::PropertiesSingle),
   };
   file_menu_.IsEnabled = [this](const std::string& fileName) {
-    const auto* providers = expert_.ProviderList();
-    return !Trim(fileName).empty() && providers && providers->CurrentProject();
+    return !Trim(fileName).empty() && commands_.HasProviderProject();
   };
 }
 
@@ -194,27 +192,27 @@ void TExpertMainMenuModule::EnableRunScc(bool enable) {
 }
 
 void TExpertMainMenuModule::SetMenuCapabilities() {
-  if (const auto* provider = expert_.ProviderList())
-    actRunSccApp.Visible = provider->Capabilities().test(pcSccRunScc);
+  if (const auto application = commands_.HasProviderApplication()) actRunSccApp.Visible = *application;
 }
 
 void TExpertMainMenuModule::MapClick() {
-  const auto refresh = [this] {
-    expert_.MainMenu();
+  commands_.RunMenuOpening(sMainMenuError.Text, [this] {
+    commands_.MainMenu();
     SetMenuCapabilities();
-  };
-  expert_.RunCommand(sMainMenuError.Text, refresh, TActivity::MenuOpening);
+  });
 }
 
-void TExpertMainMenuModule::actPlaceProjectExecute() { Run(sPlaceProjectError, &TSccExpert::PlaceProject); }
+void TExpertMainMenuModule::actPlaceProjectExecute() {
+  Run(sPlaceProjectError, &ITeamCommands::PlaceProject);
+}
 void TExpertMainMenuModule::actPullProjectExecute() {
-  Run(sPullProjectError, &TSccExpert::PullProjectWizard);
+  Run(sPullProjectError, &ITeamCommands::PullProjectWizard);
 }
-void TExpertMainMenuModule::actRunSccAppExecute() { Run(sRunSccAppError, &TSccExpert::RunSccApp); }
+void TExpertMainMenuModule::actRunSccAppExecute() { Run(sRunSccAppError, &ITeamCommands::RunSccApp); }
 void TExpertMainMenuModule::actCommitBrowserExecute() {
-  Run(sCommitBrowserError, &TSccExpert::CommitBrowser);
+  Run(sCommitBrowserError, &ITeamCommands::CommitBrowser);
 }
-void TExpertMainMenuModule::actMessagesExecute() { Run(sMessagesError, &TSccExpert::ViewMessages); }
+void TExpertMainMenuModule::actMessagesExecute() { Run(sMessagesError, &ITeamCommands::ViewMessages); }
 
 // A command of the whole project is called with an empty file name.
 void TExpertMainMenuModule::actAddFilesExecute() { actAddSingleExecute({}); }
@@ -223,40 +221,40 @@ void TExpertMainMenuModule::actGetFilesExecute() { actGetSingleExecute({}); }
 void TExpertMainMenuModule::actCheckInFilesExecute() { actCheckInSingleExecute({}); }
 void TExpertMainMenuModule::actCheckOutFilesExecute() { actCheckOutSingleExecute({}); }
 void TExpertMainMenuModule::actUndoCheckOutFilesExecute() { actUndoCheckOutSingleExecute({}); }
-void TExpertMainMenuModule::actShowDiffExecute() { ShowDiffSingle(rv_GetCurrentFile()); }
-void TExpertMainMenuModule::actShowHistoryExecute() { ShowHistorySingle(rv_GetCurrentFile()); }
+void TExpertMainMenuModule::actShowDiffExecute() { ShowDiffSingle(commands_.CurrentFile()); }
+void TExpertMainMenuModule::actShowHistoryExecute() { ShowHistorySingle(commands_.CurrentFile()); }
 
-void TExpertMainMenuModule::Run(const TResString& error, void (TSccExpert::*command)()) {
-  expert_.RunCommand(error.Text, [&] { (expert_.*command)(); });
+void TExpertMainMenuModule::Run(const TResString& error, void (ITeamCommands::*command)()) {
+  commands_.RunCommand(error.Text, [&] { (commands_.*command)(); });
 }
-void TExpertMainMenuModule::Run(const TResString& error, void (TSccExpert::*command)(const std::string&),
+void TExpertMainMenuModule::Run(const TResString& error, void (ITeamCommands::*command)(const std::string&),
                                 const std::string& fileName) {
-  expert_.RunCommand(error.Text, [&] { (expert_.*command)(fileName); });
+  commands_.RunCommand(error.Text, [&] { (commands_.*command)(fileName); });
 }
 void TExpertMainMenuModule::actAddSingleExecute(const std::string& fileName) {
-  Run(sAddFilesError, &TSccExpert::AddFiles, fileName);
+  Run(sAddFilesError, &ITeamCommands::AddFiles, fileName);
 }
 void TExpertMainMenuModule::actRemoveSingleExecute(const std::string& fileName) {
-  Run(sRemoveFilesError, &TSccExpert::RemoveFiles, fileName);
+  Run(sRemoveFilesError, &ITeamCommands::RemoveFiles, fileName);
 }
 void TExpertMainMenuModule::actGetSingleExecute(const std::string& fileName) {
-  Run(sGetLatestVersionError, &TSccExpert::GetLatestVersion, fileName);
+  Run(sGetLatestVersionError, &ITeamCommands::GetLatestVersion, fileName);
 }
 void TExpertMainMenuModule::actCheckInSingleExecute(const std::string& fileName) {
-  Run(sCheckFilesInError, &TSccExpert::CheckInFiles, fileName);
+  Run(sCheckFilesInError, &ITeamCommands::CheckInFiles, fileName);
 }
 void TExpertMainMenuModule::actCheckOutSingleExecute(const std::string& fileName) {
-  Run(sCheckFilesOutError, &TSccExpert::CheckOutFiles, fileName);
+  Run(sCheckFilesOutError, &ITeamCommands::CheckOutFiles, fileName);
 }
 void TExpertMainMenuModule::actUndoCheckOutSingleExecute(const std::string& fileName) {
-  Run(sUndoFilesCheckOutError, &TSccExpert::UndoCheckOut, fileName);
+  Run(sUndoFilesCheckOutError, &ITeamCommands::UndoCheckOut, fileName);
 }
 void TExpertMainMenuModule::ShowDiffSingle(const std::string& fileName) {
-  Run(sShowDiffError, &TSccExpert::ShowDiff, fileName);
+  Run(sShowDiffError, &ITeamCommands::ShowDiff, fileName);
 }
 void TExpertMainMenuModule::ShowHistorySingle(const std::string& fileName) {
-  Run(sShowHistoryError, &TSccExpert::ShowHistory, fileName);
+  Run(sShowHistoryError, &ITeamCommands::ShowHistory, fileName);
 }
 void TExpertMainMenuModule::PropertiesSingle(const std::string& fileName) {
-  Run(sPropertiesError, &TSccExpert::Properties, fileName);
+  Run(sPropertiesError, &ITeamCommands::Properties, fileName);
 }

@@ -1,6 +1,8 @@
 // The "Team" menu: its items, actions and the rules that enable them.  No windows: the host shows the menu.
 #pragma once
 
+#include <functional>
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -8,7 +10,42 @@
 #include "host/Menus.h"
 #include "host/Text.h"
 
-class TSccExpert;
+/// The commands behind the menu, declared by the layer that calls them; the expert implements them.  A command that
+/// takes a file name works on the whole project when the name is empty.
+class ITeamCommands {
+ public:
+  virtual void PlaceProject() = 0;
+  virtual void PullProjectWizard() = 0;
+  virtual void RunSccApp() = 0;
+  virtual void CommitBrowser() = 0;
+  virtual void ViewMessages() = 0;
+  virtual void AddFiles(const std::string& fileName) = 0;
+  virtual void RemoveFiles(const std::string& fileName) = 0;
+  virtual void GetLatestVersion(const std::string& fileName) = 0;
+  virtual void CheckInFiles(const std::string& fileName) = 0;
+  virtual void CheckOutFiles(const std::string& fileName) = 0;
+  virtual void UndoCheckOut(const std::string& fileName) = 0;
+  virtual void ShowDiff(const std::string& fileName) = 0;
+  virtual void ShowHistory(const std::string& fileName) = 0;
+  virtual void Properties(const std::string& fileName) = 0;
+
+  /// Enables the items for the current project.  Throws what prevents that.
+  virtual void MainMenu() = 0;
+  /// The file in the front-most editor; empty when there is none.
+  virtual std::string CurrentFile() const = 0;
+  virtual bool HasProviderProject() const = 0;
+  /// Whether the provider has an application of its own; nullopt without a provider.
+  virtual std::optional<bool> HasProviderApplication() const = 0;
+
+  /// Runs `command` if nothing else is running.  Reports a refusal and what `command` throws in the message window, as
+  /// `format` with the message in place of %s.
+  virtual void RunCommand(std::string_view format, const std::function<void()>& command) noexcept = 0;
+  /// The same for the opening of the menu.
+  virtual void RunMenuOpening(std::string_view format, const std::function<void()>& refresh) noexcept = 0;
+
+ protected:
+  ~ITeamCommands() = default;
+};
 
 /// The host lacks what the menu needs.
 class EExpertMenu : public std::runtime_error {
@@ -19,8 +56,8 @@ class EExpertMenu : public std::runtime_error {
 /// Created by the expert and installed in the host for as long as it lives.  User-interface thread only.
 class TExpertMainMenuModule {
  public:
-  /// `expert` is borrowed.  Throws EExpertMenu when the host has no menu services.
-  explicit TExpertMainMenuModule(TSccExpert& expert);
+  /// `commands` is borrowed.  Throws EExpertMenu when the host has no menu services.
+  explicit TExpertMainMenuModule(ITeamCommands& commands);
   ~TExpertMainMenuModule();
   TExpertMainMenuModule(const TExpertMainMenuModule&) = delete;
   TExpertMainMenuModule& operator=(const TExpertMainMenuModule&) = delete;
@@ -83,12 +120,11 @@ class TExpertMainMenuModule {
   void ShowDiffSingle(const std::string& fileName);
   void ShowHistorySingle(const std::string& fileName);
   void PropertiesSingle(const std::string& fileName);
-  void Run(const TResString& error, void (TSccExpert::*command)());
-  /// Runs a command of the expert for one file, or for the whole project when the name is empty.
-  void Run(const TResString& error, void (TSccExpert::*command)(const std::string&),
+  void Run(const TResString& error, void (ITeamCommands::*command)());
+  void Run(const TResString& error, void (ITeamCommands::*command)(const std::string&),
            const std::string& fileName);
 
-  TSccExpert& expert_;
+  ITeamCommands& commands_;
   TAction act_get_files_;  // of GetFiles, which the menu hides: the action list has it all the same
   TFileMenu file_menu_;
 };

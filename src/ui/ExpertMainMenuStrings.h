@@ -17,6 +17,7 @@ constexpr TResString sActUndoCheckOutFiles{"Undo Check Out Files..."};
 constexpr TResString sActRunSccApp{"Run Scc Application"};
 constexpr TResString sActCommitBrowser{"File Explorer"};
 constexpr TResString sActMessages{"Messages"};
+constexpr TResString sGetLatestVersion{"Get Latest Version"};
 
 // Captions of items without an action, and of two that differ from their action's.  The difference is meant: the menu
 // names the window that opens, the host's list of commands what it is for.
@@ -38,6 +39,8 @@ constexpr TResString sSCC5{"SCC5"};
 constexpr TResString sSCC6{"SCC6"};
 constexpr TResString sSCC7{"SCC7"};
 constexpr TResString sSCC8{"SCC8"};
+
+constexpr TResString sUnableToGetIDEServices{"Unable to get IDE services"};
 
 // What a handler writes when its command ends early; %s is the reason.
 constexpr TResString sMainMenuError{"MainMenu; %s"};
