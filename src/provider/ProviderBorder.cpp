@@ -60,22 +60,6 @@ constexpr TTextKind kTextKinds[] = {
 
 }  // namespace
 
-void TBoundedText::SetUncut(std::string_view text) { text_ = UpToNul(text); }
-
-void TBoundedText::Set(std::string_view text) {
-  SetUncut(text);
-  text_ = Cut();
-}
-
-std::string TBoundedText::Cut() const {
-  return Fits() ? text_ : FromCodePageLossy(TruncateInCodePage(*ToCodePageExact(text_), size_ - 1));
-}
-
-bool TBoundedText::Fits() const {
-  const auto bytes = ToCodePageExact(text_);
-  return !bytes || bytes->size() < size_;
-}
-
 IProviderSink* SetProviderSink(IProviderSink* newSink) {
   const std::lock_guard lock(waiting.Lock);
   waiting.UserInterface = std::this_thread::get_id();
