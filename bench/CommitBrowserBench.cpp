@@ -22,7 +22,7 @@ void ListAll(TBigProject& project) {
 }
 
 void ShowAndClose(TBigProject& project) {
-  TCommitBrowser form(project.Expert());
+  TCommitBrowser form(project.Expert().Context());
   bool painted = false;
   form.StringGrid1->GetGridWindow()->Bind(wxEVT_PAINT, [&](wxPaintEvent& event) {
     event.Skip();
@@ -77,7 +77,7 @@ void CommitAll(benchmark::State& state) {
   double whole = 0;
   for (auto _ : state)
     whole += Milliseconds([&] {
-      CommitRows(project.Expert(), rows, {}, std::make_unique<TNoProgress>());
+      CommitRows(project.Expert().Context(), rows, {}, std::make_unique<TNoProgress>());
       project.Host.Log.clear();
     });
 

@@ -7,7 +7,7 @@
 #include <string_view>
 
 #include "commands/GetFileListStrings.h"
-#include "expert/SccExpert.h"
+#include "expert/CommandContext.h"
 #include "expert/SccSystem.h"
 #include "host/WxText.h"
 #include "ui/ButtonStrings.h"
@@ -83,7 +83,7 @@ wxString TFilesListView::OnGetItemText(long item, long column) const {
 
 bool TFilesListView::OnGetItemIsChecked(long item) const { return model_.IsChecked(Row(item)); }
 
-TGetFileListForm::TGetFileListForm(TSccExpert& expert, TFileListModel& model)
+TGetFileListForm::TGetFileListForm(TCommandContext& expert, TFileListModel& model)
     : TModalForm(ToWx(model.Caption.empty() ? sGetFileListCaption.str() : model.Caption),
                  wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER),
       Expert(expert),
@@ -225,12 +225,11 @@ void TGetFileListForm::btnCheckAllClick(wxCommandEvent&) { ChangeAllCheckedState
 void TGetFileListForm::btnUncheckAllClick(wxCommandEvent&) { ChangeAllCheckedStates(false); }
 
 void TGetFileListForm::btnAdvancedClick(wxCommandEvent&) {
-  if (Expert.Activities().InProviderCall()) return wxBell();  // its options are being shown
-  // The host may have closed the project while the list was open.
-  auto* providers = Expert.ProviderList();
-  auto* project = providers ? providers->CurrentProject() : nullptr;
+  if (Expert.Activities.InProviderCall()) return wxBell();  // its options are being shown
   TStateMessages messages;
-  if (project) project->GetCommandOptions(model_.CommandKind, coShowAdvDialog, messages);
+  // The host may have closed the project while the list was open.
+  if (auto* project = Expert.Provider.CurrentProject())
+    project->GetCommandOptions(model_.CommandKind, coShowAdvDialog, messages);
 }
 
 void TGetFileListForm::FilesListViewClick(wxListEvent& event) {

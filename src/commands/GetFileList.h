@@ -5,7 +5,7 @@
 #include "ui/ModalForm.h"
 #include "ui/VirtualList.h"
 
-class TSccExpert;
+struct TCommandContext;
 class wxButton;
 class wxCheckBox;
 
@@ -37,7 +37,7 @@ class TFilesListView final : public TVirtualList {
 class TGetFileListForm final : public TModalForm {
  public:
   /// Edits `model` in place; the boxes under the list are stored when OK is pressed.  Both are borrowed.
-  TGetFileListForm(TSccExpert& expert, TFileListModel& model);
+  TGetFileListForm(TCommandContext& expert, TFileListModel& model);
   ~TGetFileListForm() override;
 
   /// Appends a row.
@@ -75,7 +75,7 @@ class TGetFileListForm final : public TModalForm {
   void ShowHelp();
   void ToggleSelected();
 
-  TSccExpert& Expert;
+  TCommandContext& Expert;
   TFileListModel& model_;
 };
 

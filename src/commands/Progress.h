@@ -9,7 +9,7 @@
 #include <map>
 #include <string>
 
-#include "expert/ExpertForms.h"
+#include "expert/ExpertUi.h"
 
 class TProgressForm;
 

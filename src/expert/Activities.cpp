@@ -41,18 +41,18 @@ void TActivities::Run(TActivity wanted, const std::function<void()>& body) {
     const TScope running(*this, wanted);
     body();
   } catch (...) {
-    Resume();
+    RunWaiting();
     throw;
   }
-  Resume();
+  RunWaiting();
 }
 
 void TActivities::Notify(std::function<void()> handle) {
   waiting_.push_back(std::move(handle));
-  Resume();
+  RunWaiting();
 }
 
-void TActivities::Resume() {
+void TActivities::RunWaiting() {
   while (!waiting_.empty() && Ask(TActivity::Notification) == TVerdict::Start) {
     const auto handle = std::move(waiting_.front());
     waiting_.pop_front();

@@ -29,7 +29,7 @@ class TActivities {
   /// Runs `handle` now, or when what is in its way has ended; in the order of the calls.  It must not throw.
   void Notify(std::function<void()> handle);
   /// Runs the notifications that have waited and may start now.
-  void Resume();
+  void RunWaiting();
 
   bool InProviderCall() const { return in_provider_call_(); }
   /// For whoever is about to call the provider or to release it.  Throws EAbort while one of its functions runs: most

@@ -27,9 +27,9 @@ std::string_view Bare(std::string_view word) {
 
 }  // namespace
 
-TCallProgress::TCallProgress(IExpertForms& forms, const std::string& caption, Kind kind,
-                             const std::string& what, const TStringList& files)
-    : files_(files), progress_(forms.StartProgress(caption, files.size())) {
+TCallProgress::TCallProgress(IExpertUi& ui, const std::string& caption, Kind kind, const std::string& what,
+                             const TStringList& files)
+    : files_(files), progress_(ui.StartProgress(caption, files.size())) {
   progress_->BeginCall(what, kPerFile[static_cast<int>(kind)]);
   previous_ = SetProviderSink(this);
 }

@@ -6,7 +6,7 @@
 #include <string>
 #include <unordered_set>
 
-#include "expert/ExpertForms.h"
+#include "expert/ExpertUi.h"
 #include "provider/sccapiintf.h"
 
 /// Lives as long as the call.  Hands all lines on to the sink before it, and counts a file as under way when a line
@@ -15,9 +15,9 @@ class TCallProgress final : private IProviderSink {
  public:
   enum class Kind { Status, Command };
 
-  /// `caption` is the window's, `what` says what happens to the files before the provider says it.  `forms` and `files`
+  /// `caption` is the window's, `what` says what happens to the files before the provider says it.  `ui` and `files`
   /// are borrowed.
-  TCallProgress(IExpertForms& forms, const std::string& caption, Kind kind, const std::string& what,
+  TCallProgress(IExpertUi& ui, const std::string& caption, Kind kind, const std::string& what,
                 const TStringList& files);
   ~TCallProgress() override;
   TCallProgress(const TCallProgress&) = delete;

@@ -5,7 +5,7 @@
 #include <limits>
 #include <stdexcept>
 
-#include "expert/SccExpert.h"
+#include "expert/MessageLog.h"
 #include "expert/SccExpertStrings.h"
 #include "host/Options.h"
 
@@ -132,11 +132,8 @@ void TCommentMemory::Used(const std::string& place, const std::string& text) {
   changed_ = true;
 }
 
-void TCommentMemory::Save() try {
-  if (changed_) Store();
-  changed_ = false;
-} catch (const std::runtime_error& error) {
-  WriteMessageFmt(mwtWarning, sCommentsNotStored.Text, {error.what()});
+void TCommentMemory::Save() {
+  if (changed_ && RunCatching([this] { Store(); }, ToLog(mwtWarning, sCommentsNotStored))) changed_ = false;
 }
 
 void TCommentMemory::Store() {

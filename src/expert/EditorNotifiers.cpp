@@ -80,7 +80,7 @@ void TSccEditorNotifier::ViewActivated() { expert_.ViewChange(rv_GetCurrentFile(
 
 void TSccEditorNotifier::ViewNotification(TOTAOperation operation) {
   if (operation != TOTAOperation::opInsert) return;
-  auto* form = GetFormEditor(FindModule(rv_GetCurrentFile()), expert_.FormExtension());
+  auto* form = GetFormEditor(FindModule(rv_GetCurrentFile()), kFormExtension);
   if (form) expert_.FormEditors()->Add(form->GetFileName());
 }
 
@@ -91,12 +91,11 @@ void* TSccFormNotifier::QueryInterface(const TGuid& iid) noexcept {
 }
 
 IOTAEditor* TSccFormNotifier::FindEditor() {
-  return GetFormEditor(FindModule(ChangeFileExt(file_name_, expert_.SourceExtension())),
-                       ExtractFileExt(file_name_));
+  return GetFormEditor(FindModule(ChangeFileExt(file_name_, kSourceExtension)), ExtractFileExt(file_name_));
 }
 
 void TSccFormNotifier::Attach(const std::shared_ptr<IOTANotifier>& self) {
-  if (!FindModule(ChangeFileExt(file_name_, expert_.SourceExtension()))) throw EAbort(sFormModuleNil);
+  if (!FindModule(ChangeFileExt(file_name_, kSourceExtension))) throw EAbort(sFormModuleNil);
   auto* editor = FindEditor();
   if (!editor) throw EAbort(sFormEditorNil);
   index_ = editor->AddNotifier(self);
@@ -109,7 +108,7 @@ void TSccFormNotifier::FormActivated() {
     WriteMessage(mwtError, sFormActivatedNil);
     return;
   }
-  expert_.ViewChange(ChangeFileExt(form->GetFileName(), expert_.SourceExtension()));
+  expert_.ViewChange(ChangeFileExt(form->GetFileName(), kSourceExtension));
 }
 
 void TSccFormNotifier::Destroyed() { expert_.FormEditors()->Remove(file_name_); }

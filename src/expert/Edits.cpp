@@ -1,23 +1,61 @@
 #include "expert/Edits.h"
 
-#include "expert/SccExpert.h"
+#include <algorithm>
+
+#include "expert/ProjectFiles.h"
 #include "expert/SccExpertStrings.h"
 #include "expert/SccSystem.h"
 #include "host/Errors.h"
 #include "host/Paths.h"
+#include "host/System.h"
 
 namespace {
 
-bool IsEdited(const TSccExpert& expert, const std::string& fileName) {
-  if (expert.IsUnit(fileName) || expert.IsProject(fileName)) return IsUnitModified(fileName);
-  auto* editor = FindEditor(fileName, ChangeFileExt(fileName, expert.SourceExtension()));
+bool IsEdited(const std::string& fileName) {
+  if (IsUnit(fileName) || IsProject(fileName)) return IsUnitModified(fileName);
+  auto* editor = FindEditor(fileName, ChangeFileExt(fileName, kSourceExtension));
   return editor && editor->GetModified();
 }
 
 }  // namespace
 
-void SaveEdits(const TSccExpert& expert, const std::string& fileName) {
-  if (!IsEdited(expert, fileName)) return;
+void SaveEdits(const std::string& fileName) {
+  if (!IsEdited(fileName)) return;
   auto* actions = IdeService<IOTAActionServices>();
   if (!actions || !actions->SaveFile(fileName)) throw EAbort(Format(sFileNotSaved, {fileName}));
+}
+
+void SaveAllModules() {
+  auto* modules = IdeService<IOTAModuleServices>();
+  if (!modules || !modules->SaveAll()) throw EAbort(sSaveAllFailed);
+}
+
+void ReloadProject(const std::string& projectFile) {
+  auto* modules = IdeService<IOTAModuleServices>();
+  auto* actions = IdeService<IOTAActionServices>();
+  if (!modules || !actions) return;
+  auto* group = modules->GetMainProjectGroup();
+  const auto groupFile = group ? group->GetFileName() : std::string();
+  const std::string project = projectFile;  // the argument may belong to a module that closes now
+  modules->CloseAll();
+  if (FileExists(groupFile))
+    actions->OpenFile(groupFile);
+  else
+    actions->OpenProject(project, true);
+}
+
+void ReloadFile(const std::string& fileName) {
+  const auto project = GetCurrentProjectFile();
+  if (SameText(fileName, project)) return ReloadProject(project);
+  auto* modules = IdeService<IOTAModuleServices>();
+  auto* actions = IdeService<IOTAActionServices>();
+  if (!modules || !actions || SameText(ExtractFileExt(fileName), kProjectExtension)) return;
+  if (modules->FindModule(fileName)) actions->ReloadFile(fileName);
+}
+
+void ReloadFiles(const std::vector<std::string>& files) {
+  const auto project = GetCurrentProjectFile();
+  if (std::ranges::any_of(files, [&](const auto& file) { return SameText(file, project); }))
+    return ReloadProject(project);
+  for (const auto& file : files) ReloadFile(file);
 }

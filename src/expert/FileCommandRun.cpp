@@ -5,9 +5,14 @@
 #include <unordered_set>
 
 #include "expert/CallProgress.h"
+#include "expert/CommentMemory.h"
 #include "expert/Edits.h"
 #include "expert/FileCommandStrings.h"
+#include "expert/FileIndex.h"
+#include "expert/ProjectFiles.h"
+#include "expert/ProviderWindows.h"
 #include "expert/SccExpertStrings.h"
+#include "expert/SccSystem.h"
 #include "host/Errors.h"
 #include "host/Paths.h"
 #include "host/System.h"
@@ -37,18 +42,69 @@ const TResString& ProbeText(scc::Long code) {
   return found == kProbeTexts.end() ? sProbeUnknown : found->Text;
 }
 
-}  // namespace
+/// For one Execute().
+class TFileCommandRun {
+ public:
+  TFileCommandRun(TCommandContext& context, const TFileCommand& command, const std::string& fileName);
+  void Execute();
 
-TFileCommandRun::TFileCommandRun(TSccExpert& expert, const TFileCommand& command, const std::string& fileName)
-    : expert_(expert),
+ private:
+  /// To be called before every provider call: the dialogs in between run message loops in which the host may close the
+  /// project.  Runs the notifications that have waited, then selects the provider project again.
+  TSCCProviderProject& Project();
+  void Gather();
+  void SelectEligible();
+  void FillList(TFileListModel& model);
+  void TakeTicked(const TFileListModel& model);
+  bool WantsComment();
+  /// With a file name the dialog is for that file and offers to use the comment for the rest.  Throws EAbort when the
+  /// user cancels.
+  void AskComment(const std::string& caption, const std::string& fileName);
+  /// Saves the file's unsaved changes; on failure shows the reason and returns false.
+  bool SaveFile(const std::string& fileName);
+  /// The same for all selected files; deselects those that cannot be saved.  Returns whether all were saved.
+  bool SaveSelected();
+  /// Calls the provider for these files and shows its messages.  Returns whether it succeeded.
+  bool CallProvider(const TStringList& files);
+  /// All commands but add: one comment, all files saved first, then one call or one call per file.  Reports success
+  /// only if no file was left out.
+  void CallTogether();
+  bool CallBatch();
+  /// Returns the result of the last call only; intentional: earlier failures have shown their messages.
+  bool CallOneByOne();
+  /// Add: one comment and one call per file; the report depends on the number of successes.  Adding changes no file, so
+  /// nothing is reloaded.
+  void CallCounting();
+  void Reload(bool done);
+  void ReportDone();
+  void Box(const TResString& caption, const std::string& text, TMsgType kind = metInfo);
+
+  TCommandContext& context_;
+  const TFileCommand& command_;
+  const std::string file_name_;
+  std::string directory_;
+  TStringList all_files_;
+  TFileIndex all_index_;
+  TStringList selected_;
+  TStatusArray statuses_;
+  TCommentMemory comments_;
+  std::string comment_;
+  std::string comment_place_;  // key in TCommentMemory
+  bool apply_to_all_ = false;
+  bool keep_checked_out_ = false;
+};
+
+TFileCommandRun::TFileCommandRun(TCommandContext& context, const TFileCommand& command,
+                                 const std::string& fileName)
+    : context_(context),
       command_(command),
       file_name_(Trim(fileName).empty() ? std::string() : fileName),
-      comments_(expert.GetCurrentProjectFile()) {}
+      comments_(GetCurrentProjectFile()) {}
 
 void TFileCommandRun::Execute() {
-  directory_ = ExtractFileDir(expert_.GetCurrentProjectFile());
+  directory_ = ExtractFileDir(GetCurrentProjectFile());
   Project();  // before anything is saved or gathered
-  if (command_.SaveAllFirst) expert_.SaveAll();
+  if (command_.SaveAllFirst) SaveAllModules();
   Gather();
   TStateMessages messages;
   const auto option = static_cast<TCommandOptions>(command_.Command);
@@ -70,7 +126,7 @@ void TFileCommandRun::Execute() {
   model.HasOptions = hasOptions;
   model.CommandKind = option;
   model.Extra = command_.Extra;
-  const int result = expert_.Forms().ShowFileList(expert_, model);
+  const int result = context_.Ui.ShowFileList(context_, model);
   selected_.clear();
   if (result == mrOk) TakeTicked(model);
   if (result == mrCancel) throw EAbort(sUserCancelledDialog);
@@ -82,19 +138,21 @@ void TFileCommandRun::Execute() {
 }
 
 TSCCProviderProject& TFileCommandRun::Project() {
-  return expert_.RequireProject(directory_, command_.NoProvider);
+  context_.Activities.RunWaiting();
+  return context_.Provider.SelectProject(directory_, command_.NoProvider);
 }
 
 void TFileCommandRun::Gather() {
-  expert_.AddAssociatedFiles(&all_files_, command_.OnlyExisting);
+  context_.Provider.RequireList(sGetFilesNoProvider);
+  all_files_ = CurrentProjectFiles(command_.OnlyExisting);
   if (command_.ProviderPopulates) {
-    const TCallProgress progress(expert_.Forms(), command_.List, TCallProgress::Kind::Status, sGatheringFiles,
+    const TCallProgress progress(context_.Ui, command_.List, TCallProgress::Kind::Status, sGatheringFiles,
                                  all_files_);
-    expert_.ProviderAddRemove(all_files_, command_.Command);
+    ProviderAddRemove(context_, all_files_, command_.Command);
   }
   all_index_ = TFileIndex(all_files_);
   TStateMessages messages;
-  const TCallProgress progress(expert_.Forms(), command_.List, TCallProgress::Kind::Status, sAskingStatus,
+  const TCallProgress progress(context_.Ui, command_.List, TCallProgress::Kind::Status, sAskingStatus,
                                all_files_);
   // Files whose status is unknown are not offered; the user must be able to find out why.
   if (!Project().Query(all_files_, statuses_, messages)) WriteFailure(command_.Single, messages);
@@ -110,7 +168,7 @@ void TFileCommandRun::SelectEligible() {
 }
 
 void TFileCommandRun::FillList(TFileListModel& model) {
-  const auto progress = expert_.Forms().StartProgress(command_.List, selected_.size());
+  const auto progress = context_.Ui.StartProgress(command_.List, selected_.size());
   for (const auto& file : selected_) {
     progress->Step(model.Count(), file);
     TStateMessages messages;
@@ -123,7 +181,7 @@ void TFileCommandRun::TakeTicked(const TFileListModel& model) {
     if (!model.IsChecked(row)) continue;
     auto file = model.GetFile(static_cast<int>(row));
     selected_.push_back(file);
-    expert_.GetAssociatedFiles(file, all_index_, selected_, command_.OnlyExisting, statuses_);
+    AppendCompanions(file, all_index_, selected_, command_.OnlyExisting, statuses_);
   }
   keep_checked_out_ = command_.Extra == TFileListModel::ExtraBox::KeepCheckedOut     ? model.KeepCheckedOut
                       : command_.Extra == TFileListModel::ExtraBox::CheckOutAfterAdd ? model.CheckOutAfterAdd
@@ -137,7 +195,7 @@ void TFileCommandRun::AskComment(const std::string& caption, const std::string& 
   model.ShowApplyToAll = !fileName.empty();
   model.Text = comments_.Pending(comment_place_);
   model.Recent = comments_.Recent();
-  const int result = expert_.Forms().ShowComments(model);
+  const int result = context_.Ui.ShowComments(model);
   comments_.Typed(comment_place_, model.Text);
   comments_.Save();
   if (result != mrOk) {
@@ -151,16 +209,15 @@ void TFileCommandRun::AskComment(const std::string& caption, const std::string& 
 bool TFileCommandRun::WantsComment() {
   Project();  // throws when there is no provider any more
   return command_.CommentCapability &&
-         expert_.ProviderList()->Capabilities().test(*command_.CommentCapability);
+         context_.Provider.List()->Capabilities().test(*command_.CommentCapability);
 }
 
-bool TFileCommandRun::SaveFile(const std::string& fileName) try {
-  SaveEdits(expert_, fileName);
-  return true;
-} catch (const EAbort& failure) {
-  WriteMessage(mwtError, failure.what());
-  Box(command_.Single, failure.what(), metError);
-  return false;
+bool TFileCommandRun::SaveFile(const std::string& fileName) {
+  return RunCatching<EAbort>([&] { SaveEdits(fileName); },
+                             [this](const EAbort& failure) {
+                               WriteMessage(mwtError, failure.what());
+                               Box(command_.Single, failure.what(), metError);
+                             });
 }
 
 bool TFileCommandRun::SaveSelected() {
@@ -176,13 +233,12 @@ bool TFileCommandRun::SaveSelected() {
 }
 
 bool TFileCommandRun::CallProvider(const TStringList& files) {
-  TStateMessages messages;
-  const bool done = command_.Run(Project(), {files, comment_, keep_checked_out_, messages});
-  if (done) {  // the comment has arrived, whatever becomes of other files
+  const auto [done, messages] = command_.Run(Project(), {files, comment_, keep_checked_out_});
+  if (done) {  // the comment has reached the provider, even if later calls fail
     comments_.Used(comment_place_, comment_);
     comments_.Save();
   }
-  expert_.DisplayMessages(command_.Single, messages);
+  context_.Log.DisplayMessages(command_.Single, messages);
   return done;
 }
 
@@ -198,13 +254,13 @@ void TFileCommandRun::CallTogether() {
 }
 
 bool TFileCommandRun::CallBatch() {
-  const TCallProgress progress(expert_.Forms(), command_.List, TCallProgress::Kind::Command,
-                               sWaitingForProvider, selected_);
+  const TCallProgress progress(context_.Ui, command_.List, TCallProgress::Kind::Command, sWaitingForProvider,
+                               selected_);
   return CallProvider(selected_);
 }
 
 bool TFileCommandRun::CallOneByOne() {
-  const auto progress = expert_.Forms().StartProgress(command_.List, selected_.size());
+  const auto progress = context_.Ui.StartProgress(command_.List, selected_.size());
   bool last = false;
   for (std::size_t i = 0; i < selected_.size(); ++i) {
     progress->Step(i, selected_[i]);
@@ -214,7 +270,7 @@ bool TFileCommandRun::CallOneByOne() {
 }
 
 void TFileCommandRun::CallCounting() {
-  const auto progress = expert_.Forms().StartProgress(command_.List, selected_.size());
+  const auto progress = context_.Ui.StartProgress(command_.List, selected_.size());
   std::size_t done = 0;
   std::size_t succeeded = 0;
   for (const auto& file : selected_) {
@@ -233,7 +289,7 @@ void TFileCommandRun::CallCounting() {
 void TFileCommandRun::Reload(bool done) {
   const auto kind = command_.ReloadKind;
   if (kind == TFileCommand::Reload::Always || (kind == TFileCommand::Reload::OnSuccess && done))
-    expert_.ReloadFiles(selected_);
+    ReloadFiles(selected_);
 }
 
 void TFileCommandRun::ReportDone() {
@@ -244,5 +300,11 @@ void TFileCommandRun::ReportDone() {
 }
 
 void TFileCommandRun::Box(const TResString& caption, const std::string& text, TMsgType kind) {
-  expert_.Forms().ShowMsgDialog(caption, text, kind);
+  context_.Ui.ShowMsgDialog(caption, text, kind);
+}
+
+}  // namespace
+
+void RunFileCommand(TCommandContext& context, const TFileCommand& command, const std::string& fileName) {
+  TFileCommandRun(context, command, fileName).Execute();
 }

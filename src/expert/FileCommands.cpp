@@ -16,6 +16,12 @@ using ExtraBox = TFileListModel::ExtraBox;
 constexpr bool All(Long status, Long bits) { return (status & bits) == bits; }
 constexpr bool None(Long status, Long bits) { return (status & bits) == 0; }
 
+TCallResult Call(const auto& body) {
+  TCallResult result;
+  result.Done = body(result.Messages);
+  return result;
+}
+
 }  // namespace
 
 bool CanAdd(Long status) { return status == SCC_STATUS_NOTCONTROLLED || All(status, SCC_STATUS_DELETED); }
@@ -34,8 +40,10 @@ bool CanUndoCheckOut(Long status) { return All(status, SCC_STATUS_OUTBYUSER | SC
 const TFileCommand kAddFiles{
     .Command = SCC_COMMAND_ADD,
     .Eligible = CanAdd,
-    .Run = [](auto& project,
-              auto& c) { return project.AddFile(c.Files, c.Comment, c.KeepCheckedOut, c.Messages); },
+    .Run =
+        [](auto& p, auto& c) {
+          return Call([&](auto& m) { return p.AddFile(c.Files, c.Comment, c.KeepCheckedOut, m); });
+        },
     .CallKind = PerFileCounting,
     .CommentCapability = pcCommentAdd,
     .SaveAllFirst = true,
@@ -56,7 +64,7 @@ const TFileCommand kAddFiles{
 const TFileCommand kRemoveFiles{
     .Command = SCC_COMMAND_REMOVE,
     .Eligible = CanRemove,
-    .Run = [](auto& project, auto& c) { return project.RemoveFile(c.Files, c.Messages); },
+    .Run = [](auto& p, auto& c) { return Call([&](auto& m) { return p.RemoveFile(c.Files, m); }); },
     .CallKind = Batch,
     .HelpKeyword = "HC_TeamRemoveFiles",
     .NoProvider = sRemoveFilesNoProvider,
@@ -71,7 +79,7 @@ const TFileCommand kRemoveFiles{
 const TFileCommand kGetLatestVersion{
     .Command = SCC_COMMAND_GET,
     .Eligible = CanGet,
-    .Run = [](auto& project, auto& c) { return project.GetFile(c.Files, c.Messages) == SCC_OK; },
+    .Run = [](auto& p, auto& c) { return Call([&](auto& m) { return p.GetFile(c.Files, m) == SCC_OK; }); },
     .CallKind = Batch,
     .ReloadKind = OnSuccess,
     .NoProvider = sGetFilesNoProvider,
@@ -86,8 +94,10 @@ const TFileCommand kGetLatestVersion{
 const TFileCommand kCheckInFiles{
     .Command = SCC_COMMAND_CHECKIN,
     .Eligible = CanCheckIn,
-    .Run = [](auto& project,
-              auto& c) { return project.CheckInFile(c.Files, c.Comment, c.KeepCheckedOut, c.Messages); },
+    .Run =
+        [](auto& p, auto& c) {
+          return Call([&](auto& m) { return p.CheckInFile(c.Files, c.Comment, c.KeepCheckedOut, m); });
+        },
     .CallKind = Batch,
     .CommentCapability = pcCommentCheckIn,
     .SaveAllFirst = true,
@@ -107,7 +117,8 @@ const TFileCommand kCheckInFiles{
 const TFileCommand kCheckOutFiles{
     .Command = SCC_COMMAND_CHECKOUT,
     .Eligible = CanCheckOut,
-    .Run = [](auto& project, auto& c) { return project.CheckOutFile(c.Files, c.Comment, c.Messages); },
+    .Run = [](auto& p,
+              auto& c) { return Call([&](auto& m) { return p.CheckOutFile(c.Files, c.Comment, m); }); },
     .CallKind = PerFile,
     .CommentCapability = pcCommentCheckOut,
     .ReloadKind = Always,
@@ -124,7 +135,7 @@ const TFileCommand kCheckOutFiles{
 const TFileCommand kUndoCheckOut{
     .Command = SCC_COMMAND_UNCHECKOUT,
     .Eligible = CanUndoCheckOut,
-    .Run = [](auto& project, auto& c) { return project.UnCheckOutFile(c.Files, c.Messages); },
+    .Run = [](auto& p, auto& c) { return Call([&](auto& m) { return p.UnCheckOutFile(c.Files, m); }); },
     .CallKind = Batch,
     .ClearReadOnly = true,
     .ReloadKind = OnSuccess,

@@ -10,10 +10,15 @@
 
 /// What one run of a command hands to the provider.
 struct TFileCommandCall {
-  const TStringList& Files;
-  const std::string& Comment;
+  TStringList Files;
+  std::string Comment;
   bool KeepCheckedOut;  ///< the state of the command's extra box
-  TStateMessages& Messages;
+};
+
+/// How a provider call ended.
+struct TCallResult {
+  bool Done = false;
+  TStateMessages Messages;
 };
 
 struct TFileCommand {
@@ -23,8 +28,7 @@ struct TFileCommand {
   scc::SCCCommand Command;
   /// Whether a file of that status may be acted on when the user chose no single file.
   bool (*Eligible)(scc::Long status);
-  /// The provider call; true on success.
-  bool (*Run)(TSCCProviderProject& project, const TFileCommandCall& call);
+  TCallResult (*Run)(TSCCProviderProject& project, const TFileCommandCall& call);
   Calls CallKind;
   std::optional<TProviderCapabilityFlags> CommentCapability =
       {};  ///< asks for a comment when the provider has it

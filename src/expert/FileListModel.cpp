@@ -3,12 +3,10 @@
 #include <algorithm>
 #include <utility>
 
+#include "expert/ProjectFiles.h"
 #include "host/Paths.h"
 
 namespace {
-
-constexpr const char* kFormExtension = ".kfm";
-constexpr const char* kUnitExtension = ".pas";
 
 /// Makes one line of a pasted text: each line break, of whatever system, becomes one blank.
 void JoinLines(std::string& text) {
@@ -43,7 +41,7 @@ void TFileListModel::ChangeAllCheckedStates(bool checked) {
 std::string TFileListModel::TickCurrent(const std::string& currentFile) {
   // The extension is asked for exactly as the IDE writes it: a form file that somebody renamed is any other file.
   const bool form = ExtractFileExt(currentFile) == kFormExtension;
-  const auto meant = form ? ChangeFileExt(currentFile, kUnitExtension) : currentFile;
+  const auto meant = form ? ChangeFileExt(currentFile, kSourceExtension) : currentFile;
   const auto file = FoldCase(meant);
   for (std::size_t i = 0; i < rows_.size(); ++i)
     if (FoldCase(GetFile(static_cast<int>(i))) == file) SetChecked(i, true);

@@ -9,7 +9,7 @@
 #include "provider/SCMAddInOptions.h"
 #include "provider/SCMOptions.h"
 #include "ui/Debug.h"
-#include "wizards/WizardForms.h"
+#include "wizards/WxExpertUiWithWizards.h"
 
 namespace {
 
@@ -35,7 +35,7 @@ class TProductStartup {
  private:
   void MainFormCreated() {
     if (aSccExpert) return;
-    auto expert = std::make_shared<TSccExpert>(forms_);
+    auto expert = std::make_shared<TSccExpert>(ui_);
     aSccExpert = expert.get();
     if (auto* wizards = IdeService<IOTAWizardServices>())
       wizard_index_ = wizards->AddWizard(std::move(expert));
@@ -49,7 +49,7 @@ class TProductStartup {
     });
   }
 
-  TWizardForms forms_;
+  TWxExpertUiWithWizards ui_;
   std::optional<int> cookie_;
   std::optional<int> wizard_index_;
   std::optional<int> options_index_;

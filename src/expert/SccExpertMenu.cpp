@@ -16,38 +16,33 @@
 
 void TSccExpert::MainMenu() {
   const auto project = Trim(GetCurrentProjectFile());
-  const bool mapped = FileExists(ChangeFileExt(project, kMappingExtension));
+  const auto mapping = ChangeFileExt(project, kMappingExtension);
+  const bool mapped = FileExists(mapping);
   menu_->EnableMenus(false);  // holds if what follows fails
   menu_->EnablePlaceMenu(!mapped && !project.empty());
   try {
-    if (project_not_mapped_ || MappingAppeared()) {
-      ReleaseProvider();
-      project_not_mapped_ = false;
+    if (auto& provider = context_.Provider;
+        provider.ProjectNotMapped() || provider.MappingAppeared(mapping)) {
+      provider.Release();
+      provider.SetProjectNotMapped(false);
     }
     PrepareProvider(project);
-    if (mapped && provider_list_ && provider_list_->GetCount() > 0) EnableActiveMenu();
+    if (mapped && ProviderList() && ProviderList()->GetCount() > 0) EnableActiveMenu();
   } catch (...) {
-    menu_->EnableRunScc(provider_list_ != nullptr);
+    menu_->EnableRunScc(ProviderList() != nullptr);
     throw;
   }
-  menu_->EnableRunScc(provider_list_ != nullptr);
+  menu_->EnableRunScc(ProviderList() != nullptr);
 }
 
-std::string TSccExpert::CurrentFile() const { return rv_GetCurrentFile(); }
-
-bool TSccExpert::HasProviderProject() const { return provider_list_ && provider_list_->CurrentProject(); }
-
 std::optional<bool> TSccExpert::HasProviderApplication() const {
-  if (!provider_list_) return std::nullopt;
-  return provider_list_->Capabilities().test(pcSccRunScc);
+  const auto* list = ProviderList();
+  return list ? std::optional(list->Capabilities().test(pcSccRunScc)) : std::nullopt;
 }
 
 void TSccExpert::PrepareProvider(const std::string& project) {
-  if (provider_list_) return;
-  if (project.empty())
-    ReadSettings();
-  else
-    ReadProjectSettings(project);
+  if (ProviderList()) return;
+  ReadSettingsOf(project);
   if (ProviderCreate(0) && !project.empty()) FileNotifyProjectOpen(project);
 }
 
@@ -58,8 +53,8 @@ void TSccExpert::EnableActiveMenu() {
   TStateMessages messages;
   try {
     AddAssociatedFiles(&files, false);
-    const TCallProgress progress(forms_, sTeam, TCallProgress::Kind::Status, sAskingStatus, files);
-    RequireCurrentProject().Query(files, statuses, messages);
+    const TCallProgress progress(context_.Ui, sTeam, TCallProgress::Kind::Status, sAskingStatus, files);
+    SelectHostProject(context_).Query(files, statuses, messages);
   } catch (...) {  // no status, no commands; the reason goes to the message window
     menu_->EnableMenus(false);
     throw;

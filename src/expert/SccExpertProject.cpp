@@ -17,9 +17,9 @@ void TSccIDENotifier::FileNotification(TOTAFileNotification code, const std::str
 }
 
 void TSccExpert::HandleNotification(TOTAFileNotification code, const std::string& fileName) {
-  // The host discards what a notifier throws, so the reason is kept where the user can find it.
-  activities_.Notify(
-      [=, this] { Guarded(mwtError, sFileNotificationError, [&] { Handle(code, fileName); }); });
+  // The host discards what a notifier throws.
+  context_.Activities.Notify(
+      [=, this] { RunCatching([&] { Handle(code, fileName); }, ToLog(mwtError, sFileNotificationError)); });
 }
 
 void TSccExpert::Handle(TOTAFileNotification code, const std::string& fileName) {
@@ -37,87 +37,75 @@ void TSccExpert::Handle(TOTAFileNotification code, const std::string& fileName) 
   }
 }
 
-std::string TSccExpert::GetCurrentProjectFile() {
-  auto* project = CurrentProject();
-  return project ? project->GetFileName() : std::string();
-}
-
 // A host may name the new project as current before it says so; the provider project to close is the one opened here.
 std::string TSccExpert::OpenProjectFile() {
-  return open_project_file_.empty() ? GetCurrentProjectFile() : open_project_file_;
+  const auto& file = context_.Provider.OpenProjectFile();
+  return file.empty() ? GetCurrentProjectFile() : file;
 }
 
 void TSccExpert::FileNotifyProjectOpen(const std::string& fileName) {
   if (!IsProject(fileName)) return;
   if (!ProjectExists(ChangeFileExt(fileName, kMappingExtension))) return;
-  if (provider_list_) FileNotifyProjectClose(OpenProjectFile());
-  if (Trim(fileName).empty())
-    ReadSettings();
-  else
-    ReadProjectSettings(fileName);
+  if (ProviderList()) FileNotifyProjectClose(OpenProjectFile());
+  ReadSettingsOf(fileName);
   if (!ProviderCreate(0)) throw EAbort(sProviderNotAssigned);
   OpenProviderProject(fileName);
 }
 
-void TSccExpert::OpenProviderProject(const std::string& fileName) {
-  const TActivities::TScope handling(activities_, TActivity::Notification);
-  std::string projName;
-  std::string auxProjPath;
-  std::string userName = provider_list_->UserName();
-  ReadSCCIniFile(fileName, projName, userName, auxProjPath);
+void TSccExpert::ReadSettingsOf(const std::string& project) {
+  if (Trim(project).empty())
+    ReadSettings();
+  else
+    ReadProjectSettings(project);
+}
 
+void TSccExpert::OpenProviderProject(const std::string& fileName) {
+  const TActivities::TScope handling(context_.Activities, TActivity::Notification);
+  auto& provider = context_.Provider;
+  auto& list = *provider.List();
+  const auto binding = provider.ReadBinding(fileName, list.UserName());
   const auto directory = ExtractFileDir(fileName);
-  provider_list_->Add(directory);
-  if (!provider_list_->SetCurrentProject(directory)) throw EAbort(sNoMatchingPath);
-  auto& project = *provider_list_->CurrentProject();
-  project.set_ProjName(projName);
-  project.set_ProjPath(auxProjPath);
-  project.set_UserName(userName);
+  list.Add(directory);
+  auto& project = provider.SelectProject(directory, sNoMatchingPath);
+  project.set_ProjName(binding.ProjName);
+  project.set_ProjPath(binding.AuxProjPath);
+  project.set_UserName(binding.UserName);
 
   TStateMessages messages;
   const auto code = project.OpenProject(messages);
-  // The boxes below say nothing of the reason, and a provider that let an exception out counts as opened.
+  // The boxes below do not show the reason, and a provider that let an exception out counts as opened.
   WriteMessage(mwtInfo, messages[1]);
   WriteMessage(mwtError, messages[2]);
   if (code == scc::SCC_OK) {
-    open_project_file_ = fileName;
-    UpdateSCCIniFile(fileName, project.get_UserName());
+    provider.SetOpenProjectFile(fileName);
+    provider.UpdateUserName(fileName, project.get_UserName());
     return;
   }
   const bool refused = code == scc::SCC_E_INVALIDUSER;
-  forms_.ShowMsgDialog(sOpenProject, refused ? sInvalidUserName : sUnknownOpenError, metError);
+  context_.Ui.ShowMsgDialog(sOpenProject, refused ? sInvalidUserName : sUnknownOpenError, metError);
   CloseFailedProject(directory);
 }
 
 void TSccExpert::CloseFailedProject(const std::string& directory) {
-  HideMessages();
+  context_.Log.ShowWindow(false);
   TStateMessages messages;
-  provider_list_->CurrentProject()->CloseProject(messages);
+  auto& list = *ProviderList();
+  list.CurrentProject()->CloseProject(messages);
   if (menu_) menu_->EnableMenus(false);
-  provider_list_->Remove(directory);
-  provider_list_->SetCurrentProject(directory);  // drops the reference to the one removed
-}
-
-// Providers may count on SccUninitialize coming with no project open.
-void TSccExpert::ReleaseProvider() {
-  activities_.RequireNoProviderCall();
-  if (provider_list_ && provider_list_->SetCurrentProject(ExtractFileDir(open_project_file_))) {
-    TStateMessages ignored;
-    provider_list_->CurrentProject()->CloseProject(ignored);
-  }
-  provider_list_.reset();
-  open_project_file_.clear();
+  list.Remove(directory);
+  list.SetCurrentProject(directory);  // the current project must not dangle
 }
 
 void TSccExpert::FileNotifyProjectClose(const std::string& fileName) {
-  if (!provider_list_) return;
-  const TActivities::TScope handling(activities_, TActivity::Notification);
+  auto* list = ProviderList();
+  if (!list) return;
+  const TActivities::TScope handling(context_.Activities, TActivity::Notification);
   const auto directory = ExtractFileDir(fileName);
-  if (provider_list_->SetCurrentProject(directory)) {
+  if (list->SetCurrentProject(directory)) {
     TStateMessages messages;
-    provider_list_->CurrentProject()->CloseProject(messages);
+    list->CurrentProject()->CloseProject(messages);
     DisplayMessages(sCloseProject, messages);
-    provider_list_->Remove(directory);
+    list->Remove(directory);
   }
-  ReleaseProvider();
+  context_.Provider.Release();
 }

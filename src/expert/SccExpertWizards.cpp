@@ -3,19 +3,20 @@
 #include "expert/SccExpertStrings.h"
 #include "host/Errors.h"
 
-// A provider has one project open at a time.  So the wizards start without a provider and create the one that the user
-// chooses, and what was open is opened again afterwards.
+// A provider has one project open at a time.  So the wizards start without a provider, load the one that the user
+// chooses, and the project that was open is opened again afterwards.
 
 void TSccExpert::PlaceProject() {
   const auto project = Trim(GetCurrentProjectFile());
   if (project.empty()) throw EAbort(sNoProjectFile);
   SaveAll();
-  ReleaseProvider();
-  ReadProjectSettings(project);  // the user's choices of now, not of when the last project was opened
-  forms_.ShowPlaceProject(*this);
-  if (!open_project_file_.empty()) return;
-  // Not opened here, even if the wizard has written the mapping file: it has just shown why that does not work.
-  ReleaseProvider();
+  auto& provider = context_.Provider;
+  provider.Release();
+  ReadProjectSettings(project);  // the user may have changed them since the project was opened
+  context_.Ui.ShowPlaceProject(context_);
+  if (!provider.OpenProjectFile().empty()) return;
+  // Not opened here, even if the wizard has written the mapping file: it has just shown why opening fails.
+  provider.Release();
   ReadProjectSettings(project);
 }
 
@@ -24,24 +25,21 @@ namespace {
 void OpenInHost(const std::string& file, bool isProject) {
   auto* actions = IdeService<IOTAActionServices>();
   const bool opened = actions && (isProject ? actions->OpenProject(file, true) : actions->OpenFile(file));
-  if (!opened) WriteMessageFmt(mwtWarning, sPulledNotOpened.Text, {file});
+  if (!opened) WriteMessageFmt(mwtWarning, sPulledNotOpened, {file});
 }
 
 }  // namespace
 
 void TSccExpert::PullProjectWizard() {
-  ReleaseProvider();
+  auto& provider = context_.Provider;
+  provider.Release();
   ReadSettings();
-  const auto pulled = forms_.ShowPullProject(*this);
-  ReleaseProvider();
+  const auto pulled = context_.Ui.ShowPullProject(context_);
+  provider.Release();
   if (!pulled.empty()) OpenInHost(pulled, IsProject(pulled));
-  activities_.Resume();
-  if (!provider_list_) ReopenProject();
-}
-
-void TSccExpert::ReopenProject() {
+  context_.Activities.RunWaiting();
+  if (provider.List()) return;
   const auto project = Trim(GetCurrentProjectFile());
-  if (project.empty()) return ReadSettings();
-  ReadProjectSettings(project);  // a project is only opened for the provider of this name
+  ReadSettingsOf(project);  // a project is only opened for the provider that is selected
   FileNotifyProjectOpen(project);
 }

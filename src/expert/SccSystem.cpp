@@ -46,6 +46,11 @@ IOTAProject* CurrentProject() {
   return result;
 }
 
+std::string GetCurrentProjectFile() {
+  auto* project = CurrentProject();
+  return project ? project->GetFileName() : std::string();
+}
+
 bool IsUnitModified(const std::string& fileName) {
   auto* services = IdeService<IOTAModuleServices>();
   auto* module = services ? services->FindModule(fileName) : nullptr;

@@ -15,6 +15,8 @@ std::string GetCurrentDir();
 /// The active project of the first project group among the open modules; without a group the last open module that is a
 /// project; nullptr with neither.
 IOTAProject* CurrentProject();
+/// The current project's file name; empty without one.
+std::string GetCurrentProjectFile();
 
 /// Whether the unit's source editor has unsaved changes; false when the file is not open.  Throws std::runtime_error
 /// when the module's first editor is no source editor.

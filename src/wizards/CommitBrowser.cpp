@@ -13,8 +13,10 @@
 #include <memory>
 
 #include "commands/CommentsStrings.h"
+#include "expert/CommandContext.h"
 #include "expert/CommentMemory.h"
-#include "expert/SccExpert.h"
+#include "expert/ProviderWindows.h"
+#include "expert/SccSystem.h"
 #include "host/FileName.h"
 #include "host/Paths.h"
 #include "host/System.h"
@@ -84,10 +86,10 @@ class TCommitBrowser::TProgressLine final : public IProgress {
   TClock::time_point next_{};
 };
 
-TCommitBrowser::TCommitBrowser(TSccExpert& expert)
+TCommitBrowser::TCommitBrowser(TCommandContext& expert)
     : TModalForm(ToWx(sCommitBrowserCaption), wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER | wxMAXIMIZE_BOX),
       FExpert(&expert),
-      project_file_(expert.GetCurrentProjectFile()) {
+      project_file_(GetCurrentProjectFile()) {
   CreateControls();
   LayOut();
   FormCreate();
@@ -377,20 +379,18 @@ void TCommitBrowser::TCommitPageControlChange(wxBookCtrlEvent& event) {
 
 // ------------------------------------------------------------------------------------------------ buttons
 
-bool TCommitBrowser::Attempt(const std::function<void()>& command) try {
-  command();
-  return true;
-} catch (const std::exception& error) {
-  FExpert->Forms().ShowMsgDialog(sCommitBrowserCaption, error.what(), metError);
-  return false;
+bool TCommitBrowser::RunShowingErrors(const std::function<void()>& command) {
+  return RunCatching(command, [this](const std::exception& error) {
+    FExpert->Ui.ShowMsgDialog(sCommitBrowserCaption, error.what(), metError);
+  });
 }
 
 void TCommitBrowser::TButtonShowDiffClick(wxCommandEvent&) {
-  if (const auto* row = CurrentRow()) Attempt([&] { FExpert->ShowDiff(row->FileName); });
+  if (const auto* row = CurrentRow()) RunShowingErrors([&] { ShowDiff(*FExpert, row->FileName); });
 }
 
 void TCommitBrowser::TButtonShowHistoryClick(wxCommandEvent&) {
-  if (const auto* row = CurrentRow()) Attempt([&] { FExpert->ShowHistory(row->FileName); });
+  if (const auto* row = CurrentRow()) RunShowingErrors([&] { ShowHistory(*FExpert, row->FileName); });
 }
 
 void TCommitBrowser::TButtonCancelClick(wxCommandEvent&) { CloseWith(mrCancel); }
@@ -400,7 +400,7 @@ void TCommitBrowser::TButtonCommitClick(wxCommandEvent&) {
   const TCommitComments comments{TCheckboxIndividualComment->GetValue(),
                                  FromWx(TMemoSummaryComments->GetValue())};
   SetBusy(true);
-  const bool done = Attempt([&] {
+  const bool done = RunShowingErrors([&] {
     CommitRows(*FExpert, FRows, comments, std::make_unique<TProgressLine>(*progress_, FRows.size()));
   });
   SetBusy(false);

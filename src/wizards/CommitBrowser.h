@@ -12,7 +12,7 @@
 class TActivityComboBox;
 class TCommitGrid;
 class TCommitTable;
-class TSccExpert;
+struct TCommandContext;
 class wxBookCtrlEvent;
 class wxButton;
 class wxCheckBox;
@@ -28,7 +28,7 @@ class TCommitBrowser final : public TModalForm {
  public:
   /// Gathers the rows of the current project.  `expert` is borrowed.  Throws EAbort when there is no provider, or the
   /// project's directory is no provider project.
-  explicit TCommitBrowser(TSccExpert& expert);
+  explicit TCommitBrowser(TCommandContext& expert);
 
   void AddRows();
   void AddRow(const std::string& fileName, const std::string& state, TCommitActivity activity);
@@ -80,7 +80,7 @@ class TCommitBrowser final : public TModalForm {
   std::int32_t FRowCount = 0;
   std::vector<TCommitRowData> FRows;
   bool FShown = false;
-  TSccExpert* FExpert;
+  TCommandContext* FExpert;
 
  private:
   class TProgressLine;
@@ -117,8 +117,8 @@ class TCommitBrowser final : public TModalForm {
   bool TurnToPage(const wxKeyEvent& event);
   /// Holds a memo to what a provider takes.
   static void FitMemo(const TCommentMemo& comment);
-  /// Runs `command` and shows what it throws; whether it threw nothing.
-  bool Attempt(const std::function<void()>& command);
+  /// Runs `command` and shows what it throws in a box.  Returns whether it threw none.
+  bool RunShowingErrors(const std::function<void()>& command);
   void SetBusy(bool busy);
 
   TCommitTable* table_ = nullptr;  // the grid's

@@ -4,9 +4,11 @@
 #include <exception>
 #include <utility>
 
+#include "expert/CommandContext.h"
 #include "expert/CommentMemory.h"
 #include "expert/Edits.h"
-#include "expert/SccExpert.h"
+#include "expert/FileCommands.h"
+#include "expert/SccSystem.h"
 #include "host/Paths.h"
 #include "host/System.h"
 #include "wizards/CommitPassStrings.h"
@@ -14,16 +16,10 @@
 
 namespace {
 
-struct TCall {
-  const TStringList& Files;  // exactly one
-  const std::string& Comment;
-  TStateMessages Messages;
-};
-
-/// What an activity means.
+/// What an activity does.
 struct TStep {
   TResString Line;
-  bool (*Run)(TSCCProviderProject& project, TCall& call);  // nullptr: nothing is done
+  const TFileCommand* Command;  // null: nothing
   bool TakesComment;
   bool Reloads;  // the local copy may have changed
 };
@@ -31,44 +27,27 @@ struct TStep {
 /// By activity.
 constexpr std::array kSteps{
     TStep{sNoAction, nullptr, false, false},
-    TStep{sCommiting,
-          [](auto& project, auto& call) {
-            return project.CheckInFile(call.Files, call.Comment, false, call.Messages);
-          },
-          true, true},
-    TStep{sCheckingOut,
-          [](auto& project, auto& call) {
-            return project.CheckOutFile(call.Files, call.Comment, call.Messages);
-          },
-          true, true},
-    TStep{sUndoingCheckOut,
-          [](auto& project, auto& call) { return project.UnCheckOutFile(call.Files, call.Messages); }, false,
-          true},
-    TStep{sAdding,
-          [](auto& project, auto& call) {
-            return project.AddFile(call.Files, call.Comment, false, call.Messages);
-          },
-          true, false},
-    TStep{sRemoving, [](auto& project, auto& call) { return project.RemoveFile(call.Files, call.Messages); },
-          false, false},
-    TStep{sGettingLatest,
-          [](auto& project, auto& call) { return project.GetFile(call.Files, call.Messages) == scc::SCC_OK; },
-          false, true},
+    TStep{sCommiting, &kCheckInFiles, true, true},
+    TStep{sCheckingOut, &kCheckOutFiles, true, true},
+    TStep{sUndoingCheckOut, &kUndoCheckOut, false, true},
+    TStep{sAdding, &kAddFiles, true, false},
+    TStep{sRemoving, &kRemoveFiles, false, false},
+    TStep{sGettingLatest, &kGetLatestVersion, false, true},
 };
 static_assert(kSteps.size() == kCommitActivities);
 
 class TCommitPass {
  public:
-  TCommitPass(TSccExpert& expert, const TCommitComments& comments)
-      : expert_(expert),
+  TCommitPass(TCommandContext& context, const TCommitComments& comments)
+      : context_(context),
         comments_(comments),
-        directory_(ExtractFileDir(expert.GetCurrentProjectFile())),
-        memory_(expert.GetCurrentProjectFile()),
+        directory_(ExtractFileDir(GetCurrentProjectFile())),
+        memory_(GetCurrentProjectFile()),
         summary_(sProcessingFiles.str() + sCRLF.str()) {}
 
   void Execute(const std::vector<TCommitRowData>& rows, std::unique_ptr<IProgress> progress) {
-    // A call whose own window has left the browser open to the user.
-    expert_.Activities().RequireNoProviderCall();
+    // A window of the provider's may leave the browser enabled.
+    context_.Activities.RequireNoProviderCall();
     Project();
     for (std::size_t i = 0; i < rows.size(); ++i) {
       progress->Step(i, rows[i].FileName);
@@ -76,19 +55,22 @@ class TCommitPass {
     }
     progress.reset();
     memory_.Save();
-    Guarded(mwtError, sReloadError, [this] { expert_.ReloadFiles(changed_); });
-    expert_.Forms().ShowMsgDialog(sCommitSummaryTitle, summary_, metInfo);
+    RunCatching([this] { ReloadFiles(changed_); }, ToLog(mwtError, sReloadError));
+    context_.Ui.ShowMsgDialog(sCommitSummaryTitle, summary_, metInfo);
   }
 
  private:
   /// Looked up before every call: the host may have closed the project meanwhile.
-  TSCCProviderProject& Project() { return expert_.RequireProject(directory_, sCommitNoProvider); }
+  TSCCProviderProject& Project() {
+    context_.Activities.RunWaiting();
+    return context_.Provider.SelectProject(directory_, sCommitNoProvider);
+  }
 
   void CarryOut(const TCommitRowData& row) {
     const auto& step = kSteps[row.Activity];
     summary_.append(sCRLF).append(step.Line).append(RelativePath(directory_, row.FileName));
-    if (step.Run) {
-      const bool done = Attempt(step, row);
+    if (step.Command) {
+      const bool done = Call(step, row);
       if (done && step.Reloads) changed_.push_back(row.FileName);
       summary_.append(sOutcomeFollows).append(done ? sSucceeded : sFailed);
     }
@@ -96,25 +78,23 @@ class TCommitPass {
     SetFileAttributesOf(row.FileName, faArchive);
   }
 
-  /// Whatever goes wrong is this row's failure: the others are still to be done.
-  bool Attempt(const TStep& step, const TCommitRowData& row) {
-    const TStringList file{row.FileName};
-    TCall call{file, comments_.Individual ? row.Comment : comments_.Summary, {}};
-    try {
-      SaveEdits(expert_, row.FileName);
-      if (step.Run(Project(), call)) {
-        if (step.TakesComment)
-          memory_.Used(CommitCommentPlace(comments_.Individual ? row.FileName : std::string()), call.Comment);
-        return true;
-      }
-    } catch (const std::exception& error) {
-      call.Messages.back() = error.what();
-    }
-    WriteFailure(row.FileName, call.Messages);
-    return false;
+  /// An error fails this row only; the others are still carried out.
+  bool Call(const TStep& step, const TCommitRowData& row) {
+    const auto& comment = comments_.Individual ? row.Comment : comments_.Summary;
+    TCallResult result;
+    const auto call = [&] {
+      SaveEdits(row.FileName);
+      result = step.Command->Run(Project(), {{row.FileName}, comment, /*KeepCheckedOut*/ false});
+    };
+    RunCatching(call, [&](const std::exception& error) { result = {false, {"", "", error.what()}}; });
+    if (!result.Done)
+      WriteFailure(row.FileName, result.Messages);
+    else if (step.TakesComment)
+      memory_.Used(CommitCommentPlace(comments_.Individual ? row.FileName : std::string()), comment);
+    return result.Done;
   }
 
-  TSccExpert& expert_;
+  TCommandContext& context_;
   const TCommitComments& comments_;
   const std::string directory_;
   TCommentMemory memory_;
@@ -128,7 +108,7 @@ std::string CommitCommentPlace(const std::string& fileName) {
   return TCommentMemory::Place("browser", fileName);
 }
 
-void CommitRows(TSccExpert& expert, const std::vector<TCommitRowData>& rows, const TCommitComments& comments,
-                std::unique_ptr<IProgress> progress) {
-  TCommitPass(expert, comments).Execute(rows, std::move(progress));
+void CommitRows(TCommandContext& context, const std::vector<TCommitRowData>& rows,
+                const TCommitComments& comments, std::unique_ptr<IProgress> progress) {
+  TCommitPass(context, comments).Execute(rows, std::move(progress));
 }

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "expert/ExpertForms.h"
+#include "expert/ExpertUi.h"
 #include "wizards/CommitRows.h"
 
 /// Which comment a row's provider call gets.
@@ -24,5 +24,5 @@ std::string CommitCommentPlace(const std::string& fileName = {});
 ///
 /// Throws EAbort, with nothing touched, when there is no provider, when a call of it is running, or when the project's
 /// directory is no provider project.
-void CommitRows(TSccExpert& expert, const std::vector<TCommitRowData>& rows, const TCommitComments& comments,
-                std::unique_ptr<IProgress> progress);
+void CommitRows(TCommandContext& context, const std::vector<TCommitRowData>& rows,
+                const TCommitComments& comments, std::unique_ptr<IProgress> progress);

@@ -6,8 +6,10 @@
 #include <optional>
 
 #include "expert/CallProgress.h"
+#include "expert/CommandContext.h"
 #include "expert/FileCommandStrings.h"
-#include "expert/SccExpert.h"
+#include "expert/ProjectFiles.h"
+#include "expert/SccSystem.h"
 #include "host/Paths.h"
 #include "host/System.h"
 #include "wizards/CommitRowsStrings.h"
@@ -96,12 +98,12 @@ class TPopulation {
 
 class TGathering {
  public:
-  explicit TGathering(TSccExpert& expert)
-      : expert_(expert), directory_(ExtractFileDir(expert.GetCurrentProjectFile())) {}
+  explicit TGathering(TCommandContext& context)
+      : context_(context), directory_(ExtractFileDir(GetCurrentProjectFile())) {}
 
   std::vector<TCommitRowData> Rows() {
     Project();
-    expert_.AddAssociatedFiles(&files_, true);
+    files_ = CurrentProjectFiles(/*onlyExisting*/ true);
     SortWithoutDuplicates(files_);
     Populate();
     Query();
@@ -110,7 +112,10 @@ class TGathering {
 
  private:
   /// Looked up before every call: the host may have closed the project meanwhile.
-  TSCCProviderProject& Project() { return expert_.RequireProject(directory_, sCommitNoProvider); }
+  TSCCProviderProject& Project() {
+    context_.Activities.RunWaiting();
+    return context_.Provider.SelectProject(directory_, sCommitNoProvider);
+  }
 
   TStringList Directories() const {
     TStringList directories;
@@ -124,7 +129,7 @@ class TGathering {
   }
 
   TCallProgress Progress(const std::string& what) const {
-    return {expert_.Forms(), sCommitBrowserCaption, TCallProgress::Kind::Status, what, files_};
+    return {context_.Ui, sCommitBrowserCaption, TCallProgress::Kind::Status, what, files_};
   }
 
   void Populate() {
@@ -143,7 +148,7 @@ class TGathering {
     const auto progress = Progress(sAskingStatus);
     // States that the provider could not tell would pass for files to be added.
     if (!Project().Query(files_, statuses_, messages))
-      expert_.DisplayMessages(sCommitBrowserCaption, messages);
+      context_.Log.DisplayMessages(sCommitBrowserCaption, messages);
   }
 
   bool IsLocallyModified(const std::string& file) {
@@ -152,7 +157,7 @@ class TGathering {
   }
 
   std::vector<TCommitRowData> Classified() {
-    const auto progress = expert_.Forms().StartProgress(sCommitBrowserCaption, files_.size());
+    const auto progress = context_.Ui.StartProgress(sCommitBrowserCaption, files_.size());
     std::vector<TCommitRowData> rows;
     rows.reserve(files_.size());
     for (std::size_t i = 0; i < files_.size(); ++i) {
@@ -166,7 +171,7 @@ class TGathering {
     return rows;
   }
 
-  TSccExpert& expert_;
+  TCommandContext& context_;
   const std::string directory_;
   TStringList files_;
   TStatusArray statuses_;
@@ -194,4 +199,4 @@ TCommitRowData ClassifyCommitRow(scc::Long status, bool locallyModified) {
   return {rule->Activity, rule->State, {}, {}};  // the last rule matches everything
 }
 
-std::vector<TCommitRowData> GatherCommitRows(TSccExpert& expert) { return TGathering(expert).Rows(); }
+std::vector<TCommitRowData> GatherCommitRows(TCommandContext& context) { return TGathering(context).Rows(); }

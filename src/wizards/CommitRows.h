@@ -8,7 +8,7 @@
 
 #include "provider/sccapiintf.h"
 
-class TSccExpert;
+struct TCommandContext;
 
 /// What is done to one file.  The values are the indexes of the drop-down's items.
 enum TCommitActivity : std::uint8_t {
@@ -43,4 +43,4 @@ TCommitRowData ClassifyCommitRow(scc::Long status, bool locallyModified);
 /// companions, and the files that only the provider knows, at most kMaxFiles in all.  Asks the provider for one
 /// population, one query, and one quick difference per controlled file on disk.  Throws EAbort when there is no
 /// provider, the project's directory is no provider project, or there are too many files.
-std::vector<TCommitRowData> GatherCommitRows(TSccExpert& expert);
+std::vector<TCommitRowData> GatherCommitRows(TCommandContext& context);

@@ -4,6 +4,8 @@
 #include <unordered_set>
 
 #include "expert/MappingFile.h"
+#include "expert/ProjectFiles.h"
+#include "expert/SccSystem.h"
 #include "host/Errors.h"
 #include "host/Paths.h"
 #include "host/System.h"
@@ -17,15 +19,15 @@ constexpr const char* kDirectoryProvider = "ClearCase";
 
 }  // namespace
 
-TPlaceProjectPages::TPlaceProjectPages(TSccExpert& expert)
+TPlaceProjectPages::TPlaceProjectPages(TCommandContext& expert)
     : TWizardPages(expert),
-      project_file_(expert.GetCurrentProjectFile()),
+      project_file_(GetCurrentProjectFile()),
       directory_(ExtractFileDir(project_file_)) {}
 
 const TResString& TPlaceProjectPages::StepCaption() const { return sPlaceStep; }
 const TResString& TPlaceProjectPages::StatusCaption() const { return sPlaceStatusPage; }
 std::string TPlaceProjectPages::NoProviderText() const { return sPlaceNoProvider; }
-bool TPlaceProjectPages::SkipsProjectPage() const { return FExpert.ProviderName() == kDirectoryProvider; }
+bool TPlaceProjectPages::SkipsProjectPage() const { return FExpert.Provider.Name() == kDirectoryProvider; }
 
 void TPlaceProjectPages::ShowPage(int page) {
   switch (page) {
@@ -58,11 +60,9 @@ void TPlaceProjectPages::PageSelectFilesDisplay() {
   Show(3, sWizardNext);
   files_.clear();
   shown_.clear();
-  if (!FExpert.ProviderList()) throw EAbort(sPlaceNoProvider);
-  TStringList gathered;
-  FExpert.AddAssociatedFiles(&gathered, /*removeMissing*/ true);
+  FExpert.Provider.RequireList(sPlaceNoProvider);
   std::unordered_set<std::string> known;  // a unit may be another file's companion too
-  for (auto& file : gathered)
+  for (auto& file : CurrentProjectFiles(/*onlyExisting*/ true))
     if (known.insert(FoldFileName(file)).second) files_.push_back(std::move(file));
   for (const auto& file : files_) shown_.push_back(RelativePath(directory_, file));
   ticked_.assign(files_.size(), true);
@@ -71,14 +71,10 @@ void TPlaceProjectPages::PageSelectFilesDisplay() {
 void TPlaceProjectPages::PlaceProject() {
   PageStatusDisplay(Work::CanStop);
   bool placed = false;
-  try {
-    placed = Place();
-  } catch (const std::exception& error) {
-    AddFailure({error.what()});
-  }
+  RunCatching([&] { placed = Place(); }, [this](const std::exception& error) { AddFailure({error.what()}); });
   // The mapping file stays when it has been written: it says what was meant.
   if (placed)
-    FExpert.ProjectPlaced(project_file_);
+    FExpert.Provider.SetOpenProjectFile(project_file_);
   else
     RollBack();
   Complete(placed);
@@ -88,8 +84,8 @@ bool TPlaceProjectPages::Place() {
   AddStatus(Format(sPlaceInitializing.Text, {ExtractFileName(project_file_)}));
   const auto& project = EnsureProject();
   TMappingFile mapping(MappingFileName(project_file_));
-  mapping.Write(FExpert.ProviderName(), kMapProjName, project.get_ProjName());
-  mapping.Write(FExpert.ProviderName(), kMapAuxProjPath, project.get_ProjPath());
+  mapping.Write(FExpert.Provider.Name(), kMapProjName, project.get_ProjName());
+  mapping.Write(FExpert.Provider.Name(), kMapAuxProjPath, project.get_ProjPath());
   TProviderWords words;
   const bool opened = Open(mapping, words);
   AddFiles(words, opened);  // whatever came of it: each file says for itself that it cannot be added
@@ -118,7 +114,7 @@ bool TPlaceProjectPages::Open(TMappingFile& mapping, TProviderWords& words) {
     ShowReasons(Reasons(words, messages));
     return false;
   }
-  mapping.Write(FExpert.ProviderName(), kMapUserName, Project().get_UserName());
+  mapping.Write(FExpert.Provider.Name(), kMapUserName, Project().get_UserName());
   return true;
 }
 
@@ -139,11 +135,10 @@ void TPlaceProjectPages::AddFile(std::size_t row, TProviderWords& words, bool op
 }
 
 void TPlaceProjectPages::RollBack() {
-  try {
+  const auto close = [this] {
     TStateMessages messages;
     Project().CloseProject(messages);
     RemoveProject(directory_);
-  } catch (const EAbort&) {
-    // The host has taken the provider away, its projects included.
-  }
+  };
+  RunCatching<EAbort>(close, [](const EAbort&) {});  // the host has released the provider with its projects
 }

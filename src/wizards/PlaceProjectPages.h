@@ -7,7 +7,7 @@
 
 class TPlaceProjectPages final : public TWizardPages {
  public:
-  explicit TPlaceProjectPages(TSccExpert& expert);
+  explicit TPlaceProjectPages(TCommandContext& expert);
 
   // The files of the first check-in: paths relative to the project's directory, all ticked at first.
   std::size_t FileCount() const { return files_.size(); }

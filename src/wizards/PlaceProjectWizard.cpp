@@ -9,7 +9,7 @@ namespace {
 constexpr int kFilesPanel = 3;
 }
 
-TPlaceProjectWizard::TPlaceProjectWizard(TSccExpert& expert) : TWizardForm(pages_), pages_(expert) {
+TPlaceProjectWizard::TPlaceProjectWizard(TCommandContext& expert) : TWizardForm(pages_), pages_(expert) {
   CreateFilesPage();
   CreateStatusPage();
   FormCreate();

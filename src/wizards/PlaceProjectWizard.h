@@ -9,7 +9,7 @@ class wxCheckBox;
 class TPlaceProjectWizard final : public TWizardForm {
  public:
   /// `expert` is borrowed.
-  explicit TPlaceProjectWizard(TSccExpert& expert);
+  explicit TPlaceProjectWizard(TCommandContext& expert);
 
   wxStaticText* DirectionLabelFileSelect;
   TLinesView* FileSelectCheckListBox;

@@ -4,6 +4,8 @@
 #include <filesystem>
 
 #include "expert/MappingFile.h"
+#include "expert/ProjectFiles.h"
+#include "expert/ProviderWindows.h"
 #include "host/Errors.h"
 #include "host/FileName.h"
 #include "host/Paths.h"
@@ -79,7 +81,7 @@ void MakeDirectory(const std::string& directory) {
 
 }  // namespace
 
-TPullProjectPages::TPullProjectPages(TSccExpert& expert) : TWizardPages(expert) {}
+TPullProjectPages::TPullProjectPages(TCommandContext& expert) : TWizardPages(expert) {}
 
 const TResString& TPullProjectPages::StepCaption() const { return sPullStep; }
 const TResString& TPullProjectPages::StatusCaption() const { return sPullStatusPage; }
@@ -146,7 +148,7 @@ void TPullProjectPages::PageSelectProjectDisplay() {
 
 scc::Long TPullProjectPages::Browse(TSCCProviderProject& project, TStateMessages& messages) {
   const auto code =
-      project.GetProjectPath(messages, /*mayCreate*/ false, MayChangePath(FExpert.ProviderPath()));
+      project.GetProjectPath(messages, /*mayCreate*/ false, MayChangePath(FExpert.Provider.Path()));
   Follow(project);
   if (code == scc::SCC_OK && LocalPath() != target_) TargetDirectoryChange(LocalPath());
   return code;
@@ -162,11 +164,8 @@ void TPullProjectPages::PullProject() {
   FProjectFile.clear();
   can_open_ = false;
   PageStatusDisplay(Work::Uninterrupted);
-  try {
-    can_open_ = Pull();
-  } catch (const std::exception& error) {
-    AddFailure({error.what()});
-  }
+  RunCatching([this] { can_open_ = Pull(); },
+              [this](const std::exception& error) { AddFailure({error.what()}); });
   Finish();
   progress_.clear();
   Complete(can_open_);
@@ -201,9 +200,8 @@ std::size_t TPullProjectPages::FindProjectFile() {
   BeginStep(sPullListing);
   TStringList files;
   Project();  // the one whose files are asked for
-  FExpert.ProviderAddRemove(files, scc::SCC_COMMAND_GET);
-  const auto found =
-      std::ranges::find_if(files, [this](const std::string& file) { return FExpert.IsProjectFile(file); });
+  ProviderAddRemove(FExpert, files, scc::SCC_COMMAND_GET);
+  const auto found = std::ranges::find_if(files, IsProjectFile);
   if (found != files.end()) FProjectFile = *found;
   return static_cast<std::size_t>(std::ranges::count_if(
       files, [this](const std::string& file) { return RelativePathBelow(target_, file) != file; }));
@@ -255,17 +253,16 @@ void TPullProjectPages::WriteMapping() {
   const auto& project = Project();
   TMappingFile mapping(
       MappingFileName(IncludeTrailingPathDelimiter(target_) + ExtractFileName(FProjectFile)));
-  mapping.Write(FExpert.ProviderName(), kMapProjName, project.get_ProjName());
-  mapping.Write(FExpert.ProviderName(), kMapAuxProjPath, project.get_ProjPath());
+  mapping.Write(FExpert.Provider.Name(), kMapProjName, project.get_ProjName());
+  mapping.Write(FExpert.Provider.Name(), kMapAuxProjPath, project.get_ProjPath());
 }
 
 void TPullProjectPages::Finish() {
-  try {
+  const auto close = [this] {
     TStateMessages messages;
     Project().CloseProject(messages);
-  } catch (const EAbort&) {
-    // The host has taken the provider away, its projects included.
-  }
+  };
+  RunCatching<EAbort>(close, [](const EAbort&) {});  // the host has released the provider with its projects
   AddStatus(sPullDone);
   RemoveProject(ProjectDirectory());
   if (!FProjectFile.empty()) RemoveProject(ExtractFileDir(FProjectFile));

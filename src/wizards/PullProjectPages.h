@@ -5,7 +5,7 @@
 
 class TPullProjectPages final : public TWizardPages {
  public:
-  explicit TPullProjectPages(TSccExpert& expert);
+  explicit TPullProjectPages(TCommandContext& expert);
 
   void TargetDirectoryChange(const std::string& text);
   const std::string& TargetDirectory() const { return target_; }

@@ -12,7 +12,7 @@ namespace {
 constexpr int kTargetPanel = 3;
 }
 
-TPullProjectWizard::TPullProjectWizard(TSccExpert& expert) : TWizardForm(pages_), pages_(expert) {
+TPullProjectWizard::TPullProjectWizard(TCommandContext& expert) : TWizardForm(pages_), pages_(expert) {
   CreateTargetPage();
   CreateStatusPage();
   FormCreate();

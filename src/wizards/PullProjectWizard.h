@@ -10,7 +10,7 @@ class wxDirDialog;
 class TPullProjectWizard final : public TWizardForm {
  public:
   /// `expert` is borrowed.
-  explicit TPullProjectWizard(TSccExpert& expert);
+  explicit TPullProjectWizard(TCommandContext& expert);
 
   void TargetDirectoryChange(wxCommandEvent& event);
   void TargetDirectoryBrowserButtonClick(wxCommandEvent& event);

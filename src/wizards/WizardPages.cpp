@@ -21,14 +21,13 @@ constexpr std::ptrdiff_t kShownReasons = 3;
 
 }  // namespace
 
-void TWizardPages::Attempt(const std::function<void()>& action) {
+void TWizardPages::ShowProblemOf(const std::function<void()>& action) {
   page_.Problem.clear();
-  try {
-    FExpert.Activities().RequireNoProviderCall();  // whose own window may have left this one open to the user
+  const auto run = [&] {
+    FExpert.Activities.RequireNoProviderCall();  // a window of the provider's may leave this one enabled
     action();
-  } catch (const std::exception& error) {
-    page_.Problem = error.what();
-  }
+  };
+  RunCatching(run, [this](const std::exception& error) { page_.Problem = error.what(); });
   Changed();
 }
 
@@ -42,12 +41,12 @@ void TWizardPages::Progressed() const {
 
 void TWizardPages::FormCreate(TWindowHandle window) {
   window_ = window;
-  Attempt([this] {
+  ShowProblemOf([this] {
     Initialize();
     InitializeProject();
   });
   const auto problem = page_.Problem;
-  Attempt([this] { DisplayPage(); });
+  ShowProblemOf([this] { DisplayPage(); });
   page_.Problem = problem;
   Changed();
 }
@@ -61,27 +60,27 @@ void TWizardPages::Initialize() {
   selected_ = providers_.empty() ? -1 : 0;
 
   auto name = TSCMAddInEnvironmentOptions().SCCProvider();
-  if (name.empty()) FExpert.ReadDefaultProvider(name);
+  if (name.empty()) TProviderContext::ReadDefaultProvider(name);
   const auto found =
       std::ranges::find_if(providers_, [&](const std::string& known) { return SameText(known, name); });
   if (found != providers_.end()) selected_ = static_cast<int>(found - providers_.begin());
 }
 
 void TWizardPages::SetSCCSettings() {
-  FExpert.SelectProvider(selected_ < 0 ? std::string() : providers_[static_cast<std::size_t>(selected_)]);
+  FExpert.Provider.Select(selected_ < 0 ? std::string() : providers_[static_cast<std::size_t>(selected_)]);
 }
 
 void TWizardPages::InitializeProject() {
-  if (!FExpert.ProviderList()) {
+  if (!FExpert.Provider.List()) {
     SetSCCSettings();
-    if (!FExpert.ProviderCreate(window_)) return;
+    if (!FExpert.Provider.Create(window_)) return;
   }
   EnsureProject();
 }
 
 TSCCProviderProject& TWizardPages::EnsureProject() {
   if (local_path_.empty()) local_path_ = ProjectDirectory();
-  auto* list = FExpert.ProviderList();
+  auto* list = FExpert.Provider.List();
   if (list && !list->SetCurrentProject(local_path_)) {
     list->Add(local_path_);
     auto& project = Project();
@@ -92,22 +91,25 @@ TSCCProviderProject& TWizardPages::EnsureProject() {
   return Project();
 }
 
-TSCCProviderProject& TWizardPages::Project() { return FExpert.RequireProject(local_path_, NoProviderText()); }
+TSCCProviderProject& TWizardPages::Project() {
+  FExpert.Activities.RunWaiting();
+  return FExpert.Provider.SelectProject(local_path_, NoProviderText());
+}
 
 void TWizardPages::RemoveProject(const std::string& directory) {
-  auto* list = FExpert.ProviderList();
+  auto* list = FExpert.Provider.List();
   if (!list) return;
   list->Remove(directory);
-  list->SetCurrentProject(directory);  // drops the reference to the one removed
+  list->SetCurrentProject(directory);  // the current project must not dangle
 }
 
 void TWizardPages::cbProvidersChange(int selected) {
-  Attempt([&] {
+  ShowProblemOf([&] {
     selected_ = selected;
     picked_ = {};
     project_name_.clear();
     local_path_.clear();
-    FExpert.ReleaseProvider();
+    FExpert.Provider.Release();
     PageSelectProviderDisplay();  // holds if the provider cannot be created
     InitializeProject();
     PageSelectProviderDisplay();
@@ -139,7 +141,7 @@ void TWizardPages::PageSelectProviderDisplay() {
     selected_ = 0;
   }
   const bool none = providers_.size() == 1 && providers_.front() == sNoProvidersAvailable.str();
-  page_.NoProviders = FExpert.ProviderList() == nullptr;
+  page_.NoProviders = FExpert.Provider.List() == nullptr;
   page_.Next = !none && !page_.NoProviders;
 }
 
@@ -163,7 +165,7 @@ void TWizardPages::Complete(bool succeeded) {
 
 void TWizardPages::BackButtonClick() {
   if (FPage == 0) return;
-  Attempt([this] {
+  ShowProblemOf([this] {
     --FPage;
     if (SkipsProjectPage() && FPage == 1) --FPage;
     DisplayPage();
@@ -175,7 +177,7 @@ void TWizardPages::NextFinishButtonClick() {
     finished_ = true;
     return Changed();
   }
-  Attempt([this] {
+  ShowProblemOf([this] {
     if (!MayLeave()) return;
     ++FPage;
     DisplayPage();
@@ -197,7 +199,7 @@ void TWizardPages::Pick(const TSCCProviderProject& project) {
 }
 
 void TWizardPages::ProjectBrowserButtonClick() {
-  Attempt([this] {
+  ShowProblemOf([this] {
     TStateMessages messages;
     TProviderWords words;
     auto& project = EnsureProject();
@@ -213,7 +215,7 @@ void TWizardPages::ProjectBrowserButtonClick() {
 }
 
 void TWizardPages::ProjectNameChange(const std::string& text) {
-  Attempt([&] {
+  ShowProblemOf([&] {
     project_name_ = text;
     page_.Next = !text.empty();
     NameProject(text);

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "expert/SccExpert.h"
+#include "expert/CommandContext.h"
 #include "wizards/ProviderWords.h"
 
 /// What a wizard's form shows of the current page.
@@ -26,7 +26,7 @@ class TWizardPages {
  public:
   /// `expert` is borrowed.  The handlers below never throw: what goes wrong becomes the page's Problem, or a line of the
   /// status page.
-  explicit TWizardPages(TSccExpert& expert) : FExpert(expert) {}
+  explicit TWizardPages(TCommandContext& expert) : FExpert(expert) {}
   TWizardPages(const TWizardPages&) = delete;
   TWizardPages& operator=(const TWizardPages&) = delete;
   virtual ~TWizardPages() = default;
@@ -92,8 +92,8 @@ class TWizardPages {
   /// What the provider said about a failure, or else the texts of its return code.
   static TStringList Reasons(TProviderWords& words, const TStateMessages& messages);
 
-  /// The wizard's provider project, made current.  Looked up anew each time: in the message loops of dialogs the host may
-  /// have taken the provider away.  Throws EAbort when it has.
+  /// The wizard's provider project, made current after waiting notifications have run.  Throws EAbort when the host has
+  /// released the provider meanwhile.
   TSCCProviderProject& Project();
   /// The same, created first when it is not there (any more), with what the user has picked.
   TSCCProviderProject& EnsureProject();
@@ -104,7 +104,7 @@ class TWizardPages {
   const std::string& LocalPath() const { return local_path_; }
   void RemoveProject(const std::string& directory);
 
-  TSccExpert& FExpert;
+  TCommandContext& FExpert;
   TWizardPage page_;
 
  private:
@@ -112,7 +112,8 @@ class TWizardPages {
   void InitializeProject();
   void SetSCCSettings();
   void Pick(const TSCCProviderProject& project);
-  void Attempt(const std::function<void()>& action);
+  /// Runs `action`; what it throws becomes the page's Problem.
+  void ShowProblemOf(const std::function<void()>& action);
 
   /// What names the provider project: it must outlive a session that was rolled back.
   struct TIdentity {

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "commands/Comments.h"
-#include "commands/ExpertFormsWx.h"
+#include "commands/WxExpertUi.h"
 #include "host/WxText.h"
 #include "support/ModalScript.h"
 #include "ui/MsgDialog.h"
@@ -9,10 +9,10 @@
 
 namespace {
 
-struct TForms final : TExpertForms {
-  void ShowCommitBrowser(TSccExpert&) override {}
-  void ShowPlaceProject(TSccExpert&) override {}
-  std::string ShowPullProject(TSccExpert&) override { return {}; }
+struct TForms final : TWxExpertUi {
+  void ShowCommitBrowser(TCommandContext&) override {}
+  void ShowPlaceProject(TCommandContext&) override {}
+  std::string ShowPullProject(TCommandContext&) override { return {}; }
 };
 
 TEST(ExpertForms, BringUpTheRealWindows) {

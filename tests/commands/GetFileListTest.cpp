@@ -23,7 +23,7 @@ struct FileList : testing::Test {
       model.AddFile(Native("/p/unit" + std::to_string(i) + ".pas"), "Current");
   }
   int Show(std::function<void(TGetFileListForm&)> user) {
-    TGetFileListForm form(*expert, model);
+    TGetFileListForm form(expert->Context(), model);
     return ShowAndPlay(form, std::move(user));
   }
   void InstallProvider(const std::string& path) {
@@ -146,7 +146,7 @@ TEST_F(FileList, ShowsTheBoxOfTheCommand) {
 }
 
 TEST_F(FileList, CannotBeMadeSmallerThanItsMinimum) {
-  TGetFileListForm form(*expert, model);
+  TGetFileListForm form(expert->Context(), model);
   EXPECT_EQ(form.GetSize(), form.FromDIP(wxSize(662, 359)));
   form.Show();
   form.SetSize(100, 100);
@@ -198,7 +198,7 @@ TEST_F(FileList, F1OpensTheHelpOfTheCommand) {
 TEST_F(FileList, IsFoundByOthersOnlyWhileItGetsFiles) {
   for (const auto command : {coGet, coCheckOut, coCheckIn}) {
     model.CommandKind = command;
-    TGetFileListForm form(*expert, model);
+    TGetFileListForm form(expert->Context(), model);
     EXPECT_EQ(GetFileListForm, command == coGet ? &form : nullptr);
     form.AddFile(Native("/p/unit.pas"), "Current");
     const int last = form.FilesListView->GetItemCount() - 1;

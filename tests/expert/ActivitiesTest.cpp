@@ -60,7 +60,7 @@ TEST_F(Reentrance, AProviderCallHasTheProviderToItself) {
     expert.Menu()->Map.OnClick();
     expert.ViewChange(units_[0]);
     EXPECT_EQ(AbortOf([&] { expert.ChooseProvider(kScripted, "carl"); }), kBusy);
-    EXPECT_EQ(AbortOf([&] { expert.ReleaseProvider(); }),
+    EXPECT_EQ(AbortOf([&] { expert.Context().Provider.Release(); }),
               "The source code control provider is still busy with another call");
     EXPECT_TRUE(provider_->Open);
   };

@@ -8,10 +8,10 @@ class Wizards : public TExpertTest {};
 TEST_F(Wizards, PullingHasTheProviderToItselfAndTheOpenProjectComesBack) {
   Open();
   ASSERT_TRUE(provider_->Open);
-  forms_.OnPullProject.push_back([&](TSccExpert& expert) {
+  forms_.OnPullProject.push_back([&](TCommandContext& context) {
     EXPECT_FALSE(provider_->Open);
-    EXPECT_EQ(expert.ProviderList(), nullptr);
-    expert.SelectProvider("Another");
+    EXPECT_EQ(context.Provider.List(), nullptr);
+    context.Provider.Select("Another");
     return mrCancel;
   });
   expert_->Execute();
@@ -23,7 +23,7 @@ TEST_F(Wizards, PullingHasTheProviderToItselfAndTheOpenProjectComesBack) {
 TEST_F(Wizards, PulledProjectIsOpenedInTheHost) {
   Start();
   forms_.PulledProject = project_file_;
-  const auto pulled = [](TSccExpert&) { return mrOk; };
+  const auto pulled = [](TCommandContext&) { return mrOk; };
   forms_.OnPullProject.assign(2, pulled);
   expert_->Execute();
   forms_.PulledProject = At("All.qvxgroup");
@@ -35,17 +35,17 @@ TEST_F(Wizards, PlacedProjectStaysOpenAndAnAbandonedOneDoesNot) {
   Start();
   EXPECT_EQ(AbortOf([&] { expert_->PlaceProject(); }), "No project or package file found in current project");
   host_.AddProject(project_file_, units_);
-  const auto open = [&](TSccExpert& expert) {
-    expert.SelectProvider(kScripted);
-    expert.ProviderCreate(0);
-    expert.ProviderList()->Add(folder_ / "work");
+  const auto open = [&](TCommandContext& context) {
+    context.Provider.Select(kScripted);
+    context.Provider.Create(0);
+    context.Provider.List()->Add(folder_ / "work");
     TStateMessages messages;
-    expert.RequireProject(folder_ / "work", "").OpenProject(messages);
+    context.Provider.SelectProject(folder_ / "work", "").OpenProject(messages);
     return mrOk;
   };
-  forms_.OnPlaceProject.push_back([&](TSccExpert& expert) {
-    open(expert);
-    expert.ProjectPlaced(project_file_);
+  forms_.OnPlaceProject.push_back([&](TCommandContext& context) {
+    open(context);
+    context.Provider.SetOpenProjectFile(project_file_);
     return mrOk;
   });
   expert_->PlaceProject();

@@ -72,7 +72,7 @@ void TScriptedForms::ShowMsgDialog(const std::string& title, const std::string& 
   if (WhileBoxShown) WhileBoxShown();
 }
 
-int TScriptedForms::ShowFileList(TSccExpert&, TFileListModel& model) {
+int TScriptedForms::ShowFileList(TCommandContext&, TFileListModel& model) {
   return Next(OnFileList, model, model.Caption, Unexpected);
 }
 
@@ -80,16 +80,16 @@ int TScriptedForms::ShowComments(TCommentModel& model) {
   return Next(OnComments, model, model.Caption.empty() ? "Comments" : model.Caption, Unexpected);
 }
 
-void TScriptedForms::ShowCommitBrowser(TSccExpert& expert) {
-  Next(OnCommitBrowser, expert, "Commit Browser", Unexpected);
+void TScriptedForms::ShowCommitBrowser(TCommandContext& context) {
+  Next(OnCommitBrowser, context, "Commit Browser", Unexpected);
 }
 
-void TScriptedForms::ShowPlaceProject(TSccExpert& expert) {
-  Next(OnPlaceProject, expert, "Place project", Unexpected);
+void TScriptedForms::ShowPlaceProject(TCommandContext& context) {
+  Next(OnPlaceProject, context, "Place project", Unexpected);
 }
 
-std::string TScriptedForms::ShowPullProject(TSccExpert& expert) {
-  const bool pulled = Next(OnPullProject, expert, "Pull project", Unexpected) == mrOk;
+std::string TScriptedForms::ShowPullProject(TCommandContext& context) {
+  const bool pulled = Next(OnPullProject, context, "Pull project", Unexpected) == mrOk;
   return pulled ? PulledProject : std::string();
 }
 

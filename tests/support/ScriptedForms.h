@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-#include "expert/ExpertForms.h"
+#include "expert/ExpertUi.h"
 
 struct TShownBox {
   std::string Title;
@@ -17,15 +17,15 @@ struct TShownBox {
 };
 inline void PrintTo(const TShownBox& box, std::ostream* out) { *out << box.Title << ": " << box.Text; }
 
-class TScriptedForms final : public IExpertForms {
+class TScriptedForms final : public IExpertUi {
  public:
   /// What the user does in the next dialogs of each kind; answers mrOk or mrCancel.  A dialog without a script answers
   /// mrCancel and is noted in Unexpected.
   std::deque<std::function<int(TFileListModel&)>> OnFileList;
   std::deque<std::function<int(TCommentModel&)>> OnComments;
-  std::deque<std::function<int(TSccExpert&)>> OnCommitBrowser;
-  std::deque<std::function<int(TSccExpert&)>> OnPlaceProject;
-  std::deque<std::function<int(TSccExpert&)>> OnPullProject;
+  std::deque<std::function<int(TCommandContext&)>> OnCommitBrowser;
+  std::deque<std::function<int(TCommandContext&)>> OnPlaceProject;
+  std::deque<std::function<int(TCommandContext&)>> OnPullProject;
   std::string PulledProject;  ///< what the pull wizard answers after mrOk
   /// Runs while a message dialog is shown, as the host's message loop would.
   std::function<void()> WhileBoxShown;
@@ -45,11 +45,11 @@ class TScriptedForms final : public IExpertForms {
   std::unique_ptr<IMessageWindow> CreateMessageWindow() override;
   void ShowMsgDialog(const std::string& title, const std::string& text, TMsgType kind) override;
   void ShowBox(const std::string& text, TMsgType) override { PlainBoxes.push_back(text); }
-  int ShowFileList(TSccExpert& expert, TFileListModel& model) override;
+  int ShowFileList(TCommandContext& context, TFileListModel& model) override;
   int ShowComments(TCommentModel& model) override;
-  void ShowCommitBrowser(TSccExpert& expert) override;
-  void ShowPlaceProject(TSccExpert& expert) override;
-  std::string ShowPullProject(TSccExpert& expert) override;
+  void ShowCommitBrowser(TCommandContext& context) override;
+  void ShowPlaceProject(TCommandContext& context) override;
+  std::string ShowPullProject(TCommandContext& context) override;
   std::unique_ptr<IProgress> StartProgress(const std::string& caption, std::size_t total) override;
 
   /// Captions of the progress shown, each with how many of how many files were reported.  Of one call: what it was said

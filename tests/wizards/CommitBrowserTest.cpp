@@ -16,7 +16,7 @@ constexpr Long kMine = SCC_STATUS_CONTROLLED | SCC_STATUS_CHECKEDOUT | SCC_STATU
 class CommitBrowser : public TExpertTest {
  protected:
   int Show(std::function<void(TCommitBrowser&)> user) {
-    TCommitBrowser form(Browsed());
+    TCommitBrowser form(Browsed().Context());
     return ShowAndPlay(form, std::move(user));
   }
   TSccExpert& Browsed() {
@@ -89,7 +89,7 @@ TEST_F(CommitBrowser, AProjectWithoutFilesShowsOneEmptyRow) {
 }
 
 TEST_F(CommitBrowser, TheDropDownFloatsOverTheFirstColumn) {
-  TCommitBrowser hidden(Browsed());
+  TCommitBrowser hidden(Browsed().Context());
   hidden.StringGrid1->SetGridCursor(1, cgcActivity);
   EXPECT_FALSE(hidden.ActivityComboBox->IsShown()) << "before the form is shown";
 
@@ -343,7 +343,7 @@ TEST_F(CommitBrowser, CannotBeWorkedWhileThePassRuns) {
 }
 
 TEST_F(CommitBrowser, KeepsItsMinimumAndItsColumnsEqual) {
-  TCommitBrowser form(Browsed());
+  TCommitBrowser form(Browsed().Context());
   EXPECT_EQ(form.GetSize(), form.FromDIP(wxSize(711, 507)));
   form.Show();
   for (const auto size : {wxSize(100, 100), wxSize(1000, 700)}) {

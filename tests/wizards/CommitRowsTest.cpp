@@ -71,7 +71,7 @@ class CommitRowsOf : public TExpertTest {
   /// "name: state/activity" of each row.
   std::vector<std::string> Rows() {
     std::vector<std::string> texts;
-    for (const auto& row : GatherCommitRows(*expert_)) {
+    for (const auto& row : GatherCommitRows(expert_->Context())) {
       EXPECT_EQ(row.Comment, "");
       texts.push_back(RelativePath(At(""), row.FileName) + ": " + row.Status + "/" +
                       ActivityToString(row.Activity));
@@ -125,10 +125,10 @@ TEST_F(CommitRowsOf, AProjectAreItsFilesAndWhatTheProviderKnows) {
 
 TEST_F(CommitRowsOf, AreRefusedWithoutAProviderProject) {
   auto& expert = Start();
-  EXPECT_EQ(AbortOf([&] { GatherCommitRows(expert); }),
+  EXPECT_EQ(AbortOf([&] { GatherCommitRows(expert.Context()); }),
             "Unable to run Commit Browser, provider not assigned");
   ASSERT_TRUE(expert.ProviderCreate(0));
-  EXPECT_EQ(AbortOf([&] { GatherCommitRows(expert); }), "Unable to set current project, no matching path");
+  EXPECT_EQ(AbortOf([&] { GatherCommitRows(expert.Context()); }), "Unable to set current project, no matching path");
   EXPECT_EQ(provider_->Count("SccPopulateList"), 0);
 }
 
@@ -145,7 +145,7 @@ TEST_F(CommitRowsOf, AProviderThatCannotTellIsNotTakenForOneThatKnowsNothing) {
 TEST_F(CommitRowsOf, AProviderThatFloodsTheListIsRefused) {
   auto& expert = Open();
   provider_->Faults.FloodList = true;
-  EXPECT_THAT(AbortOf([&] { GatherCommitRows(expert); }), HasSubstr("65536"));
+  EXPECT_THAT(AbortOf([&] { GatherCommitRows(expert.Context()); }), HasSubstr("65536"));
 }
 
 }  // namespace

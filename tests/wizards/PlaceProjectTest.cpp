@@ -18,7 +18,7 @@ class PlaceProject : public TExpertTest {
   TPlaceProjectPages& Show() {
     if (!expert_) Start();
     if (!host_.FindModule(project_file_)) host_.AddProject(project_file_, units_);
-    pages_ = std::make_unique<TPlaceProjectPages>(*expert_);
+    pages_ = std::make_unique<TPlaceProjectPages>(expert_->Context());
     pages_->FormCreate(0);
     return *pages_;
   }
@@ -211,7 +211,7 @@ TEST_F(PlaceProject, WithoutAUsableProviderTheFirstPageSaysSo) {
   TRegistry registry;
   registry.OpenKey(kInstalledProvidersKey);
   for (const auto& name : registry.GetValueNames()) registry.DeleteValue(name);
-  expert_->ReleaseProvider();
+  expert_->Context().Provider.Release();
   Show();
   EXPECT_THAT(pages_->Providers(), ElementsAre("No providers available"));
   EXPECT_FALSE(Page().Next);

@@ -31,7 +31,7 @@ class PullProject : public TExpertTest {
 
   TPullProjectPages& Show() {
     if (!expert_) Start();
-    pages_ = std::make_unique<TPullProjectPages>(*expert_);
+    pages_ = std::make_unique<TPullProjectPages>(expert_->Context());
     pages_->FormCreate(0);
     return *pages_;
   }

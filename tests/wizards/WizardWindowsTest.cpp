@@ -29,7 +29,7 @@ class WizardWindows : public TExpertTest {
 
 TEST_F(WizardWindows, PlaceIsWorkedByKeyboard) {
   host_.AddProject(project_file_, units_);
-  TPlaceProjectWizard form(*expert_);
+  TPlaceProjectWizard form(expert_->Context());
   const int result = ShowAndPlay<TPlaceProjectWizard>(form, [](TPlaceProjectWizard& wizard) {
     EXPECT_EQ(wizard.GetTitle(), "Place project Wizard: Step 1 of 3");
     EXPECT_THAT(Shown(wizard), ElementsAre(wizard.Page1Panel));
@@ -64,7 +64,7 @@ TEST_F(WizardWindows, PlaceIsWorkedByKeyboard) {
 
 TEST_F(WizardWindows, EscapeStopsThePlacementAndDoesNotCloseTheForm) {
   host_.AddProject(project_file_, units_);
-  TPlaceProjectWizard form(*expert_);
+  TPlaceProjectWizard form(expert_->Context());
   ShowAndPlay<TPlaceProjectWizard>(form, [&](TPlaceProjectWizard& wizard) {
     for (int page = 0; page < 2; ++page) Click(wizard.NextFinishButton);
     provider_->OnCall["SccAdd"] = [&](const ScriptedCall&) {
@@ -89,7 +89,7 @@ TEST_F(WizardWindows, PullOffersToOpenWhatIsThere) {
   provider_->OnCall["SccGet"] = [this](const ScriptedCall&) { folder_.Write("new/App.qvxproj", "x"); };
   const auto play = [this](bool open, bool found) {
     provider_->List.resize(found ? 1 : 0);
-    TPullProjectWizard form(*expert_);
+    TPullProjectWizard form(expert_->Context());
     ShowAndPlay<TPullProjectWizard>(form, [&](TPullProjectWizard& wizard) {
       Click(wizard.NextFinishButton);
       EXPECT_THAT(Shown(wizard), ElementsAre(wizard.Page3Panel));
@@ -115,7 +115,7 @@ TEST_F(WizardWindows, FailureIsShownOnThePageAndEscapeLeaves) {
   TRegistry registry;
   registry.OpenKey("Software\\Scripted");
   registry.WriteString("SccServerPath", "/nowhere/none.so");
-  TPlaceProjectWizard form(*expert_);
+  TPlaceProjectWizard form(expert_->Context());
   EXPECT_EQ(ShowAndPlay<TPlaceProjectWizard>(form,
                                              [](TPlaceProjectWizard& wizard) {
                                                EXPECT_TRUE(wizard.NoProvidersLabel->IsShown());

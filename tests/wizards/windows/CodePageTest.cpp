@@ -42,7 +42,7 @@ TEST_F(WizardsCodePage, CommitRowsKnowTheProvidersNames) {
   provider_->List = {{true, 1, ToCodePageExact(At("sub/Größe.pas"))}};
   provider_->StatusOf = [](const std::string&) { return 1; };
   std::vector<std::string> names;
-  for (const auto& row : GatherCommitRows(*expert_)) {
+  for (const auto& row : GatherCommitRows(expert_->Context())) {
     EXPECT_NE(row.Status, "Not Controlled") << row.FileName;
     names.push_back(row.FileName);
   }

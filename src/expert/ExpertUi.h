@@ -9,7 +9,7 @@
 #include "expert/FileListModel.h"
 #include "ui/Messages.h"
 
-class TSccExpert;
+struct TCommandContext;
 
 /// Says what long work is doing; the work ends with the object.
 class IProgress {
@@ -24,25 +24,25 @@ class IProgress {
 };
 
 /// All modal operations return when the user has closed the window.  User-interface thread only.
-class IExpertForms {
+class IExpertUi {
  public:
-  virtual ~IExpertForms() = default;
+  virtual ~IExpertUi() = default;
   virtual std::unique_ptr<IMessageWindow> CreateMessageWindow() = 0;
   /// A titled box with icon, beep and read-only text.
   virtual void ShowMsgDialog(const std::string& title, const std::string& text, TMsgType kind) = 0;
   /// A standard box with an OK button, for failures before the system's own windows exist and for provider notices.
   virtual void ShowBox(const std::string& text, TMsgType kind) = 0;
   /// mrOk or mrCancel; the model holds the user's choice.
-  virtual int ShowFileList(TSccExpert& expert, TFileListModel& model) = 0;
+  virtual int ShowFileList(TCommandContext& context, TFileListModel& model) = 0;
   virtual int ShowComments(TCommentModel& model) = 0;
   /// Throws EAbort, with no window shown, when the current project cannot be browsed.
-  virtual void ShowCommitBrowser(TSccExpert& expert) = 0;
+  virtual void ShowCommitBrowser(TCommandContext& context) = 0;
   /// Starts showing progress under that caption: nothing for the first half second, then a small window that takes
   /// neither the focus nor any input.  Never nullptr.
   virtual std::unique_ptr<IProgress> StartProgress(const std::string& caption, std::size_t total) = 0;
   /// The wizard that puts the current project under source control.  It leaves the provider project open when that
-  /// succeeded (TSccExpert::ProjectPlaced).
-  virtual void ShowPlaceProject(TSccExpert& expert) = 0;
+  /// succeeded (TProviderContext::SetOpenProjectFile).
+  virtual void ShowPlaceProject(TCommandContext& context) = 0;
   /// The wizard that fetches a project.  Returns the project file that the user wants to have opened, or nothing.
-  virtual std::string ShowPullProject(TSccExpert& expert) = 0;
+  virtual std::string ShowPullProject(TCommandContext& context) = 0;
 };

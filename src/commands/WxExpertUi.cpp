@@ -1,4 +1,4 @@
-#include "commands/ExpertFormsWx.h"
+#include "commands/WxExpertUi.h"
 
 #include <wx/msgdlg.h>
 
@@ -28,24 +28,24 @@ int ShowAndClear(wxDialog&& form) {
 
 }  // namespace
 
-std::unique_ptr<IMessageWindow> TExpertForms::CreateMessageWindow() {
+std::unique_ptr<IMessageWindow> TWxExpertUi::CreateMessageWindow() {
   return std::make_unique<TMsgWinForm>(GetRVHelpFile(kHelpFile));
 }
 
-void TExpertForms::ShowMsgDialog(const std::string& title, const std::string& text, TMsgType kind) {
+void TWxExpertUi::ShowMsgDialog(const std::string& title, const std::string& text, TMsgType kind) {
   ::ShowMsgDialog(title, text, kind);
 }
 
-void TExpertForms::ShowBox(const std::string& text, TMsgType kind) {
+void TWxExpertUi::ShowBox(const std::string& text, TMsgType kind) {
   wxMessageBox(ToWx(text), ToWx(sMsgDialogCaption), wxOK | kBoxIcons[kind]);
 }
 
-int TExpertForms::ShowFileList(TSccExpert& expert, TFileListModel& model) {
-  return ShowAndClear(TGetFileListForm(expert, model));
+int TWxExpertUi::ShowFileList(TCommandContext& context, TFileListModel& model) {
+  return ShowAndClear(TGetFileListForm(context, model));
 }
 
-int TExpertForms::ShowComments(TCommentModel& model) { return ShowAndClear(TCommentsForm(model)); }
+int TWxExpertUi::ShowComments(TCommentModel& model) { return ShowAndClear(TCommentsForm(model)); }
 
-std::unique_ptr<IProgress> TExpertForms::StartProgress(const std::string& caption, std::size_t total) {
+std::unique_ptr<IProgress> TWxExpertUi::StartProgress(const std::string& caption, std::size_t total) {
   return std::make_unique<TProgress>(caption, total, pace_);
 }

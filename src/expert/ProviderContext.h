@@ -1,0 +1,92 @@
+// The provider that the add-in works with: its name, library and user, the loaded provider, and the project that is open.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "expert/Activities.h"
+#include "expert/MessageLog.h"
+#include "provider/sccapiintf.h"
+
+/// What the mapping file says about a project.
+struct TProjectBinding {
+  std::string ProjName;
+  std::string AuxProjPath;
+  std::string UserName;
+  bool Complete = false;  ///< false: reading or writing failed half-way
+};
+
+/// User-interface thread only.  Routines that read or write settings and the mapping file report their errors as one line
+/// of the message window and do not throw.
+class TProviderContext {
+ public:
+  /// `log` and `activities` are borrowed.
+  TProviderContext(TMessageLog& log, const TActivities& activities) : log_(log), activities_(activities) {}
+  TProviderContext(const TProviderContext&) = delete;
+  TProviderContext& operator=(const TProviderContext&) = delete;
+  /// Releases the provider.  While one of its functions is on the stack the library stays loaded instead.
+  ~TProviderContext();
+
+  const std::string& Name() const { return name_; }
+  const std::string& Path() const { return path_; }  ///< of the library; empty when it is not installed
+  const std::string& UserName() const { return user_name_; }
+  /// The loaded provider, or null.
+  TSCCProviderList* List() const { return list_.get(); }
+  /// The current provider project, or null.
+  TSCCProviderProject* CurrentProject() const { return list_ ? list_->CurrentProject() : nullptr; }
+  bool ProjectNotMapped() const { return project_not_mapped_; }
+  void SetProjectNotMapped(bool notMapped) { project_not_mapped_ = notMapped; }
+  /// The host project whose provider project is open; empty when none is.
+  const std::string& OpenProjectFile() const { return open_project_file_; }
+  void SetOpenProjectFile(const std::string& projectFile) { open_project_file_ = projectFile; }
+
+  /// Throws EAbort with `noProvider` when no provider is loaded.
+  TSCCProviderList& RequireList(const std::string& noProvider) const;
+  /// Makes the provider project of that directory current.  Throws EAbort with `noProvider` when no provider is loaded,
+  /// or when no provider project matches.  The reference does not survive a message loop: the host may close the
+  /// project there.
+  TSCCProviderProject& SelectProject(const std::string& directory, const std::string& noProvider) const;
+
+  void ReadSettings();
+  /// The same, but the project's mapping file overrides the user's settings.
+  void ReadProjectSettings(const std::string& projectFile);
+  /// Stores the display name of the machine's default provider in `name`; leaves it unchanged when there is none.
+  static void ReadDefaultProvider(std::string& name);
+  /// Chooses that installed provider; Path() becomes empty when it is not installed.
+  void Select(const std::string& name);
+  void Select(const std::string& name, const std::string& userName);
+
+  /// Loads the selected provider in place of the current one; false without a path.  `window` is the parent of the
+  /// provider's dialogs, 0 for none.  Throws EAbort when the library cannot be loaded or the old provider not released.
+  bool Create(TWindowHandle window);
+  /// The same, but throws EAbort without a path.
+  void Load(TWindowHandle window);
+  /// Closes the open provider project and unloads the provider.  No other function unloads it.  Throws EAbort while a
+  /// provider call is running.
+  void Release();
+
+  /// Whether the mapping file exists and has a section for the provider; also sets ProjectNotMapped().
+  bool ProjectExists(const std::string& mappingFile);
+  /// Whether `mappingFile` is the one that ProjectExists() last found missing, unreadable or damaged, and is intact now.
+  bool MappingAppeared(const std::string& mappingFile) const;
+  /// Reads the provider's section of the project's mapping file.  Writes `userName` into it when it has none.
+  TProjectBinding ReadBinding(const std::string& projectFile, const std::string& userName) const;
+  /// Stores the user name in the provider's section; false when it is blank or cannot be stored.
+  bool UpdateUserName(const std::string& projectFile, const std::string& userName) const;
+
+ private:
+  void ReadProviderOption();
+  void ReadUserOption();
+  void ReadPath();
+
+  TMessageLog& log_;
+  const TActivities& activities_;
+  std::string name_;
+  std::string path_;
+  std::string user_name_;
+  std::unique_ptr<TSCCProviderList> list_;
+  std::string open_project_file_;
+  std::string
+      unread_mapping_;  // the file that ProjectExists() could not read completely; empty when it could
+  bool project_not_mapped_ = false;
+};

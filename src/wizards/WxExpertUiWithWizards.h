@@ -1,0 +1,11 @@
+// The windows that the expert is given in the IDE, those of the wizards among them.
+#pragma once
+
+#include "commands/WxExpertUi.h"
+
+class TWxExpertUiWithWizards final : public TWxExpertUi {
+ public:
+  void ShowCommitBrowser(TCommandContext& context) override;
+  void ShowPlaceProject(TCommandContext& context) override;
+  std::string ShowPullProject(TCommandContext& context) override;
+};
