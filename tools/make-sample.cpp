@@ -9,8 +9,8 @@
 #include <vector>
 
 #include "ProxyLibrary.h"
-#include "Repository.h"
-#include "UsedRepositories.h"
+#include "subversion/project/UsedRepositories.h"
+#include "subversion/svn/Repository.h"
 #include "host/Paths.h"
 #include "host/Registry.h"
 #include "host/System.h"

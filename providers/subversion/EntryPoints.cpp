@@ -2,23 +2,23 @@
 #include <algorithm>
 #include <cstring>
 
-#include "Commands.h"
-#include "EntryGuard.h"
-#include "OpenProject.h"
-#include "Populate.h"
-#include "ProjectPrompt.h"
-#include "SubversionSccStrings.h"
-#include "Windows.h"
+#include "subversion/EntryPointStrings.h"
+#include "subversion/EntryPointWrapper.h"
+#include "subversion/commands/Commands.h"
+#include "subversion/commands/Populate.h"
+#include "subversion/project/OpenProject.h"
+#include "subversion/project/ProjectPrompt.h"
+#include "subversion/windows/ProviderWindows.h"
 
 using namespace scc;
 using svnscc::AfterCommit;
-using svnscc::Guard;
-using svnscc::GuardCommand;
-using svnscc::GuardFiles;
-using svnscc::GuardOpen;
 using svnscc::Names;
 using svnscc::NativeName;
-using svnscc::Session;
+using svnscc::ProviderContext;
+using svnscc::RunEntryPoint;
+using svnscc::RunFileCommand;
+using svnscc::RunWithFiles;
+using svnscc::RunWithProject;
 
 namespace {
 
@@ -53,16 +53,16 @@ extern "C" {
 
 SCC_EXPORT Long SCC_CALL SccGetVersion() { return kVersion; }
 
-SCC_EXPORT Long SCC_CALL SccInitialize(void** context, WindowHandle, const char*, char* sccName,
+SCC_EXPORT Long SCC_CALL SccInitialize(void** handle, WindowHandle, const char*, char* sccName,
                                        Long* capabilities, char* auxPathLabel, Long* checkOutCommentLength,
                                        Long* commentLength) {
-  if (context == nullptr) return SCC_E_INITIALIZEFAILED;
-  *context = nullptr;
+  if (handle == nullptr) return SCC_E_INITIALIZEFAILED;
+  *handle = nullptr;
   try {
     svnscc::EnsureRuntime();
     svnscc::SetLoginPrompt(svnscc::AskLogin);
     svnscc::SetQuestionPrompt(svnscc::ShowQuestion);
-    *context = new Session;
+    *handle = new ProviderContext;
   } catch (...) {  // no text-out yet: the code must do
     return SCC_E_INITIALIZEFAILED;
   }
@@ -74,24 +74,24 @@ SCC_EXPORT Long SCC_CALL SccInitialize(void** context, WindowHandle, const char*
   return SCC_OK;
 }
 
-SCC_EXPORT Long SCC_CALL SccUninitialize(void* context) {
-  delete static_cast<Session*>(context);
+SCC_EXPORT Long SCC_CALL SccUninitialize(void* handle) {
+  delete static_cast<ProviderContext*>(handle);
   return SCC_OK;
 }
 
-SCC_EXPORT Long SCC_CALL SccSetOption(void* context, Long option, Long value) {
-  return Guard(context, [&](Session& session) -> Long {
+SCC_EXPORT Long SCC_CALL SccSetOption(void* handle, Long option, Long value) {
+  return RunEntryPoint(handle, [&](ProviderContext& context) -> Long {
     switch (option) {
       case SCC_OPT_EVENTQUEUE:
-        session.Events().Enable(value != 0);
+        context.Events().Enable(value != 0);
         return SCC_OK;
       case SCC_OPT_HASCANCELMODE:
-        session.ClientCancels = value != 0;
+        context.ClientCancels = value != 0;
         return SCC_OK;
       case SCC_OPT_SCCCHECKOUTONLY:  // none of the provider's windows checks files out
         return SCC_OK;
       case SCC_OPT_SHARESUBPROJ:
-        session.SharesSubprojects = true;
+        context.SharesSubprojects = true;
         return SCC_I_SHARESUBPROJOK;
       default:  // the rest are pointers, which do not fit
         return SCC_E_OPNOTSUPPORTED;
@@ -101,16 +101,16 @@ SCC_EXPORT Long SCC_CALL SccSetOption(void* context, Long option, Long value) {
 
 // ------------------------------------------------------------------------------------------------ projects
 
-SCC_EXPORT Long SCC_CALL SccGetProjPath(void* context, WindowHandle window, char* user, char* projectName,
+SCC_EXPORT Long SCC_CALL SccGetProjPath(void* handle, WindowHandle window, char* user, char* projectName,
                                         char* localPath, char* auxPath, Bool, Bool* isNew) {
-  return Guard(context, [&](Session& session) -> Long {
+  return RunEntryPoint(handle, [&](ProviderContext& context) -> Long {
     svnscc::ProjectRequest request;
     request.User = Text(user);
     request.ProjectName = Text(projectName);
     request.Repository = Text(auxPath);
     request.LocalFolder = Text(localPath);
     request.MayCreate = isNew != nullptr && *isNew != 0;
-    const Long result = svnscc::PromptForProject(session, window, request);
+    const Long result = svnscc::PromptForProject(context, window, request);
     Return(user, request.User, SCC_USER_SIZE);
     if (result != SCC_OK) return result;
     Return(projectName, request.ProjectName, SCC_PRJPATH_SIZE);
@@ -120,20 +120,20 @@ SCC_EXPORT Long SCC_CALL SccGetProjPath(void* context, WindowHandle window, char
   });
 }
 
-SCC_EXPORT Long SCC_CALL SccOpenProject(void* context, WindowHandle window, char* user, char* projectName,
+SCC_EXPORT Long SCC_CALL SccOpenProject(void* handle, WindowHandle window, char* user, char* projectName,
                                         const char* localPath, char* auxPath, const char* comment,
                                         TTextOutProc textOut, Long flags) {
   bool opened = false;
   bool busy = false;
-  const Long result = Guard(context, [&](Session& session) -> Long {
-    busy = session.IsOpen();
+  const Long result = RunEntryPoint(handle, [&](ProviderContext& context) -> Long {
+    busy = context.IsOpen();
     if (busy) return SCC_E_PROJECTALREADYOPEN;
-    session.Out().Attach(textOut);
+    context.Out().Attach(textOut);
     svnscc::ProjectNames names{Text(user), Text(projectName), Text(auxPath), Text(localPath), Text(comment)};
     const auto given = names;
     const bool silent = (flags & SCC_OP_SILENTOPEN) != 0;
     svnscc::OpenProject(
-        session, names,
+        context, names,
         {.MayCreate = !silent && (flags & SCC_OP_CREATEIFNEW) != 0, .Silent = silent, .Parent = window});
     // The client's strings are its own: only what it left open is filled in.
     if (given.User.empty()) Return(user, names.User, SCC_USER_SIZE);
@@ -142,121 +142,123 @@ SCC_EXPORT Long SCC_CALL SccOpenProject(void* context, WindowHandle window, char
     opened = true;
     return SCC_OK;
   });
-  if (!opened && !busy && context != nullptr) static_cast<Session*>(context)->Close();
+  if (!opened && !busy && handle != nullptr) static_cast<ProviderContext*>(handle)->Close();
   return result;
 }
 
-SCC_EXPORT Long SCC_CALL SccCloseProject(void* context) {
-  return GuardOpen(context, [](Session& session) -> Long {
-    session.Close();
+SCC_EXPORT Long SCC_CALL SccCloseProject(void* handle) {
+  return RunWithProject(handle, [](ProviderContext& context) -> Long {
+    context.Close();
     return SCC_OK;
   });
 }
 
 // ------------------------------------------------------------------------------------------------ status
 
-SCC_EXPORT Long SCC_CALL SccQueryInfo(void* context, Long count, const char** names, Long* statuses) {
+SCC_EXPORT Long SCC_CALL SccQueryInfo(void* handle, Long count, const char** names, Long* statuses) {
   if (statuses != nullptr && count > 0)
     std::fill_n(statuses, count, static_cast<Long>(SCC_STATUS_NOTCONTROLLED));
-  return GuardFiles(context, count, names, [&](Session& session, Names files) -> Long {
+  return RunWithFiles(handle, count, names, [&](ProviderContext& context, Names files) -> Long {
     if (files.empty()) return SCC_OK;
     if (statuses == nullptr) return SCC_E_NONSPECIFICERROR;
-    const svnscc::StatusTable& table = svnscc::WalkProject(session);
+    const svnscc::StatusTable& table = svnscc::WalkProject(context);
     for (std::size_t i = 0; i < files.size(); ++i) {
-      const std::string path = session.InsidePath(files[i]);
+      const std::string path = context.InsidePath(files[i]);
       statuses[i] = table.Of(path).Bits;
-      if (!path.empty() && table.Result >= 0) session.Events().Told(path, statuses[i]);
+      if (!path.empty() && table.Result >= 0) context.Events().Told(path, statuses[i]);
     }
     return table.Result;
   });
 }
 
-SCC_EXPORT Long SCC_CALL SccPopulateList(void* context, SCCCommand command, Long count, const char** names,
+SCC_EXPORT Long SCC_CALL SccPopulateList(void* handle, SCCCommand command, Long count, const char** names,
                                          TPopListFunc populate, void* callerData, Long* statuses,
                                          Long flags) {
-  return GuardFiles(context, count, names, [&](Session& session, Names files) {
-    session.Options().Forget();
+  return RunWithFiles(handle, count, names, [&](ProviderContext& context, Names files) {
+    context.Options().Forget();
     const auto named = (flags & SCC_PL_DIR) != 0 ? svnscc::Named::Folders : svnscc::Named::Files;
-    return svnscc::Populate(session, command, files, named, populate, callerData, statuses);
+    return svnscc::Populate(context, command, files, named, populate, callerData, statuses);
   });
 }
 
-SCC_EXPORT Long SCC_CALL SccDiff(void* context, WindowHandle window, const char* name, Long flags, void*) {
-  return GuardOpen(context, [&](Session& session) -> Long {
-    return (flags & SCC_DIFF_QUICK_DIFF) != 0 ? svnscc::QuickDiff(session, name, flags)
-                                              : svnscc::ShowDifferences(session, window, name, flags);
+SCC_EXPORT Long SCC_CALL SccDiff(void* handle, WindowHandle window, const char* name, Long flags, void*) {
+  return RunWithProject(handle, [&](ProviderContext& context) -> Long {
+    return (flags & SCC_DIFF_QUICK_DIFF) != 0 ? svnscc::QuickDiff(context, name, flags)
+                                              : svnscc::ShowDifferences(context, window, name, flags);
   });
 }
 
 // ------------------------------------------------------------------------------------------------ commands
 
-SCC_EXPORT Long SCC_CALL SccGet(void* context, WindowHandle, Long count, const char** names, Long flags,
+SCC_EXPORT Long SCC_CALL SccGet(void* handle, WindowHandle, Long count, const char** names, Long flags,
                                 void* options) {
-  return GuardCommand(context, count, names, [&](Session& session, Names files) {
-    const auto chosen = session.Options().Take(options, SCC_COMMAND_GET);
-    if ((flags & SCC_GET_ALL) == 0) return svnscc::GetFiles(session, files, chosen);
+  return RunFileCommand(handle, count, names, [&](ProviderContext& context, Names files) {
+    const auto chosen = context.Options().Take(options, SCC_COMMAND_GET);
+    if ((flags & SCC_GET_ALL) == 0) return svnscc::GetFiles(context, files, chosen);
     const bool recursive = (flags & SCC_GET_RECURSIVE) != 0;
-    return svnscc::GetFolders(session, files,
+    return svnscc::GetFolders(context, files,
                               recursive ? svnscc::Below::Everything : svnscc::Below::FilesOnly, chosen);
   });
 }
 
-SCC_EXPORT Long SCC_CALL SccCheckout(void* context, WindowHandle, Long count, const char** names,
+SCC_EXPORT Long SCC_CALL SccCheckout(void* handle, WindowHandle, Long count, const char** names,
                                      const char* comment, Long, void* options) {
-  return GuardCommand(context, count, names, [&](Session& session, Names files) {
-    return svnscc::CheckOut(session, files, Text(comment),
-                            session.Options().Take(options, SCC_COMMAND_CHECKOUT));
+  return RunFileCommand(handle, count, names, [&](ProviderContext& context, Names files) {
+    return svnscc::CheckOut(context, files, Text(comment),
+                            context.Options().Take(options, SCC_COMMAND_CHECKOUT));
   });
 }
 
-SCC_EXPORT Long SCC_CALL SccUncheckout(void* context, WindowHandle, Long count, const char** names, Long,
+SCC_EXPORT Long SCC_CALL SccUncheckout(void* handle, WindowHandle, Long count, const char** names, Long,
                                        void*) {
-  return GuardCommand(context, count, names,
-                      [](Session& session, Names files) { return svnscc::UndoCheckOut(session, files); });
+  return RunFileCommand(handle, count, names, [](ProviderContext& context, Names files) {
+    return svnscc::UndoCheckOut(context, files);
+  });
 }
 
-SCC_EXPORT Long SCC_CALL SccCheckin(void* context, WindowHandle, Long count, const char** names,
+SCC_EXPORT Long SCC_CALL SccCheckin(void* handle, WindowHandle, Long count, const char** names,
                                     const char* comment, Long flags, void* options) {
-  return GuardCommand(context, count, names, [&](Session& session, Names files) {
-    return svnscc::CheckIn(session, files, Text(comment), AfterFlags(flags),
-                           session.Options().Take(options, SCC_COMMAND_CHECKIN));
+  return RunFileCommand(handle, count, names, [&](ProviderContext& context, Names files) {
+    return svnscc::CheckIn(context, files, Text(comment), AfterFlags(flags),
+                           context.Options().Take(options, SCC_COMMAND_CHECKIN));
   });
 }
 
 // Clients pass one flag word whatever the number of files, so only the first is read.
-SCC_EXPORT Long SCC_CALL SccAdd(void* context, WindowHandle, Long count, const char** names,
+SCC_EXPORT Long SCC_CALL SccAdd(void* handle, WindowHandle, Long count, const char** names,
                                 const char* comment, Long* flags, void* options) {
-  return GuardCommand(context, count, names, [&](Session& session, Names files) {
+  return RunFileCommand(handle, count, names, [&](ProviderContext& context, Names files) {
     const Long word = flags != nullptr ? *flags : 0;
-    return svnscc::Add(session, files, Text(comment), word, AfterFlags(word),
-                       session.Options().Take(options, SCC_COMMAND_ADD));
+    return svnscc::Add(context, files, Text(comment), word, AfterFlags(word),
+                       context.Options().Take(options, SCC_COMMAND_ADD));
   });
 }
 
-SCC_EXPORT Long SCC_CALL SccRemove(void* context, WindowHandle, Long count, const char** names,
+SCC_EXPORT Long SCC_CALL SccRemove(void* handle, WindowHandle, Long count, const char** names,
                                    const char* comment, Long, void*) {
-  return GuardCommand(context, count, names, [&](Session& session, Names files) {
-    return svnscc::Remove(session, files, Text(comment));
+  return RunFileCommand(handle, count, names, [&](ProviderContext& context, Names files) {
+    return svnscc::Remove(context, files, Text(comment));
   });
 }
 
-SCC_EXPORT Long SCC_CALL SccRename(void* context, WindowHandle, const char* name, const char* newName) {
-  return GuardOpen(context, [&](Session& session) { return svnscc::Rename(session, name, newName); });
+SCC_EXPORT Long SCC_CALL SccRename(void* handle, WindowHandle, const char* name, const char* newName) {
+  return RunWithProject(handle,
+                        [&](ProviderContext& context) { return svnscc::Rename(context, name, newName); });
 }
 
 // Answers from memory.
-SCC_EXPORT Long SCC_CALL SccGetEvents(void* context, char* name, Long* status, Long* remaining) {
+SCC_EXPORT Long SCC_CALL SccGetEvents(void* handle, char* name, Long* status, Long* remaining) {
   constexpr std::size_t kSize = SCC_LOCALPATH_SIZE;
   Return(name, "", kSize);
   if (remaining != nullptr) *remaining = 0;
-  return Guard(context, [&](Session& session) -> Long {
-    auto event = session.Events().Take();
+  return RunEntryPoint(handle, [&](ProviderContext& context) -> Long {
+    auto event = context.Events().Take();
     while (event && NativeName(event->Path).size() >= kSize)
-      event = session.Events().Take();  // would name another file
+      event = context.Events().Take();  // would name another file
     if (!event) return SCC_OK;
     Return(name, NativeName(event->Path), kSize);
     if (status != nullptr) *status = event->Bits;
-    if (remaining != nullptr) *remaining = static_cast<Long>(session.Events().Count());
+    if (remaining != nullptr) *remaining = static_cast<Long>(context.Events().Count());
     return SCC_OK;
   });
 }

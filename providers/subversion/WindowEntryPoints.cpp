@@ -1,59 +1,60 @@
 // The exported names that bring up the provider's windows.
-#include "EntryGuard.h"
-#include "Windows.h"
+#include "subversion/EntryPointWrapper.h"
+#include "subversion/windows/ProviderWindows.h"
 
 using namespace scc;
-using svnscc::Guard;
-using svnscc::GuardFiles;
-using svnscc::GuardOpen;
 using svnscc::Names;
-using svnscc::Session;
+using svnscc::ProviderContext;
+using svnscc::RunEntryPoint;
+using svnscc::RunWithFiles;
+using svnscc::RunWithProject;
 
 extern "C" {
 
-SCC_EXPORT Long SCC_CALL SccHistory(void* context, WindowHandle window, Long count, const char** names, Long,
+SCC_EXPORT Long SCC_CALL SccHistory(void* handle, WindowHandle window, Long count, const char** names, Long,
                                     void*) {
-  return GuardFiles(context, count, names, [&](Session& session, Names files) {
-    return svnscc::ShowHistory(session, window, files);
+  return RunWithFiles(handle, count, names, [&](ProviderContext& context, Names files) {
+    return svnscc::ShowHistory(context, window, files);
   });
 }
 
-SCC_EXPORT Long SCC_CALL SccProperties(void* context, WindowHandle window, const char* name) {
-  return GuardOpen(context, [&](Session& session) { return svnscc::ShowProperties(session, window, name); });
+SCC_EXPORT Long SCC_CALL SccProperties(void* handle, WindowHandle window, const char* name) {
+  return RunWithProject(
+      handle, [&](ProviderContext& context) { return svnscc::ShowProperties(context, window, name); });
 }
 
-SCC_EXPORT Long SCC_CALL SccRunScc(void* context, WindowHandle window, Long count, const char** names) {
-  return Guard(context, [&](Session& session) {
+SCC_EXPORT Long SCC_CALL SccRunScc(void* handle, WindowHandle window, Long count, const char** names) {
+  return RunEntryPoint(handle, [&](ProviderContext& context) {
     const bool named = count > 0 && names != nullptr;
-    return svnscc::RunBrowser(session, window,
+    return svnscc::RunBrowser(context, window,
                               named ? Names(names, static_cast<std::size_t>(count)) : Names());
   });
 }
 
-SCC_EXPORT Long SCC_CALL SccGetCommandOptions(void* context, WindowHandle window, SCCCommand command,
+SCC_EXPORT Long SCC_CALL SccGetCommandOptions(void* handle, WindowHandle window, SCCCommand command,
                                               void** options) {
-  return Guard(context, [&](Session& session) {
-    return svnscc::AskCommandOptions(session, window, command, options);
+  return RunEntryPoint(handle, [&](ProviderContext& context) {
+    return svnscc::AskCommandOptions(context, window, command, options);
   });
 }
 
 // Without a count the client gives the names of its last call back.
-SCC_EXPORT Long SCC_CALL SccAddFromScc(void* context, WindowHandle window, Long* count, const char*** names) {
+SCC_EXPORT Long SCC_CALL SccAddFromScc(void* handle, WindowHandle window, Long* count, const char*** names) {
   if (count == nullptr)
-    return Guard(context, [](Session& session) -> Long {
-      session.Handed().Assign({});
+    return RunEntryPoint(handle, [](ProviderContext& context) -> Long {
+      context.Handed().Assign({});
       return SCC_OK;
     });
-  return GuardOpen(context, [&](Session& session) -> Long {
+  return RunWithProject(handle, [&](ProviderContext& context) -> Long {
     if (names == nullptr) return SCC_E_NONSPECIFICERROR;
     const bool named =
-        session.SharesSubprojects && *count == 1 && *names != nullptr && *names != session.Handed().Data();
+        context.SharesSubprojects && *count == 1 && *names != nullptr && *names != context.Handed().Data();
     std::vector<std::string> chosen;
-    const Long result = svnscc::ChooseMissingFiles(session, window, named ? **names : nullptr, chosen);
+    const Long result = svnscc::ChooseMissingFiles(context, window, named ? **names : nullptr, chosen);
     if (result != SCC_OK) return result;
-    session.Handed().Assign(std::move(chosen));
-    *names = session.Handed().Data();
-    *count = static_cast<Long>(session.Handed().Count());
+    context.Handed().Assign(std::move(chosen));
+    *names = context.Handed().Data();
+    *count = static_cast<Long>(context.Handed().Count());
     return SCC_OK;
   });
 }

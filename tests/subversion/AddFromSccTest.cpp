@@ -5,7 +5,7 @@
 #include <wx/spinctrl.h>
 
 #include "Developer.h"
-#include "Windows.h"
+#include "WindowControls.h"
 
 using testing::ElementsAre;
 

@@ -33,7 +33,8 @@ TEST_F(Files, StoryOfAFile) {
   EXPECT_EQ("*", repository.Property("project/src/deep/unit1.pas", "svn:needs-lock"));
   EXPECT_FALSE(ann.IsWritable("src/deep/unit1.pas"));
   EXPECT_EQ(kControlled, ann.Status("src/deep/unit1.pas"));
-  EXPECT_EQ(scc::SCC_OK, ann.Add({"src/deep/unit1.pas"})) << "a form is named twice when it goes with its unit";
+  EXPECT_EQ(scc::SCC_OK, ann.Add({"src/deep/unit1.pas"}))
+      << "a form is named twice when it goes with its unit";
   EXPECT_EQ("I src/deep/unit1.pas was added already.\n", ann.Said());
 
   BobJoins();

@@ -4,7 +4,7 @@
 #include <wx/treectrl.h>
 
 #include "Developer.h"
-#include "Windows.h"
+#include "WindowControls.h"
 
 using testing::HasSubstr;
 

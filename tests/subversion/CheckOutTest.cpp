@@ -4,9 +4,9 @@
 #include <span>
 
 #include "Developer.h"
-#include "subversion/Commands.h"
-#include "subversion/OpenProject.h"
-#include "subversion/Question.h"
+#include "subversion/commands/Commands.h"
+#include "subversion/project/OpenProject.h"
+#include "subversion/svn/Question.h"
 
 using testing::HasSubstr;
 
@@ -168,7 +168,7 @@ TEST_F(CheckOut, AConflictThatCannotBeMergedIsAskedAbout) {
     return std::optional(answer);
   });
   bob.Close();
-  svnscc::Session session;
+  svnscc::ProviderContext session;
   svnscc::ProjectNames names{"bob", "project", repository.Url(), bob.Folder(), ""};
   svnscc::OpenProject(session, names, {});
   const std::vector<std::string> files{bob.File("kept.dat"), bob.File("gone.pas"), bob.File("both.dat")};

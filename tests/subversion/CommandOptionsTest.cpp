@@ -5,9 +5,9 @@
 #include <list>
 
 #include "Developer.h"
-#include "subversion/CommandOptions.h"
-#include "subversion/Commands.h"
-#include "subversion/OpenProject.h"
+#include "subversion/commands/Commands.h"
+#include "subversion/project/OpenProject.h"
+#include "subversion/svn/CommandOptions.h"
 
 using svnscc::CommandOptions;
 
@@ -29,7 +29,7 @@ struct OptionsAtWork : testing::Test {
   TTestRepository repository;
   TDeveloper ann{"ann"};
   TDeveloper bob{"bob"};
-  svnscc::Session session;
+  svnscc::ProviderContext session;
   std::list<std::string> names_;
 };
 

@@ -6,7 +6,7 @@
 #include <cstring>
 
 #include "host/System.h"
-#include "subversion/UsedRepositories.h"
+#include "subversion/project/UsedRepositories.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 #include <gmock/gmock.h>
 
 #include "Developer.h"
-#include "Windows.h"
+#include "WindowControls.h"
 
 using testing::HasSubstr;
 

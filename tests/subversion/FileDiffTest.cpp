@@ -3,8 +3,8 @@
 
 #include <random>
 
-#include "subversion/Client.h"
-#include "subversion/FileDiff.h"
+#include "common/text/FileDiff.h"
+#include "subversion/svn/Client.h"
 
 using svnscc::DiffKind;
 using svnscc::DiffOptions;

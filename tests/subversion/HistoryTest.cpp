@@ -2,8 +2,9 @@
 #include <gmock/gmock.h>
 
 #include "Developer.h"
-#include "subversion/History.h"
-#include "subversion/OpenProject.h"
+#include "subversion/commands/GetRevision.h"
+#include "subversion/project/OpenProject.h"
+#include "subversion/svn/History.h"
 
 using testing::ElementsAre;
 
@@ -21,7 +22,7 @@ struct History : testing::Test {
     }
   }
   /// The same working copy, opened in this program: for functions that no entry point reaches without a window.
-  svnscc::Session& Opened() {
+  svnscc::ProviderContext& Opened() {
     svnscc::ProjectNames names{"ann", "project", repository.Url(), ann.Folder(), ""};
     svnscc::OpenProject(session, names, {});
     return session;
@@ -33,7 +34,7 @@ struct History : testing::Test {
   }
   TTestRepository repository;
   TDeveloper ann{"ann"};
-  svnscc::Session session;
+  svnscc::ProviderContext session;
 };
 
 }  // namespace

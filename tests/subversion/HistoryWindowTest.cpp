@@ -3,7 +3,7 @@
 #include <wx/listctrl.h>
 
 #include "Developer.h"
-#include "Windows.h"
+#include "WindowControls.h"
 
 using testing::HasSubstr;
 

@@ -3,7 +3,7 @@
 
 #include "Developer.h"
 #include "Server.h"
-#include "Windows.h"
+#include "WindowControls.h"
 
 using testing::HasSubstr;
 

@@ -10,10 +10,10 @@
 #include "Developer.h"
 #include "Server.h"
 #include "host/System.h"
-#include "subversion/Commands.h"
-#include "subversion/OpenProject.h"
-#include "subversion/Question.h"
-#include "subversion/Repository.h"
+#include "subversion/commands/Commands.h"
+#include "subversion/project/OpenProject.h"
+#include "subversion/svn/Question.h"
+#include "subversion/svn/Repository.h"
 #include "support/PlainUser.h"
 
 using testing::HasSubstr;
@@ -310,7 +310,7 @@ TEST_F(OpenProject, LocksOfACheckOutThatWasKilledCanBeTakenOver) {
     asked = question.Text;
     return std::optional(true);
   });
-  svnscc::Session session;
+  svnscc::ProviderContext session;
   svnscc::ProjectNames names{"ann", "project", repository.Url(), ann.Folder(), ""};
   svnscc::OpenProject(session, names, {});
   const std::string file = ann.File("unit1.pas");

@@ -2,9 +2,9 @@
 #include <gmock/gmock.h>
 
 #include "Developer.h"
-#include "subversion/ProjectChoice.h"
-#include "subversion/RecentRepositories.h"
-#include "subversion/Repository.h"
+#include "subversion/project/ProjectChoice.h"
+#include "subversion/project/RecentRepositories.h"
+#include "subversion/svn/Repository.h"
 
 using svnscc::ProjectChoice;
 using svnscc::ProjectRequest;

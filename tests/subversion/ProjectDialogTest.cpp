@@ -7,7 +7,7 @@
 #include <array>
 
 #include "Developer.h"
-#include "subversion/Repository.h"
+#include "subversion/svn/Repository.h"
 #include "support/ModalScript.h"
 
 namespace {

@@ -6,9 +6,9 @@
 
 #include <cstdlib>
 
-#include "subversion/Client.h"
-#include "subversion/Repository.h"
-#include "subversion/UsedRepositories.h"
+#include "subversion/project/UsedRepositories.h"
+#include "subversion/svn/Client.h"
+#include "subversion/svn/Repository.h"
 
 using svnscc::Check;
 using svnscc::Pool;

@@ -1,0 +1,13 @@
+// One version of a file.
+#pragma once
+
+#include <string>
+
+namespace svnscc {
+
+struct Contents {
+  std::string Bytes;
+  bool IsBinary = false;  // by its type property, or because it contains a NUL
+};
+
+}  // namespace svnscc

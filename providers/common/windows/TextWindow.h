@@ -1,0 +1,11 @@
+// The text of one version of a file.
+#pragma once
+
+#include "common/text/Contents.h"
+#include "common/windows/WindowTools.h"
+
+namespace svnscc {
+
+void ShowTextWindow(wxWindow* parent, const std::string& title, const Contents& contents);
+
+}  // namespace svnscc

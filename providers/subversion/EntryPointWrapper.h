@@ -1,0 +1,77 @@
+// What stands around every entry point.
+#pragma once
+
+#include "subversion/EntryPointStrings.h"
+#include "subversion/svn/ProviderContext.h"
+#include "subversion/svn/SvnStrings.h"
+#include "subversion/svn/WorkingCopyLocks.h"
+
+namespace svnscc {
+
+/// No exception leaves an entry point: it becomes a sentence for the user and a code for the client.
+template <class Body>
+scc::Long RunEntryPoint(void* handle, Body&& body) noexcept {
+  auto* context = static_cast<ProviderContext*>(handle);
+  if (context == nullptr) return scc::SCC_E_INITIALIZEFAILED;
+  const OptionBlocks::Call call(context->Options());
+  try {
+    return body(*context);
+  } catch (const Failure& failure) {
+    if (failure.Result() == scc::SCC_I_OPERATIONCANCELED)
+      context->Out().Info(sCancelled);
+    else
+      context->Out().Error(AsSentence(failure.what()));
+    return failure.Result();
+  } catch (const std::exception& exception) {
+    context->Out().Error(AsSentence(exception.what()));
+  } catch (...) {
+    context->Out().Error(sUnknownFault);
+  }
+  return scc::SCC_E_NONSPECIFICERROR;
+}
+
+template <class Body>
+scc::Long RunWithProject(void* handle, Body&& body) noexcept {
+  return RunEntryPoint(handle, [&](ProviderContext& context) -> scc::Long {
+    if (!context.IsOpen()) return scc::SCC_E_PROJNOTOPEN;
+    const UseMarker::Work work(context.Mark());
+    return body(context);
+  });
+}
+
+/// The same for a list of files.
+template <class Body>
+scc::Long RunWithFiles(void* handle, scc::Long count, const char** names, Body&& body) noexcept {
+  return RunWithProject(handle, [&](ProviderContext& context) -> scc::Long {
+    if (count < 0 || (count > 0 && names == nullptr)) return scc::SCC_E_NONSPECIFICERROR;
+    return body(context, Names(names, static_cast<std::size_t>(count)));
+  });
+}
+
+/// The user can cancel while this lives.
+class RunningCommand {
+ public:
+  explicit RunningCommand(ProviderContext& context) : context_(context) { context_.BeginCommand(); }
+  RunningCommand(const RunningCommand&) = delete;
+  RunningCommand& operator=(const RunningCommand&) = delete;
+  ~RunningCommand() { context_.EndCommand(); }
+
+ private:
+  ProviderContext& context_;
+};
+
+/// The same for a command that can take long and changes the files: the user can cancel it, and what it did to them
+/// becomes events.
+template <class Body>
+scc::Long RunFileCommand(void* handle, scc::Long count, const char** names, Body&& body) noexcept {
+  return RunWithFiles(handle, count, names, [&](ProviderContext& context, Names files) -> scc::Long {
+    const scc::Long result = [&] {
+      const RunningCommand running(context);
+      return RunCommand(context, [&] { return body(context, files); });
+    }();
+    if (result == scc::SCC_OK) RecordCommandResult(context, files);
+    return result;
+  });
+}
+
+}  // namespace svnscc

@@ -1,0 +1,130 @@
+// Renaming and moving in the repository.  The file on disk is the client's: wherever it is, there it stays.
+#include <filesystem>
+#include <optional>
+
+#include "subversion/commands/CommandStrings.h"
+#include "subversion/commands/Commands.h"
+#include "subversion/commands/TemporaryRename.h"
+#include "subversion/project/OpenProject.h"
+#include "subversion/svn/LocalStatus.h"
+#include "subversion/svn/SvnStrings.h"
+
+namespace svnscc {
+namespace {
+
+/// Throws unless the file can be renamed; whether it is checked out here.
+bool CheckSource(ProviderContext& context, const std::string& path) {
+  const LocalStatus local = ReadLocalStatus(context, path);
+  if (!local.IsControlled()) throw Failure(scc::SCC_E_FILENOTCONTROLLED, sNotControlled);
+  if (local.IsFolder) throw Failure(scc::SCC_E_TYPENOTSUPPORTED, sNotAFile);
+  const scc::Long bits = FetchStatus(context, path).Bits;
+  const auto has = [&](scc::Long bit) { return (bits & bit) != 0; };
+  if (has(scc::SCC_STATUS_DELETED)) throw Failure(scc::SCC_E_FILENOTCONTROLLED, sDeletedInRepository);
+  if (has(scc::SCC_STATUS_OUTOTHER)) throw Failure(scc::SCC_E_FILEOUTEXCLUSIVE, sOutByOther);
+  // The local edits would be laid over what others checked in.
+  if (has(scc::SCC_STATUS_OUTOFDATE) || local.IsConflicted())
+    throw Failure(scc::SCC_E_OPNOTPERFORMED, sGetBeforeRename);
+  if (has(scc::SCC_STATUS_OUTBYUSER) && !has(scc::SCC_STATUS_CHECKEDOUT))
+    throw Failure(scc::SCC_E_FILEISCHECKEDOUT, sOutElsewhere);
+  return has(scc::SCC_STATUS_CHECKEDOUT);
+}
+
+void Revert(ProviderContext& context, const std::vector<std::string>& paths) {
+  const Pool pool;
+  context.Svn().Run(svn_client_revert4(ToArray(paths, pool), svn_depth_empty, nullptr, FALSE,
+                                       /*metadata_only*/ FALSE,
+                                       /*added_keep_local*/ FALSE, context.ClientContext(), pool));
+}
+
+/// Folders above the new name that the repository does not have, made and scheduled.
+std::vector<std::string> PrepareFolders(ProviderContext& context, const std::string& path) {
+  const std::string parent = ParentOf(path);
+  if (!ReadLocalStatus(context, parent).IsControlled()) Update(context, {parent});
+  const auto folders = NewFoldersAbove(context, path);
+  if (folders.empty()) return folders;
+  const Pool pool;
+  Check(svn_io_make_dir_recursively(parent.c_str(), pool));
+  context.Svn().Run(svn_client_add5(parent.c_str(), svn_depth_empty, /*force*/ FALSE, /*no_ignore*/ TRUE,
+                                    /*no_autoprops*/ TRUE, /*add_parents*/ TRUE, context.ClientContext(),
+                                    pool));
+  return folders;
+}
+
+void Move(ProviderContext& context, const std::string& from, const std::string& to) {
+  const Pool pool;
+  context.Svn().Run(svn_client_move7(ToArray({from}, pool), to.c_str(), /*move_as_child*/ FALSE,
+                                     /*make_parents*/ FALSE, /*allow_mixed_revisions*/ TRUE,
+                                     /*metadata_only*/ FALSE, nullptr, nullptr, nullptr,
+                                     context.ClientContext(), pool));
+}
+
+void Undo(ProviderContext& context, const std::string& from, const std::string& to,
+          const std::vector<std::string>& folders) {
+  std::vector<std::string> paths{to, from};
+  paths.insert(paths.end(), folders.rbegin(), folders.rend());
+  try {
+    Revert(context, paths);
+  } catch (const Failure& failure) {  // the failure that led here is the one to be told
+    context.Out().Warning(failure.what());
+  }
+}
+
+/// What the commit needs on disk, with the client's files out of the way.
+void MoveAndCommit(ProviderContext& context, const std::string& from, const std::string& to) {
+  Revert(context, {from});
+  std::vector<std::string> folders;
+  try {
+    folders = PrepareFolders(context, to);
+    Move(context, from, to);
+    auto targets = folders;
+    targets.insert(targets.end(), {from, to});
+    Commit(context, targets, Format(sRenameLog.Text, {context.Label(from), context.Label(to)}),
+           AfterCommit::Release);
+  } catch (const Failure& failure) {
+    Undo(context, from, to, folders);
+    if (failure.Result() == scc::SCC_E_CHECKINCONFLICT)
+      throw Failure(scc::SCC_E_FILEALREADYEXISTS, failure.what());
+    throw;
+  }
+}
+
+/// A place on disk that looks afterwards as it did before, whatever libsvn does there.
+class RestoredPath {
+ public:
+  explicit RestoredPath(const std::string& path) : path_(path) {
+    if (IsOnDisk(path_)) file_.emplace(path_);
+  }
+  RestoredPath(const RestoredPath&) = delete;
+  RestoredPath& operator=(const RestoredPath&) = delete;
+  ~RestoredPath() {
+    std::error_code ignored;
+    if (!file_) std::filesystem::remove(path_, ignored);
+  }
+
+ private:
+  std::string path_;
+  std::optional<TemporaryRename> file_;
+};
+
+}  // namespace
+
+scc::Long Rename(ProviderContext& context, const char* oldName, const char* newName) {
+  const std::string from = context.InsidePath(oldName);
+  const std::string to = context.InsidePath(newName);
+  if (from.empty()) throw Failure(scc::SCC_E_FILENOTCONTROLLED, sOutsideProject);
+  if (to.empty()) throw Failure(scc::SCC_E_OPNOTPERFORMED, sOutsideProject);
+  if (from == to) return scc::SCC_OK;
+  EnsureWorkingCopy(context);
+  const bool wasOut = CheckSource(context, from);
+  if (ReadLocalStatus(context, to).IsControlled())
+    throw Failure(scc::SCC_E_FILEALREADYEXISTS, sAlreadyControlled);
+
+  Outcome outcome(context);
+  const RestoredPath oldPlace(from);
+  const RestoredPath newPlace(to);
+  MoveAndCommit(context, from, to);
+  if (wasOut) Lock(context, {to}, "", ForeignLocks::Respect, outcome);
+  return outcome.Result();
+}
+
+}  // namespace svnscc

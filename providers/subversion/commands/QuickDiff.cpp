@@ -1,0 +1,39 @@
+#include "common/text/FileDiff.h"
+#include "subversion/commands/Commands.h"
+#include "subversion/svn/LocalStatus.h"
+#include "subversion/svn/NodeInfo.h"
+
+namespace svnscc {
+namespace {
+
+bool Differs(ProviderContext& context, const std::string& path, const DiffOptions& options) {
+  if (!options.IgnoreCase && !options.IgnoreSpace) return true;
+  const Contents pristine = FetchContents(context.Svn(), path, Pristine());
+  const Contents local = ReadLocalContents(path);
+  return pristine.IsBinary || local.IsBinary || !FileDiff(pristine.Bytes, local.Bytes, options).Same();
+}
+
+}  // namespace
+
+// Asked for every row of a file list: no messages, no server.
+scc::Long QuickDiff(ProviderContext& context, const char* name, scc::Long flags) {
+  const std::string path = context.InsidePath(name);
+  if (path.empty()) return scc::SCC_E_FILENOTCONTROLLED;
+  const LocalStatus local = ReadLocalStatus(context, path);
+  switch (local.State) {
+    case LocalState::Absent:
+    case LocalState::Missing:
+      return scc::SCC_E_FILENOTEXIST;
+    case LocalState::Controlled:
+      return local.Differs && Differs(context, path, ToDiffOptions(flags)) ? scc::SCC_I_FILEDIFFERS
+                                                                           : scc::SCC_OK;
+    case LocalState::Added:
+      return scc::SCC_E_FILENOTCONTROLLED;
+    case LocalState::Unversioned:
+      break;
+  }
+  // A file of the repository's name that was never fetched: whatever it is, it is not the repository's.
+  return context.LastStatuses().Of(path).Bits != 0 ? scc::SCC_I_FILEDIFFERS : scc::SCC_E_FILENOTCONTROLLED;
+}
+
+}  // namespace svnscc

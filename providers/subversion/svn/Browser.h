@@ -1,0 +1,51 @@
+// A repository as one walks through it: folders, their entries, and what was asked already.
+#pragma once
+
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "subversion/svn/NodeInfo.h"
+
+namespace svnscc {
+
+struct Entry {
+  std::string Name;
+  bool IsFolder = false;
+  svn_filesize_t Size = 0;
+  svn_revnum_t ChangedRevision = SVN_INVALID_REVNUM;
+  std::string ChangedBy;
+  apr_time_t ChangedAt = 0;
+  LockInfo Lock;
+};
+
+class Browser {
+ public:
+  explicit Browser(std::string user) : user_(std::move(user)) {}
+
+  /// Opens the repository that `text` names: an address of it or of something inside, or a local folder.  Returns the
+  /// path inside that `text` names.  Throws Failure, and then nothing is open.
+  std::string Open(const std::string& text);
+  bool IsOpen() const { return client_ != nullptr; }
+  const std::string& Root() const { return root_; }
+  std::string UrlAt(const std::string& path) const;
+  /// Folders first, then files, by name.  `path` is inside the repository, empty for its root.  Asked once.  Throws.
+  const std::vector<Entry>& EntriesOf(const std::string& path);
+  /// Asks everything again.
+  void Forget() { entries_.clear(); }
+  Client& Svn() { return *client_; }
+
+ private:
+  std::string user_;
+  std::unique_ptr<Client> client_;
+  std::string root_;
+  std::map<std::string, std::vector<Entry>> entries_;
+};
+
+/// Paths inside a repository: the folder above, empty at the top; and an entry below.
+std::string PathAbove(const std::string& path);
+std::string PathBelow(const std::string& path, const std::string& name);
+
+}  // namespace svnscc

@@ -1,0 +1,22 @@
+// What there is to tell of one file or folder: for the window of its properties.
+#pragma once
+
+#include "subversion/svn/NodeInfo.h"
+
+namespace svnscc {
+
+struct NodeProperties {
+  /// Label and value; only what is known.
+  std::vector<std::pair<std::string, std::string>> Facts;
+  PropertyList Properties;
+};
+
+/// Of a client's file or folder.  What the repository does not answer is told from the working copy.
+NodeProperties DescribeNode(ProviderContext& context, const ControlledNode& node);
+/// Of an address.
+NodeProperties DescribeNode(Client& client, const std::string& url);
+
+/// What SCC status bits mean, in words.
+std::string StateWords(scc::Long bits, bool onDisk);
+
+}  // namespace svnscc

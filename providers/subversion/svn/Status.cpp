@@ -1,0 +1,361 @@
+#include "subversion/svn/Status.h"
+
+#include <svn_dirent_uri.h>
+
+#include <algorithm>
+#include <cstring>
+#include <set>
+
+#include "subversion/svn/LocalStatus.h"
+#include "subversion/svn/NonUtf8Names.h"
+#include "subversion/svn/ProviderContext.h"
+#include "subversion/svn/Repository.h"
+#include "subversion/svn/SvnStrings.h"
+
+namespace svnscc {
+namespace {
+
+/// Somebody's lock that this working copy does not hold.
+scc::Long OutBits(const std::string& user, const std::string& owner) {
+  return scc::SCC_STATUS_OUTEXCLUSIVE |
+         (user == owner ? scc::SCC_STATUS_OUTBYUSER : scc::SCC_STATUS_OUTOTHER);
+}
+
+// The working copy's lock is the repository's lock when both carry the same token: it can have been broken meanwhile.
+scc::Long LockBits(const svn_lock_t* here, const svn_lock_t* lock, const std::string& user) {
+  if (lock == nullptr) return 0;
+  if (here != nullptr && std::strcmp(here->token, lock->token) == 0)
+    return scc::SCC_STATUS_OUTBYUSER | scc::SCC_STATUS_CHECKEDOUT | scc::SCC_STATUS_OUTEXCLUSIVE;
+  return OutBits(user, lock->owner);
+}
+
+bool IsHere(const svn_client_status_t& status) {
+  return status.versioned && status.node_status != svn_wc_status_added &&
+         status.node_status != svn_wc_status_none;
+}
+
+/// A copy that was not committed.  libsvn makes one of what is changed here and deleted in the repository.
+bool IsCopy(const svn_client_status_t& status) {
+  if (status.node_status == svn_wc_status_missing) return status.conflicted;  // libsvn does not tell any more
+  return status.versioned && status.copied && status.node_status != svn_wc_status_deleted;
+}
+
+bool IsChange(svn_wc_status_kind kind) { return kind != svn_wc_status_none && kind != svn_wc_status_normal; }
+
+bool IsLocalEdit(svn_wc_status_kind kind) {
+  return kind == svn_wc_status_modified || kind == svn_wc_status_conflicted || kind == svn_wc_status_replaced;
+}
+
+bool IsOnlyInRepository(const svn_client_status_t& status) {
+  return !IsHere(status) && status.repos_node_status == svn_wc_status_added;
+}
+
+/// A lock of the user's that a check-out here may have taken before it died does not keep the file from being checked
+/// out.
+void ApplyLeftOverLock(ProviderContext& context, const svn_client_status_t& status, FileStatus& file) {
+  if (!context.Journal().Has(status.local_abspath)) return;
+  constexpr scc::Long kElsewhere = scc::SCC_STATUS_OUTBYUSER | scc::SCC_STATUS_OUTEXCLUSIVE;
+  file.LeftOver = (file.Bits & (kElsewhere | scc::SCC_STATUS_CHECKEDOUT)) == kElsewhere;
+  if (file.LeftOver)
+    file.Bits &= ~kElsewhere;
+  else
+    context.Journal().Remove({status.local_abspath});
+}
+
+/// Fills in what a walk without the working copy leaves out.
+void AddLocalState(ProviderContext& context, svn_client_status_t& status, apr_pool_t* pool) {
+  svn_wc_status3_t* local = nullptr;
+  Check(svn_wc_status3(&local, context.ClientContext()->wc_ctx, status.local_abspath, pool, pool));
+  if (local->versioned) status.kind = local->kind;
+  status.versioned = local->versioned;
+  status.node_status = local->node_status;
+  status.text_status = local->text_status;
+  status.prop_status = local->prop_status;
+  status.conflicted = local->conflicted;
+  status.copied = local->copied;
+  status.lock = local->lock;
+  status.file_external = local->file_external;
+}
+
+/// A file or folder that libsvn reports without a word on what lies below it.
+struct Root {
+  std::string path;
+  bool inConflict;    // deleted or replaced in the repository, and changed here
+  bool mayHoldFiles;  // the repository has a folder of that name
+};
+
+struct Walk {
+  ProviderContext& context;
+  const std::string& user;
+  bool online;
+  bool byName;  // libsvn could not read the folders: local states are asked for file by file
+  StatusTable& table;
+  std::vector<std::string>
+      shadowed;  // in the repository, and a local file of that name that is not controlled
+  std::vector<Root> roots;
+  std::vector<std::pair<std::string, FileStatus>> copies;
+  std::exception_ptr exception;
+};
+
+void RecordRoot(Walk& walk, const svn_client_status_t& status) {
+  if (status.conflicted && IsCopy(status))
+    walk.roots.push_back({status.local_abspath, true, true});
+  else if (status.repos_node_status == svn_wc_status_deleted && status.kind == svn_node_dir)
+    walk.roots.push_back({status.local_abspath, false, false});
+  else if (status.repos_node_status == svn_wc_status_replaced && status.kind == svn_node_dir)
+    walk.roots.push_back({status.local_abspath, false, true});
+}
+
+svn_error_t* OnStatus(void* baton, const char*, const svn_client_status_t* status,
+                      apr_pool_t* pool) noexcept {
+  auto& walk = *static_cast<Walk*>(baton);
+  return RunInCallback(walk.exception, [&] {
+    svn_client_status_t seen = *status;
+    if (walk.byName) AddLocalState(walk.context, seen, pool);
+    if (!walk.online) seen.repos_lock = seen.lock;
+    RecordRoot(walk, seen);
+    FileStatus file = ToFileStatus(seen, walk.user);
+    if (walk.online) ApplyLeftOverLock(walk.context, seen, file);
+    if (IsCopy(seen))
+      walk.copies.emplace_back(seen.local_abspath, file);
+    else if (file.Bits != 0)
+      walk.table.Put(seen.local_abspath, file);
+    if (IsOnlyInRepository(seen) && seen.node_status != svn_wc_status_none)
+      walk.shadowed.emplace_back(seen.local_abspath);
+  });
+}
+
+/// libsvn leaves the locks of such files out: they are asked for once, together.
+void AddLocksOfShadowed(StatusTable& table, ProviderContext& context,
+                        const std::vector<std::string>& shadowed) {
+  if (shadowed.empty()) return;
+  const Project& project = context.CurrentProject();
+  const auto owners = LockOwnersBelow(context.Svn(), project.Url);
+  for (const auto& path : shadowed) {
+    const auto owner = owners.find(svn_dirent_skip_ancestor(project.Folder.c_str(), path.c_str()));
+    if (owner == owners.end()) continue;
+    FileStatus status = table.Of(path);
+    status.Bits |= OutBits(context.Svn().User(), owner->second);
+    table.Put(path, status);
+  }
+}
+
+bool IsBelow(const std::string& path, const std::string& folder) {
+  return svn_dirent_is_ancestor(folder.c_str(), path.c_str());
+}
+
+/// What a file is whose copy is part of a conflict.
+FileStatus InConflict(FileStatus status, bool isInRepository) {
+  status.Bits &= ~scc::SCC_STATUS_DELETED;
+  status.Bits |= scc::SCC_STATUS_CONTROLLED | scc::SCC_STATUS_MERGED;
+  if (!isInRepository) status.Bits |= scc::SCC_STATUS_DELETED;
+  status.IsHere = true;
+  return status;
+}
+
+void FetchStatusBelow(Walk& walk, ProviderContext& context, const Root& root);
+
+/// What libsvn says of a folder that was deleted or replaced holds for the files in it.
+void Inherit(Walk& walk, ProviderContext& context) {
+  std::sort(walk.roots.begin(), walk.roots.end(),
+            [](const Root& a, const Root& b) { return a.path < b.path; });
+  for (const Root& root : walk.roots) {
+    std::set<std::string> inRepository;
+    if (root.mayHoldFiles && walk.online) {
+      const char* inside =
+          svn_dirent_skip_ancestor(context.CurrentProject().Folder.c_str(), root.path.c_str());
+      for (const auto& file : FilesBelow(context.Svn(), UrlOf(context.CurrentProject().Url, inside)))
+        inRepository.insert(file.empty() ? root.path : root.path + "/" + file);
+    }
+    for (const auto& [path, status] : walk.copies)
+      if (root.inConflict && IsBelow(path, root.path))
+        walk.table.Put(path, InConflict(status, inRepository.contains(path)));
+    if (!root.inConflict) FetchStatusBelow(walk, context, root);
+    for (const auto& path : inRepository) {
+      if (walk.table.Of(path).Bits != 0) continue;
+      FileStatus unseen;
+      unseen.Bits = scc::SCC_STATUS_CONTROLLED | scc::SCC_STATUS_OUTOFDATE;
+      unseen.NeedsGet = true;
+      walk.table.Put(path, unseen);
+      walk.shadowed.push_back(path);
+    }
+  }
+}
+
+svn_error_t* OnNode(void* baton, const char* path, const svn_client_info2_t*, apr_pool_t* pool) noexcept {
+  svn_client_status_t status{};
+  status.local_abspath = path;
+  status.repos_node_status = status.repos_text_status = status.repos_prop_status = svn_wc_status_none;
+  return OnStatus(baton, path, &status, pool);
+}
+
+/// A walk that reads no folder on disk: the working copy's database names what it knows.
+svn_error_t* WalkKnown(Walk& walk, const std::string& path, svn_depth_t depth) {
+  const Pool pool;
+  svn_opt_revision_t here{};
+  here.kind = svn_opt_revision_unspecified;
+  return svn_client_info4(path.c_str(), &here, &here, depth, /*fetch_excluded*/ FALSE,
+                          /*fetch_actual_only*/ TRUE, /*include_externals*/ FALSE, nullptr, OnNode, &walk,
+                          walk.context.ClientContext(), pool);
+}
+
+enum class Ask { Repository, WorkingCopy };
+
+enum class Read { Folders, NamedFiles };
+
+void WalkInto(StatusTable& table, ProviderContext& context, const std::string& path, svn_depth_t depth,
+              Ask ask, Read read) {
+  const Pool pool;
+  const bool online = ask == Ask::Repository;
+  const bool byName = read == Read::NamedFiles;
+  Walk walk{context, context.Svn().User(), online, byName, table, {}, {}, {}, nullptr};
+  svn_opt_revision_t head{};
+  head.kind = svn_opt_revision_head;
+  svn_error_t* error =
+      byName && !online
+          ? WalkKnown(walk, path, depth)
+          : svn_client_status6(nullptr, context.ClientContext(), path.c_str(), &head, depth, /*get_all*/ TRUE,
+                               /*check_out_of_date*/ online, /*check_working_copy*/ !byName,
+                               /*no_ignore*/ TRUE,
+                               /*ignore_externals*/ TRUE, /*depth_as_sticky*/ TRUE, nullptr, OnStatus, &walk,
+                               pool);
+  if (walk.exception != nullptr) {
+    svn_error_clear(error);
+    std::rethrow_exception(walk.exception);
+  }
+  context.Svn().Run(error);
+  Inherit(walk, context);
+  AddLocksOfShadowed(table, context, walk.shadowed);
+}
+
+void WalkInto(StatusTable& table, ProviderContext& context, const std::string& path, svn_depth_t depth,
+              Ask ask) {
+  try {
+    WalkInto(table, context, path, depth, ask, Read::Folders);
+  } catch (const Failure& failure) {
+    // libsvn gives up at a folder that holds a name which is not UTF-8.
+    const auto names = failure.Has(APR_EINVAL) ? NamesNotUtf8(path) : std::vector<std::string>();
+    if (names.empty()) throw;
+    context.ReportNonUtf8Names(names);
+    table = {};
+    WalkInto(table, context, path, depth, ask, Read::NamedFiles);
+  }
+}
+
+bool IsFolderKnown(ProviderContext& context, const std::string& path) {
+  if (path == context.CurrentProject().Folder) return true;
+  const Pool pool;
+  const LocalState state = ReadLocalStatus(context, svn_dirent_dirname(path.c_str(), pool)).State;
+  return state != LocalState::Absent && state != LocalState::Unversioned;
+}
+
+/// The files below a folder that was deleted in the repository were deleted with it.  When it was replaced, libsvn calls
+/// all of them deleted: each is asked for alone.
+void FetchStatusBelow(Walk& walk, ProviderContext& context, const Root& root) {
+  for (auto& [path, status] : walk.table.Entries()) {
+    if (path == root.path || !status.IsHere || !IsBelow(path, root.path)) continue;
+    if (root.mayHoldFiles) {
+      StatusTable alone;
+      WalkInto(alone, context, path, svn_depth_empty, Ask::Repository);
+      status = alone.Of(path);
+    } else {
+      status.Bits &= ~scc::SCC_STATUS_OUTOFDATE;
+      status.Bits |= scc::SCC_STATUS_DELETED;
+      status.NeedsGet = true;
+    }
+  }
+}
+
+/// What the working copy knows, when the repository could not be asked.
+StatusTable LocalWalk(ProviderContext& context, const Failure& reason) {
+  context.Out().Error(Format(sStatusFailed.Text, {reason.what()}));
+  const bool unreachable = reason.Result() == scc::SCC_E_CONNECTIONFAILURE;
+  StatusTable table;
+  WalkInto(table, context, context.CurrentProject().Folder, svn_depth_infinity, Ask::WorkingCopy);
+  table.Result = unreachable ? static_cast<scc::Long>(scc::SCC_E_ACCESSFAILURE) : reason.Result();
+  return table;
+}
+
+}  // namespace
+
+void StatusTable::Put(const std::string& path, const FileStatus& status) { entries_[path] = status; }
+
+FileStatus StatusTable::Of(const std::string& path) const {
+  const auto found = entries_.find(path);
+  return found != entries_.end() ? found->second : FileStatus{};
+}
+
+std::vector<std::string> StatusTable::Files() const {
+  std::vector<std::string> files;
+  for (const auto& [path, status] : entries_)
+    if (!status.IsFolder) files.push_back(path);
+  std::sort(files.begin(), files.end());
+  return files;
+}
+
+FileStatus ToFileStatus(const svn_client_status_t& status, const std::string& user) {
+  const bool onlyInRepository = IsOnlyInRepository(status);
+  if (status.file_external || status.node_status == svn_wc_status_external) return {};
+  if (!IsHere(status) && !onlyInRepository && !IsCopy(status)) return {};
+
+  const bool deleted = status.repos_node_status == svn_wc_status_deleted;
+  const bool newer = onlyInRepository ||
+                     (!deleted && (IsChange(status.repos_node_status) || IsChange(status.repos_text_status) ||
+                                   IsChange(status.repos_prop_status)));
+  FileStatus result;
+  result.IsHere = IsHere(status);
+  result.Bits = scc::SCC_STATUS_CONTROLLED | LockBits(status.lock, status.repos_lock, user);
+  if (deleted) result.Bits |= scc::SCC_STATUS_DELETED;
+  if (newer) result.Bits |= scc::SCC_STATUS_OUTOFDATE;
+  if (status.conflicted) result.Bits |= scc::SCC_STATUS_MERGED;
+  if (IsLocalEdit(status.node_status) || IsLocalEdit(status.text_status) || IsLocalEdit(status.prop_status))
+    result.Bits |= scc::SCC_STATUS_MODIFIED;
+  result.IsFolder = (onlyInRepository ? status.ood_kind : status.kind) == svn_node_dir;
+  result.NeedsGet = newer || deleted || status.node_status == svn_wc_status_missing;
+  return result;
+}
+
+const StatusTable& WalkProject(ProviderContext& context) {
+  StatusTable table;
+  try {
+    WalkInto(table, context, context.CurrentProject().Folder, svn_depth_infinity, Ask::Repository);
+  } catch (const Failure& failure) {
+    table = failure.MeansNoWorkingCopy() ? StatusTable{} : LocalWalk(context, failure);
+  }
+  if (table.Result >= 0) context.Events().Found(table);
+  return context.LastStatuses() = std::move(table);
+}
+
+FileStatus FetchStatus(ProviderContext& context, const std::string& path) {
+  const LocalStatus local = ReadLocalStatus(context, path);
+  if (!local.IsConflicted() && IsFolderKnown(context, path)) {
+    StatusTable table;
+    WalkInto(table, context, path, svn_depth_empty, Ask::Repository);
+    return table.Of(path);
+  }
+  // libsvn says nothing of a file below a folder that it does not know, or that is in conflict itself.
+  const StatusTable& walked = WalkProject(context);
+  if (walked.Result < 0) throw Failure(walked.Result, sNotAsked);
+  return walked.Of(path);
+}
+
+std::map<std::string, FileStatus> LocalEntries(ProviderContext& context, const std::string& folder) {
+  StatusTable table;
+  WalkInto(table, context, folder, svn_depth_infinity, Ask::WorkingCopy);
+  return {table.Entries().begin(), table.Entries().end()};
+}
+
+void RecordCommandResult(ProviderContext& context, std::span<const char* const> names) {
+  // After more than that a client does better to ask for everything.
+  constexpr std::size_t kMost = 1000;
+  if (names.size() > kMost) return;
+  for (const char* name : names) {
+    const std::string path = context.InsidePath(name);
+    if (!context.Events().Covers(path)) continue;
+    StatusTable table;
+    WalkInto(table, context, path, svn_depth_empty, Ask::WorkingCopy);
+    context.Events().Found(path, table.Of(path).Bits);
+  }
+}
+
+}  // namespace svnscc

@@ -1,0 +1,97 @@
+// Owners for what libsvn hands out, and the one place where its errors become exceptions.
+#pragma once
+
+#include <apr_tables.h>
+#include <svn_error.h>
+#include <svn_pools.h>
+
+#include <exception>
+#include <stdexcept>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "provider/sccdefs.h"
+
+namespace svnscc {
+
+/// Whether the process is ending and all of APR's memory is gone already.
+bool HasRuntimeEnded() noexcept;
+
+/// A memory pool of APR: everything allocated in it lives as long as it does.
+class Pool {
+ public:
+  Pool() : pool_(svn_pool_create(nullptr)) {}
+  explicit Pool(apr_pool_t* parent) : pool_(svn_pool_create(parent)) {}
+  Pool(Pool&& other) noexcept : pool_(std::exchange(other.pool_, nullptr)) {}
+  Pool& operator=(Pool&& other) noexcept {
+    std::swap(pool_, other.pool_);
+    return *this;
+  }
+  ~Pool() {
+    // A client may keep its context in a static object, which goes after the runtime.
+    if (pool_ != nullptr && !HasRuntimeEnded()) svn_pool_destroy(pool_);
+  }
+  operator apr_pool_t*() const { return pool_; }
+  void Clear() { svn_pool_clear(pool_); }
+
+ private:
+  apr_pool_t* pool_;
+};
+
+/// A failure as the API and the user see it: a return code and a sentence.
+class Failure : public std::runtime_error {
+ public:
+  Failure(scc::Long result, const std::string& text, std::vector<apr_status_t> codes = {})
+      : std::runtime_error(text), result_(result), codes_(std::move(codes)) {}
+  scc::Long Result() const { return result_; }
+  /// The same failure in better words.
+  Failure With(const std::string& text) const { return Failure(result_, text, codes_); }
+  /// Whether `code` is anywhere in libsvn's chain of errors.
+  bool Has(apr_status_t code) const;
+  /// Whether the failure is that a path belongs to no working copy.
+  bool MeansNoWorkingCopy() const;
+  /// Whether the failure is that the repository holds the file locked, and not for this working copy.
+  bool MeansOthersLock() const {
+    return result_ == scc::SCC_E_FILEOUTEXCLUSIVE || result_ == scc::SCC_E_FILEISLOCKED;
+  }
+  /// Whether the failure is that another process is at work in the working copy, or was when it died.
+  bool MeansBusyWorkingCopy() const;
+
+ private:
+  scc::Long result_;
+  std::vector<apr_status_t> codes_;
+};
+
+/// A reason that stands alone: with a capital letter and a full stop.
+std::string AsSentence(std::string reason);
+
+/// The failure that a chain of errors means.  Borrows `error`.
+Failure ToFailure(svn_error_t* error);
+/// Takes ownership of `error`; throws its Failure unless it is SVN_NO_ERROR.
+void Check(svn_error_t* error);
+
+/// Runs `body` inside a C callback; stores an exception in `exception` and returns SVN_ERR_CANCELLED, which stops libsvn.
+template <class Body>
+svn_error_t* RunInCallback(std::exception_ptr& exception, Body&& body) noexcept {
+  try {
+    body();
+    return SVN_NO_ERROR;
+  } catch (...) {
+    exception = std::current_exception();
+    return svn_error_create(SVN_ERR_CANCELLED, nullptr, nullptr);
+  }
+}
+/// Check() for a call whose callbacks used RunInCallback.
+inline void Check(svn_error_t* error, const std::exception_ptr& exception) {
+  if (exception) {
+    svn_error_clear(error);
+    std::rethrow_exception(exception);
+  }
+  Check(error);
+}
+
+/// The texts as libsvn takes lists; copied into `pool`.
+apr_array_header_t* ToArray(const std::vector<std::string>& texts, apr_pool_t* pool);
+
+}  // namespace svnscc

@@ -1,0 +1,22 @@
+// What there is to tell of a file or folder; every text can be selected and copied.
+#pragma once
+
+#include "common/windows/WindowTools.h"
+#include "subversion/svn/NodeProperties.h"
+
+namespace svnscc {
+
+class PropertiesWindow : public ToolWindow {
+ public:
+  PropertiesWindow(wxWindow* parent, const std::string& name, NodeProperties description);
+
+ private:
+  wxSizer* CreateFacts();
+  wxSizer* CreateProperties();
+
+  NodeProperties description_;
+  RowList* list_ = nullptr;
+  wxTextCtrl* value_ = nullptr;
+};
+
+}  // namespace svnscc

@@ -1,0 +1,51 @@
+#include "subversion/windows/ProviderWindows.h"
+
+#include "common/windows/DiffWindow.h"
+#include "host/System.h"
+#include "subversion/commands/CommandStrings.h"
+#include "subversion/svn/LocalStatus.h"
+#include "subversion/svn/NodeInfo.h"
+#include "subversion/svn/SvnStrings.h"
+#include "subversion/windows/ProviderWindowStrings.h"
+
+namespace svnscc {
+
+void RequireWindows() {
+  if (!CanShowWindows()) throw Failure(scc::SCC_E_NONSPECIFICERROR, sShowsNoWindows);
+}
+
+namespace {
+
+/// What the repository has of a controlled file; what was last fetched when it has none or cannot be asked.
+DiffSide RepositorySide(ProviderContext& context, const ControlledNode& node) {
+  const auto titled = [&](const TResString& text, const NodeInfo& facts) {
+    return Format(text.Text, {static_cast<long long>(facts.ChangedRevision)});
+  };
+  try {
+    const NodeInfo facts = FetchNodeInfo(context.Svn(), node.Place, Newest());
+    return {titled(sInRepository, facts), FetchContents(context.Svn(), node.Place, Newest())};
+  } catch (const Failure& failure) {
+    if (!node.IsLocal() || failure.Result() == scc::SCC_I_OPERATIONCANCELED) throw;
+    const bool gone = failure.Result() == scc::SCC_E_FILENOTCONTROLLED;
+    if (!gone) context.Out().Warning(Format(sStatusFailed.Text, {failure.what()}));
+    return {titled(gone ? sGoneFromRepository : sLastFetched, LocalNodeInfo(context.Svn(), node.Path)),
+            FetchContents(context.Svn(), node.Place, Pristine())};
+  }
+}
+
+}  // namespace
+
+scc::Long ShowDifferences(ProviderContext& context, scc::WindowHandle parent, const char* name,
+                          scc::Long flags) {
+  RequireWindows();
+  const ControlledNode node = RequireControlled(context, name);
+  if (!IsOnDisk(node.Path)) throw Failure(scc::SCC_E_FILENOTEXIST, sFileMissing);
+  if (!FileExists(node.Path)) throw Failure(scc::SCC_E_TYPENOTSUPPORTED, sNotAFile);
+  DiffWindow window(ParentFor(parent), context.Label(node.Path), RepositorySide(context, node),
+                    {sOnDisk, ReadLocalContents(node.Path)}, ToDiffOptions(flags));
+  const bool same = window.Same();
+  window.ShowModal();
+  return same ? scc::SCC_OK : static_cast<scc::Long>(scc::SCC_I_FILEDIFFERS);
+}
+
+}  // namespace svnscc

@@ -1,0 +1,15 @@
+// Questions as a message box: No is what Enter and Escape answer.
+#include "common/windows/WindowTools.h"
+#include "host/WxText.h"
+#include "subversion/windows/ProviderWindows.h"
+
+namespace svnscc {
+
+std::optional<bool> ShowQuestion(scc::WindowHandle parent, const Question& question) {
+  if (!CanShowWindows()) return std::nullopt;
+  wxMessageDialog box(ParentFor(parent), ToWx(question.Text), ToWx(question.Title),
+                      wxYES_NO | wxNO_DEFAULT | wxICON_QUESTION);
+  return box.ShowModal() == wxID_YES;
+}
+
+}  // namespace svnscc
