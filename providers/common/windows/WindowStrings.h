@@ -26,6 +26,49 @@ constexpr TResString sRightUnended{"The last line on the right has no line end."
 constexpr TResString sBinaryDiffer{
     "The files are not text, and they differ: %d bytes on the left, %d bytes on the right."};
 constexpr TResString sBinarySame{"The files are not text. There are no differences."};
+constexpr TResString sOnDisk{"On this computer"};
+constexpr TResString sNoText{"This is no text: %d bytes."};
 
 // History
-constexpr TResString sNoText{"This is no text: %d bytes."};
+constexpr TResString sHistoryTitle{"History: %s"};
+constexpr TResString sRevisionColumn{"Revision"};
+constexpr TResString sDateColumn{"Date"};
+constexpr TResString sUserColumn{"User"};
+constexpr TResString sCommentColumn{"Comment"};
+constexpr TResString sShowTextButton{"&Show Text"};
+constexpr TResString sComparePreviousButton{"Compare with &Previous"};
+constexpr TResString sCompareLocalButton{"Compare with &Local"};
+constexpr TResString sGetRevisionButton{"&Get This Revision..."};
+constexpr TResString sMoreButton{"&More"};
+constexpr TResString sRevisionBy{"revision %s, %s, %s"};
+constexpr TResString sOneRevision{"One revision."};
+constexpr TResString sRevisions{"%d revisions."};
+constexpr TResString sMoreRevisions{"The newest %d revisions. There are more."};
+constexpr TResString sGetRevisionTitle{"Get This Revision"};
+constexpr TResString sReplaceFile{"Replace %s by revision %s?"};
+constexpr TResString sReplaceEdits{
+    "%s has changes that are not checked in. Replace it by revision %s? Your version will be kept in a copy "
+    "beside it."};
+constexpr TResString sReplaceButton{"&Replace"};
+constexpr TResString sKeepButton{"&Keep Mine"};
+
+// Properties
+constexpr TResString sPropertiesTitle{"Properties: %s"};
+constexpr TResString sVersionedProperties{"Versioned properties:"};
+constexpr TResString sNoProperties{"There are no versioned properties."};
+constexpr TResString sNameColumn{"Name"};
+constexpr TResString sValueColumn{"Value"};
+
+// Repository
+constexpr TResString sRepositoryLabel{"&Repository:"};
+constexpr TResString sOpenButton{"&Open"};
+constexpr TResString sHistoryButton{"&History..."};
+constexpr TResString sPropertiesButton{"&Properties..."};
+constexpr TResString sRefreshButton{"Re&fresh"};
+constexpr TResString sRefreshHint{"Ask the repository again (F5)"};
+constexpr TResString sSizeColumn{"Size"};
+constexpr TResString sLockColumn{"Checked out by"};
+constexpr TResString sOpenARepository{"Enter the address of a repository and choose Open."};
+constexpr TResString sEmptyFolder{"the folder is empty."};
+constexpr TResString sOneEntry{"one entry."};
+constexpr TResString sEntries{"%d entries."};

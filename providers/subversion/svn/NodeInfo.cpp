@@ -54,7 +54,7 @@ svn_error_t* OnInfo(void* baton, const char*, const svn_client_info2_t* info, ap
 }
 
 struct PropertyReceiver {
-  PropertyList list;
+  NamedTexts list;
   std::exception_ptr exception;
 };
 
@@ -141,7 +141,7 @@ NodeInfo LocalNodeInfo(Client& client, const std::string& path) {
   return FetchInfo(client, path, kUnspecified, kUnspecified);
 }
 
-PropertyList FetchProperties(Client& client, const std::string& place, const svn_opt_revision_t& revision) {
+NamedTexts FetchProperties(Client& client, const std::string& place, const svn_opt_revision_t& revision) {
   const Pool pool;
   PropertyReceiver receiver;
   svn_error_t* error = svn_client_proplist4(place.c_str(), &kUnspecified, &revision, svn_depth_empty, nullptr,

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "common/text/Contents.h"
+#include "common/text/Properties.h"
 #include "subversion/svn/Client.h"
 
 namespace svnscc {
@@ -59,8 +60,7 @@ NodeInfo FetchNodeInfo(Client& client, const std::string& place, const svn_opt_r
 NodeInfo LocalNodeInfo(Client& client, const std::string& path);
 
 /// Versioned properties, by name.
-using PropertyList = std::vector<std::pair<std::string, std::string>>;
-PropertyList FetchProperties(Client& client, const std::string& place, const svn_opt_revision_t& revision);
+NamedTexts FetchProperties(Client& client, const std::string& place, const svn_opt_revision_t& revision);
 
 LockInfo ToLockInfo(const svn_lock_t* lock);
 /// A moment on the user's clock, "2026-11-21 14:05:33"; empty for 0.

@@ -35,10 +35,10 @@ class FactList {
         .Add(sFactLockSince, LocalTime(lock.Since))
         .Add(sFactLockComment, lock.Comment);
   }
-  std::vector<std::pair<std::string, std::string>> Take() { return std::move(facts_); }
+  NamedTexts Take() { return std::move(facts_); }
 
  private:
-  std::vector<std::pair<std::string, std::string>> facts_;
+  NamedTexts facts_;
 };
 
 struct Word {

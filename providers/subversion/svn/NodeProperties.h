@@ -1,15 +1,10 @@
 // What there is to tell of one file or folder: for the window of its properties.
 #pragma once
 
+#include "common/text/Properties.h"
 #include "subversion/svn/NodeInfo.h"
 
 namespace svnscc {
-
-struct NodeProperties {
-  /// Label and value; only what is known.
-  std::vector<std::pair<std::string, std::string>> Facts;
-  PropertyList Properties;
-};
 
 /// Of a client's file or folder.  What the repository does not answer is told from the working copy.
 NodeProperties DescribeNode(ProviderContext& context, const ControlledNode& node);

@@ -4,6 +4,7 @@
 #include <wx/dirdlg.h>
 #include <wx/textdlg.h>
 
+#include "common/windows/WindowStrings.h"
 #include "host/WxText.h"
 #include "host/WxWheel.h"
 #include "subversion/project/RecentRepositories.h"

@@ -1,10 +1,13 @@
 #include "subversion/windows/ProviderWindows.h"
 
 #include "common/windows/DiffWindow.h"
+#include "common/windows/PropertiesWindow.h"
+#include "common/windows/WindowStrings.h"
 #include "host/System.h"
 #include "subversion/commands/CommandStrings.h"
 #include "subversion/svn/LocalStatus.h"
 #include "subversion/svn/NodeInfo.h"
+#include "subversion/svn/NodeProperties.h"
 #include "subversion/svn/SvnStrings.h"
 #include "subversion/windows/ProviderWindowStrings.h"
 
@@ -46,6 +49,13 @@ scc::Long ShowDifferences(ProviderContext& context, scc::WindowHandle parent, co
   const bool same = window.Same();
   window.ShowModal();
   return same ? scc::SCC_OK : static_cast<scc::Long>(scc::SCC_I_FILEDIFFERS);
+}
+
+scc::Long ShowProperties(ProviderContext& context, scc::WindowHandle parent, const char* name) {
+  RequireWindows();
+  const ControlledNode node = RequireControlled(context, name);
+  PropertiesWindow(ParentFor(parent), context.Label(node.Path), DescribeNode(context, node)).ShowModal();
+  return scc::SCC_OK;
 }
 
 }  // namespace svnscc

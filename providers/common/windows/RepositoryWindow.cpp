@@ -1,19 +1,14 @@
-#include "subversion/windows/BrowserWindow.h"
+#include "common/windows/RepositoryWindow.h"
 
 #include <wx/accel.h>
 #include <wx/numformatter.h>
 #include <wx/splitter.h>
 
+#include "common/windows/PropertiesWindow.h"
 #include "common/windows/TextWindow.h"
+#include "common/windows/WindowStrings.h"
 #include "host/WxText.h"
 #include "host/WxWheel.h"
-#include "subversion/project/OpenProject.h"
-#include "subversion/project/RecentRepositories.h"
-#include "subversion/svn/Repository.h"
-#include "subversion/windows/HistoryWindow.h"
-#include "subversion/windows/PropertiesWindow.h"
-#include "subversion/windows/ProviderWindowStrings.h"
-#include "subversion/windows/ProviderWindows.h"
 
 namespace svnscc {
 namespace {
@@ -27,30 +22,42 @@ std::string PathOf(wxTreeCtrl* tree, const wxTreeItemId& item) {
   return static_cast<FolderData*>(tree->GetItemData(item))->Path;
 }
 
-std::string Cell(const Entry& entry, std::size_t column) {
+std::string PathAbove(const std::string& path) {
+  const auto slash = path.rfind('/');
+  return slash == std::string::npos ? "" : path.substr(0, slash);
+}
+
+std::string PathBelow(const std::string& path, const std::string& name) {
+  return path.empty() ? name : path + "/" + name;
+}
+
+/// A path for people: the root is "/".
+std::string DisplayName(const std::string& path) { return path.empty() ? "/" : path; }
+
+std::string Cell(const RepositorySource::Entry& entry, std::size_t column) {
   switch (column) {
     case 0:
       return entry.Name + (entry.IsFolder ? "/" : "");
     case 1:
-      return std::to_string(entry.ChangedRevision);
+      return entry.Revision;
     case 2:
-      return entry.ChangedBy;
+      return entry.User;
     case 3:
-      return LocalTime(entry.ChangedAt);
+      return entry.Date;
     case 4:
       return entry.IsFolder
                  ? ""
                  : wxNumberFormatter::ToString(static_cast<wxLongLong_t>(entry.Size)).utf8_string();
     default:
-      return entry.Lock.Owner;
+      return entry.LockOwner;
   }
 }
 
 }  // namespace
 
-BrowserWindow::BrowserWindow(wxWindow* parent, ProviderContext& context, Browser& browser,
-                             const std::string& address)
-    : ToolWindow(parent, sBrowserTitle), context_(context), browser_(browser) {
+RepositoryWindow::RepositoryWindow(wxWindow* parent, const std::string& provider, const std::string& title,
+                                   RepositorySource& source, const std::string& address)
+    : ToolWindow(parent, title), provider_(provider), source_(source) {
   auto* all = new wxBoxSizer(wxVERTICAL);
   const int gap = FromDIP(8);
   all->Add(CreateAddress(address), wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT | wxTOP, gap));
@@ -67,14 +74,14 @@ BrowserWindow::BrowserWindow(wxWindow* parent, ProviderContext& context, Browser
   ShowState();
 }
 
-wxSizer* BrowserWindow::CreateAddress(const std::string& address) {
+wxSizer* RepositoryWindow::CreateAddress(const std::string& address) {
   auto* row = new wxBoxSizer(wxHORIZONTAL);
   row->Add(new wxStaticText(this, wxID_ANY, ToWx(sRepositoryLabel)),
            wxSizerFlags().CenterVertical().Border(wxRIGHT, FromDIP(6)));
   wxArrayString recent;
-  for (const auto& url : RecentRepositories()) recent.Add(ToWx(url));
-  address_ = new wxComboBox(this, wxID_ANY, ToWx(ReadableUrl(address)), wxDefaultPosition, wxDefaultSize,
-                            recent, wxTE_PROCESS_ENTER);
+  for (const auto& url : source_.RecentAddresses()) recent.Add(ToWx(url));
+  address_ = new wxComboBox(this, wxID_ANY, ToWx(address), wxDefaultPosition, wxDefaultSize, recent,
+                            wxTE_PROCESS_ENTER);
   address_->SetName("address");
   IgnoreWheel(*address_);
   row->Add(address_, wxSizerFlags(1).CenterVertical().Border(wxRIGHT, FromDIP(6)));
@@ -84,7 +91,7 @@ wxSizer* BrowserWindow::CreateAddress(const std::string& address) {
   return row;
 }
 
-wxWindow* BrowserWindow::CreateLists() {
+wxWindow* RepositoryWindow::CreateLists() {
   auto* splitter = new wxSplitterWindow(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxSP_LIVE_UPDATE);
   tree_ = new wxTreeCtrl(splitter, wxID_ANY, wxDefaultPosition, wxDefaultSize,
                          wxTR_DEFAULT_STYLE | wxTR_SINGLE | wxTR_LINES_AT_ROOT);
@@ -96,9 +103,7 @@ wxWindow* BrowserWindow::CreateLists() {
                        {sDateColumn, 145},
                        {sSizeColumn, 80, wxLIST_FORMAT_RIGHT},
                        {sLockColumn, 115}},
-                      [this](std::size_t row, std::size_t column) {
-                        return Cell(browser_.EntriesOf(folder_).at(row), column);
-                      });
+                      [this](std::size_t row, std::size_t column) { return Cell(entries_.at(row), column); });
   splitter->SetMinimumPaneSize(FromDIP(120));
   splitter->SplitVertically(tree_, list_, FromDIP(230));
   tree_->Bind(wxEVT_TREE_ITEM_EXPANDING, [this](wxTreeEvent& event) { FillFolder(event.GetItem()); });
@@ -111,7 +116,7 @@ wxWindow* BrowserWindow::CreateLists() {
   return splitter;
 }
 
-wxSizer* BrowserWindow::CreateButtons() {
+wxSizer* RepositoryWindow::CreateButtons() {
   auto* row = new wxBoxSizer(wxHORIZONTAL);
   text_ = AddButton(row, sShowTextButton, [this] { ShowTextOf(); });
   history_ = AddButton(row, sHistoryButton, [this] { ShowHistoryOf(); });
@@ -122,7 +127,7 @@ wxSizer* BrowserWindow::CreateButtons() {
   return row;
 }
 
-void BrowserWindow::BindKeys() {
+void RepositoryWindow::BindKeys() {
   const wxAcceleratorEntry refresh(wxACCEL_NORMAL, WXK_F5, refresh_->GetId());
   SetAcceleratorTable(wxAcceleratorTable(1, &refresh));
   list_->Bind(wxEVT_CHAR_HOOK, [this](wxKeyEvent& event) {
@@ -134,7 +139,7 @@ void BrowserWindow::BindKeys() {
 }
 
 template <class Body>
-bool BrowserWindow::Try(Body&& body) {
+bool RepositoryWindow::RunAndShowError(Body&& body) {
   const wxBusyCursor busy;
   try {
     body();
@@ -146,60 +151,59 @@ bool BrowserWindow::Try(Body&& body) {
   return problem_.empty();
 }
 
-void BrowserWindow::Open() {
+void RepositoryWindow::Open() {
   std::string path;
   list_->SetRows(0);
   tree_->DeleteAllItems();
-  if (!Try([&] { path = browser_.Open(address_->GetValue().utf8_string()); })) return;
-  RememberRepository(ReadableUrl(browser_.Root()));
+  if (!RunAndShowError([&] { path = source_.Open(address_->GetValue().utf8_string()); })) return;
   FillTree();
   GoTo(path);
   list_->SetFocus();
 }
 
-void BrowserWindow::Refresh() {
+void RepositoryWindow::Refresh() {
   const std::string folder = folder_;
-  const Entry* entry = Chosen();
+  const auto* entry = Chosen();
   const std::string name = entry != nullptr ? entry->Name : "";
   list_->SetRows(0);
-  browser_.Forget();
+  source_.Refresh();
   FillTree();
   GoTo(folder, name);
 }
 
-void BrowserWindow::FillTree() {
+void RepositoryWindow::FillTree() {
   tree_->DeleteAllItems();
-  const auto root = tree_->AddRoot(wxControl::EscapeMnemonics(ToWx(ReadableUrl(browser_.Root()))), -1, -1,
-                                   new FolderData(""));
+  const auto root =
+      tree_->AddRoot(wxControl::EscapeMnemonics(ToWx(source_.Address())), -1, -1, new FolderData(""));
   tree_->SetItemHasChildren(root);
   tree_->Expand(root);
 }
 
-void BrowserWindow::FillFolder(const wxTreeItemId& item) {
+void RepositoryWindow::FillFolder(const wxTreeItemId& item) {
   if (tree_->GetChildrenCount(item, false) > 0) return;
   const std::string path = PathOf(tree_, item);
-  Try([&] {
-    for (const Entry& entry : browser_.EntriesOf(path))
+  RunAndShowError([&] {
+    for (const auto& entry : source_.FetchEntries(path))
       if (entry.IsFolder) AppendFolder(item, PathBelow(path, entry.Name), entry.Name);
   });
   if (tree_->GetChildrenCount(item, false) == 0) tree_->SetItemHasChildren(item, false);
 }
 
-wxTreeItemId BrowserWindow::AppendFolder(const wxTreeItemId& parent, const std::string& path,
-                                         const std::string& name) {
+wxTreeItemId RepositoryWindow::AppendFolder(const wxTreeItemId& parent, const std::string& path,
+                                            const std::string& name) {
   const auto item = tree_->AppendItem(parent, ToWx(name), -1, -1, new FolderData(path));
   tree_->SetItemHasChildren(item);  // known when it is opened
   return item;
 }
 
-wxTreeItemId BrowserWindow::ChildNamed(const wxTreeItemId& parent, const std::string& name) const {
+wxTreeItemId RepositoryWindow::ChildNamed(const wxTreeItemId& parent, const std::string& name) const {
   wxTreeItemIdValue cookie = nullptr;
   auto child = tree_->GetFirstChild(parent, cookie);
   while (child.IsOk() && tree_->GetItemText(child) != ToWx(name)) child = tree_->GetNextChild(parent, cookie);
   return child;
 }
 
-void BrowserWindow::GoTo(const std::string& path, const std::string& entry) {
+void RepositoryWindow::GoTo(const std::string& path, const std::string& entry) {
   wxTreeItemId item = tree_->GetRootItem();
   std::string rest = path;
   while (!rest.empty()) {
@@ -215,48 +219,50 @@ void BrowserWindow::GoTo(const std::string& path, const std::string& entry) {
   ShowFolder(PathOf(tree_, item));
   if (list_->GetItemCount() == 0) return;
   const std::string& wanted = rest.empty() ? entry : rest;
-  const auto& entries = browser_.EntriesOf(folder_);
   const auto found =
-      std::find_if(entries.begin(), entries.end(), [&](const Entry& e) { return e.Name == wanted; });
-  list_->Select(found != entries.end() ? static_cast<long>(found - entries.begin()) : 0);
+      std::find_if(entries_.begin(), entries_.end(), [&](const auto& e) { return e.Name == wanted; });
+  list_->Select(found != entries_.end() ? static_cast<long>(found - entries_.begin()) : 0);
   ShowState();
 }
 
-void BrowserWindow::ShowFolder(const std::string& path) {
+void RepositoryWindow::ShowFolder(const std::string& path) {
   list_->SetRows(0);
   folder_ = path;
-  Try([&] { list_->SetRows(browser_.EntriesOf(path).size()); });
+  RunAndShowError([&] {
+    entries_ = source_.FetchEntries(path);
+    list_->SetRows(entries_.size());
+  });
 }
 
-const Entry* BrowserWindow::Chosen() const {
+const RepositorySource::Entry* RepositoryWindow::Chosen() const {
   const long row = list_->Selected();
-  return row >= 0 ? &browser_.EntriesOf(folder_).at(static_cast<std::size_t>(row)) : nullptr;
+  return row >= 0 ? &entries_.at(static_cast<std::size_t>(row)) : nullptr;
 }
 
-std::string BrowserWindow::ChosenPath() const {
-  const Entry* entry = Chosen();
+std::string RepositoryWindow::ChosenPath() const {
+  const auto* entry = Chosen();
   return entry != nullptr ? PathBelow(folder_, entry->Name) : folder_;
 }
 
-void BrowserWindow::ShowState() {
-  const bool open = browser_.IsOpen() && problem_.empty();
-  const Entry* entry = open ? Chosen() : nullptr;
+void RepositoryWindow::ShowState() {
+  const bool open = source_.IsOpen() && problem_.empty();
+  const auto* entry = open ? Chosen() : nullptr;
   text_->Enable(entry != nullptr && !entry->IsFolder);
   for (wxButton* button : {history_, properties_}) button->Enable(open);
-  refresh_->Enable(browser_.IsOpen());
+  refresh_->Enable(source_.IsOpen());
   const int count = list_->GetItemCount();
   const std::string counted = count == 0   ? sEmptyFolder.str()
                               : count == 1 ? sOneEntry.str()
                                            : Format(sEntries.Text, {static_cast<long long>(count)});
-  const std::string text = !problem_.empty()    ? problem_
-                           : !browser_.IsOpen() ? sOpenARepository.str()
-                                                : ToProjectName(folder_) + ": " + counted;
+  const std::string text = !problem_.empty()   ? problem_
+                           : !source_.IsOpen() ? sOpenARepository.str()
+                                               : DisplayName(folder_) + ": " + counted;
   message_->SetLabel(wxControl::EscapeMnemonics(ToWx(text)));
   message_->SetToolTip(ToWx(text));
 }
 
-void BrowserWindow::Activate() {
-  const Entry* entry = Chosen();
+void RepositoryWindow::Activate() {
+  const auto* entry = Chosen();
   if (entry == nullptr) return;
   if (entry->IsFolder)
     GoTo(ChosenPath());
@@ -264,51 +270,26 @@ void BrowserWindow::Activate() {
     ShowTextOf();
 }
 
-void BrowserWindow::ShowTextOf() {
+void RepositoryWindow::ShowTextOf() {
   Contents contents;
   const std::string path = ChosenPath();
-  if (Try([&] { contents = FetchContents(browser_.Svn(), browser_.UrlAt(path), Newest()); }))
-    ShowTextWindow(this, path, contents);
+  if (RunAndShowError([&] { contents = source_.FetchContents(path); })) ShowTextWindow(this, path, contents);
 }
 
-void BrowserWindow::ShowHistoryOf() {
+void RepositoryWindow::ShowHistoryOf() {
   const std::string path = ChosenPath();
-  const Entry* entry = Chosen();
+  const auto* entry = Chosen();
   const bool isFolder = entry == nullptr || entry->IsFolder;
-  History history(browser_.Svn(), browser_.UrlAt(path));
-  if (Try([&] { history.LoadMore(); }))
-    HistoryWindow(this, context_, history, "", ToProjectName(path), isFolder).ShowModal();
+  std::unique_ptr<HistorySource> history;
+  if (RunAndShowError([&] { history = source_.FetchHistory(path, isFolder); }))
+    HistoryWindow(this, provider_, *history, DisplayName(path)).ShowModal();
 }
 
-void BrowserWindow::ShowPropertiesOf() {
+void RepositoryWindow::ShowPropertiesOf() {
   const std::string path = ChosenPath();
-  NodeProperties description;
-  if (Try([&] { description = DescribeNode(browser_.Svn(), browser_.UrlAt(path)); }))
-    PropertiesWindow(this, ToProjectName(path), std::move(description)).ShowModal();
-}
-
-namespace {
-
-/// Where to begin: at the file named, else at the project, else where the user was last.
-std::string AddressOf(ProviderContext& context, Names names) {
-  if (!context.IsOpen()) {
-    const auto recent = RecentRepositories();
-    // A server that was used last may be out of reach, and waiting for it is not what was asked for.
-    return !recent.empty() && recent.front().starts_with("file://") ? recent.front() : "";
-  }
-  const Project& project = context.CurrentProject();
-  const std::string path = names.empty() ? "" : context.InsidePath(names.front());
-  if (path.empty() || path == project.Folder) return project.Url;
-  return UrlOf(project.Url, path.substr(project.Folder.size() + 1));
-}
-
-}  // namespace
-
-scc::Long RunBrowser(ProviderContext& context, scc::WindowHandle parent, Names names) {
-  RequireWindows();
-  Browser browser(context.IsOpen() ? context.Svn().User() : SystemUser());
-  BrowserWindow(ParentFor(parent), context, browser, AddressOf(context, names)).ShowModal();
-  return scc::SCC_OK;
+  NodeProperties properties;
+  if (RunAndShowError([&] { properties = source_.FetchProperties(path); }))
+    PropertiesWindow(this, DisplayName(path), std::move(properties)).ShowModal();
 }
 
 }  // namespace svnscc

@@ -1,25 +1,19 @@
-#include "subversion/windows/HistoryWindow.h"
+#include "common/windows/HistoryWindow.h"
 
 #include <wx/splitter.h>
 
 #include "common/windows/TextWindow.h"
+#include "common/windows/WindowStrings.h"
 #include "host/WxText.h"
-#include "subversion/commands/CommandStrings.h"
-#include "subversion/commands/GetRevision.h"
-#include "subversion/svn/LocalStatus.h"
-#include "subversion/windows/ProviderWindowStrings.h"
-#include "subversion/windows/ProviderWindows.h"
 
 namespace svnscc {
 
-HistoryWindow::HistoryWindow(wxWindow* parent, ProviderContext& context, History& history, std::string path,
-                             std::string name, bool isFolder)
+HistoryWindow::HistoryWindow(wxWindow* parent, const std::string& provider, HistorySource& source,
+                             std::string name)
     : ToolWindow(parent, Format(sHistoryTitle.Text, {name})),
-      context_(context),
-      history_(history),
-      path_(std::move(path)),
-      name_(std::move(name)),
-      isFolder_(isFolder) {
+      provider_(provider),
+      source_(source),
+      name_(std::move(name)) {
   auto* all = new wxBoxSizer(wxVERTICAL);
   const int gap = FromDIP(8);
   auto* splitter = new wxSplitterWindow(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxSP_LIVE_UPDATE);
@@ -29,14 +23,14 @@ HistoryWindow::HistoryWindow(wxWindow* parent, ProviderContext& context, History
                        {sUserColumn, 110},
                        {sCommentColumn, 420}},
                       [this](std::size_t row, std::size_t column) -> std::string {
-                        const Revision& revision = history_.Revisions().at(row);
+                        const auto revision = source_.At(row);
                         switch (column) {
                           case 0:
-                            return std::to_string(revision.Number);
+                            return revision.Name;
                           case 1:
-                            return LocalTime(revision.When);
+                            return revision.Date;
                           case 2:
-                            return revision.Author;
+                            return revision.User;
                           default:
                             return FirstLine(revision.Comment);
                         }
@@ -56,7 +50,7 @@ HistoryWindow::HistoryWindow(wxWindow* parent, ProviderContext& context, History
 
   list_->Bind(wxEVT_LIST_ITEM_SELECTED, [this](wxListEvent&) { ShowState(); });
   list_->Bind(wxEVT_LIST_ITEM_ACTIVATED, [this](wxListEvent&) { ShowTextOf(); });
-  list_->SetRows(history_.Revisions().size());
+  list_->SetRows(source_.Count());
   list_->Select(0);
   list_->SetFocus();
   ShowState();
@@ -69,57 +63,55 @@ wxSizer* HistoryWindow::CreateButtons() {
   local_ = AddButton(row, sCompareLocalButton, [this] { CompareWithLocal(); });
   get_ = AddButton(row, sGetRevisionButton, [this] { Get(); });
   more_ = AddButton(row, sMoreButton, [this] { More(); });
-  for (wxButton* button : {text_, previous_, local_, get_}) button->Show(!isFolder_);
-  for (wxButton* button : {local_, get_}) button->Show(!isFolder_ && !path_.empty());
+  for (wxButton* button : {text_, previous_, local_, get_}) button->Show(!source_.IsFolder());
+  for (wxButton* button : {local_, get_}) button->Show(!source_.IsFolder() && source_.HasLocalFile());
   AddClose(row);
   return row;
 }
 
 void HistoryWindow::ShowState() {
-  const auto& revisions = history_.Revisions();
   const bool chosen = list_->Selected() >= 0;
-  comment_->ChangeValue(chosen ? ToWx(revisions.at(Row()).Comment) : wxString());
-  const auto count = static_cast<long long>(revisions.size());
-  message_->SetLabel(ToWx(history_.HasMore() ? Format(sMoreRevisions.Text, {count})
-                          : count == 1       ? std::string(sOneRevision)
-                                             : Format(sRevisions.Text, {count})));
+  comment_->ChangeValue(chosen ? ToWx(source_.At(Row()).Comment) : wxString());
+  const auto count = static_cast<long long>(source_.Count());
+  message_->SetLabel(ToWx(source_.HasMore() ? Format(sMoreRevisions.Text, {count})
+                          : count == 1      ? std::string(sOneRevision)
+                                            : Format(sRevisions.Text, {count})));
   text_->Enable(chosen);
-  previous_->Enable(chosen && (Row() + 1 < revisions.size() || history_.HasMore()));
-  local_->Enable(chosen && IsOnDisk(path_));
+  previous_->Enable(chosen && (Row() + 1 < source_.Count() || source_.HasMore()));
+  local_->Enable(chosen && source_.HasLocalFile() && source_.IsOnDisk());
   get_->Enable(chosen);
-  more_->Enable(history_.HasMore());
+  more_->Enable(source_.HasMore());
 }
 
 template <class Body>
-void HistoryWindow::Try(Body&& body) {
+void HistoryWindow::RunAndShowError(Body&& body) {
   if (list_->Selected() < 0) return;
   try {
     const wxBusyCursor busy;
     body();
   } catch (const std::exception& exception) {
-    ShowError(this, sWindowsTitle, exception.what());
+    ShowError(this, provider_, exception.what());
   }
 }
 
 DiffSide HistoryWindow::SideOf(std::size_t row) {
-  const Revision& revision = history_.Revisions().at(row);
-  return {Format(sRevisionBy.Text,
-                 {static_cast<long long>(revision.Number), LocalTime(revision.When), revision.Author}),
-          history_.TextOf(row)};
+  const auto revision = source_.At(row);
+  return {Format(sRevisionBy.Text, {revision.Name, revision.Date, revision.User}),
+          source_.FetchContents(row)};
 }
 
 void HistoryWindow::ShowTextOf() {
-  if (isFolder_) return;
+  if (source_.IsFolder()) return;
   std::optional<DiffSide> side;
-  Try([&] { side = SideOf(Row()); });
+  RunAndShowError([&] { side = SideOf(Row()); });
   if (side) ShowTextWindow(this, name_ + ", " + side->Title, side->Text);
 }
 
 void HistoryWindow::CompareWithPrevious() {
   std::optional<DiffSide> left;
   std::optional<DiffSide> right;
-  Try([&] {
-    if (Row() + 1 == history_.Revisions().size()) More();
+  RunAndShowError([&] {
+    if (Row() + 1 == source_.Count()) More();
     left = SideOf(Row() + 1);
     right = SideOf(Row());
   });
@@ -129,9 +121,9 @@ void HistoryWindow::CompareWithPrevious() {
 void HistoryWindow::CompareWithLocal() {
   std::optional<DiffSide> left;
   std::optional<DiffSide> right;
-  Try([&] {
+  RunAndShowError([&] {
     left = SideOf(Row());
-    right = DiffSide{sOnDisk, ReadLocalContents(path_)};
+    right = DiffSide{sOnDisk, source_.ReadLocalContents()};
   });
   if (right) Compare(std::move(*left), std::move(*right));
 }
@@ -141,43 +133,27 @@ void HistoryWindow::Compare(DiffSide left, DiffSide right) {
 }
 
 void HistoryWindow::Get() {
-  Try([this] {
-    const auto revision = history_.Revisions().at(Row()).Number;
-    const bool edited = ReadLocalStatus(context_, path_).Differs;
+  RunAndShowError([this] {
+    const bool edited = source_.IsEdited();
     const std::string question =
-        Format(edited ? sReplaceEdits.Text : sReplaceFile.Text, {name_, static_cast<long long>(revision)});
+        Format(edited ? sReplaceEdits.Text : sReplaceFile.Text, {name_, source_.At(Row()).Name});
     wxMessageDialog ask(
         this, ToWx(question), ToWx(sGetRevisionTitle),
         wxYES_NO | (edited ? wxNO_DEFAULT | wxICON_WARNING : wxYES_DEFAULT | wxICON_QUESTION));
     ask.SetYesNoLabels(ToWx(sReplaceButton), ToWx(sKeepButton));
     if (ask.ShowModal() != wxID_YES) return;
     changedFile_ = true;  // a failure may come after the file was touched
-    GetRevision(context_, path_, revision);
-    message_->SetLabel(ToWx(Format(sGotRevision.Text, {static_cast<long long>(revision), name_})));
+    message_->SetLabel(ToWx(source_.ReplaceLocalFile(Row())));
   });
 }
 
 void HistoryWindow::More() {
-  Try([this] {
-    history_.LoadMore();
-    list_->SetRows(history_.Revisions().size());
+  RunAndShowError([this] {
+    source_.LoadMore();
+    list_->SetRows(source_.Count());
     list_->SetFocus();
     ShowState();
   });
-}
-
-scc::Long ShowHistory(ProviderContext& context, scc::WindowHandle parent, Names names) {
-  RequireWindows();
-  if (names.empty()) throw Failure(scc::SCC_E_FILENOTCONTROLLED, sNoFileNamed);
-  const ControlledNode node = RequireControlled(context, names.front());
-  History history(context.Svn(), node.Place);
-  history.LoadMore();
-  const bool isFolder =
-      FetchNodeInfo(context.Svn(), node.Place, Numbered(history.Revisions().at(0).Number)).IsFolder;
-  HistoryWindow window(ParentFor(parent), context, history, node.IsLocal() ? node.Path : "",
-                       context.Label(node.Path), isFolder);
-  window.ShowModal();
-  return window.HasChangedFile() ? scc::SCC_I_RELOADFILE : static_cast<scc::Long>(scc::SCC_OK);
 }
 
 }  // namespace svnscc

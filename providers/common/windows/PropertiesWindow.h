@@ -1,8 +1,8 @@
 // What there is to tell of a file or folder; every text can be selected and copied.
 #pragma once
 
+#include "common/text/Properties.h"
 #include "common/windows/WindowTools.h"
-#include "subversion/svn/NodeProperties.h"
 
 namespace svnscc {
 

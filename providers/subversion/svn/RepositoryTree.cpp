@@ -1,4 +1,4 @@
-#include "subversion/svn/Browser.h"
+#include "subversion/svn/RepositoryTree.h"
 
 #include <algorithm>
 
@@ -10,7 +10,7 @@ namespace svnscc {
 namespace {
 
 struct EntryReceiver {
-  std::vector<Entry> entries;
+  std::vector<TreeEntry> entries;
   std::exception_ptr exception;
 };
 
@@ -27,16 +27,7 @@ svn_error_t* OnEntry(void* baton, const char* path, const svn_dirent_t* node, co
 
 }  // namespace
 
-std::string PathAbove(const std::string& path) {
-  const auto slash = path.rfind('/');
-  return slash == std::string::npos ? "" : path.substr(0, slash);
-}
-
-std::string PathBelow(const std::string& path, const std::string& name) {
-  return path.empty() ? name : path + "/" + name;
-}
-
-std::string Browser::Open(const std::string& text) {
+std::string RepositoryTree::Open(const std::string& text) {
   client_.reset();
   entries_.clear();
   root_.clear();
@@ -49,9 +40,9 @@ std::string Browser::Open(const std::string& text) {
   return place.Path;
 }
 
-std::string Browser::UrlAt(const std::string& path) const { return UrlOf(root_, path); }
+std::string RepositoryTree::UrlAt(const std::string& path) const { return UrlOf(root_, path); }
 
-const std::vector<Entry>& Browser::EntriesOf(const std::string& path) {
+const std::vector<TreeEntry>& RepositoryTree::EntriesOf(const std::string& path) {
   const auto known = entries_.find(path);
   if (known != entries_.end()) return known->second;
   const Pool pool;
@@ -62,7 +53,7 @@ const std::vector<Entry>& Browser::EntriesOf(const std::string& path) {
       /*fetch_locks*/ TRUE, /*include_externals*/ FALSE, OnEntry, &receiver, client_->ClientContext(), pool);
   if (receiver.exception != nullptr) Check(error, receiver.exception);
   client_->Run(error);
-  std::sort(receiver.entries.begin(), receiver.entries.end(), [](const Entry& a, const Entry& b) {
+  std::sort(receiver.entries.begin(), receiver.entries.end(), [](const TreeEntry& a, const TreeEntry& b) {
     return a.IsFolder != b.IsFolder ? a.IsFolder : a.Name < b.Name;
   });
   return entries_[path] = std::move(receiver.entries);

@@ -1,4 +1,4 @@
-// A repository as one walks through it: folders, their entries, and what was asked already.
+// A cached view of a repository: the entries of its folders, fetched once each.
 #pragma once
 
 #include <map>
@@ -11,7 +11,7 @@
 
 namespace svnscc {
 
-struct Entry {
+struct TreeEntry {
   std::string Name;
   bool IsFolder = false;
   svn_filesize_t Size = 0;
@@ -21,9 +21,9 @@ struct Entry {
   LockInfo Lock;
 };
 
-class Browser {
+class RepositoryTree {
  public:
-  explicit Browser(std::string user) : user_(std::move(user)) {}
+  explicit RepositoryTree(std::string user) : user_(std::move(user)) {}
 
   /// Opens the repository that `text` names: an address of it or of something inside, or a local folder.  Returns the
   /// path inside that `text` names.  Throws Failure, and then nothing is open.
@@ -32,7 +32,7 @@ class Browser {
   const std::string& Root() const { return root_; }
   std::string UrlAt(const std::string& path) const;
   /// Folders first, then files, by name.  `path` is inside the repository, empty for its root.  Asked once.  Throws.
-  const std::vector<Entry>& EntriesOf(const std::string& path);
+  const std::vector<TreeEntry>& EntriesOf(const std::string& path);
   /// Asks everything again.
   void Forget() { entries_.clear(); }
   Client& Svn() { return *client_; }
@@ -41,11 +41,7 @@ class Browser {
   std::string user_;
   std::unique_ptr<Client> client_;
   std::string root_;
-  std::map<std::string, std::vector<Entry>> entries_;
+  std::map<std::string, std::vector<TreeEntry>> entries_;
 };
-
-/// Paths inside a repository: the folder above, empty at the top; and an entry below.
-std::string PathAbove(const std::string& path);
-std::string PathBelow(const std::string& path, const std::string& name);
 
 }  // namespace svnscc

@@ -1,8 +1,7 @@
-#include "subversion/windows/PropertiesWindow.h"
+#include "common/windows/PropertiesWindow.h"
 
+#include "common/windows/WindowStrings.h"
 #include "host/WxText.h"
-#include "subversion/windows/ProviderWindowStrings.h"
-#include "subversion/windows/ProviderWindows.h"
 
 namespace svnscc {
 
@@ -61,13 +60,6 @@ wxSizer* PropertiesWindow::CreateProperties() {
   list_->Select(0);
   value_->ChangeValue(ToWx(description_.Properties.front().second));
   return part;
-}
-
-scc::Long ShowProperties(ProviderContext& context, scc::WindowHandle parent, const char* name) {
-  RequireWindows();
-  const ControlledNode node = RequireControlled(context, name);
-  PropertiesWindow(ParentFor(parent), context.Label(node.Path), DescribeNode(context, node)).ShowModal();
-  return scc::SCC_OK;
 }
 
 }  // namespace svnscc
