@@ -12,13 +12,15 @@
 #include <vector>
 
 #include "expert/SccExpert.h"
-#include "host/Registry.h"
 #include "provider/sccapi.h"
 #include "support/Environment.h"
 #include "support/ScriptedForms.h"
 #include "support/ScriptedHost.h"
 #include "support/ScriptedProvider.h"
 #include "support/TemporaryFolder.h"
+#include "system/Registry.h"
+
+namespace kestrel::addin {
 
 using TClock = std::chrono::steady_clock;
 
@@ -107,3 +109,5 @@ inline void Report(auto& state, TBigProject& project, double whole, double bare,
   if (const auto smaller = measured.find(state.range(0) / 8); smaller != measured.end())
     state.counters["growth"] = whole / smaller->second;
 }
+
+}  // namespace kestrel::addin

@@ -8,6 +8,9 @@
 
 #include "BigProject.h"
 
+using namespace kestrel;
+using namespace kestrel::addin;
+
 namespace {
 
 void CheckOutAll(TBigProject& project) {

@@ -14,6 +14,9 @@
 #include "wizards/CommitPass.h"
 #include "wizards/FileSearch.h"
 
+using namespace kestrel;
+using namespace kestrel::addin;
+
 namespace {
 
 void ListAll(TBigProject& project) {

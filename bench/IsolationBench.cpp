@@ -13,6 +13,9 @@
 
 #include "subversion/Developer.h"
 
+using namespace kestrel;
+using namespace kestrel::svnscc;
+
 namespace {
 
 double Best(int runs, const std::function<void()>& action) {

@@ -6,6 +6,9 @@
 #include <random>
 #include <string>
 
+using namespace kestrel;
+using namespace kestrel::svnscc;
+
 int main(int argc, char** argv) {
   const auto argument = [&](int index, unsigned otherwise) {
     return argc > index ? static_cast<unsigned>(std::stoul(argv[index])) : otherwise;

@@ -10,6 +10,9 @@
 #include "BigProject.h"
 #include "wizards/FileSearch.h"
 
+using namespace kestrel;
+using namespace kestrel::addin;
+
 namespace {
 
 constexpr int kFiles = 100'000;

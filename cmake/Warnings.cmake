@@ -5,4 +5,3 @@ target_compile_options(warnings INTERFACE
   -Woverloaded-virtual -Wconversion -Wsign-conversion -Wformat=2
   # g++ 12 reports these inside libstdc++ for correct code at -O2 (GCC bugs 105329, 105651).
   -Wno-restrict -Wno-error=stringop-overflow)
-target_include_directories(warnings INTERFACE ${CMAKE_SOURCE_DIR}/src)

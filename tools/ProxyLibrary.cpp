@@ -5,11 +5,13 @@
 #include <stdexcept>
 
 #include "ProxyConfig.h"
-#include "host/FileName.h"
-#include "host/Paths.h"
-#include "host/Registry.h"
-#include "host/System.h"
-#include "host/Text.h"
+#include "system/FileName.h"
+#include "system/Paths.h"
+#include "system/Registry.h"
+#include "system/System.h"
+#include "system/Text.h"
+
+namespace kestrel {
 
 namespace {
 
@@ -71,3 +73,5 @@ void RemoveProxyLibrary(const std::string& name) {
   for (const auto& file : {ProxyLibraryPath(name), ConfigFileOf(ProxyLibraryPath(name))})
     fs::remove(ToFilePath(file), ignored);
 }
+
+}  // namespace kestrel

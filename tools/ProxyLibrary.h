@@ -3,6 +3,8 @@
 
 #include <string>
 
+namespace kestrel {
+
 /// Installs or replaces the library that stands for the provider `name` at `path`; returns its path.  Throws
 /// std::runtime_error with a sentence for the user.
 std::string InstallProxyLibrary(const std::string& name, const std::string& path);
@@ -10,3 +12,5 @@ std::string InstallProxyLibrary(const std::string& name, const std::string& path
 std::string ProviderBehindProxy(const std::string& library);
 /// Removes the library that InstallProxyLibrary installed for the provider `name`, if there is one.
 void RemoveProxyLibrary(const std::string& name);
+
+}  // namespace kestrel

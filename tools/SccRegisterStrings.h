@@ -1,15 +1,17 @@
 #pragma once
 
-#include "host/Text.h"
+#include "system/Text.h"
 
-constexpr TResString sUsage{
+namespace kestrel {
+
+inline constexpr TResString sUsage{
     "Usage: scc-register add NAME PATH [--default] [--force] [--search-path] [--isolated]\n"
     "       scc-register remove NAME\n"
     "       scc-register default NAME\n"
     "       scc-register isolate NAME\n"
     "       scc-register direct NAME\n"
     "       scc-register list\n"};
-constexpr TResString sHelp{
+inline constexpr TResString sHelp{
     "Installs, removes and lists the source control providers of this machine.\n"
     "\n"
     "  add      installs the provider library PATH (absolute) under NAME, or changes\n"
@@ -35,33 +37,36 @@ constexpr TResString sHelp{
     "current user's registry is changed; to change it for all users, run as an\n"
     "administrator with CORVANE_REGISTRY_DIR=/etc/corvane.\n"};
 
-constexpr TResString sMessage{"scc-register: %s\n"};
-constexpr TResString sUnknownOption{"There is no option %s."};
-constexpr TResString sUnknownCommand{"There is no command %s."};
-constexpr TResString sWrongArguments{"Wrong number of arguments for %s."};
-constexpr TResString sOptionNotForCommand{"%s has no option %s."};
+inline constexpr TResString sMessage{"scc-register: %s\n"};
+inline constexpr TResString sUnknownOption{"There is no option %s."};
+inline constexpr TResString sUnknownCommand{"There is no command %s."};
+inline constexpr TResString sWrongArguments{"Wrong number of arguments for %s."};
+inline constexpr TResString sOptionNotForCommand{"%s has no option %s."};
 
-constexpr TResString sBadName{
+inline constexpr TResString sBadName{
     "\"%s\" cannot be the name of a provider: it must not be empty, contain backslashes or control "
     "characters, or begin or end with a blank."};
-constexpr TResString sPathNotAbsolute{"%s is not an absolute path."};
-constexpr TResString sFileNotFound{"%s does not exist."};
-constexpr TResString sNotLoadable{"%s cannot be loaded: %s"};
-constexpr TResString sNotAProvider{"%s is not a source control provider: it does not export %s."};
-constexpr TResString sNotInstalled{"No provider is installed under the name \"%s\"."};
-constexpr TResString sNoKey{"The entry of \"%s\" names no key of the registry; install the provider again."};
-constexpr TResString sInstalledForAll{
+inline constexpr TResString sPathNotAbsolute{"%s is not an absolute path."};
+inline constexpr TResString sFileNotFound{"%s does not exist."};
+inline constexpr TResString sNotLoadable{"%s cannot be loaded: %s"};
+inline constexpr TResString sNotAProvider{"%s is not a source control provider: it does not export %s."};
+inline constexpr TResString sNotInstalled{"No provider is installed under the name \"%s\"."};
+inline constexpr TResString sNoKey{
+    "The entry of \"%s\" names no key of the registry; install the provider again."};
+inline constexpr TResString sInstalledForAll{
     "\"%s\" is installed for all users of this machine; only an administrator can remove it."};
 
-constexpr TResString sNoProviders{"No source control providers are installed.\n"};
-constexpr TResString sProviderLine{"%s %s  %s"};
-constexpr TResString sNoSuchFile{" (not found)"};
-constexpr TResString sInPath{" (searches PATH)"};
-constexpr TResString sInOwnProcess{" (isolated)"};
-constexpr TResString sAdded{"Installed \"%s\".\n"};
-constexpr TResString sRemoved{"Removed \"%s\".\n"};
-constexpr TResString sIsIsolated{"\"%s\" runs in a process of its own.\n"};
-constexpr TResString sIsDirect{"\"%s\" is loaded into the program that uses it.\n"};
-constexpr TResString sIsDefault{"\"%s\" is the default provider.\n"};
-constexpr TResString sNoDefault{
+inline constexpr TResString sNoProviders{"No source control providers are installed.\n"};
+inline constexpr TResString sProviderLine{"%s %s  %s"};
+inline constexpr TResString sNoSuchFile{" (not found)"};
+inline constexpr TResString sInPath{" (searches PATH)"};
+inline constexpr TResString sInOwnProcess{" (isolated)"};
+inline constexpr TResString sAdded{"Installed \"%s\".\n"};
+inline constexpr TResString sRemoved{"Removed \"%s\".\n"};
+inline constexpr TResString sIsIsolated{"\"%s\" runs in a process of its own.\n"};
+inline constexpr TResString sIsDirect{"\"%s\" is loaded into the program that uses it.\n"};
+inline constexpr TResString sIsDefault{"\"%s\" is the default provider.\n"};
+inline constexpr TResString sNoDefault{
     "There is no default provider now; choose one with \"scc-register default NAME\".\n"};
+
+}  // namespace kestrel

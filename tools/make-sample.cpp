@@ -9,13 +9,16 @@
 #include <vector>
 
 #include "ProxyLibrary.h"
+#include "provider/sccapiintf.h"
 #include "subversion/project/UsedRepositories.h"
 #include "subversion/svn/Repository.h"
-#include "host/Paths.h"
-#include "host/Registry.h"
-#include "host/System.h"
-#include "host/Text.h"
-#include "provider/sccapiintf.h"
+#include "system/Paths.h"
+#include "system/Registry.h"
+#include "system/System.h"
+#include "system/Text.h"
+
+using namespace kestrel;
+using namespace kestrel::addin;
 
 namespace {
 

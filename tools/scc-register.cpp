@@ -8,11 +8,14 @@
 
 #include "ProxyLibrary.h"
 #include "SccRegisterStrings.h"
-#include "host/Library.h"
-#include "host/Paths.h"
-#include "host/Registry.h"
-#include "host/System.h"
 #include "provider/sccapiintf.h"
+#include "system/Library.h"
+#include "system/Paths.h"
+#include "system/Registry.h"
+#include "system/System.h"
+
+using namespace kestrel;
+using namespace kestrel::addin;
 
 namespace {
 
@@ -103,7 +106,7 @@ void CheckLibrary(const std::string& path, TDependencySearch search) {
   const auto module = LoadModule(path, &error, search);
   if (!module) throw EFailure(Format(sNotLoadable, {path, error}));
   const bool isProvider = FindSymbol(module, kEntryPoint);
-  FreeModule(module);
+  UnloadModule(module);
   if (!isProvider) throw EFailure(Format(sNotAProvider, {path, kEntryPoint}));
 }
 

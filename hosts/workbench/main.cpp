@@ -3,12 +3,15 @@
 #include <exception>
 #include <string>
 
-#include "host/System.h"
+#include "system/System.h"
 #include "workbench/macro/MacroParser.h"
 #include "workbench/model/ModelStrings.h"
 #include "workbench/windows/App.h"
 #include "workbench/windows/FrameStrings.h"
 #include "workbench/windows/Version.h"
+
+using namespace kestrel;
+using namespace kestrel::workbench;
 
 namespace {
 

@@ -6,7 +6,7 @@
 
 #include "Wire.h"
 
-namespace isolation {
+namespace kestrel::isolation {
 
 /// The add-in passes texts of 4,096 bytes with a canary of 1,024 bytes behind them, and status arrays of 65,536 words with a
 /// canary of 256 words.  It is recognised by its caller name, and overruns are copied back into its canaries.  The buffers
@@ -20,4 +20,4 @@ constexpr scc::Long kUnwritten = 0x5A5A5A5A;
 /// A file count of the API as a size; negative counts are 0.
 inline std::size_t FileCount(scc::Long count) { return static_cast<std::size_t>(std::max(count, 0)); }
 
-}  // namespace isolation
+}  // namespace kestrel::isolation

@@ -11,7 +11,7 @@
 #include "ProviderProxy.h"
 #include "TryReadMemory.h"
 
-namespace isolation::client {
+namespace kestrel::isolation::client {
 
 using scc::Long;
 
@@ -208,4 +208,4 @@ struct ReturnedNames : Input<const char***> {
   }
 };
 
-}  // namespace isolation::client
+}  // namespace kestrel::isolation::client

@@ -2,10 +2,10 @@
 // records the state to be restored after a restart, and answers calls that need no process.
 #include "RemoteCall.h"
 
-using namespace scc;
-using isolation::ProviderProxy;
+namespace kestrel::isolation {
 
-namespace isolation {
+using namespace scc;
+
 namespace {
 
 #define SCC_ENTRY_ARGUMENTS(name, ...) \
@@ -117,15 +117,11 @@ Long RestoreProvider(ProviderProxy& proxy) {
                                     proxy.Opened->Flags);
 }
 
-}  // namespace isolation
-
-using namespace isolation;
-
 // Declared from the client's table, so that a wrong signature does not compile.
 #define SccCheckOut SccCheckout
 extern "C" {
 #define SCC_ENTRY(variable, name, result, arguments) SCC_EXPORT result SCC_CALL variable arguments;
-#include "provider/entry_points.def"
+#include "scc/entry_points.def"
 #undef SCC_ENTRY
 }
 #undef SccCheckOut
@@ -191,3 +187,5 @@ Long SCC_CALL SccRunScc(void* c, WindowHandle w, Long n, const char** f) { FORWA
 Long SCC_CALL SccUncheckout(void* c, WindowHandle w, Long n, const char** f, Long g, void* o) {
   FORWARD(SccUncheckout, w, n, f, g, o);
 }
+
+}  // namespace kestrel::isolation

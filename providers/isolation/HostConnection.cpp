@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstring>
 
-namespace isolation {
+namespace kestrel::isolation {
 namespace {
 
 constexpr std::size_t kChunk = 256 << 10;
@@ -71,4 +71,4 @@ void HostConnection::Shutdown() {
   process_->Detach();
 }
 
-}  // namespace isolation
+}  // namespace kestrel::isolation

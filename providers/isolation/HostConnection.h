@@ -10,7 +10,7 @@
 #include "ProxyConfig.h"
 #include "Wire.h"
 
-namespace isolation {
+namespace kestrel::isolation {
 
 class HostConnection {
  public:
@@ -41,4 +41,4 @@ class HostConnection {
   bool ended_ = false;
 };
 
-}  // namespace isolation
+}  // namespace kestrel::isolation

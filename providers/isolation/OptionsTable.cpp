@@ -1,6 +1,6 @@
 #include "OptionsTable.h"
 
-namespace isolation {
+namespace kestrel::isolation {
 
 std::uint32_t OptionsTable::BlockAt(const void* address) const {
   const auto known = blocks_.find(address);
@@ -33,4 +33,4 @@ void OptionsTable::InvalidateBlocks() {
   for (auto& [address, number] : blocks_) number = 0;
 }
 
-}  // namespace isolation
+}  // namespace kestrel::isolation

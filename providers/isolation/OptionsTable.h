@@ -11,7 +11,7 @@
 
 #include "Wire.h"
 
-namespace isolation {
+namespace kestrel::isolation {
 
 /// An options pointer on the wire.
 struct OptionsKey {
@@ -43,4 +43,4 @@ class OptionsTable {
   std::vector<std::unique_ptr<char>> addresses_;
 };
 
-}  // namespace isolation
+}  // namespace kestrel::isolation

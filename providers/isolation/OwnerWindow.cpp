@@ -6,7 +6,7 @@
 
 #include "WindowId.h"
 
-namespace isolation {
+namespace kestrel::isolation {
 namespace {
 
 /// The window that the user works in.  The toolkit may not yet report a dialog as active that has just been opened.
@@ -29,4 +29,4 @@ std::uint64_t OwnerWindowId(scc::WindowHandle window) {
   return WindowId(window, front);
 }
 
-}  // namespace isolation
+}  // namespace kestrel::isolation

@@ -3,12 +3,12 @@
 
 #include <cstdint>
 
-#include "provider/sccdefs.h"
+#include "scc/sccdefs.h"
 
-namespace isolation {
+namespace kestrel::isolation {
 
 /// Returns the system-wide id of the owner: `window` if it is valid in other processes, otherwise the innermost modal dialog
 /// or the active window.  0 if there is none.
 std::uint64_t OwnerWindowId(scc::WindowHandle window);
 
-}  // namespace isolation
+}  // namespace kestrel::isolation

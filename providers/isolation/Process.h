@@ -5,7 +5,7 @@
 #include <memory>
 #include <string>
 
-namespace isolation {
+namespace kestrel::isolation {
 
 /// Bytes to be sent.
 struct SendBuffer {
@@ -36,4 +36,4 @@ class Process {
   virtual std::string ExitDescription() = 0;
 };
 
-}  // namespace isolation
+}  // namespace kestrel::isolation

@@ -8,7 +8,7 @@
 
 using namespace std::chrono_literals;
 
-namespace isolation {
+namespace kestrel::isolation {
 namespace {
 
 constexpr int kMaxFruitlessStarts = 3;
@@ -250,4 +250,4 @@ void ProviderProxy::End() {
   connection_.reset();
 }
 
-}  // namespace isolation
+}  // namespace kestrel::isolation

@@ -14,7 +14,7 @@
 #include "HostConnection.h"
 #include "OptionsTable.h"
 
-namespace isolation {
+namespace kestrel::isolation {
 
 /// A call could not be made or did not return; what() is a sentence for the user.
 struct CallFailed : std::runtime_error {
@@ -128,4 +128,4 @@ class ProviderProxy {
 /// otherwise SCC_OK.  Throws CallFailed.
 scc::Long RestoreProvider(ProviderProxy& proxy);
 
-}  // namespace isolation
+}  // namespace kestrel::isolation

@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <fstream>
 
-namespace isolation {
+namespace kestrel::isolation {
 
 namespace {
 
@@ -27,4 +27,4 @@ ProxyConfig ReadProxyConfig(const std::string& file) {
   return config;
 }
 
-}  // namespace isolation
+}  // namespace kestrel::isolation

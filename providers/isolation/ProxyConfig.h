@@ -4,7 +4,7 @@
 
 #include <string>
 
-namespace isolation {
+namespace kestrel::isolation {
 
 /// Extension of the configuration file; the rest of its name is the library's.
 constexpr const char* kConfigExtension = ".provider";
@@ -21,4 +21,4 @@ ProxyConfig ReadProxyConfig(const std::string& file);
 /// Path of the configuration file of the library that this code is linked into.
 std::string OwnConfigFile();
 
-}  // namespace isolation
+}  // namespace kestrel::isolation

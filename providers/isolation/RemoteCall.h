@@ -3,7 +3,7 @@
 
 #include "ClientArguments.h"
 
-namespace isolation {
+namespace kestrel::isolation {
 
 template <EntryPoint Called, class... Kinds>
 struct RemoteCall {
@@ -60,4 +60,4 @@ struct RemoteCall {
   }
 };
 
-}  // namespace isolation
+}  // namespace kestrel::isolation

@@ -3,9 +3,9 @@
 
 #include <cstddef>
 
-namespace isolation {
+namespace kestrel::isolation {
 
 /// Copies `size` bytes of this process; returns false if any of them cannot be read.
 bool TryReadMemory(const void* from, void* to, std::size_t size);
 
-}  // namespace isolation
+}  // namespace kestrel::isolation

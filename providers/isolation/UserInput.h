@@ -1,9 +1,9 @@
 // Pending keyboard and mouse input.
 #pragma once
 
-namespace isolation {
+namespace kestrel::isolation {
 
 /// Discards it without handling it.
 void DiscardUserInput();
 
-}  // namespace isolation
+}  // namespace kestrel::isolation

@@ -5,11 +5,11 @@
 
 #include "UserInput.h"
 #include "WaitingWindow.h"
-#include "host/WxWaiting.h"
+#include "toolkit/WxWaiting.h"
 
 using namespace std::chrono_literals;
 
-namespace isolation {
+namespace kestrel::isolation {
 namespace {
 
 using Clock = std::chrono::steady_clock;
@@ -52,4 +52,4 @@ void WaitForCall(const PendingCall& call) {
     if (ShowWaitingWindow(call, begun)) return;
 }
 
-}  // namespace isolation
+}  // namespace kestrel::isolation

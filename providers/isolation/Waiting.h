@@ -5,7 +5,7 @@
 #include <functional>
 #include <string>
 
-namespace isolation {
+namespace kestrel::isolation {
 
 struct PendingCall {
   /// Works on the call for at most the given time; returns true when the call has finished.  Does not throw.
@@ -23,4 +23,4 @@ struct PendingCall {
 /// Returns when the call has finished.  Windows are repainted meanwhile; a call that takes long gets a window with Stop.
 void WaitForCall(const PendingCall& call);
 
-}  // namespace isolation
+}  // namespace kestrel::isolation

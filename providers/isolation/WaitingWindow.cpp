@@ -7,11 +7,11 @@
 #include <wx/timer.h>
 
 #include "IsolationStrings.h"
-#include "host/WxText.h"
+#include "toolkit/WxText.h"
 
 using namespace std::chrono_literals;
 
-namespace isolation {
+namespace kestrel::isolation {
 namespace {
 
 using Clock = std::chrono::steady_clock;
@@ -87,4 +87,4 @@ bool ShowWaitingWindow(const PendingCall& call, Clock::time_point begun) {
   return true;
 }
 
-}  // namespace isolation
+}  // namespace kestrel::isolation

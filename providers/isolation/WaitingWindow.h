@@ -5,7 +5,7 @@
 
 #include "Waiting.h"
 
-namespace isolation {
+namespace kestrel::isolation {
 
 /// The window's name, by which other programs recognise it.
 constexpr const char* kWaitingWindow = "SccWaiting";
@@ -13,4 +13,4 @@ constexpr const char* kWaitingWindow = "SccWaiting";
 /// Shows the window until the call has finished (returns true) or the provider shows a window of its own (false).
 bool ShowWaitingWindow(const PendingCall& call, std::chrono::steady_clock::time_point begun);
 
-}  // namespace isolation
+}  // namespace kestrel::isolation

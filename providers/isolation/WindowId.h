@@ -3,13 +3,13 @@
 
 #include <cstdint>
 
-#include "provider/sccdefs.h"
+#include "scc/sccdefs.h"
 
 class wxWindow;
 
-namespace isolation {
+namespace kestrel::isolation {
 
 /// Returns the system-wide id of the client's `window` if it has one (Windows), otherwise that of `fallback`; 0 for none.
 std::uint64_t WindowId(scc::WindowHandle window, wxWindow* fallback);
 
-}  // namespace isolation
+}  // namespace kestrel::isolation

@@ -2,7 +2,7 @@
 
 #include <cstring>
 
-namespace isolation {
+namespace kestrel::isolation {
 
 const char* NameOf(EntryPoint entry) {
   static constexpr const char* kNames[] = {
@@ -39,4 +39,4 @@ std::vector<const char*> NameList::Pointers() const {
   return pointers;
 }
 
-}  // namespace isolation
+}  // namespace kestrel::isolation

@@ -10,9 +10,9 @@
 #include <string>
 #include <string_view>
 
-#include "provider/sccdefs.h"
+#include "scc/sccdefs.h"
 
-namespace isolation {
+namespace kestrel::isolation {
 
 /// Malformed data: the memory of the other side is damaged, or it is another program.
 struct WireError : std::runtime_error {
@@ -164,8 +164,8 @@ class NameList {
   std::vector<char> bytes_;
 };
 
-}  // namespace isolation
+}  // namespace kestrel::isolation
 
-CEREAL_REGISTER_ARCHIVE(isolation::FrameWriter)
-CEREAL_REGISTER_ARCHIVE(isolation::FrameReader)
-CEREAL_SETUP_ARCHIVE_TRAITS(isolation::FrameReader, isolation::FrameWriter)
+CEREAL_REGISTER_ARCHIVE(kestrel::isolation::FrameWriter)
+CEREAL_REGISTER_ARCHIVE(kestrel::isolation::FrameReader)
+CEREAL_SETUP_ARCHIVE_TRAITS(kestrel::isolation::FrameReader, kestrel::isolation::FrameWriter)

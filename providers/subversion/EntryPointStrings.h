@@ -1,11 +1,15 @@
 // Texts of the entry points.
 #pragma once
 
-#include "host/Text.h"
+#include "system/Text.h"
+
+namespace kestrel::svnscc {
 
 // Identity
-constexpr TResString sProviderName{"Subversion"};
-constexpr TResString sAuxPathLabel{"Repository:"};
+inline constexpr TResString sProviderName{"Subversion"};
+inline constexpr TResString sAuxPathLabel{"Repository:"};
 
 // ProviderContext
-constexpr TResString sUnknownFault{"The provider failed for an unknown reason."};
+inline constexpr TResString sUnknownFault{"The provider failed for an unknown reason."};
+
+}  // namespace kestrel::svnscc

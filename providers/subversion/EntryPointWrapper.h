@@ -6,7 +6,7 @@
 #include "subversion/svn/SvnStrings.h"
 #include "subversion/svn/WorkingCopyLocks.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 
 /// No exception leaves an entry point: it becomes a sentence for the user and a code for the client.
 template <class Body>
@@ -74,4 +74,4 @@ scc::Long RunFileCommand(void* handle, scc::Long count, const char** names, Body
   });
 }
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

@@ -10,15 +10,9 @@
 #include "subversion/project/ProjectPrompt.h"
 #include "subversion/windows/ProviderWindows.h"
 
+namespace kestrel::svnscc {
+
 using namespace scc;
-using svnscc::AfterCommit;
-using svnscc::Names;
-using svnscc::NativeName;
-using svnscc::ProviderContext;
-using svnscc::RunEntryPoint;
-using svnscc::RunFileCommand;
-using svnscc::RunWithFiles;
-using svnscc::RunWithProject;
 
 namespace {
 
@@ -59,9 +53,9 @@ SCC_EXPORT Long SCC_CALL SccInitialize(void** handle, WindowHandle, const char*,
   if (handle == nullptr) return SCC_E_INITIALIZEFAILED;
   *handle = nullptr;
   try {
-    svnscc::EnsureRuntime();
-    svnscc::SetLoginPrompt(svnscc::AskLogin);
-    svnscc::SetQuestionPrompt(svnscc::ShowQuestion);
+    EnsureRuntime();
+    SetLoginPrompt(AskLogin);
+    SetQuestionPrompt(ShowQuestion);
     *handle = new ProviderContext;
   } catch (...) {  // no text-out yet: the code must do
     return SCC_E_INITIALIZEFAILED;
@@ -104,13 +98,13 @@ SCC_EXPORT Long SCC_CALL SccSetOption(void* handle, Long option, Long value) {
 SCC_EXPORT Long SCC_CALL SccGetProjPath(void* handle, WindowHandle window, char* user, char* projectName,
                                         char* localPath, char* auxPath, Bool, Bool* isNew) {
   return RunEntryPoint(handle, [&](ProviderContext& context) -> Long {
-    svnscc::ProjectRequest request;
+    ProjectRequest request;
     request.User = Text(user);
     request.ProjectName = Text(projectName);
     request.Repository = Text(auxPath);
     request.LocalFolder = Text(localPath);
     request.MayCreate = isNew != nullptr && *isNew != 0;
-    const Long result = svnscc::PromptForProject(context, window, request);
+    const Long result = PromptForProject(context, window, request);
     Return(user, request.User, SCC_USER_SIZE);
     if (result != SCC_OK) return result;
     Return(projectName, request.ProjectName, SCC_PRJPATH_SIZE);
@@ -129,10 +123,10 @@ SCC_EXPORT Long SCC_CALL SccOpenProject(void* handle, WindowHandle window, char*
     busy = context.IsOpen();
     if (busy) return SCC_E_PROJECTALREADYOPEN;
     context.Out().Attach(textOut);
-    svnscc::ProjectNames names{Text(user), Text(projectName), Text(auxPath), Text(localPath), Text(comment)};
+    ProjectNames names{Text(user), Text(projectName), Text(auxPath), Text(localPath), Text(comment)};
     const auto given = names;
     const bool silent = (flags & SCC_OP_SILENTOPEN) != 0;
-    svnscc::OpenProject(
+    OpenProject(
         context, names,
         {.MayCreate = !silent && (flags & SCC_OP_CREATEIFNEW) != 0, .Silent = silent, .Parent = window});
     // The client's strings are its own: only what it left open is filled in.
@@ -161,7 +155,7 @@ SCC_EXPORT Long SCC_CALL SccQueryInfo(void* handle, Long count, const char** nam
   return RunWithFiles(handle, count, names, [&](ProviderContext& context, Names files) -> Long {
     if (files.empty()) return SCC_OK;
     if (statuses == nullptr) return SCC_E_NONSPECIFICERROR;
-    const svnscc::StatusTable& table = svnscc::WalkProject(context);
+    const StatusTable& table = WalkProject(context);
     for (std::size_t i = 0; i < files.size(); ++i) {
       const std::string path = context.InsidePath(files[i]);
       statuses[i] = table.Of(path).Bits;
@@ -176,15 +170,15 @@ SCC_EXPORT Long SCC_CALL SccPopulateList(void* handle, SCCCommand command, Long 
                                          Long flags) {
   return RunWithFiles(handle, count, names, [&](ProviderContext& context, Names files) {
     context.Options().Forget();
-    const auto named = (flags & SCC_PL_DIR) != 0 ? svnscc::Named::Folders : svnscc::Named::Files;
-    return svnscc::Populate(context, command, files, named, populate, callerData, statuses);
+    const auto named = (flags & SCC_PL_DIR) != 0 ? Named::Folders : Named::Files;
+    return Populate(context, command, files, named, populate, callerData, statuses);
   });
 }
 
 SCC_EXPORT Long SCC_CALL SccDiff(void* handle, WindowHandle window, const char* name, Long flags, void*) {
   return RunWithProject(handle, [&](ProviderContext& context) -> Long {
-    return (flags & SCC_DIFF_QUICK_DIFF) != 0 ? svnscc::QuickDiff(context, name, flags)
-                                              : svnscc::ShowDifferences(context, window, name, flags);
+    return (flags & SCC_DIFF_QUICK_DIFF) != 0 ? QuickDiff(context, name, flags)
+                                              : ShowDifferences(context, window, name, flags);
   });
 }
 
@@ -194,33 +188,30 @@ SCC_EXPORT Long SCC_CALL SccGet(void* handle, WindowHandle, Long count, const ch
                                 void* options) {
   return RunFileCommand(handle, count, names, [&](ProviderContext& context, Names files) {
     const auto chosen = context.Options().Take(options, SCC_COMMAND_GET);
-    if ((flags & SCC_GET_ALL) == 0) return svnscc::GetFiles(context, files, chosen);
+    if ((flags & SCC_GET_ALL) == 0) return GetFiles(context, files, chosen);
     const bool recursive = (flags & SCC_GET_RECURSIVE) != 0;
-    return svnscc::GetFolders(context, files,
-                              recursive ? svnscc::Below::Everything : svnscc::Below::FilesOnly, chosen);
+    return GetFolders(context, files, recursive ? Below::Everything : Below::FilesOnly, chosen);
   });
 }
 
 SCC_EXPORT Long SCC_CALL SccCheckout(void* handle, WindowHandle, Long count, const char** names,
                                      const char* comment, Long, void* options) {
   return RunFileCommand(handle, count, names, [&](ProviderContext& context, Names files) {
-    return svnscc::CheckOut(context, files, Text(comment),
-                            context.Options().Take(options, SCC_COMMAND_CHECKOUT));
+    return CheckOut(context, files, Text(comment), context.Options().Take(options, SCC_COMMAND_CHECKOUT));
   });
 }
 
 SCC_EXPORT Long SCC_CALL SccUncheckout(void* handle, WindowHandle, Long count, const char** names, Long,
                                        void*) {
-  return RunFileCommand(handle, count, names, [](ProviderContext& context, Names files) {
-    return svnscc::UndoCheckOut(context, files);
-  });
+  return RunFileCommand(handle, count, names,
+                        [](ProviderContext& context, Names files) { return UndoCheckOut(context, files); });
 }
 
 SCC_EXPORT Long SCC_CALL SccCheckin(void* handle, WindowHandle, Long count, const char** names,
                                     const char* comment, Long flags, void* options) {
   return RunFileCommand(handle, count, names, [&](ProviderContext& context, Names files) {
-    return svnscc::CheckIn(context, files, Text(comment), AfterFlags(flags),
-                           context.Options().Take(options, SCC_COMMAND_CHECKIN));
+    return CheckIn(context, files, Text(comment), AfterFlags(flags),
+                   context.Options().Take(options, SCC_COMMAND_CHECKIN));
   });
 }
 
@@ -229,21 +220,20 @@ SCC_EXPORT Long SCC_CALL SccAdd(void* handle, WindowHandle, Long count, const ch
                                 const char* comment, Long* flags, void* options) {
   return RunFileCommand(handle, count, names, [&](ProviderContext& context, Names files) {
     const Long word = flags != nullptr ? *flags : 0;
-    return svnscc::Add(context, files, Text(comment), word, AfterFlags(word),
-                       context.Options().Take(options, SCC_COMMAND_ADD));
+    return Add(context, files, Text(comment), word, AfterFlags(word),
+               context.Options().Take(options, SCC_COMMAND_ADD));
   });
 }
 
 SCC_EXPORT Long SCC_CALL SccRemove(void* handle, WindowHandle, Long count, const char** names,
                                    const char* comment, Long, void*) {
   return RunFileCommand(handle, count, names, [&](ProviderContext& context, Names files) {
-    return svnscc::Remove(context, files, Text(comment));
+    return Remove(context, files, Text(comment));
   });
 }
 
 SCC_EXPORT Long SCC_CALL SccRename(void* handle, WindowHandle, const char* name, const char* newName) {
-  return RunWithProject(handle,
-                        [&](ProviderContext& context) { return svnscc::Rename(context, name, newName); });
+  return RunWithProject(handle, [&](ProviderContext& context) { return Rename(context, name, newName); });
 }
 
 // Answers from memory.
@@ -264,3 +254,5 @@ SCC_EXPORT Long SCC_CALL SccGetEvents(void* handle, char* name, Long* status, Lo
 }
 
 }  // extern "C"
+
+}  // namespace kestrel::svnscc

@@ -2,40 +2,35 @@
 #include "subversion/EntryPointWrapper.h"
 #include "subversion/windows/ProviderWindows.h"
 
+namespace kestrel::svnscc {
+
 using namespace scc;
-using svnscc::Names;
-using svnscc::ProviderContext;
-using svnscc::RunEntryPoint;
-using svnscc::RunWithFiles;
-using svnscc::RunWithProject;
 
 extern "C" {
 
 SCC_EXPORT Long SCC_CALL SccHistory(void* handle, WindowHandle window, Long count, const char** names, Long,
                                     void*) {
   return RunWithFiles(handle, count, names, [&](ProviderContext& context, Names files) {
-    return svnscc::ShowHistory(context, window, files);
+    return ShowHistory(context, window, files);
   });
 }
 
 SCC_EXPORT Long SCC_CALL SccProperties(void* handle, WindowHandle window, const char* name) {
-  return RunWithProject(
-      handle, [&](ProviderContext& context) { return svnscc::ShowProperties(context, window, name); });
+  return RunWithProject(handle,
+                        [&](ProviderContext& context) { return ShowProperties(context, window, name); });
 }
 
 SCC_EXPORT Long SCC_CALL SccRunScc(void* handle, WindowHandle window, Long count, const char** names) {
   return RunEntryPoint(handle, [&](ProviderContext& context) {
     const bool named = count > 0 && names != nullptr;
-    return svnscc::RunBrowser(context, window,
-                              named ? Names(names, static_cast<std::size_t>(count)) : Names());
+    return RunBrowser(context, window, named ? Names(names, static_cast<std::size_t>(count)) : Names());
   });
 }
 
 SCC_EXPORT Long SCC_CALL SccGetCommandOptions(void* handle, WindowHandle window, SCCCommand command,
                                               void** options) {
-  return RunEntryPoint(handle, [&](ProviderContext& context) {
-    return svnscc::AskCommandOptions(context, window, command, options);
-  });
+  return RunEntryPoint(
+      handle, [&](ProviderContext& context) { return AskCommandOptions(context, window, command, options); });
 }
 
 // Without a count the client gives the names of its last call back.
@@ -50,7 +45,7 @@ SCC_EXPORT Long SCC_CALL SccAddFromScc(void* handle, WindowHandle window, Long* 
     const bool named =
         context.SharesSubprojects && *count == 1 && *names != nullptr && *names != context.Handed().Data();
     std::vector<std::string> chosen;
-    const Long result = svnscc::ChooseMissingFiles(context, window, named ? **names : nullptr, chosen);
+    const Long result = ChooseMissingFiles(context, window, named ? **names : nullptr, chosen);
     if (result != SCC_OK) return result;
     context.Handed().Assign(std::move(chosen));
     *names = context.Handed().Data();
@@ -60,3 +55,5 @@ SCC_EXPORT Long SCC_CALL SccAddFromScc(void* handle, WindowHandle window, Long* 
 }
 
 }  // extern "C"
+
+}  // namespace kestrel::svnscc

@@ -3,8 +3,10 @@
 #include <wx/wx.h>
 
 #include "commands/CommentsStrings.h"
-#include "host/WxText.h"
+#include "toolkit/WxText.h"
 #include "ui/ButtonStrings.h"
+
+namespace kestrel::addin {
 
 TCommentsForm* CommentsForm = nullptr;
 
@@ -148,3 +150,5 @@ void TCommentsForm::Replace(const std::optional<std::string>& comment) {
   CommentsMemo->SetFocus();
   FitMemo();
 }
+
+}  // namespace kestrel::addin

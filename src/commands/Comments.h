@@ -12,6 +12,8 @@ class wxCheckBox;
 class wxStaticText;
 class wxTextCtrl;
 
+namespace kestrel::addin {
+
 class TCommentsForm final : public TModalForm {
  public:
   /// `model` is borrowed.  It receives the text however the dialog is closed, and the box when OK is pressed.
@@ -51,3 +53,5 @@ class TCommentsForm final : public TModalForm {
 
 /// For a command that shares its dialog with others.  None does: each keeps its own to itself.
 extern TCommentsForm* CommentsForm;
+
+}  // namespace kestrel::addin

@@ -1,10 +1,14 @@
 #pragma once
 
-#include "host/Text.h"
+#include "system/Text.h"
 
-constexpr TResString sCommentsCaption{"Comments"};
-constexpr TResString sApplyToAll{"&Apply same comment to all"};
-constexpr TResString sCommentsRecent{"&Recent"};
-constexpr TResString sCommentsRecentHint{
+namespace kestrel::addin {
+
+inline constexpr TResString sCommentsCaption{"Comments"};
+inline constexpr TResString sApplyToAll{"&Apply same comment to all"};
+inline constexpr TResString sCommentsRecent{"&Recent"};
+inline constexpr TResString sCommentsRecentHint{
     "Earlier comments.  In the text, Ctrl+Up and Ctrl+Down go through them."};
-constexpr TResString sCommentLength{"%d of %d bytes"};
+inline constexpr TResString sCommentLength{"%d of %d bytes"};
+
+}  // namespace kestrel::addin

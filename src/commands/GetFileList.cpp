@@ -9,9 +9,11 @@
 #include "commands/GetFileListStrings.h"
 #include "expert/CommandContext.h"
 #include "expert/SccSystem.h"
-#include "host/WxText.h"
+#include "toolkit/WindowSize.h"
+#include "toolkit/WxText.h"
 #include "ui/ButtonStrings.h"
-#include "ui/WindowSize.h"
+
+namespace kestrel::addin {
 
 TGetFileListForm* GetFileListForm = nullptr;
 
@@ -237,3 +239,5 @@ void TGetFileListForm::FilesListViewClick(wxListEvent& event) {
   FilesListView->RefreshItem(event.GetIndex());
   CheckState();
 }
+
+}  // namespace kestrel::addin

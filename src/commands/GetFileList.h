@@ -5,9 +5,12 @@
 #include "ui/ModalForm.h"
 #include "ui/VirtualList.h"
 
-struct TCommandContext;
 class wxButton;
 class wxCheckBox;
+
+namespace kestrel::addin {
+
+struct TCommandContext;
 
 /// The rows of a TFileListModel.  The control asks the model for what it shows, so that 65,536 rows open at once.
 class TFilesListView final : public TVirtualList {
@@ -81,3 +84,5 @@ class TGetFileListForm final : public TModalForm {
 
 /// The dialog of "Get Latest Version" while it is open, otherwise nullptr.  The other commands keep theirs to themselves.
 extern TGetFileListForm* GetFileListForm;
+
+}  // namespace kestrel::addin

@@ -1,14 +1,18 @@
 #pragma once
 
-#include "host/Text.h"
+#include "system/Text.h"
 
-constexpr TResString sGetFileListCaption{"Get File List"};
-constexpr TResString sFilesLabel{"Files"};
-constexpr TResString sNameColumn{"Name"};
-constexpr TResString sStatusColumn{"Status"};
-constexpr TResString sPathColumn{"Path"};
-constexpr TResString sKeepCheckedOut{"&Keep checked out"};
-constexpr TResString sCheckOutAfterAdd{"Ch&eckout files after add"};
-constexpr TResString sCheckAll{"C&heck All"};
-constexpr TResString sUncheckAll{"U&ncheck All"};
-constexpr TResString sAdvanced{"&Advanced..."};
+namespace kestrel::addin {
+
+inline constexpr TResString sGetFileListCaption{"Get File List"};
+inline constexpr TResString sFilesLabel{"Files"};
+inline constexpr TResString sNameColumn{"Name"};
+inline constexpr TResString sStatusColumn{"Status"};
+inline constexpr TResString sPathColumn{"Path"};
+inline constexpr TResString sKeepCheckedOut{"&Keep checked out"};
+inline constexpr TResString sCheckOutAfterAdd{"Ch&eckout files after add"};
+inline constexpr TResString sCheckAll{"C&heck All"};
+inline constexpr TResString sUncheckAll{"U&ncheck All"};
+inline constexpr TResString sAdvanced{"&Advanced..."};
+
+}  // namespace kestrel::addin

@@ -3,9 +3,11 @@
 #include <wx/wx.h>
 
 #include "commands/ProgressStrings.h"
-#include "host/Paths.h"
-#include "host/WxText.h"
-#include "host/WxWaiting.h"
+#include "system/Paths.h"
+#include "toolkit/WxText.h"
+#include "toolkit/WxWaiting.h"
+
+namespace kestrel::addin {
 
 using namespace std::chrono_literals;
 
@@ -159,3 +161,5 @@ TProgressForm& TProgress::Form() {
 
 // At once: a window that waits for its deletion would outlive the package's code when the host unloads it.
 void TProgress::CloseForm() { delete form_.get(); }
+
+}  // namespace kestrel::addin

@@ -11,6 +11,8 @@
 
 #include "expert/ExpertUi.h"
 
+namespace kestrel::addin {
+
 class TProgressForm;
 
 /// When the window is due: first after half a second of work, then ten times a second at most.
@@ -77,3 +79,5 @@ class TProgress final : public IProgress, private wxModalDialogHook {
   TProgressClock::TTime called_;
   wxWeakRef<TProgressForm> form_;  // goes early when the host closes the window that it belongs to
 };
+
+}  // namespace kestrel::addin

@@ -1,7 +1,11 @@
 // Texts of the progress window.
 #pragma once
 
-#include "host/Text.h"
+#include "system/Text.h"
 
-constexpr TResString sFileOf{"File %d of %d"};
-constexpr TResString sFiles{"%d files"};
+namespace kestrel::addin {
+
+inline constexpr TResString sFileOf{"File %d of %d"};
+inline constexpr TResString sFiles{"%d files"};
+
+}  // namespace kestrel::addin

@@ -7,10 +7,12 @@
 #include "commands/Comments.h"
 #include "commands/GetFileList.h"
 #include "expert/SccSystem.h"
-#include "host/WxText.h"
+#include "toolkit/WxText.h"
 #include "ui/MsgDialog.h"
 #include "ui/MsgDialogStrings.h"
 #include "ui/MsgWin.h"
+
+namespace kestrel::addin {
 
 namespace {
 
@@ -33,7 +35,7 @@ std::unique_ptr<IMessageWindow> TWxExpertUi::CreateMessageWindow() {
 }
 
 void TWxExpertUi::ShowMsgDialog(const std::string& title, const std::string& text, TMsgType kind) {
-  ::ShowMsgDialog(title, text, kind);
+  addin::ShowMsgDialog(title, text, kind);
 }
 
 void TWxExpertUi::ShowBox(const std::string& text, TMsgType kind) {
@@ -49,3 +51,5 @@ int TWxExpertUi::ShowComments(TCommentModel& model) { return ShowAndClear(TComme
 std::unique_ptr<IProgress> TWxExpertUi::StartProgress(const std::string& caption, std::size_t total) {
   return std::make_unique<TProgress>(caption, total, pace_);
 }
+
+}  // namespace kestrel::addin

@@ -4,6 +4,8 @@
 #include "commands/Progress.h"
 #include "expert/ExpertUi.h"
 
+namespace kestrel::addin {
+
 /// Wizards are windows of a layer above, which completes this class.
 class TWxExpertUi : public IExpertUi {
  public:
@@ -17,3 +19,5 @@ class TWxExpertUi : public IExpertUi {
  private:
   TCallPace pace_;
 };
+
+}  // namespace kestrel::addin

@@ -7,6 +7,8 @@
 #include "host/Errors.h"
 #include "provider/ProviderStrings.h"
 
+namespace kestrel::addin {
+
 namespace {
 
 using TVerdict = TActivities::TVerdict;
@@ -64,3 +66,5 @@ void TActivities::RunWaiting() {
 void TActivities::RequireNoProviderCall() const {
   if (in_provider_call_()) throw EAbort(sProviderBusy);
 }
+
+}  // namespace kestrel::addin

@@ -8,6 +8,8 @@
 #include <functional>
 #include <vector>
 
+namespace kestrel::addin {
+
 /// What the add-in can be busy with, besides a call of the provider.
 enum class TActivity { Command, MenuOpening, ProviderChoice, Notification };
 
@@ -55,3 +57,5 @@ class TActivities {
   std::vector<TActivity> running_;  // the innermost last
   std::deque<std::function<void()>> waiting_;
 };
+
+}  // namespace kestrel::addin

@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <string_view>
 
-#include "host/Paths.h"
+#include "system/Paths.h"
+
+namespace kestrel::addin {
 
 namespace {
 
@@ -60,3 +62,5 @@ std::string TCallProgress::FileNamedIn(const std::string& line) {
   }
   return {};
 }
+
+}  // namespace kestrel::addin

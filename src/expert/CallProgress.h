@@ -9,6 +9,8 @@
 #include "expert/ExpertUi.h"
 #include "provider/sccapiintf.h"
 
+namespace kestrel::addin {
+
 /// Lives as long as the call.  Hands all lines on to the sink before it, and counts a file as under way when a line
 /// names it for the first time; a name is recognised by its last word, so files that share one count once.
 class TCallProgress final : private IProviderSink {
@@ -36,3 +38,5 @@ class TCallProgress final : private IProviderSink {
   const std::unique_ptr<IProgress> progress_;
   IProviderSink* previous_ = nullptr;
 };
+
+}  // namespace kestrel::addin

@@ -8,6 +8,8 @@
 #include "expert/MessageLog.h"
 #include "expert/ProviderContext.h"
 
+namespace kestrel::addin {
+
 /// The parts that the expert owns; borrowed by commands, browser and wizards.
 struct TCommandContext {
   IExpertUi& Ui;
@@ -15,3 +17,5 @@ struct TCommandContext {
   TActivities Activities{ProviderCallInProgress};
   TProviderContext Provider{Log, Activities};
 };
+
+}  // namespace kestrel::addin

@@ -9,6 +9,8 @@
 #include "expert/SccExpertStrings.h"
 #include "host/Options.h"
 
+namespace kestrel::addin {
+
 namespace {
 
 // The store: one field for each project, "turn&project file&kind=comment&...".  The turn counts changes, so that the
@@ -184,3 +186,5 @@ std::optional<std::string> TCommentHistory::Newer() {
 }
 
 const std::string& TCommentHistory::Choose(std::size_t entry) { return entries_[at_ = entry]; }
+
+}  // namespace kestrel::addin

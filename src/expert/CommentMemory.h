@@ -9,6 +9,8 @@
 #include <utility>
 #include <vector>
 
+namespace kestrel::addin {
+
 /// The comments of one project, kept in the host's settings of the user.  A comment that reached the provider is a
 /// recent one.  One that was typed and did not is pending: it is offered again in its place, until it is used, replaced
 /// or cleared.
@@ -73,3 +75,5 @@ class TCommentHistory {
   std::vector<std::string> entries_;
   std::size_t at_ = 0;
 };
+
+}  // namespace kestrel::addin

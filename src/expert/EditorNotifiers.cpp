@@ -6,8 +6,10 @@
 #include "expert/SccExpert.h"
 #include "expert/SccSystem.h"
 #include "host/Errors.h"
-#include "host/Paths.h"
-#include "host/Text.h"
+#include "system/Paths.h"
+#include "system/Text.h"
+
+namespace kestrel::addin {
 
 namespace {
 
@@ -112,3 +114,5 @@ void TSccFormNotifier::FormActivated() {
 }
 
 void TSccFormNotifier::Destroyed() { expert_.FormEditors()->Remove(file_name_); }
+
+}  // namespace kestrel::addin

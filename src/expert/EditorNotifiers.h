@@ -11,6 +11,8 @@
 #include "host/Modules.h"
 #include "host/Notifiers.h"
 
+namespace kestrel::addin {
+
 class TSccExpert;
 
 /// A list of notifiers keyed by file name, compared ignoring case.  Sharing them with the host, the list detaches a
@@ -90,3 +92,5 @@ class TSourceEditorManager final : public TEditorManager<TSccEditorNotifier> {
 class TFormEditorManager final : public TEditorManager<TSccFormNotifier> {
   using TEditorManager::TEditorManager;
 };
+
+}  // namespace kestrel::addin

@@ -6,8 +6,10 @@
 #include "expert/SccExpertStrings.h"
 #include "expert/SccSystem.h"
 #include "host/Errors.h"
-#include "host/Paths.h"
-#include "host/System.h"
+#include "system/Paths.h"
+#include "system/System.h"
+
+namespace kestrel::addin {
 
 namespace {
 
@@ -59,3 +61,5 @@ void ReloadFiles(const std::vector<std::string>& files) {
     return ReloadProject(project);
   for (const auto& file : files) ReloadFile(file);
 }
+
+}  // namespace kestrel::addin

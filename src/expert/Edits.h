@@ -4,6 +4,8 @@
 #include <string>
 #include <vector>
 
+namespace kestrel::addin {
+
 /// Saves the file if its editor, form editors included, has unsaved changes.  Every caller that hands a file to the
 /// provider does this first: the provider would take the old text, and the reload afterwards would drop the new one.
 ///
@@ -19,3 +21,5 @@ void ReloadProject(const std::string& projectFile);
 void ReloadFile(const std::string& fileName);
 /// The same for several files.  If the current project file is among them, only the project is reloaded.
 void ReloadFiles(const std::vector<std::string>& files);
+
+}  // namespace kestrel::addin

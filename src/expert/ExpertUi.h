@@ -9,6 +9,8 @@
 #include "expert/FileListModel.h"
 #include "ui/Messages.h"
 
+namespace kestrel::addin {
+
 struct TCommandContext;
 
 /// Says what long work is doing; the work ends with the object.
@@ -46,3 +48,5 @@ class IExpertUi {
   /// The wizard that fetches a project.  Returns the project file that the user wants to have opened, or nothing.
   virtual std::string ShowPullProject(TCommandContext& context) = 0;
 };
+
+}  // namespace kestrel::addin

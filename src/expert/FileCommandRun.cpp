@@ -14,8 +14,10 @@
 #include "expert/SccExpertStrings.h"
 #include "expert/SccSystem.h"
 #include "host/Errors.h"
-#include "host/Paths.h"
-#include "host/System.h"
+#include "system/Paths.h"
+#include "system/System.h"
+
+namespace kestrel::addin {
 
 namespace {
 
@@ -308,3 +310,5 @@ void TFileCommandRun::Box(const TResString& caption, const std::string& text, TM
 void RunFileCommand(TCommandContext& context, const TFileCommand& command, const std::string& fileName) {
   TFileCommandRun(context, command, fileName).Execute();
 }
+
+}  // namespace kestrel::addin

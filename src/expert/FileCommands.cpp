@@ -4,6 +4,8 @@
 #include "expert/SccExpertStrings.h"
 #include "ui/ExpertMainMenuStrings.h"
 
+namespace kestrel::addin {
+
 namespace {
 
 using namespace scc;
@@ -148,3 +150,5 @@ const TFileCommand kUndoCheckOut{
     .OneDone = sUndoCheckOutFileSucceeded,
     .SeveralDone = sUndoCheckOutFilesSucceeded,
 };
+
+}  // namespace kestrel::addin

@@ -5,8 +5,10 @@
 #include <string>
 
 #include "expert/FileListModel.h"
-#include "host/Text.h"
 #include "provider/sccapiintf.h"
+#include "system/Text.h"
+
+namespace kestrel::addin {
 
 /// What one run of a command hands to the provider.
 struct TFileCommandCall {
@@ -65,3 +67,5 @@ bool CanGet(scc::Long status);
 bool CanCheckIn(scc::Long status);
 bool CanCheckOut(scc::Long status);
 bool CanUndoCheckOut(scc::Long status);
+
+}  // namespace kestrel::addin

@@ -2,7 +2,9 @@
 
 #include <utility>
 
-#include "host/Text.h"
+#include "system/Text.h"
+
+namespace kestrel::addin {
 
 TFileIndex::TFileIndex(const std::vector<std::string>& files) : next_(files.size(), kNone) {
   chains_.reserve(files.size());
@@ -16,3 +18,5 @@ std::size_t TFileIndex::First(const std::string& fileName) const {
   const auto found = chains_.find(FoldCase(fileName));
   return found == chains_.end() ? kNone : found->second.First;
 }
+
+}  // namespace kestrel::addin

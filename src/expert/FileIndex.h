@@ -6,6 +6,8 @@
 #include <unordered_map>
 #include <vector>
 
+namespace kestrel::addin {
+
 /// The rows of a list of file names, by name ignoring case.  Asking is constant time on average.
 class TFileIndex {
  public:
@@ -27,3 +29,5 @@ class TFileIndex {
   std::unordered_map<std::string, TChain> chains_;  // by folded name
   std::vector<std::size_t> next_;                   // the next row of the same name, or kNone
 };
+
+}  // namespace kestrel::addin

@@ -4,7 +4,9 @@
 #include <utility>
 
 #include "expert/ProjectFiles.h"
-#include "host/Paths.h"
+#include "system/Paths.h"
+
+namespace kestrel::addin {
 
 namespace {
 
@@ -65,3 +67,5 @@ TCommentEdit FitComment(TCommentEdit edit) {
   JoinLines(edit.After);
   return CutComment(std::move(edit));
 }
+
+}  // namespace kestrel::addin

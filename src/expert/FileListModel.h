@@ -6,9 +6,11 @@
 #include <string>
 #include <vector>
 
-#include "host/Text.h"
 #include "provider/sccapiintf.h"
+#include "system/Text.h"
 #include "ui/ModalResult.h"
+
+namespace kestrel::addin {
 
 /// The candidate files of one command.  Up to kMaxFiles rows; every operation but the All ones is constant time.
 class TFileListModel {
@@ -82,3 +84,5 @@ struct TCommentEdit {
 TCommentEdit CutComment(TCommentEdit edit);
 /// The same for the comment dialog, whose comments are one line: line breaks become blanks.
 TCommentEdit FitComment(TCommentEdit edit);
+
+}  // namespace kestrel::addin

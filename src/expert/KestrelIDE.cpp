@@ -11,6 +11,8 @@
 #include "ui/Debug.h"
 #include "wizards/WxExpertUiWithWizards.h"
 
+namespace kestrel::addin {
+
 namespace {
 
 /// Waits for the host's main form, then creates the expert and hands it to the host.  Created by IDERegister.
@@ -67,3 +69,5 @@ void Finalize() {
   FreeDebugForm();
 }
 }
+
+}  // namespace kestrel::addin

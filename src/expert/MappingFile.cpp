@@ -3,9 +3,11 @@
 #include <stdexcept>
 
 #include "expert/MappingFileStrings.h"
-#include "host/Paths.h"
-#include "host/System.h"
-#include "host/Text.h"
+#include "system/Paths.h"
+#include "system/System.h"
+#include "system/Text.h"
+
+namespace kestrel::addin {
 
 std::string MappingFileName(const std::string& projectFile) {
   return ExtractFileDir(projectFile) + PathDelim +
@@ -52,3 +54,5 @@ void TMappingFile::Write(const std::string& section, const std::string& key, con
   WriteFileAtomically(path_, changed.Text());
   ini_ = std::move(changed);
 }
+
+}  // namespace kestrel::addin

@@ -5,7 +5,9 @@
 #include <string>
 #include <vector>
 
-#include "host/IniText.h"
+#include "system/IniText.h"
+
+namespace kestrel::addin {
 
 inline constexpr const char* kMappingExtension = ".cdp";
 
@@ -41,3 +43,5 @@ class TMappingFile {
   std::string path_;
   TIniText ini_;
 };
+
+}  // namespace kestrel::addin

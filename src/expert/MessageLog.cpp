@@ -6,6 +6,8 @@
 #include "expert/SccExpertStrings.h"
 #include "host/Errors.h"
 
+namespace kestrel::addin {
+
 namespace {
 std::unique_ptr<IMessageWindow> aMsgWin;  // owned by the open TMessageLog
 }
@@ -64,3 +66,5 @@ void TMessageLog::DisplayMessages(const std::string& title, const TStateMessages
   }
   if (!information.empty()) ui_.ShowMsgDialog(title, information, metWarning);
 }
+
+}  // namespace kestrel::addin

@@ -10,6 +10,8 @@
 #include "provider/sccapiintf.h"
 #include "ui/Messages.h"
 
+namespace kestrel::addin {
+
 /// Writes one line to the message window; drops a blank text.  Throws std::runtime_error without a message window.
 void WriteMessage(TMsgWinType kind, const std::string& text);
 void WriteMessageFmt(TMsgWinType kind, std::string_view format, std::initializer_list<TFormatArg> args);
@@ -63,3 +65,5 @@ class TMessageLog final : private IProviderSink {
   IProviderSink* previous_ = nullptr;
   std::string last_warning_;
 };
+
+}  // namespace kestrel::addin

@@ -4,9 +4,11 @@
 #include <iterator>
 
 #include "expert/SccSystem.h"
-#include "host/Paths.h"
-#include "host/System.h"
-#include "host/Text.h"
+#include "system/Paths.h"
+#include "system/System.h"
+#include "system/Text.h"
+
+namespace kestrel::addin {
 
 namespace {
 
@@ -59,3 +61,5 @@ void AppendCompanions(const std::string& fileName, const TFileIndex& source, TSt
         dest.push_back(companion);
     });
 }
+
+}  // namespace kestrel::addin

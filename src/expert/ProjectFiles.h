@@ -7,6 +7,8 @@
 #include "expert/FileIndex.h"
 #include "provider/sccapiintf.h"
 
+namespace kestrel::addin {
+
 inline constexpr const char* kSourceExtension = ".pas";
 inline constexpr const char* kFormExtension = ".kfm";
 inline constexpr const char* kProjectExtension = ".qvxproj";
@@ -31,3 +33,5 @@ TStringList CurrentProjectFiles(bool onlyExisting);
 /// intentional.
 void AppendCompanions(const std::string& fileName, const TFileIndex& source, TStringList& dest,
                       bool checkDisk, const TStatusArray& statuses);
+
+}  // namespace kestrel::addin

@@ -7,11 +7,13 @@
 #include "expert/MappingFileStrings.h"
 #include "expert/SccExpertStrings.h"
 #include "host/Errors.h"
-#include "host/Paths.h"
-#include "host/Registry.h"
-#include "host/System.h"
 #include "provider/ProviderStrings.h"
 #include "provider/SCMAddInOptions.h"
+#include "system/Paths.h"
+#include "system/Registry.h"
+#include "system/System.h"
+
+namespace kestrel::addin {
 
 namespace {
 
@@ -193,3 +195,5 @@ bool TProviderContext::UpdateUserName(const std::string& projectFile, const std:
   const auto write = [&] { TMappingFile(MappingFileName(projectFile)).Write(name_, kMapUserName, userName); };
   return RunCatching(write, ToLog(mwtInfo, sUpdateSCCIniFileError));
 }
+
+}  // namespace kestrel::addin

@@ -8,6 +8,8 @@
 #include "expert/MessageLog.h"
 #include "provider/sccapiintf.h"
 
+namespace kestrel::addin {
+
 /// What the mapping file says about a project.
 struct TProjectBinding {
   std::string ProjName;
@@ -90,3 +92,5 @@ class TProviderContext {
       unread_mapping_;  // the file that ProjectExists() could not read completely; empty when it could
   bool project_not_mapped_ = false;
 };
+
+}  // namespace kestrel::addin

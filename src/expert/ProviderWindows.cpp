@@ -8,7 +8,9 @@
 #include "expert/SccExpertStrings.h"
 #include "expert/SccSystem.h"
 #include "host/Errors.h"
-#include "host/Paths.h"
+#include "system/Paths.h"
+
+namespace kestrel::addin {
 
 TSCCProviderProject& SelectHostProject(TCommandContext& context) {
   const auto project = Trim(GetCurrentProjectFile());
@@ -148,3 +150,5 @@ void ShowStatus(const TCommandContext& context, const std::string& fileName) {
   if (provider->CurrentProject()->Query({fileName}, statuses, messages))
     DecodeQueryStatus(fileName, statuses[0]);
 }
+
+}  // namespace kestrel::addin

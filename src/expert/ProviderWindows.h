@@ -7,6 +7,8 @@
 
 #include "expert/CommandContext.h"
 
+namespace kestrel::addin {
+
 /// The provider project of the host's current project, made current after waiting notifications have run.
 TSCCProviderProject& SelectHostProject(TCommandContext& context);
 
@@ -18,3 +20,5 @@ void RunProviderApplication(TCommandContext& context);
 void ProviderAddRemove(TCommandContext& context, TStringList& list, scc::SCCCommand command);
 /// Shows the file's status in the message window.
 void ShowStatus(const TCommandContext& context, const std::string& fileName);
+
+}  // namespace kestrel::addin

@@ -7,8 +7,10 @@
 #include "expert/SccSystemStrings.h"
 #include "expert/WizardGlyph.h"
 #include "host/Errors.h"
-#include "host/Paths.h"
+#include "system/Paths.h"
 #include "ui/ExpertMainMenuStrings.h"
+
+namespace kestrel::addin {
 
 TSccExpert* aSccExpert = nullptr;
 
@@ -128,3 +130,5 @@ void TSccExpert::CheckOutFiles(const std::string& fileName) {
 void TSccExpert::UndoCheckOut(const std::string& fileName) {
   RunFileCommand(context_, kUndoCheckOut, fileName);
 }
+
+}  // namespace kestrel::addin

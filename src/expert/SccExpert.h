@@ -16,6 +16,8 @@
 #include "host/Services.h"
 #include "ui/ExpertMainMenu.h"
 
+namespace kestrel::addin {
+
 class TFormEditorManager;
 class TSccIDENotifier;
 class TSourceEditorManager;
@@ -62,7 +64,7 @@ class TSccExpert final : public TNotifierObject, public IOTAWizard, public ITeam
   void HandleNotification(TOTAFileNotification code, const std::string& fileName);
   void FileNotifyProjectOpen(const std::string& fileName);
   void FileNotifyProjectClose(const std::string& fileName);
-  std::string GetCurrentProjectFile() { return ::GetCurrentProjectFile(); }
+  std::string GetCurrentProjectFile() { return addin::GetCurrentProjectFile(); }
 
   // Menu.
   void MainMenu() override;
@@ -97,12 +99,12 @@ class TSccExpert final : public TNotifierObject, public IOTAWizard, public ITeam
   void UndoCheckOut(const std::string& fileName) override;
 
   // The provider's own windows.
-  void ShowDiff(const std::string& fileName) override { ::ShowDiff(context_, fileName); }
-  void ShowHistory(const std::string& fileName) override { ::ShowHistory(context_, fileName); }
+  void ShowDiff(const std::string& fileName) override { addin::ShowDiff(context_, fileName); }
+  void ShowHistory(const std::string& fileName) override { addin::ShowHistory(context_, fileName); }
   void Properties(const std::string& fileName) override { ShowProperties(context_, fileName); }
   void RunSccApp() override { RunProviderApplication(context_); }
   void ProviderAddRemove(TStringList& list, scc::SCCCommand command) {
-    ::ProviderAddRemove(context_, list, command);
+    addin::ProviderAddRemove(context_, list, command);
   }
   /// Shows the status of a file whose view became active in the message window.
   void ViewChange(const std::string& fileName);
@@ -114,9 +116,9 @@ class TSccExpert final : public TNotifierObject, public IOTAWizard, public ITeam
 
   // Saving before and reloading after commands; see Edits.h.
   void SaveAll() { SaveAllModules(); }
-  void ReloadProject(const std::string& projectFile) { ::ReloadProject(projectFile); }
-  void ReloadFile(const std::string& fileName) { ::ReloadFile(fileName); }
-  void ReloadFiles(const TStringList& files) { ::ReloadFiles(files); }
+  void ReloadProject(const std::string& projectFile) { addin::ReloadProject(projectFile); }
+  void ReloadFile(const std::string& fileName) { addin::ReloadFile(fileName); }
+  void ReloadFiles(const TStringList& files) { addin::ReloadFiles(files); }
 
   TCommandContext& Context() { return context_; }
   TSCCProviderList* ProviderList() const { return context_.Provider.List(); }
@@ -149,3 +151,5 @@ class TSccExpert final : public TNotifierObject, public IOTAWizard, public ITeam
 
 /// The one expert, or null before the host's main form exists.  Owned by the host once it is registered.
 extern TSccExpert* aSccExpert;
+
+}  // namespace kestrel::addin

@@ -9,10 +9,12 @@
 #include "expert/MappingFile.h"
 #include "expert/SccExpert.h"
 #include "expert/SccSystem.h"
-#include "host/Paths.h"
-#include "host/System.h"
+#include "system/Paths.h"
+#include "system/System.h"
 #include "ui/ExpertMainMenu.h"
 #include "ui/ExpertMainMenuStrings.h"
+
+namespace kestrel::addin {
 
 void TSccExpert::MainMenu() {
   const auto project = Trim(GetCurrentProjectFile());
@@ -79,3 +81,5 @@ void TSccExpert::EnableActiveMenu() {
   const std::span words(statuses.data(), files.size());
   for (const auto& rule : rules) rule.Action.Enabled = std::ranges::any_of(words, rule.Eligible);
 }
+
+}  // namespace kestrel::addin

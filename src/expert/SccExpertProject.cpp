@@ -5,8 +5,10 @@
 #include "expert/SccIDENotifier.h"
 #include "expert/SccSystem.h"
 #include "host/Errors.h"
-#include "host/Paths.h"
+#include "system/Paths.h"
 #include "ui/ExpertMainMenu.h"
+
+namespace kestrel::addin {
 
 void* TSccIDENotifier::QueryInterface(const TGuid& iid) noexcept {
   return FindInterface<IOTAIDENotifier, IOTANotifier>(this, iid);
@@ -109,3 +111,5 @@ void TSccExpert::FileNotifyProjectClose(const std::string& fileName) {
   }
   context_.Provider.Release();
 }
+
+}  // namespace kestrel::addin

@@ -3,6 +3,8 @@
 #include "expert/SccExpertStrings.h"
 #include "host/Errors.h"
 
+namespace kestrel::addin {
+
 // A provider has one project open at a time.  So the wizards start without a provider, load the one that the user
 // chooses, and the project that was open is opened again afterwards.
 
@@ -43,3 +45,5 @@ void TSccExpert::PullProjectWizard() {
   ReadSettingsOf(project);  // a project is only opened for the provider that is selected
   FileNotifyProjectOpen(project);
 }
+
+}  // namespace kestrel::addin

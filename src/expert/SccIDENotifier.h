@@ -3,6 +3,8 @@
 
 #include "host/Notifiers.h"
 
+namespace kestrel::addin {
+
 class TSccExpert;
 
 class TSccIDENotifier final : public TNotifierObject, public IOTAIDENotifier {
@@ -18,3 +20,5 @@ class TSccIDENotifier final : public TNotifierObject, public IOTAIDENotifier {
  private:
   TSccExpert& expert_;
 };
+
+}  // namespace kestrel::addin

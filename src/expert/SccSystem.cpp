@@ -5,11 +5,13 @@
 #include <stdexcept>
 
 #include "expert/SccSystemStrings.h"
-#include "host/Paths.h"
-#include "host/Registry.h"
 #include "host/Services.h"
-#include "host/System.h"
-#include "host/Text.h"
+#include "system/Paths.h"
+#include "system/Registry.h"
+#include "system/System.h"
+#include "system/Text.h"
+
+namespace kestrel::addin {
 
 namespace {
 
@@ -91,7 +93,7 @@ void rv_EnumProjectUnits(std::vector<std::string>* list) {
   list->clear();
   const int count = project->GetModuleCount();
   for (int i = 0; i < count; ++i) {
-    auto name = project->GetModuleFileName(i);
+    auto name = project->ModuleFileName(i);
     if (!IsExcluded(name)) list->push_back(std::move(name));
   }
 }
@@ -123,3 +125,5 @@ std::string GetRVHelpFile(const std::string& helpFile) {
   if (directory.empty()) return std::string(1, PathDelim) + helpFile;
   return IncludeTrailingPathDelimiter(directory) + helpFile;
 }
+
+}  // namespace kestrel::addin

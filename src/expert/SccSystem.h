@@ -7,6 +7,8 @@
 
 #include "host/Modules.h"
 
+namespace kestrel::addin {
+
 /// The logged-on user's name; empty when it is longer than 127 characters.
 std::string GetUser();
 /// The process's current directory; empty when it is longer than 127 characters.
@@ -42,3 +44,5 @@ IOTAFormEditor* GetActiveFormEditor();
 
 /// Full path of an installed help file; empty when the machine's help key is missing.
 std::string GetRVHelpFile(const std::string& helpFile);
+
+}  // namespace kestrel::addin

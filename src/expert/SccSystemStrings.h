@@ -1,9 +1,13 @@
 // Texts of the host-access routines.
 #pragma once
 
-#include "host/Text.h"
+#include "system/Text.h"
 
-constexpr TResString sMessageWindowNAError{"Message window is not available"};
-constexpr TResString sIDESourceNAError{
+namespace kestrel::addin {
+
+inline constexpr TResString sMessageWindowNAError{"Message window is not available"};
+inline constexpr TResString sIDESourceNAError{
     "Source interface is ot available"};  // "ot" is meant: it always read so
-constexpr TResString sEmptyString{""};
+inline constexpr TResString sEmptyString{""};
+
+}  // namespace kestrel::addin

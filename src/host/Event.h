@@ -5,6 +5,8 @@
 #include <map>
 #include <utility>
 
+namespace kestrel {
+
 /// Handlers run in the order they were subscribed.  A handler may unsubscribe itself or others while it runs.
 template <class... Args>
 class TEvent {
@@ -28,3 +30,5 @@ class TEvent {
   std::map<int, THandler> handlers_;
   int next_ = 0;
 };
+
+}  // namespace kestrel

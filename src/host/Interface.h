@@ -4,6 +4,8 @@
 #include <array>
 #include <cstdint>
 
+namespace kestrel {
+
 /// An interface identifier, in the usual {XXXXXXXX-XXXX-XXXX-XXXX-XXXXXXXXXXXX} order.
 struct TGuid {
   std::uint32_t D1;
@@ -39,3 +41,5 @@ void* FindInterface(Self* self, const TGuid& iid) noexcept {
   ((Interfaces::IID == iid ? (found = static_cast<Interfaces*>(self), true) : false) || ...);
   return found;
 }
+
+}  // namespace kestrel

@@ -9,6 +9,8 @@
 
 #include "host/Interface.h"
 
+namespace kestrel {
+
 /// A named command.  Captions mark their access key with '&'.  OnExecute runs on the user-interface thread and must
 /// not let exceptions out.
 struct TAction {
@@ -76,3 +78,5 @@ class IOTAMenuServices : public virtual IInterface {
   /// Adds a picture, an SVG document of 16 by 16 units, to the host's image list and returns its index there.
   virtual int AddImage(const std::string& svg) = 0;
 };
+
+}  // namespace kestrel

@@ -10,7 +10,7 @@
 #include "host/Interface.h"
 #include "host/Notifiers.h"
 
-#undef GetModuleFileName  // a macro of Windows' headers, where they came first
+namespace kestrel {
 
 /// One editor of a module: its source text or its form.
 class IOTAEditor : public virtual IInterface {
@@ -58,7 +58,7 @@ class IOTAProject : public virtual IOTAModule {
   static constexpr TGuid IID{0x7C3E5B25, 0x24A1, 0x4E0D, {0x9A, 0x11, 0x52, 0x6B, 0x0C, 0x7E, 0x31, 0x15}};
   virtual int GetModuleCount() = 0;
   /// The file name of the project's module at 0 <= index < GetModuleCount(), in the project's order.
-  virtual std::string GetModuleFileName(int index) = 0;
+  virtual std::string ModuleFileName(int index) = 0;
 };
 
 class IOTAProjectGroup : public virtual IOTAModule {
@@ -108,3 +108,5 @@ class IOTAActionServices : public virtual IInterface {
   /// Shows again what is on disk: contents and read-only state.
   virtual bool ReloadFile(const std::string& fileName) = 0;
 };
+
+}  // namespace kestrel

@@ -5,6 +5,8 @@
 
 #include "host/Interface.h"
 
+namespace kestrel {
+
 class IOTAProject;
 
 /// What happened to a file.  The numbers are the host's; a package ignores those it does not know.
@@ -64,3 +66,5 @@ class IOTAFormNotifier : public virtual IOTANotifier {
   virtual void FormSaving() = 0;
   virtual void ComponentRenamed(const std::string& oldName, const std::string& newName) = 0;
 };
+
+}  // namespace kestrel

@@ -10,6 +10,8 @@
 class wxControl;
 class wxWindow;
 
+namespace kestrel {
+
 /// A named set of string fields kept per user under the host's own settings key.
 class IOTAPropertySet : public virtual IInterface {
  public:
@@ -70,3 +72,5 @@ class IOTAOptionsServices : public virtual IInterface {
   virtual int AddOptions(std::shared_ptr<IOTAAddInOptions> options) = 0;
   virtual void RemoveOptions(int index) = 0;
 };
+
+}  // namespace kestrel

@@ -10,6 +10,8 @@
 #include "host/Modules.h"
 #include "host/Notifiers.h"
 
+namespace kestrel {
+
 /// The native handle of a window: an HWND on Windows, a pointer to the toolkit's window elsewhere; 0 for none.
 using TWindowHandle = std::uintptr_t;
 
@@ -93,3 +95,5 @@ using TPackageEntry = void (*)();
 inline constexpr const char* kPackageInitialize = "Initialize";
 inline constexpr const char* kPackageRegister = "IDERegister";
 inline constexpr const char* kPackageFinalize = "Finalize";
+
+}  // namespace kestrel

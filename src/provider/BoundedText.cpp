@@ -1,6 +1,8 @@
 #include "provider/BoundedText.h"
 
-#include "host/Text.h"
+#include "system/Text.h"
+
+namespace kestrel::addin {
 
 void TBoundedText::SetUncut(std::string_view text) { text_ = text.substr(0, text.find('\0')); }
 
@@ -17,3 +19,5 @@ bool TBoundedText::Fits() const {
   const auto bytes = ToCodePageExact(text_);
   return !bytes || bytes->size() < size_;
 }
+
+}  // namespace kestrel::addin

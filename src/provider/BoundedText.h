@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+namespace kestrel::addin {
+
 /// Stands for a character buffer of `size` bytes, terminator included, in a provider: the bytes are counted there, in
 /// the system's code page, and Str() gives UTF-8.
 class TBoundedText {
@@ -26,3 +28,5 @@ class TBoundedText {
   std::size_t size_;
   std::string text_;
 };
+
+}  // namespace kestrel::addin

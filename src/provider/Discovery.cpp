@@ -1,8 +1,10 @@
 #include <algorithm>
 
-#include "host/Paths.h"
-#include "host/Registry.h"
 #include "provider/sccapiintf.h"
+#include "system/Paths.h"
+#include "system/Registry.h"
+
+namespace kestrel::addin {
 
 namespace {
 /// The path of a provider's library, spelled as programs that look for the default provider spell it; the registry does
@@ -35,3 +37,5 @@ bool SearchesPath(const std::string& libraryPath) {
            provider.ReadString(kSearchPath) == "1";
   });
 }
+
+}  // namespace kestrel::addin

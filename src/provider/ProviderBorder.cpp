@@ -9,6 +9,8 @@
 #include "host/Errors.h"
 #include "provider/ProviderStrings.h"
 
+namespace kestrel::addin {
+
 namespace {
 
 IProviderSink* sink = nullptr;
@@ -228,3 +230,5 @@ std::string CurrentFault() {
   }
   return sUnknownFault;
 }
+
+}  // namespace kestrel::addin

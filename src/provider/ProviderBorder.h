@@ -10,11 +10,13 @@
 #include <string_view>
 #include <vector>
 
-#include "host/Guard.h"
-#include "host/Text.h"
 #include "provider/BoundedText.h"
 #include "provider/sccapi.h"
 #include "provider/sccapiintf.h"
+#include "system/Guard.h"
+#include "system/Text.h"
+
+namespace kestrel::addin {
 
 /// The name that lines about the provider carry.
 void SetProviderName(const std::string& name);
@@ -188,3 +190,5 @@ scc::Long AttemptLogged(const char* entry, Body&& body) {
 inline scc::WindowHandle ToWindow(TWindowHandle window) {
   return reinterpret_cast<scc::WindowHandle>(window);
 }
+
+}  // namespace kestrel::addin

@@ -5,6 +5,8 @@
 #include "provider/ProviderBorder.h"
 #include "provider/ProviderStrings.h"
 
+namespace kestrel::addin {
+
 using namespace scc;
 
 namespace {
@@ -178,3 +180,5 @@ void TSCCProviderProject::AddFromScc(TStateMessages& messages) {
   if (code == SCC_OK) ProviderSink()->Box(sAddFromSccOk);
   if (code == SCC_I_OPERATIONCANCELED) ProviderSink()->Box(sOperationCancelled);
 }
+
+}  // namespace kestrel::addin

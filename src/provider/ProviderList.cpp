@@ -4,9 +4,11 @@
 #include <utility>
 
 #include "host/Errors.h"
-#include "host/Paths.h"
 #include "provider/ProviderBorder.h"
 #include "provider/ProviderStrings.h"
+#include "system/Paths.h"
+
+namespace kestrel::addin {
 
 using namespace scc;
 
@@ -171,3 +173,5 @@ const TProviderCapabilities& TSCCProviderList::Capabilities() const { return cap
 TSCCProviderProject* TSCCProviderList::CurrentProject() const { return current_; }
 const std::string& TSCCProviderList::InitializeError() const { return initializeError_; }
 const std::string& TSCCProviderList::UserName() const { return userName_; }
+
+}  // namespace kestrel::addin

@@ -6,6 +6,8 @@
 #include "provider/ProviderBorder.h"
 #include "provider/ProviderStrings.h"
 
+namespace kestrel::addin {
+
 using namespace scc;
 
 namespace {
@@ -132,3 +134,5 @@ void TSCCProviderProject::GetEvents(TStateMessages& messages) {
 Long TSCCProviderProject::RunSCC() {
   return AttemptLogged("SccRunScc", [&] { return Invoke(SccRunScc, context_, Window(), 0, nullptr); });
 }
+
+}  // namespace kestrel::addin

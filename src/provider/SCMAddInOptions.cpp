@@ -5,6 +5,8 @@
 #include "host/Services.h"
 #include "provider/SCMOptionsStrings.h"
 
+namespace kestrel::addin {
+
 namespace {
 
 constexpr const char* kOptionsKey = "SCMOptions";
@@ -61,3 +63,5 @@ void TSCMAddInEnvironmentOptions::SaveChanges() {
   changed = false;
   if (set) set->Save();
 }
+
+}  // namespace kestrel::addin

@@ -5,6 +5,8 @@
 
 #include "host/Options.h"
 
+namespace kestrel::addin {
+
 // Fields of the property set.
 inline constexpr const char* kSCMUserNameField = "UserName";
 inline constexpr const char* kSCMProviderField = "SCCProvider";
@@ -41,3 +43,5 @@ class TSCMAddInEnvironmentOptions final : public IOTAAddInOptions {
 
   TOptionsPageFactory page_;
 };
+
+}  // namespace kestrel::addin

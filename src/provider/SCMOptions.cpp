@@ -6,12 +6,14 @@
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
 
-#include "host/Registry.h"
-#include "host/WxText.h"
-#include "host/WxWheel.h"
 #include "provider/SCMAddInOptions.h"
 #include "provider/SCMOptionsStrings.h"
 #include "provider/sccapiintf.h"
+#include "system/Registry.h"
+#include "toolkit/WxText.h"
+#include "toolkit/WxWheel.h"
+
+namespace kestrel::addin {
 
 namespace {
 
@@ -83,3 +85,5 @@ void TSCMOptionsPage::TPropComboBoxSCMProviderChange(wxCommandEvent&) try {
   wxMessageBox(ToWx(Format(sProviderCreateError, {error.what()})), ToWx(sSCMOptionsPage), wxOK | wxICON_ERROR,
                this);
 }
+
+}  // namespace kestrel::addin

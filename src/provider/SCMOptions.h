@@ -11,6 +11,8 @@
 class wxChoice;
 class wxTextCtrl;
 
+namespace kestrel::addin {
+
 class TSCMOptionsPage final : public wxPanel {
  public:
   /// What choosing another provider does: called with the entry's text and the user name, may throw.
@@ -30,3 +32,5 @@ class TSCMOptionsPage final : public wxPanel {
 
   TChosen chosen_;
 };
+
+}  // namespace kestrel::addin

@@ -1,11 +1,15 @@
 // Texts of the options page.
 #pragma once
 
-#include "host/Text.h"
+#include "system/Text.h"
 
-constexpr TResString sSCMOptionsPage{"Source Control Options"};
-constexpr TResString sSCMProvidersLabel{"&Source Code Control Providers"};
-constexpr TResString sSCMUserNameLabel{"&User Name"};
-constexpr TResString sNoProvidersAvailable{"No providers available"};
-constexpr TResString sProviderCreateError{"Provider create error: %s"};
-constexpr TResString sNoOptionsStore{"The host keeps no settings for packages"};
+namespace kestrel::addin {
+
+inline constexpr TResString sSCMOptionsPage{"Source Control Options"};
+inline constexpr TResString sSCMProvidersLabel{"&Source Code Control Providers"};
+inline constexpr TResString sSCMUserNameLabel{"&User Name"};
+inline constexpr TResString sNoProvidersAvailable{"No providers available"};
+inline constexpr TResString sProviderCreateError{"Provider create error: %s"};
+inline constexpr TResString sNoOptionsStore{"The host keeps no settings for packages"};
+
+}  // namespace kestrel::addin

@@ -1,9 +1,11 @@
 #include <algorithm>
 #include <iterator>
 
-#include "host/Paths.h"
 #include "provider/ProviderBorder.h"
 #include "provider/ProviderStrings.h"
+#include "system/Paths.h"
+
+namespace kestrel::addin {
 
 namespace {
 
@@ -129,3 +131,5 @@ void DecodeQueryStatus(const std::string& fileName, scc::Long status) {
   for (const TStatusRow& row : kStatuses)
     if (row.Matches(status)) WriteProviderLine(IProviderSink::Kind::Info, Format(row.Text.str(), {name}));
 }
+
+}  // namespace kestrel::addin

@@ -4,12 +4,14 @@
 #include "provider/ProviderStrings.h"
 #include "provider/sccapiintf.h"
 
-namespace scc {
+namespace kestrel::scc {
+
+using namespace addin;
 
 TModuleHandle hSosScc = nullptr;
 
 #define SCC_ENTRY(variable, name, result, arguments) result(SCC_CALL* variable) arguments = nullptr;
-#include "provider/entry_points.def"
+#include "scc/entry_points.def"
 #undef SCC_ENTRY
 
 TTextOutProc callBackTextOutProc = nullptr;
@@ -19,7 +21,7 @@ namespace {
 
 #define SCC_ENTRY(variable, name, result, arguments) +1
 constexpr int kEntryCount = 0
-#include "provider/entry_points.def"
+#include "scc/entry_points.def"
     ;
 #undef SCC_ENTRY
 static_assert(kEntryCount == 23);
@@ -41,21 +43,21 @@ bool LoadSCCDLL(const std::string& path) {
     return false;
   }
 #define SCC_ENTRY(variable, name, result, arguments) Bind(variable, name);
-#include "provider/entry_points.def"
+#include "scc/entry_points.def"
 #undef SCC_ENTRY
   return true;
 }
 
 void UnloadSCCDLL() {
   const TFloatingPointKeeper floatingPoint;
-  FreeModule(hSosScc);
+  UnloadModule(hSosScc);
   hSosScc = nullptr;
 }
 
 std::string NameOf(TEntry entry) {
 #define SCC_ENTRY(variable, name, result, arguments) \
   if (reinterpret_cast<TEntry>(variable) == entry) return name;
-#include "provider/entry_points.def"
+#include "scc/entry_points.def"
 #undef SCC_ENTRY
   return {};
 }
@@ -64,4 +66,4 @@ Dword SCC_VER_NUM() { return 0x00010001; }
 Dword SCC_GET_MAJOR_VER(Dword version) { return version >> 16; }
 Dword SCC_GET_MINOR_VER(Dword version) { return version & 0xFFFF; }
 
-}  // namespace scc
+}  // namespace kestrel::scc

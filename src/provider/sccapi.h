@@ -4,10 +4,10 @@
 
 #include <string>
 
-#include "host/Library.h"
-#include "provider/sccdefs.h"
+#include "scc/sccdefs.h"
+#include "system/Library.h"
 
-namespace scc {
+namespace kestrel::scc {
 
 /// The loaded provider library; nullptr when none is loaded.
 extern TModuleHandle hSosScc;
@@ -15,7 +15,7 @@ extern TModuleHandle hSosScc;
 // One variable per entry point; null when the library does not export the name.  They stay as they are after
 // UnloadSCCDLL, so nobody calls through them without a loaded library: use the session classes.
 #define SCC_ENTRY(variable, name, result, arguments) extern result(SCC_CALL* variable) arguments;
-#include "provider/entry_points.def"
+#include "scc/entry_points.def"
 #undef SCC_ENTRY
 
 // Slots for the two callback types.  Declared for completeness of the binding and never assigned or called: the add-in
@@ -40,4 +40,4 @@ Dword SCC_VER_NUM();
 Dword SCC_GET_MAJOR_VER(Dword version);
 Dword SCC_GET_MINOR_VER(Dword version);
 
-}  // namespace scc
+}  // namespace kestrel::scc

@@ -17,7 +17,9 @@
 
 #include "host/Services.h"
 #include "provider/BoundedText.h"
-#include "provider/sccdefs.h"
+#include "scc/sccdefs.h"
+
+namespace kestrel::addin {
 
 // ---------------------------------------------------------------------------------------------- discovery
 
@@ -311,3 +313,5 @@ class TSCCProviderList {
   std::string userName_;
   std::string initializeError_;
 };
+
+}  // namespace kestrel::addin

@@ -1,8 +1,12 @@
 // Buttons that several windows have.
 #pragma once
 
-#include "host/Text.h"
+#include "system/Text.h"
 
-constexpr TResString sButtonOk{"&OK"};
-constexpr TResString sButtonCancel{"&Cancel"};
-constexpr TResString sButtonClose{"&Close"};
+namespace kestrel::addin {
+
+inline constexpr TResString sButtonOk{"&OK"};
+inline constexpr TResString sButtonCancel{"&Cancel"};
+inline constexpr TResString sButtonClose{"&Close"};
+
+}  // namespace kestrel::addin

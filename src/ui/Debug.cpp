@@ -3,9 +3,11 @@
 #include <wx/wupdlock.h>
 #include <wx/wx.h>
 
-#include "host/WxText.h"
+#include "toolkit/WxText.h"
 #include "ui/ButtonStrings.h"
 #include "ui/DebugStrings.h"
+
+namespace kestrel::addin {
 
 TDebugForm* DebugForm = nullptr;
 
@@ -50,3 +52,5 @@ void CreateDebugForm() {
 }
 
 void FreeDebugForm() { delete DebugForm; }
+
+}  // namespace kestrel::addin

@@ -6,6 +6,8 @@
 class wxButton;
 class wxTextCtrl;
 
+namespace kestrel::addin {
+
 class TDebugForm final : public wxFrame {
  public:
   TDebugForm();
@@ -27,3 +29,5 @@ extern TDebugForm* DebugForm;
 /// Called by the package entry at initialization and finalization.
 void CreateDebugForm();
 void FreeDebugForm();
+
+}  // namespace kestrel::addin

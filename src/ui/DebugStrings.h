@@ -1,6 +1,10 @@
 #pragma once
 
-#include "host/Text.h"
+#include "system/Text.h"
 
-constexpr TResString sDebugCaption{"Debug"};
-constexpr TResString sDebugClear{"C&lear"};
+namespace kestrel::addin {
+
+inline constexpr TResString sDebugCaption{"Debug"};
+inline constexpr TResString sDebugClear{"C&lear"};
+
+}  // namespace kestrel::addin

@@ -4,6 +4,8 @@
 #include "ui/ExpertMainMenuStrings.h"
 #include "ui/MenuImages.h"
 
+namespace kestrel::addin {
+
 namespace {
 
 constexpr int kNoImage = -1;
@@ -258,3 +260,5 @@ void TExpertMainMenuModule::ShowHistorySingle(const std::string& fileName) {
 void TExpertMainMenuModule::PropertiesSingle(const std::string& fileName) {
   Run(sPropertiesError, &ITeamCommands::Properties, fileName);
 }
+
+}  // namespace kestrel::addin

@@ -8,7 +8,9 @@
 #include <vector>
 
 #include "host/Menus.h"
-#include "host/Text.h"
+#include "system/Text.h"
+
+namespace kestrel::addin {
 
 /// The commands behind the menu, declared by the layer that calls them; the expert implements them.  A command that
 /// takes a file name works on the whole project when the name is empty.
@@ -128,3 +130,5 @@ class TExpertMainMenuModule {
   TAction act_get_files_;  // of GetFiles, which the menu hides: the action list has it all the same
   TFileMenu file_menu_;
 };
+
+}  // namespace kestrel::addin

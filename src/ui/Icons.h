@@ -3,6 +3,8 @@
 
 #include <array>
 
+namespace kestrel::addin {
+
 /// Lines of the message window, in the order of TMsgWinType: information, warning, error, status.
 inline constexpr int kLineIconSize = 16;
 inline constexpr std::array kLineIcons{
@@ -37,3 +39,5 @@ inline constexpr std::array kDialogIcons{
 <circle cx="16" cy="16" r="15" fill="#2f6fb7"/>
 <path d="M11.5 12.5C11.5 6.5 20.5 6.5 20.5 12 C20.5 15.5 16 15.5 16 19" fill="none" stroke="#ffffff" stroke-width="3.2" stroke-linecap="round"/>
 <circle cx="16" cy="24" r="2.2" fill="#ffffff"/></svg>)"};
+
+}  // namespace kestrel::addin

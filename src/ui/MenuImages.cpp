@@ -5,6 +5,8 @@
 
 #include "ui/ExpertMainMenuStrings.h"
 
+namespace kestrel::addin {
+
 constexpr TResString sUnnamed{""};
 
 // Drawn for this system: flat shapes in the colours of the windows' icons, with edges on whole units so that 100 % and
@@ -72,3 +74,5 @@ std::string MenuImageDocument(int index) {
       R"(<svg xmlns="http://www.w3.org/2000/svg"%s width="16" height="16" viewBox="0 0 16 16">%s</svg>)",
       {name.empty() ? name : Format(R"( id="%s")", {name}), image->Drawing});
 }
+
+}  // namespace kestrel::addin

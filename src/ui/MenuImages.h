@@ -4,7 +4,9 @@
 #include <array>
 #include <string>
 
-#include "host/Text.h"
+#include "system/Text.h"
+
+namespace kestrel::addin {
 
 /// One picture.  Two commands may share one, and not every index is taken.
 struct TMenuImage {
@@ -18,3 +20,5 @@ extern const std::array<TMenuImage, 11> MenuImageList;
 
 /// The document of the picture with that index, as the host's image list takes it.  The index must be in the list.
 std::string MenuImageDocument(int index);
+
+}  // namespace kestrel::addin

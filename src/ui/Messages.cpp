@@ -2,6 +2,8 @@
 
 #include <array>
 
+namespace kestrel::addin {
+
 std::string MessageTimeStamp(const std::tm& localTime) {
   std::array<char, 64> moment{};
   std::array<char, 64> half{};
@@ -11,3 +13,5 @@ std::string MessageTimeStamp(const std::tm& localTime) {
     return std::string(moment.data()) + (localTime.tm_hour < 12 ? "AM" : "PM");
   return std::string(moment.data()) + half.data();
 }
+
+}  // namespace kestrel::addin

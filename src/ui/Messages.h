@@ -7,9 +7,11 @@
 #include <string>
 #include <string_view>
 
-#include "host/Text.h"
+#include "system/Text.h"
 
 #undef SendMessage  // a macro of Windows' headers, where they came first
+
+namespace kestrel::addin {
 
 /// Kind of a line of the message window; also the index of its icon.
 enum TMsgWinType { mwtInfo, mwtWarning, mwtError, mwtStatus };
@@ -33,3 +35,5 @@ class IMessageWindow {
 
 /// The time stamp of a line: "mm/dd/yyyy hh:mm:ss ampm" on the 12-hour clock, e.g. "03/02/2024 01:05:09 PM".
 std::string MessageTimeStamp(const std::tm& localTime);
+
+}  // namespace kestrel::addin

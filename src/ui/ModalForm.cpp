@@ -2,6 +2,8 @@
 
 #include <wx/wx.h>
 
+namespace kestrel::addin {
+
 TModalForm::TModalForm(const wxString& caption, long style)
     : wxDialog(nullptr, wxID_ANY, caption, wxDefaultPosition, wxDefaultSize, style) {
   Bind(wxEVT_CHAR_HOOK, &TModalForm::FormKeyDown, this);
@@ -29,3 +31,5 @@ bool TModalForm::PressDefaultButton() {
   if (button->IsEnabled()) button->Command(*std::make_unique<wxCommandEvent>(wxEVT_BUTTON, button->GetId()));
   return true;
 }
+
+}  // namespace kestrel::addin

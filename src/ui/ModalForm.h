@@ -5,6 +5,8 @@
 
 #include "ui/ModalResult.h"
 
+namespace kestrel::addin {
+
 /// A dialog that ends with mrOk or mrCancel.  It is parented by the active window of the host, or by the host's main
 /// window.  Escape and the title bar's close button cancel it; Enter presses the default button, whichever control has
 /// the focus, unless that is a button itself.
@@ -21,3 +23,5 @@ class TModalForm : public wxDialog {
  private:
   bool PressDefaultButton();
 };
+
+}  // namespace kestrel::addin

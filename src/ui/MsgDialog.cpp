@@ -7,11 +7,13 @@
 #include <algorithm>
 #include <array>
 
-#include "host/System.h"
-#include "host/WxText.h"
+#include "system/System.h"
+#include "toolkit/WxText.h"
 #include "ui/ButtonStrings.h"
 #include "ui/Icons.h"
 #include "ui/MsgDialogStrings.h"
+
+namespace kestrel::addin {
 
 TMsgDialogForm* MsgDialogForm = nullptr;
 
@@ -89,3 +91,5 @@ void ShowMsgDialog(const std::string& title, const std::string& msg, TMsgType ki
   MessageBeep(kBeeps[kind]);
   form.ShowModal();
 }
+
+}  // namespace kestrel::addin

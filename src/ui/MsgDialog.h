@@ -14,6 +14,8 @@ class wxStaticBitmap;
 class wxStaticText;
 class wxTextCtrl;
 
+namespace kestrel::addin {
+
 class TMsgDialogForm final : public TModalForm {
  public:
   TMsgDialogForm(const std::string& title, const std::string& msg, TMsgType kind);
@@ -37,3 +39,5 @@ extern TMsgDialogForm* MsgDialogForm;
 
 /// Shows the dialog modally and returns when it is closed.
 void ShowMsgDialog(const std::string& title, const std::string& msg, TMsgType kind);
+
+}  // namespace kestrel::addin

@@ -1,5 +1,9 @@
 #pragma once
 
-#include "host/Text.h"
+#include "system/Text.h"
 
-constexpr TResString sMsgDialogCaption{"Source Code Control"};
+namespace kestrel::addin {
+
+inline constexpr TResString sMsgDialogCaption{"Source Code Control"};
+
+}  // namespace kestrel::addin

@@ -7,10 +7,12 @@
 #include <ctime>
 #include <utility>
 
-#include "host/WxText.h"
+#include "toolkit/WindowSize.h"
+#include "toolkit/WxText.h"
 #include "ui/Icons.h"
 #include "ui/MsgWinStrings.h"
-#include "ui/WindowSize.h"
+
+namespace kestrel::addin {
 
 TMsgWinForm* MsgWinForm = nullptr;
 
@@ -167,3 +169,5 @@ void TMsgWinForm::CopySelection() const {
   if (text.empty() || !clipboard) return;
   wxTheClipboard->SetData(new wxTextDataObject(text));
 }
+
+}  // namespace kestrel::addin

@@ -13,6 +13,8 @@
 #include "host/Menus.h"
 #include "ui/Messages.h"
 
+namespace kestrel::addin {
+
 /// The lines.  The list control asks for what it shows, so that a long log costs no more than a short one.
 class TMessageListView final : public wxListView {
  public:
@@ -73,3 +75,5 @@ class TMsgWinForm final : public wxFrame, public IMessageWindow {
 
 /// The message window, or nullptr.  Its owner is whoever created it.
 extern TMsgWinForm* MsgWinForm;
+
+}  // namespace kestrel::addin

@@ -1,8 +1,12 @@
 #pragma once
 
-#include "host/Text.h"
+#include "system/Text.h"
 
-constexpr TResString sMsgWinCaption{"Version Control Messages"};
-constexpr TResString sMessageColumn{"Message"};
-constexpr TResString sDateColumn{"Date"};
-constexpr TResString sClearMessages{"Clear Messages"};
+namespace kestrel::addin {
+
+inline constexpr TResString sMsgWinCaption{"Version Control Messages"};
+inline constexpr TResString sMessageColumn{"Message"};
+inline constexpr TResString sDateColumn{"Date"};
+inline constexpr TResString sClearMessages{"Clear Messages"};
+
+}  // namespace kestrel::addin

@@ -3,6 +3,8 @@
 
 #include <wx/listctrl.h>
 
+namespace kestrel::addin {
+
 /// The control asks for what it shows and keeps no ticks of its own; the one of Windows, asked for one, would answer
 /// anything.  So who asks or sets a tick here deals with whoever keeps the rows.
 class TVirtualList : public wxListView {
@@ -22,3 +24,5 @@ class TVirtualList : public wxListView {
  protected:
   int OnGetItemImage(long) const override { return -1; }
 };
+
+}  // namespace kestrel::addin

@@ -17,14 +17,16 @@
 #include "expert/CommentMemory.h"
 #include "expert/ProviderWindows.h"
 #include "expert/SccSystem.h"
-#include "host/FileName.h"
-#include "host/Paths.h"
-#include "host/System.h"
-#include "host/WxText.h"
+#include "system/FileName.h"
+#include "system/Paths.h"
+#include "system/System.h"
+#include "toolkit/WxText.h"
 #include "wizards/CommitBrowserStrings.h"
 #include "wizards/CommitGrid.h"
 #include "wizards/CommitPass.h"
 #include "wizards/CommitRowsStrings.h"
+
+namespace kestrel::addin {
 
 namespace {
 
@@ -425,3 +427,5 @@ void TCommitBrowser::CloseWith(int modalResult) {
   HideActivities();
   TModalForm::CloseWith(modalResult);
 }
+
+}  // namespace kestrel::addin

@@ -9,10 +9,6 @@
 #include "ui/ModalForm.h"
 #include "wizards/CommitRows.h"
 
-class TActivityComboBox;
-class TCommitGrid;
-class TCommitTable;
-struct TCommandContext;
 class wxBookCtrlEvent;
 class wxButton;
 class wxCheckBox;
@@ -23,6 +19,13 @@ class wxSizer;
 class wxStaticText;
 class wxStatusBar;
 class wxTextCtrl;
+
+namespace kestrel::addin {
+
+class TActivityComboBox;
+class TCommitGrid;
+class TCommitTable;
+struct TCommandContext;
 
 class TCommitBrowser final : public TModalForm {
  public:
@@ -129,3 +132,5 @@ class TCommitBrowser final : public TModalForm {
   std::string project_file_;
   bool busy_ = false;  // a pass is running
 };
+
+}  // namespace kestrel::addin

@@ -5,13 +5,15 @@
 #include <wx/wx.h>
 
 #include "commands/CommentsStrings.h"
-#include "host/WxText.h"
+#include "toolkit/WindowSize.h"
+#include "toolkit/WxText.h"
 #include "ui/MenuImages.h"
-#include "ui/WindowSize.h"
 #include "wizards/CommitBrowser.h"
 #include "wizards/CommitBrowserStrings.h"
 #include "wizards/CommitGrid.h"
 #include "wizards/CommitRowsStrings.h"
+
+namespace kestrel::addin {
 
 namespace {
 
@@ -151,3 +153,5 @@ void TCommitBrowser::LayOut() {
   for (auto* book : {TCommitPageControl, TFileDisplayPageControl}) SizePages(*book);
   CentreOnScreen();
 }
+
+}  // namespace kestrel::addin

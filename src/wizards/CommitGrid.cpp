@@ -5,9 +5,11 @@
 #include <algorithm>
 #include <array>
 
-#include "host/Paths.h"
-#include "host/WxText.h"
+#include "system/Paths.h"
+#include "toolkit/WxText.h"
 #include "wizards/CommitBrowserStrings.h"
+
+namespace kestrel::addin {
 
 namespace {
 
@@ -140,3 +142,5 @@ void TActivityComboBox::OnWheel(wxMouseEvent& event) {
   else
     GetParent()->ScrollLines(-notches * event.GetLinesPerAction());
 }
+
+}  // namespace kestrel::addin

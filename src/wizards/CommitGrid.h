@@ -9,6 +9,8 @@
 
 #include "wizards/CommitRows.h"
 
+namespace kestrel::addin {
+
 // The misspelling is the unit's own.
 enum TCommitGridColoumn { cgcActivity, cgcStatus, cgcFileName };
 inline constexpr int kCommitColumns = cgcFileName + 1;
@@ -69,3 +71,5 @@ class TActivityComboBox final : public wxOwnerDrawnComboBox {
   wxVListBoxComboPopup* list_;  // owned by the popup's window
   int wheelRotation_ = 0;       // since the last whole notch
 };
+
+}  // namespace kestrel::addin

@@ -9,10 +9,12 @@
 #include "expert/Edits.h"
 #include "expert/FileCommands.h"
 #include "expert/SccSystem.h"
-#include "host/Paths.h"
-#include "host/System.h"
+#include "system/Paths.h"
+#include "system/System.h"
 #include "wizards/CommitPassStrings.h"
 #include "wizards/CommitRowsStrings.h"
+
+namespace kestrel::addin {
 
 namespace {
 
@@ -112,3 +114,5 @@ void CommitRows(TCommandContext& context, const std::vector<TCommitRowData>& row
                 const TCommitComments& comments, std::unique_ptr<IProgress> progress) {
   TCommitPass(context, comments).Execute(rows, std::move(progress));
 }
+
+}  // namespace kestrel::addin

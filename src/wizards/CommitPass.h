@@ -8,6 +8,8 @@
 #include "expert/ExpertUi.h"
 #include "wizards/CommitRows.h"
 
+namespace kestrel::addin {
+
 /// Which comment a row's provider call gets.
 struct TCommitComments {
   bool Individual = true;  ///< each row's own, else the summary for all
@@ -26,3 +28,5 @@ std::string CommitCommentPlace(const std::string& fileName = {});
 /// directory is no provider project.
 void CommitRows(TCommandContext& context, const std::vector<TCommitRowData>& rows,
                 const TCommitComments& comments, std::unique_ptr<IProgress> progress);
+
+}  // namespace kestrel::addin

@@ -10,10 +10,12 @@
 #include "expert/FileCommandStrings.h"
 #include "expert/ProjectFiles.h"
 #include "expert/SccSystem.h"
-#include "host/Paths.h"
-#include "host/System.h"
+#include "system/Paths.h"
+#include "system/System.h"
 #include "wizards/CommitRowsStrings.h"
 #include "wizards/FileSearch.h"
+
+namespace kestrel::addin {
 
 namespace {
 
@@ -200,3 +202,5 @@ TCommitRowData ClassifyCommitRow(scc::Long status, bool locallyModified) {
 }
 
 std::vector<TCommitRowData> GatherCommitRows(TCommandContext& context) { return TGathering(context).Rows(); }
+
+}  // namespace kestrel::addin

@@ -8,6 +8,8 @@
 
 #include "provider/sccapiintf.h"
 
+namespace kestrel::addin {
+
 struct TCommandContext;
 
 /// What is done to one file.  The values are the indexes of the drop-down's items.
@@ -44,3 +46,5 @@ TCommitRowData ClassifyCommitRow(scc::Long status, bool locallyModified);
 /// population, one query, and one quick difference per controlled file on disk.  Throws EAbort when there is no
 /// provider, the project's directory is no provider project, or there are too many files.
 std::vector<TCommitRowData> GatherCommitRows(TCommandContext& context);
+
+}  // namespace kestrel::addin

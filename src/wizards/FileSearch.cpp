@@ -1,7 +1,9 @@
 #include "wizards/FileSearch.h"
 
-#include "host/Paths.h"
-#include "host/System.h"
+#include "system/Paths.h"
+#include "system/System.h"
+
+namespace kestrel::addin {
 
 namespace {
 
@@ -50,3 +52,5 @@ void SearchRecursiveDirectories(TStringList& target, const std::string& director
     });
   }
 }
+
+}  // namespace kestrel::addin

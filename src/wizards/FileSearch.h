@@ -8,6 +8,8 @@
 #include <string>
 #include <vector>
 
+namespace kestrel::addin {
+
 /// Every entry (files and subdirectories) directly in the directory: the directory, a delimiter, the name.
 void SearchDirectory(std::vector<std::string>& target, const std::string& directory);
 /// The same, subdirectories only.  A link to a directory counts as one.
@@ -21,3 +23,5 @@ void FindSubDirectories(std::vector<std::string>& target, const std::string& dir
 void SearchRecursiveFiles(std::vector<std::string>& target, const std::string& directory);
 /// The directory itself, whether it exists or not, and every directory below it, each with a trailing delimiter.
 void SearchRecursiveDirectories(std::vector<std::string>& target, const std::string& directory);
+
+}  // namespace kestrel::addin

@@ -5,7 +5,9 @@
 
 #include <algorithm>
 
-#include "host/WxText.h"
+#include "toolkit/WxText.h"
+
+namespace kestrel::addin {
 
 namespace {
 
@@ -86,3 +88,5 @@ void TLinesView::CopySelected() const {
   wxClipboardLocker locker;
   if (!!locker) wxTheClipboard->SetData(new wxTextDataObject(ToWx(text)));
 }
+
+}  // namespace kestrel::addin

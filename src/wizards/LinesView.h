@@ -6,6 +6,8 @@
 
 #include "ui/VirtualList.h"
 
+namespace kestrel::addin {
+
 class TLinesView final : public TVirtualList {
  public:
   /// Where the lines come from; asked for the visible ones only.
@@ -37,3 +39,5 @@ class TLinesView final : public TVirtualList {
   std::size_t measured_ = 0;  // lines that the width is known for
   int widest_ = 0;
 };
+
+}  // namespace kestrel::addin

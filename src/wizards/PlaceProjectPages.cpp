@@ -7,10 +7,12 @@
 #include "expert/ProjectFiles.h"
 #include "expert/SccSystem.h"
 #include "host/Errors.h"
-#include "host/Paths.h"
-#include "host/System.h"
+#include "system/Paths.h"
+#include "system/System.h"
 #include "wizards/PlaceProjectWizardStrings.h"
 #include "wizards/WizardPagesStrings.h"
+
+namespace kestrel::addin {
 
 namespace {
 
@@ -142,3 +144,5 @@ void TPlaceProjectPages::RollBack() {
   };
   RunCatching<EAbort>(close, [](const EAbort&) {});  // the host has released the provider with its projects
 }
+
+}  // namespace kestrel::addin

@@ -5,6 +5,8 @@
 
 #include "wizards/WizardPages.h"
 
+namespace kestrel::addin {
+
 class TPlaceProjectPages final : public TWizardPages {
  public:
   explicit TPlaceProjectPages(TCommandContext& expert);
@@ -40,3 +42,5 @@ class TPlaceProjectPages final : public TWizardPages {
   TStringList shown_;
   std::vector<bool> ticked_;
 };
+
+}  // namespace kestrel::addin

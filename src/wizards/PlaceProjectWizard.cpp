@@ -2,8 +2,10 @@
 
 #include <wx/wx.h>
 
-#include "host/WxText.h"
+#include "toolkit/WxText.h"
 #include "wizards/PlaceProjectWizardStrings.h"
+
+namespace kestrel::addin {
 
 namespace {
 constexpr int kFilesPanel = 3;
@@ -56,3 +58,5 @@ void TPlaceProjectWizard::FormKeyDown(wxKeyEvent& event) {
   else
     TWizardForm::FormKeyDown(event);
 }
+
+}  // namespace kestrel::addin

@@ -6,6 +6,8 @@
 
 class wxCheckBox;
 
+namespace kestrel::addin {
+
 class TPlaceProjectWizard final : public TWizardForm {
  public:
   /// `expert` is borrowed.
@@ -26,3 +28,5 @@ class TPlaceProjectWizard final : public TWizardForm {
 
   TPlaceProjectPages pages_;
 };
+
+}  // namespace kestrel::addin

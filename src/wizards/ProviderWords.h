@@ -8,6 +8,8 @@
 
 #include "provider/sccapiintf.h"
 
+namespace kestrel::addin {
+
 /// Listens in for as long as it lives; everything still goes where it went before.
 class TProviderWords final : public IProviderSink {
  public:
@@ -39,3 +41,5 @@ class TProviderWords final : public IProviderSink {
   std::vector<std::string> errors_;
   std::vector<std::string> warnings_;
 };
+
+}  // namespace kestrel::addin

@@ -7,13 +7,15 @@
 #include "expert/ProjectFiles.h"
 #include "expert/ProviderWindows.h"
 #include "host/Errors.h"
-#include "host/FileName.h"
-#include "host/Paths.h"
-#include "host/Registry.h"
-#include "host/System.h"
+#include "system/FileName.h"
+#include "system/Paths.h"
+#include "system/Registry.h"
+#include "system/System.h"
 #include "wizards/FileSearch.h"
 #include "wizards/PullProjectWizardStrings.h"
 #include "wizards/WizardPagesStrings.h"
+
+namespace kestrel::addin {
 
 namespace {
 
@@ -115,7 +117,7 @@ void TPullProjectPages::PageSelectTargetDisplay() {
 
 void TPullProjectPages::TargetDirectoryChange(const std::string& text) {
   target_ = text;
-  note_ = ::TargetNote(FullTarget(text));
+  note_ = addin::TargetNote(FullTarget(text));
   page_.Problem.clear();
   Changed();
 }
@@ -268,3 +270,5 @@ void TPullProjectPages::Finish() {
   if (!FProjectFile.empty()) RemoveProject(ExtractFileDir(FProjectFile));
   RemoveProject(LocalPath());  // the project file may be in a directory below
 }
+
+}  // namespace kestrel::addin

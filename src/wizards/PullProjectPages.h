@@ -3,6 +3,8 @@
 
 #include "wizards/WizardPages.h"
 
+namespace kestrel::addin {
+
 class TPullProjectPages final : public TWizardPages {
  public:
   explicit TPullProjectPages(TCommandContext& expert);
@@ -49,3 +51,5 @@ class TPullProjectPages final : public TWizardPages {
   std::string FProjectFile;
   bool can_open_ = false;
 };
+
+}  // namespace kestrel::addin

@@ -3,10 +3,12 @@
 #include <wx/dirdlg.h>
 #include <wx/wx.h>
 
-#include "host/Paths.h"
-#include "host/System.h"
-#include "host/WxText.h"
+#include "system/Paths.h"
+#include "system/System.h"
+#include "toolkit/WxText.h"
 #include "wizards/PullProjectWizardStrings.h"
+
+namespace kestrel::addin {
 
 namespace {
 constexpr int kTargetPanel = 3;
@@ -111,3 +113,5 @@ void TPullProjectWizard::Page3PanelMouseMove(wxMouseEvent& event) {
   event.Skip();
   TargetDirectory->UnsetToolTip();
 }
+
+}  // namespace kestrel::addin

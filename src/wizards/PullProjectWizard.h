@@ -7,6 +7,8 @@
 class wxCheckBox;
 class wxDirDialog;
 
+namespace kestrel::addin {
+
 class TPullProjectWizard final : public TWizardForm {
  public:
   /// `expert` is borrowed.
@@ -38,3 +40,5 @@ class TPullProjectWizard final : public TWizardForm {
   wxStaticText* NoteLabel;
   wxStaticText* TargetLabel;
 };
+
+}  // namespace kestrel::addin

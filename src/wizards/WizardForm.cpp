@@ -4,10 +4,12 @@
 #include <wx/statline.h>
 #include <wx/wx.h>
 
-#include "host/WxText.h"
-#include "host/WxWheel.h"
+#include "toolkit/WxText.h"
+#include "toolkit/WxWheel.h"
 #include "wizards/WizardFormStrings.h"
 #include "wizards/WizardPagesStrings.h"
+
+namespace kestrel::addin {
 
 namespace {
 
@@ -222,3 +224,5 @@ void TWizardForm::ProjectNameChange(wxCommandEvent&) {
 void TWizardForm::cbProvidersChange(wxCommandEvent&) {
   pages_.cbProvidersChange(cbProviders->GetSelection());
 }
+
+}  // namespace kestrel::addin

@@ -15,6 +15,8 @@ class wxPanel;
 class wxStaticText;
 class wxTextCtrl;
 
+namespace kestrel::addin {
+
 class TWizardForm : public TModalForm {
  public:
   void BackButtonClick(wxCommandEvent& event);
@@ -82,3 +84,5 @@ class TWizardForm : public TModalForm {
   int panel_ = 0;  // the one that is shown
   TClock::time_point next_update_;
 };
+
+}  // namespace kestrel::addin

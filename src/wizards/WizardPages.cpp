@@ -5,11 +5,13 @@
 
 #include "expert/SccExpertStrings.h"
 #include "host/Errors.h"
-#include "host/Registry.h"
 #include "provider/SCMAddInOptions.h"
 #include "provider/SCMOptionsStrings.h"
+#include "system/Registry.h"
 #include "ui/ButtonStrings.h"
 #include "wizards/WizardPagesStrings.h"
+
+namespace kestrel::addin {
 
 namespace {
 
@@ -250,3 +252,5 @@ TStringList TWizardPages::Reasons(TProviderWords& words, const TStateMessages& m
       if (!text.empty()) reasons.push_back(text);
   return reasons;
 }
+
+}  // namespace kestrel::addin

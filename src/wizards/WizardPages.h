@@ -9,6 +9,8 @@
 #include "expert/CommandContext.h"
 #include "wizards/ProviderWords.h"
 
+namespace kestrel::addin {
+
 /// What a wizard's form shows of the current page.
 struct TWizardPage {
   std::string Caption;
@@ -131,3 +133,5 @@ class TWizardPages {
   bool stopped_ = false;
   bool finished_ = false;
 };
+
+}  // namespace kestrel::addin

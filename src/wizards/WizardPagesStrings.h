@@ -1,6 +1,10 @@
 // Texts that both wizards share.
 #pragma once
 
-#include "host/Text.h"
+#include "system/Text.h"
 
-constexpr TResString sWizardNext{"&Next >"};
+namespace kestrel::addin {
+
+inline constexpr TResString sWizardNext{"&Next >"};
+
+}  // namespace kestrel::addin

@@ -4,6 +4,8 @@
 #include "wizards/PlaceProjectWizard.h"
 #include "wizards/PullProjectWizard.h"
 
+namespace kestrel::addin {
+
 void TWxExpertUiWithWizards::ShowCommitBrowser(TCommandContext& context) {
   TCommitBrowser(context).ShowModal();
 }
@@ -17,3 +19,5 @@ std::string TWxExpertUiWithWizards::ShowPullProject(TCommandContext& context) {
   form.ShowModal();
   return form.FileToOpen();
 }
+
+}  // namespace kestrel::addin

@@ -3,9 +3,13 @@
 
 #include "commands/WxExpertUi.h"
 
+namespace kestrel::addin {
+
 class TWxExpertUiWithWizards final : public TWxExpertUi {
  public:
   void ShowCommitBrowser(TCommandContext& context) override;
   void ShowPlaceProject(TCommandContext& context) override;
   std::string ShowPullProject(TCommandContext& context) override;
 };
+
+}  // namespace kestrel::addin

@@ -1,8 +1,10 @@
 #include <gmock/gmock.h>
 
 #include "commands/Comments.h"
-#include "host/WxText.h"
 #include "support/ModalScript.h"
+#include "toolkit/WxText.h"
+
+namespace kestrel::addin {
 
 using testing::ElementsAre;
 
@@ -156,3 +158,5 @@ TEST(CommentHistory, LosesNothingThatWasTyped) {
 }
 
 }  // namespace
+
+}  // namespace kestrel::addin

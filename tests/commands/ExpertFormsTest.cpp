@@ -2,10 +2,12 @@
 
 #include "commands/Comments.h"
 #include "commands/WxExpertUi.h"
-#include "host/WxText.h"
 #include "support/ModalScript.h"
+#include "toolkit/WxText.h"
 #include "ui/MsgDialog.h"
 #include "ui/MsgWin.h"
+
+namespace kestrel::addin {
 
 namespace {
 
@@ -36,3 +38,5 @@ TEST(ExpertForms, BringUpTheRealWindows) {
 }
 
 }  // namespace
+
+}  // namespace kestrel::addin

@@ -3,6 +3,8 @@
 #include "expert/FileListModel.h"
 #include "support/NativePath.h"
 
+namespace kestrel::addin {
+
 using testing::ElementsAre;
 
 namespace {
@@ -106,3 +108,5 @@ TEST(CommentText, FitsWhatAProviderTakes) {
 }
 
 }  // namespace
+
+}  // namespace kestrel::addin

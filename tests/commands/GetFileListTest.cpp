@@ -2,8 +2,6 @@
 
 #include "commands/GetFileList.h"
 #include "expert/SccExpert.h"
-#include "host/Registry.h"
-#include "host/WxText.h"
 #include "provider/SCMAddInOptions.h"
 #include "support/ModalScript.h"
 #include "support/NativePath.h"
@@ -11,6 +9,10 @@
 #include "support/ScriptedHost.h"
 #include "support/ScriptedProvider.h"
 #include "support/TestRegistry.h"
+#include "system/Registry.h"
+#include "toolkit/WxText.h"
+
+namespace kestrel::addin {
 
 using testing::ElementsAre;
 
@@ -209,3 +211,5 @@ TEST_F(FileList, IsFoundByOthersOnlyWhileItGetsFiles) {
 }
 
 }  // namespace
+
+}  // namespace kestrel::addin

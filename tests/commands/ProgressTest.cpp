@@ -3,9 +3,11 @@
 #include <wx/evtloop.h>
 
 #include "commands/Progress.h"
-#include "host/WxText.h"
 #include "support/ModalScript.h"
+#include "toolkit/WxText.h"
 #include "ui/MsgDialog.h"
+
+namespace kestrel::addin {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -171,3 +173,5 @@ TEST_F(Progress, OutlivesTheHostsWindow) {
 }
 
 }  // namespace
+
+}  // namespace kestrel::addin

@@ -13,6 +13,8 @@
 #include "support/Environment.h"
 #include "support/RunProgram.h"
 
+namespace kestrel::svnscc {
+
 namespace {
 
 /// How often; more when the environment says so.
@@ -35,7 +37,7 @@ TEST(Kills, AtAnyMomentCostNeitherTheClientNorTheWorkingCopy) {
   for (int round = 0; round < Rounds(); ++round) {
     SCOPED_TRACE(round);
     const auto delay = std::chrono::microseconds(random() % 250'000);
-    const auto children = ChildProcessIds();
+    const auto children = isolation::ChildProcessIds();
     std::thread killer([&] {
       std::this_thread::sleep_for(delay);
       for (const pid_t child : children) kill(child, SIGKILL);
@@ -65,3 +67,5 @@ TEST(Kills, AtAnyMomentCostNeitherTheClientNorTheWorkingCopy) {
 }
 
 }  // namespace
+
+}  // namespace kestrel::svnscc

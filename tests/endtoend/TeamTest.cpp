@@ -9,12 +9,14 @@
 #include "expert/MappingFile.h"
 #include "expert/SccExpert.h"
 #include "host/Errors.h"
-#include "host/Registry.h"
-#include "host/System.h"
 #include "subversion/TestRepository.h"
 #include "support/ScriptedForms.h"
 #include "support/ScriptedHost.h"
+#include "system/Registry.h"
+#include "system/System.h"
 #include "ui/ExpertMainMenu.h"
+
+namespace kestrel::addin {
 
 namespace {
 
@@ -79,7 +81,7 @@ class Team : public testing::Test {
     TRegistry registry;
     repository_.Choose("/trunk/Flight plan");
     registry.OpenKey("Software\\Subversion");
-    registry.WriteString(kServerPath, SubversionLibrary());
+    registry.WriteString(kServerPath, svnscc::SubversionLibrary());
     registry.OpenKey(kInstalledProvidersKey);
     registry.WriteString(kProvider, "Software\\Subversion");
     registry.OpenKey(kProviderKey);
@@ -89,7 +91,7 @@ class Team : public testing::Test {
     return std::make_unique<TDesk>(user, folder_ / ("desk of " + user), repository_.Url());
   }
 
-  TTestRepository repository_;  // also gives the test a registry of its own
+  svnscc::TTestRepository repository_;  // also gives the test a registry of its own
   TTemporaryFolder folder_;
 };
 
@@ -171,3 +173,5 @@ TEST_F(Team, RepositoryThatIsGoneIsSaidInWordsAndLosesNothing) {
 }
 
 }  // namespace
+
+}  // namespace kestrel::addin

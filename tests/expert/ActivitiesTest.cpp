@@ -3,6 +3,8 @@
 
 #include "expert/ExpertFixture.h"
 
+namespace kestrel::addin {
+
 namespace {
 
 using enum TActivities::TVerdict;
@@ -108,3 +110,5 @@ TEST_F(Reentrance, LinesOfAProvidersThreadsReachTheMessageWindow) {
 }
 
 }  // namespace
+
+}  // namespace kestrel::addin

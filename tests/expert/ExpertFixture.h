@@ -12,15 +12,17 @@
 
 #include "expert/SccExpert.h"
 #include "host/Errors.h"
-#include "host/Paths.h"
-#include "host/Registry.h"
 #include "support/NativePath.h"
 #include "support/ScriptedForms.h"
 #include "support/ScriptedHost.h"
 #include "support/ScriptedProvider.h"
 #include "support/TemporaryFolder.h"
 #include "support/TestRegistry.h"
+#include "system/Paths.h"
+#include "system/Registry.h"
 #include "ui/ExpertMainMenu.h"
+
+namespace kestrel::addin {
 
 using testing::Contains;
 using testing::ElementsAre;
@@ -127,3 +129,5 @@ inline std::string AbortOf(const std::function<void()>& action) {
   }
   return "(no abort)";
 }
+
+}  // namespace kestrel::addin

@@ -4,7 +4,9 @@
 #include "expert/CommentMemory.h"
 #include "expert/ExpertFixture.h"
 #include "expert/FileCommands.h"
-#include "host/System.h"
+#include "system/System.h"
+
+namespace kestrel::addin {
 
 namespace {
 
@@ -511,3 +513,5 @@ TEST_F(FileCommand, ProviderWidensAndNarrowsTheList) {
 }
 
 }  // namespace
+
+}  // namespace kestrel::addin

@@ -5,6 +5,8 @@
 #include "expert/MappingFile.h"
 #include "support/NativePath.h"
 
+namespace kestrel::addin {
+
 namespace {
 
 class MappingFile : public testing::Test {
@@ -50,3 +52,5 @@ TEST_F(MappingFile, DamageIsReportedAndNothingIsLost) {
 }
 
 }  // namespace
+
+}  // namespace kestrel::addin

@@ -2,8 +2,10 @@
 #include <set>
 
 #include "expert/ExpertFixture.h"
-#include "host/System.h"
+#include "system/System.h"
 #include "ui/MenuImages.h"
+
+namespace kestrel::addin {
 
 namespace {
 
@@ -249,3 +251,5 @@ TEST_F(FileMenu, SaysWhyACommandEndedEarly) {
 }
 
 }  // namespace
+
+}  // namespace kestrel::addin

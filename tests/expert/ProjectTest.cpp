@@ -1,6 +1,8 @@
 // Opening, switching and closing projects.
 #include "expert/ExpertFixture.h"
 
+namespace kestrel::addin {
+
 namespace {
 
 using namespace scc;
@@ -121,3 +123,5 @@ TEST_F(Project, MappedProviderThatIsNotInstalledIsReported) {
 }
 
 }  // namespace
+
+}  // namespace kestrel::addin

@@ -1,6 +1,8 @@
 // Differences, history, properties, the provider's application; reloading what they changed.
 #include "expert/ExpertFixture.h"
 
+namespace kestrel::addin {
+
 namespace {
 
 using namespace scc;
@@ -81,3 +83,5 @@ TEST_F(ProviderWindows, ReloadingAProjectFileReopensTheGroupOrTheProject) {
 }
 
 }  // namespace
+
+}  // namespace kestrel::addin

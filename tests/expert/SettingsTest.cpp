@@ -1,6 +1,8 @@
 // Which provider, library and user: registry, user's settings and mapping file.
 #include "expert/ExpertFixture.h"
-#include "host/Registry.h"
+#include "system/Registry.h"
+
+namespace kestrel::addin {
 
 namespace {
 
@@ -133,7 +135,7 @@ bool MarkLibrary(const std::string& path) {
   const auto control =
       reinterpret_cast<ScriptedProvider* (*)()>(FindSymbol(library, "ScriptedProviderControl"));
   const bool marked = std::exchange(control()->Name, "marked") == "marked";
-  FreeModule(library);
+  UnloadModule(library);
   return marked;
 }
 
@@ -152,3 +154,5 @@ TEST_F(Settings, OldLibraryIsUnloadedBeforeTheNewProviderStarts) {
 }
 
 }  // namespace
+
+}  // namespace kestrel::addin

@@ -2,6 +2,8 @@
 #include "expert/EditorNotifiers.h"
 #include "expert/ExpertFixture.h"
 
+namespace kestrel::addin {
+
 namespace {
 
 class StartUp : public TExpertTest {};
@@ -90,3 +92,5 @@ TEST_F(StartUp, WizardIdentity) {
 }
 
 }  // namespace
+
+}  // namespace kestrel::addin

@@ -4,6 +4,8 @@
 #include "support/NativePath.h"
 #include "support/TestRegistry.h"
 
+namespace kestrel::addin {
+
 namespace {
 
 TEST(HostAccess, CurrentProjectIsTheGroupsActiveOneElseTheLast) {
@@ -71,3 +73,5 @@ TEST(HostAccess, HelpFileComesFromTheMachinesHelpKey) {
 }
 
 }  // namespace
+
+}  // namespace kestrel::addin

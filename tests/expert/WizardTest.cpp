@@ -1,6 +1,8 @@
 // What the expert does around its wizards.
 #include "expert/ExpertFixture.h"
 
+namespace kestrel::addin {
+
 namespace {
 
 class Wizards : public TExpertTest {};
@@ -58,3 +60,5 @@ TEST_F(Wizards, PlacedProjectStaysOpenAndAnAbandonedOneDoesNot) {
 }
 
 }  // namespace
+
+}  // namespace kestrel::addin

@@ -5,6 +5,8 @@
 
 #include "host/Event.h"
 
+namespace kestrel {
+
 using testing::ElementsAre;
 
 TEST(Event, RunsHandlersInOrderUntilTheyUnsubscribe) {
@@ -39,3 +41,5 @@ TEST(Event, HandlersMayUnsubscribeThemselvesAndLaterOnesAndSubscribeWhileItFires
   event.Fire();
   EXPECT_THAT(heard, ElementsAre("a text", "new"));
 }
+
+}  // namespace kestrel

@@ -8,10 +8,12 @@
 #include <thread>
 #include <vector>
 
-#include "host/FileName.h"
-#include "host/Paths.h"
-#include "host/System.h"
 #include "support/TemporaryFolder.h"
+#include "system/FileName.h"
+#include "system/Paths.h"
+#include "system/System.h"
+
+namespace kestrel {
 
 namespace fs = std::filesystem;
 using testing::HasSubstr;
@@ -96,3 +98,5 @@ TEST(Files, AreNeverSeenHalfWritten) {
   for (auto& writer : writers) writer.join();
   EXPECT_THAT(NamesIn(folder.Path()), UnorderedElementsAre("a.cdp"));
 }
+
+}  // namespace kestrel

@@ -3,8 +3,10 @@
 #include <functional>
 #include <random>
 
-#include "host/IniText.h"
-#include "host/Text.h"
+#include "system/IniText.h"
+#include "system/Text.h"
+
+namespace kestrel {
 
 using testing::ElementsAre;
 using testing::ElementsAreArray;
@@ -168,3 +170,5 @@ TEST(IniText, GivesBackAnyBytes) {
     EXPECT_EQ(TIniText(ini.Text()).Value("a", "k"), "1") << text;
   }
 }
+
+}  // namespace kestrel

@@ -2,9 +2,11 @@
 
 #include <filesystem>
 
-#include "host/Library.h"
-#include "host/Paths.h"
 #include "support/TemporaryFolder.h"
+#include "system/Library.h"
+#include "system/Paths.h"
+
+namespace kestrel {
 
 using testing::HasSubstr;
 using testing::IsEmpty;
@@ -15,7 +17,7 @@ TEST(Library, LoadsFindsAndReleases) {
   ASSERT_TRUE(module);
   EXPECT_TRUE(FindSymbol(module, "SccInitialize"));
   EXPECT_FALSE(FindSymbol(module, "SccNoSuchThing"));
-  FreeModule(module);
+  UnloadModule(module);
 }
 
 TEST(Library, RefusesWhatIsNoAbsolutePathOfALibrary) {
@@ -42,5 +44,7 @@ TEST(Library, RefusesARelativePathThatLeadsToALibrary) {
 
 TEST(Library, ToleratesNoLibrary) {
   EXPECT_FALSE(FindSymbol(nullptr, "SccInitialize"));
-  FreeModule(nullptr);
+  UnloadModule(nullptr);
 }
+
+}  // namespace kestrel

@@ -3,6 +3,8 @@
 
 #include <vector>
 
+namespace kestrel {
+
 struct TNameRow {
   const char *Path, *Directory, *Name, *Extension;
 };
@@ -37,3 +39,5 @@ struct TSameRow {
   bool Same, OneName;
 };
 extern const std::vector<TSameRow> kSame;
+
+}  // namespace kestrel

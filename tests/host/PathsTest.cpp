@@ -1,8 +1,10 @@
 #include <gtest/gtest.h>
 
 #include "host/PathRows.h"
-#include "host/Paths.h"
 #include "support/NativePath.h"
+#include "system/Paths.h"
+
+namespace kestrel {
 
 TEST(Paths, TakeNamesApart) {
   for (const auto& row : kNames) {
@@ -64,3 +66,5 @@ TEST(Paths, KnowSpellingsOfOneName) {
     EXPECT_EQ(FoldFileName(row.A) == FoldFileName(row.B), row.OneName) << row.A << " " << row.B;
   }
 }
+
+}  // namespace kestrel

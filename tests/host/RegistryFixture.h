@@ -6,8 +6,10 @@
 #include <string>
 #include <vector>
 
-#include "host/Registry.h"
 #include "support/TestRegistry.h"
+#include "system/Registry.h"
+
+namespace kestrel {
 
 class Registry : public testing::Test {
  protected:
@@ -30,3 +32,5 @@ class Registry : public testing::Test {
 
   const TTestRegistry registry_;
 };
+
+}  // namespace kestrel

@@ -2,6 +2,8 @@
 
 #include "host/RegistryFixture.h"
 
+namespace kestrel {
+
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -74,3 +76,5 @@ TEST_F(Registry, LooksIntoAKeyOnlyWhileItIsOpen) {
 }
 
 }  // namespace
+
+}  // namespace kestrel

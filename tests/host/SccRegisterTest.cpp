@@ -4,19 +4,23 @@
 #include <filesystem>
 #include <sstream>
 
-#include "host/FileName.h"
-#include "host/Paths.h"
-#include "host/Registry.h"
-#include "host/System.h"
 #include "provider/sccapiintf.h"
 #include "support/Environment.h"
 #include "support/RunProgram.h"
 #include "support/TemporaryFolder.h"
+#include "system/FileName.h"
+#include "system/Paths.h"
+#include "system/Registry.h"
+#include "system/System.h"
+
+namespace kestrel {
 
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::StartsWith;
 using testing::UnorderedElementsAre;
+
+using namespace addin;
 
 namespace {
 
@@ -179,3 +183,5 @@ TEST_F(SccRegister, ExplainsWhatItCannotDo) {
   EXPECT_EQ(Default(), kNoKey) << "nothing was written";
   EXPECT_THAT(Run({"--help"}).Output, StartsWith("Usage: "));
 }
+
+}  // namespace kestrel

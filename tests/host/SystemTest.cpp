@@ -3,10 +3,12 @@
 #include <filesystem>
 #include <map>
 
-#include "host/FileName.h"
-#include "host/Paths.h"
-#include "host/System.h"
 #include "support/TemporaryFolder.h"
+#include "system/FileName.h"
+#include "system/Paths.h"
+#include "system/System.h"
+
+namespace kestrel {
 
 namespace fs = std::filesystem;
 
@@ -59,3 +61,5 @@ TEST(System, ReturnsNoTextThatItsBufferCannotHold) {
   EXPECT_EQ(GetCurrentDirectoryText(127), "");
   fs::current_path(before);
 }
+
+}  // namespace kestrel

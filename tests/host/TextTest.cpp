@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
-#include "host/Text.h"
+#include "system/Text.h"
+
+namespace kestrel {
 
 TEST(Text, FormatNeverFails) {
   EXPECT_EQ(Format("Get of \"%s\" %s (%d)", {"/a.pas", "SUCCEEDED", -14}),
@@ -96,3 +98,5 @@ TEST(Text, OfANameNoByteIsLost) {
   EXPECT_EQ(TruncateInCodePage("aé€", 3), "aé");
   EXPECT_EQ(TruncateInCodePage("aé€", 2), "a");
 }
+
+}  // namespace kestrel

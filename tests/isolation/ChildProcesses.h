@@ -7,6 +7,8 @@
 #include <fstream>
 #include <vector>
 
+namespace kestrel::isolation {
+
 inline std::vector<pid_t> ChildProcessIds() {
   std::vector<pid_t> children;
   for (const auto& task : std::filesystem::directory_iterator("/proc/self/task")) {
@@ -15,3 +17,5 @@ inline std::vector<pid_t> ChildProcessIds() {
   }
   return children;
 }
+
+}  // namespace kestrel::isolation

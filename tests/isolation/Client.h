@@ -10,19 +10,21 @@
 #include <utility>
 #include <vector>
 
-#include "host/Library.h"
-#include "host/System.h"
-#include "provider/sccdefs.h"
+#include "scc/sccdefs.h"
 #include "support/Environment.h"
 #include "support/TemporaryFolder.h"
+#include "system/Library.h"
+#include "system/System.h"
 
-namespace scc {
+namespace kestrel::scc {
 struct EntryPoints {
 #define SCC_ENTRY(variable, name, result, arguments) result(SCC_CALL* variable) arguments = nullptr;
-#include "provider/entry_points.def"
+#include "scc/entry_points.def"
 #undef SCC_ENTRY
 };
-}  // namespace scc
+}  // namespace kestrel::scc
+
+namespace kestrel::isolation {
 
 inline std::vector<std::string> lines;  // the callback has no argument to find its owner by
 
@@ -35,7 +37,7 @@ class TIsolatedClient {
     if (library == nullptr) throw std::runtime_error(error);
 #define SCC_ENTRY(variable, name, result, arguments) \
   Scc.variable = reinterpret_cast<decltype(Scc.variable)>(FindSymbol(library, name));
-#include "provider/entry_points.def"
+#include "scc/entry_points.def"
 #undef SCC_ENTRY
   }
   ~TIsolatedClient() {
@@ -126,3 +128,5 @@ inline scc::Long TIsolatedClient::Call(const std::string& entry) {
   };
   return kCalls.at(entry)(*this);
 }
+
+}  // namespace kestrel::isolation

@@ -11,6 +11,8 @@
 #include "isolation/ChildProcesses.h"
 #endif
 
+namespace kestrel::isolation {
+
 using testing::AllOf;
 using testing::Contains;
 using testing::Each;
@@ -35,7 +37,7 @@ const TSpoken kEnds[] = {
 };
 const char* const kEntries[] = {
 #define SCC_ENTRY(variable, name, result, arguments) name,
-#include "provider/entry_points.def"
+#include "scc/entry_points.def"
 #undef SCC_ENTRY
 };
 
@@ -147,3 +149,5 @@ TEST(Restarts, EndWhenTheyLeadNowhere) {
 }
 
 }  // namespace
+
+}  // namespace kestrel::isolation

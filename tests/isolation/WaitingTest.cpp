@@ -7,6 +7,8 @@
 
 #include "isolation/Client.h"
 
+namespace kestrel::isolation {
+
 namespace {
 
 using testing::Contains;
@@ -60,3 +62,5 @@ TEST(Waiting, PaintsAndOffersStopAndLetsNobodyIn) {
 }
 
 }  // namespace
+
+}  // namespace kestrel::isolation

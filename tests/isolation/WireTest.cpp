@@ -3,6 +3,8 @@
 
 #include "Wire.h"
 
+namespace kestrel::isolation {
+
 using isolation::FrameReader;
 using isolation::NameList;
 using isolation::WireError;
@@ -49,3 +51,5 @@ TEST(Wire, KeepsNullNamesAndRefusesListsThatAreNone) {
 }
 
 }  // namespace
+
+}  // namespace kestrel::isolation

@@ -1,5 +1,7 @@
 #include "provider/Fixture.h"
 
+namespace kestrel::addin {
+
 namespace {
 
 struct Binding : testing::Test {
@@ -9,7 +11,7 @@ struct Binding : testing::Test {
 int BoundEntries() {
   int bound = 0;
 #define SCC_ENTRY(variable, name, result, arguments) bound += scc::variable != nullptr;
-#include "provider/entry_points.def"
+#include "scc/entry_points.def"
 #undef SCC_ENTRY
   return bound;
 }
@@ -53,3 +55,5 @@ TEST(InterfaceVersion, IsPackedInTwoHalves) {
 }
 
 }  // namespace
+
+}  // namespace kestrel::addin

@@ -2,9 +2,11 @@
 #include <cfenv>
 #include <thread>
 
-#include "host/Paths.h"
 #include "provider/Fixture.h"
 #include "provider/ProviderBorder.h"
+#include "system/Paths.h"
+
+namespace kestrel::addin {
 
 namespace {
 
@@ -292,3 +294,5 @@ TEST_F(Border, ArbitraryCodesComeBackAsTheyAre) {
 }
 
 }  // namespace
+
+}  // namespace kestrel::addin

@@ -1,8 +1,10 @@
 #include <gtest/gtest.h>
 
-#include "host/Registry.h"
 #include "provider/sccapiintf.h"
 #include "support/TestRegistry.h"
+#include "system/Registry.h"
+
+namespace kestrel::addin {
 
 namespace {
 
@@ -54,3 +56,5 @@ TEST_F(Discovery, TheDefaultProviderIsWhatItsKeySays) {
 }
 
 }  // namespace
+
+}  // namespace kestrel::addin

@@ -1,5 +1,7 @@
 #include "provider/Fixture.h"
 
+namespace kestrel::addin {
+
 namespace {
 
 using testing::ElementsAre;
@@ -185,3 +187,5 @@ TEST_F(FileCommands, CommentsEndAfter128Bytes) {
 }
 
 }  // namespace
+
+}  // namespace kestrel::addin

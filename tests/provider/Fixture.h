@@ -14,6 +14,8 @@
 #include "provider/sccapiintf.h"
 #include "support/ScriptedProvider.h"
 
+namespace kestrel::addin {
+
 class RecordingSink : public IProviderSink {
  public:
   RecordingSink() : before_(SetProviderSink(this)) {}
@@ -63,3 +65,5 @@ std::string AbortOf(Action&& action) {
   }
   return "(no EAbort)";
 }
+
+}  // namespace kestrel::addin

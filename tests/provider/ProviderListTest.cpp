@@ -1,5 +1,7 @@
 #include "provider/Fixture.h"
 
+namespace kestrel::addin {
+
 namespace {
 
 using testing::ElementsAre;
@@ -105,3 +107,5 @@ TEST_F(ProviderList, ASecondOneTakesTheSharedLibraryWithIt) {
 }
 
 }  // namespace
+
+}  // namespace kestrel::addin

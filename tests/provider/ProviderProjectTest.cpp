@@ -1,5 +1,7 @@
 #include "provider/Fixture.h"
 
+namespace kestrel::addin {
+
 namespace {
 
 using testing::ElementsAre;
@@ -124,3 +126,5 @@ TEST_F(ProviderProject, ALocalPathIsRefusedRatherThanCut) {
 }
 
 }  // namespace
+
+}  // namespace kestrel::addin

@@ -2,6 +2,8 @@
 
 #include "provider/Fixture.h"
 
+namespace kestrel::addin {
+
 namespace {
 
 using testing::ElementsAre;
@@ -94,3 +96,5 @@ TEST(TextOut, SurvivesAMissingAndAFailingSink) {
 }
 
 }  // namespace
+
+}  // namespace kestrel::addin

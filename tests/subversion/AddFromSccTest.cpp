@@ -7,6 +7,8 @@
 #include "Developer.h"
 #include "WindowControls.h"
 
+namespace kestrel::svnscc {
+
 using testing::ElementsAre;
 
 namespace {
@@ -144,3 +146,5 @@ TEST_F(Picking, OptionsTravelThroughTheClientsVariable) {
               library->SccCheckOut(ann.Context(), nullptr, 1, &name, "", 0, &variable));
   }
 }
+
+}  // namespace kestrel::svnscc

@@ -3,6 +3,8 @@
 
 #include "Developer.h"
 
+namespace kestrel::svnscc {
+
 using testing::HasSubstr;
 using testing::Not;
 
@@ -251,3 +253,5 @@ TEST_F(Files, OneRefusedFileDoesNotHoldUpTheOthers) {
   EXPECT_EQ((std::vector<scc::Long>{0, 1}), ann.Statuses({"new/bad.pas", "other/good.pas"}));
   EXPECT_EQ("1\n", ann.Read("new/bad.pas"));
 }
+
+}  // namespace kestrel::svnscc

@@ -6,6 +6,8 @@
 #include "Developer.h"
 #include "WindowControls.h"
 
+namespace kestrel::svnscc {
+
 using testing::HasSubstr;
 
 namespace {
@@ -108,3 +110,5 @@ TEST_F(RepositoryWindows, TellWhatThereIsToKnowOfAFile) {
       [&](wxDialog& dialog) { EXPECT_EQ("checked out here, changed here", Value(dialog, "State:")); });
   EXPECT_EQ(scc::SCC_OK, ann.Library()->SccProperties(ann.Context(), nullptr, ann.File("unit1.pas").c_str()));
 }
+
+}  // namespace kestrel::svnscc

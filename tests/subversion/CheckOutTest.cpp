@@ -8,6 +8,8 @@
 #include "subversion/project/OpenProject.h"
 #include "subversion/svn/Question.h"
 
+namespace kestrel::svnscc {
+
 using testing::HasSubstr;
 
 namespace {
@@ -297,3 +299,5 @@ TEST_F(CheckOut, QuickDifferencesNeedNoServer) {
   EXPECT_EQ(scc::SCC_E_FILENOTEXIST, ann.QuickDiff("unit1.pas"));
   EXPECT_EQ("", ann.Said());
 }
+
+}  // namespace kestrel::svnscc

@@ -9,6 +9,8 @@
 #include "subversion/project/OpenProject.h"
 #include "subversion/svn/CommandOptions.h"
 
+namespace kestrel::svnscc {
+
 using svnscc::CommandOptions;
 
 namespace {
@@ -105,3 +107,5 @@ TEST_F(OptionsAtWork, ChangeWhatTheCommandsDo) {
   options.GetRevision = 99;
   EXPECT_EQ(scc::SCC_E_NOSPECIFIEDVERSION, Run(svnscc::GetFiles, "free.pas", options));
 }
+
+}  // namespace kestrel::svnscc

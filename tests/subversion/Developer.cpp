@@ -5,8 +5,10 @@
 #include <array>
 #include <cstring>
 
-#include "host/System.h"
 #include "subversion/project/UsedRepositories.h"
+#include "system/System.h"
+
+namespace kestrel::svnscc {
 
 namespace {
 
@@ -67,7 +69,7 @@ TProviderLibrary::TProviderLibrary() {
   if (module_ == nullptr) throw std::runtime_error(error);
 #define SCC_ENTRY(variable, name, result, arguments) \
   entries_.variable = reinterpret_cast<decltype(entries_.variable)>(FindSymbol(module_, name));
-#include "provider/entry_points.def"
+#include "scc/entry_points.def"
 #undef SCC_ENTRY
 }
 
@@ -175,3 +177,5 @@ TPopulated TDeveloper::Populate(scc::SCCCommand command, const std::vector<std::
 }
 
 std::string TDeveloper::Said() const { return said; }
+
+}  // namespace kestrel::svnscc

@@ -6,17 +6,19 @@
 #include <vector>
 
 #include "TestRepository.h"
-#include "host/Library.h"
-#include "provider/sccdefs.h"
+#include "scc/sccdefs.h"
+#include "system/Library.h"
 
-namespace scc {
+namespace kestrel::scc {
 /// The exported names of one library, null where it lacks one.
 struct EntryPoints {
 #define SCC_ENTRY(variable, name, result, arguments) result(SCC_CALL* variable) arguments = nullptr;
-#include "provider/entry_points.def"
+#include "scc/entry_points.def"
 #undef SCC_ENTRY
 };
-}  // namespace scc
+}  // namespace kestrel::scc
+
+namespace kestrel::svnscc {
 
 /// The provider, loaded until the end of the scope.
 class TProviderLibrary {
@@ -24,7 +26,7 @@ class TProviderLibrary {
   TProviderLibrary();
   TProviderLibrary(const TProviderLibrary&) = delete;
   TProviderLibrary& operator=(const TProviderLibrary&) = delete;
-  ~TProviderLibrary() { FreeModule(module_); }
+  ~TProviderLibrary() { UnloadModule(module_); }
   const scc::EntryPoints* operator->() const { return &entries_; }
 
  private:
@@ -103,3 +105,5 @@ class TDeveloper {
   std::string folder_;
   std::string user_;
 };
+
+}  // namespace kestrel::svnscc

@@ -4,6 +4,8 @@
 #include "Developer.h"
 #include "WindowControls.h"
 
+namespace kestrel::svnscc {
+
 using testing::HasSubstr;
 
 namespace {
@@ -103,3 +105,5 @@ TEST_F(DiffWindow, RefusesWhatCannotBeCompared) {
   EXPECT_EQ(scc::SCC_E_FILENOTCONTROLLED, Diff("../elsewhere.pas"));
   EXPECT_EQ(scc::SCC_E_TYPENOTSUPPORTED, Diff(""));
 }
+
+}  // namespace kestrel::svnscc

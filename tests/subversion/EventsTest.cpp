@@ -3,6 +3,8 @@
 
 #include "Developer.h"
 
+namespace kestrel::svnscc {
+
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -124,3 +126,5 @@ TEST_F(Events, ACancelledCommandLeavesNoLockBehind) {
   EXPECT_EQ(scc::SCC_OK, ann.GetEverything()) << ann.Said();
   EXPECT_THAT(ann.Statuses(names), testing::Each(1));
 }
+
+}  // namespace kestrel::svnscc

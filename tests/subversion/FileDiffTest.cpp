@@ -6,10 +6,7 @@
 #include "common/text/FileDiff.h"
 #include "subversion/svn/Client.h"
 
-using svnscc::DiffKind;
-using svnscc::DiffOptions;
-using svnscc::FileDiff;
-using svnscc::LineEnds;
+namespace kestrel::svnscc {
 
 namespace {
 
@@ -42,7 +39,7 @@ struct Row {
 };
 
 struct FileDiffs : testing::TestWithParam<Row> {
-  void SetUp() override { svnscc::EnsureRuntime(); }
+  void SetUp() override { EnsureRuntime(); }
 };
 
 std::string Lines(int count, const std::function<std::string(int)>& line) {
@@ -92,7 +89,7 @@ INSTANTIATE_TEST_SUITE_P(
     });
 
 TEST(FileDiff, WalksFromDifferenceToDifference) {
-  svnscc::EnsureRuntime();
+  EnsureRuntime();
   FileDiff diff("1\nb\nc\n2\nd\n", "one\nb\nc\ntwo\nd\ne\n", kExact);
   EXPECT_THAT(diff.Differences(), testing::ElementsAre(0, 3, 5));
   EXPECT_EQ(3U, diff.Next(0));
@@ -107,7 +104,7 @@ TEST(FileDiff, WalksFromDifferenceToDifference) {
 
 TEST(FileDiff, ChangedPartsKeepCharactersWhole) {
   const auto parts = [](std::string left, std::string right) {
-    const auto [a, b] = svnscc::ChangedParts(left, right);
+    const auto [a, b] = ChangedParts(left, right);
     return left.substr(a.Start, a.Length) + "/" + right.substr(b.Start, b.Length);
   };
   EXPECT_EQ("old/new", parts("x := old;", "x := new;"));
@@ -119,7 +116,7 @@ TEST(FileDiff, ChangedPartsKeepCharactersWhole) {
 
 // The bound is on work: a quadratic comparison of these would not come back.
 TEST(FileDiff, HandlesTheLongestFiles) {
-  svnscc::EnsureRuntime();
+  EnsureRuntime();
   constexpr int kCount = 65536;
   std::mt19937 random(1);
   const auto mixed = [&](int) {
@@ -134,3 +131,5 @@ TEST(FileDiff, HandlesTheLongestFiles) {
   EXPECT_GE(reversed.Rows().size(), std::size_t{kCount});
   EXPECT_TRUE(FileDiff(left, left, kNoSpace).Same());
 }
+
+}  // namespace kestrel::svnscc

@@ -6,12 +6,14 @@
 #include "subversion/project/OpenProject.h"
 #include "subversion/svn/History.h"
 
+namespace kestrel::svnscc {
+
 using testing::ElementsAre;
 
 namespace {
 
-struct History : testing::Test {
-  History() {
+struct FileHistory : testing::Test {
+  FileHistory() {
     ann.Open(repository.Url(), "project");
     ann.Write("unit1.pas", "1\n");
     ann.Add({"unit1.pas"}, "first");
@@ -27,7 +29,7 @@ struct History : testing::Test {
     svnscc::OpenProject(session, names, {});
     return session;
   }
-  static std::vector<svn_revnum_t> Numbers(const svnscc::History& history) {
+  static std::vector<svn_revnum_t> Numbers(const History& history) {
     std::vector<svn_revnum_t> numbers;
     for (const auto& revision : history.Revisions()) numbers.push_back(revision.Number);
     return numbers;
@@ -39,8 +41,8 @@ struct History : testing::Test {
 
 }  // namespace
 
-TEST_F(History, LoadsPageByPageNewestFirst) {
-  svnscc::History history(Opened().Svn(), ann.File("unit1.pas"), 2);
+TEST_F(FileHistory, LoadsPageByPageNewestFirst) {
+  History history(Opened().Svn(), ann.File("unit1.pas"), 2);
   history.LoadMore();
   EXPECT_THAT(Numbers(history), ElementsAre(4, 3));
   EXPECT_TRUE(history.HasMore());
@@ -53,22 +55,22 @@ TEST_F(History, LoadsPageByPageNewestFirst) {
   EXPECT_EQ("first", history.Revisions().back().Comment);
 }
 
-TEST_F(History, KnowsWhatOthersDid) {
+TEST_F(FileHistory, KnowsWhatOthersDid) {
   TDeveloper bob("bob");
   bob.Open(repository.Url(), "project");
   bob.CheckOut({"unit1.pas"});
   bob.Write("unit1.pas", "4\n");
   bob.CheckIn({"unit1.pas"});
-  svnscc::History history(Opened().Svn(), ann.File("unit1.pas"));
+  History history(Opened().Svn(), ann.File("unit1.pas"));
   history.LoadMore();
   EXPECT_THAT(Numbers(history), ElementsAre(5, 4, 3, 2));
   bob.Remove({"unit1.pas"});
-  svnscc::History removed(Opened().Svn(), ann.File("unit1.pas"));
+  History removed(Opened().Svn(), ann.File("unit1.pas"));
   removed.LoadMore();
   EXPECT_THAT(Numbers(removed), ElementsAre(4, 3, 2));
 }
 
-TEST_F(History, GetsARevisionOfAFileThatIsNotCheckedOut) {
+TEST_F(FileHistory, GetsARevisionOfAFileThatIsNotCheckedOut) {
   EXPECT_EQ("", svnscc::GetRevision(Opened(), ann.File("unit1.pas"), 2).Copy);
   session.Close();
   EXPECT_EQ("1\n", ann.Read("unit1.pas"));
@@ -76,7 +78,7 @@ TEST_F(History, GetsARevisionOfAFileThatIsNotCheckedOut) {
   EXPECT_EQ(0x21, ann.Status("unit1.pas"));
 }
 
-TEST_F(History, GetsARevisionAsAnEditAndKeepsWhatWasEdited) {
+TEST_F(FileHistory, GetsARevisionAsAnEditAndKeepsWhatWasEdited) {
   ann.CheckOut({"unit1.pas"});
   ann.Write("unit1.pas", "mine\n");
   EXPECT_EQ(ann.File("unit1.pas.mine"), svnscc::GetRevision(Opened(), ann.File("unit1.pas"), 2).Copy);
@@ -87,3 +89,5 @@ TEST_F(History, GetsARevisionAsAnEditAndKeepsWhatWasEdited) {
   EXPECT_EQ(scc::SCC_OK, ann.CheckIn({"unit1.pas"}, "back")) << ann.Said();
   EXPECT_EQ("2\n", repository.Contents("project/unit1.pas"));
 }
+
+}  // namespace kestrel::svnscc

@@ -5,6 +5,8 @@
 #include "Developer.h"
 #include "WindowControls.h"
 
+namespace kestrel::svnscc {
+
 using testing::HasSubstr;
 
 namespace {
@@ -84,3 +86,5 @@ TEST_F(HistoryWindow, FoldersHaveAHistoryToo) {
   EXPECT_EQ(scc::SCC_OK, Show(""));
   EXPECT_EQ(scc::SCC_E_FILENOTCONTROLLED, Show("new.pas"));
 }
+
+}  // namespace kestrel::svnscc

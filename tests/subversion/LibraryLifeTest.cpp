@@ -8,10 +8,12 @@
 
 #include "Developer.h"
 
+namespace kestrel::svnscc {
+
 TEST(Library, ExportsEveryEntryPointAndSaysWhatItCan) {
   const TProviderLibrary library;
 #define SCC_ENTRY(variable, name, result, arguments) EXPECT_NE(nullptr, library->variable) << name;
-#include "provider/entry_points.def"
+#include "scc/entry_points.def"
 #undef SCC_ENTRY
   EXPECT_EQ(0x00010001, library->SccGetVersion());
 
@@ -105,3 +107,5 @@ TEST(Library, AllowsItsSessionToGoWhenTheProcessEnds) {
   };
   EXPECT_EXIT(work(), testing::ExitedWithCode(0), "");
 }
+
+}  // namespace kestrel::svnscc

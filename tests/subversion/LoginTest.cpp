@@ -5,6 +5,8 @@
 #include "Server.h"
 #include "WindowControls.h"
 
+namespace kestrel::svnscc {
+
 using testing::HasSubstr;
 
 namespace {
@@ -53,3 +55,5 @@ TEST_F(Logins, MayBeAnotherUsers) {
   EXPECT_EQ(scc::SCC_OK, ann.Add({"unit1.pas"}, "", scc::SCC_KEEP_CHECKEDOUT)) << ann.Said();
   EXPECT_EQ(0x100B, ann.Status("unit1.pas")) << "out here, to whoever logged in";
 }
+
+}  // namespace kestrel::svnscc

@@ -9,12 +9,14 @@
 
 #include "Developer.h"
 #include "Server.h"
-#include "host/System.h"
 #include "subversion/commands/Commands.h"
 #include "subversion/project/OpenProject.h"
 #include "subversion/svn/Question.h"
 #include "subversion/svn/Repository.h"
 #include "support/PlainUser.h"
+#include "system/System.h"
+
+namespace kestrel::svnscc {
 
 using testing::HasSubstr;
 
@@ -334,3 +336,5 @@ TEST_F(OpenProject, AHookThatRefusesTheUserIsReported) {
   EXPECT_EQ(scc::SCC_E_NOTAUTHORIZED, ann.Open(repository.Url(), "project"));
   EXPECT_EQ(scc::SCC_E_PROJNOTOPEN, ann.Close());
 }
+
+}  // namespace kestrel::svnscc

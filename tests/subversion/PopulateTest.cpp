@@ -3,6 +3,8 @@
 
 #include "Developer.h"
 
+namespace kestrel::svnscc {
+
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::Pair;
@@ -90,3 +92,5 @@ TEST_F(Populate, StopsWhenTheClientHasEnough) {
                                                         refuse, &calls, nullptr, 0));
   EXPECT_EQ(1, calls);
 }
+
+}  // namespace kestrel::svnscc

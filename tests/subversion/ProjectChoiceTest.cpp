@@ -6,6 +6,8 @@
 #include "subversion/project/RecentRepositories.h"
 #include "subversion/svn/Repository.h"
 
+namespace kestrel::svnscc {
+
 using svnscc::ProjectChoice;
 using svnscc::ProjectRequest;
 using testing::ElementsAre;
@@ -127,3 +129,5 @@ TEST_F(Choice, ProposesWhatWasThereBefore) {
   here.LocalFolder = ann.Folder();
   EXPECT_EQ(repository.Url() + "/trunk/app one", ProjectChoice(here).ProposedRepository());
 }
+
+}  // namespace kestrel::svnscc

@@ -10,6 +10,8 @@
 #include "subversion/svn/Repository.h"
 #include "support/ModalScript.h"
 
+namespace kestrel::svnscc {
+
 namespace {
 
 /// What SccGetProjPath was given and gave back.
@@ -185,3 +187,5 @@ TEST_F(ProjectDialog, AsksBeforeAProjectUsesARepositoryForTheFirstTime) {
   TDeveloper carla("carla");
   EXPECT_EQ(scc::SCC_E_OPNOTPERFORMED, carla.OpenMapped(url, "somewhere else"));
 }
+
+}  // namespace kestrel::svnscc

@@ -8,7 +8,9 @@
 #include <sstream>
 #include <stdexcept>
 
-#include "host/System.h"
+#include "system/System.h"
+
+namespace kestrel::svnscc {
 
 namespace {
 
@@ -415,3 +417,5 @@ void TRandomWork::Require(bool holds, const std::string& what) {
   for (std::size_t i = story_.size() - last; i < story_.size(); ++i) text += story_[i] + "\n";
   throw std::runtime_error(text);
 }
+
+}  // namespace kestrel::svnscc

@@ -9,6 +9,8 @@
 
 #include "Developer.h"
 
+namespace kestrel::svnscc {
+
 class TRandomWork {
  public:
   explicit TRandomWork(unsigned seed);
@@ -62,3 +64,5 @@ class TRandomWork {
   Tokens stored_;  // in any revision
   std::vector<std::string> story_;
 };
+
+}  // namespace kestrel::svnscc

@@ -3,6 +3,8 @@
 
 #include "RandomWork.h"
 
+namespace kestrel::svnscc {
+
 TEST(RandomWork, LosesNothingAndEndsNowhere) {
   for (unsigned seed = 1; seed <= 20; ++seed) {
     SCOPED_TRACE(seed);
@@ -10,3 +12,5 @@ TEST(RandomWork, LosesNothingAndEndsNowhere) {
     ASSERT_NO_THROW(work.Run(100));
   }
 }
+
+}  // namespace kestrel::svnscc

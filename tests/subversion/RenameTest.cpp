@@ -2,7 +2,9 @@
 #include <gmock/gmock.h>
 
 #include "Developer.h"
-#include "host/System.h"
+#include "system/System.h"
+
+namespace kestrel::svnscc {
 
 using testing::HasSubstr;
 
@@ -96,3 +98,5 @@ TEST_F(Rename, RefusedRenamesChangeNothing) {
   EXPECT_EQ((std::vector<scc::Long>{0x180B, 0, 0}), ann.Statuses({"old.pas", "sub/x.pas", "new.pas"}));
   EXPECT_EQ("not added\n", ann.Read("new.pas"));
 }
+
+}  // namespace kestrel::svnscc

@@ -16,6 +16,8 @@
 
 #include "TestRepository.h"
 
+namespace kestrel::svnscc {
+
 /// svnserve on the loopback interface: nobody gets in without a password.
 class TServer {
  public:
@@ -72,3 +74,5 @@ class TServer {
   std::string port_;
   pid_t pid_ = 0;
 };
+
+}  // namespace kestrel::svnscc

@@ -5,6 +5,8 @@
 
 #include "Developer.h"
 
+namespace kestrel::svnscc {
+
 using testing::Each;
 using testing::HasSubstr;
 
@@ -132,3 +134,5 @@ TEST_F(Status, ManyFilesAreAnsweredInOneQuery) {
     names.push_back("d" + std::to_string(i % 100) + "/unit" + std::to_string(i) + ".pas");
   EXPECT_THAT(ann.Statuses(names), Each(0));
 }
+
+}  // namespace kestrel::svnscc

@@ -10,6 +10,8 @@
 #include "subversion/svn/Client.h"
 #include "subversion/svn/Repository.h"
 
+namespace kestrel::svnscc {
+
 using svnscc::Check;
 using svnscc::Pool;
 
@@ -118,3 +120,5 @@ void TTestRepository::WriteHook(const std::string& name, const std::string& scri
   const std::string file = temporary_.Write("repository/hooks/" + name, "#!/bin/sh\n" + script);
   std::filesystem::permissions(file, std::filesystem::perms::owner_all);
 }
+
+}  // namespace kestrel::svnscc

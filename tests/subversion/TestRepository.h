@@ -9,6 +9,8 @@
 #include "support/Environment.h"
 #include "support/TemporaryFolder.h"
 
+namespace kestrel::svnscc {
+
 /// The provider, or the library that stands for it in a run of the tests through a process of its own.
 std::string SubversionLibrary();
 
@@ -44,3 +46,5 @@ class TTestRepository {
   std::string folder_;
   std::string url_;
 };
+
+}  // namespace kestrel::svnscc

@@ -10,6 +10,8 @@
 
 #include "support/ModalScript.h"
 
+namespace kestrel::svnscc {
+
 template <class TControl>
 TControl* Find(wxWindow& window, const char* name) {
   auto* control = dynamic_cast<TControl*>(wxWindow::FindWindowByName(name, &window));
@@ -43,3 +45,5 @@ inline std::string Message(wxWindow& window) {
 inline std::string TextIn(wxWindow& window, const char* name) {
   return Find<wxStyledTextCtrl>(window, name)->GetText().utf8_string();
 }
+
+}  // namespace kestrel::svnscc

@@ -4,7 +4,9 @@
 #include <array>
 #include <cstdio>
 
-#include "provider/sccdefs.h"
+#include "scc/sccdefs.h"
+
+using namespace kestrel;
 
 int main(int argc, char** argv) {
   void* library = argc == 2 ? dlopen(argv[1], RTLD_NOW | RTLD_LOCAL) : nullptr;

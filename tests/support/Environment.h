@@ -5,6 +5,8 @@
 #include <optional>
 #include <string>
 
+namespace kestrel {
+
 /// Sets a variable of the process's environment; nullptr removes it.
 void SetEnvironment(const char* name, const char* value);
 
@@ -25,3 +27,5 @@ class TEnvironmentVariable {
   const char* name_;
   std::optional<std::string> before_;
 };
+
+}  // namespace kestrel

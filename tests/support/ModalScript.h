@@ -16,6 +16,8 @@
 #include <string>
 #include <typeinfo>
 
+namespace kestrel {
+
 /// Presses a button as the user can: only one that is there and enabled.
 inline void Click(wxButton* button) {
   EXPECT_TRUE(button->IsShown() && button->IsEnabled())
@@ -83,9 +85,12 @@ int ShowAndPlay(TForm& form, std::function<void(TForm&)> user) {
   form.CallAfter([&] {
     form.SetReturnCode(wxID_NONE);
     user(form);
-    if (form.GetReturnCode() != wxID_NONE) return;  // ended; how long it counts as modal depends on the toolkit
+    if (form.GetReturnCode() != wxID_NONE)
+      return;  // ended; how long it counts as modal depends on the toolkit
     ADD_FAILURE() << "\"" << form.GetTitle().utf8_string() << "\" is still open";
     form.EndModal(wxID_NONE);
   });
   return form.ShowModal();
 }
+
+}  // namespace kestrel

@@ -4,7 +4,9 @@
 #include <algorithm>
 #include <string>
 
-#include "host/Paths.h"
+#include "system/Paths.h"
+
+namespace kestrel {
 
 /// The path with the platform's delimiters.
 inline std::string Native(std::string path) {
@@ -17,3 +19,5 @@ inline std::string WithoutReturns(std::string text) {
   std::erase(text, '\r');
   return text;
 }
+
+}  // namespace kestrel

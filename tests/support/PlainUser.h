@@ -1,6 +1,8 @@
 // A user for whom files can be unreadable.
 #pragma once
 
+namespace kestrel {
+
 /// While it lives, a process of the superuser is nobody's, as far as files go; others stay who they are.
 class TPlainUser {
  public:
@@ -12,3 +14,5 @@ class TPlainUser {
  private:
   bool changed_ = false;
 };
+
+}  // namespace kestrel

@@ -15,6 +15,8 @@
 #include <unistd.h>
 #endif
 
+namespace kestrel {
+
 namespace {
 
 using TText = scc::TTextOutProc;
@@ -98,3 +100,5 @@ void CommitFault(const std::string& entry, TText textOut) {
   for (const auto& row : kFaults)
     if (fault == row.Name) row.Commit(textOut);
 }
+
+}  // namespace kestrel

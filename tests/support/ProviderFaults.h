@@ -3,8 +3,12 @@
 
 #include <string>
 
-#include "provider/sccdefs.h"
+#include "scc/sccdefs.h"
+
+namespace kestrel {
 
 /// Does what the file that SCRIPTED_FAULTS names says: one line, "ENTRY FAULT".  Called at the beginning of every entry
 /// point.  The file goes first, so that the next call is spared.
 void CommitFault(const std::string& entry, scc::TTextOutProc textOut);
+
+}  // namespace kestrel

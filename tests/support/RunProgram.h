@@ -4,6 +4,8 @@
 #include <string>
 #include <vector>
 
+namespace kestrel {
+
 struct TProgramResult {
   int Status;  ///< its exit code
   std::string Output, Errors;
@@ -11,3 +13,5 @@ struct TProgramResult {
 
 /// `arguments` reach the program as they are, whatever characters they hold.
 TProgramResult RunProgram(const std::string& program, const std::vector<std::string>& arguments);
+
+}  // namespace kestrel

@@ -1,5 +1,7 @@
 #include "support/ScriptedForms.h"
 
+namespace kestrel::addin {
+
 namespace {
 
 class TScriptedWindow final : public IMessageWindow {
@@ -96,3 +98,5 @@ std::string TScriptedForms::ShowPullProject(TCommandContext& context) {
 std::unique_ptr<IProgress> TScriptedForms::StartProgress(const std::string& caption, std::size_t total) {
   return std::make_unique<TScriptedProgress>(*this, caption, total);
 }
+
+}  // namespace kestrel::addin

@@ -9,6 +9,8 @@
 
 #include "expert/ExpertUi.h"
 
+namespace kestrel::addin {
+
 struct TShownBox {
   std::string Title;
   std::string Text;
@@ -56,3 +58,5 @@ class TScriptedForms final : public IExpertUi {
   /// to do, then each file with how many were done.
   std::vector<std::string> Progress;
 };
+
+}  // namespace kestrel::addin

@@ -4,6 +4,8 @@
 
 #include "host/Errors.h"
 
+namespace kestrel::addin {
+
 void* TScriptedModule::QueryInterface(const TGuid& iid) noexcept {
   switch (ModuleKind) {
     case Kind::Unit:
@@ -119,3 +121,5 @@ bool TScriptedHost::ReloadFile(const std::string& fileName) {
   if (!ReloadError.empty()) throw std::runtime_error(ReloadError);
   return Did("ReloadFile", fileName);
 }
+
+}  // namespace kestrel::addin

@@ -17,7 +17,9 @@
 #include "host/Menus.h"
 #include "host/Options.h"
 #include "host/Services.h"
-#include "host/Text.h"
+#include "system/Text.h"
+
+namespace kestrel::addin {
 
 /// An editor, and the view and buffer of a source editor.
 class TScriptedEditor : public IOTASourceEditor, public IOTAFormEditor {
@@ -52,7 +54,7 @@ class TScriptedModule : public IOTAProject, public IOTAProjectGroup {
   int GetEditorCount() override { return static_cast<int>(Editors.size()); }
   IOTAEditor* GetEditor(int index) override;
   int GetModuleCount() override { return static_cast<int>(Modules.size()); }
-  std::string GetModuleFileName(int index) override { return Modules[static_cast<std::size_t>(index)]; }
+  std::string ModuleFileName(int index) override { return Modules[static_cast<std::size_t>(index)]; }
   IOTAProject* GetActiveProject() override { return Active; }
 
   std::string FileName;
@@ -161,3 +163,5 @@ class TScriptedHost final : public IOTAServices,
   TEvent<> main_form_created_;
   int next_ = 0;
 };
+
+}  // namespace kestrel::addin

@@ -19,8 +19,10 @@
 #include <unordered_map>
 #include <vector>
 
-#include "host/Library.h"
-#include "provider/sccdefs.h"
+#include "scc/sccdefs.h"
+#include "system/Library.h"
+
+namespace kestrel {
 
 /// One call as it arrived.  Fields that the entry point does not have stay empty.
 struct ScriptedCall {
@@ -136,7 +138,7 @@ class ScriptedProviderLibrary {
   }
   ~ScriptedProviderLibrary() {
     *provider_ = {};  // nothing of the test program stays in the library
-    FreeModule(module_);
+    UnloadModule(module_);
   }
   ScriptedProviderLibrary(const ScriptedProviderLibrary&) = delete;
   ScriptedProviderLibrary& operator=(const ScriptedProviderLibrary&) = delete;
@@ -149,3 +151,5 @@ class ScriptedProviderLibrary {
   TModuleHandle module_ = nullptr;
   ScriptedProvider* provider_ = nullptr;
 };
+
+}  // namespace kestrel

@@ -5,8 +5,10 @@
 #include <random>
 #include <string>
 
-#include "host/FileName.h"
-#include "host/System.h"
+#include "system/FileName.h"
+#include "system/System.h"
+
+namespace kestrel {
 
 class TTemporaryFolder {
  public:
@@ -43,3 +45,5 @@ class TTemporaryFolder {
  private:
   std::string path_;
 };
+
+}  // namespace kestrel

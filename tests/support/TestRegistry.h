@@ -3,6 +3,8 @@
 
 #include <memory>
 
+namespace kestrel {
+
 class TTestRegistry {
  public:
   TTestRegistry();
@@ -14,3 +16,5 @@ class TTestRegistry {
   struct TImpl;
   std::unique_ptr<TImpl> impl_;
 };
+
+}  // namespace kestrel

@@ -1,5 +1,5 @@
 // A library that is no provider at all.
-#include "provider/sccdefs.h"
+#include "scc/sccdefs.h"
 
 extern "C" SCC_EXPORT int NotAProvider();
 int NotAProvider() { return 0; }

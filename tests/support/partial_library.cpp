@@ -1,9 +1,9 @@
 // A provider that lacks most entry points, gives no name, writes behind its name buffer and computes in a way of its own.
 #include <cfenv>
 
-#include "provider/sccdefs.h"
+#include "scc/sccdefs.h"
 
-using namespace scc;
+using namespace kestrel::scc;
 
 extern "C" {
 SCC_EXPORT Long SCC_CALL SccInitialize(void** context, WindowHandle window, const char* caller, char* sccName,

@@ -8,6 +8,8 @@
 #include "support/ProviderFaults.h"
 #include "support/ScriptedProvider.h"
 
+namespace kestrel {
+
 using namespace scc;
 
 // Declared from the table that the client binds by, so that a wrong signature does not compile.  The one variable that
@@ -15,7 +17,7 @@ using namespace scc;
 #define SccCheckOut SccCheckout
 extern "C" {
 #define SCC_ENTRY(variable, name, result, arguments) SCC_EXPORT result SCC_CALL variable arguments;
-#include "provider/entry_points.def"
+#include "scc/entry_points.def"
 #undef SCC_ENTRY
 SCC_EXPORT ScriptedProvider* ScriptedProviderControl();
 }
@@ -302,3 +304,5 @@ Long SCC_CALL SccAddFromScc(void* context, WindowHandle window, Long* count, con
   *names = nullptr;
   return Play(Called("SccAddFromScc", context, window));
 }
+
+}  // namespace kestrel

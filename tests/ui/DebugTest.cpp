@@ -3,6 +3,8 @@
 #include "support/ModalScript.h"
 #include "ui/Debug.h"
 
+namespace kestrel::addin {
+
 namespace {
 
 TEST(DebugWindow, LivesFromCreationToFreeing) {
@@ -25,3 +27,5 @@ TEST(DebugWindow, LivesFromCreationToFreeing) {
 }
 
 }  // namespace
+
+}  // namespace kestrel::addin

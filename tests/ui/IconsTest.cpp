@@ -4,6 +4,8 @@
 #include "ui/Icons.h"
 #include "ui/MenuImages.h"
 
+namespace kestrel::addin {
+
 namespace {
 
 wxImage Draw(const std::string& svg, int size, int pixels) {
@@ -41,3 +43,5 @@ TEST(MenuImages, AreDrawnWithinTheirField) {
 }
 
 }  // namespace
+
+}  // namespace kestrel::addin

@@ -1,8 +1,10 @@
 #include <gtest/gtest.h>
 
-#include "host/WxText.h"
 #include "support/ModalScript.h"
+#include "toolkit/WxText.h"
 #include "ui/MsgDialog.h"
+
+namespace kestrel::addin {
 
 namespace {
 
@@ -69,3 +71,5 @@ TEST(ShowMsgDialog, ShowsOneDialogAndFreesIt) {
 }
 
 }  // namespace
+
+}  // namespace kestrel::addin

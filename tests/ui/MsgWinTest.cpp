@@ -1,9 +1,11 @@
 #include <gmock/gmock.h>
 #include <wx/clipbrd.h>
 
-#include "host/WxText.h"
 #include "support/ModalScript.h"
+#include "toolkit/WxText.h"
 #include "ui/MsgWin.h"
+
+namespace kestrel::addin {
 
 using testing::HasSubstr;
 using testing::MatchesRegex;
@@ -132,3 +134,5 @@ TEST_F(MessageWindow, ClearsItsVariableWhenItGoes) {
 }
 
 }  // namespace
+
+}  // namespace kestrel::addin

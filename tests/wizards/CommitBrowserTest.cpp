@@ -2,10 +2,12 @@
 #include <wx/notebook.h>
 
 #include "expert/ExpertFixture.h"
-#include "host/WxText.h"
 #include "support/ModalScript.h"
+#include "toolkit/WxText.h"
 #include "wizards/CommitBrowser.h"
 #include "wizards/CommitGrid.h"
+
+namespace kestrel::addin {
 
 namespace {
 
@@ -359,3 +361,5 @@ TEST_F(CommitBrowser, KeepsItsMinimumAndItsColumnsEqual) {
 }
 
 }  // namespace
+
+}  // namespace kestrel::addin

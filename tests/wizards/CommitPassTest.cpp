@@ -1,9 +1,11 @@
 // The commit browser's pass over its rows.
 #include "expert/ExpertFixture.h"
-#include "host/Paths.h"
-#include "host/System.h"
 #include "support/NativePath.h"
+#include "system/Paths.h"
+#include "system/System.h"
 #include "wizards/CommitPass.h"
+
+namespace kestrel::addin {
 
 namespace {
 
@@ -145,8 +147,9 @@ TEST_F(CommitPass, IsRefusedWithoutAProviderProjectBeforeAnythingIsTouched) {
   auto& expert = Start();
   SetFileAttributesOf(At("unit1.pas"), faReadOnly);
   const auto abort = [&] {
-    return AbortOf(
-        [&] { CommitRows(expert.Context(), {Row("unit1.pas", caNone)}, {}, std::make_unique<TSteps>(steps_)); });
+    return AbortOf([&] {
+      CommitRows(expert.Context(), {Row("unit1.pas", caNone)}, {}, std::make_unique<TSteps>(steps_));
+    });
   };
   EXPECT_EQ(abort(), "Unable to run Commit Browser, provider not assigned");
   ASSERT_TRUE(expert.ProviderCreate(0));
@@ -167,3 +170,5 @@ TEST_F(CommitPass, AProjectThatTheHostClosesMeanwhileFailsTheRowsThatAreLeft) {
 }
 
 }  // namespace
+
+}  // namespace kestrel::addin

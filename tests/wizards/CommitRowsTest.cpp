@@ -1,8 +1,10 @@
 // What the commit browser lists and proposes.
 #include "expert/ExpertFixture.h"
-#include "host/Paths.h"
 #include "support/NativePath.h"
+#include "system/Paths.h"
 #include "wizards/CommitRows.h"
+
+namespace kestrel::addin {
 
 namespace {
 
@@ -128,7 +130,8 @@ TEST_F(CommitRowsOf, AreRefusedWithoutAProviderProject) {
   EXPECT_EQ(AbortOf([&] { GatherCommitRows(expert.Context()); }),
             "Unable to run Commit Browser, provider not assigned");
   ASSERT_TRUE(expert.ProviderCreate(0));
-  EXPECT_EQ(AbortOf([&] { GatherCommitRows(expert.Context()); }), "Unable to set current project, no matching path");
+  EXPECT_EQ(AbortOf([&] { GatherCommitRows(expert.Context()); }),
+            "Unable to set current project, no matching path");
   EXPECT_EQ(provider_->Count("SccPopulateList"), 0);
 }
 
@@ -149,3 +152,5 @@ TEST_F(CommitRowsOf, AProviderThatFloodsTheListIsRefused) {
 }
 
 }  // namespace
+
+}  // namespace kestrel::addin

@@ -3,10 +3,12 @@
 #include <algorithm>
 #include <filesystem>
 
-#include "host/Paths.h"
 #include "support/PlainUser.h"
 #include "support/TemporaryFolder.h"
+#include "system/Paths.h"
 #include "wizards/FileSearch.h"
+
+namespace kestrel::addin {
 
 using testing::ElementsAre;
 using testing::UnorderedElementsAre;
@@ -106,3 +108,5 @@ TEST_F(FileSearch, ListsLinksAndDoesNotEnterThem) {
 }
 
 }  // namespace
+
+}  // namespace kestrel::addin

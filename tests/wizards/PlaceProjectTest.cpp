@@ -2,9 +2,11 @@
 #include <filesystem>
 
 #include "expert/ExpertFixture.h"
-#include "host/System.h"
 #include "support/NativePath.h"
+#include "system/System.h"
 #include "wizards/PlaceProjectPages.h"
+
+namespace kestrel::addin {
 
 namespace {
 
@@ -245,3 +247,5 @@ TEST_F(PlaceProject, HostThatClosesTheProjectMeanwhileEndsItInWords) {
 }
 
 }  // namespace
+
+}  // namespace kestrel::addin

@@ -3,9 +3,11 @@
 #include <map>
 
 #include "expert/ExpertFixture.h"
-#include "host/System.h"
 #include "support/NativePath.h"
+#include "system/System.h"
 #include "wizards/PullProjectPages.h"
+
+namespace kestrel::addin {
 
 namespace {
 
@@ -192,3 +194,5 @@ TEST_F(PullProject, ProviderMayRedirectTheTarget) {
 }
 
 }  // namespace
+
+}  // namespace kestrel::addin

@@ -4,10 +4,12 @@
 #include <filesystem>
 
 #include "expert/ExpertFixture.h"
-#include "host/WxText.h"
 #include "support/ModalScript.h"
+#include "toolkit/WxText.h"
 #include "wizards/PlaceProjectWizard.h"
 #include "wizards/PullProjectWizard.h"
+
+namespace kestrel::addin {
 
 namespace {
 
@@ -128,3 +130,5 @@ TEST_F(WizardWindows, FailureIsShownOnThePageAndEscapeLeaves) {
 }
 
 }  // namespace
+
+}  // namespace kestrel::addin

@@ -3,6 +3,8 @@
 
 #include "workbench/model/CommandLine.h"
 
+namespace kestrel::workbench {
+
 namespace {
 
 using testing::ElementsAre;
@@ -33,3 +35,5 @@ TEST(CommandLine, SaysWhatIsWrong) {
 }
 
 }  // namespace
+
+}  // namespace kestrel::workbench

@@ -9,7 +9,9 @@
 
 #include <stdexcept>
 
-#include "host/Paths.h"
+#include "system/Paths.h"
+
+namespace kestrel::workbench {
 
 namespace {
 
@@ -70,3 +72,5 @@ TCrewChoice AskCrew(const std::vector<std::string>& files) {
   const bool accepted = dialog.ShowModal() == wxID_OK;
   return {accepted, list->Ticked(), comment->GetValue().utf8_string()};
 }
+
+}  // namespace kestrel::workbench

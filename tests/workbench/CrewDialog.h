@@ -6,6 +6,8 @@
 
 class wxWindow;
 
+namespace kestrel::workbench {
+
 struct TCrewChoice {
   bool Accepted = false;
   std::vector<std::string> Files;
@@ -13,3 +15,5 @@ struct TCrewChoice {
 };
 
 TCrewChoice AskCrew(const std::vector<std::string>& files);
+
+}  // namespace kestrel::workbench

@@ -16,9 +16,11 @@
 #include "host/Errors.h"
 #include "host/Menus.h"
 #include "host/Options.h"
-#include "host/Paths.h"
 #include "host/Services.h"
-#include "host/System.h"
+#include "system/Paths.h"
+#include "system/System.h"
+
+namespace kestrel::workbench {
 
 namespace {
 
@@ -183,7 +185,7 @@ class TCrewMenu {
   void CheckOut() {
     std::vector<std::string> files;
     IOTAProject* project = Project();
-    for (int i = 0; i < project->GetModuleCount(); ++i) files.push_back(project->GetModuleFileName(i));
+    for (int i = 0; i < project->GetModuleCount(); ++i) files.push_back(project->ModuleFileName(i));
     const auto choice = AskCrew(files);
     Log(std::string(choice.Accepted ? "accepted" : "cancelled") + ", comment " + choice.Comment);
     if (!choice.Accepted) return;
@@ -244,3 +246,5 @@ void Finalize() {
   Log("finalize");
 }
 }
+
+}  // namespace kestrel::workbench

@@ -3,6 +3,8 @@
 
 #include "workbench/macro/MacroParser.h"
 
+namespace kestrel::workbench {
+
 namespace {
 
 using testing::ElementsAre;
@@ -56,3 +58,5 @@ TEST(MacroParser, ListsTheVerbsInTheirOrder) {
 }
 
 }  // namespace
+
+}  // namespace kestrel::workbench

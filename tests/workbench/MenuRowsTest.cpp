@@ -4,6 +4,8 @@
 
 #include "workbench/model/MenuRows.h"
 
+namespace kestrel::workbench {
+
 namespace {
 
 /// Items from a picture: a letter is an item, '-' a separator, '.' makes the one before it invisible.
@@ -43,3 +45,5 @@ TEST(MenuRows, HideAnItemWhoseActionIsHidden) {
 }
 
 }  // namespace
+
+}  // namespace kestrel::workbench

@@ -3,6 +3,8 @@
 #include "support/TemporaryFolder.h"
 #include "workbench/model/ModuleIndex.h"
 
+namespace kestrel::workbench {
+
 namespace {
 
 const TPackageGuard guard([](const std::string&) {});
@@ -35,3 +37,5 @@ TEST(ModuleIndex, KeepsTheOrderOfOpening) {
 }
 
 }  // namespace
+
+}  // namespace kestrel::workbench

@@ -4,6 +4,8 @@
 #include "host/Errors.h"
 #include "workbench/model/Notifications.h"
 
+namespace kestrel::workbench {
+
 namespace {
 
 using testing::ElementsAre;
@@ -36,3 +38,5 @@ TEST(Registrations, VisitThoseThatAreStillThereWhenTheirTurnComes) {
 }
 
 }  // namespace
+
+}  // namespace kestrel::workbench

@@ -4,6 +4,8 @@
 #include "support/NativePath.h"
 #include "workbench/model/ProjectFile.h"
 
+namespace kestrel::workbench {
+
 namespace {
 
 using testing::ElementsAre;
@@ -74,3 +76,5 @@ TEST(ProjectFile, HoldsTheLargestProject) {
 }
 
 }  // namespace
+
+}  // namespace kestrel::workbench

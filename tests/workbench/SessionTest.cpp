@@ -4,11 +4,13 @@
 
 #include <filesystem>
 
-#include "host/Paths.h"
 #include "support/NativePath.h"
 #include "support/TemporaryFolder.h"
+#include "system/Paths.h"
 #include "workbench/model/Session.h"
 #include "workbench/model/SessionServices.h"
+
+namespace kestrel::workbench {
 
 namespace {
 
@@ -132,8 +134,8 @@ TEST_F(Session, OpensAGroupWithItsProjectsAndSaysWhichIsMissing) {
   EXPECT_EQ(session_.ActiveProject(), &Project("B.qvxproj"));
   EXPECT_THAT(listener_->Take(), ElementsAre("1 G.qvxgroup", "1 A.qvxproj", "1 B.qvxproj"));
   EXPECT_THAT(lines_, ElementsAre(HasSubstr(Native("gone/C.qvxproj") + " does not exist")));
-  EXPECT_EQ(Project("A.qvxproj").GetModuleFileName(2), Path("tool.dll"));
-  EXPECT_EQ(Project("A.qvxproj").GetModuleFileName(3), "");
+  EXPECT_EQ(Project("A.qvxproj").ModuleFileName(2), Path("tool.dll"));
+  EXPECT_EQ(Project("A.qvxproj").ModuleFileName(3), "");
 }
 
 TEST_F(Session, PutsALoneProjectIntoAGroupInMemory) {
@@ -255,7 +257,7 @@ TEST_F(Session, TakesOverWhatOtherProgramsDid) {
   SetFileAttributesOf(Path("A1.pas"), faReadOnly);
   std::filesystem::remove(Path("A2.pas"));
   session_.CheckDisk();
-  EXPECT_EQ(Project("A.qvxproj").GetModuleFileName(0), Path("B1.pas"));
+  EXPECT_EQ(Project("A.qvxproj").ModuleFileName(0), Path("B1.pas"));
   EXPECT_TRUE(View("A1.pas").Locked);
   EXPECT_THAT(lines_, Contains(HasSubstr("A2.pas no longer exists")));
   lines_.clear();
@@ -282,7 +284,7 @@ TEST_F(Session, FollowsAUnitThatIsSavedUnderAnotherName) {
   EXPECT_TRUE(session_.SaveUnitAs(dynamic_cast<TUnit&>(Module("A1.pas"))));
   EXPECT_EQ(services_.FindModule(Path("A1.pas")), nullptr);
   EXPECT_EQ(OnDisk("Moved.kfm"), "object A1\nend\n");
-  EXPECT_EQ(Project("A.qvxproj").GetModuleFileName(0), Path("Moved.pas"));
+  EXPECT_EQ(Project("A.qvxproj").ModuleFileName(0), Path("Moved.pas"));
   ui_.SaveName = Path("A2.pas");
   session_.Open(Path("A2.pas"));
   EXPECT_THROW(session_.SaveUnitAs(dynamic_cast<TUnit&>(Module("Moved.pas"))), std::runtime_error);
@@ -321,3 +323,5 @@ TEST_F(Session, TellsEditorNotifiersOfSavesViewsAndTheEnd) {
 }
 
 }  // namespace
+
+}  // namespace kestrel::workbench

@@ -4,6 +4,8 @@
 #include "support/TestRegistry.h"
 #include "workbench/model/Settings.h"
 
+namespace kestrel::workbench {
+
 namespace {
 
 using testing::ElementsAre;
@@ -53,3 +55,5 @@ TEST(PackagePaths, ComeOnePerLineOrWithSemicolons) {
 }
 
 }  // namespace
+
+}  // namespace kestrel::workbench

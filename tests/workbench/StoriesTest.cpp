@@ -5,7 +5,9 @@
 #include <csignal>
 
 #include "Story.h"
-#include "host/System.h"
+#include "system/System.h"
+
+namespace kestrel::workbench {
 
 namespace {
 
@@ -378,3 +380,5 @@ TEST(Workbench, StartsWithoutAPackageThatCannotBeLoaded) {
 }
 
 }  // namespace
+
+}  // namespace kestrel::workbench

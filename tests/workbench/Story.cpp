@@ -6,6 +6,8 @@
 #include <cstdio>
 #include <fstream>
 
+namespace kestrel::workbench {
+
 namespace {
 constexpr const char* kSourceText = "unit Source;\nend.\n";
 }
@@ -45,3 +47,5 @@ std::vector<std::string> TStory::Log() const {
     if (line != "menu opens") lines.push_back(line);
   return lines;
 }
+
+}  // namespace kestrel::workbench

@@ -7,6 +7,8 @@
 #include "support/Environment.h"
 #include "support/TemporaryFolder.h"
 
+namespace kestrel::workbench {
+
 class TStory {
  public:
   /// Boat.qvxproj (Main.pas with Main.kfm, sub/Deck.pas read-only, Rude.pas) and Raft.qvxproj (Log.pas) in
@@ -26,3 +28,5 @@ class TStory {
   TEnvironmentVariable log_;
   std::string output_;
 };
+
+}  // namespace kestrel::workbench

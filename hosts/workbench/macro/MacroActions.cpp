@@ -3,8 +3,8 @@
 
 #include <stdexcept>
 
-#include "host/System.h"
-#include "host/WxText.h"
+#include "system/System.h"
+#include "toolkit/WxText.h"
 #include "workbench/macro/MacroControls.h"
 #include "workbench/macro/MacroMenus.h"
 #include "workbench/macro/MacroMouse.h"
@@ -15,6 +15,8 @@
 #include "workbench/windows/MainFrame.h"
 #include "workbench/windows/ModalStack.h"
 #include "workbench/windows/OpenMenus.h"
+
+namespace kestrel::workbench {
 
 namespace {
 
@@ -107,3 +109,5 @@ std::string TMacroPlayer::DoPoint(const TArguments& arguments) {
   return PointAt(*input_, frame_, Front(), arguments[0], arguments[1]);
 }
 std::string TMacroPlayer::DoClick(const TArguments& arguments) { return ClickMouse(*input_, arguments[0]); }
+
+}  // namespace kestrel::workbench

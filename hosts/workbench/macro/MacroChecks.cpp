@@ -8,8 +8,8 @@
 #include <sstream>
 #include <stdexcept>
 
-#include "host/System.h"
-#include "host/WxText.h"
+#include "system/System.h"
+#include "toolkit/WxText.h"
 #include "workbench/macro/MacroControls.h"
 #include "workbench/macro/MacroMenus.h"
 #include "workbench/macro/MacroPlayer.h"
@@ -20,6 +20,8 @@
 #include "workbench/windows/MainFrame.h"
 #include "workbench/windows/ModalStack.h"
 #include "workbench/windows/OpenMenus.h"
+
+namespace kestrel::workbench {
 
 namespace {
 
@@ -174,3 +176,5 @@ std::string TMacroPlayer::DoExpectReadOnly(const TArguments& arguments) {
 std::string TMacroPlayer::DoExpectWritable(const TArguments& arguments) {
   return CheckReadOnly(frame_, arguments[0], false);
 }
+
+}  // namespace kestrel::workbench

@@ -19,6 +19,8 @@
 #include "workbench/macro/MacroStrings.h"
 #include "workbench/macro/WindowFinder.h"
 
+namespace kestrel::workbench {
+
 namespace {
 
 std::string Missing(wxWindow& window, const TResString& kind, const wxString& what) {
@@ -345,3 +347,5 @@ wxRect RowRect(wxWindow& window, const wxString& text) {
   });
   return rect;
 }
+
+}  // namespace kestrel::workbench

@@ -9,6 +9,8 @@
 
 class wxUIActionSimulator;
 
+namespace kestrel::workbench {
+
 std::string PressButton(wxWindow& window, const wxString& label);
 /// A check box or radio button of that label, or the row of a list with boxes that shows `text` in some column.
 std::string TickBox(wxWindow& window, const wxString& text, bool ticked);
@@ -27,3 +29,5 @@ bool HasButton(wxWindow& window, const wxString& label);
 /// Where that button, and where a row of a list, tree or grid that shows `text` is on the screen; empty for nowhere.
 wxRect ButtonRect(wxWindow& window, const wxString& label);
 wxRect RowRect(wxWindow& window, const wxString& text);
+
+}  // namespace kestrel::workbench

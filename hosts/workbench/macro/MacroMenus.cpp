@@ -7,6 +7,8 @@
 #include "workbench/macro/WindowFinder.h"
 #include "workbench/windows/Toolkit.h"
 
+namespace kestrel::workbench {
+
 namespace {
 
 wxMenu* TopMenu(const wxMenuBar& bar, const wxString& label) {
@@ -65,3 +67,5 @@ wxRect MenuRect(const wxMenuBar& bar, const wxString& path) {
   const wxMenuItem* item = FindMenuItem(*menu, path.AfterFirst('|'));
   return item ? ItemRect(*item) : wxRect();
 }
+
+}  // namespace kestrel::workbench

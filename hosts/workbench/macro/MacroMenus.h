@@ -8,6 +8,8 @@ class wxMenu;
 class wxMenuBar;
 class wxMenuItem;
 
+namespace kestrel::workbench {
+
 /// Opens the menus of a path "Menu|Item" one after the other, so that each is brought up to date, and answers the last
 /// part's item; nullptr when there is none.  The item is borrowed until the menu changes.
 wxMenuItem* OpenMenuItem(wxFrame& frame, const wxString& path);
@@ -17,3 +19,5 @@ void ClickMenuItem(wxFrame& frame, const wxMenuItem& item);
 /// Where the title of a menu "Menu", or the item of a path "Menu|Item" in a menu that is open, is on the screen; empty
 /// for nowhere, and where the toolkit does not tell.
 wxRect MenuRect(const wxMenuBar& bar, const wxString& path);
+
+}  // namespace kestrel::workbench

@@ -6,8 +6,8 @@
 
 #include <algorithm>
 
-#include "host/System.h"
-#include "host/WxText.h"
+#include "system/System.h"
+#include "toolkit/WxText.h"
 #include "workbench/macro/MacroControls.h"
 #include "workbench/macro/MacroMenus.h"
 #include "workbench/macro/MacroStrings.h"
@@ -15,6 +15,8 @@
 #include "workbench/windows/EditorBook.h"
 #include "workbench/windows/MainFrame.h"
 #include "workbench/windows/Toolkit.h"
+
+namespace kestrel::workbench {
 
 namespace {
 
@@ -84,3 +86,5 @@ std::string ClickMouse(wxUIActionSimulator& input, const std::string& button) {
   input.MouseClick(row->Button);
   return {};
 }
+
+}  // namespace kestrel::workbench

@@ -3,9 +3,12 @@
 
 #include <string>
 
-class TMainFrame;
 class wxTopLevelWindow;
 class wxUIActionSimulator;
+
+namespace kestrel::workbench {
+
+class TMainFrame;
 
 /// Moves the pointer onto the middle of what `kind` and `text` name: a "menu" of `frame` or an item of one that is open
 /// ("Team", "Team|Add Files..."), a "row" of a list, tree or grid in `window`, the "list" behind a label, the "editor" of
@@ -15,3 +18,5 @@ std::string PointAt(wxUIActionSimulator& input, TMainFrame& frame, wxTopLevelWin
 /// One click of "left", "middle" or "right", or one notch "up" or "down" of the wheel, where the pointer is.  Answers
 /// an empty text, or that there is no such button.
 std::string ClickMouse(wxUIActionSimulator& input, const std::string& button);
+
+}  // namespace kestrel::workbench

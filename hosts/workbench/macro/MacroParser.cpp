@@ -3,8 +3,10 @@
 #include <algorithm>
 #include <stdexcept>
 
-#include "host/Text.h"
+#include "system/Text.h"
 #include "workbench/macro/MacroStrings.h"
+
+namespace kestrel::workbench {
 
 const std::vector<TMacroVerbRow>& MacroVerbs() {
   using enum TMacroVerb;
@@ -138,3 +140,5 @@ std::vector<TMacroStep> ParseMacro(std::string_view text) {
   }
   return steps;
 }
+
+}  // namespace kestrel::workbench

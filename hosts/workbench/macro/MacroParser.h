@@ -12,6 +12,8 @@
 #include <string_view>
 #include <vector>
 
+namespace kestrel::workbench {
+
 enum class TMacroVerb {
   Open,
   Close,
@@ -84,3 +86,5 @@ struct TMacroStep {
 
 /// Throws std::runtime_error that names the first line that cannot be understood.
 std::vector<TMacroStep> ParseMacro(std::string_view text);
+
+}  // namespace kestrel::workbench

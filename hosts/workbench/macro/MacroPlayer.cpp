@@ -5,9 +5,9 @@
 #include <cstdio>
 #include <filesystem>
 
-#include "host/FileName.h"
-#include "host/Paths.h"
-#include "host/System.h"
+#include "system/FileName.h"
+#include "system/Paths.h"
+#include "system/System.h"
 #include "workbench/macro/MacroStrings.h"
 #include "workbench/macro/WindowFinder.h"
 #include "workbench/macro/WindowSteps.h"
@@ -15,6 +15,8 @@
 #include "workbench/windows/MainFrame.h"
 #include "workbench/windows/ModalStack.h"
 #include "workbench/windows/Screenshot.h"
+
+namespace kestrel::workbench {
 
 namespace {
 
@@ -216,3 +218,5 @@ std::string TMacroPlayer::DoQuit(const TArguments&) {
   End(0);
   return {};
 }
+
+}  // namespace kestrel::workbench

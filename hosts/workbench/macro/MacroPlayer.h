@@ -16,8 +16,11 @@
 #include "workbench/macro/ProviderWindows.h"
 #include "workbench/model/CommandLine.h"
 
-class TMainFrame;
 class wxTopLevelWindow;
+
+namespace kestrel::workbench {
+
+class TMainFrame;
 
 /// One step per timer tick, inside modal dialogs too: a step that opens one does not return before it is closed, and
 /// the following steps run meanwhile.
@@ -94,3 +97,5 @@ class TMacroPlayer final : public wxTimer {
   TClock::time_point started_;
   wxWeakRef<wxWindow> expected_;
 };
+
+}  // namespace kestrel::workbench

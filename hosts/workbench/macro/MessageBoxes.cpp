@@ -3,6 +3,8 @@
 #include <wx/generic/msgdlgg.h>
 #include <wx/msgdlg.h>
 
+namespace kestrel::workbench {
+
 namespace {
 
 /// Custom labels come back with the access-key marks of the system's own boxes.
@@ -28,3 +30,5 @@ int TMessageBoxes::Enter(wxDialog* dialog) {
   }
   return shown.ShowModal();
 }
+
+}  // namespace kestrel::workbench

@@ -3,6 +3,8 @@
 
 #include <wx/modalhook.h>
 
+namespace kestrel::workbench {
+
 class TMessageBoxes final : public wxModalDialogHook {
  public:
   TMessageBoxes() { Register(); }
@@ -10,3 +12,5 @@ class TMessageBoxes final : public wxModalDialogHook {
  protected:
   int Enter(wxDialog* dialog) override;
 };
+
+}  // namespace kestrel::workbench

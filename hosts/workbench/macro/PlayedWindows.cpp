@@ -4,12 +4,14 @@
 
 #include <filesystem>
 
-#include "host/FileName.h"
-#include "host/Paths.h"
-#include "host/System.h"
-#include "host/WxText.h"
+#include "system/FileName.h"
+#include "system/Paths.h"
+#include "system/System.h"
+#include "toolkit/WxText.h"
 #include "workbench/macro/WindowFinder.h"
 #include "workbench/macro/WindowSteps.h"
+
+namespace kestrel::workbench {
 
 namespace {
 
@@ -82,3 +84,5 @@ void TPlayedWindows::ShowFront() {
   else
     WriteFileAtomically(file, title);
 }
+
+}  // namespace kestrel::workbench

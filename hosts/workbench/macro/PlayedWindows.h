@@ -11,6 +11,8 @@
 #include "workbench/windows/ModalStack.h"
 #include "workbench/windows/OpenMenus.h"
 
+namespace kestrel::workbench {
+
 /// Looks for steps and does them for as long as it lives.
 class TPlayedWindows final : public wxTimer {
  public:
@@ -30,3 +32,5 @@ class TPlayedWindows final : public wxTimer {
   TOpenMenus menus_;
   TMessageBoxes boxes_;
 };
+
+}  // namespace kestrel::workbench

@@ -5,11 +5,13 @@
 
 #include <filesystem>
 
-#include "host/FileName.h"
-#include "host/Paths.h"
-#include "host/System.h"
-#include "host/WxText.h"
+#include "system/FileName.h"
+#include "system/Paths.h"
+#include "system/System.h"
+#include "toolkit/WxText.h"
 #include "workbench/macro/MacroStrings.h"
+
+namespace kestrel::workbench {
 
 namespace fs = std::filesystem;
 
@@ -42,3 +44,5 @@ std::string TProviderWindows::Work(const TMacroStep& step) {
   fs::remove(ToFilePath(answer));
   return result;
 }
+
+}  // namespace kestrel::workbench

@@ -9,6 +9,8 @@
 
 #include "workbench/macro/MacroParser.h"
 
+namespace kestrel::workbench {
+
 inline constexpr const char* kPlayedFolder = "KESTREL_PLAYED_WINDOWS";
 
 class TProviderWindows {
@@ -30,3 +32,5 @@ class TProviderWindows {
   std::string folder_;
   bool asked_ = false;
 };
+
+}  // namespace kestrel::workbench

@@ -12,6 +12,8 @@
 
 #include "workbench/windows/ModalStack.h"
 
+namespace kestrel::workbench {
+
 wxString PlainLabel(const wxString& label) {
   wxString plain = wxControl::RemoveMnemonics(label);
   if (plain.EndsWith(":")) plain.RemoveLast();
@@ -119,3 +121,5 @@ std::string DescribeWindows() {
   }
   return text.utf8_string();
 }
+
+}  // namespace kestrel::workbench

@@ -9,6 +9,8 @@
 
 class wxTextEntry;
 
+namespace kestrel::workbench {
+
 /// A label without access-key marks and a trailing colon.
 wxString PlainLabel(const wxString& label);
 bool SameLabel(const wxString& a, const wxString& b);
@@ -40,3 +42,5 @@ wxWindow* FindLabelled(wxWindow& window, const wxString& label,
 wxString TextOf(wxWindow& control);
 /// What is on the screen, for the report of a failed step.
 std::string DescribeWindows();
+
+}  // namespace kestrel::workbench

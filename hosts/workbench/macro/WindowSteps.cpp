@@ -5,12 +5,14 @@
 #include <algorithm>
 #include <stdexcept>
 
-#include "host/WxText.h"
+#include "toolkit/WxText.h"
 #include "workbench/macro/MacroControls.h"
 #include "workbench/macro/MacroStrings.h"
 #include "workbench/macro/WindowFinder.h"
 #include "workbench/windows/ModalStack.h"
 #include "workbench/windows/OpenMenus.h"
+
+namespace kestrel::workbench {
 
 namespace {
 
@@ -101,3 +103,5 @@ wxTopLevelWindow* ExpectWindow(const std::string& title, std::string& problem) {
                                                       : Format(sNoWindow, {title});
   return nullptr;
 }
+
+}  // namespace kestrel::workbench

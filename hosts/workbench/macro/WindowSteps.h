@@ -9,6 +9,8 @@
 
 #include "workbench/macro/MacroParser.h"
 
+namespace kestrel::workbench {
+
 /// Whether WorkWindow can do the step.
 bool IsWindowStep(TMacroVerb verb);
 /// Does the step in `front`, the window that a user works in; empty, or why it could not (yet).  `input` is there for Key.
@@ -16,3 +18,5 @@ std::string WorkWindow(const TMacroStep& step, wxTopLevelWindow& front, wxUIActi
 /// The shown window of that title that a user can work in: behind the innermost dialog there is none.  nullptr, and why in
 /// `problem`, when there is none.
 wxTopLevelWindow* ExpectWindow(const std::string& title, std::string& problem);
+
+}  // namespace kestrel::workbench

@@ -5,6 +5,8 @@
 
 #include "workbench/model/ModelStrings.h"
 
+namespace kestrel::workbench {
+
 namespace {
 
 struct TOption {
@@ -62,3 +64,5 @@ TCommandLine TCommandLine::Parse(const std::vector<std::string>& arguments) {
   }
   return line;
 }
+
+}  // namespace kestrel::workbench

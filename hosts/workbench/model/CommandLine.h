@@ -4,6 +4,8 @@
 #include <string>
 #include <vector>
 
+namespace kestrel::workbench {
+
 struct TCommandLine {
   bool Help = false;
   bool Version = false;
@@ -17,3 +19,5 @@ struct TCommandLine {
   /// options.
   static TCommandLine Parse(const std::vector<std::string>& arguments);
 };
+
+}  // namespace kestrel::workbench

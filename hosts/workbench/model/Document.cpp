@@ -3,10 +3,12 @@
 #include <filesystem>
 #include <stdexcept>
 
-#include "host/FileName.h"
-#include "host/Paths.h"
-#include "host/System.h"
+#include "system/FileName.h"
+#include "system/Paths.h"
+#include "system/System.h"
 #include "workbench/model/ModelStrings.h"
+
+namespace kestrel::workbench {
 
 namespace fs = std::filesystem;
 
@@ -72,3 +74,5 @@ void TDocument::NotifyDestroyed() {
   Notify<IOTANotifier>("Destroyed", [](IOTANotifier& n) { n.Destroyed(); });
   notifiers_.Clear();
 }
+
+}  // namespace kestrel::workbench

@@ -6,6 +6,8 @@
 #include "host/Modules.h"
 #include "workbench/model/Notifications.h"
 
+namespace kestrel::workbench {
+
 /// What has happened to a document's file since it was last read or written.
 enum class TDiskChange { None, Attributes, Contents, Gone };
 
@@ -66,3 +68,5 @@ class TDocument : public virtual IOTAEditor {
   std::string stamp_;  // size and time of the file as last read or written; empty for a document never saved
   bool readOnly_ = false;
 };
+
+}  // namespace kestrel::workbench

@@ -5,6 +5,8 @@
 
 #include "workbench/model/ModelStrings.h"
 
+namespace kestrel::workbench {
+
 namespace {
 
 /// Measuring a line costs the editor time and memory many times its length.
@@ -84,3 +86,5 @@ void TFormEditor::Activated() {
 void TFormEditor::AboutToSave() {
   Notify<IOTAFormNotifier>("FormSaving", [](IOTAFormNotifier& n) { n.FormSaving(); });
 }
+
+}  // namespace kestrel::workbench

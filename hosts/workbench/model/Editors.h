@@ -7,6 +7,8 @@
 #include "workbench/model/Document.h"
 #include "workbench/model/ProjectFile.h"
 
+namespace kestrel::workbench {
+
 /// The window that shows a text and in which the user changes it.
 class IDocumentView {
  public:
@@ -111,3 +113,5 @@ class TDefinitionEditor final : public TDocument, public IOTASourceEditor {
   TFile file_;
   bool modified_ = false;
 };
+
+}  // namespace kestrel::workbench

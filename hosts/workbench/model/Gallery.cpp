@@ -2,6 +2,8 @@
 
 #include "workbench/model/ModelStrings.h"
 
+namespace kestrel::workbench {
+
 namespace {
 struct TCategoryRow {
   const char* Id;
@@ -28,3 +30,5 @@ IOTAGalleryCategory* TGalleryCategories::FindCategory(const std::string& idStrin
 void TWizardServices::RemoveWizard(int index) {
   if (const auto wizard = wizards_.Remove(index)) guard_.Run("Destroyed", [&] { wizard->Destroyed(); });
 }
+
+}  // namespace kestrel::workbench

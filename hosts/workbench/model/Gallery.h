@@ -7,6 +7,8 @@
 
 #include "workbench/model/Notifications.h"
 
+namespace kestrel::workbench {
+
 class TGalleryCategory final : public IOTAGalleryCategory {
  public:
   TGalleryCategory(std::string id, std::string name) : id_(std::move(id)), name_(std::move(name)) {}
@@ -50,3 +52,5 @@ class TWizardServices final : public IOTAWizardServices {
   const TPackageGuard& guard_;
   TRegistrations<IOTAWizard> wizards_;
 };
+
+}  // namespace kestrel::workbench

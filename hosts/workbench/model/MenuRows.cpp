@@ -1,5 +1,7 @@
 #include "workbench/model/MenuRows.h"
 
+namespace kestrel::workbench {
+
 std::vector<const TMenuItem*> VisibleRows(const std::vector<TMenuItem*>& items) {
   std::vector<const TMenuItem*> rows;
   const TMenuItem* separator = nullptr;  // shown as soon as an item follows it
@@ -15,3 +17,5 @@ std::vector<const TMenuItem*> VisibleRows(const std::vector<TMenuItem*>& items) 
   }
   return rows;
 }
+
+}  // namespace kestrel::workbench

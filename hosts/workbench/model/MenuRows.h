@@ -5,5 +5,9 @@
 
 #include "host/Menus.h"
 
+namespace kestrel::workbench {
+
 /// The visible items in order, without separators at either end, after each other, or next to nothing but hidden ones.
 std::vector<const TMenuItem*> VisibleRows(const std::vector<TMenuItem*>& items);
+
+}  // namespace kestrel::workbench

@@ -1,39 +1,41 @@
 // Texts of the workbench's model: projects, documents, packages, command line.
 #pragma once
 
-#include "host/Text.h"
+#include "system/Text.h"
 
-constexpr TResString sUnreadableList{"The text is not in INI form."};
-constexpr TResString sNotThisKind{"The text has no section [%s]."};
-constexpr TResString sNewerVersion{"The file was written by a newer version of the workbench."};
+namespace kestrel::workbench {
 
-constexpr TResString sFileNotFound{"%s does not exist."};
-constexpr TResString sNoOrdinaryFile{"%s is a pipe or a device, not a file that can be edited."};
-constexpr TResString sLineTooLong{"%s has a line of %d bytes; the editor takes lines of up to %d."};
-constexpr TResString sCannotSaveReadOnly{"%s is read-only on disk and was not saved."};
-constexpr TResString sCannotReload{"Cannot reload %s: %s"};
-constexpr TResString sProjectMissing{"%s lists a project that cannot be opened: %s"};
-constexpr TResString sReloaded{"%s has changed on disk and was reloaded."};
-constexpr TResString sGone{"%s no longer exists on disk; its text is kept in the editor."};
-constexpr TResString sPackageFailure{"%s: %s"};
-constexpr TResString sUnknownFailure{"unknown error"};
-constexpr TResString sOpenElsewhere{"%s is open in another editor; close that first."};
-constexpr TResString sNoProject{"There is no open project."};
-constexpr TResString sNewUnitText{"unit %s;\n\ninterface\n\nimplementation\n\nend.\n"};
+inline constexpr TResString sUnreadableList{"The text is not in INI form."};
+inline constexpr TResString sNotThisKind{"The text has no section [%s]."};
+inline constexpr TResString sNewerVersion{"The file was written by a newer version of the workbench."};
 
-constexpr TResString sCategoryNew{"New Files"};
-constexpr TResString sCategoryOther{"Other Files"};
+inline constexpr TResString sFileNotFound{"%s does not exist."};
+inline constexpr TResString sNoOrdinaryFile{"%s is a pipe or a device, not a file that can be edited."};
+inline constexpr TResString sLineTooLong{"%s has a line of %d bytes; the editor takes lines of up to %d."};
+inline constexpr TResString sCannotSaveReadOnly{"%s is read-only on disk and was not saved."};
+inline constexpr TResString sCannotReload{"Cannot reload %s: %s"};
+inline constexpr TResString sProjectMissing{"%s lists a project that cannot be opened: %s"};
+inline constexpr TResString sReloaded{"%s has changed on disk and was reloaded."};
+inline constexpr TResString sGone{"%s no longer exists on disk; its text is kept in the editor."};
+inline constexpr TResString sPackageFailure{"%s: %s"};
+inline constexpr TResString sUnknownFailure{"unknown error"};
+inline constexpr TResString sOpenElsewhere{"%s is open in another editor; close that first."};
+inline constexpr TResString sNoProject{"There is no open project."};
+inline constexpr TResString sNewUnitText{"unit %s;\n\ninterface\n\nimplementation\n\nend.\n"};
 
-constexpr TResString sPackageNotFound{"Package %s does not exist."};
-constexpr TResString sPackageNotLoaded{"Package %s could not be loaded: %s"};
-constexpr TResString sPackageNoEntry{"Package %s has no entry point \"%s\" and was not loaded."};
-constexpr TResString sPackageLeftovers{"Package left %d registrations behind when it was unloaded."};
+inline constexpr TResString sCategoryNew{"New Files"};
+inline constexpr TResString sCategoryOther{"Other Files"};
 
-constexpr TResString sUnknownOption{"unknown option %s"};
-constexpr TResString sOptionNeedsValue{"option %s needs a value"};
-constexpr TResString sOptionTakesNoValue{"option %s takes no value"};
-constexpr TResString sTooManyFiles{"only one file can be opened: %s"};
-constexpr TResString sUsage{
+inline constexpr TResString sPackageNotFound{"Package %s does not exist."};
+inline constexpr TResString sPackageNotLoaded{"Package %s could not be loaded: %s"};
+inline constexpr TResString sPackageNoEntry{"Package %s has no entry point \"%s\" and was not loaded."};
+inline constexpr TResString sPackageLeftovers{"Package left %d registrations behind when it was unloaded."};
+
+inline constexpr TResString sUnknownOption{"unknown option %s"};
+inline constexpr TResString sOptionNeedsValue{"option %s needs a value"};
+inline constexpr TResString sOptionTakesNoValue{"option %s takes no value"};
+inline constexpr TResString sTooManyFiles{"only one file can be opened: %s"};
+inline constexpr TResString sUsage{
     "Usage: workbench [options] [FILE]\n"
     "\n"
     "FILE is a unit (.pas), a form (.kfm), a project (.qvxproj) or a project group (.qvxgroup).\n"
@@ -47,3 +49,5 @@ constexpr TResString sUsage{
     "\n"
     "Without --package, the packages of Tools > Options are loaded; without those, KestrelIDE beside the "
     "program.\n"};
+
+}  // namespace kestrel::workbench

@@ -2,7 +2,9 @@
 
 #include <algorithm>
 
-#include "host/Text.h"
+#include "system/Text.h"
+
+namespace kestrel::workbench {
 
 TOpenModule& TModuleIndex::Add(std::unique_ptr<TOpenModule> module) {
   modules_.push_back(std::move(module));
@@ -33,3 +35,5 @@ void TModuleIndex::Renaming(TOpenModule& module) {
 void TModuleIndex::Renamed(TOpenModule& module) {
   for (const auto& document : module.Documents()) byName_.emplace(FoldCase(document->FileName()), &module);
 }
+
+}  // namespace kestrel::workbench

@@ -8,6 +8,8 @@
 
 #include "workbench/model/Modules.h"
 
+namespace kestrel::workbench {
+
 /// Owns the open modules.  Finding one by name takes constant time: packages ask for each of 65,536 files.
 class TModuleIndex {
  public:
@@ -26,3 +28,5 @@ class TModuleIndex {
   std::vector<std::unique_ptr<TOpenModule>> modules_;
   std::unordered_map<std::string, TOpenModule*> byName_;
 };
+
+}  // namespace kestrel::workbench

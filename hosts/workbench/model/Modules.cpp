@@ -3,9 +3,11 @@
 #include <algorithm>
 #include <unordered_set>
 
-#include "host/Paths.h"
-#include "host/System.h"
-#include "host/Text.h"
+#include "system/Paths.h"
+#include "system/System.h"
+#include "system/Text.h"
+
+namespace kestrel::workbench {
 
 namespace {
 
@@ -47,7 +49,7 @@ TProject::TProject(const std::string& fileName, const TPackageGuard& guard)
 
 int TProject::GetModuleCount() { return static_cast<int>(definition_.Get().Items().size()); }
 
-std::string TProject::GetModuleFileName(int index) {
+std::string TProject::ModuleFileName(int index) {
   if (index < 0 || index >= GetModuleCount()) return {};
   return FromStoredPath(ExtractFileDir(FileName()),
                         definition_.Get().Items()[static_cast<std::size_t>(index)]);
@@ -126,3 +128,5 @@ void TProjectGroup::Attach(TProject& project, bool active) {
   projects_.push_back(&project);
   if (active || !active_) active_ = &project;
 }
+
+}  // namespace kestrel::workbench

@@ -7,6 +7,8 @@
 
 #include "workbench/model/Editors.h"
 
+namespace kestrel::workbench {
+
 /// An open module: the host's side of IOTAModule.
 class TOpenModule : public virtual IOTAModule {
  public:
@@ -58,7 +60,7 @@ class TProject final : public TOpenModule, public IOTAProject {
   int IndexOfModuleFile(const std::string& fileName) const;
 
   int GetModuleCount() override;
-  std::string GetModuleFileName(int index) override;
+  std::string ModuleFileName(int index) override;
   void* QueryInterface(const TGuid& iid) noexcept override {
     return FindInterface<IOTAModule, IOTAProject>(this, iid);
   }
@@ -104,3 +106,5 @@ class TProjectGroup final : public TOpenModule, public IOTAProjectGroup {
   TProject* active_ = nullptr;
   std::string savedActive_;
 };
+
+}  // namespace kestrel::workbench

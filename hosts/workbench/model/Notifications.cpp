@@ -3,6 +3,8 @@
 #include "host/Errors.h"
 #include "workbench/model/ModelStrings.h"
 
+namespace kestrel::workbench {
+
 namespace {
 
 class TDepth {
@@ -52,3 +54,5 @@ bool TNotifications::FileClosing(const std::string& fileName) {
 void TNotifications::ActiveProjectChanged(const std::string& fileName) {
   Send(TOTAFileNotification::fnActiveProjectChanged, fileName);
 }
+
+}  // namespace kestrel::workbench

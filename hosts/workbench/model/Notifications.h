@@ -9,6 +9,8 @@
 
 #include "host/Services.h"
 
+namespace kestrel::workbench {
+
 /// Where a line for the user goes: the message pane, or the error stream as long as there is none.
 using TLogLine = std::function<void(const std::string&)>;
 
@@ -84,3 +86,5 @@ class TNotifications {
   const TPackageGuard& guard_;
   TRegistrations<IOTAIDENotifier> notifiers_;
 };
+
+}  // namespace kestrel::workbench

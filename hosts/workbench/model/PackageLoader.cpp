@@ -4,8 +4,10 @@
 #include <ranges>
 
 #include "host/Services.h"
-#include "host/System.h"
+#include "system/System.h"
 #include "workbench/model/ModelStrings.h"
+
+namespace kestrel::workbench {
 
 namespace {
 
@@ -30,7 +32,7 @@ bool TPackageLoader::Load(const std::string& path) {
   for (const char* name : {kPackageInitialize, kPackageRegister, kPackageFinalize})
     if (!FindSymbol(module, name)) {
       guard_.Log(Format(sPackageNoEntry, {full, name}));
-      FreeModule(module);
+      UnloadModule(module);
       return false;
     }
   packages_.push_back({full, module});
@@ -50,5 +52,7 @@ void TPackageLoader::Finalize() {
 
 void TPackageLoader::Unload() {
   Finalize();
-  for (; !packages_.empty(); packages_.pop_back()) FreeModule(packages_.back().Module);
+  for (; !packages_.empty(); packages_.pop_back()) UnloadModule(packages_.back().Module);
 }
+
+}  // namespace kestrel::workbench

@@ -4,8 +4,10 @@
 #include <string>
 #include <vector>
 
-#include "host/Library.h"
+#include "system/Library.h"
 #include "workbench/model/Notifications.h"
+
+namespace kestrel::workbench {
 
 class TPackageLoader {
  public:
@@ -30,3 +32,5 @@ class TPackageLoader {
   const TPackageGuard& guard_;
   std::vector<TPackage> packages_;
 };
+
+}  // namespace kestrel::workbench

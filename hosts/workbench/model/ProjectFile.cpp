@@ -4,8 +4,10 @@
 #include <charconv>
 #include <stdexcept>
 
-#include "host/Paths.h"
+#include "system/Paths.h"
 #include "workbench/model/ModelStrings.h"
+
+namespace kestrel::workbench {
 
 namespace {
 
@@ -72,3 +74,5 @@ std::string ToStoredPath(const std::string& base, const std::string& path) {
 std::string FromStoredPath(const std::string& base, const std::string& stored) {
   return NormalizePath(ResolvePath(base, stored));
 }
+
+}  // namespace kestrel::workbench

@@ -5,7 +5,9 @@
 #include <string_view>
 #include <vector>
 
-#include "host/IniText.h"
+#include "system/IniText.h"
+
+namespace kestrel::workbench {
 
 inline constexpr const char* kProjectExt = ".qvxproj";
 inline constexpr const char* kGroupExt = ".qvxgroup";
@@ -58,3 +60,5 @@ class TGroupFile : public TPathListFile {
 /// An absolute path as a file in directory `base` stores it, and back.  Paths on another drive or share stay absolute.
 std::string ToStoredPath(const std::string& base, const std::string& path);
 std::string FromStoredPath(const std::string& base, const std::string& stored);
+
+}  // namespace kestrel::workbench

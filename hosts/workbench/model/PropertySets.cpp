@@ -2,8 +2,10 @@
 
 #include <charconv>
 
-#include "host/Registry.h"
-#include "host/Text.h"
+#include "system/Registry.h"
+#include "system/Text.h"
+
+namespace kestrel::workbench {
 
 namespace {
 constexpr const char* kSettingsKey = "Software\\Corvane\\Workbench\\";
@@ -47,3 +49,5 @@ TPropertySet& TOptionsServices::PropertySet(const std::string& key) {
   if (!set) set = std::make_unique<TPropertySet>(key);
   return *set;
 }
+
+}  // namespace kestrel::workbench

@@ -8,6 +8,8 @@
 #include "host/Options.h"
 #include "workbench/model/Notifications.h"
 
+namespace kestrel::workbench {
+
 /// Fields under HKCU\Software\Corvane\Workbench\<key>.  Names compare ignoring case, as the registry's do.
 class TPropertySet final : public IOTAPropertySet {
  public:
@@ -48,3 +50,5 @@ class TOptionsServices final : public IOTAOptionsServices {
   std::map<std::string, std::unique_ptr<TPropertySet>> sets_;  // by folded key
   TRegistrations<IOTAAddInOptions> addIns_;
 };
+
+}  // namespace kestrel::workbench

@@ -2,10 +2,12 @@
 
 #include <stdexcept>
 
-#include "host/Paths.h"
-#include "host/System.h"
-#include "host/Text.h"
+#include "system/Paths.h"
+#include "system/System.h"
+#include "system/Text.h"
 #include "workbench/model/ModelStrings.h"
+
+namespace kestrel::workbench {
 
 void TSession::Save(TDocument& document) {
   document.Save();
@@ -150,3 +152,5 @@ TOpenModule* TSession::CurrentModule() {
   TTextEditor* editor = ui_.ActiveEditor();
   return editor ? index_.Find(editor->FileName()) : nullptr;
 }
+
+}  // namespace kestrel::workbench

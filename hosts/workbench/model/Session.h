@@ -8,6 +8,8 @@
 
 #include "workbench/model/ModuleIndex.h"
 
+namespace kestrel::workbench {
+
 enum class TSaveAnswer { Save, Discard, Cancel };
 
 /// The windows as the session sees them.
@@ -114,3 +116,5 @@ class TSession {
   TProjectGroup* group_ = nullptr;
   std::map<std::string, std::string> lastActive_;  // by group file: its active project when it was closed
 };
+
+}  // namespace kestrel::workbench

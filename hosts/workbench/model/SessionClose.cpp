@@ -1,9 +1,11 @@
 // Closing: the half of the session that takes modules away.
 #include <algorithm>
 
-#include "host/Paths.h"
-#include "host/Text.h"
+#include "system/Paths.h"
+#include "system/Text.h"
 #include "workbench/model/Session.h"
+
+namespace kestrel::workbench {
 
 bool TSession::AskAboutModified(const std::vector<TOpenModule*>& modules) {
   for (TOpenModule* module : modules) {
@@ -103,7 +105,7 @@ void TSession::Forget(TOpenModule& module) {
 std::vector<TOpenModule*> TSession::OpenUnitsOf(TProject& project) const {
   std::vector<TOpenModule*> units;
   for (int i = 0; i < project.GetModuleCount(); ++i) {
-    TOpenModule* unit = index_.Find(project.GetModuleFileName(i));
+    TOpenModule* unit = index_.Find(project.ModuleFileName(i));
     if (unit && std::ranges::find(units, unit) == units.end()) units.push_back(unit);
   }
   return units;
@@ -129,3 +131,5 @@ bool TSession::CloseProject(TProject& project) {
   if (wasActive && group_->Active()) notifications_.ActiveProjectChanged(group_->Active()->FileName());
   return true;
 }
+
+}  // namespace kestrel::workbench

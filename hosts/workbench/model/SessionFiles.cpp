@@ -1,11 +1,13 @@
 // Opening and creating: the half of the session that adds modules.
 #include <stdexcept>
 
-#include "host/Paths.h"
-#include "host/System.h"
-#include "host/Text.h"
+#include "system/Paths.h"
+#include "system/System.h"
+#include "system/Text.h"
 #include "workbench/model/ModelStrings.h"
 #include "workbench/model/Session.h"
+
+namespace kestrel::workbench {
 
 namespace {
 
@@ -144,3 +146,5 @@ TUnit& TSession::NewUnit(const std::string& directory) {
   AnnounceOpened({added.FileName()});
   return added;
 }
+
+}  // namespace kestrel::workbench

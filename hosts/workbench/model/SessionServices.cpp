@@ -2,6 +2,8 @@
 
 #include "workbench/model/ModelStrings.h"
 
+namespace kestrel::workbench {
+
 namespace {
 
 /// Packages get an answer, not an exception; the user gets the sentence.
@@ -64,3 +66,5 @@ bool TActionServices::SaveFile(const std::string& fileName) {
 bool TActionServices::ReloadFile(const std::string& fileName) {
   return Attempt(session_, [&] { return session_.Reload(fileName); });
 }
+
+}  // namespace kestrel::workbench

@@ -3,6 +3,8 @@
 
 #include "workbench/model/Session.h"
 
+namespace kestrel::workbench {
+
 class TModuleServices final : public IOTAModuleServices {
  public:
   explicit TModuleServices(TSession& session) : session_(session) {}
@@ -49,3 +51,5 @@ class TActionServices final : public IOTAActionServices {
  private:
   TSession& session_;
 };
+
+}  // namespace kestrel::workbench

@@ -2,7 +2,9 @@
 
 #include <algorithm>
 
-#include "host/Text.h"
+#include "system/Text.h"
+
+namespace kestrel::workbench {
 
 namespace {
 
@@ -69,3 +71,5 @@ void TRecentFiles::Add(const std::string& fileName) {
     set_.SetValue(kRecentField + std::to_string(i + 1), files_[i]);
   set_.Save();
 }
+
+}  // namespace kestrel::workbench

@@ -6,6 +6,8 @@
 
 #include "workbench/model/PropertySets.h"
 
+namespace kestrel::workbench {
+
 /// Keys of property sets and their fields.
 inline constexpr const char* kGeneralSet = "General";
 inline constexpr const char* kFontSizeField = "FontSize";
@@ -47,3 +49,5 @@ class TRecentFiles {
   TPropertySet& set_;
   std::vector<std::string> files_;
 };
+
+}  // namespace kestrel::workbench

@@ -9,8 +9,8 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "host/Paths.h"
-#include "host/System.h"
+#include "system/Paths.h"
+#include "system/System.h"
 #include "workbench/macro/MacroPlayer.h"
 #include "workbench/model/ModelStrings.h"
 #include "workbench/model/PackageLoader.h"
@@ -21,6 +21,8 @@
 #include "workbench/windows/ModalStack.h"
 #include "workbench/windows/OpenMenus.h"
 #include "workbench/windows/Toolkit.h"
+
+namespace kestrel::workbench {
 
 namespace {
 
@@ -161,3 +163,5 @@ void TWorkbenchApp::EndStep() {
   }
   frame_->Close(true);
 }
+
+}  // namespace kestrel::workbench

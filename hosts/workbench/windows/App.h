@@ -7,6 +7,8 @@
 
 #include "workbench/model/CommandLine.h"
 
+namespace kestrel::workbench {
+
 /// The exit codes of the program.
 inline constexpr int kExitFailed = 1;
 inline constexpr int kExitUsage = 2;
@@ -55,3 +57,5 @@ class TWorkbenchApp final : public wxApp {
   int exitCode_ = 0;
   int endSteps_ = 0;
 };
+
+}  // namespace kestrel::workbench

@@ -7,10 +7,12 @@
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
 
-#include "host/Text.h"
-#include "host/WxText.h"
+#include "system/Text.h"
+#include "toolkit/WxText.h"
 #include "workbench/windows/FrameStrings.h"
 #include "workbench/windows/MenuBridge.h"
+
+namespace kestrel::workbench {
 
 namespace {
 
@@ -103,3 +105,5 @@ const TAction* ChooseAction(wxWindow* parent, const TMenuBridge& menus) {
   TCommandsDialog dialog(parent, menus);
   return dialog.ShowModal() == wxID_OK ? dialog.Selected() : nullptr;
 }
+
+}  // namespace kestrel::workbench

@@ -2,12 +2,14 @@
 
 #include <wx/menu.h>
 
-#include "host/Paths.h"
-#include "host/Text.h"
-#include "host/WxText.h"
+#include "system/Paths.h"
+#include "system/Text.h"
+#include "toolkit/WxText.h"
 #include "workbench/windows/FrameStrings.h"
 #include "workbench/windows/Icons.h"
 #include "workbench/windows/PascalStyle.h"
+
+namespace kestrel::workbench {
 
 class TEditorBook::TPageOwner final : public IEditorPageOwner {
  public:
@@ -103,3 +105,5 @@ void TEditorBook::SetFontSize(int points) {
   fontSize_ = points;
   for (std::size_t i = 0; i < GetPageCount(); ++i) ApplyPascalStyle(*PageAt(i), points);
 }
+
+}  // namespace kestrel::workbench

@@ -9,6 +9,8 @@
 
 class wxMenu;
 
+namespace kestrel::workbench {
+
 class TEditorBook final : public wxAuiNotebook {
  public:
   /// What the book asks of the frame.
@@ -38,3 +40,5 @@ class TEditorBook final : public wxAuiNotebook {
   std::shared_ptr<IEditorPageOwner> owner_;
   int fontSize_;
 };
+
+}  // namespace kestrel::workbench

@@ -2,8 +2,10 @@
 
 #include <algorithm>
 
-#include "host/WxText.h"
+#include "toolkit/WxText.h"
 #include "workbench/windows/PascalStyle.h"
+
+namespace kestrel::workbench {
 
 TEditorPage::TEditorPage(wxWindow* parent, IEditorPageOwner& owner, TTextEditor& editor, int fontSize)
     : wxStyledTextCtrl(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxBORDER_NONE),
@@ -70,3 +72,5 @@ bool TEditorPage::TypeAtEnd(const std::string& text) {
   AddTextRaw(text.data(), static_cast<int>(text.size()));
   return true;
 }
+
+}  // namespace kestrel::workbench

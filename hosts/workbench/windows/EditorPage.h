@@ -5,6 +5,8 @@
 
 #include "workbench/model/Editors.h"
 
+namespace kestrel::workbench {
+
 /// What the pages tell the window that holds them.
 class IEditorPageOwner {
  public:
@@ -36,3 +38,5 @@ class TEditorPage final : public wxStyledTextCtrl, public IDocumentView {
   bool filled_ = false;
   bool replacing_ = false;
 };
+
+}  // namespace kestrel::workbench

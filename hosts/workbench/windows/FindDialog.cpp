@@ -2,9 +2,11 @@
 
 #include <wx/stc/stc.h>
 
-#include "host/Text.h"
-#include "host/WxText.h"
+#include "system/Text.h"
+#include "toolkit/WxText.h"
 #include "workbench/windows/FrameStrings.h"
+
+namespace kestrel::workbench {
 
 namespace {
 wxString Title(const TResString& caption) {
@@ -98,3 +100,5 @@ void TFindReplace::ReplaceAll() {
   editor->EndUndoAction();
   status_(Format(sReplacedCount, {static_cast<long long>(count)}));
 }
+
+}  // namespace kestrel::workbench

@@ -9,6 +9,8 @@
 
 class wxStyledTextCtrl;
 
+namespace kestrel::workbench {
+
 class TFindReplace final {
  public:
   /// `editor` answers the editor to search, nullptr for none; `status` shows a line to the user.
@@ -35,3 +37,5 @@ class TFindReplace final {
   wxFindReplaceData data_{wxFR_DOWN};
   wxWeakRef<wxFindReplaceDialog> dialog_;
 };
+
+}  // namespace kestrel::workbench

@@ -6,9 +6,11 @@
 #include <wx/sizer.h>
 #include <wx/stattext.h>
 
-#include "host/WxText.h"
+#include "toolkit/WxText.h"
 #include "workbench/windows/FrameStrings.h"
 #include "workbench/windows/Icons.h"
+
+namespace kestrel::workbench {
 
 namespace {
 
@@ -117,3 +119,5 @@ std::shared_ptr<IOTAWizard> ChooseWizard(wxWindow* parent, TGalleryCategories& c
   TGalleryDialog dialog(parent, categories, wizards);
   return dialog.ShowModal() == wxID_OK ? dialog.Selected() : nullptr;
 }
+
+}  // namespace kestrel::workbench

@@ -5,10 +5,12 @@
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
 
-#include "host/WxText.h"
-#include "host/WxWheel.h"
+#include "toolkit/WxText.h"
+#include "toolkit/WxWheel.h"
 #include "workbench/model/Settings.h"
 #include "workbench/windows/FrameStrings.h"
+
+namespace kestrel::workbench {
 
 namespace {
 
@@ -39,3 +41,5 @@ wxWindow* CreateGeneralPage(wxWindow* parent, IOTAOptionsPageHost& host) {
 }  // namespace
 
 TOptionsPage GeneralOptionsPage() { return {"TGeneralOptionsPage", sGeneralPage, 0, CreateGeneralPage}; }
+
+}  // namespace kestrel::workbench

@@ -3,5 +3,9 @@
 
 #include "host/Options.h"
 
+namespace kestrel::workbench {
+
 /// Its fields are those of the property set kGeneralSet.
 TOptionsPage GeneralOptionsPage();
+
+}  // namespace kestrel::workbench

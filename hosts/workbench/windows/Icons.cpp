@@ -2,6 +2,8 @@
 
 #include <array>
 
+namespace kestrel::workbench {
+
 namespace {
 
 constexpr int kIconSize = 16;
@@ -29,3 +31,5 @@ wxBitmapBundle IconBundle(TIcon icon) { return SvgBundle(IconSvg(icon), kIconSiz
 wxBitmapBundle SvgBundle(const std::string& svg, int size) {
   return wxBitmapBundle::FromSVG(svg.c_str(), wxSize(size, size));
 }
+
+}  // namespace kestrel::workbench

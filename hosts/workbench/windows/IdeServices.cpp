@@ -5,11 +5,13 @@
 
 #include <filesystem>
 
-#include "host/FileName.h"
-#include "host/Paths.h"
-#include "host/Text.h"
-#include "host/WxText.h"
+#include "system/FileName.h"
+#include "system/Paths.h"
+#include "system/Text.h"
+#include "toolkit/WxText.h"
 #include "workbench/windows/FrameStrings.h"
+
+namespace kestrel::workbench {
 
 bool TApplicationService::HelpKeyword(const std::string& keyword) {
   wxMessageBox(ToWx(Format(sNoHelp, {keyword})), ToWx(sProgramName), wxOK | wxICON_INFORMATION,
@@ -61,3 +63,5 @@ void* TIdeServices::QueryInterface(const TGuid& iid) noexcept {
     if (row.Iid == iid) return row.Service;
   return nullptr;
 }
+
+}  // namespace kestrel::workbench

@@ -8,6 +8,8 @@
 #include "workbench/model/Gallery.h"
 #include "workbench/model/PropertySets.h"
 
+namespace kestrel::workbench {
+
 /// The host program: main-form event and help.
 class TApplicationService final : public IOTAApplication {
  public:
@@ -65,3 +67,5 @@ class TIdeServices final : public IOTAServices {
   std::size_t windowless_;
   std::string startupDirectory_;
 };
+
+}  // namespace kestrel::workbench

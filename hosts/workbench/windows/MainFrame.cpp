@@ -5,10 +5,10 @@
 #include <wx/sizer.h>
 #include <wx/stattext.h>
 
-#include "host/Paths.h"
-#include "host/System.h"
-#include "host/Text.h"
-#include "host/WxText.h"
+#include "system/Paths.h"
+#include "system/System.h"
+#include "system/Text.h"
+#include "toolkit/WxText.h"
 #include "workbench/windows/EditorBook.h"
 #include "workbench/windows/FindDialog.h"
 #include "workbench/windows/FrameStrings.h"
@@ -16,6 +16,8 @@
 #include "workbench/windows/MessagePane.h"
 #include "workbench/windows/ModalStack.h"
 #include "workbench/windows/ProjectTree.h"
+
+namespace kestrel::workbench {
 
 namespace {
 
@@ -269,3 +271,5 @@ void TMainFrame::OnClose(wxCloseEvent& event) {
   Hide();
   wxTheApp->ExitMainLoop();
 }
+
+}  // namespace kestrel::workbench

@@ -7,11 +7,13 @@
 #include <memory>
 #include <string>
 
-#include "host/Text.h"
+#include "system/Text.h"
 #include "workbench/model/SessionServices.h"
 #include "workbench/model/Settings.h"
 #include "workbench/windows/IdeServices.h"
 #include "workbench/windows/MenuBridge.h"
+
+namespace kestrel::workbench {
 
 class TEditorBook;
 class TFindReplace;
@@ -142,3 +144,5 @@ class TMainFrame final : public wxFrame, public ISessionUi {
   bool stateShown_ = false;
   bool lookingAtDisk_ = false;
 };
+
+}  // namespace kestrel::workbench

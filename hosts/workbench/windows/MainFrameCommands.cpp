@@ -7,9 +7,9 @@
 
 #include <algorithm>
 
-#include "host/Paths.h"
-#include "host/Text.h"
-#include "host/WxText.h"
+#include "system/Paths.h"
+#include "system/Text.h"
+#include "toolkit/WxText.h"
 #include "workbench/windows/CommandsDialog.h"
 #include "workbench/windows/EditorBook.h"
 #include "workbench/windows/FindDialog.h"
@@ -22,6 +22,8 @@
 #include "workbench/windows/ProjectTree.h"
 #include "workbench/windows/Version.h"
 #include "workbench/windows/WindowMenu.h"
+
+namespace kestrel::workbench {
 
 namespace {
 
@@ -378,3 +380,5 @@ void TMainFrame::AddWizards() {
 }
 
 void TMainFrame::OfferPackageWindows() { AppendPackageWindows(*this, *viewMenu_); }
+
+}  // namespace kestrel::workbench

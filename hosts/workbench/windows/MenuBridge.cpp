@@ -3,10 +3,12 @@
 #include <algorithm>
 #include <utility>
 
-#include "host/WxText.h"
+#include "toolkit/WxText.h"
 #include "workbench/model/MenuRows.h"
 #include "workbench/windows/Icons.h"
 #include "workbench/windows/Toolkit.h"
+
+namespace kestrel::workbench {
 
 namespace {
 constexpr int kMenuImageSize = 16;
@@ -227,3 +229,5 @@ int TMenuBridge::AddImage(const std::string& svg) {
   images_.push_back(SvgBundle(svg, kMenuImageSize));
   return static_cast<int>(images_.size()) - 1;
 }
+
+}  // namespace kestrel::workbench

@@ -12,6 +12,8 @@
 #include "host/Menus.h"
 #include "workbench/model/Notifications.h"
 
+namespace kestrel::workbench {
+
 class TMenuBridge final : public IOTAMenuServices {
  public:
   /// `frame` has its menu bar already.
@@ -62,3 +64,5 @@ class TMenuBridge final : public IOTAMenuServices {
   std::vector<wxBitmapBundle> images_;
   bool reopening_ = false;
 };
+
+}  // namespace kestrel::workbench

@@ -5,8 +5,10 @@
 
 #include <algorithm>
 
-#include "host/WxText.h"
+#include "toolkit/WxText.h"
 #include "workbench/windows/FrameStrings.h"
+
+namespace kestrel::workbench {
 
 TMessagePane::TMessagePane(wxWindow* parent)
     : wxListView(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize,
@@ -59,3 +61,5 @@ void TMessagePane::ShowContextMenu(wxContextMenuEvent&) {
       return;
   }
 }
+
+}  // namespace kestrel::workbench

@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+namespace kestrel::workbench {
+
 class TMessagePane final : public wxListView {
  public:
   explicit TMessagePane(wxWindow* parent);
@@ -16,3 +18,5 @@ class TMessagePane final : public wxListView {
   void ShowContextMenu(wxContextMenuEvent& event);
   void FitColumn();
 };
+
+}  // namespace kestrel::workbench

@@ -2,6 +2,8 @@
 
 #include <wx/dialog.h>
 
+namespace kestrel::workbench {
+
 namespace {
 TModalStack* theStack = nullptr;
 }
@@ -23,3 +25,5 @@ int TModalStack::Enter(wxDialog* dialog) {
 }
 
 void TModalStack::Exit(wxDialog* dialog) { std::erase(open_, dialog); }
+
+}  // namespace kestrel::workbench

@@ -7,6 +7,8 @@
 
 class wxDialog;
 
+namespace kestrel::workbench {
+
 /// One object for the program, registered for as long as it lives.
 class TModalStack final : public wxModalDialogHook {
  public:
@@ -22,3 +24,5 @@ class TModalStack final : public wxModalDialogHook {
  private:
   std::vector<wxDialog*> open_;
 };
+
+}  // namespace kestrel::workbench

@@ -2,6 +2,8 @@
 
 #include "workbench/windows/Toolkit.h"
 
+namespace kestrel::workbench {
+
 namespace {
 TOpenMenus* theMenus = nullptr;
 }
@@ -30,3 +32,5 @@ int TOpenMenus::FilterEvent(wxEvent& event) {
   if (menu && event.GetEventType() == wxEVT_MENU_CLOSE) open_.erase(menu->GetMenu());
   return Event_Skip;
 }
+
+}  // namespace kestrel::workbench

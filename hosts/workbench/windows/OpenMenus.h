@@ -7,6 +7,8 @@
 
 class wxMenu;
 
+namespace kestrel::workbench {
+
 /// One object for the program, listening for as long as it lives.
 class TOpenMenus final : private wxEventFilter {
  public:
@@ -21,3 +23,5 @@ class TOpenMenus final : private wxEventFilter {
 
   std::set<wxMenu*> open_;  // borrowed, each until it says that it closes
 };
+
+}  // namespace kestrel::workbench

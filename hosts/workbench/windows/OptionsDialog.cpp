@@ -9,10 +9,12 @@
 #include <wx/sizer.h>
 #include <wx/textctrl.h>
 
-#include "host/Text.h"
-#include "host/WxText.h"
+#include "system/Text.h"
+#include "toolkit/WxText.h"
 #include "workbench/windows/FrameStrings.h"
 #include "workbench/windows/GeneralPage.h"
+
+namespace kestrel::workbench {
 
 namespace {
 
@@ -162,3 +164,5 @@ bool ShowOptionsDialog(wxWindow* parent, TOptionsServices& options, const TPacka
   TOptionsDialog dialog(parent, options, guard);
   return dialog.ShowModal() == wxID_OK;
 }
+
+}  // namespace kestrel::workbench

@@ -6,6 +6,8 @@
 
 #include "host/Services.h"
 
+namespace kestrel::workbench {
+
 class TOwnWizard final : public IOTAWizard {
  public:
   TOwnWizard(std::string name, std::string comment, std::string glyph, IOTAGalleryCategory* category,
@@ -41,3 +43,5 @@ class TOwnWizard final : public IOTAWizard {
   IOTAGalleryCategory* category_;
   std::function<void()> execute_;
 };
+
+}  // namespace kestrel::workbench

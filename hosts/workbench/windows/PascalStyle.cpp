@@ -2,6 +2,8 @@
 
 #include <wx/stc/stc.h>
 
+namespace kestrel::workbench {
+
 namespace {
 
 constexpr const char* kKeywords =
@@ -66,3 +68,5 @@ void ApplyPascalStyle(wxStyledTextCtrl& editor, int fontSize) {
   editor.SetCaretLineBackground(wxColour("#f3f7fb"));
   ApplyMargins(editor);
 }
+
+}  // namespace kestrel::workbench

@@ -3,5 +3,9 @@
 
 class wxStyledTextCtrl;
 
+namespace kestrel::workbench {
+
 /// Font, colours, keywords and margins.  `fontSize` in points; calling it again changes the font.
 void ApplyPascalStyle(wxStyledTextCtrl& editor, int fontSize);
+
+}  // namespace kestrel::workbench

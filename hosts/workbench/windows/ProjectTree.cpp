@@ -2,12 +2,14 @@
 
 #include <wx/menu.h>
 
-#include "host/Paths.h"
-#include "host/System.h"
-#include "host/Text.h"
-#include "host/WxText.h"
+#include "system/Paths.h"
+#include "system/System.h"
+#include "system/Text.h"
+#include "toolkit/WxText.h"
 #include "workbench/windows/FrameStrings.h"
 #include "workbench/windows/Icons.h"
+
+namespace kestrel::workbench {
 
 namespace {
 
@@ -103,7 +105,7 @@ void TProjectTree::FillProject(const wxTreeItemId& item, TProject& project) {
   TNode* node = NodeOf(item);
   if (node->Module >= 0 || std::exchange(node->Filled, true)) return;
   for (int i = 0; i < project.GetModuleCount(); ++i) {
-    const std::string file = project.GetModuleFileName(i);
+    const std::string file = project.ModuleFileName(i);
     const std::string shown = project.Definition().Get().Items()[static_cast<std::size_t>(i)];
     const auto module =
         AddNode(item, shown, ImageOf(ModuleIcon(file)), new TNode(file, project.FileName(), i));
@@ -127,3 +129,5 @@ int TProjectTree::SelectedModule() {
   const TNode* node = NodeOf(GetSelection());
   return node ? node->Module : -1;
 }
+
+}  // namespace kestrel::workbench

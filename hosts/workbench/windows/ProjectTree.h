@@ -9,6 +9,8 @@
 
 #include "workbench/model/Session.h"
 
+namespace kestrel::workbench {
+
 class TProjectTree final : public wxTreeCtrl {
  public:
   struct THooks {
@@ -37,3 +39,5 @@ class TProjectTree final : public wxTreeCtrl {
   THooks hooks_;
   std::set<std::string> collapsed_;
 };
+
+}  // namespace kestrel::workbench

@@ -5,8 +5,10 @@
 #include <wx/dcscreen.h>
 #include <wx/image.h>
 
-#include "host/WxText.h"
+#include "toolkit/WxText.h"
 #include "workbench/windows/Toolkit.h"
+
+namespace kestrel::workbench {
 
 bool SaveScreenshot(const std::string& fileName) {
   wxScreenDC screen;
@@ -21,3 +23,5 @@ bool SaveScreenshot(const std::string& fileName) {
     image.ClearAlpha();  // what some systems leave in a screen's fourth byte means nothing
   return image.SaveFile(ToWx(fileName), wxBITMAP_TYPE_PNG);
 }
+
+}  // namespace kestrel::workbench

@@ -3,5 +3,9 @@
 
 #include <string>
 
+namespace kestrel::workbench {
+
 /// Writes the whole screen as PNG.  False when that failed.
 bool SaveScreenshot(const std::string& fileName);
+
+}  // namespace kestrel::workbench

@@ -10,6 +10,8 @@
 #include <cstdint>
 #include <utility>
 
+namespace kestrel::workbench {
+
 namespace {
 
 /// A library that is in the process already, called without its headers.
@@ -191,3 +193,5 @@ void TMenuGivesWay::WindowComesUp() {
   hasGivenWay_ = true;  // some dialogs of the toolkit have closed it already
   if (IsOnScreen(menu_)) CallGtk<void>("gtk_menu_shell_cancel", WidgetOf(bar_));
 }
+
+}  // namespace kestrel::workbench

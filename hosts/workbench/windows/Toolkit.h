@@ -11,6 +11,8 @@ class wxMenuBar;
 class wxMenuItem;
 class wxScreenDC;
 
+namespace kestrel::workbench {
+
 /// Under GTK the screen is a surface that keeps the first copy made of it and answers that one for ever, unless told
 /// that the screen has changed.
 void ForgetScreenCopy(wxScreenDC& screen);
@@ -55,3 +57,5 @@ class TMenuGivesWay {
   unsigned long hook_ = 0;
   bool hasGivenWay_ = false;
 };
+
+}  // namespace kestrel::workbench

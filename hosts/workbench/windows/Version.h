@@ -1,3 +1,7 @@
 #pragma once
 
+namespace kestrel::workbench {
+
 inline constexpr const char* kWorkbenchVersion = WORKBENCH_VERSION;
+
+}  // namespace kestrel::workbench

@@ -2,6 +2,8 @@
 
 #include <wx/weakref.h>
 
+namespace kestrel::workbench {
+
 void AppendPackageWindows(wxFrame& mainFrame, wxMenu& menu) {
   bool first = true;
   for (wxWindow* window : wxTopLevelWindows) {
@@ -18,3 +20,5 @@ void AppendPackageWindows(wxFrame& mainFrame, wxMenu& menu) {
     mainFrame.Bind(wxEVT_MENU, show, id);
   }
 }
+
+}  // namespace kestrel::workbench

@@ -3,11 +3,11 @@
 
 #include <string>
 
-namespace svnscc {
+namespace kestrel {
 
 struct Contents {
   std::string Bytes;
   bool IsBinary = false;  // by its type property, or because it contains a NUL
 };
 
-}  // namespace svnscc
+}  // namespace kestrel

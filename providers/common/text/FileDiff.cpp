@@ -4,9 +4,9 @@
 #include <unordered_map>
 
 #include "common/text/LineMatch.h"
-#include "host/Text.h"
+#include "system/Text.h"
 
-namespace svnscc {
+namespace kestrel {
 
 namespace {
 
@@ -152,4 +152,4 @@ std::pair<Span, Span> ChangedParts(std::string_view left, std::string_view right
   return {{start, left.size() - start - end}, {start, right.size() - start - end}};
 }
 
-}  // namespace svnscc
+}  // namespace kestrel

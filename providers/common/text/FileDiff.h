@@ -8,9 +8,9 @@
 #include <utility>
 #include <vector>
 
-#include "provider/sccdefs.h"
+#include "scc/sccdefs.h"
 
-namespace svnscc {
+namespace kestrel {
 
 struct DiffOptions {
   bool IgnoreCase = false;
@@ -84,4 +84,4 @@ class FileDiff {
 /// What differs between two lines of UTF-8: all but their common beginning and end, at character borders.
 std::pair<Span, Span> ChangedParts(std::string_view left, std::string_view right);
 
-}  // namespace svnscc
+}  // namespace kestrel

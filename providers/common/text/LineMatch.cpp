@@ -6,7 +6,7 @@
 #include <unordered_map>
 #include <unordered_set>
 
-namespace svnscc {
+namespace kestrel {
 namespace {
 
 /// A stretch of lines on either side, as half-open ranges.
@@ -234,4 +234,4 @@ class Matcher {
 
 LineMatches MatchLines(const LineIds& left, const LineIds& right) { return Matcher(left, right).Match(); }
 
-}  // namespace svnscc
+}  // namespace kestrel

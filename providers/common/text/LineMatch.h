@@ -4,7 +4,7 @@
 #include <utility>
 #include <vector>
 
-namespace svnscc {
+namespace kestrel {
 
 /// Lines as numbers: equal lines have equal numbers.
 using LineIds = std::vector<int>;
@@ -15,4 +15,4 @@ using LineMatches = std::vector<std::pair<int, int>>;
 /// that is what people take for the correspondence, and it keeps long texts with little in common cheap.
 LineMatches MatchLines(const LineIds& left, const LineIds& right);
 
-}  // namespace svnscc
+}  // namespace kestrel

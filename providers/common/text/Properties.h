@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-namespace svnscc {
+namespace kestrel {
 
 using NamedTexts = std::vector<std::pair<std::string, std::string>>;
 
@@ -14,4 +14,4 @@ struct NodeProperties {
   NamedTexts Properties;  // name and value of versioned properties
 };
 
-}  // namespace svnscc
+}  // namespace kestrel

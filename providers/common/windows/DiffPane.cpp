@@ -1,8 +1,8 @@
 #include "common/windows/DiffPane.h"
 
-#include "host/WxText.h"
+#include "toolkit/WxText.h"
 
-namespace svnscc {
+namespace kestrel {
 namespace {
 
 // A row's marks: a sign in the margin, and the background behind the text.
@@ -123,4 +123,4 @@ void DiffPane::CopyWithoutFillers(wxStyledTextEvent& event) {
   event.SetString(text);
 }
 
-}  // namespace svnscc
+}  // namespace kestrel

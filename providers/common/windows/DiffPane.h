@@ -4,7 +4,7 @@
 #include "common/text/FileDiff.h"
 #include "common/windows/WindowTools.h"
 
-namespace svnscc {
+namespace kestrel {
 
 enum class DiffSideOf { Left, Right };
 
@@ -26,4 +26,4 @@ class DiffPane : public TextPane {
   wxPoint scrolledTo_;          // what the other pane knows: pixels to the right, first row shown
 };
 
-}  // namespace svnscc
+}  // namespace kestrel

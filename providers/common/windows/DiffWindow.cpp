@@ -4,9 +4,9 @@
 
 #include "common/windows/DiffPane.h"
 #include "common/windows/WindowStrings.h"
-#include "host/WxText.h"
+#include "toolkit/WxText.h"
 
-namespace svnscc {
+namespace kestrel {
 namespace {
 
 std::unique_ptr<FileDiff> DiffOf(const DiffSide& left, const DiffSide& right, const DiffOptions& options) {
@@ -177,4 +177,4 @@ std::string DiffWindow::Sentence() const {
   return ignoreSpace_->GetValue() ? where : Joined(where, diff_->Ends());
 }
 
-}  // namespace svnscc
+}  // namespace kestrel

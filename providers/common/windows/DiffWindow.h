@@ -7,7 +7,7 @@
 #include "common/text/FileDiff.h"
 #include "common/windows/WindowTools.h"
 
-namespace svnscc {
+namespace kestrel {
 
 struct DiffSide {
   std::string Title;
@@ -49,4 +49,4 @@ class DiffWindow : public ToolWindow {
   DiffPane* rightPane_ = nullptr;
 };
 
-}  // namespace svnscc
+}  // namespace kestrel

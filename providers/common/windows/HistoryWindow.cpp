@@ -4,9 +4,9 @@
 
 #include "common/windows/TextWindow.h"
 #include "common/windows/WindowStrings.h"
-#include "host/WxText.h"
+#include "toolkit/WxText.h"
 
-namespace svnscc {
+namespace kestrel {
 
 HistoryWindow::HistoryWindow(wxWindow* parent, const std::string& provider, HistorySource& source,
                              std::string name)
@@ -156,4 +156,4 @@ void HistoryWindow::More() {
   });
 }
 
-}  // namespace svnscc
+}  // namespace kestrel

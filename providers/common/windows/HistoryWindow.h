@@ -6,7 +6,7 @@
 #include "common/windows/DiffWindow.h"
 #include "common/windows/WindowTools.h"
 
-namespace svnscc {
+namespace kestrel {
 
 /// What a history window shows, newest revision first, with its first page.  Every function but the const ones may contact
 /// the repository; the window shows the text of an exception that one throws.
@@ -74,4 +74,4 @@ class HistoryWindow : public ToolWindow {
   wxButton* more_ = nullptr;
 };
 
-}  // namespace svnscc
+}  // namespace kestrel

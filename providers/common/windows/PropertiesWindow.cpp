@@ -1,9 +1,9 @@
 #include "common/windows/PropertiesWindow.h"
 
 #include "common/windows/WindowStrings.h"
-#include "host/WxText.h"
+#include "toolkit/WxText.h"
 
-namespace svnscc {
+namespace kestrel {
 
 PropertiesWindow::PropertiesWindow(wxWindow* parent, const std::string& name, NodeProperties description)
     : ToolWindow(parent, Format(sPropertiesTitle.Text, {name})), description_(std::move(description)) {
@@ -62,4 +62,4 @@ wxSizer* PropertiesWindow::CreateProperties() {
   return part;
 }
 
-}  // namespace svnscc
+}  // namespace kestrel

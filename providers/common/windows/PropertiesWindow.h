@@ -4,7 +4,7 @@
 #include "common/text/Properties.h"
 #include "common/windows/WindowTools.h"
 
-namespace svnscc {
+namespace kestrel {
 
 class PropertiesWindow : public ToolWindow {
  public:
@@ -19,4 +19,4 @@ class PropertiesWindow : public ToolWindow {
   wxTextCtrl* value_ = nullptr;
 };
 
-}  // namespace svnscc
+}  // namespace kestrel

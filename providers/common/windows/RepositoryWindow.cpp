@@ -7,10 +7,10 @@
 #include "common/windows/PropertiesWindow.h"
 #include "common/windows/TextWindow.h"
 #include "common/windows/WindowStrings.h"
-#include "host/WxText.h"
-#include "host/WxWheel.h"
+#include "toolkit/WxText.h"
+#include "toolkit/WxWheel.h"
 
-namespace svnscc {
+namespace kestrel {
 namespace {
 
 struct FolderData : wxTreeItemData {
@@ -292,4 +292,4 @@ void RepositoryWindow::ShowPropertiesOf() {
     PropertiesWindow(this, DisplayName(path), std::move(properties)).ShowModal();
 }
 
-}  // namespace svnscc
+}  // namespace kestrel

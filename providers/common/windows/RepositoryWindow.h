@@ -13,7 +13,7 @@
 #include "common/windows/HistoryWindow.h"
 #include "common/windows/WindowTools.h"
 
-namespace svnscc {
+namespace kestrel {
 
 /// The repository that a window browses.  Paths are those inside it, with "/" between the names and empty for the root.
 /// Every function but the const ones may contact the repository; the window shows the text of an exception.
@@ -96,4 +96,4 @@ class RepositoryWindow : public ToolWindow {
   wxButton* refresh_ = nullptr;
 };
 
-}  // namespace svnscc
+}  // namespace kestrel

@@ -1,9 +1,9 @@
 #include "common/windows/TextWindow.h"
 
 #include "common/windows/WindowStrings.h"
-#include "host/WxText.h"
+#include "toolkit/WxText.h"
 
-namespace svnscc {
+namespace kestrel {
 namespace {
 
 class TextWindow : public ToolWindow {
@@ -30,4 +30,4 @@ void ShowTextWindow(wxWindow* parent, const std::string& title, const Contents& 
   TextWindow(parent, title, contents).ShowModal();
 }
 
-}  // namespace svnscc
+}  // namespace kestrel

@@ -4,8 +4,8 @@
 #include "common/text/Contents.h"
 #include "common/windows/WindowTools.h"
 
-namespace svnscc {
+namespace kestrel {
 
 void ShowTextWindow(wxWindow* parent, const std::string& title, const Contents& contents);
 
-}  // namespace svnscc
+}  // namespace kestrel

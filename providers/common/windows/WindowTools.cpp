@@ -4,10 +4,10 @@
 #include <wx/thread.h>
 
 #include "common/windows/WindowStrings.h"
-#include "host/WxText.h"
-#include "ui/WindowSize.h"
+#include "toolkit/WindowSize.h"
+#include "toolkit/WxText.h"
 
-namespace svnscc {
+namespace kestrel {
 
 bool CanShowWindows() {
   const wxAppConsole* app = wxAppConsole::GetInstance();
@@ -170,4 +170,4 @@ void RowList::CopySelected() const {
   CopyToClipboard(line);
 }
 
-}  // namespace svnscc
+}  // namespace kestrel

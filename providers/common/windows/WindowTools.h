@@ -9,9 +9,9 @@
 #include <string>
 #include <vector>
 
-#include "provider/sccdefs.h"
+#include "scc/sccdefs.h"
 
-namespace svnscc {
+namespace kestrel {
 
 /// Whether this process runs the toolkit, and this thread is the one that may show windows.
 bool CanShowWindows();
@@ -73,4 +73,4 @@ class RowList : public wxListCtrl {
   TextOf textOf_;
 };
 
-}  // namespace svnscc
+}  // namespace kestrel

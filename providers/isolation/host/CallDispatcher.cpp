@@ -5,9 +5,9 @@
 
 #include "OptionsTable.h"
 #include "ProviderArguments.h"
-#include "host/Guard.h"
+#include "system/Guard.h"
 
-namespace isolation {
+namespace kestrel::isolation {
 namespace provider {
 
 std::uint32_t OptionBlocks::NumberOf(void* block) {
@@ -91,4 +91,4 @@ std::string DispatchCall(const std::string& call) {
   return kEntries[entry](in);
 }
 
-}  // namespace isolation
+}  // namespace kestrel::isolation

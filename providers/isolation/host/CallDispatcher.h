@@ -4,9 +4,9 @@
 #include <string>
 
 #include "Wire.h"
-#include "host/Library.h"
+#include "system/Library.h"
 
-namespace isolation {
+namespace kestrel::isolation {
 
 /// Loads the provider; returns the reason if that fails, otherwise an empty text.
 std::string LoadProvider(const std::string& path);
@@ -16,4 +16,4 @@ std::string DispatchCall(const std::string& call);
 /// True after a structured exception in a call: the state of the provider is unknown, so the process has to end.
 bool HasFaulted();
 
-}  // namespace isolation
+}  // namespace kestrel::isolation

@@ -5,7 +5,7 @@
 
 #include "Channel.h"
 
-namespace isolation {
+namespace kestrel::isolation {
 namespace {
 
 // Queries are serialised and refused outside of a call, so that only one thread reads the channel.
@@ -55,4 +55,4 @@ scc::Bool SCC_CALL PopulateProc(void*, scc::Bool addOrKeep, scc::Long status, co
   return Ask(FrameKind::ListItem, Serialize(addOrKeep, status, Truncated(name, kSmallFrameSize / 2)), 0);
 }
 
-}  // namespace isolation
+}  // namespace kestrel::isolation

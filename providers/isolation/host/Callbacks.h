@@ -1,9 +1,9 @@
 // The callbacks that the provider gets; it may call them from any thread.
 #pragma once
 
-#include "provider/sccdefs.h"
+#include "scc/sccdefs.h"
 
-namespace isolation {
+namespace kestrel::isolation {
 
 scc::Long SCC_CALL TextOutProc(const char* text, scc::Dword kind) noexcept;
 scc::Bool SCC_CALL PopulateProc(void* data, scc::Bool addOrKeep, scc::Long status, const char* name) noexcept;
@@ -17,4 +17,4 @@ class CallScope {
   CallScope& operator=(const CallScope&) = delete;
 };
 
-}  // namespace isolation
+}  // namespace kestrel::isolation

@@ -3,7 +3,7 @@
 
 #include "Wire.h"
 
-namespace isolation::channel {
+namespace kestrel::isolation::channel {
 
 /// Opens the channel that the program's last argument names, and makes the program end when the client ends.  To be called
 /// before all others.
@@ -17,4 +17,4 @@ void Write(FrameKind kind, const std::string& body);
 /// From now on the program has a few seconds to end after the client closes the channel.
 void ExpectClose();
 
-}  // namespace isolation::channel
+}  // namespace kestrel::isolation::channel

@@ -11,13 +11,14 @@
 #include "Channel.h"
 #include "ServeLoop.h"
 #include "WindowWatch.h"
-#include "host/System.h"
+#include "system/System.h"
 #include "workbench/macro/PlayedWindows.h"
 #include "workbench/macro/ProviderWindows.h"
 
-namespace {
+using namespace kestrel;
+using namespace kestrel::isolation;
 
-using namespace isolation;
+namespace {
 
 class HostApp final : public wxApp {
  public:
@@ -51,10 +52,11 @@ int main(int argc, char** argv) {
   if (arguments.empty()) return 2;  // not started by the library
   channel::Open(arguments.back());
   const bool windows = StartToolkit(argc, argv);
-  std::unique_ptr<TPlayedWindows> played;
+  std::unique_ptr<workbench::TPlayedWindows> played;
   if (windows) {
     WatchWindows();
-    if (const char* folder = std::getenv(kPlayedFolder)) played = std::make_unique<TPlayedWindows>(folder);
+    if (const char* folder = std::getenv(workbench::kPlayedFolder))
+      played = std::make_unique<workbench::TPlayedWindows>(folder);
   }
   const auto fault = LoadProvider(arguments.front());
   channel::Write(FrameKind::Hello, Serialize(fault));

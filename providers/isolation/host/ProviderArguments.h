@@ -12,7 +12,7 @@
 #include "OptionsTable.h"
 #include "WindowWatch.h"
 
-namespace isolation::provider {
+namespace kestrel::isolation::provider {
 
 using scc::Long;
 
@@ -282,4 +282,4 @@ struct ReturnedNames {
   const char** given_ = nullptr;
 };
 
-}  // namespace isolation::provider
+}  // namespace kestrel::isolation::provider

@@ -3,9 +3,9 @@
 
 #include <cstdint>
 
-#include "provider/sccdefs.h"
+#include "scc/sccdefs.h"
 
-namespace isolation {
+namespace kestrel::isolation {
 
 /// Makes `window` of the client own the windows that are shown from now on; 0 for none.  Returns the window handle to pass to
 /// the provider.
@@ -13,4 +13,4 @@ scc::WindowHandle SetOwnerWindow(std::uint64_t window);
 /// Installs the hooks.  To be called once the toolkit has been initialised.
 void WatchWindows();
 
-}  // namespace isolation
+}  // namespace kestrel::isolation

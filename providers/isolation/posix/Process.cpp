@@ -20,7 +20,7 @@ extern "C" {  // missing in the header of glibc 2.36
 #include <sys/pidfd.h>
 }
 
-namespace isolation {
+namespace kestrel::isolation {
 namespace {
 
 constexpr int kExitTimeout = 200;  // ms that the process has to end after its channel closed
@@ -179,4 +179,4 @@ std::unique_ptr<Process> Process::Start(const std::string& program, const std::s
   return std::make_unique<PosixProcess>(program, argument);
 }
 
-}  // namespace isolation
+}  // namespace kestrel::isolation

@@ -2,7 +2,7 @@
 
 #include <dlfcn.h>
 
-namespace isolation {
+namespace kestrel::isolation {
 
 std::string OwnConfigFile() {
   Dl_info library{};
@@ -11,4 +11,4 @@ std::string OwnConfigFile() {
   return path.substr(0, path.rfind('.')) + kConfigExtension;
 }
 
-}  // namespace isolation
+}  // namespace kestrel::isolation

@@ -3,7 +3,7 @@
 #include <sys/uio.h>
 #include <unistd.h>
 
-namespace isolation {
+namespace kestrel::isolation {
 
 bool TryReadMemory(const void* from, void* to, std::size_t size) {
   const iovec target{to, size};
@@ -11,4 +11,4 @@ bool TryReadMemory(const void* from, void* to, std::size_t size) {
   return process_vm_readv(getpid(), &target, 1, &source, 1, 0) == static_cast<ssize_t>(size);
 }
 
-}  // namespace isolation
+}  // namespace kestrel::isolation

@@ -2,7 +2,7 @@
 
 #include <gtk/gtk.h>
 
-namespace isolation {
+namespace kestrel::isolation {
 namespace {
 
 bool IsUserInput(GdkEventType type) {
@@ -29,4 +29,4 @@ void DiscardUserInput() {
   }
 }
 
-}  // namespace isolation
+}  // namespace kestrel::isolation

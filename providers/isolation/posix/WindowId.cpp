@@ -4,11 +4,11 @@
 #include <gtk/gtk.h>
 #include <wx/window.h>
 
-namespace isolation {
+namespace kestrel::isolation {
 
 std::uint64_t WindowId(scc::WindowHandle, wxWindow* fallback) {
   auto* const window = fallback != nullptr ? gtk_widget_get_window(fallback->GetHandle()) : nullptr;
   return window != nullptr && GDK_IS_X11_WINDOW(window) ? gdk_x11_window_get_xid(window) : 0;
 }
 
-}  // namespace isolation
+}  // namespace kestrel::isolation

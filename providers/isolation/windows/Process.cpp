@@ -8,10 +8,10 @@
 #include <utility>
 #include <vector>
 
-#include "host/windows/Api.h"
-#include "host/windows/Wide.h"
+#include "system/windows/Api.h"
+#include "system/windows/Wide.h"
 
-namespace isolation {
+namespace kestrel::isolation {
 namespace {
 
 constexpr DWORD kPipeBuffer = 64 << 10;
@@ -211,4 +211,4 @@ std::unique_ptr<Process> Process::Start(const std::string& program, const std::s
   return std::make_unique<WindowsProcess>(program, argument);
 }
 
-}  // namespace isolation
+}  // namespace kestrel::isolation

@@ -1,9 +1,9 @@
 #include "ProxyConfig.h"
 
-#include "host/windows/Api.h"
-#include "host/windows/Wide.h"
+#include "system/windows/Api.h"
+#include "system/windows/Wide.h"
 
-namespace isolation {
+namespace kestrel::isolation {
 
 std::string OwnConfigFile() {
   HMODULE module = nullptr;
@@ -15,4 +15,4 @@ std::string OwnConfigFile() {
   return path.substr(0, path.rfind('.')) + kConfigExtension;
 }
 
-}  // namespace isolation
+}  // namespace kestrel::isolation

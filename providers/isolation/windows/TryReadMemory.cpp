@@ -1,12 +1,12 @@
 #include "TryReadMemory.h"
 
-#include "host/windows/Api.h"
+#include "system/windows/Api.h"
 
-namespace isolation {
+namespace kestrel::isolation {
 
 bool TryReadMemory(const void* from, void* to, std::size_t size) {
   SIZE_T read = 0;
   return ReadProcessMemory(GetCurrentProcess(), from, to, size, &read) != 0 && read == size;
 }
 
-}  // namespace isolation
+}  // namespace kestrel::isolation

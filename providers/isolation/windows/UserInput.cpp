@@ -2,9 +2,9 @@
 
 #include <utility>
 
-#include "host/windows/Api.h"
+#include "system/windows/Api.h"
 
-namespace isolation {
+namespace kestrel::isolation {
 
 void DiscardUserInput() {
   MSG message;
@@ -14,4 +14,4 @@ void DiscardUserInput() {
     }
 }
 
-}  // namespace isolation
+}  // namespace kestrel::isolation

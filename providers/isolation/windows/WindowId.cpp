@@ -2,9 +2,9 @@
 
 #include <wx/window.h>
 
-#include "host/windows/Api.h"
+#include "system/windows/Api.h"
 
-namespace isolation {
+namespace kestrel::isolation {
 
 std::uint64_t WindowId(scc::WindowHandle client, wxWindow* fallback) {
   AllowSetForegroundWindow(ASFW_ANY);  // the provider's window comes in fallback of this program's
@@ -13,4 +13,4 @@ std::uint64_t WindowId(scc::WindowHandle client, wxWindow* fallback) {
   return reinterpret_cast<std::uintptr_t>(window);
 }
 
-}  // namespace isolation
+}  // namespace kestrel::isolation

@@ -6,7 +6,7 @@
 #include "subversion/svn/ProviderContext.h"
 #include "subversion/svn/SvnStrings.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 namespace {
 
 constexpr Rule kProceed{Step::Proceed};
@@ -147,4 +147,4 @@ Survey::Survey(ProviderContext& context, const std::vector<std::string>& paths)
 
 FileStatus Survey::StatusOf(const std::string& path) const { return walked_.Of(path); }
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

@@ -6,7 +6,7 @@
 #include "subversion/svn/LocalStatus.h"
 #include "subversion/svn/Status.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 
 enum class FileState {
   Nowhere,     // neither here nor in the repository
@@ -73,4 +73,4 @@ class Survey {
   bool alone_;
 };
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

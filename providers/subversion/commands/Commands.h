@@ -6,7 +6,7 @@
 
 #include "subversion/svn/ProviderContext.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 
 enum class AfterCommit { Release, KeepCheckedOut };
 
@@ -72,4 +72,4 @@ void ReportNotCheckedOut(ProviderContext& context, const std::vector<std::string
 /// Releases locks that the working copy holds.
 void Unlock(ProviderContext& context, const std::vector<std::string>& paths, Outcome& outcome);
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

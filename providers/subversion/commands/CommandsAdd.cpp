@@ -7,7 +7,6 @@
 #include <functional>
 #include <set>
 
-#include "host/System.h"
 #include "subversion/commands/CommandStrings.h"
 #include "subversion/commands/CommandTable.h"
 #include "subversion/commands/Commands.h"
@@ -16,8 +15,9 @@
 #include "subversion/svn/LocalStatus.h"
 #include "subversion/svn/NodeInfo.h"
 #include "subversion/svn/Repository.h"
+#include "system/System.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 namespace {
 
 /// The file, or the outermost of the folders above it that the working copy does not know: what is not in the repository
@@ -266,4 +266,4 @@ scc::Long Add(ProviderContext& context, Names names, const std::string& comment,
   return outcome.Result();
 }
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

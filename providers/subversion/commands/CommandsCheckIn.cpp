@@ -7,7 +7,7 @@
 #include "subversion/project/ProjectStrings.h"
 #include "subversion/svn/LockOwner.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 namespace {
 
 /// What is to be done with the files of one call.
@@ -109,4 +109,4 @@ scc::Long CheckIn(ProviderContext& context, Names names, const std::string& comm
   return outcome.Result();
 }
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

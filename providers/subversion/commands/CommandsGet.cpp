@@ -16,7 +16,7 @@
 #include "subversion/svn/SvnStrings.h"
 #include "subversion/svn/WorkingCopyLocks.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 namespace {
 
 enum class Reach { AsItIs, Set };
@@ -235,4 +235,4 @@ scc::Long GetFolders(ProviderContext& context, Names names, Below below, const C
   return outcome.Result();
 }
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

@@ -14,7 +14,7 @@
 #include "subversion/svn/Repository.h"
 #include "subversion/svn/SvnStrings.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 namespace {
 
 /// Tries to lock all of `paths`; who was refused, and why.
@@ -233,4 +233,4 @@ scc::Long UndoCheckOut(ProviderContext& context, Names names) {
   return outcome.Result();
 }
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

@@ -5,7 +5,7 @@
 #include "subversion/commands/TemporaryRename.h"
 #include "subversion/svn/SvnStrings.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 namespace {
 
 /// Whether the file can be removed, and what comes before.
@@ -70,4 +70,4 @@ scc::Long Remove(ProviderContext& context, Names names, const std::string& comme
   return outcome.Result();
 }
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

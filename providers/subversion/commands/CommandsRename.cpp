@@ -9,7 +9,7 @@
 #include "subversion/svn/LocalStatus.h"
 #include "subversion/svn/SvnStrings.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 namespace {
 
 /// Throws unless the file can be renamed; whether it is checked out here.
@@ -127,4 +127,4 @@ scc::Long Rename(ProviderContext& context, const char* oldName, const char* newN
   return outcome.Result();
 }
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

@@ -10,7 +10,7 @@
 #include "subversion/commands/TemporaryRename.h"
 #include "subversion/svn/Question.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 namespace {
 
 void Revert(ProviderContext& context, const std::string& path, svn_depth_t depth) {
@@ -160,4 +160,4 @@ bool AskToAcceptRepository(ProviderContext& context, const std::vector<std::stri
   return AskUser(nullptr, {sGiveUpTitle.str(), Format(sGiveUp.Text, {labels})}).value_or(false);
 }
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

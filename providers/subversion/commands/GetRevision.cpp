@@ -1,14 +1,14 @@
 #include "subversion/commands/GetRevision.h"
 
-#include "host/System.h"
 #include "subversion/commands/CommandStrings.h"
 #include "subversion/commands/Commands.h"
 #include "subversion/commands/TemporaryRename.h"
 #include "subversion/svn/LocalStatus.h"
 #include "subversion/svn/NodeInfo.h"
 #include "subversion/svn/ProviderContext.h"
+#include "system/System.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 namespace {
 
 void Revert(ProviderContext& context, const std::string& path) {
@@ -35,4 +35,4 @@ GotRevision GetRevision(ProviderContext& context, const std::string& path, svn_r
   return got;
 }
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

@@ -5,7 +5,7 @@
 
 #include <string>
 
-namespace svnscc {
+namespace kestrel::svnscc {
 
 class ProviderContext;
 
@@ -17,4 +17,4 @@ struct GotRevision {
 /// checked in; any other is fetched at that revision.  Local edits are kept in a copy beside the file.
 GotRevision GetRevision(ProviderContext& context, const std::string& path, svn_revnum_t revision);
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

@@ -6,7 +6,7 @@
 #include "subversion/svn/LocalStatus.h"
 #include "subversion/svn/SvnStrings.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 
 std::vector<std::string> MissingFiles(ProviderContext& context, const std::string& folder) {
   EnsureWorkingCopy(context);
@@ -22,4 +22,4 @@ std::vector<std::string> MissingFiles(ProviderContext& context, const std::strin
   return missing;
 }
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

@@ -6,10 +6,10 @@
 
 #include "subversion/svn/ProviderContext.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 
 /// Sorted.  `folder` is a path inside the project; only what is below it counts.  Throws Failure when the repository
 /// cannot be asked.
 std::vector<std::string> MissingFiles(ProviderContext& context, const std::string& folder);
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

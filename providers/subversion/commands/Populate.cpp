@@ -4,7 +4,7 @@
 #include <array>
 #include <unordered_set>
 
-namespace svnscc {
+namespace kestrel::svnscc {
 namespace {
 
 constexpr scc::Long kOutHere =
@@ -97,4 +97,4 @@ scc::Long Populate(ProviderContext& context, scc::SCCCommand command, Names name
   return table.Result;
 }
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

@@ -3,7 +3,7 @@
 
 #include "subversion/svn/ProviderContext.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 
 enum class Named { Files, Folders };
 
@@ -16,4 +16,4 @@ scc::Long Populate(ProviderContext& context, scc::SCCCommand command, Names name
 /// Whether a file with these bits can be offered for the command.
 bool Fits(scc::SCCCommand command, scc::Long bits);
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

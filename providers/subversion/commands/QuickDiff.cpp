@@ -3,7 +3,7 @@
 #include "subversion/svn/LocalStatus.h"
 #include "subversion/svn/NodeInfo.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 namespace {
 
 bool Differs(ProviderContext& context, const std::string& path, const DiffOptions& options) {
@@ -36,4 +36,4 @@ scc::Long QuickDiff(ProviderContext& context, const char* name, scc::Long flags)
   return context.LastStatuses().Of(path).Bits != 0 ? scc::SCC_I_FILEDIFFERS : scc::SCC_E_FILENOTCONTROLLED;
 }
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

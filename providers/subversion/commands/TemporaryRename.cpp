@@ -6,11 +6,11 @@
 #include <filesystem>
 #include <utility>
 
-#include "host/System.h"
 #include "subversion/commands/CommandStrings.h"
 #include "subversion/svn/ProviderContext.h"
+#include "system/System.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 namespace {
 
 constexpr std::size_t kLongestName = 255;
@@ -102,4 +102,4 @@ MutedNotifications::MutedNotifications(const ProviderContext& context)
 
 MutedNotifications::~MutedNotifications() { context_->notify_func2 = notify_; }
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

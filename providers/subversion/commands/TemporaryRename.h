@@ -8,7 +8,7 @@
 #include "subversion/svn/LocalStatus.h"
 #include "subversion/svn/SvnHandles.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 
 void RenameOnDisk(const std::string& from, const std::string& to);
 
@@ -59,4 +59,4 @@ class MutedNotifications {
   svn_wc_notify_func2_t notify_;
 };
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

@@ -4,15 +4,15 @@
 
 #include <filesystem>
 
-#include "host/System.h"
 #include "subversion/project/ProjectConsent.h"
 #include "subversion/project/ProjectStrings.h"
 #include "subversion/svn/LocalStatus.h"
 #include "subversion/svn/Repository.h"
 #include "subversion/svn/SvnStrings.h"
 #include "subversion/svn/WorkingCopyLocks.h"
+#include "system/System.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 namespace {
 
 std::string LocalFolderOf(const std::string& text) {
@@ -135,4 +135,4 @@ void EnsureWorkingCopy(ProviderContext& context) {
   if (!IsWorkingCopyOf(context.Svn(), project)) MakeWorkingCopy(context.Svn(), project);
 }
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

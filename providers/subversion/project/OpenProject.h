@@ -5,7 +5,7 @@
 
 #include "subversion/svn/ProviderContext.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 
 /// How a client opens a project.
 struct OpenMode {
@@ -34,4 +34,4 @@ void EnsureWorkingCopy(ProviderContext& context);
 /// The name under which the operating system knows the user.
 std::string SystemUser();
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

@@ -3,16 +3,16 @@
 #include <algorithm>
 #include <filesystem>
 
-#include "host/Paths.h"
-#include "host/System.h"
 #include "subversion/project/OpenProject.h"
 #include "subversion/project/ProjectStrings.h"
 #include "subversion/project/RecentRepositories.h"
 #include "subversion/project/UsedRepositories.h"
 #include "subversion/svn/Repository.h"
 #include "subversion/svn/SvnStrings.h"
+#include "system/Paths.h"
+#include "system/System.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 namespace {
 
 // What clients keep: some give the project name less room than the API does.
@@ -201,4 +201,4 @@ void ProjectChoice::ShowNextStep() {
   Tell(planned_.contains(*selected_) ? Format(sWillCreate.Text, {url}) : Format(sWillUse.Text, {url}), false);
 }
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

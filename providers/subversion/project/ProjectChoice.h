@@ -10,7 +10,7 @@
 #include "subversion/project/ProjectPrompt.h"
 #include "subversion/svn/Client.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 
 class ProjectChoice {
  public:
@@ -67,4 +67,4 @@ class ProjectChoice {
   bool isError_ = false;
 };
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

@@ -3,13 +3,13 @@
 #include <algorithm>
 #include <filesystem>
 
-#include "host/System.h"
 #include "subversion/project/ProjectStrings.h"
 #include "subversion/project/UsedRepositories.h"
 #include "subversion/svn/Question.h"
 #include "subversion/svn/Repository.h"
+#include "system/System.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 namespace {
 
 namespace fs = std::filesystem;
@@ -86,4 +86,4 @@ void RequireFolderConsent(const std::string& root, const Project& project, const
   Require(sConsentNewFolder, sConsentWillCreate, root, project, names, mode);
 }
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

@@ -3,7 +3,7 @@
 
 #include "subversion/project/OpenProject.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 
 /// Makes sure that the user agreed to use the repository at `root` for `project`.  Throws Failure, before anything is
 /// contacted, when the user did not, or cannot be asked.
@@ -13,4 +13,4 @@ void RequireConsent(const std::string& root, const Project& project, const Proje
 void RequireFolderConsent(const std::string& root, const Project& project, const ProjectNames& names,
                           const OpenMode& mode);
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

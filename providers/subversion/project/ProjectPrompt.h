@@ -5,7 +5,7 @@
 
 #include "subversion/svn/ProviderContext.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 
 /// In: what the client proposes; texts may be empty.  Out: what was chosen.
 struct ProjectRequest {
@@ -21,4 +21,4 @@ struct ProjectRequest {
 /// User interface thread only.
 scc::Long PromptForProject(ProviderContext& context, scc::WindowHandle parent, ProjectRequest& request);
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

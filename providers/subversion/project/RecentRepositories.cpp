@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <stdexcept>
 
-#include "host/Registry.h"
+#include "system/Registry.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 namespace {
 
 constexpr const char* kKey = "Software\\SubversionScc\\RecentRepositories";
@@ -37,4 +37,4 @@ void RememberRepository(const std::string& url) {
   }
 }
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

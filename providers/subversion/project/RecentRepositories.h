@@ -4,11 +4,11 @@
 #include <string>
 #include <vector>
 
-namespace svnscc {
+namespace kestrel::svnscc {
 
 /// Most recent first.
 std::vector<std::string> RecentRepositories();
 /// Puts `url` in front.  A list that cannot be stored is no reason to stop anybody.
 void RememberRepository(const std::string& url);
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

@@ -4,11 +4,11 @@
 
 #include <stdexcept>
 
-#include "host/Registry.h"
 #include "subversion/svn/Repository.h"
 #include "subversion/svn/SvnHandles.h"
+#include "system/Registry.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 namespace {
 
 constexpr const char* kKey = "Software\\SubversionScc\\UsedRepositories";
@@ -47,4 +47,4 @@ void MarkProjectUsed(const std::string& address, const std::string& projectName)
   MarkUsed(UrlOf(*root, *path));
 }
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

@@ -4,7 +4,7 @@
 
 #include <string>
 
-namespace svnscc {
+namespace kestrel::svnscc {
 
 /// Whether the user agreed to `url`, a repository or a project folder to be made, as libsvn spells addresses.
 bool IsUsed(const std::string& url);
@@ -15,4 +15,4 @@ void MarkUsed(const std::string& url);
 /// both as a client stores them.  Does nothing when they are no address and no path.
 void MarkProjectUsed(const std::string& address, const std::string& projectName);
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

@@ -17,7 +17,7 @@
 #include "subversion/svn/Login.h"
 #include "subversion/svn/SvnStrings.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 namespace {
 
 constexpr int kLoginRetries = 2;
@@ -174,4 +174,4 @@ svn_error_t* Client::CheckCancelled(void* baton) noexcept {
   return stop ? svn_error_create(SVN_ERR_CANCELLED, nullptr, nullptr) : SVN_NO_ERROR;
 }
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

@@ -10,7 +10,7 @@
 
 #include "subversion/svn/SvnHandles.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 
 /// Readies APR and Subversion for this process, once; later calls do nothing.  They last until the process ends: see
 /// nodelete in CMakeLists.txt.  Throws Failure.
@@ -68,4 +68,4 @@ class Client {
   std::exception_ptr callbackException_;  // of a callback, rethrown by Run
 };
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

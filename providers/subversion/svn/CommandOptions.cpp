@@ -4,7 +4,7 @@
 #include <cstring>
 #include <utility>
 
-namespace svnscc {
+namespace kestrel::svnscc {
 
 namespace {
 
@@ -73,4 +73,4 @@ CommandOptions OptionBlocks::Take(void* argument, scc::SCCCommand command) {
   return taken;
 }
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

@@ -8,9 +8,9 @@
 #include <utility>
 #include <vector>
 
-#include "provider/sccdefs.h"
+#include "scc/sccdefs.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 
 /// A client keeps one block for all commands, or one for each: every block has room for all.
 struct CommandOptions {
@@ -62,4 +62,4 @@ class OptionBlocks {
   std::optional<scc::SCCCommand> taken_;    // the command of this call
 };
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

@@ -7,7 +7,7 @@
 #include "subversion/svn/SvnHandles.h"
 #include "subversion/svn/SvnStrings.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 namespace {
 
 struct Row {
@@ -158,4 +158,4 @@ apr_array_header_t* ToArray(const std::vector<std::string>& texts, apr_pool_t* p
   return array;
 }
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

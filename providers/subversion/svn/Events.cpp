@@ -1,6 +1,6 @@
 #include "subversion/svn/Events.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 
 void EventQueue::Told(const std::string& path, scc::Long bits) {
   told_[path] = bits;
@@ -40,4 +40,4 @@ void EventQueue::Clear() {
   order_.clear();
 }
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

@@ -8,7 +8,7 @@
 
 #include "subversion/svn/Status.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 
 /// Covers files that the client asked about.  A file is queued once, with its latest status.
 class EventQueue {
@@ -38,4 +38,4 @@ class EventQueue {
   std::deque<std::string> order_;  // of pending_, and paths that are pending no more
 };
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

@@ -5,7 +5,7 @@
 #include <svn_props.h>
 #include <svn_time.h>
 
-namespace svnscc {
+namespace kestrel::svnscc {
 namespace {
 
 struct LogReceiver {
@@ -76,4 +76,4 @@ Contents History::TextOf(std::size_t index) {
   return FetchContents(client_, place_, Numbered(revisions_.at(index).Number));
 }
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

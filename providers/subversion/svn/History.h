@@ -6,7 +6,7 @@
 
 #include "subversion/svn/NodeInfo.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 
 struct Revision {
   svn_revnum_t Number = SVN_INVALID_REVNUM;
@@ -39,4 +39,4 @@ class History {
   bool hasMore_ = true;
 };
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

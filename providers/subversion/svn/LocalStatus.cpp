@@ -7,10 +7,10 @@
 
 #include <cstring>
 
-#include "host/System.h"
 #include "subversion/svn/ProviderContext.h"
+#include "system/System.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 namespace {
 
 LocalState StateOf(const svn_wc_status3_t& status, bool onDisk) {
@@ -119,4 +119,4 @@ void MakeWritable(const std::string& path) {
   Check(svn_io_set_file_read_write(path.c_str(), /*ignore_enoent*/ TRUE, pool));
 }
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

@@ -5,7 +5,7 @@
 
 #include <string>
 
-namespace svnscc {
+namespace kestrel::svnscc {
 
 class ProviderContext;
 
@@ -47,4 +47,4 @@ LocalStatus ReadLocalStatus(const ProviderContext& context, const std::string& p
 void MakeWritable(const std::string& path);
 bool IsOnDisk(const std::string& path);
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

@@ -4,7 +4,7 @@
 #include "subversion/svn/ProviderContext.h"
 #include "subversion/svn/SvnStrings.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 
 void ReportBrokenLock(ProviderContext& context, const std::string& path) {
   std::string owner;
@@ -26,4 +26,4 @@ std::string ExplainForeignLock(ProviderContext& context, const std::string& path
   }
 }
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

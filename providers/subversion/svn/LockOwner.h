@@ -3,7 +3,7 @@
 
 #include <string>
 
-namespace svnscc {
+namespace kestrel::svnscc {
 
 class Failure;
 class ProviderContext;
@@ -13,4 +13,4 @@ void ReportBrokenLock(ProviderContext& context, const std::string& path);
 /// Why a file that the repository holds locked otherwise was refused: who has it.  `failure` when that cannot be asked.
 std::string ExplainForeignLock(ProviderContext& context, const std::string& path, const Failure& failure);
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

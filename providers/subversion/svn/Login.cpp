@@ -3,7 +3,7 @@
 #include <map>
 #include <utility>
 
-namespace svnscc {
+namespace kestrel::svnscc {
 namespace {
 
 LoginPrompt askUser = nullptr;
@@ -28,4 +28,4 @@ std::optional<Login> FindLogin(const LoginQuestion& question) {
   return login;
 }
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

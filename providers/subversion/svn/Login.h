@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-namespace svnscc {
+namespace kestrel::svnscc {
 
 /// What the user answers; texts are UTF-8.
 struct Login {
@@ -30,4 +30,4 @@ void SetLoginPrompt(LoginPrompt prompt);
 /// user's answer, which is remembered.
 std::optional<Login> FindLogin(const LoginQuestion& question);
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

@@ -6,13 +6,13 @@
 
 #include <algorithm>
 
-#include "host/System.h"
 #include "subversion/svn/LocalStatus.h"
 #include "subversion/svn/ProviderContext.h"
 #include "subversion/svn/Repository.h"
 #include "subversion/svn/SvnStrings.h"
+#include "system/System.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 namespace {
 
 constexpr svn_opt_revision_t kUnspecified{};
@@ -168,4 +168,4 @@ std::string LocalTime(apr_time_t when) {
   return {text, size};
 }
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

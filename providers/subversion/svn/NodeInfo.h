@@ -12,7 +12,7 @@
 #include "common/text/Properties.h"
 #include "subversion/svn/Client.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 
 class ProviderContext;
 
@@ -66,4 +66,4 @@ LockInfo ToLockInfo(const svn_lock_t* lock);
 /// A moment on the user's clock, "2026-11-21 14:05:33"; empty for 0.
 std::string LocalTime(apr_time_t when);
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

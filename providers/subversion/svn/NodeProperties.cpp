@@ -7,7 +7,7 @@
 #include "subversion/svn/Repository.h"
 #include "subversion/svn/SvnStrings.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 namespace {
 
 class FactList {
@@ -105,4 +105,4 @@ NodeProperties DescribeNode(Client& client, const std::string& url) {
   return {facts.Take(), FetchProperties(client, url, Newest())};
 }
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

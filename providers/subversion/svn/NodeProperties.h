@@ -4,7 +4,7 @@
 #include "common/text/Properties.h"
 #include "subversion/svn/NodeInfo.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 
 /// Of a client's file or folder.  What the repository does not answer is told from the working copy.
 NodeProperties DescribeNode(ProviderContext& context, const ControlledNode& node);
@@ -14,4 +14,4 @@ NodeProperties DescribeNode(Client& client, const std::string& url);
 /// What SCC status bits mean, in words.
 std::string StateWords(scc::Long bits, bool onDisk);
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

@@ -2,9 +2,9 @@
 
 #include <filesystem>
 
-#include "host/Text.h"
+#include "system/Text.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 
 bool IsUtf8(std::string_view text) { return Readable(text) == text; }
 
@@ -27,4 +27,4 @@ std::vector<std::string> NamesNotUtf8(const std::string& folder) {
   return names;
 }
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-namespace svnscc {
+namespace kestrel::svnscc {
 
 bool IsUtf8(std::string_view text);
 /// `text` with a question mark for every byte that is not UTF-8.
@@ -13,4 +13,4 @@ std::string Readable(std::string_view text);
 /// The files and folders below `folder` whose names are not UTF-8; what is below such a folder is left out.
 std::vector<std::string> NamesNotUtf8(const std::string& folder);
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

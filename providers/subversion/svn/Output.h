@@ -3,9 +3,9 @@
 
 #include <string>
 
-#include "provider/sccdefs.h"
+#include "scc/sccdefs.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 
 /// Valid from opening a project to closing it; silent without a callback.
 class Output {
@@ -26,4 +26,4 @@ class Output {
   scc::TTextOutProc callback_ = nullptr;
 };
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

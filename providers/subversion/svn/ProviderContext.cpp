@@ -10,7 +10,7 @@
 #include "subversion/svn/SvnStrings.h"
 #include "subversion/svn/WorkingCopyLocks.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 
 std::string NativeName(const std::string& path) {
   const Pool pool;
@@ -155,4 +155,4 @@ std::vector<std::string> Outcome::PathsOf(Names names) {
   return paths;
 }
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

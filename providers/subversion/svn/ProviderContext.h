@@ -9,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-#include "provider/sccdefs.h"
+#include "scc/sccdefs.h"
 #include "subversion/svn/Client.h"
 #include "subversion/svn/CommandOptions.h"
 #include "subversion/svn/Events.h"
@@ -17,7 +17,7 @@
 #include "subversion/svn/Status.h"
 #include "subversion/svn/WorkingCopyUse.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 
 /// A provider project: a folder of a repository and its local counterpart.  Texts as libsvn spells them.
 struct Project {
@@ -147,4 +147,4 @@ class Outcome {
   scc::Long result_ = scc::SCC_OK;
 };
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

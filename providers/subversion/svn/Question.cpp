@@ -1,6 +1,6 @@
 #include "subversion/svn/Question.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 namespace {
 QuestionPrompt prompt = nullptr;
 }
@@ -11,4 +11,4 @@ std::optional<bool> AskUser(scc::WindowHandle parent, const Question& question) 
   return prompt != nullptr ? prompt(parent, question) : std::nullopt;
 }
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

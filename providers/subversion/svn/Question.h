@@ -4,9 +4,9 @@
 #include <optional>
 #include <string>
 
-#include "provider/sccdefs.h"
+#include "scc/sccdefs.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 
 /// Answered with Yes or No; texts are UTF-8.
 struct Question {
@@ -22,4 +22,4 @@ void SetQuestionPrompt(QuestionPrompt prompt);
 /// Shows the question above `parent`, which may be null.
 std::optional<bool> AskUser(scc::WindowHandle parent, const Question& question);
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

@@ -8,10 +8,10 @@
 #include <algorithm>
 #include <array>
 
-#include "host/Text.h"
 #include "subversion/svn/SvnStrings.h"
+#include "system/Text.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 namespace {
 
 /// "/proc/self/cwd" is the current directory, and the numbers in these folders mean open files and directories.
@@ -216,4 +216,4 @@ std::optional<std::string> UrlOfWorkingCopy(Client& client, const std::string& f
   return url != nullptr ? std::optional<std::string>(url) : std::nullopt;
 }
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

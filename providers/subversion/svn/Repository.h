@@ -10,7 +10,7 @@
 
 #include "subversion/svn/Client.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 
 /// Whether an absolute path means another place in each process, as what lies below /proc does.
 bool IsPerProcess(const std::string& path);
@@ -53,4 +53,4 @@ std::string CreateRepository(const std::string& folder);
 /// The address of which `folder` is a working copy, or nullopt.  Throws Failure when another process is at work there.
 std::optional<std::string> UrlOfWorkingCopy(Client& client, const std::string& folder);
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

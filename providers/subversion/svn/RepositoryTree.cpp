@@ -2,11 +2,11 @@
 
 #include <algorithm>
 
-#include "host/Text.h"
 #include "subversion/svn/Repository.h"
 #include "subversion/svn/SvnStrings.h"
+#include "system/Text.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 namespace {
 
 struct EntryReceiver {
@@ -59,4 +59,4 @@ const std::vector<TreeEntry>& RepositoryTree::EntriesOf(const std::string& path)
   return entries_[path] = std::move(receiver.entries);
 }
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

@@ -9,7 +9,7 @@
 
 #include "subversion/svn/NodeInfo.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 
 struct TreeEntry {
   std::string Name;
@@ -44,4 +44,4 @@ class RepositoryTree {
   std::map<std::string, std::vector<TreeEntry>> entries_;
 };
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

@@ -12,7 +12,7 @@
 #include "subversion/svn/Repository.h"
 #include "subversion/svn/SvnStrings.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 namespace {
 
 /// Somebody's lock that this working copy does not hold.
@@ -358,4 +358,4 @@ void RecordCommandResult(ProviderContext& context, std::span<const char* const> 
   }
 }
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

@@ -9,9 +9,9 @@
 #include <unordered_map>
 #include <vector>
 
-#include "provider/sccdefs.h"
+#include "scc/sccdefs.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 
 class ProviderContext;
 
@@ -53,4 +53,4 @@ void RecordCommandResult(ProviderContext& context, std::span<const char* const> 
 /// The bits of one libsvn status for `user`.
 FileStatus ToFileStatus(const svn_client_status_t& status, const std::string& user);
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

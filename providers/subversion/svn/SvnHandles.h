@@ -11,9 +11,9 @@
 #include <utility>
 #include <vector>
 
-#include "provider/sccdefs.h"
+#include "scc/sccdefs.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 
 /// Whether the process is ending and all of APR's memory is gone already.
 bool HasRuntimeEnded() noexcept;
@@ -94,4 +94,4 @@ inline void Check(svn_error_t* error, const std::exception_ptr& exception) {
 /// The texts as libsvn takes lists; copied into `pool`.
 apr_array_header_t* ToArray(const std::vector<std::string>& texts, apr_pool_t* pool);
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

@@ -5,7 +5,7 @@
 
 #include "subversion/svn/SvnStrings.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 namespace {
 
 enum class About { Files, Everything };
@@ -58,4 +58,4 @@ std::optional<Sentence> ToSentence(const svn_wc_notify_t& notice, const std::str
   return Sentence{row->kind, Format(row->text.Text, {label})};
 }
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

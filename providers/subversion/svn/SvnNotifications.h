@@ -6,9 +6,9 @@
 #include <optional>
 #include <string>
 
-#include "provider/sccdefs.h"
+#include "scc/sccdefs.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 
 struct Sentence {
   scc::MessageKind Kind;
@@ -18,4 +18,4 @@ struct Sentence {
 /// The sentence for a notice about `label`, or nothing when users need not know.
 std::optional<Sentence> ToSentence(const svn_wc_notify_t& notice, const std::string& label);
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

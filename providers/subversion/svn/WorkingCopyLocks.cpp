@@ -10,7 +10,7 @@
 #include "subversion/svn/ProviderContext.h"
 #include "subversion/svn/SvnStrings.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 namespace {
 
 struct LockSearch {
@@ -143,4 +143,4 @@ scc::Long RunCommand(ProviderContext& context, const std::function<scc::Long()>&
   return result;
 }
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

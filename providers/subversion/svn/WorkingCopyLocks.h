@@ -5,9 +5,9 @@
 #include <functional>
 #include <string>
 
-#include "provider/sccdefs.h"
+#include "scc/sccdefs.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 
 class ProviderContext;
 
@@ -28,4 +28,4 @@ void ReleaseOwnLocks(ProviderContext& context);
 /// Runs a command of the open project so, and cleans up when it is cancelled.
 scc::Long RunCommand(ProviderContext& context, const std::function<scc::Long()>& command);
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

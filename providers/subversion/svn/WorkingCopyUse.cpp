@@ -9,11 +9,11 @@
 #include <cstdlib>
 #include <filesystem>
 
-#include "host/System.h"
-#include "host/Text.h"
 #include "subversion/svn/SvnStrings.h"
+#include "system/System.h"
+#include "system/Text.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 namespace {
 
 namespace fs = std::filesystem;
@@ -160,4 +160,4 @@ void LockJournal::Store() {
     ftruncate(file_.Number(), 0);  // half a name would be another file's
 }
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

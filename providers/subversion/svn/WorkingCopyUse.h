@@ -10,7 +10,7 @@
 #include <utility>
 #include <vector>
 
-namespace svnscc {
+namespace kestrel::svnscc {
 
 /// A file descriptor, closed with its owner; -1 is none.
 class FileHandle {
@@ -87,4 +87,4 @@ class LockJournal {
   std::set<std::string> paths_;
 };
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

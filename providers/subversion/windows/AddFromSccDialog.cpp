@@ -1,13 +1,13 @@
 // Picking files that only the repository has.
 #include "common/windows/WindowTools.h"
-#include "host/WxText.h"
 #include "subversion/commands/Commands.h"
 #include "subversion/commands/MissingFiles.h"
 #include "subversion/svn/SvnStrings.h"
 #include "subversion/windows/ProviderWindowStrings.h"
 #include "subversion/windows/ProviderWindows.h"
+#include "toolkit/WxText.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 namespace {
 
 /// A report with check boxes.
@@ -114,4 +114,4 @@ scc::Long ChooseMissingFiles(ProviderContext& context, scc::WindowHandle parent,
   return GetFiles(context, pointers, {});
 }
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

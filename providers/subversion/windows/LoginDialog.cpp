@@ -1,10 +1,10 @@
 // Asks for the user name and password that a server wants.
 #include "common/windows/WindowTools.h"
-#include "host/WxText.h"
 #include "subversion/windows/ProviderWindowStrings.h"
 #include "subversion/windows/ProviderWindows.h"
+#include "toolkit/WxText.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 namespace {
 
 class LoginDialog : public wxDialog {
@@ -60,4 +60,4 @@ std::optional<Login> AskLogin(const LoginQuestion& question) {
   return dialog.Answer();
 }
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

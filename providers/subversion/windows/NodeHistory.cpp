@@ -7,7 +7,7 @@
 #include "subversion/windows/ProviderWindowStrings.h"
 #include "subversion/windows/ProviderWindows.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 
 NodeHistory::NodeHistory(Client& client, const std::string& place) : history_(client, place) {
   history_.LoadMore();
@@ -48,4 +48,4 @@ scc::Long ShowHistory(ProviderContext& context, scc::WindowHandle parent, Names 
   return window.HasChangedFile() ? scc::SCC_I_RELOADFILE : static_cast<scc::Long>(scc::SCC_OK);
 }
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

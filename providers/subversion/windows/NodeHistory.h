@@ -4,7 +4,7 @@
 #include "common/windows/HistoryWindow.h"
 #include "subversion/svn/History.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 
 class ProviderContext;
 
@@ -36,4 +36,4 @@ class NodeHistory : public HistorySource {
   std::string path_;  // empty: no local file
 };
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

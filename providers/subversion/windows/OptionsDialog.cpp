@@ -5,12 +5,12 @@
 #include <limits>
 
 #include "common/windows/WindowTools.h"
-#include "host/WxText.h"
 #include "subversion/svn/CommandOptions.h"
 #include "subversion/windows/ProviderWindowStrings.h"
 #include "subversion/windows/ProviderWindows.h"
+#include "toolkit/WxText.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 namespace {
 
 class OptionsDialog : public wxDialog {
@@ -111,4 +111,4 @@ scc::Long AskCommandOptions(ProviderContext& context, scc::WindowHandle parent, 
   return scc::SCC_OK;
 }
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

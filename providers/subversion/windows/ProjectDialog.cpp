@@ -5,13 +5,13 @@
 #include <wx/textdlg.h>
 
 #include "common/windows/WindowStrings.h"
-#include "host/WxText.h"
-#include "host/WxWheel.h"
 #include "subversion/project/RecentRepositories.h"
 #include "subversion/svn/Repository.h"
 #include "subversion/windows/ProviderWindowStrings.h"
+#include "toolkit/WxText.h"
+#include "toolkit/WxWheel.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 namespace {
 
 /// The same where a control would read "&" as a mnemonic.
@@ -233,4 +233,4 @@ void ProjectDialog::ShowState() {
   newFolder_->Enable(choice_.IsConnected() && choice_.Selected().has_value());
 }
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

@@ -8,7 +8,7 @@
 
 #include "subversion/project/ProjectChoice.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 
 class ProjectDialog : public wxDialog {
  public:
@@ -44,4 +44,4 @@ class ProjectDialog : public wxDialog {
   wxStaticText* message_ = nullptr;
 };
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

@@ -4,7 +4,7 @@
 #include "subversion/windows/ProjectDialog.h"
 #include "subversion/windows/ProviderWindowStrings.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 scc::Long PromptForProject(ProviderContext& context, scc::WindowHandle parent, ProjectRequest& request) {
   if (!CanShowWindows()) {
     context.Out().Error(sNoWindows);
@@ -20,4 +20,4 @@ scc::Long PromptForProject(ProviderContext& context, scc::WindowHandle parent, P
   return scc::SCC_OK;
 }
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

@@ -3,15 +3,15 @@
 #include "common/windows/DiffWindow.h"
 #include "common/windows/PropertiesWindow.h"
 #include "common/windows/WindowStrings.h"
-#include "host/System.h"
 #include "subversion/commands/CommandStrings.h"
 #include "subversion/svn/LocalStatus.h"
 #include "subversion/svn/NodeInfo.h"
 #include "subversion/svn/NodeProperties.h"
 #include "subversion/svn/SvnStrings.h"
 #include "subversion/windows/ProviderWindowStrings.h"
+#include "system/System.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 
 void RequireWindows() {
   if (!CanShowWindows()) throw Failure(scc::SCC_E_NONSPECIFICERROR, sShowsNoWindows);
@@ -58,4 +58,4 @@ scc::Long ShowProperties(ProviderContext& context, scc::WindowHandle parent, con
   return scc::SCC_OK;
 }
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

@@ -8,7 +8,7 @@
 #include "subversion/svn/ProviderContext.h"
 #include "subversion/svn/Question.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 
 /// Throws Failure (SCC_E_NONSPECIFICERROR) unless this thread may show windows.
 void RequireWindows();
@@ -35,4 +35,4 @@ std::optional<bool> ShowQuestion(scc::WindowHandle parent, const Question& quest
 scc::Long ChooseMissingFiles(ProviderContext& context, scc::WindowHandle parent, const char* folder,
                              std::vector<std::string>& names);
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

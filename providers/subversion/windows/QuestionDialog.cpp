@@ -1,9 +1,9 @@
 // Questions as a message box: No is what Enter and Escape answer.
 #include "common/windows/WindowTools.h"
-#include "host/WxText.h"
 #include "subversion/windows/ProviderWindows.h"
+#include "toolkit/WxText.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 
 std::optional<bool> ShowQuestion(scc::WindowHandle parent, const Question& question) {
   if (!CanShowWindows()) return std::nullopt;
@@ -12,4 +12,4 @@ std::optional<bool> ShowQuestion(scc::WindowHandle parent, const Question& quest
   return box.ShowModal() == wxID_YES;
 }
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

@@ -9,7 +9,7 @@
 #include "subversion/windows/ProviderWindowStrings.h"
 #include "subversion/windows/ProviderWindows.h"
 
-namespace svnscc {
+namespace kestrel::svnscc {
 namespace {
 
 class TreeSource : public RepositorySource {
@@ -72,4 +72,4 @@ scc::Long RunBrowser(ProviderContext& context, scc::WindowHandle parent, Names n
   return scc::SCC_OK;
 }
 
-}  // namespace svnscc
+}  // namespace kestrel::svnscc

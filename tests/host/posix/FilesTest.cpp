@@ -5,8 +5,10 @@
 #include <filesystem>
 #include <stdexcept>
 
-#include "host/System.h"
 #include "support/TemporaryFolder.h"
+#include "system/System.h"
+
+namespace kestrel {
 
 namespace fs = std::filesystem;
 
@@ -62,3 +64,5 @@ TEST(Files, StayAsTheyWereWhenTheDiskIsFull) {
   EXPECT_EQ(ReadWholeFile(file), "old");
   EXPECT_EQ(std::distance(fs::directory_iterator(folder.Path()), {}), 1) << "no temporary file stays";
 }
+
+}  // namespace kestrel

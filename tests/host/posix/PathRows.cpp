@@ -1,5 +1,7 @@
 #include "host/PathRows.h"
 
+namespace kestrel {
+
 const std::vector<TNameRow> kNames{
     {"", "", "", ""},
     {"unit1.pas", "", "unit1.pas", ".pas"},
@@ -65,3 +67,5 @@ const std::vector<const char*> kNotAbsolute{"", "a/b", "./a", "~/a", "C:\\a"};
 
 const std::vector<TSameRow> kSame{
     {"/p/a", "/p/a", true, true}, {"/p/a", "/P/A", false, true}, {"/p\\a", "/p/a", false, false}};
+
+}  // namespace kestrel

@@ -4,9 +4,11 @@
 #include <thread>
 
 #include "host/RegistryFixture.h"
-#include "host/posix/RegistryLayers.h"
 #include "support/Environment.h"
 #include "support/TemporaryFolder.h"
+#include "system/posix/RegistryLayers.h"
+
+namespace kestrel {
 
 namespace fs = std::filesystem;
 using testing::ElementsAre;
@@ -148,3 +150,5 @@ TEST_F(RegistryFiles, LosesNothingWhenManyWriteAtOnce) {
   for (auto& writer : writers) writer.join();
   EXPECT_EQ(Names("Key").size(), std::size_t{kWriters * kValues});
 }
+
+}  // namespace kestrel

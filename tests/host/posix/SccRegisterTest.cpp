@@ -4,6 +4,8 @@
 #include "support/RunProgram.h"
 #include "support/TemporaryFolder.h"
 
+namespace kestrel {
+
 TEST(SccRegisterOfAFolder, SaysThatTheRegistryCannotBeWritten) {
   const TTemporaryFolder folder;
   const TEnvironmentVariable variable("CORVANE_REGISTRY_DIR", folder.Path().c_str());
@@ -12,3 +14,5 @@ TEST(SccRegisterOfAFolder, SaysThatTheRegistryCannotBeWritten) {
   EXPECT_EQ(result.Status, 1);
   EXPECT_THAT(result.Errors, testing::HasSubstr("Cannot write " + folder.Path()));
 }
+
+}  // namespace kestrel

@@ -2,8 +2,10 @@
 
 #include <filesystem>
 
-#include "host/System.h"
 #include "support/TemporaryFolder.h"
+#include "system/System.h"
+
+namespace kestrel {
 
 namespace fs = std::filesystem;
 using testing::ElementsAre;
@@ -64,3 +66,5 @@ TEST(System, BeepsThroughTheHostsHandler) {
   MessageBeep(TBeep::Asterisk);
   EXPECT_THAT(heard, ElementsAre(TBeep::Question));
 }
+
+}  // namespace kestrel

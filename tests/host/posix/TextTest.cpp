@@ -2,8 +2,10 @@
 
 #include <ctime>
 
-#include "host/Text.h"
 #include "support/Environment.h"
+#include "system/Text.h"
+
+namespace kestrel {
 
 TEST(Text, ShowsMomentsInLocalTime) {
   const TEnvironmentVariable zone("TZ", "KST-3");
@@ -15,3 +17,5 @@ TEST(Text, ShowsMomentsInLocalTime) {
 TEST(Text, ReadsWhatIsNoUtf8AsPage1252) {
   EXPECT_EQ(FromCodePageLossy("f\xFCr 5 \x80: \x84Größe\x93 \x81"), "für 5 €: „Größe“ \u0081");
 }
+
+}  // namespace kestrel

@@ -10,10 +10,12 @@
 #include <stdexcept>
 #include <thread>
 
-#include "host/FileName.h"
-#include "host/System.h"
-#include "host/windows/Wide.h"
 #include "support/TemporaryFolder.h"
+#include "system/FileName.h"
+#include "system/System.h"
+#include "system/windows/Wide.h"
+
+namespace kestrel {
 
 using testing::HasSubstr;
 using testing::ThrowsMessage;
@@ -107,3 +109,5 @@ TEST(Files, StayWhileAnotherProgramKeepsThemFromBeingWritten) {
   closes.join();
   EXPECT_EQ(ReadWholeFile(file), "new");
 }
+
+}  // namespace kestrel

@@ -4,7 +4,9 @@
 #include <array>
 #include <stdexcept>
 
-#include "host/Guard.h"
+#include "system/Guard.h"
+
+namespace kestrel {
 
 namespace {
 
@@ -59,3 +61,5 @@ TEST(Guard, StopsTheInnermostOfCallsInCalls) {
   EXPECT_EQ(inner, "access violation (0xC0000005)");
   EXPECT_EQ(outer, "exception (0x0EEDFADE)");
 }
+
+}  // namespace kestrel

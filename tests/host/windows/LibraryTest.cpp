@@ -4,11 +4,13 @@
 #include <cstring>
 #include <filesystem>
 
-#include "host/Library.h"
-#include "host/Paths.h"
-#include "host/System.h"
 #include "support/Environment.h"
 #include "support/TemporaryFolder.h"
+#include "system/Library.h"
+#include "system/Paths.h"
+#include "system/System.h"
+
+namespace kestrel {
 
 namespace fs = std::filesystem;
 using testing::HasSubstr;
@@ -18,7 +20,7 @@ namespace {
 
 bool Loads(const std::string& path, TDependencySearch search = TDependencySearch::OwnFolder) {
   const auto module = LoadModule(path, nullptr, search);
-  FreeModule(module);
+  UnloadModule(module);
   return module != nullptr;
 }
 
@@ -94,5 +96,7 @@ TEST(Library, IsSearchedForTheUnderscoreOf32BitTools) {
   EXPECT_EQ(FindSymbol(module, "SccOpenProject") != nullptr, is32Bit);
   ASSERT_TRUE(FindSymbol(module, is32Bit ? "_SccGet@4" : "_SccGet"));
   EXPECT_FALSE(FindSymbol(module, "SccGet")) << "its calling convention is another one";
-  FreeModule(module);
+  UnloadModule(module);
 }
+
+}  // namespace kestrel

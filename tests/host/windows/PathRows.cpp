@@ -1,5 +1,7 @@
 #include "host/PathRows.h"
 
+namespace kestrel {
+
 const std::vector<TNameRow> kNames{
     {"", "", "", ""},
     {"unit1.pas", "", "unit1.pas", ".pas"},
@@ -79,3 +81,5 @@ const std::vector<const char*> kNotAbsolute{"", "a\\b", ".\\a", "\\a", "/a", "C:
 const std::vector<TSameRow> kSame{{"C:\\Größe", "c:/GRÖSSE", false, false},
                                   {"C:\\Größe\\Ü", "c:/GRößE/ü", true, true},
                                   {"C:\\a", "C:\\ab", false, false}};
+
+}  // namespace kestrel

@@ -3,6 +3,8 @@
 
 #include "host/RegistryFixture.h"
 
+namespace kestrel {
+
 TEST_F(Registry, ReadsWhatInstallersWrite) {
   HKEY key = nullptr;
   RegCreateKeyExA(HKEY_LOCAL_MACHINE, "Software\\Vendor", 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &key,
@@ -18,3 +20,5 @@ TEST_F(Registry, ReadsWhatInstallersWrite) {
   EXPECT_EQ(Read("Software\\Vendor", "no end"), "C:\\scc.dll");
   EXPECT_EQ(Read("Software\\Vendor", "number"), "") << "no text at all";
 }
+
+}  // namespace kestrel

@@ -1,8 +1,10 @@
 #include <gmock/gmock.h>
 
-#include "host/Paths.h"
-#include "host/System.h"
 #include "support/TemporaryFolder.h"
+#include "system/Paths.h"
+#include "system/System.h"
+
+namespace kestrel {
 
 using testing::ElementsAre;
 
@@ -49,3 +51,5 @@ TEST(System, ReachesFilesBehindLongPaths) {
   auto left = std::filesystem::path(L"\\\\?\\" + ToFilePath(path + "\\unit1.pas").wstring());
   for (int i = 0; i < 7; ++i, left = left.parent_path()) EXPECT_TRUE(std::filesystem::remove(left));
 }
+
+}  // namespace kestrel

@@ -6,7 +6,9 @@
 #include <string>
 #include <utility>
 
-#include "host/Text.h"
+#include "system/Text.h"
+
+namespace kestrel {
 
 TEST(Text, NeedsNoConversionWhereTheProgramRunsWithUtf8) {
   EXPECT_EQ(ToCodePageExact("C:\\名前 😀.pas"), "C:\\名前 😀.pas") << "the manifest asks for it";
@@ -33,3 +35,5 @@ TEST(Text, ReadsWhatIsNoUtf8AsThePageOfTheSystemsLocale) {
   EXPECT_EQ(FromCodePageLossy(row->second.first), row->second.second);
   EXPECT_EQ(FromCodePageLossy("名前"), "名前");
 }
+
+}  // namespace kestrel

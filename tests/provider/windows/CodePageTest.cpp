@@ -3,8 +3,10 @@
 
 #include <array>
 
-#include "host/Text.h"
 #include "provider/Fixture.h"
+#include "system/Text.h"
+
+namespace kestrel::addin {
 
 using testing::HasSubstr;
 
@@ -137,3 +139,5 @@ TEST_F(CodePage932, CutsBetweenCharacters) {
   session().CheckInFile({"C:\\a"}, "a" + Repeat("表", 70), false, messages);
   EXPECT_EQ(provider->Last("SccCheckin").Comment, "a" + Repeat("\x95\x5C", 63));
 }
+
+}  // namespace kestrel::addin

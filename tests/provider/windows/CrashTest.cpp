@@ -3,6 +3,8 @@
 
 #include "provider/Fixture.h"
 
+namespace kestrel::addin {
+
 namespace {
 
 using testing::AllOf;
@@ -66,3 +68,5 @@ TEST_F(Crash, AtTheBeginningAndTheEndIsLogged) {
                           AllOf(StartsWith("SccUninitialize; "), HasSubstr("access violation"))));
   EXPECT_EQ(scc::hSosScc, nullptr) << "the library was let go of";
 }
+
+}  // namespace kestrel::addin

@@ -1,11 +1,13 @@
 // Where a provider's library finds the libraries that it needs itself.
 #include <filesystem>
 
-#include "host/FileName.h"
-#include "host/Registry.h"
 #include "provider/Fixture.h"
 #include "support/TemporaryFolder.h"
 #include "support/TestRegistry.h"
+#include "system/FileName.h"
+#include "system/Registry.h"
+
+namespace kestrel::addin {
 
 using testing::ElementsAre;
 using testing::HasSubstr;
@@ -27,3 +29,5 @@ TEST(SearchPath, IsThatOfAProviderWhoseKeySaysSo) {
   EXPECT_THAT(sink.Of(Kind::Error),
               ElementsAre(HasSubstr("PATH is searched only for"), HasSubstr("nor in one that PATH names")));
 }
+
+}  // namespace kestrel::addin

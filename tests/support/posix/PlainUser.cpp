@@ -2,6 +2,8 @@
 
 #include <unistd.h>
 
+namespace kestrel {
+
 TPlainUser::TPlainUser() {
   constexpr uid_t kNobody = 65534;
   changed_ = geteuid() == 0 && seteuid(kNobody) == 0;
@@ -10,3 +12,5 @@ TPlainUser::TPlainUser() {
 TPlainUser::~TPlainUser() {
   if (changed_ && seteuid(0) != 0) _exit(1);  // nobody could clean up
 }
+
+}  // namespace kestrel

@@ -9,6 +9,8 @@
 
 #include "support/TemporaryFolder.h"
 
+namespace kestrel {
+
 TProgramResult RunProgram(const std::string& program, const std::vector<std::string>& arguments) {
   const TTemporaryFolder folder;
   const auto output = folder / "output", errors = folder / "errors";
@@ -27,3 +29,5 @@ TProgramResult RunProgram(const std::string& program, const std::vector<std::str
   waitpid(process, &status, 0);
   return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, ReadWholeFile(output), ReadWholeFile(errors)};
 }
+
+}  // namespace kestrel

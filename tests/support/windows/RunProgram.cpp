@@ -4,8 +4,10 @@
 
 #include <stdexcept>
 
-#include "host/windows/Wide.h"
 #include "support/TemporaryFolder.h"
+#include "system/windows/Wide.h"
+
+namespace kestrel {
 
 namespace {
 
@@ -52,3 +54,5 @@ TProgramResult RunProgram(const std::string& program, const std::vector<std::str
   CloseHandle(process.hProcess);
   return {static_cast<int>(status), ReadWholeFile(output), ReadWholeFile(errors)};
 }
+
+}  // namespace kestrel

@@ -6,6 +6,8 @@
 #include <stdexcept>
 #include <string>
 
+namespace kestrel {
+
 namespace {
 
 void Require(LSTATUS error, const char* what) {
@@ -40,3 +42,5 @@ TTestRegistry::~TTestRegistry() {
   for (HKEY root : {HKEY_LOCAL_MACHINE, HKEY_CURRENT_USER}) RegOverridePredefKey(root, nullptr);
   RegDeleteTreeA(HKEY_CURRENT_USER, impl_->Home.c_str());
 }
+
+}  // namespace kestrel

@@ -2,9 +2,11 @@
 #include <windows.h>
 
 #include "expert/ExpertFixture.h"
-#include "host/Text.h"
+#include "system/Text.h"
 #include "wizards/CommitRows.h"
 #include "wizards/PullProjectPages.h"
+
+namespace kestrel::addin {
 
 namespace {
 
@@ -50,3 +52,5 @@ TEST_F(WizardsCodePage, CommitRowsKnowTheProvidersNames) {
 }
 
 }  // namespace
+
+}  // namespace kestrel::addin

@@ -3,6 +3,8 @@
 
 #include "workbench/model/Modules.h"
 
+namespace kestrel::workbench {
+
 namespace {
 
 using testing::ElementsAre;
@@ -37,3 +39,5 @@ TEST(StoredPath, IsTheSameHoweverAFileIsNamed) {
 }
 
 }  // namespace
+
+}  // namespace kestrel::workbench

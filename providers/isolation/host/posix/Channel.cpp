@@ -12,7 +12,7 @@
 
 #include "ChannelFd.h"
 
-namespace isolation::channel {
+namespace kestrel::isolation::channel {
 namespace {
 
 constexpr int kHighFd = 300;  // out of the way of providers that close low descriptors
@@ -84,4 +84,4 @@ void Write(FrameKind kind, const std::string& body) {
 
 void ExpectClose() { closing = true; }
 
-}  // namespace isolation::channel
+}  // namespace kestrel::isolation::channel

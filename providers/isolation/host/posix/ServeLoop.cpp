@@ -7,7 +7,7 @@
 
 #include "Channel.h"
 
-namespace isolation {
+namespace kestrel::isolation {
 namespace {
 
 class Arrivals final : public wxEventLoopSourceHandler {
@@ -39,4 +39,4 @@ void ServeUntilBye(bool windows, bool (*serve)()) {
   loop.Run();
 }
 
-}  // namespace isolation
+}  // namespace kestrel::isolation

@@ -5,7 +5,7 @@
 
 #include "Channel.h"
 
-namespace isolation {
+namespace kestrel::isolation {
 namespace {
 
 Window owner = 0;
@@ -55,4 +55,4 @@ void WatchWindows() {
     g_signal_add_emission_hook(g_signal_lookup(signal, GTK_TYPE_WIDGET), 0, hook, nullptr, nullptr);
 }
 
-}  // namespace isolation
+}  // namespace kestrel::isolation

@@ -1,11 +1,11 @@
 // The event by which the message loop notices frames.
 #pragma once
 
-#include "host/windows/Api.h"
+#include "system/windows/Api.h"
 
-namespace isolation::channel {
+namespace kestrel::isolation::channel {
 
 /// Starts to wait for a frame; the event is set when one begins to arrive.  Main thread, between calls.
 HANDLE ArrivalEvent();
 
-}  // namespace isolation::channel
+}  // namespace kestrel::isolation::channel

@@ -4,7 +4,7 @@
 
 #include "ArrivalEvent.h"
 
-namespace isolation::channel {
+namespace kestrel::isolation::channel {
 namespace {
 
 HANDLE pipe = nullptr;
@@ -99,4 +99,4 @@ void Write(FrameKind kind, const std::string& body) {
 
 void ExpectClose() {}
 
-}  // namespace isolation::channel
+}  // namespace kestrel::isolation::channel

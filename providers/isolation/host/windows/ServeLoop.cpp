@@ -5,7 +5,7 @@
 
 #include "ArrivalEvent.h"
 
-namespace isolation {
+namespace kestrel::isolation {
 
 void ServeUntilBye(bool windows, bool (*serve)()) {
   if (!windows) {
@@ -27,4 +27,4 @@ void ServeUntilBye(bool windows, bool (*serve)()) {
   }
 }
 
-}  // namespace isolation
+}  // namespace kestrel::isolation

@@ -4,9 +4,9 @@
 #include <map>
 
 #include "Channel.h"
-#include "host/windows/Api.h"
+#include "system/windows/Api.h"
 
-namespace isolation {
+namespace kestrel::isolation {
 namespace {
 
 HWND owner = nullptr;
@@ -60,4 +60,4 @@ scc::WindowHandle SetOwnerWindow(std::uint64_t window) {
 
 void WatchWindows() { SetWindowsHookExW(WH_CBT, OnWindow, nullptr, GetCurrentThreadId()); }
 
-}  // namespace isolation
+}  // namespace kestrel::isolation

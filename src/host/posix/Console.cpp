@@ -1,4 +1,0 @@
-#include "host/System.h"
-
-// A terminal takes what is printed as it is, and every program has the one that it was started from.
-void PrepareConsole() {}

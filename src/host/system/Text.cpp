@@ -1,0 +1,98 @@
+#include "system/Text.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace kestrel {
+
+namespace {
+
+std::string ToText(const TFormatArg& arg) {
+  const auto* text = std::get_if<std::string>(&arg);
+  return text ? *text : std::to_string(std::get<long long>(arg));
+}
+
+bool IsBlank(char c) { return static_cast<unsigned char>(c) <= ' '; }
+
+bool IsContinuation(char c) { return (static_cast<unsigned char>(c) & 0xC0) == 0x80; }
+
+/// What the first two bytes of a character may be.  The second is bounded so that no character has two spellings and
+/// none lies outside of Unicode.
+struct TLeadRow {
+  unsigned char First, Last;
+  std::size_t Size;
+  unsigned char SecondFrom, SecondTo;
+};
+constexpr TLeadRow kLeads[] = {
+    {0xC2, 0xDF, 2, 0x80, 0xBF}, {0xE0, 0xE0, 3, 0xA0, 0xBF}, {0xE1, 0xEC, 3, 0x80, 0xBF},
+    {0xED, 0xED, 3, 0x80, 0x9F}, {0xEE, 0xEF, 3, 0x80, 0xBF}, {0xF0, 0xF0, 4, 0x90, 0xBF},
+    {0xF1, 0xF3, 4, 0x80, 0xBF}, {0xF4, 0xF4, 4, 0x80, 0x8F},
+};
+
+/// The bytes of the UTF-8 character that `text` begins with; 0 when it begins with none.
+std::size_t CharacterSize(std::string_view text) {
+  const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
+  if (byte(0) < 0x80) return 1;
+  const auto row = std::ranges::find_if(
+      kLeads, [&](const TLeadRow& lead) { return byte(0) >= lead.First && byte(0) <= lead.Last; });
+  if (row == std::end(kLeads) || text.size() < row->Size) return 0;
+  if (byte(1) < row->SecondFrom || byte(1) > row->SecondTo) return 0;
+  const auto rest = text.substr(2, row->Size - 2);
+  return std::all_of(rest.begin(), rest.end(), IsContinuation) ? row->Size : 0;
+}
+
+}  // namespace
+
+std::string Format(std::string_view format, std::initializer_list<TFormatArg> args) {
+  std::string result;
+  auto arg = args.begin();
+  for (std::size_t i = 0; i < format.size(); ++i) {
+    const char letter = format[i] == '%' && i + 1 < format.size() ? format[i + 1] : '\0';
+    const bool placeholder = (letter == 's' || letter == 'd') && arg != args.end();
+    if (placeholder)
+      result += ToText(*arg++);
+    else
+      result += format[i];
+    if (placeholder || letter == '%') ++i;
+  }
+  return result;
+}
+
+std::string Trim(std::string_view text) {
+  while (!text.empty() && IsBlank(text.front())) text.remove_prefix(1);
+  while (!text.empty() && IsBlank(text.back())) text.remove_suffix(1);
+  return std::string(text);
+}
+
+bool SameText(std::string_view a, std::string_view b) {
+  const auto ascii = [](char c) { return static_cast<unsigned char>(c) < 0x80; };
+  const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; };
+  std::size_t i = 0;
+  for (; i < a.size() && i < b.size() && ascii(a[i]) && ascii(b[i]); ++i)
+    if (lower(a[i]) != lower(b[i])) return false;
+  return FoldCase(a.substr(i)) == FoldCase(b.substr(i));
+}
+
+std::string ReplaceInvalidUtf8(std::string_view text, std::string (*decode)(std::string_view bytes)) {
+  std::string repaired;
+  for (std::size_t at = 0; at < text.size();) {
+    const auto begin = at;
+    std::size_t size = 0;
+    while (at < text.size() && (size = CharacterSize(text.substr(at))) > 0) at += size;
+    repaired += text.substr(begin, at - begin);
+    const auto wrong = at;
+    while (at < text.size() && CharacterSize(text.substr(at)) == 0) ++at;
+    if (at > wrong) repaired += decode(text.substr(wrong, at - wrong));
+  }
+  return repaired;
+}
+
+std::string_view TruncateUtf8(std::string_view text, std::size_t bytes) {
+  if (text.size() <= bytes) return text;
+  auto end = bytes;
+  while (end > 0 && bytes - end < 3 && IsContinuation(text[end])) --end;
+  // More than three continuation bytes in a row are no character: such text is cut where it was asked for.
+  return text.substr(0, IsContinuation(text[end]) ? bytes : end);
+}
+
+}  // namespace kestrel

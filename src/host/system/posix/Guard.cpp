@@ -1,0 +1,10 @@
+#include "system/Guard.h"
+
+namespace kestrel {
+
+std::string CallWithSehFrame(void (*body)(void* data), void* data) {
+  body(data);
+  return {};
+}
+
+}  // namespace kestrel

@@ -1,0 +1,23 @@
+#include "system/Library.h"
+
+#include <dlfcn.h>
+
+#include "system/Paths.h"
+
+namespace kestrel {
+
+TModuleHandle LoadModule(const std::string& path, std::string* error, TDependencySearch) {
+  const bool absolute = IsAbsolutePath(path);
+  // RTLD_NOW: a library that lacks something fails here, with a message, not in the middle of a command.
+  const auto module = absolute ? dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL) : nullptr;
+  if (!module && error) *error = absolute ? dlerror() : path + ": not an absolute path";
+  return module;
+}
+
+void* FindSymbol(TModuleHandle module, const char* name) { return module ? dlsym(module, name) : nullptr; }
+
+void UnloadModule(TModuleHandle module) {
+  if (module) dlclose(module);
+}
+
+}  // namespace kestrel

@@ -1,0 +1,34 @@
+// Waiting in a call while windows stay painted.  User-interface thread only.
+#pragma once
+
+#include <wx/event.h>
+#include <wx/eventfilter.h>
+#include <wx/evtloop.h>
+
+namespace kestrel {
+
+/// Vetoes the closing of windows for its lifetime: a window would go with the call that is on the stack.
+class TNoClosing final : private wxEventFilter {
+ public:
+  TNoClosing() { wxEvtHandler::AddFilter(this); }
+  TNoClosing(const TNoClosing&) = delete;
+  TNoClosing& operator=(const TNoClosing&) = delete;
+  ~TNoClosing() override { wxEvtHandler::RemoveFilter(this); }
+
+ private:
+  int FilterEvent(wxEvent& event) override {
+    if (event.GetEventType() != wxEVT_CLOSE_WINDOW) return Event_Skip;
+    auto& close = static_cast<wxCloseEvent&>(event);
+    if (!close.CanVeto()) return Event_Skip;
+    close.Veto();
+    return Event_Processed;
+  }
+};
+
+/// Lets windows appear and paint.  Keys and clicks stay queued.
+inline void PaintPending() {
+  auto* loop = wxEventLoopBase::GetActive();
+  if (loop && !loop->IsYielding()) loop->YieldFor(wxEVT_CATEGORY_UI);
+}
+
+}  // namespace kestrel

@@ -1,0 +1,11 @@
+# Builds the files behind the fences and fails unless the compiler finds the header of none of them.
+execute_process(COMMAND ${CMAKE_COMMAND} --build ${BUILD} --target fences -- -k 0 OUTPUT_VARIABLE output ERROR_VARIABLE output)
+foreach(file IN LISTS EXPECTED)
+  if(NOT output MATCHES "${file}:1:10: fatal error: [^\n]*(No such file|file not found)")
+    message(SEND_ERROR "A target sees a header that it must not see: ${file} compiled, or failed for another reason.")
+    set(failed TRUE)
+  endif()
+endforeach()
+if(failed)
+  message("${output}")
+endif()
