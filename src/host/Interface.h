@@ -38,7 +38,7 @@ T* Supports(IInterface* object) {
 template <class... Interfaces, class Self>
 void* FindInterface(Self* self, const TGuid& iid) noexcept {
   void* found = nullptr;
-  ((Interfaces::IID == iid ? (found = static_cast<Interfaces*>(self), true) : false) || ...);
+  static_cast<void>(((Interfaces::IID == iid && (found = static_cast<Interfaces*>(self))) || ...));
   return found;
 }
 

@@ -22,7 +22,7 @@ namespace {
 using TText = scc::TTextOutProc;
 
 // As without sanitizers, which would turn the signal and the exit code into their own.
-[[gnu::no_sanitize("address", "undefined")]] void Crash(TText) {
+__attribute__((no_sanitize("address", "undefined"))) void Crash(TText) {
   std::signal(SIGSEGV, SIG_DFL);
   *const_cast<volatile int*>(static_cast<int*>(nullptr)) = 1;
 }

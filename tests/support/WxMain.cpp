@@ -2,7 +2,7 @@
 #include <gmock/gmock.h>
 #include <wx/wx.h>
 
-namespace {
+namespace kestrel {
 
 class TTestApp final : public wxApp {
  public:
@@ -12,6 +12,10 @@ class TTestApp final : public wxApp {
   }
 };
 
+}  // namespace kestrel
+
+namespace {
+
 void FailOnAssert(const wxString& file, int line, const wxString&, const wxString& condition,
                   const wxString& text) {
   ADD_FAILURE_AT(file.utf8_str(), line) << condition.utf8_string() << ": " << text.utf8_string();
@@ -19,7 +23,7 @@ void FailOnAssert(const wxString& file, int line, const wxString&, const wxStrin
 
 }  // namespace
 
-wxIMPLEMENT_APP_NO_MAIN(TTestApp);
+wxIMPLEMENT_APP_NO_MAIN(kestrel::TTestApp);
 
 int main(int argc, char** argv) {
   testing::InitGoogleMock(&argc, argv);

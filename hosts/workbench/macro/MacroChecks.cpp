@@ -157,7 +157,7 @@ std::string TMacroPlayer::DoExpectEditor(const TArguments& arguments) {
   TOpenModule* module = frame_.Session().Modules().Find(FullPath(arguments[0]));
   const auto* editor =
       module ? dynamic_cast<TTextEditor*>(module->FindDocument(FullPath(arguments[0]))) : nullptr;
-  const TEditorPage* page = editor ? frame_.Book().FindPage(*editor) : nullptr;
+  const TEditorPage* page = editor ? frame_.Book().PageOf(*editor) : nullptr;
   if (!page) return Format(sNotOpen, {arguments[0]});
   const bool found = page->ReadText().find(arguments[1]) != std::string::npos;
   return found ? std::string() : Format(sNoEditorText, {arguments[0], arguments[1]});

@@ -63,7 +63,7 @@ TEditorPage* TEditorBook::FrontPage() const {
   return front == wxNOT_FOUND ? nullptr : PageAt(static_cast<std::size_t>(front));
 }
 
-TEditorPage* TEditorBook::FindPage(const TTextEditor& editor) const {
+TEditorPage* TEditorBook::PageOf(const TTextEditor& editor) const {
   for (std::size_t i = 0; i < GetPageCount(); ++i)
     if (&PageAt(i)->Editor() == &editor) return PageAt(i);
   return nullptr;
@@ -76,7 +76,7 @@ void TEditorBook::AddEditor(TTextEditor& editor) {
 }
 
 void TEditorBook::RemoveEditor(TTextEditor& editor) {
-  TEditorPage* page = FindPage(editor);
+  TEditorPage* page = PageOf(editor);
   if (!page) return;
   page->Detach();
   DeletePage(static_cast<std::size_t>(GetPageIndex(page)));
@@ -84,14 +84,14 @@ void TEditorBook::RemoveEditor(TTextEditor& editor) {
 }
 
 void TEditorBook::ShowEditor(TTextEditor& editor) {
-  TEditorPage* page = FindPage(editor);
+  TEditorPage* page = PageOf(editor);
   if (!page) return;
   SetSelection(static_cast<std::size_t>(GetPageIndex(page)));
   page->SetFocus();
 }
 
 void TEditorBook::RefreshEditor(TTextEditor& editor) {
-  TEditorPage* page = FindPage(editor);
+  TEditorPage* page = PageOf(editor);
   if (!page) return;
   const auto index = static_cast<std::size_t>(GetPageIndex(page));
   const std::string name = ExtractFileName(editor.FileName());

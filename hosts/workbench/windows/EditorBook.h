@@ -31,7 +31,7 @@ class TEditorBook final : public wxAuiNotebook {
 
   /// The page in front, or nullptr.
   TEditorPage* FrontPage() const;
-  TEditorPage* FindPage(const TTextEditor& editor) const;
+  TEditorPage* PageOf(const TTextEditor& editor) const;
 
  private:
   class TPageOwner;

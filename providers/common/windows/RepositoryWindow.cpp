@@ -121,7 +121,7 @@ wxSizer* RepositoryWindow::CreateButtons() {
   text_ = AddButton(row, sShowTextButton, [this] { ShowTextOf(); });
   history_ = AddButton(row, sHistoryButton, [this] { ShowHistoryOf(); });
   properties_ = AddButton(row, sPropertiesButton, [this] { ShowPropertiesOf(); });
-  refresh_ = AddButton(row, sRefreshButton, [this] { Refresh(); });
+  refresh_ = AddButton(row, sRefreshButton, [this] { Reload(); });
   refresh_->SetToolTip(ToWx(sRefreshHint));
   AddClose(row);
   return row;
@@ -161,7 +161,7 @@ void RepositoryWindow::Open() {
   list_->SetFocus();
 }
 
-void RepositoryWindow::Refresh() {
+void RepositoryWindow::Reload() {
   const std::string folder = folder_;
   const auto* entry = Chosen();
   const std::string name = entry != nullptr ? entry->Name : "";

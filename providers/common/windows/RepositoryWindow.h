@@ -60,7 +60,7 @@ class RepositoryWindow : public ToolWindow {
   void BindKeys();
 
   void Open();
-  void Refresh();
+  void Reload();
   void FillTree();
   void FillFolder(const wxTreeItemId& item);
   wxTreeItemId AppendFolder(const wxTreeItemId& parent, const std::string& path, const std::string& name);
