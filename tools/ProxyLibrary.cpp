@@ -18,7 +18,6 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr const char* kLibrary = "IsolatedScc";
-constexpr const char* kHost = "scc-provider-host" PROGRAM_SUFFIX;
 constexpr TResString sCannotWriteLibrary{"The library for \"%s\" cannot be written to %s: %s"};
 
 /// Encodes a provider's name for use in a file name, on every system.
@@ -47,12 +46,12 @@ std::string ConfigFileOf(const std::string& library) {
 
 }  // namespace
 
-std::string InstallProxyLibrary(const std::string& name, const std::string& path) {
+std::string InstallProxyLibrary(const std::string& name, const std::string& path, const std::string& host) {
   const auto library = ProxyLibraryPath(name);
   try {
     fs::create_directories(ToFilePath(ExtractFileDir(library)));
     WriteFileAtomically(ConfigFileOf(library), isolation::kProviderKey + path + "\n" + isolation::kHostKey +
-                                                   ResolvePath(ProgramFolder(), kHost) + "\n");
+                                                   ResolvePath(ProgramFolder(), host) + "\n");
     // Replaced by renaming, because a client may have the old one loaded.
     const auto fresh = ToFilePath(library + ".new");
     fs::copy_file(ToFilePath(ResolvePath(ProgramFolder(), std::string(kLibrary) + LIBRARY_SUFFIX)), fresh,

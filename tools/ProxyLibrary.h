@@ -5,9 +5,14 @@
 
 namespace kestrel {
 
-/// Installs or replaces the library that stands for the provider `name` at `path`; returns its path.  Throws
-/// std::runtime_error with a sentence for the user.
-std::string InstallProxyLibrary(const std::string& name, const std::string& path);
+/// The program that runs an isolated provider, and the one whose windows macros can operate; beside the running program.
+inline constexpr const char* kProviderHost = "scc-provider-host" PROGRAM_SUFFIX;
+inline constexpr const char* kProviderHostPlayer = "scc-provider-host-player" PROGRAM_SUFFIX;
+
+/// Installs or replaces the library that stands for the provider `name` at `path` and runs it in `host`; returns its path.
+/// Throws std::runtime_error with a sentence for the user.
+std::string InstallProxyLibrary(const std::string& name, const std::string& path,
+                                const std::string& host = kProviderHost);
 /// Returns the path of the provider that `library` stands for; empty if it is not an isolating library.
 std::string ProviderBehindProxy(const std::string& library);
 /// Removes the library that InstallProxyLibrary installed for the provider `name`, if there is one.

@@ -27,14 +27,14 @@ namespace fs = std::filesystem;
 constexpr const char* kProviderName = "Subversion";
 constexpr const char* kProjectName = "/trunk/Flight";
 constexpr const char* kUsage =
-    R"(Usage: make-sample [--direct] FOLDER PROJECT PROVIDER [USER [OTHER...]]
+    R"(Usage: make-sample [--direct | --player] FOLDER PROJECT PROVIDER [USER [OTHER...]]
 
 Makes, in FOLDER (which must not exist yet):
   repository/      a Subversion repository
   work/            a copy of the folder PROJECT, mapped to it for USER (default: you), its files under control
   work of OTHER/   what another user gets from the repository, mapped
   registry/        a registry (CORVANE_REGISTRY_DIR) with the library PROVIDER installed,
-                   isolated unless --direct
+                   isolated unless --direct; with --player in the program whose windows macros can operate
 )";
 
 void RegisterProvider(const std::string& library) {
@@ -106,15 +106,15 @@ class TUser {
   std::string url_;
 };
 
-void Make(const fs::path& folder, const fs::path& projectFolder, const std::string& library, bool direct,
-          const std::vector<std::string>& users) {
+void Make(const fs::path& folder, const fs::path& projectFolder, const std::string& library,
+          const std::string& host, const std::vector<std::string>& users) {
   if (fs::exists(folder)) throw std::runtime_error("The folder " + folder.string() + " exists already.");
   const auto work = folder / "work";
   const auto registry = folder / "registry";
   fs::create_directories(registry);
   setenv("CORVANE_REGISTRY_DIR", registry.c_str(), 1);
   fs::copy(projectFolder, work, fs::copy_options::recursive);
-  RegisterProvider(direct ? library : InstallProxyLibrary(kProviderName, library));
+  RegisterProvider(host.empty() ? library : InstallProxyLibrary(kProviderName, library, host));
   const auto url = svnscc::CreateRepository((folder / "repository").string());
   svnscc::MarkProjectUsed(url, kProjectName);  // as choosing it in the provider's dialog does
 
@@ -137,8 +137,11 @@ void Make(const fs::path& folder, const fs::path& projectFolder, const std::stri
 
 int main(int argc, char** argv) {
   std::vector<std::string> words(argv + 1, argv + argc);
-  const bool direct = !words.empty() && words.front() == "--direct";
-  if (direct) words.erase(words.begin());
+  std::string host = kProviderHost;  // empty for none
+  if (!words.empty() && (words.front() == "--direct" || words.front() == "--player")) {
+    host = words.front() == "--player" ? kProviderHostPlayer : "";
+    words.erase(words.begin());
+  }
   if (words.size() < 3) {
     const bool asked = words.size() == 1 && words.front() == "--help";
     std::fputs(kUsage, asked ? stdout : stderr);
@@ -147,7 +150,7 @@ int main(int argc, char** argv) {
   std::vector<std::string> users(words.begin() + 3, words.end());
   if (users.empty()) users.push_back(GetUserNameText(32));
   try {
-    Make(fs::absolute(words[0]), fs::absolute(words[1]), fs::absolute(words[2]).string(), direct, users);
+    Make(fs::absolute(words[0]), fs::absolute(words[1]), fs::absolute(words[2]).string(), host, users);
   } catch (const std::exception& error) {
     std::fprintf(stderr, "make-sample: %s\n", error.what());
     return 1;

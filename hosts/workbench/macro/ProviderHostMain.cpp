@@ -1,0 +1,20 @@
+// scc-provider-host-player: scc-provider-host whose windows the macro player can operate.  Not installed.
+#include <cstdlib>
+
+#include "Host.h"
+#include "workbench/macro/PlayedWindows.h"
+#include "workbench/macro/ProviderWindows.h"
+
+using namespace kestrel;
+using namespace kestrel::workbench;
+
+namespace {
+
+std::unique_ptr<wxEvtHandler> MakePlayer() {
+  const char* folder = std::getenv(kPlayedFolder);
+  return folder ? std::make_unique<TPlayedWindows>(folder) : nullptr;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) { return isolation::RunHost(argc, argv, MakePlayer); }
