@@ -4,44 +4,39 @@
 
 namespace kestrel {
 
-inline constexpr TResString sUsage{
-    "Usage: scc-register add NAME PATH [--default] [--force] [--search-path] [--isolated]\n"
-    "       scc-register remove NAME\n"
-    "       scc-register default NAME\n"
-    "       scc-register isolate NAME\n"
-    "       scc-register direct NAME\n"
-    "       scc-register list\n"};
-inline constexpr TResString sHelp{
-    "Installs, removes and lists the source control providers of this machine.\n"
-    "\n"
-    "  add      installs the provider library PATH (absolute) under NAME, or changes\n"
-    "           the path of one that is installed.  The first provider becomes the\n"
-    "           default one.\n"
-    "             --default  make it the default one in any case\n"
-    "             --force    do not look whether PATH is a provider library\n"
-    "             --search-path\n"
-    "                        (Windows) search the folders in PATH, too, for the\n"
-    "                        libraries that the provider needs; without it only its\n"
-    "                        own folder and the system's.  Other programs do not see it\n"
-    "             --isolated run it in a process of its own\n"
-    "  remove   takes a provider out of the registry; its library stays\n"
-    "  default  chooses the provider that projects use unless they name another\n"
-    "  isolate  runs a provider in a process of its own: it can neither end the program\n"
-    "           that uses it nor keep it waiting for ever\n"
-    "  direct   loads a provider into the program that uses it\n"
-    "  list     shows the providers; the default one is marked with '*'\n"
-    "  --       ends the options, for names that begin with '-'\n"
-    "\n"
-    "Exit status: 0 done, 1 failed, 2 wrong usage.\n"
-    "On Windows changes need a command prompt opened as administrator.  On Linux the\n"
-    "current user's registry is changed; to change it for all users, run as an\n"
-    "administrator with CORVANE_REGISTRY_DIR=/etc/corvane.\n"};
+inline constexpr TResString sDescription{
+    "Installs, removes and lists the source control providers of this machine."};
+inline constexpr TResString sCommands{"Commands"};
+inline constexpr TResString sNameHelp{"The provider's name"};
+inline constexpr TResString sPathHelp{"The absolute path of its library"};
+inline constexpr TResString sAddHelp{
+    "Install the provider library PATH under NAME, or change the path of an\n"
+    "installed one. The first provider becomes the default."};
+inline constexpr TResString sDefaultHelp{"Make it the default provider"};
+inline constexpr TResString sForceHelp{"Do not check that PATH is a provider library"};
+inline constexpr TResString sSearchPathHelp{
+    "(Windows) Also search the folders in PATH for the libraries\n"
+    "that the provider needs, not only its own folder and the\n"
+    "system's. Other programs ignore this setting"};
+inline constexpr TResString sIsolatedHelp{"Run it in a separate process"};
+inline constexpr TResString sRemoveHelp{"Remove a provider from the registry; its library is kept."};
+inline constexpr TResString sMakeDefaultHelp{"Choose the provider for projects that do not name one."};
+inline constexpr TResString sIsolateHelp{
+    "Run a provider in a separate process, so that it can neither crash nor hang the\n"
+    "program that uses it."};
+inline constexpr TResString sDirectHelp{"Load a provider into the program that uses it."};
+inline constexpr TResString sListHelp{"List the providers; the default one is marked with '*'."};
+inline constexpr TResString sHelpHelp{"Print this help"};
+inline constexpr TResString sFooter{
+    "\"--\" ends the options, for names that begin with '-'.\n"
+    "Exit status: 0 success, 1 failure, 2 wrong usage.\n"
+    "On Windows, changes need a command prompt opened as administrator. On Linux they\n"
+    "affect the current user; to change the providers of all users, run as root with\n"
+    "CORVANE_REGISTRY_DIR=/etc/corvane."};
+inline constexpr TResString sCommand{"A command"};
 
 inline constexpr TResString sMessage{"scc-register: %s\n"};
-inline constexpr TResString sUnknownOption{"There is no option %s."};
-inline constexpr TResString sUnknownCommand{"There is no command %s."};
-inline constexpr TResString sWrongArguments{"Wrong number of arguments for %s."};
-inline constexpr TResString sOptionNotForCommand{"%s has no option %s."};
+inline constexpr TResString sSeeHelp{"Run \"scc-register --help\" for more information.\n"};
 
 inline constexpr TResString sBadName{
     "\"%s\" cannot be the name of a provider: it must not be empty, contain backslashes or control "

@@ -1,5 +1,6 @@
 // Makes a sample to try the add-in on: a Subversion repository, a copy of the sample project mapped to it with its files
 // under control, and a registry of its own in which the provider is installed.
+#include <CLI/CLI.hpp>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
@@ -26,16 +27,6 @@ namespace fs = std::filesystem;
 
 constexpr const char* kProviderName = "Subversion";
 constexpr const char* kProjectName = "/trunk/Flight";
-constexpr const char* kUsage =
-    R"(Usage: make-sample [--direct | --player] FOLDER PROJECT PROVIDER [USER [OTHER...]]
-
-Makes, in FOLDER (which must not exist yet):
-  repository/      a Subversion repository
-  work/            a copy of the folder PROJECT, mapped to it for USER (default: you), its files under control
-  work of OTHER/   what another user gets from the repository, mapped
-  registry/        a registry (CORVANE_REGISTRY_DIR) with the library PROVIDER installed,
-                   isolated unless --direct; with --player in the program whose windows macros can operate
-)";
 
 void RegisterProvider(const std::string& library) {
   const std::string key = "Software\\Subversion\\SCC";
@@ -106,15 +97,27 @@ class TUser {
   std::string url_;
 };
 
-void Make(const fs::path& folder, const fs::path& projectFolder, const std::string& library,
-          const std::string& host, const std::vector<std::string>& users) {
+struct TArguments {
+  std::string Folder;
+  std::string Project;
+  std::string Provider;
+  std::vector<std::string> Users;
+  bool Direct = false;
+  bool Player = false;
+};
+
+void Make(const TArguments& arguments) {
+  const auto folder = fs::absolute(arguments.Folder);
+  const auto library = fs::absolute(arguments.Provider).string();
+  const auto& users = arguments.Users;
   if (fs::exists(folder)) throw std::runtime_error("The folder " + folder.string() + " exists already.");
   const auto work = folder / "work";
   const auto registry = folder / "registry";
   fs::create_directories(registry);
   setenv("CORVANE_REGISTRY_DIR", registry.c_str(), 1);
-  fs::copy(projectFolder, work, fs::copy_options::recursive);
-  RegisterProvider(host.empty() ? library : InstallProxyLibrary(kProviderName, library, host));
+  fs::copy(fs::absolute(arguments.Project), work, fs::copy_options::recursive);
+  const auto* host = arguments.Player ? kProviderHostPlayer : kProviderHost;
+  RegisterProvider(arguments.Direct ? library : InstallProxyLibrary(kProviderName, library, host));
   const auto url = svnscc::CreateRepository((folder / "repository").string());
   svnscc::MarkProjectUsed(url, kProjectName);  // as choosing it in the provider's dialog does
 
@@ -136,21 +139,32 @@ void Make(const fs::path& folder, const fs::path& projectFolder, const std::stri
 }  // namespace
 
 int main(int argc, char** argv) {
-  std::vector<std::string> words(argv + 1, argv + argc);
-  std::string host = kProviderHost;  // empty for none
-  if (!words.empty() && (words.front() == "--direct" || words.front() == "--player")) {
-    host = words.front() == "--player" ? kProviderHostPlayer : "";
-    words.erase(words.begin());
-  }
-  if (words.size() < 3) {
-    const bool asked = words.size() == 1 && words.front() == "--help";
-    std::fputs(kUsage, asked ? stdout : stderr);
-    return asked ? 0 : 2;
-  }
-  std::vector<std::string> users(words.begin() + 3, words.end());
-  if (users.empty()) users.push_back(GetUserNameText(32));
+  TArguments arguments;
+  CLI::App parser(
+      "Makes a sample to try the add-in on, in FOLDER:\n"
+      "  repository/     a Subversion repository\n"
+      "  work/           a copy of PROJECT, mapped to the repository for USER, its files under control\n"
+      "  work of OTHER/  a working copy of another user, mapped\n"
+      "  registry/       a registry (CORVANE_REGISTRY_DIR) in which PROVIDER is installed",
+      "make-sample");
+  for (const auto* label : {"TEXT", "REQUIRED"}) parser.get_formatter()->label(label, "");
+  parser.add_option("FOLDER", arguments.Folder, "Must not exist yet")->required();
+  parser.add_option("PROJECT", arguments.Project, "The folder of a project")->required();
+  parser.add_option("PROVIDER", arguments.Provider, "The library of the Subversion provider")->required();
+  parser.add_option("USER", arguments.Users, "The users; without any, the current one");
+  auto* const direct = parser.add_flag("--direct", arguments.Direct, "Load the provider into its client");
+  parser
+      .add_flag("--player", arguments.Player,
+                "Run the provider in a process whose windows macros can operate")
+      ->excludes(direct);
   try {
-    Make(fs::absolute(words[0]), fs::absolute(words[1]), fs::absolute(words[2]).string(), host, users);
+    parser.parse(argc, argv);
+  } catch (const CLI::ParseError& error) {
+    return parser.exit(error) == 0 ? 0 : 2;
+  }
+  if (arguments.Users.empty()) arguments.Users.push_back(GetUserNameText(32));
+  try {
+    Make(arguments);
   } catch (const std::exception& error) {
     std::fprintf(stderr, "make-sample: %s\n", error.what());
     return 1;

@@ -1,7 +1,7 @@
 // scc-register: installs, removes and lists the machine's source control providers.
+#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <iostream>
-#include <set>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -19,24 +19,26 @@ using namespace kestrel::addin;
 
 namespace {
 
-/// A command that cannot be done as it was asked for; its text is a sentence.
+/// A command that failed; its text is a sentence.
 struct EFailure : std::runtime_error {
   using std::runtime_error::runtime_error;
 };
-/// A command line that means nothing.
-struct EUsage : std::runtime_error {
-  using std::runtime_error::runtime_error;
-};
 
-constexpr const char* kDefaultOption = "--default";
-constexpr const char* kForceOption = "--force";
-constexpr const char* kSearchPathOption = "--search-path";
-constexpr const char* kIsolatedOption = "--isolated";
 constexpr const char* kEntryPoint = "SccInitialize";
+constexpr int kExitFailed = 1;
+constexpr int kExitUsage = 2;
 
-struct TCommandLine {
-  std::vector<std::string> Words;  ///< the command and its arguments
-  std::set<std::string> Options;
+/// What the generated help calls things: the usage line shows already what is required.
+constexpr std::pair<const char*, const char*> kHelpLabels[] = {
+    {"Positionals", "Arguments"}, {"SUBCOMMAND", "COMMAND"}, {"TEXT", ""}, {"REQUIRED", ""}};
+
+struct TArguments {
+  std::string Name;  ///< of the provider
+  std::string Path;  ///< of its library
+  bool Default = false;
+  bool Force = false;
+  bool SearchPath = false;
+  bool Isolated = false;
 };
 
 // ------------------------------------------------------------------------------------------------- registry
@@ -115,33 +117,32 @@ void Choose(const std::string& name) {
   std::cout << Format(sIsDefault, {name});
 }
 
-void Add(const TCommandLine& line) {
-  const auto& name = line.Words[1];
-  const auto& path = line.Words[2];
+void Add(const TArguments& arguments) {
+  const auto& name = arguments.Name;
+  const auto& path = arguments.Path;
   CheckName(name);
   if (!IsAbsolutePath(path)) throw EFailure(Format(sPathNotAbsolute, {path}));
-  const bool searchesPath = line.Options.contains(kSearchPathOption);
-  if (!line.Options.contains(kForceOption))
-    CheckLibrary(path, searchesPath ? TDependencySearch::OwnFolderPath : TDependencySearch::OwnFolder);
+  if (!arguments.Force)
+    CheckLibrary(path,
+                 arguments.SearchPath ? TDependencySearch::OwnFolderPath : TDependencySearch::OwnFolder);
 
   const bool isFirst = InstalledProviders().empty();
   const auto known = KeyOf(name);
   const auto key = known.empty() ? OwnKey(name) : known;
-  // The list comes last: whoever reads it meanwhile finds complete entries only.
+  // The list is written last, so that a concurrent reader finds complete entries only.
   WriteValue(key, kServerName, name);
-  WriteValue(key, kServerPath,
-             line.Options.contains(kIsolatedOption) ? InstallProxyLibrary(name, path) : path);
-  if (searchesPath)
+  WriteValue(key, kServerPath, arguments.Isolated ? InstallProxyLibrary(name, path) : path);
+  if (arguments.SearchPath)
     WriteValue(key, kSearchPath, "1");
   else
     DeleteValue(key, kSearchPath);
   WriteValue(kInstalledProvidersKey, name, key);
   std::cout << Format(sAdded, {name});
-  if (isFirst || line.Options.contains(kDefaultOption)) Choose(name);
+  if (isFirst || arguments.Default) Choose(name);
 }
 
-void Remove(const TCommandLine& line) {
-  const auto& name = line.Words[1];
+void Remove(const TArguments& arguments) {
+  const auto& name = arguments.Name;
   RequireInstalled(name);
   const auto key = KeyOf(name);
   const bool wasDefault = IsDefault(key);
@@ -159,7 +160,7 @@ void Remove(const TCommandLine& line) {
   if (wasDefault && !InstalledProviders().empty()) std::cout << sNoDefault.str();
 }
 
-void MakeDefault(const TCommandLine& line) { Choose(line.Words[1]); }
+void MakeDefault(const TArguments& arguments) { Choose(arguments.Name); }
 
 /// Path of the provider itself, if `path` is that of its isolating library.
 std::string ProviderPath(const std::string& path) {
@@ -168,22 +169,22 @@ std::string ProviderPath(const std::string& path) {
 }
 
 /// For a provider that is isolated already this updates its library, e.g. after an update of this program.
-void MakeIsolated(const TCommandLine& line) {
-  const auto& name = line.Words[1];
+void MakeIsolated(const TArguments& arguments) {
+  const auto& name = arguments.Name;
   const auto key = InstalledKeyOf(name);
   WriteValue(key, kServerPath, InstallProxyLibrary(name, ProviderPath(ReadValue(key, kServerPath))));
   std::cout << Format(sIsIsolated, {name});
 }
 
-void MakeDirect(const TCommandLine& line) {
-  const auto& name = line.Words[1];
+void MakeDirect(const TArguments& arguments) {
+  const auto& name = arguments.Name;
   const auto key = InstalledKeyOf(name);
   WriteValue(key, kServerPath, ProviderPath(ReadValue(key, kServerPath)));
   RemoveProxyLibrary(name);
   std::cout << Format(sIsDirect, {name});
 }
 
-void List(const TCommandLine&) {
+void List(const TArguments&) {
   const auto names = InstalledProviders();
   if (names.empty()) std::cout << sNoProviders.str();
   for (const auto& name : names) {
@@ -199,72 +200,55 @@ void List(const TCommandLine&) {
 
 // --------------------------------------------------------------------------------------------- command line
 
-struct TCommand {
-  const char* Name;
-  std::size_t Arguments;
-  std::set<std::string> Options;
-  void (*Run)(const TCommandLine&);
-};
-
-const TCommand kCommands[] = {
-    {"add", 2, {kDefaultOption, kForceOption, kSearchPathOption, kIsolatedOption}, Add},
-    {"remove", 1, {}, Remove},
-    {"default", 1, {}, MakeDefault},
-    {"isolate", 1, {}, MakeIsolated},
-    {"direct", 1, {}, MakeDirect},
-    {"list", 0, {}, List},
-};
-
-const std::set<std::string> kHelpOptions{"--help", "-h"};
-
-TCommandLine Parse(const std::vector<std::string>& arguments) {
-  TCommandLine line;
-  bool optionsEnded = false;
-  for (const auto& argument : arguments) {
-    if (optionsEnded || argument.size() < 2 || argument.front() != '-')
-      line.Words.push_back(argument);
-    else if (argument == "--")
-      optionsEnded = true;
-    else
-      line.Options.insert(argument);
-  }
-  return line;
-}
-
-const TCommand& CommandOf(const TCommandLine& line) {
-  if (line.Words.empty())
-    throw EUsage(line.Options.empty() ? "" : Format(sUnknownOption, {*line.Options.begin()}));
-  const auto& word = line.Words.front();
-  const auto command = std::find_if(std::begin(kCommands), std::end(kCommands),
-                                    [&](const TCommand& c) { return c.Name == word; });
-  if (command == std::end(kCommands)) throw EUsage(Format(sUnknownCommand, {word}));
-  for (const auto& option : line.Options)
-    if (!command->Options.contains(option)) throw EUsage(Format(sOptionNotForCommand, {word, option}));
-  if (line.Words.size() != command->Arguments + 1) throw EUsage(Format(sWrongArguments, {word}));
-  return *command;
-}
-
-void Run(const TCommandLine& line) {
-  const auto asksForHelp = [](const std::string& option) { return kHelpOptions.contains(option); };
-  if (std::any_of(line.Options.begin(), line.Options.end(), asksForHelp))
-    std::cout << sUsage.str() << '\n' << sHelp.str();
-  else
-    CommandOf(line).Run(line);
+/// Adds the commands to `parser`, which fills `arguments`; Run of the chosen one is stored in `command`.
+void AddCommands(CLI::App& parser, TArguments& arguments, void (*&command)(const TArguments&)) {
+  const auto add = [&](const char* name, const TResString& help, void (*run)(const TArguments&)) {
+    auto* const added = parser.add_subcommand(name, help);
+    added->group(sCommands);
+    added->callback([&command, run] { command = run; });
+    if (run != List) added->add_option("NAME", arguments.Name, sNameHelp)->required();
+    return added;
+  };
+  auto* const install = add("add", sAddHelp, Add);
+  install->add_option("PATH", arguments.Path, sPathHelp)->required();
+  install->add_flag("--default", arguments.Default, sDefaultHelp);
+  install->add_flag("--force", arguments.Force, sForceHelp);
+  install->add_flag("--search-path", arguments.SearchPath, sSearchPathHelp);
+  install->add_flag("--isolated", arguments.Isolated, sIsolatedHelp);
+  add("remove", sRemoveHelp, Remove);
+  add("default", sMakeDefaultHelp, MakeDefault);
+  add("isolate", sIsolateHelp, MakeIsolated);
+  add("direct", sDirectHelp, MakeDirect);
+  add("list", sListHelp, List);
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
   PrepareConsole();
+  const auto words = CommandLineArguments(argc, argv);
+  TArguments arguments;
+  void (*command)(const TArguments&) = nullptr;
+  CLI::App parser(sDescription, "scc-register");
+  parser.allow_windows_style_options(false);  // paths may begin with a slash
+  parser.set_help_flag();
+  parser.set_help_all_flag("-h,--help", sHelpHelp);
+  parser.require_subcommand(0, 1);
+  for (const auto& [label, shown] : kHelpLabels) parser.get_formatter()->label(label, shown);
+  parser.footer(sFooter);
+  parser.failure_message([](const CLI::App*, const CLI::Error& error) {
+    return Format(sMessage, {error.what()}) + sSeeHelp.str();
+  });
+  AddCommands(parser, arguments, command);
   try {
-    Run(Parse(CommandLineArguments(argc, argv)));
+    parser.parse(std::vector<std::string>(words.rbegin(), words.rend()));
+    if (!command) throw CLI::RequiredError(sCommand);
+    command(arguments);
     return 0;
-  } catch (const EUsage& error) {
-    if (*error.what()) std::cerr << Format(sMessage, {error.what()});
-    std::cerr << sUsage.str();
-    return 2;
+  } catch (const CLI::Error& error) {
+    return parser.exit(error) == 0 ? 0 : kExitUsage;
   } catch (const std::exception& error) {
     std::cerr << Format(sMessage, {error.what()});
-    return 1;
+    return kExitFailed;
   }
 }
