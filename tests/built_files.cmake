@@ -14,3 +14,11 @@ endforeach()
 if(seen EQUAL 0)
   message(FATAL_ERROR "there is nothing to look at in ${FOLDER}")
 endif()
+
+# The programs that are installed play no macros.
+foreach(program IN ITEMS workbench scc-provider-host)
+  file(STRINGS ${FOLDER}/${program} verbs REGEX "expect-no-dialog")
+  if(verbs)
+    message(SEND_ERROR "${program} contains the macro player")
+  endif()
+endforeach()

@@ -4,8 +4,8 @@
 #include <wx/menu.h>
 #include <wx/tokenzr.h>
 
+#include "workbench/macro/MacroToolkit.h"
 #include "workbench/macro/WindowFinder.h"
-#include "workbench/windows/Toolkit.h"
 
 namespace kestrel::workbench {
 

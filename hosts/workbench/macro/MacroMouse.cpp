@@ -11,10 +11,10 @@
 #include "workbench/macro/MacroControls.h"
 #include "workbench/macro/MacroMenus.h"
 #include "workbench/macro/MacroStrings.h"
+#include "workbench/macro/MacroToolkit.h"
 #include "workbench/macro/WindowFinder.h"
 #include "workbench/windows/EditorBook.h"
 #include "workbench/windows/MainFrame.h"
-#include "workbench/windows/Toolkit.h"
 
 namespace kestrel::workbench {
 

@@ -9,12 +9,12 @@
 #include "system/Paths.h"
 #include "system/System.h"
 #include "workbench/macro/MacroStrings.h"
+#include "workbench/macro/Screenshot.h"
 #include "workbench/macro/WindowFinder.h"
 #include "workbench/macro/WindowSteps.h"
 #include "workbench/windows/App.h"
 #include "workbench/windows/MainFrame.h"
 #include "workbench/windows/ModalStack.h"
-#include "workbench/windows/Screenshot.h"
 
 namespace kestrel::workbench {
 
@@ -40,13 +40,13 @@ void Print(std::FILE* to, const std::string& line) {
 
 }  // namespace
 
-TMacroPlayer::TMacroPlayer(TMainFrame& frame, const TCommandLine& line, std::function<void(int)> end)
-    : frame_(frame), end_(std::move(end)), screenshots_(line.Screenshots), limitMs_(kDefaultLimitMs) {
+TMacroPlayer::TMacroPlayer(TMainFrame& frame, const TMacroOptions& options, std::function<void(int)> end)
+    : frame_(frame), end_(std::move(end)), screenshots_(options.Screenshots), limitMs_(kDefaultLimitMs) {
   try {
-    steps_ = ParseMacro(ReadWholeFile(line.Macro));
+    steps_ = ParseMacro(ReadWholeFile(options.Macro));
     StartOnce(kStartMs);
   } catch (const std::exception& e) {
-    Print(stderr, line.Macro + ": " + e.what());
+    Print(stderr, options.Macro + ": " + e.what());
     frame_.CallAfter([this] { End(kExitUsage); });
   }
 }

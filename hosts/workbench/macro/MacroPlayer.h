@@ -11,10 +11,10 @@
 #include <string>
 #include <vector>
 
+#include "workbench/macro/MacroOptions.h"
 #include "workbench/macro/MacroParser.h"
 #include "workbench/macro/MessageBoxes.h"
 #include "workbench/macro/ProviderWindows.h"
-#include "workbench/model/CommandLine.h"
 
 class wxTopLevelWindow;
 
@@ -27,7 +27,7 @@ class TMainFrame;
 class TMacroPlayer final : public wxTimer {
  public:
   /// Starts playing at once.  `end` is called once, with the program's exit code.
-  TMacroPlayer(TMainFrame& frame, const TCommandLine& line, std::function<void(int)> end);
+  TMacroPlayer(TMainFrame& frame, const TMacroOptions& options, std::function<void(int)> end);
   void Notify() override;
 
  private:

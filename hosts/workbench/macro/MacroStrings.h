@@ -5,6 +5,12 @@
 
 namespace kestrel::workbench {
 
+inline constexpr TResString sPlayHelp{
+    "Play a macro file, then exit: with 0 if every step succeeded, 1 if one failed"};
+inline constexpr TResString sScreenshotsHelp{
+    "Where a macro's screenshots are written to (default: the current folder)"};
+inline constexpr TResString sMacroHelpHelp{"List the steps of a macro"};
+
 inline constexpr TResString sMacroLine{"line %d: %s"};
 inline constexpr TResString sMacroUnknownVerb{"there is no verb \"%s\""};
 inline constexpr TResString sMacroArguments{"\"%s\" takes %d arguments, not %d"};

@@ -1,23 +1,21 @@
-// What the program was asked to do on its command line.
+// What the program was asked to open.
 #pragma once
 
 #include <string>
 #include <vector>
 
+namespace CLI {
+class App;
+}
+
 namespace kestrel::workbench {
 
 struct TCommandLine {
-  bool Help = false;
-  bool Version = false;
-  bool MacroHelp = false;
-  std::vector<std::string> Packages;
-  std::string File;
-  std::string Macro;
-  std::string Screenshots = ".";
+  std::vector<std::string> Packages;  ///< paths; empty for those of the options
+  std::string File;                   ///< empty for none
 
-  /// Throws std::runtime_error with what is wrong.  `--option=value` and `--option value` are the same; "--" ends the
-  /// options.
-  static TCommandLine Parse(const std::vector<std::string>& arguments);
+  /// Adds the options and the argument to `parser`, which fills in this object.
+  void AddTo(CLI::App& parser);
 };
 
 }  // namespace kestrel::workbench

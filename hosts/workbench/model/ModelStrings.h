@@ -31,23 +31,11 @@ inline constexpr TResString sPackageNotLoaded{"Package %s could not be loaded: %
 inline constexpr TResString sPackageNoEntry{"Package %s has no entry point \"%s\" and was not loaded."};
 inline constexpr TResString sPackageLeftovers{"Package left %d registrations behind when it was unloaded."};
 
-inline constexpr TResString sUnknownOption{"unknown option %s"};
-inline constexpr TResString sOptionNeedsValue{"option %s needs a value"};
-inline constexpr TResString sOptionTakesNoValue{"option %s takes no value"};
-inline constexpr TResString sTooManyFiles{"only one file can be opened: %s"};
-inline constexpr TResString sUsage{
-    "Usage: workbench [options] [FILE]\n"
-    "\n"
-    "FILE is a unit (.pas), a form (.kfm), a project (.qvxproj) or a project group (.qvxgroup).\n"
-    "\n"
-    "  --package PATH      load this run-time package (may be given several times)\n"
-    "  --play FILE         play a macro file and exit: 0 when every step worked, 1 when one failed\n"
-    "  --screenshots DIR   where a macro's screenshots go (default: the current directory)\n"
-    "  --macro-help        list the steps of a macro\n"
-    "  --help              show this text\n"
-    "  --version           show the version\n"
-    "\n"
+inline constexpr TResString sFileHelp{
+    "A unit (.pas), a form (.kfm), a project (.qvxproj) or a project group (.qvxgroup)"};
+inline constexpr TResString sPackageHelp{"Load this run-time package; may be given several times"};
+inline constexpr TResString sPackagesHelp{
     "Without --package, the packages of Tools > Options are loaded; without those, KestrelIDE beside the "
-    "program.\n"};
+    "program."};
 
 }  // namespace kestrel::workbench

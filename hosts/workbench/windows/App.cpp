@@ -11,7 +11,6 @@
 
 #include "system/Paths.h"
 #include "system/System.h"
-#include "workbench/macro/MacroPlayer.h"
 #include "workbench/model/ModelStrings.h"
 #include "workbench/model/PackageLoader.h"
 #include "workbench/model/Settings.h"
@@ -20,6 +19,7 @@
 #include "workbench/windows/MainFrame.h"
 #include "workbench/windows/ModalStack.h"
 #include "workbench/windows/OpenMenus.h"
+#include "workbench/windows/Player.h"
 #include "workbench/windows/Toolkit.h"
 
 namespace kestrel::workbench {
@@ -49,7 +49,7 @@ void EndOnSignal(auto& app) {
 
 }  // namespace
 
-TWorkbenchApp::TWorkbenchApp(TCommandLine line) : line_(std::move(line)) {}
+TWorkbenchApp::TWorkbenchApp(TCommandLine line, IPlayer* player) : line_(std::move(line)), player_(player) {}
 TWorkbenchApp::~TWorkbenchApp() = default;
 
 bool TWorkbenchApp::OnInit() {
@@ -74,8 +74,7 @@ bool TWorkbenchApp::OnInit() {
   frame_->PackageMenus().ShowAll();
   frame_->OfferPackageWindows();
   if (!line_.File.empty()) frame_->CallAfter([this] { frame_->OpenForUser(line_.File); });
-  if (!line_.Macro.empty())
-    player_ = std::make_unique<TMacroPlayer>(*frame_, line_, [this](int exitCode) { EndProgram(exitCode); });
+  if (player_) player_->Start(*frame_, [this](int exitCode) { EndProgram(exitCode); });
   return true;
 }
 
@@ -84,7 +83,7 @@ void TWorkbenchApp::Log(const std::string& line) {
     frame_->AddMessage(line);
   else
     early_.push_back(line);
-  // Nobody looks at the message pane of a program that fails to start its packages, or that plays a macro.
+  // Nobody looks at the message pane of a program that fails to start its packages, or that is played.
   if (!frame_ || player_) std::fprintf(stderr, "workbench: %s\n", line.c_str());
 }
 
@@ -107,7 +106,7 @@ void TWorkbenchApp::OnAssertFailure(const wxChar* file, int line, const wxChar*,
 
 void TWorkbenchApp::TakeApart() {
   if (std::exchange(takenApart_, true)) return;
-  player_.reset();
+  if (player_) player_->Stop();
   packages_->Finalize();  // with the frame alive: packages take their menus and windows away
   delete frame_;
   frame_ = nullptr;

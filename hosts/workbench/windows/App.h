@@ -14,7 +14,7 @@ inline constexpr int kExitFailed = 1;
 inline constexpr int kExitUsage = 2;
 inline constexpr int kExitNoDisplay = 3;
 
-class TMacroPlayer;
+class IPlayer;
 class TMainFrame;
 class TIdeServices;
 class TPackageLoader;
@@ -23,7 +23,8 @@ class TOpenMenus;
 
 class TWorkbenchApp final : public wxApp {
  public:
-  explicit TWorkbenchApp(TCommandLine line);
+  /// `player`, borrowed, is null unless it plays.
+  TWorkbenchApp(TCommandLine line, IPlayer* player);
   ~TWorkbenchApp() override;
   bool OnInit() override;
   int OnRun() override;
@@ -46,11 +47,11 @@ class TWorkbenchApp final : public wxApp {
   void EndStep();
 
   TCommandLine line_;
+  IPlayer* player_;
   std::unique_ptr<TModalStack> modals_;
   std::unique_ptr<TOpenMenus> menus_;
   std::unique_ptr<TIdeServices> services_;
   std::unique_ptr<TPackageLoader> packages_;
-  std::unique_ptr<TMacroPlayer> player_;
   std::vector<std::string> early_;  // lines from before there was a message pane
   TMainFrame* frame_ = nullptr;
   bool takenApart_ = false;

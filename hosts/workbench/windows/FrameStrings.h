@@ -8,6 +8,11 @@ namespace kestrel::workbench {
 inline constexpr TResString sProgramName{"Workbench"};
 inline constexpr TResString sFrameTitle{"%s - Workbench"};
 inline constexpr TResString sAboutText{"Workbench %s\nA small IDE that hosts run-time packages."};
+inline constexpr TResString sProgramHelp{"A small IDE that loads run-time packages."};
+inline constexpr TResString sHelpHelp{"Print this help"};
+inline constexpr TResString sVersionHelp{"Print the version"};
+inline constexpr TResString sVersion{"workbench %s"};
+inline constexpr TResString sWrongUsage{"workbench: %s\nRun with --help for more information.\n"};
 inline constexpr TResString sNoDisplay{
     "workbench: no display; run under Xvfb (for example: xvfb-run -a workbench ...)"};
 inline constexpr TResString sCommandRunning{

@@ -1,4 +1,4 @@
-#include "workbench/windows/Screenshot.h"
+#include "workbench/macro/Screenshot.h"
 
 #include <wx/bitmap.h>
 #include <wx/dcmemory.h>
@@ -6,13 +6,13 @@
 #include <wx/image.h>
 
 #include "toolkit/WxText.h"
-#include "workbench/windows/Toolkit.h"
+#include "workbench/macro/MacroToolkit.h"
 
 namespace kestrel::workbench {
 
 bool SaveScreenshot(const std::string& fileName) {
   wxScreenDC screen;
-  ForgetScreenCopy(screen);
+  InvalidateScreenCopy(screen);
   const wxSize size = screen.GetSize();
   wxBitmap bitmap(size.GetWidth(), size.GetHeight());
   wxMemoryDC memory(bitmap);
