@@ -11,7 +11,7 @@ using testing::ElementsAre;
 
 TEST(MacroParser, ReadsStepsWithQuotedArgumentsAndComments) {
   const auto steps = ParseMacro(
-      "# a story\n"
+      "# a comment\n"
       "\n"
       "open tour/Demo.qvxproj   # with a remark\r\n"
       "  type \"&Comment\" \"first\\nsaid \\\"#1\\\" \\\\ end\"\n"

@@ -7,13 +7,13 @@ namespace kestrel::workbench {
 
 namespace {
 
-const TPackageGuard guard([](const std::string&) {});
+const TPackageCaller caller([](const std::string&) {});
 
 TEST(ModuleIndex, FindsAModuleByEachOfItsFilesIgnoringCase) {
   TTemporaryFolder folder;
   folder.Write("Main.kfm", "");
   TModuleIndex index;
-  auto& unit = static_cast<TUnit&>(index.Add(std::make_unique<TUnit>(folder / "Main.pas", guard)));
+  auto& unit = static_cast<TUnit&>(index.Add(std::make_unique<TUnit>(folder / "Main.pas", caller)));
   EXPECT_EQ(index.Find(folder / "MAIN.PAS"), &unit);
   EXPECT_EQ(index.Find(folder / "main.kfm"), &unit);
   EXPECT_EQ(index.Find(folder / "Main.res"), nullptr);
@@ -29,7 +29,7 @@ TEST(ModuleIndex, FindsAModuleByEachOfItsFilesIgnoringCase) {
 
 TEST(ModuleIndex, KeepsTheOrderOfOpening) {
   TModuleIndex index;
-  for (const char* name : {"/a.pas", "/b.pas", "/c.pas"}) index.Add(std::make_unique<TUnit>(name, guard));
+  for (const char* name : {"/a.pas", "/b.pas", "/c.pas"}) index.Add(std::make_unique<TUnit>(name, caller));
   index.Remove(*index.Find("/b.pas"));
   ASSERT_EQ(index.InOrder().size(), 2u);
   EXPECT_EQ(index.InOrder()[0]->FileName(), "/a.pas");

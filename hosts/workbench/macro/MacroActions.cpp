@@ -25,7 +25,7 @@ void Require(bool done, const TResString& text, const std::string& what = {}) {
 }
 
 TOpenModule& OpenModule(TMainFrame& frame, const std::string& file) {
-  TOpenModule* module = frame.Session().Modules().Find(FullPath(file));
+  TOpenModule* module = frame.Workspace().Modules().Find(FullPath(file));
   Require(module != nullptr, sNotOpen, file);
   return *module;
 }
@@ -33,38 +33,38 @@ TOpenModule& OpenModule(TMainFrame& frame, const std::string& file) {
 }  // namespace
 
 std::string TMacroPlayer::DoOpen(const TArguments& arguments) {
-  Require(frame_.Session().Open(arguments[0]), sNotOpened, arguments[0]);
+  Require(frame_.Workspace().Open(arguments[0]), sNotOpened, arguments[0]);
   return {};
 }
 
 std::string TMacroPlayer::DoClose(const TArguments& arguments) {
-  Require(frame_.Session().Close(OpenModule(frame_, arguments[0])), sNotDone);
+  Require(frame_.Workspace().Close(OpenModule(frame_, arguments[0])), sNotDone);
   return {};
 }
 
 std::string TMacroPlayer::DoActivate(const TArguments& arguments) {
   auto* project = dynamic_cast<TProject*>(&OpenModule(frame_, arguments[0]));
   Require(project != nullptr, sNotOpen, arguments[0]);
-  frame_.Session().SetActiveProject(*project);
+  frame_.Workspace().SetActiveProject(*project);
   return {};
 }
 
 std::string TMacroPlayer::DoEdit(const TArguments& arguments) {
-  Require(frame_.Session().Open(arguments[0]), sNotOpened, arguments[0]);
+  Require(frame_.Workspace().Open(arguments[0]), sNotOpened, arguments[0]);
   TEditorPage* page = frame_.Book().FrontPage();
   Require(page && page->TypeAtEnd(arguments[1]), sIsReadOnly, arguments[0]);
   return {};
 }
 
 std::string TMacroPlayer::DoSave(const TArguments&) {
-  TTextEditor* editor = frame_.Session().ActiveEditor();
+  TTextEditor* editor = frame_.Workspace().ActiveEditor();
   Require(editor != nullptr, sNotDone);
-  frame_.Session().Save(*editor);
+  frame_.Workspace().Save(*editor);
   return {};
 }
 
 std::string TMacroPlayer::DoSaveAll(const TArguments&) {
-  Require(frame_.Session().SaveAll(), sNotDone);
+  Require(frame_.Workspace().SaveAll(), sNotDone);
   return {};
 }
 
@@ -79,7 +79,7 @@ std::string TMacroPlayer::DoSetReadOnly(const TArguments& arguments) {
 }
 
 std::string TMacroPlayer::DoRefocus(const TArguments&) {
-  frame_.LookAtDisk();
+  frame_.CheckFilesOnDisk();
   return {};
 }
 

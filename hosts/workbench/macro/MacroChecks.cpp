@@ -49,14 +49,14 @@ std::pair<std::string, int> RunInShell(const std::string& command) {
   const int code = std::system(line.c_str());
   std::istringstream lines(ReadWholeFile(output.utf8_string()));
   wxRemoveFile(output);
-  std::string said;
-  for (std::string text; std::getline(lines, text);) said += "    " + text + "\n";
-  return {said, code};
+  std::string printed;
+  for (std::string text; std::getline(lines, text);) printed += "    " + text + "\n";
+  return {printed, code};
 }
 
 /// Empty when the file and its editor, if it is open, have that attribute.
 std::string CheckReadOnly(TMainFrame& frame, const std::string& file, bool readOnly) {
-  const TOpenModule* module = frame.Session().Modules().Find(FullPath(file));
+  const TOpenModule* module = frame.Workspace().Modules().Find(FullPath(file));
   const TDocument* document = module ? module->FindDocument(FullPath(file)) : nullptr;
   const bool onDisk = (GetFileAttributesOf(file) & faReadOnly) != 0;
   const bool inEditor = document ? document->IsReadOnly() : onDisk;
@@ -126,10 +126,10 @@ std::string TMacroPlayer::DoPrintMessages(const TArguments&) {
 }
 
 std::string TMacroPlayer::DoRun(const TArguments& arguments) {
-  const auto [said, code] = RunInShell(arguments[0]);
+  const auto [printed, code] = RunInShell(arguments[0]);
   // Thrown, not answered: a command that failed is not run again.
-  if (code != 0) throw std::runtime_error(Format(sCommandFailed, {code, said}));
-  std::fputs(said.c_str(), stdout);
+  if (code != 0) throw std::runtime_error(Format(sCommandFailed, {code, printed}));
+  std::fputs(printed.c_str(), stdout);
   return {};
 }
 
@@ -154,7 +154,7 @@ std::string TMacroPlayer::DoExpectFileDisabled(const TArguments& arguments) {
 }
 
 std::string TMacroPlayer::DoExpectEditor(const TArguments& arguments) {
-  TOpenModule* module = frame_.Session().Modules().Find(FullPath(arguments[0]));
+  TOpenModule* module = frame_.Workspace().Modules().Find(FullPath(arguments[0]));
   const auto* editor =
       module ? dynamic_cast<TTextEditor*>(module->FindDocument(FullPath(arguments[0]))) : nullptr;
   const TEditorPage* page = editor ? frame_.Book().PageOf(*editor) : nullptr;

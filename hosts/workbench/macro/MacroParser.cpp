@@ -73,7 +73,7 @@ namespace {
 char Unescaped(char c) { return c == 'n' ? '\n' : c == 't' ? '\t' : c; }
 
 /// Takes one word, quoted or not, from the front of `rest`.
-std::string TakeWord(std::string_view& rest) {
+std::string ReadWord(std::string_view& rest) {
   std::string word;
   if (!rest.starts_with('"')) {
     const std::size_t end = std::min(rest.find_first_of(" \t"), rest.size());
@@ -96,7 +96,7 @@ std::vector<std::string> Words(std::string_view line) {
   while (true) {
     line.remove_prefix(std::min(line.find_first_not_of(" \t\r"), line.size()));
     if (line.empty() || line.starts_with('#')) return words;
-    words.push_back(TakeWord(line));
+    words.push_back(ReadWord(line));
   }
 }
 

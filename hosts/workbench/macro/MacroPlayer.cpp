@@ -55,7 +55,7 @@ long long TMacroPlayer::Elapsed() const {
   return std::chrono::duration_cast<std::chrono::milliseconds>(TClock::now() - started_).count();
 }
 
-bool TMacroPlayer::CallRuns() const {
+bool TMacroPlayer::IsCallRunning() const {
   if (const wxDialog* dialog = TModalStack::Top()) return dialog->GetName() == kProviderIsWaitedFor;
   const auto* loop = wxEventLoopBase::GetActive();
   return loop && loop->IsYielding();
@@ -63,7 +63,7 @@ bool TMacroPlayer::CallRuns() const {
 
 void TMacroPlayer::Notify() {
   if (ended_) return;
-  if (CallRuns() && !providerWindows_.IsAsked() && providerWindows_.Front().empty()) {
+  if (IsCallRunning() && !providerWindows_.IsBusy() && providerWindows_.Front().empty()) {
     StartOnce(kRetryMs);
     return;
   }
@@ -81,7 +81,7 @@ void TMacroPlayer::Notify() {
   // Under GTK creating it handles events: a step that ran meanwhile would overtake this one.
   if (!input_ && NeedsInput(step.Verb)) input_ = std::make_unique<wxUIActionSimulator>();
   StartOnce(kStepMs);  // before the step: it may run a modal dialog, and the next steps go on inside
-  const std::string problem = RunGuarded(step);
+  const std::string problem = RunCatching(step);
   if (problem.empty() || ended_) return;
   if (next_ != mine + 1 || Elapsed() >= limitMs_) return Fail(step, problem);
   next_ = mine;
@@ -89,7 +89,7 @@ void TMacroPlayer::Notify() {
   StartOnce(kRetryMs);
 }
 
-std::string TMacroPlayer::RunGuarded(const TMacroStep& step) {
+std::string TMacroPlayer::RunCatching(const TMacroStep& step) {
   try {
     return Run(step);
   } catch (const std::exception& e) {
@@ -129,13 +129,13 @@ std::string TMacroPlayer::Screenshot(const std::string& file) {
 std::string TMacroPlayer::Run(const TMacroStep& step) {
   using P = TMacroPlayer;
   // What a provider shows in a process of its own is in front of everything here.
-  if (providerWindows_.IsAsked()) return providerWindows_.Work(step);
+  if (providerWindows_.IsBusy()) return providerWindows_.Run(step);
   if (const auto front = providerWindows_.Front(); !front.empty()) {
-    if (IsWindowStep(step.Verb) || step.Verb == TMacroVerb::Expect) return providerWindows_.Work(step);
+    if (IsWindowStep(step.Verb) || step.Verb == TMacroVerb::Expect) return providerWindows_.Run(step);
     if (step.Verb == TMacroVerb::ExpectNoDialog) return Format(sDialogOpen, {front});
   }
-  if (IsWindowStep(step.Verb)) return WorkWindow(step, Front(), input_.get());
-  static constexpr TAction kActions[] = {// in the order of TMacroVerb; none for WorkWindow's
+  if (IsWindowStep(step.Verb)) return RunInWindow(step, Front(), input_.get());
+  static constexpr TAction kActions[] = {// in the order of TMacroVerb; none for RunInWindow's
                                          &P::DoOpen,
                                          &P::DoClose,
                                          &P::DoActivate,

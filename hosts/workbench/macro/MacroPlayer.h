@@ -36,12 +36,12 @@ class TMacroPlayer final : public wxTimer {
 
   /// Does the step; empty, or why it could not (yet).
   std::string Run(const TMacroStep& step);
-  std::string RunGuarded(const TMacroStep& step);
+  std::string RunCatching(const TMacroStep& step);
   void Fail(const TMacroStep& step, const std::string& reason);
   void End(int exitCode);
   long long Elapsed() const;
   /// Users cannot do anything then either: their clicks wait, or there is only the window that says so.
-  bool CallRuns() const;
+  bool IsCallRunning() const;
   /// The window that a user works in: the innermost dialog, else the window expected last, else the main window.
   wxTopLevelWindow& Front() const;
   std::string Screenshot(const std::string& file);

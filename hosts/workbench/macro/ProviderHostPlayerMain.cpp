@@ -2,7 +2,7 @@
 #include <cstdlib>
 
 #include "Host.h"
-#include "workbench/macro/PlayedWindows.h"
+#include "workbench/macro/ProviderWindowServer.h"
 #include "workbench/macro/ProviderWindows.h"
 
 using namespace kestrel;
@@ -11,8 +11,8 @@ using namespace kestrel::workbench;
 namespace {
 
 std::unique_ptr<wxEvtHandler> MakePlayer() {
-  const char* folder = std::getenv(kPlayedFolder);
-  return folder ? std::make_unique<TPlayedWindows>(folder) : nullptr;
+  const char* folder = std::getenv(kExchangeFolder);
+  return folder ? std::make_unique<TProviderWindowServer>(folder) : nullptr;
 }
 
 }  // namespace

@@ -18,7 +18,7 @@ namespace fs = std::filesystem;
 TProviderWindows::TProviderWindows() : folder_(FromWx(wxFileName::CreateTempFileName("played"))) {
   fs::remove(ToFilePath(folder_));
   fs::create_directory(ToFilePath(folder_));
-  wxSetEnv(kPlayedFolder, ToWx(folder_));
+  wxSetEnv(kExchangeFolder, ToWx(folder_));
 }
 
 TProviderWindows::~TProviderWindows() {
@@ -35,11 +35,11 @@ std::string TProviderWindows::Front() const {
   }
 }
 
-std::string TProviderWindows::Work(const TMacroStep& step) {
+std::string TProviderWindows::Run(const TMacroStep& step) {
   const auto answer = ResolvePath(folder_, "answer");
-  if (!asked_) WriteFileAtomically(ResolvePath(folder_, "step"), step.Text);
-  asked_ = !FileExists(answer);
-  if (asked_) return sNotDone;
+  if (!busy_) WriteFileAtomically(ResolvePath(folder_, "step"), step.Text);
+  busy_ = !FileExists(answer);
+  if (busy_) return sNotDone;
   const auto result = ReadWholeFile(answer);
   fs::remove(ToFilePath(answer));
   return result;

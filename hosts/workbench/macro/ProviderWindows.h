@@ -1,5 +1,5 @@
 // The windows of a provider that runs in a process of its own, as the macro player works them: that process has the other
-// half of this (PlayedWindows), which runs only when it finds the folder's name in its environment.
+// half of this (ProviderWindowServer), which runs only when it finds the folder's name in its environment.
 //
 // The two meet in a folder of files, which works the same on every system: `front` holds the title of the window in front
 // while there is one, `step` a line of a macro, `answer` what came of it.
@@ -11,7 +11,7 @@
 
 namespace kestrel::workbench {
 
-inline constexpr const char* kPlayedFolder = "KESTREL_PLAYED_WINDOWS";
+inline constexpr const char* kExchangeFolder = "KESTREL_PROVIDER_WINDOWS";
 
 class TProviderWindows {
  public:
@@ -24,13 +24,13 @@ class TProviderWindows {
   /// The title of the window in front; empty when none is shown.
   std::string Front() const;
   /// A step is being done there, whatever is in front by now.
-  bool IsAsked() const { return asked_; }
+  bool IsBusy() const { return busy_; }
   /// Does the step there; empty, or why it could not (yet).
-  std::string Work(const TMacroStep& step);
+  std::string Run(const TMacroStep& step);
 
  private:
   std::string folder_;
-  bool asked_ = false;
+  bool busy_ = false;
 };
 
 }  // namespace kestrel::workbench

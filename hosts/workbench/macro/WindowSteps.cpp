@@ -90,7 +90,7 @@ auto RowOf(TMacroVerb verb) {
 
 bool IsWindowStep(TMacroVerb verb) { return verb == TMacroVerb::Key || RowOf(verb) != std::end(kSteps); }
 
-std::string WorkWindow(const TMacroStep& step, wxTopLevelWindow& front, wxUIActionSimulator* input) {
+std::string RunInWindow(const TMacroStep& step, wxTopLevelWindow& front, wxUIActionSimulator* input) {
   if (step.Verb == TMacroVerb::Key) return PressIn(front, *input, step.Arguments[0]);
   return RowOf(step.Verb)->Do(front, step.Arguments);
 }

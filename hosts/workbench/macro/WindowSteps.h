@@ -11,10 +11,10 @@
 
 namespace kestrel::workbench {
 
-/// Whether WorkWindow can do the step.
+/// Whether RunInWindow can do the step.
 bool IsWindowStep(TMacroVerb verb);
 /// Does the step in `front`, the window that a user works in; empty, or why it could not (yet).  `input` is there for Key.
-std::string WorkWindow(const TMacroStep& step, wxTopLevelWindow& front, wxUIActionSimulator* input);
+std::string RunInWindow(const TMacroStep& step, wxTopLevelWindow& front, wxUIActionSimulator* input);
 /// The shown window of that title that a user can work in: behind the innermost dialog there is none.  nullptr, and why in
 /// `problem`, when there is none.
 wxTopLevelWindow* ExpectWindow(const std::string& title, std::string& problem);

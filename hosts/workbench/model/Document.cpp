@@ -58,7 +58,7 @@ void TDocument::Save() {
 TDiskChange TDocument::CheckDisk() {
   if (IsNew()) return TDiskChange::None;
   const std::string now = DiskStamp();
-  if (now.empty()) return TDiskChange::Gone;
+  if (now.empty()) return TDiskChange::Deleted;
   if (now != stamp_) return TDiskChange::Contents;
   const bool before = readOnly_;
   RefreshReadOnly();

@@ -9,13 +9,13 @@
 namespace kestrel::workbench {
 
 /// What has happened to a document's file since it was last read or written.
-enum class TDiskChange { None, Attributes, Contents, Gone };
+enum class TDiskChange { None, Attributes, Contents, Deleted };
 
 /// Base of everything that can be edited and saved.  What the contents are is up to the derived class.
 class TDocument : public virtual IOTAEditor {
  public:
-  TDocument(std::string fileName, const TPackageGuard& guard)
-      : fileName_(std::move(fileName)), guard_(guard) {}
+  TDocument(std::string fileName, const TPackageCaller& caller)
+      : fileName_(std::move(fileName)), caller_(caller) {}
   ~TDocument() override;
 
   const std::string& FileName() const { return fileName_; }
@@ -52,7 +52,7 @@ class TDocument : public virtual IOTAEditor {
   template <class T, class Call>
   void Notify(const char* what, Call call) const {
     notifiers_.ForEach([&](IOTANotifier& notifier) {
-      if (T* wanted = Supports<T>(&notifier)) guard_.Run(what, [&] { call(*wanted); });
+      if (T* wanted = Supports<T>(&notifier)) caller_.Run(what, [&] { call(*wanted); });
     });
   }
   /// Tells all notifiers that the document goes, once, and forgets them.
@@ -63,7 +63,7 @@ class TDocument : public virtual IOTAEditor {
   void RefreshReadOnly();
 
   std::string fileName_;
-  const TPackageGuard& guard_;
+  const TPackageCaller& caller_;
   TRegistrations<IOTANotifier> notifiers_;
   std::string stamp_;  // size and time of the file as last read or written; empty for a document never saved
   bool readOnly_ = false;

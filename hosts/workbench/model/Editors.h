@@ -30,7 +30,7 @@ class TTextEditor : public TDocument {
   /// Replaces the text and marks it modified: the text of a new document.
   void SetNewText(const std::string& text);
   /// Its file is gone: the text counts as never saved, so that closing asks about it.
-  void KeepWithoutFile() { isNew_ = true; }
+  void MarkFileMissing() { isNew_ = true; }
   /// The view reports that the user changed the text, and that it came to the front.
   void TextModified();
   virtual void Activated() = 0;
@@ -92,7 +92,7 @@ class TDefinitionEditor final : public TDocument, public IOTASourceEditor {
     return file_;
   }
   /// For what is not worth asking the user about, such as which project was active last.
-  TFile& EditQuietly() { return file_; }
+  TFile& EditWithoutDirty() { return file_; }
   bool GetModified() override { return modified_; }
   int GetEditViewCount() override { return 0; }
   IOTAEditView* GetEditView(int) override { return nullptr; }

@@ -28,7 +28,7 @@ IOTAGalleryCategory* TGalleryCategories::FindCategory(const std::string& idStrin
 }
 
 void TWizardServices::RemoveWizard(int index) {
-  if (const auto wizard = wizards_.Remove(index)) guard_.Run("Destroyed", [&] { wizard->Destroyed(); });
+  if (const auto wizard = wizards_.Remove(index)) caller_.Run("Destroyed", [&] { wizard->Destroyed(); });
 }
 
 }  // namespace kestrel::workbench

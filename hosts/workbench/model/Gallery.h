@@ -40,7 +40,7 @@ class TGalleryCategories final : public IOTAGalleryCategoryManager {
 
 class TWizardServices final : public IOTAWizardServices {
  public:
-  explicit TWizardServices(const TPackageGuard& guard) : guard_(guard) {}
+  explicit TWizardServices(const TPackageCaller& caller) : caller_(caller) {}
   int AddWizard(std::shared_ptr<IOTAWizard> wizard) override { return wizards_.Add(std::move(wizard)); }
   void RemoveWizard(int index) override;
   TRegistrations<IOTAWizard>& Wizards() { return wizards_; }
@@ -49,7 +49,7 @@ class TWizardServices final : public IOTAWizardServices {
   }
 
  private:
-  const TPackageGuard& guard_;
+  const TPackageCaller& caller_;
   TRegistrations<IOTAWizard> wizards_;
 };
 

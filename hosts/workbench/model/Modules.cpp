@@ -28,14 +28,15 @@ IOTAEditor* TOpenModule::GetEditor(int index) {
   return index >= 0 && index < GetEditorCount() ? documents_[static_cast<std::size_t>(index)].get() : nullptr;
 }
 
-TUnit::TUnit(const std::string& fileName, const TPackageGuard& guard) : TOpenModule(fileName) {
+TUnit::TUnit(const std::string& fileName, const TPackageCaller& caller) : TOpenModule(fileName) {
   if (SameText(ExtractFileExt(fileName), kFormExt)) {
-    AddDocument<TFormEditor>(fileName, guard);
+    AddDocument<TFormEditor>(fileName, caller);
     return;
   }
-  AddDocument<TSourceEditor>(fileName, guard);
+  AddDocument<TSourceEditor>(fileName, caller);
   const std::string form = ChangeFileExt(fileName, kFormExt);
-  if (SameText(ExtractFileExt(fileName), kUnitExt) && FileExists(form)) AddDocument<TFormEditor>(form, guard);
+  if (SameText(ExtractFileExt(fileName), kUnitExt) && FileExists(form))
+    AddDocument<TFormEditor>(form, caller);
 }
 
 void TUnit::Rename(const std::string& fileName) {
@@ -44,8 +45,8 @@ void TUnit::Rename(const std::string& fileName) {
   if (Documents().size() > 1) Documents()[1]->Rename(ChangeFileExt(fileName, kFormExt));
 }
 
-TProject::TProject(const std::string& fileName, const TPackageGuard& guard)
-    : TOpenModule(fileName), definition_(AddDocument<TDefinitionEditor<TProjectFile>>(fileName, guard)) {}
+TProject::TProject(const std::string& fileName, const TPackageCaller& caller)
+    : TOpenModule(fileName), definition_(AddDocument<TDefinitionEditor<TProjectFile>>(fileName, caller)) {}
 
 int TProject::GetModuleCount() { return static_cast<int>(definition_.Get().Items().size()); }
 
@@ -84,8 +85,8 @@ void TProject::RemoveModuleFile(int index) {
   }
 }
 
-TProjectGroup::TProjectGroup(const std::string& fileName, const TPackageGuard& guard)
-    : TOpenModule(fileName), definition_(AddDocument<TDefinitionEditor<TGroupFile>>(fileName, guard)) {}
+TProjectGroup::TProjectGroup(const std::string& fileName, const TPackageCaller& caller)
+    : TOpenModule(fileName), definition_(AddDocument<TDefinitionEditor<TGroupFile>>(fileName, caller)) {}
 
 std::string TProjectGroup::Stored(const TProject& project) const {
   return ToStoredPath(ExtractFileDir(FileName()), project.FileName());
@@ -121,7 +122,7 @@ void TProjectGroup::Detach(TProject& project) {
 
 void TProjectGroup::SetActive(TProject& project) {
   active_ = &project;
-  definition_.EditQuietly().SetActive(Stored(project));
+  definition_.EditWithoutDirty().SetActive(Stored(project));
 }
 
 void TProjectGroup::Attach(TProject& project, bool active) {

@@ -26,8 +26,8 @@ class TOpenModule : public virtual IOTAModule {
 
  protected:
   template <class TDoc>
-  TDoc& AddDocument(const std::string& fileName, const TPackageGuard& guard) {
-    auto document = std::make_unique<TDoc>(fileName, guard);
+  TDoc& AddDocument(const std::string& fileName, const TPackageCaller& caller) {
+    auto document = std::make_unique<TDoc>(fileName, caller);
     TDoc& result = *document;
     documents_.push_back(std::move(document));
     return result;
@@ -43,7 +43,7 @@ class TOpenModule : public virtual IOTAModule {
 class TUnit final : public TOpenModule {
  public:
   /// Nothing is read yet.
-  TUnit(const std::string& fileName, const TPackageGuard& guard);
+  TUnit(const std::string& fileName, const TPackageCaller& caller);
   TTextEditor& Text(std::size_t index) const { return static_cast<TTextEditor&>(*Documents()[index]); }
   /// Gives the unit, and its form with it, another name.
   void Rename(const std::string& fileName);
@@ -51,7 +51,7 @@ class TUnit final : public TOpenModule {
 
 class TProject final : public TOpenModule, public IOTAProject {
  public:
-  TProject(const std::string& fileName, const TPackageGuard& guard);
+  TProject(const std::string& fileName, const TPackageCaller& caller);
   TDefinitionEditor<TProjectFile>& Definition() { return definition_; }
   /// Appends those that the project does not list yet (compared ignoring case); how many there were.
   std::size_t AddModuleFiles(const std::vector<std::string>& fileNames);
@@ -69,10 +69,10 @@ class TProject final : public TOpenModule, public IOTAProject {
   TDefinitionEditor<TProjectFile>& definition_;
 };
 
-/// The group that the workbench works on.  It refers to its open projects; those belong to the session.
+/// The group that the workbench works on.  It refers to its open projects; those belong to the workspace.
 class TProjectGroup final : public TOpenModule, public IOTAProjectGroup {
  public:
-  TProjectGroup(const std::string& fileName, const TPackageGuard& guard);
+  TProjectGroup(const std::string& fileName, const TPackageCaller& caller);
   TDefinitionEditor<TGroupFile>& Definition() { return definition_; }
   /// A group that exists in memory only; with a single project nobody misses its file.
   bool IsUnsaved() const { return definition_.IsNew(); }
@@ -92,7 +92,7 @@ class TProjectGroup final : public TOpenModule, public IOTAProjectGroup {
   /// The active project is another one than the file says.
   bool ActiveDiffersFromFile() const { return savedActive_ != definition_.Get().Active(); }
   /// Remembers what the file says now: call after loading and saving it.
-  void NoteSaved() { savedActive_ = definition_.Get().Active(); }
+  void RecordSaved() { savedActive_ = definition_.Get().Active(); }
 
   IOTAProject* GetActiveProject() override { return active_; }
   void* QueryInterface(const TGuid& iid) noexcept override {

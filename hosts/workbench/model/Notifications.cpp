@@ -7,12 +7,12 @@ namespace kestrel::workbench {
 
 namespace {
 
-class TDepth {
+class TScopedDepth {
  public:
-  explicit TDepth(int& depth) : depth_(++depth) {}
-  TDepth(const TDepth&) = delete;
-  TDepth& operator=(const TDepth&) = delete;
-  ~TDepth() { --depth_; }
+  explicit TScopedDepth(int& depth) : depth_(++depth) {}
+  TScopedDepth(const TScopedDepth&) = delete;
+  TScopedDepth& operator=(const TScopedDepth&) = delete;
+  ~TScopedDepth() { --depth_; }
 
  private:
   int& depth_;
@@ -20,8 +20,8 @@ class TDepth {
 
 }  // namespace
 
-bool TPackageGuard::Run(const std::string& what, const std::function<void()>& code) const {
-  const TDepth running(depth_);
+bool TPackageCaller::Run(const std::string& what, const std::function<void()>& code) const {
+  const TScopedDepth running(depth_);
   try {
     code();
     return true;
@@ -38,7 +38,7 @@ bool TPackageGuard::Run(const std::string& what, const std::function<void()>& co
 bool TNotifications::Send(TOTAFileNotification code, const std::string& fileName) {
   bool cancel = false;
   notifiers_.ForEach([&](IOTAIDENotifier& notifier) {
-    guard_.Run("FileNotification", [&] { notifier.FileNotification(code, fileName, cancel); });
+    caller_.Run("FileNotification", [&] { notifier.FileNotification(code, fileName, cancel); });
   });
   return !cancel;
 }

@@ -1,4 +1,4 @@
-// Calling into packages: the guard around every such call, and the lists of what packages registered.
+// Calling into packages: the caller around every such call, and the lists of what packages registered.
 #pragma once
 
 #include <functional>
@@ -15,9 +15,9 @@ namespace kestrel::workbench {
 using TLogLine = std::function<void(const std::string&)>;
 
 /// Runs code of packages so that none of its failures reaches the workbench.
-class TPackageGuard {
+class TPackageCaller {
  public:
-  explicit TPackageGuard(TLogLine log) : log_(std::move(log)) {}
+  explicit TPackageCaller(TLogLine log) : log_(std::move(log)) {}
   /// Calls `code`.  EAbort ends it silently, every other exception becomes one line that begins with `what`.
   /// False when it ended by an exception.
   bool Run(const std::string& what, const std::function<void()>& code) const;
@@ -73,7 +73,7 @@ class TRegistrations {
 /// The IDE notifiers and what is sent to them.
 class TNotifications {
  public:
-  explicit TNotifications(const TPackageGuard& guard) : guard_(guard) {}
+  explicit TNotifications(const TPackageCaller& caller) : caller_(caller) {}
   TRegistrations<IOTAIDENotifier>& Notifiers() { return notifiers_; }
 
   void FileOpened(const std::string& fileName);
@@ -83,7 +83,7 @@ class TNotifications {
 
  private:
   bool Send(TOTAFileNotification code, const std::string& fileName);
-  const TPackageGuard& guard_;
+  const TPackageCaller& caller_;
   TRegistrations<IOTAIDENotifier> notifiers_;
 };
 

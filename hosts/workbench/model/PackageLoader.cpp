@@ -20,23 +20,23 @@ TPackageEntry Entry(TModuleHandle module, const char* name) {
 bool TPackageLoader::Load(const std::string& path) {
   const std::string full = FullPath(path);
   if (!FileExists(full)) {
-    guard_.Log(Format(sPackageNotFound, {full}));
+    caller_.Log(Format(sPackageNotFound, {full}));
     return false;
   }
   std::string error;
   TModuleHandle module = LoadModule(full, &error);
   if (!module) {
-    guard_.Log(Format(sPackageNotLoaded, {full, error}));
+    caller_.Log(Format(sPackageNotLoaded, {full, error}));
     return false;
   }
   for (const char* name : {kPackageInitialize, kPackageRegister, kPackageFinalize})
     if (!FindSymbol(module, name)) {
-      guard_.Log(Format(sPackageNoEntry, {full, name}));
+      caller_.Log(Format(sPackageNoEntry, {full, name}));
       UnloadModule(module);
       return false;
     }
   packages_.push_back({full, module});
-  guard_.Run(full, [&] {
+  caller_.Run(full, [&] {
     Entry(module, kPackageInitialize)();
     Entry(module, kPackageRegister)();
   });
@@ -46,7 +46,7 @@ bool TPackageLoader::Load(const std::string& path) {
 void TPackageLoader::Finalize() {
   for (TPackage& package : std::views::reverse(packages_)) {
     if (std::exchange(package.Finalized, true)) continue;
-    guard_.Run(package.Path, [&] { Entry(package.Module, kPackageFinalize)(); });
+    caller_.Run(package.Path, [&] { Entry(package.Module, kPackageFinalize)(); });
   }
 }
 

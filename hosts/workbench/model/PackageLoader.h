@@ -11,7 +11,7 @@ namespace kestrel::workbench {
 
 class TPackageLoader {
  public:
-  explicit TPackageLoader(const TPackageGuard& guard) : guard_(guard) {}
+  explicit TPackageLoader(const TPackageCaller& caller) : caller_(caller) {}
   TPackageLoader(const TPackageLoader&) = delete;
   TPackageLoader& operator=(const TPackageLoader&) = delete;
   ~TPackageLoader() { Unload(); }
@@ -29,7 +29,7 @@ class TPackageLoader {
     TModuleHandle Module = nullptr;
     bool Finalized = false;
   };
-  const TPackageGuard& guard_;
+  const TPackageCaller& caller_;
   std::vector<TPackage> packages_;
 };
 

@@ -64,13 +64,13 @@ bool TWorkbenchApp::OnInit() {
   modals_ = std::make_unique<TModalStack>();
   menus_ = std::make_unique<TOpenMenus>();
   services_ = std::make_unique<TIdeServices>([this](const std::string& line) { Log(line); });
-  packages_ = std::make_unique<TPackageLoader>(services_->Guard());
+  packages_ = std::make_unique<TPackageLoader>(services_->Caller());
   for (const auto& package : PackagesToLoad(line_, services_->Options())) packages_->Load(package);
   frame_ = new TMainFrame(*services_);
   SetTopWindow(frame_);
   for (const auto& line : early_) frame_->AddMessage(line);
   frame_->Show();
-  services_->Guard().Run("MainFormCreated", [this] { services_->Application().MainFormCreated().Fire(); });
+  services_->Caller().Run("MainFormCreated", [this] { services_->Application().MainFormCreated().Fire(); });
   frame_->PackageMenus().ShowAll();
   frame_->OfferPackageWindows();
   if (!line_.File.empty()) frame_->CallAfter([this] { frame_->OpenForUser(line_.File); });
@@ -89,12 +89,12 @@ void TWorkbenchApp::Log(const std::string& line) {
 
 int TWorkbenchApp::OnRun() {
   wxApp::OnRun();
-  TakeApart();
+  ShutDown();
   return exitCode_;
 }
 
 bool TWorkbenchApp::OnExceptionInMainLoop() {
-  services_->Guard().Run(sProgramName, [] { throw; });
+  services_->Caller().Run(sProgramName, [] { throw; });
   return true;
 }
 
@@ -104,8 +104,8 @@ void TWorkbenchApp::OnAssertFailure(const wxChar* file, int line, const wxChar*,
   Log(text.utf8_string());
 }
 
-void TWorkbenchApp::TakeApart() {
-  if (std::exchange(takenApart_, true)) return;
+void TWorkbenchApp::ShutDown() {
+  if (std::exchange(shutDown_, true)) return;
   if (player_) player_->Stop();
   packages_->Finalize();  // with the frame alive: packages take their menus and windows away
   delete frame_;
@@ -128,7 +128,7 @@ void TWorkbenchApp::OnQueryEndSession(wxCloseEvent& event) {
 void TWorkbenchApp::OnEndSession(wxCloseEvent&) {
   if (frame_ && !TModalStack::Top()) {
     if (frame_->IsShown()) frame_->Close(true);  // nobody was asked
-    TakeApart();
+    ShutDown();
   }
   std::fflush(nullptr);
   std::_Exit(exitCode_);  // the system ends the process anyway, and the window that was told is gone
@@ -145,7 +145,7 @@ void TWorkbenchApp::EndStep() {
   wxDialog* dialog = TModalStack::Top();
   const bool menu = TOpenMenus::Any();
   // Code of a package that runs without a dialog shows a window of its own: it cannot be ended, only waited for.
-  if (dialog || menu || services_->Guard().IsRunning()) {
+  if (dialog || menu || services_->Caller().IsRunning()) {
     if (menu)
       TOpenMenus::Close();  // what opened it runs a loop of its own until then
     else if (dialog && dialog->IsModal())

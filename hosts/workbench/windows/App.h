@@ -39,7 +39,7 @@ class TWorkbenchApp final : public wxApp {
  private:
   void Log(const std::string& line);
   /// Finalizes and unloads the packages and deletes the windows, once.
-  void TakeApart();
+  void ShutDown();
   /// The system asks whether the user may log off: the same as Exit.
   void OnQueryEndSession(wxCloseEvent& event);
   /// The user logs off: the system ends the process when this returns, so everything is taken apart here.
@@ -54,7 +54,7 @@ class TWorkbenchApp final : public wxApp {
   std::unique_ptr<TPackageLoader> packages_;
   std::vector<std::string> early_;  // lines from before there was a message pane
   TMainFrame* frame_ = nullptr;
-  bool takenApart_ = false;
+  bool shutDown_ = false;
   int exitCode_ = 0;
   int endSteps_ = 0;
 };

@@ -20,7 +20,7 @@ bool TApplicationService::HelpKeyword(const std::string& keyword) {
 }
 
 TIdeServices::TIdeServices(TLogLine log)
-    : guard_(std::move(log)),
+    : caller_(std::move(log)),
       startupDirectory_(ExcludeTrailingPathDelimiter(FromFilePath(std::filesystem::current_path()))) {
   Publish<IOTAServices>(*this);
   Publish<IOTAWizardServices>(wizards_);
@@ -50,7 +50,7 @@ int TIdeServices::AddNotifier(std::shared_ptr<IOTAIDENotifier> notifier) {
 
 void TIdeServices::RemoveNotifier(int index) {
   if (const auto notifier = notifications_.Notifiers().Remove(index))
-    guard_.Run("Destroyed", [&] { notifier->Destroyed(); });
+    caller_.Run("Destroyed", [&] { notifier->Destroyed(); });
 }
 
 TWindowHandle TIdeServices::GetParentHandle() {

@@ -45,7 +45,7 @@ class TIdeServices final : public IOTAServices {
   std::string GetStartupDirectory() override { return startupDirectory_; }
   void* QueryInterface(const TGuid& iid) noexcept override;
 
-  const TPackageGuard& Guard() const { return guard_; }
+  const TPackageCaller& Caller() const { return caller_; }
   TNotifications& Notifications() { return notifications_; }
   TOptionsServices& Options() { return options_; }
   TWizardServices& Wizards() { return wizards_; }
@@ -57,9 +57,9 @@ class TIdeServices final : public IOTAServices {
     TGuid Iid;
     void* Service;
   };
-  TPackageGuard guard_;
-  TNotifications notifications_{guard_};
-  TWizardServices wizards_{guard_};
+  TPackageCaller caller_;
+  TNotifications notifications_{caller_};
+  TWizardServices wizards_{caller_};
   TOptionsServices options_;
   TGalleryCategories categories_;
   TApplicationService application_;

@@ -44,7 +44,7 @@ void FillPanel(wxPanel* panel, wxWindow* content) {
 TMainFrame::TMainFrame(TIdeServices& services)
     : wxFrame(nullptr, wxID_ANY, ToWx(sProgramName)),
       services_(services),
-      session_(*this, services.Guard(), services.Notifications()),
+      workspace_(*this, services.Caller(), services.Notifications()),
       recent_(services.Options().PropertySet(kRecentSet)) {
   SetName(ToWx(sProgramName));
   wxIcon icon;
@@ -52,7 +52,7 @@ TMainFrame::TMainFrame(TIdeServices& services)
   SetIcon(icon);
   CreateWindows();
   CreateMenus();
-  menus_ = std::make_unique<TMenuBridge>(*this, services.Guard());
+  menus_ = std::make_unique<TMenuBridge>(*this, services.Caller());
   services_.Publish<IOTAModuleServices>(moduleServices_);
   services_.Publish<IOTAEditorServices>(editorServices_);
   services_.Publish<IOTAActionServices>(actionServices_);
@@ -61,7 +61,7 @@ TMainFrame::TMainFrame(TIdeServices& services)
   Bind(wxEVT_CLOSE_WINDOW, &TMainFrame::OnClose, this);
   Bind(wxEVT_ACTIVATE, [this](wxActivateEvent& event) {
     event.Skip();
-    if (event.GetActive()) CallAfter([this] { LookAtDisk(); });
+    if (event.GetActive()) CallAfter([this] { CheckFilesOnDisk(); });
   });
   Bind(wxEVT_IDLE, [this](wxIdleEvent& event) {
     event.Skip();
@@ -81,7 +81,7 @@ void TMainFrame::CreateWindows() {
                            .GetNumber(kFontSizeField, kDefaultFontSize, kMinFontSize, kMaxFontSize);
   columns_ = new wxSplitterWindow(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxSP_LIVE_UPDATE);
   treePanel_ = CaptionedPanel(columns_, sProjectTreeCaption);
-  tree_ = new TProjectTree(treePanel_, session_,
+  tree_ = new TProjectTree(treePanel_, workspace_,
                            {[this](const std::string& file) { OpenForUser(file); },
                             [this](wxMenu& menu, const std::string& file) { FillTreeMenu(menu, file); }});
   FillPanel(treePanel_, tree_);
@@ -90,9 +90,9 @@ void TMainFrame::CreateWindows() {
       new TEditorBook(rows_,
                       {[this] { StateChanged(); },
                        [this](TTextEditor& editor) {
-                         Attempt([&] {
-                           if (auto* module = session_.Modules().Find(editor.FileName()))
-                             session_.Close(*module);
+                         RunShowingErrors([&] {
+                           if (auto* module = workspace_.Modules().Find(editor.FileName()))
+                             workspace_.Close(*module);
                          });
                        },
                        [this](const std::string& text) { SetStatusText(ToWx(text), sfText); },
@@ -150,7 +150,7 @@ void TMainFrame::StateChanged() {
 
 void TMainFrame::ShowState() {
   const TEditorPage* page = book_ ? book_->FrontPage() : nullptr;
-  const TProject* project = session_.ActiveProject();
+  const TProject* project = workspace_.ActiveProject();
   TTextEditor* editor = page ? &page->Editor() : nullptr;
   const int position = page ? page->GetCurrentPos() : 0;
   SetStatusText(page ? ToWx(Format(sPosition,
@@ -210,7 +210,7 @@ bool TMainFrame::AskReload(const std::string& fileName) {
 
 wxString TMainFrame::AskFile(const TResString& title, const TResString& filter, long style,
                              const std::string& proposed) {
-  const TProject* project = session_.ActiveProject();
+  const TProject* project = workspace_.ActiveProject();
   const std::string directory = !proposed.empty() ? ExtractFileDir(proposed)
                                 : project         ? ExtractFileDir(project->FileName())
                                                   : services_.GetStartupDirectory();
@@ -228,7 +228,7 @@ std::string TMainFrame::AskSaveName(const std::string& proposed) {
   return needsExt ? name + kGroupExt : name;
 }
 
-void TMainFrame::Attempt(const std::function<void()>& operation) {
+void TMainFrame::RunShowingErrors(const std::function<void()>& operation) {
   try {
     operation();
   } catch (const std::exception& e) {
@@ -237,34 +237,34 @@ void TMainFrame::Attempt(const std::function<void()>& operation) {
 }
 
 void TMainFrame::OpenForUser(const std::string& fileName) {
-  Attempt([&] {
-    if (!session_.Open(fileName)) return;
+  RunShowingErrors([&] {
+    if (!workspace_.Open(fileName)) return;
     const std::string extension = ExtractFileExt(fileName);
     if (!SameText(extension, kProjectExt) && !SameText(extension, kGroupExt)) return;
-    services_.Guard().Run(sMenuRecent, [&] { recent_.Add(FullPath(fileName)); });
+    services_.Caller().Run(sMenuRecent, [&] { recent_.Add(FullPath(fileName)); });
     FillRecentMenu();
   });
 }
 
-void TMainFrame::LookAtDisk() {
+void TMainFrame::CheckFilesOnDisk() {
   // Not while a dialog is up: its command works on the files, and a question would come in between.
-  if (lookingAtDisk_ || TModalStack::Top()) return;
-  lookingAtDisk_ = true;
-  Attempt([this] { session_.CheckDisk(); });
-  lookingAtDisk_ = false;
+  if (checkingFiles_ || TModalStack::Top()) return;
+  checkingFiles_ = true;
+  RunShowingErrors([this] { workspace_.CheckDisk(); });
+  checkingFiles_ = false;
 }
 
 void TMainFrame::OnClose(wxCloseEvent& event) {
   bool closed = false;
-  if (event.CanVeto() && services_.Guard().IsRunning()) {
+  if (event.CanVeto() && services_.Caller().IsRunning()) {
     AddMessage(sCommandRunning);
     return event.Veto();
   }
   if (event.CanVeto()) {
-    Attempt([&] { closed = session_.CloseAll(); });
+    RunShowingErrors([&] { closed = workspace_.CloseAll(); });
     if (!closed) return event.Veto();
   } else {
-    session_.DropAll();
+    workspace_.CloseAllWithoutSaving();
   }
   SaveWindowState();
   // The frame itself stays until the packages are finalized: they take their menus out of it.

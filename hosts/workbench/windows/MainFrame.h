@@ -8,8 +8,8 @@
 #include <string>
 
 #include "system/Text.h"
-#include "workbench/model/SessionServices.h"
 #include "workbench/model/Settings.h"
+#include "workbench/model/WorkspaceServices.h"
 #include "workbench/windows/IdeServices.h"
 #include "workbench/windows/MenuBridge.h"
 
@@ -20,13 +20,13 @@ class TFindReplace;
 class TMessagePane;
 class TProjectTree;
 
-class TMainFrame final : public wxFrame, public ISessionUi {
+class TMainFrame final : public wxFrame, public IWorkspaceUi {
  public:
   /// Publishes the services that work on windows.
   explicit TMainFrame(TIdeServices& services);
   ~TMainFrame() override;
 
-  TSession& Session() { return session_; }
+  TWorkspace& Workspace() { return workspace_; }
   TEditorBook& Book() { return *book_; }
   TMessagePane& Messages() { return *messages_; }
   TMenuBridge& PackageMenus() { return *menus_; }
@@ -36,7 +36,7 @@ class TMainFrame final : public wxFrame, public ISessionUi {
   /// Offers the windows that packages have created in the View menu.
   void OfferPackageWindows();
   /// Looks for files that other programs changed.
-  void LookAtDisk();
+  void CheckFilesOnDisk();
 
   void EditorOpened(TTextEditor& editor) override;
   void EditorClosing(TTextEditor& editor) override;
@@ -71,7 +71,7 @@ class TMainFrame final : public wxFrame, public ISessionUi {
   void SaveWindowState();
   void AddWizards();
   /// Runs an operation for the user; its failure becomes a message box.
-  void Attempt(const std::function<void()>& operation);
+  void RunShowingErrors(const std::function<void()>& operation);
   wxString AskFile(const TResString& title, const TResString& filter, long style,
                    const std::string& proposed = {});
 
@@ -123,10 +123,10 @@ class TMainFrame final : public wxFrame, public ISessionUi {
   bool HasSelectedModule() const;
 
   TIdeServices& services_;
-  TSession session_;
-  TModuleServices moduleServices_{session_};
-  TEditorServices editorServices_{session_};
-  TActionServices actionServices_{session_};
+  TWorkspace workspace_;
+  TModuleServices moduleServices_{workspace_};
+  TEditorServices editorServices_{workspace_};
+  TActionServices actionServices_{workspace_};
   TRecentFiles recent_;
   std::vector<int> ownWizards_;
   std::unique_ptr<TMenuBridge> menus_;
@@ -142,7 +142,7 @@ class TMainFrame final : public wxFrame, public ISessionUi {
   TMessagePane* messages_ = nullptr;
   wxString hintedFile_;
   bool stateShown_ = false;
-  bool lookingAtDisk_ = false;
+  bool checkingFiles_ = false;
 };
 
 }  // namespace kestrel::workbench

@@ -207,7 +207,8 @@ void TMainFrame::FillTabMenu(wxMenu& menu, const std::string& fileName) {
 }
 
 void TMainFrame::OnCommand(wxCommandEvent& event) {
-  if (const TCommand* command = FindCommand(event.GetId())) return Attempt([&] { (this->*command->Run)(); });
+  if (const TCommand* command = FindCommand(event.GetId()))
+    return RunShowingErrors([&] { (this->*command->Run)(); });
   const auto recent = static_cast<std::size_t>(event.GetId() - cmRecentFirst);
   if (recent < recent_.Files().size()) OpenForUser(std::string(recent_.Files()[recent]));
 }
@@ -222,29 +223,29 @@ bool TMainFrame::CanEdit() const { return HasEditor() && !book_->FrontPage()->Ge
 bool TMainFrame::CanUndo() const { return CanEdit() && book_->FrontPage()->CanUndo(); }
 bool TMainFrame::CanRedo() const { return CanEdit() && book_->FrontPage()->CanRedo(); }
 bool TMainFrame::HasSelection() const { return HasEditor() && !book_->FrontPage()->GetSelectionEmpty(); }
-bool TMainFrame::HasProject() const { return session_.ActiveProject() != nullptr; }
-bool TMainFrame::HasModules() const { return !session_.Modules().InOrder().empty(); }
+bool TMainFrame::HasProject() const { return workspace_.ActiveProject() != nullptr; }
+bool TMainFrame::HasModules() const { return !workspace_.Modules().InOrder().empty(); }
 bool TMainFrame::HasForm() const {
   const TOpenModule* module =
-      HasEditor() ? session_.Modules().Find(book_->FrontPage()->Editor().FileName()) : nullptr;
+      HasEditor() ? workspace_.Modules().Find(book_->FrontPage()->Editor().FileName()) : nullptr;
   return module && module->Documents().size() > 1;
 }
 bool TMainFrame::HasSelectedProject() const { return tree_->SelectedProject() != nullptr; }
 bool TMainFrame::HasSelectedModule() const { return tree_->SelectedModule() >= 0; }
 
-void TMainFrame::NewUnit() { session_.NewUnit(services_.GetStartupDirectory()); }
+void TMainFrame::NewUnit() { workspace_.NewUnit(services_.GetStartupDirectory()); }
 
 void TMainFrame::NewProject() {
   wxString name = AskFile(sNewProjectTitle, sOneProjectFilter, wxFD_SAVE | wxFD_OVERWRITE_PROMPT);
   if (name.empty()) return;
   std::string file = name.utf8_string();
   if (!SameText(ExtractFileExt(file), kProjectExt)) file += kProjectExt;
-  if (session_.NewProject(file)) OpenForUser(file);
+  if (workspace_.NewProject(file)) OpenForUser(file);
 }
 
 void TMainFrame::NewOther() {
   const auto wizard = ChooseWizard(this, services_.Categories(), services_.Wizards().Wizards());
-  if (wizard) services_.Guard().Run(wizard->GetName(), [&] { wizard->Execute(); });
+  if (wizard) services_.Caller().Run(wizard->GetName(), [&] { wizard->Execute(); });
 }
 
 void TMainFrame::OpenFiles() {
@@ -257,25 +258,25 @@ void TMainFrame::OpenProject() {
   if (!name.empty()) OpenForUser(name.utf8_string());
 }
 
-void TMainFrame::ReloadCurrent() { session_.Reload(book_->FrontPage()->Editor().FileName()); }
+void TMainFrame::ReloadCurrent() { workspace_.Reload(book_->FrontPage()->Editor().FileName()); }
 
 void TMainFrame::SaveCurrent() {
   TTextEditor& editor = book_->FrontPage()->Editor();
-  session_.Save(editor);
+  workspace_.Save(editor);
   SetStatusText(ToWx(Format(sSaved, {ExtractFileName(editor.FileName())})));
 }
 
 void TMainFrame::SaveCurrentAs() {
-  if (auto* unit = dynamic_cast<TUnit*>(session_.CurrentModule())) session_.SaveUnitAs(*unit);
+  if (auto* unit = dynamic_cast<TUnit*>(workspace_.CurrentModule())) workspace_.SaveUnitAs(*unit);
 }
 
-void TMainFrame::SaveAll() { session_.SaveAll(); }
+void TMainFrame::SaveAll() { workspace_.SaveAll(); }
 
 void TMainFrame::CloseCurrent() {
-  if (TOpenModule* module = session_.CurrentModule()) session_.Close(*module);
+  if (TOpenModule* module = workspace_.CurrentModule()) workspace_.Close(*module);
 }
 
-void TMainFrame::CloseAll() { session_.CloseAll(); }
+void TMainFrame::CloseAll() { workspace_.CloseAll(); }
 void TMainFrame::Exit() { Close(); }
 void TMainFrame::Undo() { book_->FrontPage()->Undo(); }
 void TMainFrame::Redo() { book_->FrontPage()->Redo(); }
@@ -315,7 +316,7 @@ void TMainFrame::ToggleMessages() {
 
 void TMainFrame::ToggleForm() {
   const TTextEditor& front = book_->FrontPage()->Editor();
-  const auto& documents = session_.CurrentModule()->Documents();
+  const auto& documents = workspace_.CurrentModule()->Documents();
   const auto other =
       std::ranges::find_if(documents, [&](const auto& document) { return document.get() != &front; });
   book_->ShowEditor(static_cast<TTextEditor&>(**other));
@@ -324,7 +325,7 @@ void TMainFrame::ToggleForm() {
 void TMainFrame::NextEditor() { book_->AdvanceSelection(); }
 
 void TMainFrame::AddToProject() {
-  const std::string directory = ExtractFileDir(session_.ActiveProject()->FileName());
+  const std::string directory = ExtractFileDir(workspace_.ActiveProject()->FileName());
   wxFileDialog dialog(this, ToWx(sAddToProjectTitle), ToWx(directory), "", ToWx(sUnitFilter),
                       wxFD_OPEN | wxFD_FILE_MUST_EXIST | wxFD_MULTIPLE);
   if (dialog.ShowModal() != wxID_OK) return;
@@ -332,31 +333,31 @@ void TMainFrame::AddToProject() {
   dialog.GetPaths(paths);
   std::vector<std::string> files;
   for (const auto& path : paths) files.push_back(path.utf8_string());
-  const auto added = static_cast<long long>(session_.AddToProject(files));
+  const auto added = static_cast<long long>(workspace_.AddToProject(files));
   SetStatusText(ToWx(Format(sAddedFiles, {added})));
 }
 
 void TMainFrame::RemoveFromProject() {
-  session_.RemoveFromProject(*tree_->SelectedProject(), tree_->SelectedModule());
+  workspace_.RemoveFromProject(*tree_->SelectedProject(), tree_->SelectedModule());
 }
 
 void TMainFrame::AddProject() {
   const wxString name = AskFile(sAddProjectTitle, sOneProjectFilter, wxFD_OPEN | wxFD_FILE_MUST_EXIST);
-  if (!name.empty()) session_.OpenProject(name.utf8_string(), false);
+  if (!name.empty()) workspace_.OpenProject(name.utf8_string(), false);
 }
 
-void TMainFrame::SetActiveProject() { session_.SetActiveProject(*tree_->SelectedProject()); }
-void TMainFrame::CloseProject() { session_.Close(*tree_->SelectedProject()); }
-void TMainFrame::SaveGroupAs() { session_.SaveGroupAs(); }
+void TMainFrame::SetActiveProject() { workspace_.SetActiveProject(*tree_->SelectedProject()); }
+void TMainFrame::CloseProject() { workspace_.Close(*tree_->SelectedProject()); }
+void TMainFrame::SaveGroupAs() { workspace_.SaveGroupAs(); }
 
 void TMainFrame::ShowCommands() {
   menus_->RefreshAll();
   if (const TAction* action = ChooseAction(this, *menus_))
-    services_.Guard().Run(action->Name, [&] { action->OnExecute(); });
+    services_.Caller().Run(action->Name, [&] { action->OnExecute(); });
 }
 
 void TMainFrame::ShowOptions() {
-  if (!ShowOptionsDialog(this, services_.Options(), services_.Guard())) return;
+  if (!ShowOptionsDialog(this, services_.Options(), services_.Caller())) return;
   book_->SetFontSize(services_.Options()
                          .PropertySet(kGeneralSet)
                          .GetNumber(kFontSizeField, kDefaultFontSize, kMinFontSize, kMaxFontSize));
@@ -371,8 +372,9 @@ void TMainFrame::AddWizards() {
   auto* category = services_.Categories().InOrder().front().get();
   const auto add = [&](const TResString& name, const TResString& comment, TIcon icon,
                        void (TMainFrame::*run)()) {
-    auto wizard = std::make_shared<TOwnWizard>(name, comment, IconSvg(icon), category,
-                                               [this, run] { Attempt([this, run] { (this->*run)(); }); });
+    auto wizard = std::make_shared<TOwnWizard>(name, comment, IconSvg(icon), category, [this, run] {
+      RunShowingErrors([this, run] { (this->*run)(); });
+    });
     ownWizards_.push_back(services_.Wizards().AddWizard(std::move(wizard)));
   };
   add(sWizardUnitName, sWizardUnitComment, TIcon::NewUnit, &TMainFrame::NewUnit);

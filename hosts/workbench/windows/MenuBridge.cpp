@@ -14,7 +14,7 @@ namespace {
 constexpr int kMenuImageSize = 16;
 
 /// What stands before a disabled item, at 100 % and 200 %; toolkits grey the text only.
-wxBitmapBundle Greyed(const wxBitmapBundle& image) {
+wxBitmapBundle DisabledImage(const wxBitmapBundle& image) {
   const auto at = [&](int scale) {
     return image.GetBitmap(image.GetDefaultSize() * scale).ConvertToDisabled();
   };
@@ -35,8 +35,8 @@ struct TMenuBridge::TTopMenu {
   std::vector<TRow> Rows;  // separators too; submenus' items behind their parent
 };
 
-TMenuBridge::TMenuBridge(wxFrame& frame, const TPackageGuard& guard)
-    : bar_(*frame.GetMenuBar()), guard_(guard) {
+TMenuBridge::TMenuBridge(wxFrame& frame, const TPackageCaller& caller)
+    : bar_(*frame.GetMenuBar()), caller_(caller) {
   frame.Bind(wxEVT_MENU_OPEN, &TMenuBridge::OnMenuOpen, this);
   bar_.Bind(wxEVT_MENU, &TMenuBridge::OnMenu, this);
 }
@@ -94,7 +94,7 @@ void CollectRows(const std::vector<TMenuItem*>& items, std::vector<const TMenuIt
 }  // namespace
 
 void TMenuBridge::Refresh(TTopMenu& top) {
-  if (top.Top->OnClick) guard_.Run(top.Top->Name, [&] { top.Top->OnClick(); });
+  if (top.Top->OnClick) caller_.Run(top.Top->Name, [&] { top.Top->OnClick(); });
   Show(top);
 }
 
@@ -148,7 +148,7 @@ wxBitmapBundle TMenuBridge::ImageAt(int index) const {
 
 wxBitmapBundle TMenuBridge::ImageOf(int index, bool enabled) const {
   const auto image = ImageAt(index);
-  return enabled || !image.IsOk() ? image : Greyed(image);
+  return enabled || !image.IsOk() ? image : DisabledImage(image);
 }
 
 void TMenuBridge::ShowAll() {
@@ -162,7 +162,7 @@ void TMenuBridge::RefreshAll() {
 void TMenuBridge::AppendFileMenus(wxMenu& menu, const std::string& fileName) const {
   for (const TFileMenu* fileMenu : fileMenus_) {
     bool enabled = true;
-    if (fileMenu->IsEnabled) guard_.Run(fileMenu->Caption, [&] { enabled = fileMenu->IsEnabled(fileName); });
+    if (fileMenu->IsEnabled) caller_.Run(fileMenu->Caption, [&] { enabled = fileMenu->IsEnabled(fileName); });
     auto* submenu = new wxMenu;
     for (const TFileMenu::TItem& item : fileMenu->Items) {
       if (item.Caption == "-") {
@@ -175,7 +175,7 @@ void TMenuBridge::AppendFileMenus(wxMenu& menu, const std::string& fileName) con
       submenu->Bind(
           wxEVT_MENU,
           [&item, fileName, this](wxCommandEvent&) {
-            guard_.Run(item.Caption, [&] { item.OnExecute(fileName); });
+            caller_.Run(item.Caption, [&] { item.OnExecute(fileName); });
           },
           shown->GetId());
     }
@@ -195,9 +195,9 @@ void TMenuBridge::OnMenuOpen(wxMenuEvent& event) {
 void TMenuBridge::RefreshOnScreen(wxMenu& menu) {
   auto* top = FindTop(&menu);
   if (!top || !IsOnScreen(menu)) return;
-  const TMenuGivesWay givesWay(bar_, menu);
+  const TMenuCloser closer(bar_, menu);
   Refresh(*top);
-  if (!givesWay.HasGivenWay()) return SelectFirstItem(menu);
+  if (!closer.HasClosed()) return SelectFirstItem(menu);
   reopening_ = true;  // it has been asked for its items already
   OpenFromBar(menu);
   reopening_ = false;
@@ -213,7 +213,7 @@ void TMenuBridge::OnMenu(wxCommandEvent& event) {
     for (const auto& row : top->Rows) {
       if (row.Item->IsSeparator() || row.Shown->GetId() != event.GetId()) continue;
       const TMenuItem& clicked = *row.Item;  // its click may rebuild or remove the menu
-      if (clicked.IsEnabled()) guard_.Run(clicked.Name, [&] { clicked.Click(); });
+      if (clicked.IsEnabled()) caller_.Run(clicked.Name, [&] { clicked.Click(); });
       return;
     }
   event.Skip();

@@ -17,7 +17,7 @@ namespace kestrel::workbench {
 class TMenuBridge final : public IOTAMenuServices {
  public:
   /// `frame` has its menu bar already.
-  TMenuBridge(wxFrame& frame, const TPackageGuard& guard);
+  TMenuBridge(wxFrame& frame, const TPackageCaller& caller);
   ~TMenuBridge() override;
 
   void InsertMenu(TMenuItem& top) override;
@@ -57,7 +57,7 @@ class TMenuBridge final : public IOTAMenuServices {
   void OnMenu(wxCommandEvent& event);
 
   wxMenuBar& bar_;
-  const TPackageGuard& guard_;
+  const TPackageCaller& caller_;
   std::vector<std::unique_ptr<TTopMenu>> tops_;
   std::vector<TFileMenu*> fileMenus_;
   std::vector<TAction*> actions_;

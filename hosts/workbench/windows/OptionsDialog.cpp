@@ -68,11 +68,11 @@ class TBindings final : public IOTAOptionsPageHost {
 
 class TOptionsDialog final : public wxDialog {
  public:
-  TOptionsDialog(wxWindow* parent, TOptionsServices& options, const TPackageGuard& guard)
+  TOptionsDialog(wxWindow* parent, TOptionsServices& options, const TPackageCaller& caller)
       : wxDialog(parent, wxID_ANY, ToWx(sOptionsTitle), wxDefaultPosition, wxDefaultSize,
                  wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER),
         options_(options),
-        guard_(guard),
+        caller_(caller),
         list_(new wxListBox(this, wxID_ANY, wxDefaultPosition, FromDIP(wxSize(190, -1)))),
         book_(new wxSimplebook(this)),
         general_(options.PropertySet(kGeneralSet)) {
@@ -126,7 +126,7 @@ class TOptionsDialog final : public wxDialog {
   }
 
   void AddAddIn(IOTAAddInOptions& addIn) {
-    guard_.Run("CustomizeDialog", [&] {
+    caller_.Run("CustomizeDialog", [&] {
       addIn.LoadOptions();
       addIns_.push_back({&addIn, std::make_unique<TBindings>(addIn.GetPropertySet())});
       TEnvironment environment(*this, *addIns_.back().Bindings);
@@ -151,7 +151,7 @@ class TOptionsDialog final : public wxDialog {
   }
 
   TOptionsServices& options_;
-  const TPackageGuard& guard_;
+  const TPackageCaller& caller_;
   wxListBox* list_;
   wxSimplebook* book_;
   TBindings general_;
@@ -160,8 +160,8 @@ class TOptionsDialog final : public wxDialog {
 
 }  // namespace
 
-bool ShowOptionsDialog(wxWindow* parent, TOptionsServices& options, const TPackageGuard& guard) {
-  TOptionsDialog dialog(parent, options, guard);
+bool ShowOptionsDialog(wxWindow* parent, TOptionsServices& options, const TPackageCaller& caller) {
+  TOptionsDialog dialog(parent, options, caller);
   return dialog.ShowModal() == wxID_OK;
 }
 

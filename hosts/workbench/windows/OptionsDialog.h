@@ -8,6 +8,6 @@ class wxWindow;
 namespace kestrel::workbench {
 
 /// Shows the dialog; true when it was accepted and everything is stored.  Cancel leaves all settings as they were.
-bool ShowOptionsDialog(wxWindow* parent, TOptionsServices& options, const TPackageGuard& guard);
+bool ShowOptionsDialog(wxWindow* parent, TOptionsServices& options, const TPackageCaller& caller);
 
 }  // namespace kestrel::workbench

@@ -34,10 +34,10 @@ struct TProjectTree::TNode final : wxTreeItemData {
   bool Filled = false;
 };
 
-TProjectTree::TProjectTree(wxWindow* parent, TSession& session, THooks hooks)
+TProjectTree::TProjectTree(wxWindow* parent, TWorkspace& workspace, THooks hooks)
     : wxTreeCtrl(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize,
                  wxTR_HAS_BUTTONS | wxTR_LINES_AT_ROOT | wxTR_SINGLE | wxTR_NO_LINES | wxBORDER_NONE),
-      session_(session),
+      workspace_(workspace),
       hooks_(std::move(hooks)) {
   SetName(ToWx(sProjectTreeCaption));
   wxVector<wxBitmapBundle> images;
@@ -50,7 +50,7 @@ TProjectTree::TProjectTree(wxWindow* parent, TSession& session, THooks hooks)
   Bind(wxEVT_TREE_ITEM_EXPANDING, [this](wxTreeEvent& event) {
     TNode* node = NodeOf(event.GetItem());
     collapsed_.erase(node->File);
-    if (auto* project = dynamic_cast<TProject*>(session_.Modules().Find(node->Project)))
+    if (auto* project = dynamic_cast<TProject*>(workspace_.Modules().Find(node->Project)))
       FillProject(event.GetItem(), *project);
   });
   Bind(wxEVT_TREE_ITEM_COLLAPSED,
@@ -78,7 +78,7 @@ void TProjectTree::Rebuild() {
   const std::string selectedFile = selected ? selected->File : std::string();
   Freeze();
   DeleteAllItems();
-  if (const TProjectGroup* group = session_.Group()) {
+  if (const TProjectGroup* group = workspace_.Group()) {
     const auto root =
         AddNode({}, ExtractFileName(group->FileName()), ImageOf(TIcon::Group), new TNode(group->FileName()));
     for (TProject* project : group->Projects()) AddProject(root, *project);
@@ -92,7 +92,7 @@ void TProjectTree::Rebuild() {
 }
 
 void TProjectTree::AddProject(const wxTreeItemId& parent, TProject& project) {
-  const bool active = session_.ActiveProject() == &project;
+  const bool active = workspace_.ActiveProject() == &project;
   const std::string name = ExtractFileName(project.FileName());
   const auto item = AddNode(parent, name, ImageOf(active ? TIcon::ActiveProject : TIcon::Project),
                             new TNode(project.FileName(), project.FileName()));
@@ -122,7 +122,7 @@ void TProjectTree::OpenSelected() {
 
 TProject* TProjectTree::SelectedProject() {
   const TNode* node = NodeOf(GetSelection());
-  return node ? dynamic_cast<TProject*>(session_.Modules().Find(node->Project)) : nullptr;
+  return node ? dynamic_cast<TProject*>(workspace_.Modules().Find(node->Project)) : nullptr;
 }
 
 int TProjectTree::SelectedModule() {

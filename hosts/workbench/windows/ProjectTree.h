@@ -7,7 +7,7 @@
 #include <set>
 #include <string>
 
-#include "workbench/model/Session.h"
+#include "workbench/model/Workspace.h"
 
 namespace kestrel::workbench {
 
@@ -18,9 +18,9 @@ class TProjectTree final : public wxTreeCtrl {
     /// With the commands for the selected node; `fileName` is that of the node.
     std::function<void(wxMenu& menu, const std::string& fileName)> FillContextMenu;
   };
-  TProjectTree(wxWindow* parent, TSession& session, THooks hooks);
+  TProjectTree(wxWindow* parent, TWorkspace& workspace, THooks hooks);
 
-  /// Shows the session's projects as they are now; keeps what was expanded and selected.
+  /// Shows the workspace's projects as they are now; keeps what was expanded and selected.
   void Rebuild();
   /// The project that the selected node is or belongs to, or nullptr.
   TProject* SelectedProject();
@@ -35,7 +35,7 @@ class TProjectTree final : public wxTreeCtrl {
   void FillProject(const wxTreeItemId& item, TProject& project);
   void OpenSelected();
 
-  TSession& session_;
+  TWorkspace& workspace_;
   THooks hooks_;
   std::set<std::string> collapsed_;
 };

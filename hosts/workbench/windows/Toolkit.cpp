@@ -98,7 +98,7 @@ void SelectFirstItem(wxMenu& menu) {
 
 void OpenFromBar(wxMenu& menu) { CallGtk<int>("gtk_widget_mnemonic_activate", OpenerOf(menu), 0); }
 
-TMenuGivesWay::TMenuGivesWay(const wxMenuBar& bar, const wxMenu& menu) : bar_(bar), menu_(menu) {
+TMenuCloser::TMenuCloser(const wxMenuBar& bar, const wxMenu& menu) : bar_(bar), menu_(menu) {
   struct TValue {  // of the library's; the first member is all that is needed of it
     std::size_t Type;
     std::uint64_t Data[2];
@@ -109,19 +109,19 @@ TMenuGivesWay::TMenuGivesWay(const wxMenuBar& bar, const wxMenu& menu) : bar_(ba
   if (!add || !WidgetOf(menu)) return;
   const THook hook = [](void*, unsigned, const TValue* values, void* data) {
     const auto peek = Objects().Find<void* (*)(const TValue*)>("g_value_peek_pointer");
-    if (IsFramedWindow(peek(values))) static_cast<TMenuGivesWay*>(data)->WindowComesUp();
+    if (IsFramedWindow(peek(values))) static_cast<TMenuCloser*>(data)->OnWindowShown();
     return 1;  // stays
   };
   hook_ = add(ShowSignal(), 0, hook, this, nullptr);
 }
 
-TMenuGivesWay::~TMenuGivesWay() {
+TMenuCloser::~TMenuCloser() {
   const auto remove = Objects().Find<void (*)(unsigned, unsigned long)>("g_signal_remove_emission_hook");
   if (hook_ && remove) remove(ShowSignal(), hook_);
 }
 
-void TMenuGivesWay::WindowComesUp() {
-  hasGivenWay_ = true;  // some dialogs of the toolkit have closed it already
+void TMenuCloser::OnWindowShown() {
+  hasClosed_ = true;  // some dialogs of the toolkit have closed it already
   if (IsOnScreen(menu_)) CallGtk<void>("gtk_menu_shell_cancel", WidgetOf(bar_));
 }
 

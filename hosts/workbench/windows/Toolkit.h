@@ -25,24 +25,24 @@ void OpenFromBar(wxMenu& menu);
 
 /// While it lives, a menu that is on the screen closes before a window comes up, whoever shows it: an open menu holds the
 /// keyboard and the mouse, and the window would not get them.
-class TMenuGivesWay {
+class TMenuCloser {
  public:
   /// Both are borrowed; `menu` is one of `bar`.
-  TMenuGivesWay(const wxMenuBar& bar, const wxMenu& menu);
-  ~TMenuGivesWay();
-  TMenuGivesWay(const TMenuGivesWay&) = delete;
-  TMenuGivesWay& operator=(const TMenuGivesWay&) = delete;
+  TMenuCloser(const wxMenuBar& bar, const wxMenu& menu);
+  ~TMenuCloser();
+  TMenuCloser(const TMenuCloser&) = delete;
+  TMenuCloser& operator=(const TMenuCloser&) = delete;
 
   /// Whether a window came up.
-  bool HasGivenWay() const { return hasGivenWay_; }
+  bool HasClosed() const { return hasClosed_; }
 
  private:
-  void WindowComesUp();
+  void OnWindowShown();
 
   const wxMenuBar& bar_;
   const wxMenu& menu_;
   unsigned long hook_ = 0;
-  bool hasGivenWay_ = false;
+  bool hasClosed_ = false;
 };
 
 }  // namespace kestrel::workbench

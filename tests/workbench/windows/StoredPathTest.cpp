@@ -28,8 +28,8 @@ TEST(StoredPath, StaysOnItsDriveOrShare) {
 }
 
 TEST(StoredPath, IsTheSameHoweverAFileIsNamed) {
-  const TPackageGuard guard([](const std::string&) {});
-  TProject project("C:\\P\\App.qvxproj", guard);
+  const TPackageCaller caller([](const std::string&) {});
+  TProject project("C:\\P\\App.qvxproj", caller);
   auto& items = project.Definition().Edit().Items();
   items = {".\\sub\\B.pas", "c:/p/C.pas"};  // as a person may have written them
   EXPECT_EQ(project.AddModuleFiles({"c:\\p\\u.pas", "C:\\P\\U.PAS", "C:/P/sub/b.pas", "C:\\P\\C.pas"}), 1u);

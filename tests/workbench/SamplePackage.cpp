@@ -12,7 +12,7 @@
 #include <fstream>
 #include <memory>
 
-#include "CrewDialog.h"
+#include "SampleDialog.h"
 #include "host/Errors.h"
 #include "host/Menus.h"
 #include "host/Options.h"
@@ -42,7 +42,7 @@ class TCrewNotifier final : public IOTAIDENotifier {
     Log(std::to_string(static_cast<int>(code)) + ' ' + ExtractFileName(fileName) +
         (open ? " open" : " not open") + ", active " +
         (active ? ExtractFileName(active->GetFileName()) : "none"));
-    if (ExtractFileName(fileName) == "Rude.pas") throw std::runtime_error("rude notifier");
+    if (ExtractFileName(fileName) == "Faulty.pas") throw std::runtime_error("faulty notifier");
   }
   void BeforeCompile(IOTAProject*, bool&) override {}
   void AfterCompile(bool) override {}

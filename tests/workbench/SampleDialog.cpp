@@ -1,4 +1,4 @@
-#include "CrewDialog.h"
+#include "SampleDialog.h"
 
 #include <wx/button.h>
 #include <wx/dialog.h>

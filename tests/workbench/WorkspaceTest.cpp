@@ -1,4 +1,4 @@
-// The session on real files, with windows that only remember what they were told.
+// The workspace on real files, with windows that only remember what they were told.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -7,8 +7,8 @@
 #include "support/NativePath.h"
 #include "support/TemporaryFolder.h"
 #include "system/Paths.h"
-#include "workbench/model/Session.h"
-#include "workbench/model/SessionServices.h"
+#include "workbench/model/Workspace.h"
+#include "workbench/model/WorkspaceServices.h"
 
 namespace kestrel::workbench {
 
@@ -34,7 +34,7 @@ class TPlainView final : public IDocumentView {
   bool Locked = false;
 };
 
-class TPlainUi final : public ISessionUi {
+class TPlainUi final : public IWorkspaceUi {
  public:
   void EditorOpened(TTextEditor& editor) override { editor.AttachView(&Views[&editor]); }
   void EditorClosing(TTextEditor& editor) override {
@@ -87,9 +87,9 @@ class TListener final : public IOTAIDENotifier {
   std::string Refused;
 };
 
-class Session : public testing::Test {
+class Workspace : public testing::Test {
  protected:
-  Session() {
+  Workspace() {
     for (const char* unit : {"A1.pas", "A2.pas", "B1.pas"}) folder_.Write(unit, "unit U;\n");
     folder_.Write("A1.kfm", "object A1\nend\n");
     folder_.Write("A.qvxproj", "[Project]\n[Modules]\nModule=A1.pas\nModule=A2.pas\nModule=tool.dll\n");
@@ -100,7 +100,7 @@ class Session : public testing::Test {
     notifications_.Notifiers().Add(listener_);
   }
   std::string Path(const std::string& name) const { return folder_ / name; }
-  TOpenModule& Module(const std::string& name) { return *session_.Modules().Find(Path(name)); }
+  TOpenModule& Module(const std::string& name) { return *workspace_.Modules().Find(Path(name)); }
   TProject& Project(const std::string& name) { return dynamic_cast<TProject&>(Module(name)); }
   TPlainView& View(const std::string& name) {
     return ui_.Views[dynamic_cast<TTextEditor*>(Module(name).FindDocument(Path(name)))];
@@ -119,26 +119,26 @@ class Session : public testing::Test {
 
   TTemporaryFolder folder_;
   std::vector<std::string> lines_;
-  TPackageGuard guard_{[this](const std::string& line) { lines_.push_back(line); }};
-  TNotifications notifications_{guard_};
+  TPackageCaller caller_{[this](const std::string& line) { lines_.push_back(line); }};
+  TNotifications notifications_{caller_};
   std::shared_ptr<TListener> listener_ = std::make_shared<TListener>();
   TPlainUi ui_;
-  TSession session_{ui_, guard_, notifications_};
-  TModuleServices services_{session_};
-  TActionServices actions_{session_};
+  TWorkspace workspace_{ui_, caller_, notifications_};
+  TModuleServices services_{workspace_};
+  TActionServices actions_{workspace_};
 };
 
-TEST_F(Session, OpensAGroupWithItsProjectsAndSaysWhichIsMissing) {
-  ASSERT_TRUE(session_.Open(Path("G.qvxgroup")));
+TEST_F(Workspace, OpensAGroupWithItsProjectsAndSaysWhichIsMissing) {
+  ASSERT_TRUE(workspace_.Open(Path("G.qvxgroup")));
   EXPECT_THAT(OpenNames(), ElementsAre("G.qvxgroup", "A.qvxproj", "B.qvxproj"));
-  EXPECT_EQ(session_.ActiveProject(), &Project("B.qvxproj"));
+  EXPECT_EQ(workspace_.ActiveProject(), &Project("B.qvxproj"));
   EXPECT_THAT(listener_->Take(), ElementsAre("1 G.qvxgroup", "1 A.qvxproj", "1 B.qvxproj"));
   EXPECT_THAT(lines_, ElementsAre(HasSubstr(Native("gone/C.qvxproj") + " does not exist")));
   EXPECT_EQ(Project("A.qvxproj").ModuleFileName(2), Path("tool.dll"));
   EXPECT_EQ(Project("A.qvxproj").ModuleFileName(3), "");
 }
 
-TEST_F(Session, PutsALoneProjectIntoAGroupInMemory) {
+TEST_F(Workspace, PutsALoneProjectIntoAGroupInMemory) {
   folder_.Write("ProjectGroup1.qvxgroup", "[Group]\n");
   ASSERT_TRUE(actions_.OpenProject(Path("A.qvxproj"), true));
   EXPECT_EQ(services_.GetMainProjectGroup()->GetFileName(), Path("ProjectGroup2.qvxgroup"));
@@ -146,64 +146,64 @@ TEST_F(Session, PutsALoneProjectIntoAGroupInMemory) {
   ASSERT_TRUE(actions_.OpenProject(Path("B.qvxproj"), false));
   EXPECT_THAT(listener_->Take(), ElementsAre("1 A.qvxproj", "1 B.qvxproj", "9 B.qvxproj"))
       << "the project that joined is the active one";
-  session_.Close(Project("B.qvxproj"));
+  workspace_.Close(Project("B.qvxproj"));
   EXPECT_TRUE(services_.CloseAll());
   EXPECT_TRUE(ui_.Asked.empty()) << "nobody misses the file of such a group";
   EXPECT_EQ(services_.GetMainProjectGroup(), nullptr);
 }
 
-TEST_F(Session, ReopensAProjectTheWayAddInsDo) {
-  ASSERT_TRUE(session_.Open(Path("G.qvxgroup")));
-  session_.SetActiveProject(Project("A.qvxproj"));
+TEST_F(Workspace, ReopensAProjectTheWayAddInsDo) {
+  ASSERT_TRUE(workspace_.Open(Path("G.qvxgroup")));
+  workspace_.SetActiveProject(Project("A.qvxproj"));
   SetFileAttributesOf(Path("G.qvxgroup"), faReadOnly);
   listener_->Take();
   const std::string group = services_.GetMainProjectGroup()->GetFileName();
   EXPECT_TRUE(services_.CloseAll());
   EXPECT_TRUE(actions_.OpenFile(group));
-  EXPECT_EQ(session_.ActiveProject(), &Project("A.qvxproj"))
+  EXPECT_EQ(workspace_.ActiveProject(), &Project("A.qvxproj"))
       << "the user's choice survives, also in a read-only group";
   EXPECT_THAT(listener_->Take(), ElementsAre("2 A.qvxproj", "2 B.qvxproj", "2 G.qvxgroup", "1 G.qvxgroup",
                                              "1 A.qvxproj", "1 B.qvxproj"));
 }
 
-TEST_F(Session, RemembersTheActiveProjectInAWritableGroup) {
-  ASSERT_TRUE(session_.Open(Path("G.qvxgroup")));
-  session_.SetActiveProject(Project("A.qvxproj"));
-  EXPECT_TRUE(session_.CloseAll());
+TEST_F(Workspace, RemembersTheActiveProjectInAWritableGroup) {
+  ASSERT_TRUE(workspace_.Open(Path("G.qvxgroup")));
+  workspace_.SetActiveProject(Project("A.qvxproj"));
+  EXPECT_TRUE(workspace_.CloseAll());
   EXPECT_EQ(TGroupFile::Parse(OnDisk("G.qvxgroup")).Active(), "A.qvxproj");
   EXPECT_TRUE(ui_.Asked.empty());
 }
 
-TEST_F(Session, ClosesAProjectWithItsUnitsAndMovesOn) {
-  ASSERT_TRUE(session_.Open(Path("G.qvxgroup")));
-  session_.Open(Path("B1.pas"));
-  session_.Open(Path("A1.pas"));
+TEST_F(Workspace, ClosesAProjectWithItsUnitsAndMovesOn) {
+  ASSERT_TRUE(workspace_.Open(Path("G.qvxgroup")));
+  workspace_.Open(Path("B1.pas"));
+  workspace_.Open(Path("A1.pas"));
   listener_->Take();
-  EXPECT_TRUE(session_.Close(Project("B.qvxproj")));
+  EXPECT_TRUE(workspace_.Close(Project("B.qvxproj")));
   EXPECT_THAT(listener_->Take(), ElementsAre("2 B1.pas", "2 B.qvxproj", "9 A.qvxproj"));
   EXPECT_THAT(OpenNames(), ElementsAre("G.qvxgroup", "A.qvxproj", "A1.pas"));
   ui_.SaveAnswer = TSaveAnswer::Discard;
-  EXPECT_TRUE(session_.CloseAll());
+  EXPECT_TRUE(workspace_.CloseAll());
   EXPECT_THAT(ui_.Asked, ElementsAre("G.qvxgroup")) << "the group lost a project";
 }
 
-TEST_F(Session, KeepsOpenWhatTheUserOrAPackageWantsOpen) {
-  ASSERT_TRUE(session_.Open(Path("A.qvxproj")));
-  session_.Open(Path("A1.pas"));
-  session_.Open(Path("A2.pas"));
+TEST_F(Workspace, KeepsOpenWhatTheUserOrAPackageWantsOpen) {
+  ASSERT_TRUE(workspace_.Open(Path("A.qvxproj")));
+  workspace_.Open(Path("A1.pas"));
+  workspace_.Open(Path("A2.pas"));
   Type("A2.pas", "unit Mine;\n");
-  EXPECT_FALSE(session_.CloseAll());
+  EXPECT_FALSE(workspace_.CloseAll());
   EXPECT_EQ(OpenNames().size(), 4u) << "cancelled before anything closed";
 
   ui_.SaveAnswer = TSaveAnswer::Save;
   listener_->Refused = "2 A1.pas";
-  EXPECT_FALSE(session_.CloseAll());
+  EXPECT_FALSE(workspace_.CloseAll());
   EXPECT_EQ(OnDisk("A2.pas"), "unit Mine;\n");
   EXPECT_THAT(OpenNames(), Contains("A1.pas"));
 }
 
-TEST_F(Session, ShowsAFormWithItsUnit) {
-  ASSERT_TRUE(session_.Open(Path("A1.kfm")));
+TEST_F(Workspace, ShowsAFormWithItsUnit) {
+  ASSERT_TRUE(workspace_.Open(Path("A1.kfm")));
   EXPECT_THAT(OpenNames(), ElementsAre("A1.pas"));
   EXPECT_EQ(ui_.Front->FileName(), Path("A1.kfm"));
   IOTAModule* module = services_.FindModule(Path("a1.PAS"));
@@ -216,8 +216,8 @@ TEST_F(Session, ShowsAFormWithItsUnit) {
   EXPECT_EQ(services_.CurrentModule(), module);
 }
 
-TEST_F(Session, RefusesToSaveAReadOnlyFile) {
-  ASSERT_TRUE(session_.Open(Path("A1.pas")));
+TEST_F(Workspace, RefusesToSaveAReadOnlyFile) {
+  ASSERT_TRUE(workspace_.Open(Path("A1.pas")));
   Type("A1.pas", "unit Mine;\n");
   SetFileAttributesOf(Path("A1.pas"), faReadOnly);
   EXPECT_FALSE(services_.SaveAll());
@@ -226,8 +226,8 @@ TEST_F(Session, RefusesToSaveAReadOnlyFile) {
   EXPECT_TRUE(services_.FindModule(Path("A1.pas"))->GetEditor(0)->GetModified());
 }
 
-TEST_F(Session, ReloadsContentsAndReadOnlyState) {
-  ASSERT_TRUE(session_.Open(Path("A1.pas")));
+TEST_F(Workspace, ReloadsContentsAndReadOnlyState) {
+  ASSERT_TRUE(workspace_.Open(Path("A1.pas")));
   WriteFileAtomically(Path("A1.pas"), "unit Theirs;\n");
   WriteFileAtomically(Path("A1.kfm"), "object Theirs\nend\n");
   SetFileAttributesOf(Path("A1.pas"), faReadOnly);
@@ -249,45 +249,45 @@ TEST_F(Session, ReloadsContentsAndReadOnlyState) {
   EXPECT_EQ(View("A1.pas").Text, "unit Theirs;\n");
 }
 
-TEST_F(Session, TakesOverWhatOtherProgramsDid) {
-  ASSERT_TRUE(session_.Open(Path("A.qvxproj")));
-  session_.Open(Path("A1.pas"));
-  session_.Open(Path("A2.pas"));
+TEST_F(Workspace, TakesOverWhatOtherProgramsDid) {
+  ASSERT_TRUE(workspace_.Open(Path("A.qvxproj")));
+  workspace_.Open(Path("A1.pas"));
+  workspace_.Open(Path("A2.pas"));
   folder_.Write("A.qvxproj", "[Project]\n[Modules]\nModule=B1.pas\n");
   SetFileAttributesOf(Path("A1.pas"), faReadOnly);
   std::filesystem::remove(Path("A2.pas"));
-  session_.CheckDisk();
+  workspace_.CheckDisk();
   EXPECT_EQ(Project("A.qvxproj").ModuleFileName(0), Path("B1.pas"));
   EXPECT_TRUE(View("A1.pas").Locked);
   EXPECT_THAT(lines_, Contains(HasSubstr("A2.pas no longer exists")));
   lines_.clear();
-  session_.CheckDisk();
+  workspace_.CheckDisk();
   EXPECT_TRUE(lines_.empty()) << "said once";
-  EXPECT_FALSE(session_.Close(Module("A2.pas"))) << "its text is nowhere else: closing asks";
+  EXPECT_FALSE(workspace_.Close(Module("A2.pas"))) << "its text is nowhere else: closing asks";
 }
 
-TEST_F(Session, AddsFilesOnceAndNamesNewUnits) {
-  ASSERT_TRUE(session_.Open(Path("B.qvxproj")));
-  EXPECT_EQ(session_.AddToProject({Path("A1.pas"), Path("a1.PAS"), Path("B1.pas")}), 1u);
+TEST_F(Workspace, AddsFilesOnceAndNamesNewUnits) {
+  ASSERT_TRUE(workspace_.Open(Path("B.qvxproj")));
+  EXPECT_EQ(workspace_.AddToProject({Path("A1.pas"), Path("a1.PAS"), Path("B1.pas")}), 1u);
   folder_.Write("Unit1.pas", "");
-  TUnit& unit = session_.NewUnit("/");
+  TUnit& unit = workspace_.NewUnit("/");
   EXPECT_EQ(unit.FileName(), Path("Unit2.pas"));
   EXPECT_TRUE(services_.SaveAll());
   EXPECT_THAT(OnDisk("Unit2.pas"), HasSubstr("unit Unit2;"));
   EXPECT_THAT(TProjectFile::Parse(OnDisk("B.qvxproj")).Items(), ElementsAre("B1.pas", "A1.pas", "Unit2.pas"));
 }
 
-TEST_F(Session, FollowsAUnitThatIsSavedUnderAnotherName) {
-  ASSERT_TRUE(session_.Open(Path("A.qvxproj")));
-  session_.Open(Path("A1.pas"));
+TEST_F(Workspace, FollowsAUnitThatIsSavedUnderAnotherName) {
+  ASSERT_TRUE(workspace_.Open(Path("A.qvxproj")));
+  workspace_.Open(Path("A1.pas"));
   ui_.SaveName = Path("Moved.pas");
-  EXPECT_TRUE(session_.SaveUnitAs(dynamic_cast<TUnit&>(Module("A1.pas"))));
+  EXPECT_TRUE(workspace_.SaveUnitAs(dynamic_cast<TUnit&>(Module("A1.pas"))));
   EXPECT_EQ(services_.FindModule(Path("A1.pas")), nullptr);
   EXPECT_EQ(OnDisk("Moved.kfm"), "object A1\nend\n");
   EXPECT_EQ(Project("A.qvxproj").ModuleFileName(0), Path("Moved.pas"));
   ui_.SaveName = Path("A2.pas");
-  session_.Open(Path("A2.pas"));
-  EXPECT_THROW(session_.SaveUnitAs(dynamic_cast<TUnit&>(Module("Moved.pas"))), std::runtime_error);
+  workspace_.Open(Path("A2.pas"));
+  EXPECT_THROW(workspace_.SaveUnitAs(dynamic_cast<TUnit&>(Module("Moved.pas"))), std::runtime_error);
 }
 
 /// Counts what an editor notifier hears.
@@ -307,8 +307,8 @@ class TEditorListener final : public IOTAEditorNotifier {
   std::string Heard;
 };
 
-TEST_F(Session, TellsEditorNotifiersOfSavesViewsAndTheEnd) {
-  ASSERT_TRUE(session_.Open(Path("A1.pas")));
+TEST_F(Workspace, TellsEditorNotifiersOfSavesViewsAndTheEnd) {
+  ASSERT_TRUE(workspace_.Open(Path("A1.pas")));
   auto listener = std::make_shared<TEditorListener>();
   IOTAEditor* editor = Module("A1.pas").GetEditor(0);
   EXPECT_GE(editor->AddNotifier(listener), 0);
@@ -318,7 +318,7 @@ TEST_F(Session, TellsEditorNotifiersOfSavesViewsAndTheEnd) {
   EXPECT_TRUE(actions_.SaveFile(Path("A1.pas"))) << "nothing to save is success";
   Type("A1.pas", "unit Mine;\n");
   EXPECT_TRUE(actions_.SaveFile(Path("A1.pas")));
-  session_.Close(Module("A1.pas"));
+  workspace_.Close(Module("A1.pas"));
   EXPECT_EQ(listener->Heard, "modified activated before after remove destroyed ");
 }
 

@@ -1,13 +1,13 @@
-// Closing: the half of the session that takes modules away.
+// Closing: the half of the workspace that takes modules away.
 #include <algorithm>
 
 #include "system/Paths.h"
 #include "system/Text.h"
-#include "workbench/model/Session.h"
+#include "workbench/model/Workspace.h"
 
 namespace kestrel::workbench {
 
-bool TSession::AskAboutModified(const std::vector<TOpenModule*>& modules) {
+bool TWorkspace::AskAboutModified(const std::vector<TOpenModule*>& modules) {
   for (TOpenModule* module : modules) {
     if (module == group_ && group_->IsUnsaved()) continue;
     for (const auto& document : module->Documents()) {
@@ -20,7 +20,7 @@ bool TSession::AskAboutModified(const std::vector<TOpenModule*>& modules) {
   return true;
 }
 
-bool TSession::AskAboutGroup() {
+bool TWorkspace::AskAboutGroup() {
   // One project alone opens again without its group; several together are work that would be lost.
   if (!group_ || !group_->IsUnsaved() || group_->Projects().size() < 2) return true;
   switch (ui_.AskSave(group_->FileName())) {
@@ -34,7 +34,7 @@ bool TSession::AskAboutGroup() {
   return false;
 }
 
-std::vector<TOpenModule*> TSession::ClosingOrder() const {
+std::vector<TOpenModule*> TWorkspace::ClosingOrder() const {
   // Units first, the last opened first; then the active project, so that what hangs on it ends with it; then the
   // other projects; the group last.
   const auto rank = [&](const TOpenModule* module) {
@@ -49,7 +49,7 @@ std::vector<TOpenModule*> TSession::ClosingOrder() const {
   return order;
 }
 
-bool TSession::CloseAll() {
+bool TWorkspace::CloseAll() {
   const auto order = ClosingOrder();
   if (!AskAboutModified(order) || !AskAboutGroup()) return false;
   RememberActive();
@@ -58,7 +58,7 @@ bool TSession::CloseAll() {
   return closed;
 }
 
-void TSession::DropAll() {
+void TWorkspace::CloseAllWithoutSaving() {
   for (TOpenModule* module : ClosingOrder()) {
     notifications_.FileClosing(module->FileName());
     Forget(*module);
@@ -66,7 +66,7 @@ void TSession::DropAll() {
   ui_.ProjectsChanged();
 }
 
-void TSession::RememberActive() {
+void TWorkspace::RememberActive() {
   if (!group_ || !group_->Active() || group_->IsUnsaved()) return;
   TDefinitionEditor<TGroupFile>& definition = group_->Definition();
   lastActive_[group_->FileName()] = definition.Get().Active();
@@ -78,7 +78,7 @@ void TSession::RememberActive() {
   }
 }
 
-bool TSession::CloseEach(const std::vector<TOpenModule*>& modules) {
+bool TWorkspace::CloseEach(const std::vector<TOpenModule*>& modules) {
   // By name: a package that hears of one closing may close others.
   std::vector<std::string> names;
   for (const TOpenModule* module : modules) names.push_back(module->FileName());
@@ -88,13 +88,13 @@ bool TSession::CloseEach(const std::vector<TOpenModule*>& modules) {
   });
 }
 
-bool TSession::CloseOne(TOpenModule& module) {
+bool TWorkspace::CloseOne(TOpenModule& module) {
   if (!notifications_.FileClosing(module.FileName())) return false;
   Forget(module);
   return true;
 }
 
-void TSession::Forget(TOpenModule& module) {
+void TWorkspace::Forget(TOpenModule& module) {
   for (const auto& document : module.Documents())
     if (auto* text = dynamic_cast<TTextEditor*>(document.get())) ui_.EditorClosing(*text);
   if (auto* project = dynamic_cast<TProject*>(&module); project && group_) group_->Detach(*project);
@@ -102,7 +102,7 @@ void TSession::Forget(TOpenModule& module) {
   index_.Remove(module);
 }
 
-std::vector<TOpenModule*> TSession::OpenUnitsOf(TProject& project) const {
+std::vector<TOpenModule*> TWorkspace::OpenUnitsOf(TProject& project) const {
   std::vector<TOpenModule*> units;
   for (int i = 0; i < project.GetModuleCount(); ++i) {
     TOpenModule* unit = index_.Find(project.ModuleFileName(i));
@@ -111,13 +111,13 @@ std::vector<TOpenModule*> TSession::OpenUnitsOf(TProject& project) const {
   return units;
 }
 
-bool TSession::Close(TOpenModule& module) {
+bool TWorkspace::Close(TOpenModule& module) {
   if (&module == group_) return CloseAll();
   if (auto* project = dynamic_cast<TProject*>(&module)) return CloseProject(*project);
   return AskAboutModified({&module}) && CloseOne(module);
 }
 
-bool TSession::CloseProject(TProject& project) {
+bool TWorkspace::CloseProject(TProject& project) {
   if (group_->Projects().size() == 1) return CloseAll();
   auto modules = OpenUnitsOf(project);
   modules.push_back(&project);

@@ -1,11 +1,11 @@
-// Opening and creating: the half of the session that adds modules.
+// Opening and creating: the half of the workspace that adds modules.
 #include <stdexcept>
 
 #include "system/Paths.h"
 #include "system/System.h"
 #include "system/Text.h"
 #include "workbench/model/ModelStrings.h"
-#include "workbench/model/Session.h"
+#include "workbench/model/Workspace.h"
 
 namespace kestrel::workbench {
 
@@ -24,19 +24,19 @@ bool HasExt(const std::string& fileName, const char* extension) {
 
 }  // namespace
 
-bool TSession::Open(const std::string& fileName) {
+bool TWorkspace::Open(const std::string& fileName) {
   const std::string full = FullPath(fileName);
   if (HasExt(full, kGroupExt)) return OpenGroup(full);
   if (HasExt(full, kProjectExt)) return OpenProject(full, true);
   return OpenUnit(full);
 }
 
-void TSession::AnnounceOpened(const std::vector<std::string>& fileNames) {
+void TWorkspace::AnnounceOpened(const std::vector<std::string>& fileNames) {
   for (const auto& name : fileNames)
     if (index_.Find(name)) notifications_.FileOpened(name);  // an earlier notification may have closed it
 }
 
-bool TSession::OpenUnit(const std::string& fileName) {
+bool TWorkspace::OpenUnit(const std::string& fileName) {
   // A form is opened with its unit, where it has one.
   const std::string source = ChangeFileExt(fileName, kUnitExt);
   const bool withUnit = HasExt(fileName, kFormExt) && FileExists(source) && FileExists(fileName);
@@ -44,7 +44,7 @@ bool TSession::OpenUnit(const std::string& fileName) {
   TOpenModule* module = index_.Find(fileName);
   const bool known = module != nullptr;
   if (!known) {
-    auto unit = std::make_unique<TUnit>(moduleFile, guard_);
+    auto unit = std::make_unique<TUnit>(moduleFile, caller_);
     for (const auto& document : unit->Documents()) document->Load();
     module = &AddModule(std::move(unit));
     for (const auto& document : module->Documents()) ui_.EditorOpened(static_cast<TTextEditor&>(*document));
@@ -54,27 +54,27 @@ bool TSession::OpenUnit(const std::string& fileName) {
   return true;
 }
 
-void TSession::ShowUnit(TUnit& unit) {
+void TWorkspace::ShowUnit(TUnit& unit) {
   for (const auto& document : unit.Documents()) ui_.EditorOpened(static_cast<TTextEditor&>(*document));
   ui_.ShowEditor(unit.Text(0));
 }
 
-TProjectGroup& TSession::MakeGroup(const std::string& projectFile) {
+TProjectGroup& TWorkspace::MakeGroup(const std::string& projectFile) {
   const std::string directory = IncludeTrailingPathDelimiter(ExtractFileDir(projectFile));
   const std::string name = FirstFree("ProjectGroup", kGroupExt, [&](const std::string& candidate) {
     return FileExists(directory + candidate);
   });
-  group_ = &AddModule(std::make_unique<TProjectGroup>(directory + name, guard_));
+  group_ = &AddModule(std::make_unique<TProjectGroup>(directory + name, caller_));
   return *group_;
 }
 
-bool TSession::OpenProject(const std::string& fileName, bool newGroup) {
+bool TWorkspace::OpenProject(const std::string& fileName, bool newGroup) {
   const std::string full = FullPath(fileName);
   if (auto* open = dynamic_cast<TProject*>(index_.Find(full))) {
     SetActiveProject(*open);
     return true;
   }
-  auto project = std::make_unique<TProject>(full, guard_);
+  auto project = std::make_unique<TProject>(full, caller_);
   project->Definition().Load();
   if ((newGroup || !group_) && !CloseAll()) return false;
   TProjectGroup& group = group_ ? *group_ : MakeGroup(full);
@@ -89,11 +89,11 @@ bool TSession::OpenProject(const std::string& fileName, bool newGroup) {
   return true;
 }
 
-bool TSession::OpenGroup(const std::string& fileName) {
+bool TWorkspace::OpenGroup(const std::string& fileName) {
   if (group_ && SameText(group_->FileName(), fileName)) return true;
-  auto group = std::make_unique<TProjectGroup>(fileName, guard_);
+  auto group = std::make_unique<TProjectGroup>(fileName, caller_);
   group->Definition().Load();
-  group->NoteSaved();
+  group->RecordSaved();
   if (!CloseAll()) return false;
   group_ = &AddModule(std::move(group));
   AttachListedProjects(*group_);
@@ -104,7 +104,7 @@ bool TSession::OpenGroup(const std::string& fileName) {
   return true;
 }
 
-void TSession::AttachListedProjects(TProjectGroup& group) {
+void TWorkspace::AttachListedProjects(TProjectGroup& group) {
   const TGroupFile& file = group.Definition().Get();
   const std::string directory = ExtractFileDir(group.FileName());
   const auto remembered = lastActive_.find(group.FileName());
@@ -114,7 +114,7 @@ void TSession::AttachListedProjects(TProjectGroup& group) {
     const std::string path = FromStoredPath(directory, stored);
     if (index_.Find(path)) continue;
     try {
-      auto project = std::make_unique<TProject>(path, guard_);
+      auto project = std::make_unique<TProject>(path, caller_);
       project->Definition().Load();
       group.Attach(AddModule(std::move(project)), SameText(path, active));
     } catch (const std::exception& e) {
@@ -123,14 +123,14 @@ void TSession::AttachListedProjects(TProjectGroup& group) {
   }
 }
 
-bool TSession::NewProject(const std::string& fileName) {
+bool TWorkspace::NewProject(const std::string& fileName) {
   const std::string full = FullPath(fileName);
   if (!CloseAll()) return false;
   WriteFileAtomically(full, TProjectFile().Text());
   return OpenProject(full, true);
 }
 
-TUnit& TSession::NewUnit(const std::string& directory) {
+TUnit& TWorkspace::NewUnit(const std::string& directory) {
   TProject* project = ActiveProject();
   const std::string base =
       IncludeTrailingPathDelimiter(project ? ExtractFileDir(project->FileName()) : FullPath(directory));
@@ -138,7 +138,7 @@ TUnit& TSession::NewUnit(const std::string& directory) {
     return index_.Find(base + candidate) || FileExists(base + candidate) ||
            (project && project->IndexOfModuleFile(base + candidate) >= 0);
   });
-  auto unit = std::make_unique<TUnit>(base + name, guard_);
+  auto unit = std::make_unique<TUnit>(base + name, caller_);
   unit->Text(0).SetNewText(Format(sNewUnitText, {ChangeFileExt(name, "")}));
   TUnit& added = AddModule(std::move(unit));
   ShowUnit(added);

@@ -1,5 +1,5 @@
 // What is open in the workbench, and every operation on it: opening, closing, saving, reloading, the active project.
-// It knows no windows; it tells ISessionUi what to show and asks it what only the user can answer.
+// It knows no windows; it tells IWorkspaceUi what to show and asks it what only the user can answer.
 #pragma once
 
 #include <map>
@@ -12,10 +12,10 @@ namespace kestrel::workbench {
 
 enum class TSaveAnswer { Save, Discard, Cancel };
 
-/// The windows as the session sees them.
-class ISessionUi {
+/// The windows as the workspace sees them.
+class IWorkspaceUi {
  public:
-  virtual ~ISessionUi() = default;
+  virtual ~IWorkspaceUi() = default;
   /// Shows a page for the editor and attaches its view, without bringing it to the front.
   virtual void EditorOpened(TTextEditor& editor) = 0;
   /// Takes the page away; called while the editor still exists.
@@ -36,10 +36,10 @@ class ISessionUi {
 
 /// User-interface thread only.  Operations throw std::runtime_error with a sentence for the user when they fail, and
 /// answer false when the user, or a package, stopped them.
-class TSession {
+class TWorkspace {
  public:
-  TSession(ISessionUi& ui, const TPackageGuard& guard, TNotifications& notifications)
-      : ui_(ui), guard_(guard), notifications_(notifications) {}
+  TWorkspace(IWorkspaceUi& ui, const TPackageCaller& caller, TNotifications& notifications)
+      : ui_(ui), caller_(caller), notifications_(notifications) {}
 
   /// Opens by extension: a group, a project in a new group, or a unit; brings forward what is open already.
   bool Open(const std::string& fileName);
@@ -60,7 +60,7 @@ class TSession {
   /// Asks about everything modified first; nothing is closed when the user cancels there.
   bool CloseAll();
   /// Closes what is left without asking: the program ends and has asked, or may not ask.
-  void DropAll();
+  void CloseAllWithoutSaving();
 
   /// Shows what is on disk.  Asks about unsaved changes first.  False when the file is not open or the user keeps them.
   bool Reload(const std::string& fileName);
@@ -78,7 +78,7 @@ class TSession {
   TProject* ActiveProject() const { return group_ ? group_->Active() : nullptr; }
   TOpenModule* CurrentModule();
   TTextEditor* ActiveEditor() { return ui_.ActiveEditor(); }
-  void Log(const std::string& line) const { guard_.Log(line); }
+  void Log(const std::string& line) const { caller_.Log(line); }
 
  private:
   template <class T>
@@ -109,8 +109,8 @@ class TSession {
   bool ReopenGroup();
   void CheckDocument(TDocument& document);
 
-  ISessionUi& ui_;
-  const TPackageGuard& guard_;
+  IWorkspaceUi& ui_;
+  const TPackageCaller& caller_;
   TNotifications& notifications_;
   TModuleIndex index_;
   TProjectGroup* group_ = nullptr;

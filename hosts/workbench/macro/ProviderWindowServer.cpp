@@ -1,4 +1,4 @@
-#include "workbench/macro/PlayedWindows.h"
+#include "workbench/macro/ProviderWindowServer.h"
 
 #include <wx/dialog.h>
 
@@ -25,13 +25,13 @@ wxTopLevelWindow* Front() {
   return shown.empty() ? nullptr : shown.back();
 }
 
-std::string Work(const std::string& line, std::unique_ptr<wxUIActionSimulator>& input) {
+std::string RunStep(const std::string& line, std::unique_ptr<wxUIActionSimulator>& input) {
   auto* const front = Front();
   if (front == nullptr) return "no window is open";
   try {
     const auto step = ParseMacro(line).at(0);
     if (step.Verb == TMacroVerb::Key && !input) input = std::make_unique<wxUIActionSimulator>();
-    if (step.Verb != TMacroVerb::Expect) return WorkWindow(step, *front, input.get());
+    if (step.Verb != TMacroVerb::Expect) return RunInWindow(step, *front, input.get());
     std::string problem;
     ExpectWindow(step.Arguments[0], problem);
     return problem;
@@ -42,18 +42,18 @@ std::string Work(const std::string& line, std::unique_ptr<wxUIActionSimulator>& 
 
 }  // namespace
 
-TPlayedWindows::TPlayedWindows(const std::string& folder) : folder_(folder) {
+TProviderWindowServer::TProviderWindowServer(const std::string& folder) : folder_(folder) {
   std::error_code ignored;
   fs::remove(ToFilePath(ResolvePath(folder_, "front")), ignored);  // of a process that was killed
   StartOnce(kTickMs);
 }
 
-TPlayedWindows::~TPlayedWindows() {
+TProviderWindowServer::~TProviderWindowServer() {
   std::error_code ignored;
   fs::remove(ToFilePath(ResolvePath(folder_, "front")), ignored);
 }
 
-void TPlayedWindows::Notify() {
+void TProviderWindowServer::Notify() {
   StartOnce(kTickMs);  // before the step: it may open a dialog, and the next steps go on inside
   ShowFront();
   const auto step = ResolvePath(folder_, "step");
@@ -62,17 +62,17 @@ void TPlayedWindows::Notify() {
   const auto line = ReadWholeFile(step);
   fs::remove(ToFilePath(step));
   working_ = true;
-  const auto result = Work(line, input_);
+  const auto result = RunStep(line, input_);
   ShowFront();
   if (working_) Answer(result);
 }
 
-void TPlayedWindows::Answer(const std::string& result) {
+void TProviderWindowServer::Answer(const std::string& result) {
   working_ = false;
   WriteFileAtomically(ResolvePath(folder_, "answer"), result);
 }
 
-void TPlayedWindows::ShowFront() {
+void TProviderWindowServer::ShowFront() {
   const auto* window = Front();
   const auto title = window != nullptr ? FromWx(window->GetTitle()) : std::string();
   if (title == front_) return;

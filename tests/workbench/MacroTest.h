@@ -9,11 +9,11 @@
 
 namespace kestrel::workbench {
 
-class TStory {
+class TMacroTest {
  public:
-  /// Boat.qvxproj (Main.pas with Main.kfm, sub/Deck.pas read-only, Rude.pas) and Raft.qvxproj (Log.pas) in
+  /// Boat.qvxproj (Main.pas with Main.kfm, sub/Deck.pas read-only, Faulty.pas) and Raft.qvxproj (Log.pas) in
   /// Fleet.qvxgroup, Boat active.  Settings of its own.
-  TStory();
+  TMacroTest();
   /// Plays the macro in the folder; the program's exit code.
   int Play(const std::string& macro, const std::string& options = "");
   /// What the program printed, both streams.

@@ -10,13 +10,13 @@ namespace {
 
 using testing::ElementsAre;
 
-TEST(PackageGuard, KeepsQuietAboutAbortsAndReportsTheRest) {
+TEST(PackageCaller, KeepsQuietAboutAbortsAndReportsTheRest) {
   std::vector<std::string> lines;
-  const TPackageGuard guard([&](const std::string& line) { lines.push_back(line); });
-  EXPECT_TRUE(guard.Run("fine", [] {}));
-  EXPECT_FALSE(guard.Run("abort", [] { throw EAbort("silent"); }));
-  EXPECT_FALSE(guard.Run("error", [] { throw std::runtime_error("disk full"); }));
-  EXPECT_FALSE(guard.Run("odd", [] { throw 42; }));
+  const TPackageCaller caller([&](const std::string& line) { lines.push_back(line); });
+  EXPECT_TRUE(caller.Run("fine", [] {}));
+  EXPECT_FALSE(caller.Run("abort", [] { throw EAbort("silent"); }));
+  EXPECT_FALSE(caller.Run("error", [] { throw std::runtime_error("disk full"); }));
+  EXPECT_FALSE(caller.Run("odd", [] { throw 42; }));
   EXPECT_THAT(lines, ElementsAre("error: disk full", "odd: unknown error"));
 }
 

@@ -1,13 +1,13 @@
-// The session as packages see it: the host's module, editor and action services.
+// The workspace as packages see it: the host's module, editor and action services.
 #pragma once
 
-#include "workbench/model/Session.h"
+#include "workbench/model/Workspace.h"
 
 namespace kestrel::workbench {
 
 class TModuleServices final : public IOTAModuleServices {
  public:
-  explicit TModuleServices(TSession& session) : session_(session) {}
+  explicit TModuleServices(TWorkspace& workspace) : workspace_(workspace) {}
   int GetModuleCount() override;
   IOTAModule* GetModule(int index) override;
   IOTAModule* FindModule(const std::string& fileName) override;
@@ -20,26 +20,26 @@ class TModuleServices final : public IOTAModuleServices {
   }
 
  private:
-  TSession& session_;
+  TWorkspace& workspace_;
 };
 
 /// There is one object for the front-most buffer, whichever that is at the time of a call.
 class TEditorServices final : public IOTAEditorServices, public IOTAEditBuffer {
  public:
-  explicit TEditorServices(TSession& session) : session_(session) {}
-  IOTAEditBuffer* GetTopBuffer() override { return session_.ActiveEditor() ? this : nullptr; }
+  explicit TEditorServices(TWorkspace& workspace) : workspace_(workspace) {}
+  IOTAEditBuffer* GetTopBuffer() override { return workspace_.ActiveEditor() ? this : nullptr; }
   std::string GetFileName() override;
   void* QueryInterface(const TGuid& iid) noexcept override {
     return FindInterface<IOTAEditorServices, IOTAEditBuffer>(this, iid);
   }
 
  private:
-  TSession& session_;
+  TWorkspace& workspace_;
 };
 
 class TActionServices final : public IOTAActionServices {
  public:
-  explicit TActionServices(TSession& session) : session_(session) {}
+  explicit TActionServices(TWorkspace& workspace) : workspace_(workspace) {}
   bool OpenFile(const std::string& fileName) override;
   bool OpenProject(const std::string& fileName, bool newProjectGroup) override;
   bool SaveFile(const std::string& fileName) override;
@@ -49,7 +49,7 @@ class TActionServices final : public IOTAActionServices {
   }
 
  private:
-  TSession& session_;
+  TWorkspace& workspace_;
 };
 
 }  // namespace kestrel::workbench

@@ -14,10 +14,10 @@
 namespace kestrel::workbench {
 
 /// Looks for steps and does them for as long as it lives.
-class TPlayedWindows final : public wxTimer {
+class TProviderWindowServer final : public wxTimer {
  public:
-  explicit TPlayedWindows(const std::string& folder);
-  ~TPlayedWindows() override;
+  explicit TProviderWindowServer(const std::string& folder);
+  ~TProviderWindowServer() override;
   void Notify() override;
 
  private:

@@ -1,4 +1,4 @@
-#include "workbench/model/Session.h"
+#include "workbench/model/Workspace.h"
 
 #include <stdexcept>
 
@@ -9,20 +9,20 @@
 
 namespace kestrel::workbench {
 
-void TSession::Save(TDocument& document) {
+void TWorkspace::Save(TDocument& document) {
   document.Save();
-  if (group_ && &document == &group_->Definition()) group_->NoteSaved();
+  if (group_ && &document == &group_->Definition()) group_->RecordSaved();
   Changed(document);
 }
 
-void TSession::Changed(TDocument& document) {
+void TWorkspace::Changed(TDocument& document) {
   if (auto* text = dynamic_cast<TTextEditor*>(&document))
     ui_.EditorChanged(*text);
   else
     ui_.ProjectsChanged();
 }
 
-bool TSession::SaveAll() {
+bool TWorkspace::SaveAll() {
   for (const auto& module : index_.InOrder())
     for (const auto& document : module->Documents()) {
       const bool needsName = group_ && document.get() == &group_->Definition() && group_->IsUnsaved();
@@ -32,7 +32,7 @@ bool TSession::SaveAll() {
   return true;
 }
 
-bool TSession::SaveUnitAs(TUnit& unit) {
+bool TWorkspace::SaveUnitAs(TUnit& unit) {
   const std::string before = unit.FileName();
   const std::string name = ui_.AskSaveName(before);
   if (name.empty()) return false;
@@ -53,7 +53,7 @@ bool TSession::SaveUnitAs(TUnit& unit) {
   return true;
 }
 
-bool TSession::SaveGroupAs() {
+bool TWorkspace::SaveGroupAs() {
   if (!group_) throw std::runtime_error(sNoProject);
   const std::string name = ui_.AskSaveName(group_->FileName());
   if (name.empty()) return false;
@@ -64,7 +64,7 @@ bool TSession::SaveGroupAs() {
   return true;
 }
 
-bool TSession::Reload(const std::string& fileName) {
+bool TWorkspace::Reload(const std::string& fileName) {
   TOpenModule* module = index_.Find(fileName);
   TDocument* document = module ? module->FindDocument(fileName) : nullptr;
   if (!document) return false;
@@ -72,7 +72,7 @@ bool TSession::Reload(const std::string& fileName) {
   return ReloadUnlessKept(*document);
 }
 
-bool TSession::ReloadUnlessKept(TDocument& document) {
+bool TWorkspace::ReloadUnlessKept(TDocument& document) {
   const bool kept = document.GetModified() && !ui_.AskReload(document.FileName());
   if (!kept)
     document.Load();
@@ -82,21 +82,21 @@ bool TSession::ReloadUnlessKept(TDocument& document) {
   return !kept;
 }
 
-bool TSession::ReopenGroup() {
+bool TWorkspace::ReopenGroup() {
   const std::string file = group_->FileName();
   return CloseAll() && Open(file);
 }
 
-void TSession::CheckDocument(TDocument& document) {
+void TWorkspace::CheckDocument(TDocument& document) {
   auto* text = dynamic_cast<TTextEditor*>(&document);
   switch (document.CheckDisk()) {
     case TDiskChange::None:
       return;
     case TDiskChange::Attributes:
       break;
-    case TDiskChange::Gone:
+    case TDiskChange::Deleted:
       document.AcceptDisk();
-      if (text) text->KeepWithoutFile();
+      if (text) text->MarkFileMissing();
       Log(Format(sGone, {document.FileName()}));
       break;
     case TDiskChange::Contents:
@@ -106,7 +106,7 @@ void TSession::CheckDocument(TDocument& document) {
   if (text) ui_.EditorChanged(*text);
 }
 
-void TSession::CheckDisk() {
+void TWorkspace::CheckDisk() {
   // The names are taken first: answering a question can close modules.
   std::vector<std::string> names;
   for (const auto& module : index_.InOrder())
@@ -126,14 +126,14 @@ void TSession::CheckDisk() {
   }
 }
 
-void TSession::SetActiveProject(TProject& project) {
+void TWorkspace::SetActiveProject(TProject& project) {
   if (!group_ || group_->Active() == &project) return;
   group_->SetActive(project);
   ui_.ProjectsChanged();
   notifications_.ActiveProjectChanged(project.FileName());
 }
 
-std::size_t TSession::AddToProject(const std::vector<std::string>& fileNames) {
+std::size_t TWorkspace::AddToProject(const std::vector<std::string>& fileNames) {
   TProject* project = ActiveProject();
   if (!project) throw std::runtime_error(sNoProject);
   std::vector<std::string> full;
@@ -143,12 +143,12 @@ std::size_t TSession::AddToProject(const std::vector<std::string>& fileNames) {
   return added;
 }
 
-void TSession::RemoveFromProject(TProject& project, int index) {
+void TWorkspace::RemoveFromProject(TProject& project, int index) {
   project.RemoveModuleFile(index);
   ui_.ProjectsChanged();
 }
 
-TOpenModule* TSession::CurrentModule() {
+TOpenModule* TWorkspace::CurrentModule() {
   TTextEditor* editor = ui_.ActiveEditor();
   return editor ? index_.Find(editor->FileName()) : nullptr;
 }
