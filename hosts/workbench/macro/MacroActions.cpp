@@ -1,4 +1,4 @@
-// The macro steps that do something.
+// Macro steps that act.
 #include <wx/menu.h>
 
 #include <stdexcept>

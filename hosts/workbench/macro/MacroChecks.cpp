@@ -1,4 +1,4 @@
-// The macro steps that look whether something is so.
+// Macro steps that check.
 #include <wx/filename.h>
 #include <wx/grid.h>
 #include <wx/listctrl.h>
@@ -25,8 +25,8 @@ namespace kestrel::workbench {
 
 namespace {
 
-/// Message windows are frames with a list; a log counts whether its window is on the screen or not.  Visits the lists
-/// until `visit` answers true; whether it did.
+/// Visits the lists in frames, hidden ones included, until `visit` returns true; returns whether it did. Message
+/// windows are frames with a list.
 bool VisitLogs(const std::function<bool(wxListCtrl&)>& visit) {
   const auto visitControl = [&](wxWindow& control) {
     auto* list = dynamic_cast<wxListCtrl*>(&control);
@@ -42,7 +42,7 @@ bool IsInMessages(const std::string& text) {
   return VisitLogs([&](wxListCtrl& list) { return TextOf(list).Contains(wanted); });
 }
 
-/// What the command printed, and how it ended: the shell's word, 0 for success.  Waits until it has ended.
+/// Runs a command and waits for it; returns its output and the exit status, 0 for success.
 std::pair<std::string, int> RunInShell(const std::string& command) {
   const wxString output = wxFileName::CreateTempFileName("macro");
   const std::string line = "(" + command + ") > \"" + output.utf8_string() + "\" 2>&1";
@@ -54,7 +54,7 @@ std::pair<std::string, int> RunInShell(const std::string& command) {
   return {printed, code};
 }
 
-/// Empty when the file and its editor, if it is open, have that attribute.
+/// Empty if the file, and its editor if it is open, have that attribute.
 std::string CheckReadOnly(TMainFrame& frame, const std::string& file, bool readOnly) {
   const TOpenModule* module = frame.Workspace().Modules().Find(FullPath(file));
   const TDocument* document = module ? module->FindDocument(FullPath(file)) : nullptr;
@@ -127,7 +127,7 @@ std::string TMacroPlayer::DoPrintMessages(const TArguments&) {
 
 std::string TMacroPlayer::DoRun(const TArguments& arguments) {
   const auto [printed, code] = RunInShell(arguments[0]);
-  // Thrown, not answered: a command that failed is not run again.
+  // An exception, so that a command that failed is not retried.
   if (code != 0) throw std::runtime_error(Format(sCommandFailed, {code, printed}));
   std::fputs(printed.c_str(), stdout);
   return {};

@@ -60,7 +60,7 @@ int RowWith(wxGrid& grid, const wxString& text) {
   return wxNOT_FOUND;
 }
 
-/// One box that can be ticked, whatever control it is in.
+/// A box that can be ticked, in any kind of control.
 struct TBox {
   wxWindow* Control;
   std::function<bool()> Get;
@@ -91,8 +91,8 @@ TBox BoxOf(wxCheckListBox& list, unsigned row) {
           }};
 }
 
-/// CheckItem is where a click on the box arrives too.  It sends the event, and for a virtual list that is all it does:
-/// the list's owner keeps the state.
+/// A click on the box arrives in CheckItem, too. It sends the event; a virtual list does nothing else, as its owner
+/// holds the state.
 TBox BoxOf(wxListCtrl& list, int row) {
   return {&list, [&list, row] { return list.IsItemChecked(row); },
           [&list, row](bool ticked) {
@@ -165,7 +165,7 @@ bool SelectIn(wxGrid& grid, const wxString& text) {
   return true;
 }
 
-/// From pixels of `window`; empty when its middle is out of sight.
+/// Converts a rectangle in `window` to the screen; empty if its centre is out of sight.
 wxRect OnScreen(const wxWindow& window, const wxRect& rect) {
   const bool inSight = window.GetClientRect().Contains(rect.GetPosition() + rect.GetSize() / 2);
   return inSight ? wxRect(window.ClientToScreen(rect.GetPosition()), rect.GetSize()) : wxRect();
@@ -203,7 +203,7 @@ bool TrySelect(wxWindow& control, const wxString& text) {
   return list && SelectIn(*list, text);
 }
 
-/// The event that choosing an entry of a list sends.
+/// The event sent when an entry of the list is chosen.
 wxEventType ChoiceEvent(wxWindow& control) {
   if (dynamic_cast<wxComboBox*>(&control)) return wxEVT_COMBOBOX;
   if (dynamic_cast<wxRadioBox*>(&control)) return wxEVT_RADIOBOX;
@@ -301,7 +301,7 @@ std::string TypeText(wxWindow& window, const wxString& label, const wxString& te
   if (!control) return Missing(window, sKindText, label);
   control->SetFocus();
   auto& entry = dynamic_cast<wxTextEntry&>(*control);
-  // Character by character over a selection: so the box keeps to its length limit, as when a user types.
+  // Character by character over a selection, so that the box applies its length limit.
   entry.SelectAll();
   if (text.empty()) entry.RemoveSelection();
   for (const wxUniChar character : text) entry.WriteText(wxString(character));

@@ -1,4 +1,4 @@
-// Working the main menu as a user does: open the menu, look, click.
+// Operates the main menu as a user does.
 #pragma once
 
 #include <wx/gdicmn.h>
@@ -10,14 +10,14 @@ class wxMenuItem;
 
 namespace kestrel::workbench {
 
-/// Opens the menus of a path "Menu|Item" one after the other, so that each is brought up to date, and answers the last
-/// part's item; nullptr when there is none.  The item is borrowed until the menu changes.
+/// Opens the menus of a path "Menu|Item" one after the other, which updates them, and returns the item; null if there
+/// is none. It is borrowed until the menu changes.
 wxMenuItem* OpenMenuItem(wxFrame& frame, const wxString& path);
-/// The item of a path "Submenu|Item" below `menu`; nullptr for none.
+/// The item of a path "Submenu|Item" below `menu`; null if there is none.
 wxMenuItem* FindMenuItem(const wxMenu& menu, const wxString& path);
 void ClickMenuItem(wxFrame& frame, const wxMenuItem& item);
-/// Where the title of a menu "Menu", or the item of a path "Menu|Item" in a menu that is open, is on the screen; empty
-/// for nowhere, and where the toolkit does not tell.
+/// The screen rectangle of the title of a menu "Menu", or of the item "Menu|Item" of an open menu; empty if it is not
+/// shown or the toolkit does not expose it.
 wxRect MenuRect(const wxMenuBar& bar, const wxString& path);
 
 }  // namespace kestrel::workbench

@@ -20,7 +20,7 @@ namespace kestrel::workbench {
 
 namespace {
 
-// Each answers the place on the screen, empty for what is not shown.
+// Each returns the screen rectangle; empty if it is not shown.
 
 wxRect MenuPlace(TMainFrame& frame, wxTopLevelWindow&, const std::string& path) {
   return MenuRect(*frame.GetMenuBar(), ToWx(path));
@@ -56,10 +56,10 @@ constexpr struct {
 
 constexpr struct {
   std::string_view Name;
-  int Button;  // of the toolkit
+  int Button;  // wxMOUSE_BTN_*
 } kButtons[] = {{"left", wxMOUSE_BTN_LEFT}, {"middle", wxMOUSE_BTN_MIDDLE}, {"right", wxMOUSE_BTN_RIGHT}};
 
-/// As far as two clicks are from each other that are no double click.
+/// Distance between two clicks that are not a double click.
 const wxPoint kAside{8, 0};
 
 }  // namespace

@@ -1,4 +1,4 @@
-// Working the program with the real mouse: the system sees a pointer, buttons and a wheel, as from a user's hand.
+// Operates the program with the mouse: the system sees a pointer, buttons and a wheel.
 #pragma once
 
 #include <string>
@@ -10,13 +10,13 @@ namespace kestrel::workbench {
 
 class TMainFrame;
 
-/// Moves the pointer onto the middle of what `kind` and `text` name: a "menu" of `frame` or an item of one that is open
-/// ("Team", "Team|Add Files..."), a "row" of a list, tree or grid in `window`, the "list" behind a label, the "editor" of
-/// a file, or a "button".  Answers an empty text, or why it could not.
+/// Moves the pointer to the centre of what `kind` and `text` name: a "menu" of `frame` or an item of an open one
+/// ("Team", "Team|Add Files..."), a "row" of a list, tree or grid in `window`, the "list" of a label, the "editor" of a
+/// file, or a "button". Returns an empty string, or why it is not possible.
 std::string PointAt(wxUIActionSimulator& input, TMainFrame& frame, wxTopLevelWindow& window,
                     const std::string& kind, const std::string& text);
-/// One click of "left", "middle" or "right", or one notch "up" or "down" of the wheel, where the pointer is.  Answers
-/// an empty text, or that there is no such button.
+/// Clicks "left", "middle" or "right", or turns the wheel "up" or "down" by one notch, at the pointer. Returns an empty
+/// string, or an error if there is no such button.
 std::string ClickMouse(wxUIActionSimulator& input, const std::string& button);
 
 }  // namespace kestrel::workbench

@@ -5,7 +5,7 @@
 //   menu "Team|Check Out Files..."
 //   type "Comment" "first line\nsecond \"quoted\" line"
 //
-// An argument with blanks stands in double quotes; \n, \t, \" and \\ work inside them.
+// An argument with blanks is put in double quotes; \n, \t, \" and \\ work inside them.
 #pragma once
 
 #include <string>
@@ -67,14 +67,14 @@ enum class TMacroVerb {
   Quit
 };
 
-/// One verb as users write it.
+/// A verb of a macro file.
 struct TMacroVerbRow {
   TMacroVerb Verb;
   std::string_view Name;
   std::size_t Arguments;  ///< exactly that many
   std::string_view Help;  ///< the arguments, and what the step does
 };
-/// Every verb, in the order of the enumeration.
+/// All verbs, in the order of the enumeration.
 const std::vector<TMacroVerbRow>& MacroVerbs();
 
 struct TMacroStep {
@@ -84,7 +84,7 @@ struct TMacroStep {
   std::string Text;  ///< the line as written
 };
 
-/// Throws std::runtime_error that names the first line that cannot be understood.
+/// Throws std::runtime_error that names the first invalid line.
 std::vector<TMacroStep> ParseMacro(std::string_view text);
 
 }  // namespace kestrel::workbench

@@ -20,13 +20,14 @@ namespace kestrel::workbench {
 
 namespace {
 
-constexpr int kStepMs = 40;  // lets the toolkit lay out and paint between steps
+constexpr int kStepMs = 40;  // for layout and painting
 constexpr int kRetryMs = 100;
 constexpr int kStartMs = 300;
-/// Only for what never comes: a step goes on as soon as it can, and a machine may be slow.
+/// Ends a wait for something that never happens; a step continues as soon as it can.
 constexpr long long kDefaultLimitMs = 60'000;
-constexpr long long kSettleMs = 400;                        // before a picture is taken
-constexpr const char* kProviderIsWaitedFor = "SccWaiting";  // the name of the isolating provider's window
+constexpr long long kSettleMs = 400;  // before a screenshot
+constexpr const char* kProviderIsWaitedFor =
+    "SccWaiting";  // name of the window that the isolating provider waits in
 constexpr const char* kFailedPicture = "failed.png";
 
 bool NeedsInput(TMacroVerb verb) {
@@ -78,9 +79,9 @@ void TMacroPlayer::Notify() {
     Print(stdout, Format(sStepDone, {static_cast<long long>(step.Line), step.Text}));
   }
   retrying_ = false;
-  // Under GTK creating it handles events: a step that ran meanwhile would overtake this one.
+  // Under GTK creating it dispatches events, and a step executed meanwhile would overtake this one.
   if (!input_ && NeedsInput(step.Verb)) input_ = std::make_unique<wxUIActionSimulator>();
-  StartOnce(kStepMs);  // before the step: it may run a modal dialog, and the next steps go on inside
+  StartOnce(kStepMs);  // before the step, which may run a modal dialog in which the next steps are executed
   const std::string problem = RunCatching(step);
   if (problem.empty() || ended_) return;
   if (next_ != mine + 1 || Elapsed() >= limitMs_) return Fail(step, problem);
@@ -93,7 +94,7 @@ std::string TMacroPlayer::RunCatching(const TMacroStep& step) {
   try {
     return Run(step);
   } catch (const std::exception& e) {
-    limitMs_ = 0;  // an exception is an answer, there is nothing to wait for
+    limitMs_ = 0;  // an exception is final: no retry
     return e.what();
   }
 }
@@ -128,7 +129,7 @@ std::string TMacroPlayer::Screenshot(const std::string& file) {
 
 std::string TMacroPlayer::Run(const TMacroStep& step) {
   using P = TMacroPlayer;
-  // What a provider shows in a process of its own is in front of everything here.
+  // Windows of a provider's process are in front of all others.
   if (providerWindows_.IsBusy()) return providerWindows_.Run(step);
   if (const auto front = providerWindows_.Front(); !front.empty()) {
     if (IsWindowStep(step.Verb) || step.Verb == TMacroVerb::Expect) return providerWindows_.Run(step);
@@ -191,7 +192,7 @@ std::string TMacroPlayer::Run(const TMacroStep& step) {
 }
 
 std::string TMacroPlayer::DoScreenshot(const TArguments& arguments) {
-  // Waits for windows to be painted; the text is never seen unless the limit is shorter than that.
+  // Waits until windows are painted; the text is visible only if the limit is shorter.
   if (Elapsed() < kSettleMs) return sNotDone;
   return Screenshot(arguments[0]);
 }

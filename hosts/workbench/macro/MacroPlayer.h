@@ -1,4 +1,4 @@
-// Plays a macro on the running program, from outside the packages: window titles, menu paths and control labels.
+// Plays a macro on the running program, using only window titles, menu paths and control labels.
 #pragma once
 
 #include <wx/timer.h>
@@ -22,11 +22,11 @@ namespace kestrel::workbench {
 
 class TMainFrame;
 
-/// One step per timer tick, inside modal dialogs too: a step that opens one does not return before it is closed, and
-/// the following steps run meanwhile.
+/// Executes one step per timer tick, also inside modal dialogs: a step that opens one returns only after the dialog
+/// closes, and the following steps run meanwhile.
 class TMacroPlayer final : public wxTimer {
  public:
-  /// Starts playing at once.  `end` is called once, with the program's exit code.
+  /// Starts at once. `end` is called once with the program's exit code.
   TMacroPlayer(TMainFrame& frame, const TMacroOptions& options, std::function<void(int)> end);
   void Notify() override;
 
@@ -34,15 +34,15 @@ class TMacroPlayer final : public wxTimer {
   using TClock = std::chrono::steady_clock;
   using TAction = std::string (TMacroPlayer::*)(const std::vector<std::string>&);
 
-  /// Does the step; empty, or why it could not (yet).
+  /// Executes the step; returns an empty string, or why it is not possible (yet).
   std::string Run(const TMacroStep& step);
   std::string RunCatching(const TMacroStep& step);
   void Fail(const TMacroStep& step, const std::string& reason);
   void End(int exitCode);
   long long Elapsed() const;
-  /// Users cannot do anything then either: their clicks wait, or there is only the window that says so.
+  /// Whether a provider call is running, during which a user cannot do anything either.
   bool IsCallRunning() const;
-  /// The window that a user works in: the innermost dialog, else the window expected last, else the main window.
+  /// The window that the user works in: the innermost dialog, else the window expected last, else the main window.
   wxTopLevelWindow& Front() const;
   std::string Screenshot(const std::string& file);
 
@@ -90,7 +90,7 @@ class TMacroPlayer final : public wxTimer {
   TProviderWindows providerWindows_;
   std::vector<TMacroStep> steps_;
   std::size_t next_ = 0;
-  std::unique_ptr<wxUIActionSimulator> input_;  // from the first step on that needs it
+  std::unique_ptr<wxUIActionSimulator> input_;  // created by the first step that needs it
   bool retrying_ = false;
   bool ended_ = false;
   long long limitMs_;

@@ -10,7 +10,7 @@ namespace kestrel::workbench {
 
 namespace {
 
-/// Where a widget of GTK is on the screen.
+/// The screen rectangle of a GTK widget.
 [[maybe_unused]] wxRect WidgetRect(void* widget) {
   const TLoadedLibrary gtk("libgtk-3.so.0");
   const TLoadedLibrary gdk("libgdk-3.so.0");
@@ -60,7 +60,7 @@ void TurnWheel(bool up) {
   void* display = open && close && button ? open(nullptr) : nullptr;
   if (!display) return;
   for (const int pressed : {1, 0}) button(display, up ? 4 : 5, pressed, 0);
-  close(display);  // what was sent is done by then
+  close(display);  // flushes
 }
 
 }  // namespace kestrel::workbench

@@ -1,4 +1,4 @@
-// What the player needs and the toolkit does not offer; each function does nothing on ports other than GTK.
+// Functions that the toolkit lacks; each does nothing on ports other than GTK.
 #pragma once
 
 #include <wx/gdicmn.h>

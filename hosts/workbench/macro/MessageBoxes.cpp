@@ -7,7 +7,7 @@ namespace kestrel::workbench {
 
 namespace {
 
-/// Custom labels come back with the access-key marks of the system's own boxes.
+/// Custom labels have the access-key marks of native boxes.
 wxString OwnMnemonics(wxString label) {
   if (!label.Contains("&")) label.Replace("_", "&");
   return label;

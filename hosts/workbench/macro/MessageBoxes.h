@@ -1,4 +1,4 @@
-// While a macro plays, the system's own message boxes are shown by the toolkit's, whose buttons a macro can press.
+// While it exists, replaces native message boxes by the toolkit's, whose buttons a macro can press.
 #pragma once
 
 #include <wx/modalhook.h>

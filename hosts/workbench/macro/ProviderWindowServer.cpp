@@ -44,7 +44,7 @@ std::string RunStep(const std::string& line, std::unique_ptr<wxUIActionSimulator
 
 TProviderWindowServer::TProviderWindowServer(const std::string& folder) : folder_(folder) {
   std::error_code ignored;
-  fs::remove(ToFilePath(ResolvePath(folder_, "front")), ignored);  // of a process that was killed
+  fs::remove(ToFilePath(ResolvePath(folder_, "front")), ignored);  // left by a process that was killed
   StartOnce(kTickMs);
 }
 
@@ -54,10 +54,10 @@ TProviderWindowServer::~TProviderWindowServer() {
 }
 
 void TProviderWindowServer::Notify() {
-  StartOnce(kTickMs);  // before the step: it may open a dialog, and the next steps go on inside
+  StartOnce(kTickMs);  // before the step, which may open a dialog in which the next steps are executed
   ShowFront();
   const auto step = ResolvePath(folder_, "step");
-  if (working_) Answer({});  // it has opened one
+  if (working_) Answer({});  // the step has opened a dialog
   if (!FileExists(step)) return;
   const auto line = ReadWholeFile(step);
   fs::remove(ToFilePath(step));

@@ -1,4 +1,4 @@
-// The other half of ProviderWindows.h, in the process whose windows are worked.
+// The provider's side of ProviderWindows.h.
 #pragma once
 
 #include <wx/timer.h>
@@ -13,7 +13,7 @@
 
 namespace kestrel::workbench {
 
-/// Looks for steps and does them for as long as it lives.
+/// Polls for steps and executes them while it exists.
 class TProviderWindowServer final : public wxTimer {
  public:
   explicit TProviderWindowServer(const std::string& folder);
@@ -27,7 +27,7 @@ class TProviderWindowServer final : public wxTimer {
   std::string folder_;
   std::string front_;
   bool working_ = false;
-  std::unique_ptr<wxUIActionSimulator> input_;  // from the first step on that needs it
+  std::unique_ptr<wxUIActionSimulator> input_;  // created by the first step that needs it
   TModalStack modals_;
   TOpenMenus menus_;
   TMessageBoxes boxes_;

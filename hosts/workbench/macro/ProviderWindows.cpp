@@ -30,7 +30,7 @@ std::string TProviderWindows::Front() const {
   const auto file = ResolvePath(folder_, "front");
   try {
     return FileExists(file) ? ReadWholeFile(file) : std::string();
-  } catch (const std::exception&) {  // it goes at this moment
+  } catch (const std::exception&) {  // it is being removed
     return {};
   }
 }

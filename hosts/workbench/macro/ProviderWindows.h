@@ -1,8 +1,8 @@
-// The windows of a provider that runs in a process of its own, as the macro player works them: that process has the other
-// half of this (ProviderWindowServer), which runs only when it finds the folder's name in its environment.
+// The player's access to the windows of an isolated provider. The provider's process has the other side,
+// ProviderWindowServer, if the environment names the folder for the exchange.
 //
-// The two meet in a folder of files, which works the same on every system: `front` holds the title of the window in front
-// while there is one, `step` a line of a macro, `answer` what came of it.
+// The two exchange files in that folder, which works on every platform: `front` holds the title of the window in front
+// while there is one, `step` a line of a macro, `answer` its result.
 #pragma once
 
 #include <string>
@@ -15,17 +15,17 @@ inline constexpr const char* kExchangeFolder = "KESTREL_PROVIDER_WINDOWS";
 
 class TProviderWindows {
  public:
-  /// Makes the folder and names it in the environment: processes that start from now on see it.
+  /// Creates the folder and names it in the environment of processes started from now on.
   TProviderWindows();
   ~TProviderWindows();
   TProviderWindows(const TProviderWindows&) = delete;
   TProviderWindows& operator=(const TProviderWindows&) = delete;
 
-  /// The title of the window in front; empty when none is shown.
+  /// The title of the window in front; empty if none is shown.
   std::string Front() const;
-  /// A step is being done there, whatever is in front by now.
+  /// Whether a step is being executed.
   bool IsBusy() const { return busy_; }
-  /// Does the step there; empty, or why it could not (yet).
+  /// Executes the step; returns an empty string, or why it is not possible (yet).
   std::string Run(const TMacroStep& step);
 
  private:

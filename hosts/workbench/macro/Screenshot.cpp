@@ -19,8 +19,7 @@ bool SaveScreenshot(const std::string& fileName) {
   memory.Blit(wxPoint(0, 0), size, &screen, wxPoint(0, 0));
   memory.SelectObject(wxNullBitmap);
   wxImage image = bitmap.ConvertToImage();
-  if (image.HasAlpha())
-    image.ClearAlpha();  // what some systems leave in a screen's fourth byte means nothing
+  if (image.HasAlpha()) image.ClearAlpha();  // some systems leave undefined values in the fourth byte
   return image.SaveFile(ToWx(fileName), wxBITMAP_TYPE_PNG);
 }
 

@@ -1,4 +1,4 @@
-// Finding windows and controls as a user finds them: by title, label and what stands beside them.
+// Finds windows and controls by title and label.
 #pragma once
 
 #include <wx/toplevel.h>
@@ -11,17 +11,17 @@ class wxTextEntry;
 
 namespace kestrel::workbench {
 
-/// A label without access-key marks and a trailing colon.
+/// A label without access-key marks and trailing colon.
 wxString PlainLabel(const wxString& label);
 bool SameLabel(const wxString& a, const wxString& b);
 
-/// The windows that are on the screen.
+/// The windows on the screen.
 std::vector<wxTopLevelWindow*> ShownWindows();
-/// Calls `visit` for every control below `window`, in tab order, until it answers true.  Without `hidden`, only for
-/// those that are on the screen.
+/// Calls `visit` for every control below `window`, in tab order, until it returns true. Skips controls that are not
+/// shown unless `hidden`.
 bool VisitControls(wxWindow& window, const std::function<bool(wxWindow&)>& visit, bool hidden = false);
 
-/// The first control of kind T below `window` that `matches`; nullptr for none.
+/// The first control of type T below `window` that `matches`; null if there is none.
 template <class T, class Match>
 T* FindControl(wxWindow& window, Match matches) {
   T* found = nullptr;
@@ -33,14 +33,14 @@ T* FindControl(wxWindow& window, Match matches) {
   return found;
 }
 
-/// The control for which `accepts` is true that belongs to `label`: the next one behind a label of that text, the one
-/// that is named so, or the only one in the window.  nullptr for none.
+/// The control that `accepts` and belongs to `label`: the next one after a label of that text, the one of that name, or
+/// the only one in the window; null if there is none.
 wxWindow* FindLabelled(wxWindow& window, const wxString& label,
                        const std::function<bool(wxWindow&)>& accepts);
 
-/// Everything a control shows: label, text, rows, cells.
+/// All text that a control shows: label, text, rows, cells.
 wxString TextOf(wxWindow& control);
-/// What is on the screen, for the report of a failed step.
+/// Describes the open windows, for the report of a failed step.
 std::string DescribeWindows();
 
 }  // namespace kestrel::workbench

@@ -25,7 +25,7 @@ bool IsShownSomewhere(const std::string& text) {
     const auto shows = [&](wxWindow& control) {
       wxString shown = TextOf(control);
       if (shown.Contains(wanted)) return true;
-      shown.Replace("\n", " ");  // labels are wrapped where the window ends
+      shown.Replace("\n", " ");  // labels may be wrapped
       return shown.Contains(wanted);
     };
     if (window->GetTitle().Contains(wanted) || VisitControls(*window, shows)) return true;
@@ -33,7 +33,7 @@ bool IsShownSomewhere(const std::string& text) {
   return false;
 }
 
-/// Empty when the box is there in that state.
+/// Empty if the box exists and has that state.
 std::string CheckTick(wxWindow& window, const std::string& text, bool ticked) {
   const auto state = IsTicked(window, ToWx(text));
   if (!state) return Format(sNoControl, {window.GetLabel().utf8_string(), sKindBox, text});
@@ -42,9 +42,9 @@ std::string CheckTick(wxWindow& window, const std::string& text, bool ticked) {
 }
 
 std::string PressIn(TWindow& window, wxUIActionSimulator& input, const std::string& key) {
-  // Raising a window closes the menu that is open.
+  // Raising a window would close the open menu.
   if (TOpenMenus::Any() || window.IsActive()) return PressKey(input, ToWx(key));
-  window.Raise();  // also what moves the keyboard to it where there is no window manager
+  window.Raise();  // moves the focus even without a window manager
   return Format(sNotActive, {window.GetTitle().utf8_string()});
 }
 

@@ -1,4 +1,4 @@
-// The macro steps that work or look at windows of any program: of this one, or of the process that a provider runs in.
+// Macro steps that operate or inspect windows of any program: the workbench or the process of a provider.
 #pragma once
 
 #include <wx/toplevel.h>
@@ -11,12 +11,13 @@
 
 namespace kestrel::workbench {
 
-/// Whether RunInWindow can do the step.
+/// Whether RunInWindow handles the step.
 bool IsWindowStep(TMacroVerb verb);
-/// Does the step in `front`, the window that a user works in; empty, or why it could not (yet).  `input` is there for Key.
+/// Executes the step in `front`, the window that the user works in. Returns an empty string, or why it is not possible
+/// (yet). `input` is used by Key only.
 std::string RunInWindow(const TMacroStep& step, wxTopLevelWindow& front, wxUIActionSimulator* input);
-/// The shown window of that title that a user can work in: behind the innermost dialog there is none.  nullptr, and why in
-/// `problem`, when there is none.
+/// The shown window of that title that a user can work in, which excludes those behind a modal dialog. Null, and the
+/// reason in `problem`, if there is none.
 wxTopLevelWindow* ExpectWindow(const std::string& title, std::string& problem);
 
 }  // namespace kestrel::workbench

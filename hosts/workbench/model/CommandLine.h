@@ -1,4 +1,4 @@
-// What the program was asked to open.
+// The command line of every workbench.
 #pragma once
 
 #include <string>

@@ -38,7 +38,8 @@ void TDocument::Load() {
   std::error_code unknown;
   if (fs::is_other(ToFilePath(fileName_), unknown))
     throw std::runtime_error(Format(sNoOrdinaryFile, {fileName_}));
-  const std::string stamp = DiskStamp();  // before reading: a write in between is noticed at the next look
+  const std::string stamp =
+      DiskStamp();  // before reading, so that a concurrent write is noticed by the next check
   SetContents(ReadWholeFile(fileName_));
   stamp_ = stamp;
   RefreshReadOnly();

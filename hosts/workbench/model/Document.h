@@ -1,4 +1,4 @@
-// A file that the workbench has open: its state on disk, saving and reloading, and who wants to hear of it.
+// An open file: its state on disk, saving, reloading, and its notifiers.
 #pragma once
 
 #include <string>
@@ -8,10 +8,10 @@
 
 namespace kestrel::workbench {
 
-/// What has happened to a document's file since it was last read or written.
+/// What happened to a document's file since it was last read or written.
 enum class TDiskChange { None, Attributes, Contents, Deleted };
 
-/// Base of everything that can be edited and saved.  What the contents are is up to the derived class.
+/// Base of everything that can be edited and saved; derived classes define the contents.
 class TDocument : public virtual IOTAEditor {
  public:
   TDocument(std::string fileName, const TPackageCaller& caller)
@@ -19,20 +19,20 @@ class TDocument : public virtual IOTAEditor {
   ~TDocument() override;
 
   const std::string& FileName() const { return fileName_; }
-  /// Gives the document another file; it counts as never saved there.
+  /// Assigns another file name; the document counts as never saved there.
   void Rename(std::string fileName);
-  /// On disk as of the last look at it; a document that was never saved is writable.
+  /// As of the last check of the disk; a document that was never saved is writable.
   bool IsReadOnly() const { return readOnly_; }
   bool IsNew() const { return stamp_.empty(); }
 
-  /// Reads the file, or reads it again: contents and read-only state.  Throws std::runtime_error with a sentence;
-  /// the contents then stay as they are.
+  /// Reads contents and read-only state from the file. Throws std::runtime_error with a sentence, and then keeps the
+  /// contents.
   void Load();
-  /// Writes the contents to the file.  Throws std::runtime_error with a sentence, also when the file is read-only.
+  /// Writes the contents to the file. Throws std::runtime_error with a sentence, also if the file is read-only.
   void Save();
-  /// Looks at the disk, and takes over a changed read-only state at once.
+  /// Compares with the disk; applies a changed read-only state at once.
   TDiskChange CheckDisk();
-  /// Accepts the present state of the disk as known.
+  /// Treats the present state of the disk as known.
   void AcceptDisk();
 
   std::string GetFileName() override { return fileName_; }
@@ -48,14 +48,14 @@ class TDocument : public virtual IOTAEditor {
   virtual void ShowReadOnly(bool readOnly) = 0;
   virtual void AboutToSave() {}
 
-  /// Calls every notifier that is a T.
+  /// Calls every notifier that implements T.
   template <class T, class Call>
   void Notify(const char* what, Call call) const {
     notifiers_.ForEach([&](IOTANotifier& notifier) {
       if (T* wanted = Supports<T>(&notifier)) caller_.Run(what, [&] { call(*wanted); });
     });
   }
-  /// Tells all notifiers that the document goes, once, and forgets them.
+  /// Notifies all notifiers of the end of the document, then removes them.
   void NotifyDestroyed();
 
  private:

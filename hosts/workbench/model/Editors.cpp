@@ -9,7 +9,7 @@ namespace kestrel::workbench {
 
 namespace {
 
-/// Measuring a line costs the editor time and memory many times its length.
+/// The editor control needs time and memory of many times a line's length to measure it.
 constexpr std::size_t kMaxLine = 4 << 20;
 
 std::size_t LongestLine(std::string_view text) {

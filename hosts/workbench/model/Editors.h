@@ -1,4 +1,4 @@
-// The editors of modules: texts that a window shows, and the definitions of projects and groups.
+// Editors of modules: texts shown in a window, and the definitions of projects and groups.
 #pragma once
 
 #include <optional>
@@ -9,29 +9,29 @@
 
 namespace kestrel::workbench {
 
-/// The window that shows a text and in which the user changes it.
+/// A window that shows a text and lets the user edit it.
 class IDocumentView {
  public:
   virtual ~IDocumentView() = default;
   virtual std::string ReadText() const = 0;
-  /// Shows another text; it counts as unmodified.
+  /// Replaces the text; the new one counts as unmodified.
   virtual void ShowText(const std::string& text) = 0;
   virtual bool HasChanges() const = 0;
   virtual void MarkSaved() = 0;
   virtual void LockText(bool locked) = 0;
 };
 
-/// A text shown in an editor page.  Between construction and AttachView it keeps its text itself.
+/// A text shown in an editor page. It holds the text itself while no view is attached.
 class TTextEditor : public TDocument {
  public:
   using TDocument::TDocument;
-  /// The view takes the text over; nullptr gives it back.  Borrowed until then.
+  /// Moves the text into `view`, which is borrowed; null moves it back from the current view.
   void AttachView(IDocumentView* view);
-  /// Replaces the text and marks it modified: the text of a new document.
+  /// Sets the text of a new document and marks it modified.
   void SetNewText(const std::string& text);
-  /// Its file is gone: the text counts as never saved, so that closing asks about it.
+  /// The file was deleted: the text counts as never saved, so that closing asks about it.
   void MarkFileMissing() { isNew_ = true; }
-  /// The view reports that the user changed the text, and that it came to the front.
+  /// Called by the view when the user edits the text, and when the view comes to the front.
   void TextModified();
   virtual void Activated() = 0;
 
@@ -79,19 +79,19 @@ class TFormEditor final : public TTextEditor, public IOTAFormEditor {
   void AboutToSave() override;
 };
 
-/// The source of a project or project group: it has no view of its own, the project tree shows it.
+/// The source of a project or project group. It has no view; the project tree shows it.
 template <class TFile>
 class TDefinitionEditor final : public TDocument, public IOTASourceEditor {
  public:
   using TDocument::TDocument;
   ~TDefinitionEditor() override { NotifyDestroyed(); }
   const TFile& Get() const { return file_; }
-  /// For a change: the definition counts as modified from now on.
+  /// Access for a change; marks the definition modified.
   TFile& Edit() {
     modified_ = true;
     return file_;
   }
-  /// For what is not worth asking the user about, such as which project was active last.
+  /// Access for changes that are not worth a question to the user, such as the last active project.
   TFile& EditWithoutDirty() { return file_; }
   bool GetModified() override { return modified_; }
   int GetEditViewCount() override { return 0; }

@@ -9,7 +9,7 @@ struct TCategoryRow {
   const char* Id;
   const TResString& Name;
 };
-// The last one takes what names no category.
+// The last category is the one for wizards without a category.
 constexpr TCategoryRow kCategories[] = {
     {"Corvane.Osprey.New", sCategoryNew},
     {"Corvane.Osprey.Other", sCategoryOther},

@@ -1,4 +1,4 @@
-// The gallery's headings, and which wizards stand under which.
+// The gallery's categories and wizards.
 #pragma once
 
 #include <memory>
@@ -28,7 +28,7 @@ class TGalleryCategories final : public IOTAGalleryCategoryManager {
   TGalleryCategories();
   IOTAGalleryCategory* FindCategory(const std::string& idString) override;
   const std::vector<std::unique_ptr<TGalleryCategory>>& InOrder() const { return categories_; }
-  /// Where wizards without a category of their own stand.
+  /// The category of wizards that name none.
   TGalleryCategory& Other() { return *categories_.back(); }
   void* QueryInterface(const TGuid& iid) noexcept override {
     return FindInterface<IOTAGalleryCategoryManager>(this, iid);

@@ -4,7 +4,7 @@ namespace kestrel::workbench {
 
 std::vector<const TMenuItem*> VisibleRows(const std::vector<TMenuItem*>& items) {
   std::vector<const TMenuItem*> rows;
-  const TMenuItem* separator = nullptr;  // shown as soon as an item follows it
+  const TMenuItem* separator = nullptr;  // added when a visible item follows
   for (const TMenuItem* item : items) {
     if (!item->IsVisible()) continue;
     if (item->IsSeparator()) {

@@ -1,4 +1,4 @@
-// Which items of a package's menu show.
+// Visibility of the items of a package's menu.
 #pragma once
 
 #include <vector>
@@ -7,7 +7,7 @@
 
 namespace kestrel::workbench {
 
-/// The visible items in order, without separators at either end, after each other, or next to nothing but hidden ones.
+/// The visible items in order, without leading, trailing or consecutive separators.
 std::vector<const TMenuItem*> VisibleRows(const std::vector<TMenuItem*>& items);
 
 }  // namespace kestrel::workbench

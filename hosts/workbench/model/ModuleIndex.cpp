@@ -14,7 +14,7 @@ TOpenModule& TModuleIndex::Add(std::unique_ptr<TOpenModule> module) {
 
 std::unique_ptr<TOpenModule> TModuleIndex::Remove(TOpenModule& module) {
   Renaming(module);
-  // From the end: closing everything goes backwards and then never walks.
+  // From the end, because closing everything removes in reverse order.
   const auto found =
       std::find_if(modules_.rbegin(), modules_.rend(), [&](const auto& m) { return m.get() == &module; });
   if (found == modules_.rend()) return nullptr;

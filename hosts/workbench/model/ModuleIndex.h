@@ -10,15 +10,15 @@
 
 namespace kestrel::workbench {
 
-/// Owns the open modules.  Finding one by name takes constant time: packages ask for each of 65,536 files.
+/// Owns the open modules. Finding one by name takes constant time, as packages look up each of up to 65,536 files.
 class TModuleIndex {
  public:
   TOpenModule& Add(std::unique_ptr<TOpenModule> module);
-  /// Takes the module out; the caller destroys it.
+  /// Removes the module and hands it to the caller.
   std::unique_ptr<TOpenModule> Remove(TOpenModule& module);
-  /// The module that has a document of that file, compared ignoring case; nullptr for none.
+  /// The module with a document of that file name, ignoring case; null if there is none.
   TOpenModule* Find(const std::string& fileName) const;
-  /// Call around a change of a module's file names.
+  /// Call before and after a change of a module's file names.
   void Renaming(TOpenModule& module);
   void Renamed(TOpenModule& module);
 

@@ -11,7 +11,7 @@ namespace kestrel::workbench {
 
 namespace {
 
-/// Of a file that a list in `directory` names, the same for all the ways to name it there.
+/// A key that is equal for all spellings of a path stored in `directory`.
 std::string Key(const std::string& directory, const std::string& stored) {
   return FoldCase(FromStoredPath(directory, stored));
 }

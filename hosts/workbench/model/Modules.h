@@ -1,4 +1,4 @@
-// The modules that can be open: units (with their forms), projects and project groups.
+// Open modules: units with their forms, projects and project groups.
 #pragma once
 
 #include <memory>
@@ -9,14 +9,14 @@
 
 namespace kestrel::workbench {
 
-/// An open module: the host's side of IOTAModule.
+/// The host's implementation of IOTAModule.
 class TOpenModule : public virtual IOTAModule {
  public:
   explicit TOpenModule(std::string fileName) : fileName_(std::move(fileName)) {}
 
   const std::string& FileName() const { return fileName_; }
   const std::vector<std::unique_ptr<TDocument>>& Documents() const { return documents_; }
-  /// The document of that file, compared ignoring case; nullptr when the module has none.
+  /// The document of that file, ignoring case; null if the module has none.
   TDocument* FindDocument(const std::string& fileName) const;
 
   std::string GetFileName() override { return fileName_; }
@@ -39,13 +39,13 @@ class TOpenModule : public virtual IOTAModule {
   std::vector<std::unique_ptr<TDocument>> documents_;
 };
 
-/// A unit with its form, when one stands beside it, or a lone text or form file.
+/// A unit, with its form if one lies beside it, or a lone text or form file.
 class TUnit final : public TOpenModule {
  public:
-  /// Nothing is read yet.
+  /// Does not read the files.
   TUnit(const std::string& fileName, const TPackageCaller& caller);
   TTextEditor& Text(std::size_t index) const { return static_cast<TTextEditor&>(*Documents()[index]); }
-  /// Gives the unit, and its form with it, another name.
+  /// Renames the unit together with its form.
   void Rename(const std::string& fileName);
 };
 
@@ -53,10 +53,10 @@ class TProject final : public TOpenModule, public IOTAProject {
  public:
   TProject(const std::string& fileName, const TPackageCaller& caller);
   TDefinitionEditor<TProjectFile>& Definition() { return definition_; }
-  /// Appends those that the project does not list yet (compared ignoring case); how many there were.
+  /// Appends the files that the project does not list yet, ignoring case; returns their number.
   std::size_t AddModuleFiles(const std::vector<std::string>& fileNames);
   void RemoveModuleFile(int index);
-  /// -1 when the project does not list it.
+  /// -1 if the project does not list it.
   int IndexOfModuleFile(const std::string& fileName) const;
 
   int GetModuleCount() override;
@@ -69,29 +69,29 @@ class TProject final : public TOpenModule, public IOTAProject {
   TDefinitionEditor<TProjectFile>& definition_;
 };
 
-/// The group that the workbench works on.  It refers to its open projects; those belong to the workspace.
+/// The open project group. Its projects belong to the workspace.
 class TProjectGroup final : public TOpenModule, public IOTAProjectGroup {
  public:
   TProjectGroup(const std::string& fileName, const TPackageCaller& caller);
   TDefinitionEditor<TGroupFile>& Definition() { return definition_; }
-  /// A group that exists in memory only; with a single project nobody misses its file.
+  /// The group exists in memory only.
   bool IsUnsaved() const { return definition_.IsNew(); }
-  /// Gives the group its file: all stored paths follow.
+  /// Changes the group's file name and adjusts the stored paths.
   void Rename(const std::string& fileName);
 
   const std::vector<TProject*>& Projects() const { return projects_; }
   TProject* Active() const { return active_; }
   void Add(TProject& project);
-  /// Another project becomes active when the active one goes.
+  /// Makes another project active if this one was.
   void Remove(TProject& project);
   void SetActive(TProject& project);
-  /// Used while closing: forgets the project, the group's file stays as it is.
+  /// For closing: drops the reference and leaves the group's file as it is.
   void Detach(TProject& project);
-  /// Used while opening: refers to a project that the file already lists.
+  /// For opening: refers to a project that the file lists already.
   void Attach(TProject& project, bool active);
-  /// The active project is another one than the file says.
+  /// Whether the active project differs from the one stored in the file.
   bool ActiveDiffersFromFile() const { return savedActive_ != definition_.Get().Active(); }
-  /// Remembers what the file says now: call after loading and saving it.
+  /// Records the active project stored in the file; call after loading and saving.
   void RecordSaved() { savedActive_ = definition_.Get().Active(); }
 
   IOTAProject* GetActiveProject() override { return active_; }

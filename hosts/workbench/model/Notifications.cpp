@@ -26,7 +26,7 @@ bool TPackageCaller::Run(const std::string& what, const std::function<void()>& c
     code();
     return true;
   } catch (const EAbort&) {
-    // Aborting is how a package ends a command that cannot go on; it has told the user what it wanted to tell.
+    // A package aborts a command after it has informed the user.
   } catch (const std::exception& e) {
     log_(Format(sPackageFailure, {what, e.what()}));
   } catch (...) {

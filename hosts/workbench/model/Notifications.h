@@ -1,4 +1,4 @@
-// Calling into packages: the caller around every such call, and the lists of what packages registered.
+// Calls into packages, and the lists of objects that packages registered.
 #pragma once
 
 #include <functional>
@@ -11,18 +11,18 @@
 
 namespace kestrel::workbench {
 
-/// Where a line for the user goes: the message pane, or the error stream as long as there is none.
+/// Shows a line to the user: in the message pane, or on stderr before there is one.
 using TLogLine = std::function<void(const std::string&)>;
 
-/// Runs code of packages so that none of its failures reaches the workbench.
+/// Calls package code and handles everything it throws.
 class TPackageCaller {
  public:
   explicit TPackageCaller(TLogLine log) : log_(std::move(log)) {}
-  /// Calls `code`.  EAbort ends it silently, every other exception becomes one line that begins with `what`.
-  /// False when it ended by an exception.
+  /// Calls `code` and returns true, or false if it threw. EAbort is ignored; any other exception is logged as one line
+  /// that begins with `what`.
   bool Run(const std::string& what, const std::function<void()>& code) const;
   void Log(const std::string& line) const { log_(line); }
-  /// Whether code of a package is on the call stack.  It may have a window up and run a message loop.
+  /// Whether package code is on the call stack. It may show windows and run a message loop.
   bool IsRunning() const { return depth_ > 0; }
 
  private:
@@ -30,7 +30,7 @@ class TPackageCaller {
   mutable int depth_ = 0;
 };
 
-/// Objects that packages registered, by the index they take them back with.  Indexes are never reused.
+/// Objects registered by packages, each under an index that is never reused.
 template <class T>
 class TRegistrations {
  public:
@@ -39,12 +39,12 @@ class TRegistrations {
     objects_.emplace(next_, std::move(object));
     return next_++;
   }
-  /// What stood under `index`; the caller's share is the list's last.  nullptr for an unknown index.
+  /// Removes and returns the object at `index`; null for an unknown index. The result is the last reference held here.
   std::shared_ptr<T> Remove(int index) {
     auto node = objects_.extract(index);
     return node ? std::move(node.mapped()) : nullptr;
   }
-  /// Calls `visit` for each object still registered when its turn comes; each stays alive during its own call.
+  /// Calls `visit` for each object that is still registered when its turn comes, and keeps it alive during the call.
   template <class Visit>
   void ForEach(Visit visit) const {
     ForEachShared([&](const std::shared_ptr<T>& object) { visit(*object); });
@@ -70,14 +70,14 @@ class TRegistrations {
   int next_ = 0;
 };
 
-/// The IDE notifiers and what is sent to them.
+/// The registered IDE notifiers, and the notifications sent to them.
 class TNotifications {
  public:
   explicit TNotifications(const TPackageCaller& caller) : caller_(caller) {}
   TRegistrations<IOTAIDENotifier>& Notifiers() { return notifiers_; }
 
   void FileOpened(const std::string& fileName);
-  /// False when a notifier wants the file to stay open.
+  /// False if a notifier vetoed closing the file.
   bool FileClosing(const std::string& fileName);
   void ActiveProjectChanged(const std::string& fileName);
 

@@ -16,11 +16,11 @@ class TPackageLoader {
   TPackageLoader& operator=(const TPackageLoader&) = delete;
   ~TPackageLoader() { Unload(); }
 
-  /// Loads the package and calls Initialize and IDERegister.  False, and a line for the user, when it cannot be loaded.
+  /// Loads the package and calls Initialize and IDERegister. If it cannot be loaded, logs why and returns false.
   bool Load(const std::string& path);
-  /// Calls Finalize of each package, the last loaded first.  Their code stays in memory until Unload.
+  /// Calls Finalize of each package in reverse order of loading. The code stays in memory until Unload.
   void Finalize();
-  /// Releases the libraries.  No object of theirs may be left.
+  /// Releases the libraries; no object of theirs may exist any more.
   void Unload();
 
  private:

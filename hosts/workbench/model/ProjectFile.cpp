@@ -16,7 +16,7 @@ constexpr int kVersion = 1;
 constexpr TPathListFile::TLayout kProject{"Project", "Modules", "Module"};
 constexpr TPathListFile::TLayout kGroup{"Group", "Projects", "Project"};
 
-/// What is no number counts as this version.
+/// A missing or malformed number counts as the current version.
 int VersionOf(const TIniText& ini, const char* section) {
   int version = kVersion;
   const auto text = ini.Value(section, kVersionKey).value_or("");

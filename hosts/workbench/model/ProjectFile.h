@@ -1,4 +1,4 @@
-// The texts of project (".qvxproj") and project group (".qvxgroup") files: ordered lists of paths in INI form.
+// Project (".qvxproj") and project group (".qvxgroup") files: ordered lists of paths in INI form.
 #pragma once
 
 #include <string>
@@ -14,11 +14,11 @@ inline constexpr const char* kGroupExt = ".qvxgroup";
 inline constexpr const char* kUnitExt = ".pas";
 inline constexpr const char* kFormExt = ".kfm";
 
-/// What both kinds of file have in common.  Paths are stored relative to the file's directory, with '/'.
-/// A change leaves every other byte of the text as it is.
+/// Base of both kinds of file. Paths are stored relative to the file's directory, with '/'. A change keeps all other
+/// bytes of the text.
 class TPathListFile {
  public:
-  /// Each kind's section and key names, its list's included.
+  /// Names of the head section, the list section and the list's key.
   struct TLayout {
     const char* Head;
     const char* List;
@@ -31,7 +31,7 @@ class TPathListFile {
 
  protected:
   explicit TPathListFile(const TLayout& layout);
-  /// Throws std::runtime_error with a sentence for the user when `text` is not of this layout.
+  /// Throws std::runtime_error with a sentence for the user if `text` does not have this layout.
   void Read(std::string_view text);
   std::string Head(const char* key) const;
   void SetHead(const char* key, const std::string& value);
@@ -57,7 +57,8 @@ class TGroupFile : public TPathListFile {
   void SetActive(const std::string& stored) { SetHead("Active", stored); }
 };
 
-/// An absolute path as a file in directory `base` stores it, and back.  Paths on another drive or share stay absolute.
+/// Convert an absolute path to the form stored in a file in directory `base`, and back. Paths on another drive or share
+/// stay absolute.
 std::string ToStoredPath(const std::string& base, const std::string& path);
 std::string FromStoredPath(const std::string& base, const std::string& stored);
 

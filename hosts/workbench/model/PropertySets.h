@@ -1,4 +1,4 @@
-// Per-user settings: named sets of string fields in the registry, the workbench's own and those of add-ins.
+// Per-user settings: named sets of string fields in the registry, for the workbench and for add-ins.
 #pragma once
 
 #include <map>
@@ -10,7 +10,7 @@
 
 namespace kestrel::workbench {
 
-/// Fields under HKCU\Software\Corvane\Workbench\<key>.  Names compare ignoring case, as the registry's do.
+/// Fields under HKCU\Software\Corvane\Workbench\<key>. Names are case-insensitive, as in the registry.
 class TPropertySet final : public IOTAPropertySet {
  public:
   explicit TPropertySet(std::string key);
@@ -18,7 +18,7 @@ class TPropertySet final : public IOTAPropertySet {
   void SetValue(const std::string& field, const std::string& value) override;
   void Load() override;
   void Save() override;
-  /// The field as a number; `fallback` when it is not one or outside [low, high].
+  /// The field as a number; `fallback` if it is not a number or outside [low, high].
   int GetNumber(const std::string& field, int fallback, int low, int high);
   void SetNumber(const std::string& field, int value) { SetValue(field, std::to_string(value)); }
   void* QueryInterface(const TGuid& iid) noexcept override {

@@ -1,4 +1,4 @@
-// The workbench's own settings, each named once.
+// The workbench's own settings.
 #pragma once
 
 #include <string>
@@ -33,16 +33,16 @@ struct TWindowState {
   void Save(TPropertySet& set) const;
 };
 
-/// The paths of a list with one per line (or separated by ';'), without blanks around them and empty ones.
+/// Splits a list with one path per line, or separated by ';'; trims paths and skips empty ones.
 std::vector<std::string> SplitPaths(const std::string& text);
 std::string JoinPaths(const std::vector<std::string>& paths);
 
-/// Projects and groups opened before, the last one first.
+/// Recently opened projects and groups, the latest first.
 class TRecentFiles {
  public:
   explicit TRecentFiles(TPropertySet& set);
   const std::vector<std::string>& Files() const { return files_; }
-  /// Puts a file first and remembers that for good.
+  /// Moves a file to the front and saves the list.
   void Add(const std::string& fileName);
 
  private:

@@ -26,7 +26,7 @@ bool TWorkspace::SaveAll() {
   for (const auto& module : index_.InOrder())
     for (const auto& document : module->Documents()) {
       const bool needsName = group_ && document.get() == &group_->Definition() && group_->IsUnsaved();
-      // A group that was never saved is not what the user is working on; closing asks for its name.
+      // The user does not work on a group that was never saved; closing asks for its name.
       if (document->GetModified() && !needsName) Save(*document);
     }
   return true;
@@ -107,7 +107,7 @@ void TWorkspace::CheckDocument(TDocument& document) {
 }
 
 void TWorkspace::CheckDisk() {
-  // The names are taken first: answering a question can close modules.
+  // By name: answering a question can close modules.
   std::vector<std::string> names;
   for (const auto& module : index_.InOrder())
     for (const auto& document : module->Documents()) names.push_back(document->FileName());

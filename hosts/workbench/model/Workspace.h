@@ -1,5 +1,5 @@
-// What is open in the workbench, and every operation on it: opening, closing, saving, reloading, the active project.
-// It knows no windows; it tells IWorkspaceUi what to show and asks it what only the user can answer.
+// The open files, projects and group, and the operations on them. Independent of windows: IWorkspaceUi shows them and
+// asks the user.
 #pragma once
 
 #include <map>
@@ -12,38 +12,38 @@ namespace kestrel::workbench {
 
 enum class TSaveAnswer { Save, Discard, Cancel };
 
-/// The windows as the workspace sees them.
+/// The windows that the workspace works with.
 class IWorkspaceUi {
  public:
   virtual ~IWorkspaceUi() = default;
-  /// Shows a page for the editor and attaches its view, without bringing it to the front.
+  /// Creates a page for the editor and attaches its view, without bringing it to the front.
   virtual void EditorOpened(TTextEditor& editor) = 0;
-  /// Takes the page away; called while the editor still exists.
+  /// Removes the page; the editor still exists.
   virtual void EditorClosing(TTextEditor& editor) = 0;
   virtual void ShowEditor(TTextEditor& editor) = 0;
-  /// The editor in front, or nullptr.
+  /// The editor in front; null if there is none.
   virtual TTextEditor* ActiveEditor() = 0;
-  /// Name, modified or read-only state changed.
+  /// The name, modified or read-only state changed.
   virtual void EditorChanged(TTextEditor& editor) = 0;
-  /// Projects, their modules or the active project changed.
+  /// The projects, their modules or the active project changed.
   virtual void ProjectsChanged() = 0;
   virtual TSaveAnswer AskSave(const std::string& fileName) = 0;
-  /// Whether to drop the user's changes for what is on disk now.
+  /// Whether to replace the user's changes by what is on disk.
   virtual bool AskReload(const std::string& fileName) = 0;
-  /// A file name to save under; empty when the user cancelled.
+  /// A file name to save under; empty if the user cancelled.
   virtual std::string AskSaveName(const std::string& proposed) = 0;
 };
 
-/// User-interface thread only.  Operations throw std::runtime_error with a sentence for the user when they fail, and
-/// answer false when the user, or a package, stopped them.
+/// User-interface thread only. Operations throw std::runtime_error with a sentence for the user if they fail, and
+/// return false if the user or a package stopped them.
 class TWorkspace {
  public:
   TWorkspace(IWorkspaceUi& ui, const TPackageCaller& caller, TNotifications& notifications)
       : ui_(ui), caller_(caller), notifications_(notifications) {}
 
-  /// Opens by extension: a group, a project in a new group, or a unit; brings forward what is open already.
+  /// Opens a group, a project in a new group, or a unit, depending on the extension; shows what is open already.
   bool Open(const std::string& fileName);
-  /// `newGroup` closes everything first; otherwise the project joins the group that is open.
+  /// With `newGroup`, closes everything first; otherwise adds the project to the open group.
   bool OpenProject(const std::string& fileName, bool newGroup);
   /// Writes an empty project and opens it in a new group.
   bool NewProject(const std::string& fileName);
@@ -51,24 +51,24 @@ class TWorkspace {
   TUnit& NewUnit(const std::string& directory);
 
   void Save(TDocument& document);
-  /// Saves everything modified.  False when the user cancelled; throws at the first that cannot be saved.
+  /// Saves everything modified; throws at the first document that cannot be saved.
   bool SaveAll();
   bool SaveUnitAs(TUnit& unit);
   bool SaveGroupAs();
 
   bool Close(TOpenModule& module);
-  /// Asks about everything modified first; nothing is closed when the user cancels there.
+  /// Asks about all modified documents first; closes nothing if the user cancels then.
   bool CloseAll();
-  /// Closes what is left without asking: the program ends and has asked, or may not ask.
+  /// Closes everything without asking, when the program ends.
   void CloseAllWithoutSaving();
 
-  /// Shows what is on disk.  Asks about unsaved changes first.  False when the file is not open or the user keeps them.
+  /// Reloads a file after asking about unsaved changes. False if the file is not open or the user keeps them.
   bool Reload(const std::string& fileName);
-  /// Looks at the disk for every open document and takes over what changed there.
+  /// Compares every open document with the disk and applies what changed there.
   void CheckDisk();
 
   void SetActiveProject(TProject& project);
-  /// Adds files to the active project; how many were new.  Throws without a project.
+  /// Adds files to the active project; returns the number of new ones. Throws without a project.
   std::size_t AddToProject(const std::vector<std::string>& fileNames);
   void RemoveFromProject(TProject& project, int index);
 
@@ -114,7 +114,7 @@ class TWorkspace {
   TNotifications& notifications_;
   TModuleIndex index_;
   TProjectGroup* group_ = nullptr;
-  std::map<std::string, std::string> lastActive_;  // by group file: its active project when it was closed
+  std::map<std::string, std::string> lastActive_;  // by group file: the active project when it was closed
 };
 
 }  // namespace kestrel::workbench

@@ -1,4 +1,4 @@
-// Closing: the half of the workspace that takes modules away.
+// Workspace: closing.
 #include <algorithm>
 
 #include "system/Paths.h"
@@ -21,7 +21,7 @@ bool TWorkspace::AskAboutModified(const std::vector<TOpenModule*>& modules) {
 }
 
 bool TWorkspace::AskAboutGroup() {
-  // One project alone opens again without its group; several together are work that would be lost.
+  // A single project opens again without its group; a group of several would be lost.
   if (!group_ || !group_->IsUnsaved() || group_->Projects().size() < 2) return true;
   switch (ui_.AskSave(group_->FileName())) {
     case TSaveAnswer::Save:
@@ -35,7 +35,7 @@ bool TWorkspace::AskAboutGroup() {
 }
 
 std::vector<TOpenModule*> TWorkspace::ClosingOrder() const {
-  // Units first, the last opened first; then the active project, so that what hangs on it ends with it; then the
+  // Units first, in reverse order of opening; then the active project, whose provider project ends with it; then the
   // other projects; the group last.
   const auto rank = [&](const TOpenModule* module) {
     if (module == group_) return 3;
@@ -79,7 +79,7 @@ void TWorkspace::RememberActive() {
 }
 
 bool TWorkspace::CloseEach(const std::vector<TOpenModule*>& modules) {
-  // By name: a package that hears of one closing may close others.
+  // By name: a package that is notified of one closing may close others.
   std::vector<std::string> names;
   for (const TOpenModule* module : modules) names.push_back(module->FileName());
   return std::ranges::all_of(names, [&](const std::string& name) {

@@ -1,4 +1,4 @@
-// Opening and creating: the half of the workspace that adds modules.
+// Workspace: opening and creating.
 #include <stdexcept>
 
 #include "system/Paths.h"
@@ -11,7 +11,7 @@ namespace kestrel::workbench {
 
 namespace {
 
-/// The first of name1, name2, ... for which `taken` is false.
+/// The first of name1, name2, ... that is not `taken`.
 template <class Taken>
 std::string FirstFree(const std::string& stem, const char* extension, Taken taken) {
   for (int n = 1;; ++n)
@@ -37,7 +37,7 @@ void TWorkspace::AnnounceOpened(const std::vector<std::string>& fileNames) {
 }
 
 bool TWorkspace::OpenUnit(const std::string& fileName) {
-  // A form is opened with its unit, where it has one.
+  // A form is opened together with its unit.
   const std::string source = ChangeFileExt(fileName, kUnitExt);
   const bool withUnit = HasExt(fileName, kFormExt) && FileExists(source) && FileExists(fileName);
   const std::string& moduleFile = withUnit ? source : fileName;
@@ -84,7 +84,7 @@ bool TWorkspace::OpenProject(const std::string& fileName, bool newGroup) {
   if (alone) group.SetActive(added);
   ui_.ProjectsChanged();
   AnnounceOpened({full});
-  // Opened first, then made active: packages hear of both, and the earlier project is left when they do.
+  // Announced before it becomes active, so that packages leave the previous project in response.
   if (auto* open = dynamic_cast<TProject*>(index_.Find(full))) SetActiveProject(*open);
   return true;
 }

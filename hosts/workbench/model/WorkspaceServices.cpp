@@ -6,7 +6,7 @@ namespace kestrel::workbench {
 
 namespace {
 
-/// Packages get an answer, not an exception; the user gets the sentence.
+/// Packages get false instead of an exception; the user gets its text.
 template <class Operation>
 bool RunLoggingErrors(const TWorkspace& workspace, Operation operation) {
   try {

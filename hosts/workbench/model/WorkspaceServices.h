@@ -1,4 +1,4 @@
-// The workspace as packages see it: the host's module, editor and action services.
+// The host's module, editor and action services: the workspace as packages see it.
 #pragma once
 
 #include "workbench/model/Workspace.h"
@@ -23,7 +23,7 @@ class TModuleServices final : public IOTAModuleServices {
   TWorkspace& workspace_;
 };
 
-/// There is one object for the front-most buffer, whichever that is at the time of a call.
+/// One object for the buffer in front, whichever it is at the time of a call.
 class TEditorServices final : public IOTAEditorServices, public IOTAEditBuffer {
  public:
   explicit TEditorServices(TWorkspace& workspace) : workspace_(workspace) {}

@@ -31,7 +31,7 @@ constexpr int kEndStepMs = 50;
 constexpr int kMaxEndSteps = 100;
 constexpr int kExitTerminated = 128 + SIGTERM;
 
-/// The packages to load: those asked for, else those of the settings, else the one beside the program.
+/// The packages on the command line, else those of the options, else the one beside the program.
 std::vector<std::string> PackagesToLoad(const TCommandLine& line, TOptionsServices& options) {
   if (!line.Packages.empty()) return line.Packages;
   auto configured = SplitPaths(options.PropertySet(kGeneralSet).GetValue(kPackagesField));
@@ -41,7 +41,7 @@ std::vector<std::string> PackagesToLoad(const TCommandLine& line, TOptionsServic
   return FileExists(beside) ? std::vector{beside} : std::vector<std::string>();
 }
 
-/// Where the toolkit knows signals; elsewhere the system closes windows.
+/// On ports with signals; elsewhere the system closes the windows.
 void EndOnSignal(auto& app) {
   constexpr auto end = [](int) { static_cast<TWorkbenchApp&>(*wxTheApp).EndProgram(kExitTerminated); };
   if constexpr (requires { app.SetSignalHandler(SIGTERM, end); }) app.SetSignalHandler(SIGTERM, end);
@@ -83,7 +83,7 @@ void TWorkbenchApp::Log(const std::string& line) {
     frame_->AddMessage(line);
   else
     early_.push_back(line);
-  // Nobody looks at the message pane of a program that fails to start its packages, or that is played.
+  // Errors at start and messages during a macro go to stderr as well.
   if (!frame_ || player_) std::fprintf(stderr, "workbench: %s\n", line.c_str());
 }
 
@@ -107,31 +107,32 @@ void TWorkbenchApp::OnAssertFailure(const wxChar* file, int line, const wxChar*,
 void TWorkbenchApp::ShutDown() {
   if (std::exchange(shutDown_, true)) return;
   if (player_) player_->Stop();
-  packages_->Finalize();  // with the frame alive: packages take their menus and windows away
+  packages_->Finalize();  // the frame still exists: packages remove their menus and windows
   delete frame_;
   frame_ = nullptr;
   if (const std::size_t left = services_->DropRegistrations())
     Log(Format(sPackageLeftovers, {static_cast<long long>(left)}));
-  DeletePendingObjects();  // windows of packages whose code is about to go
+  DeletePendingObjects();  // windows of packages that are unloaded next
   packages_->Unload();
   SetBeepHandler({});
   services_.reset();
 }
 
 void TWorkbenchApp::OnQueryEndSession(wxCloseEvent& event) {
-  if (!frame_ || !frame_->IsShown()) return;  // asked before, once for each window
+  if (!frame_ || !frame_->IsShown()) return;  // already asked; the event comes once for each window
   TOpenMenus::Close();
-  // Exit cannot be chosen in a dialog, whose caller is in the middle of its work.
+  // A dialog cannot be closed for an exit, as its caller is in the middle of a command.
   if (TModalStack::Top() || !frame_->Close()) event.Veto();
 }
 
 void TWorkbenchApp::OnEndSession(wxCloseEvent&) {
   if (frame_ && !TModalStack::Top()) {
-    if (frame_->IsShown()) frame_->Close(true);  // nobody was asked
+    if (frame_->IsShown()) frame_->Close(true);  // without a question: there was no query
     ShutDown();
   }
   std::fflush(nullptr);
-  std::_Exit(exitCode_);  // the system ends the process anyway, and the window that was told is gone
+  std::_Exit(
+      exitCode_);  // the system ends the process anyway, and the window that got the event no longer exists
 }
 
 void TWorkbenchApp::EndProgram(int exitCode) {
@@ -140,18 +141,18 @@ void TWorkbenchApp::EndProgram(int exitCode) {
 }
 
 void TWorkbenchApp::EndStep() {
-  // A dialog returns to the code that opened it, and that may open the next one: so one per round.
+  // One dialog per step: it returns to its caller, which may open the next one.
   if (++endSteps_ > kMaxEndSteps) std::_Exit(exitCode_ ? exitCode_ : kExitFailed);
   wxDialog* dialog = TModalStack::Top();
   const bool menu = TOpenMenus::Any();
-  // Code of a package that runs without a dialog shows a window of its own: it cannot be ended, only waited for.
+  // Package code that shows a modeless window cannot be ended, only waited for.
   if (dialog || menu || services_->Caller().IsRunning()) {
     if (menu)
-      TOpenMenus::Close();  // what opened it runs a loop of its own until then
+      TOpenMenus::Close();  // its opener runs an event loop until then
     else if (dialog && dialog->IsModal())
       dialog->EndModal(wxID_CANCEL);
     else if (dialog)
-      wxUIActionSimulator().Char(WXK_ESCAPE);  // a box of the system's own, which the toolkit cannot end
+      wxUIActionSimulator().Char(WXK_ESCAPE);  // a native box, which the toolkit cannot end
     auto* next = new wxTimer;
     next->Bind(wxEVT_TIMER, [this, next](wxTimerEvent&) {
       CallAfter([next] { delete next; });

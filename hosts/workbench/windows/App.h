@@ -1,4 +1,4 @@
-// The program: puts the parts together and takes them apart in the right order.
+// The application: creates its parts and destroys them in the right order.
 #pragma once
 
 #include <wx/app.h>
@@ -9,7 +9,7 @@
 
 namespace kestrel::workbench {
 
-/// The exit codes of the program.
+/// Exit codes.
 inline constexpr int kExitFailed = 1;
 inline constexpr int kExitUsage = 2;
 inline constexpr int kExitNoDisplay = 3;
@@ -23,26 +23,26 @@ class TOpenMenus;
 
 class TWorkbenchApp final : public wxApp {
  public:
-  /// `player`, borrowed, is null unless it plays.
+  /// `player` is borrowed, and null unless it plays.
   TWorkbenchApp(TCommandLine line, IPlayer* player);
   ~TWorkbenchApp() override;
   bool OnInit() override;
   int OnRun() override;
-  /// A handler of some window let an exception out: the user hears of it, the program goes on.
+  /// Logs an exception that left an event handler and continues.
   bool OnExceptionInMainLoop() override;
-  /// The toolkit found itself misused: a line for the user, instead of a box that stops everything.
+  /// Logs a failed assertion of the toolkit instead of showing a box.
   void OnAssertFailure(const wxChar* file, int line, const wxChar* function, const wxChar* condition,
                        const wxChar* message) override;
-  /// Closes the menus and cancels the dialogs that are open, then ends the program without asking about unsaved changes.
+  /// Closes menus, cancels dialogs and ends the program without asking about unsaved changes.
   void EndProgram(int exitCode);
 
  private:
   void Log(const std::string& line);
-  /// Finalizes and unloads the packages and deletes the windows, once.
+  /// Finalizes and unloads the packages and deletes the windows; does nothing the second time.
   void ShutDown();
-  /// The system asks whether the user may log off: the same as Exit.
+  /// The system asks whether the user may log off; handled like Exit.
   void OnQueryEndSession(wxCloseEvent& event);
-  /// The user logs off: the system ends the process when this returns, so everything is taken apart here.
+  /// The user logs off. The system ends the process when this returns, so everything is shut down here.
   void OnEndSession(wxCloseEvent& event);
   void EndStep();
 
@@ -52,7 +52,7 @@ class TWorkbenchApp final : public wxApp {
   std::unique_ptr<TOpenMenus> menus_;
   std::unique_ptr<TIdeServices> services_;
   std::unique_ptr<TPackageLoader> packages_;
-  std::vector<std::string> early_;  // lines from before there was a message pane
+  std::vector<std::string> early_;  // lines logged before there is a message pane
   TMainFrame* frame_ = nullptr;
   bool shutDown_ = false;
   int exitCode_ = 0;

@@ -84,7 +84,7 @@ class TCommandsDialog final : public wxDialog {
   void ShowSelected() { FindWindow(wxID_OK)->Enable(Enabled(Selected())); }
 
   void OnFilterKey(wxKeyEvent& event) {
-    // Up and Down move through the matches while the user goes on typing.
+    // Up and Down select a match while the text box keeps the focus.
     const int step = event.GetKeyCode() == WXK_DOWN ? 1 : event.GetKeyCode() == WXK_UP ? -1 : 0;
     const long row = list_->GetFirstSelected() + step;
     if (step == 0) return event.Skip();

@@ -1,4 +1,4 @@
-// Tools > Commands: the action list, searched by typing.
+// Tools > Commands: a searchable list of actions.
 #pragma once
 
 class wxWindow;
@@ -11,7 +11,7 @@ namespace kestrel::workbench {
 
 class TMenuBridge;
 
-/// Lets the user choose an enabled action; nullptr when he cancelled.  The caller runs it once the dialog is gone.
+/// Lets the user choose an enabled action; null if the user cancelled. The caller runs it after the dialog has closed.
 const TAction* ChooseAction(wxWindow* parent, const TMenuBridge& menus);
 
 }  // namespace kestrel::workbench

@@ -48,7 +48,7 @@ TEditorBook::TEditorBook(wxWindow* parent, THooks hooks, int fontSize)
     PopupMenu(&menu);
   });
   Bind(wxEVT_AUINOTEBOOK_PAGE_CLOSE, [this](wxAuiNotebookEvent& event) {
-    // The workspace decides; it takes the page away when this event is over.
+    // The workspace decides, and removes the page after this event.
     event.Veto();
     const std::string file = PageAt(static_cast<std::size_t>(event.GetSelection()))->Editor().FileName();
     CallAfter([this, file] {

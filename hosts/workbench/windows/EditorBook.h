@@ -13,7 +13,7 @@ namespace kestrel::workbench {
 
 class TEditorBook final : public wxAuiNotebook {
  public:
-  /// What the book asks of the frame.
+  /// Implemented by the frame.
   struct THooks {
     std::function<void()> StateChanged;              ///< another page, caret, modified or read-only state
     std::function<void(TTextEditor&)> CloseWanted;   ///< the user clicked a tab's close button
@@ -25,11 +25,11 @@ class TEditorBook final : public wxAuiNotebook {
   void AddEditor(TTextEditor& editor);
   void RemoveEditor(TTextEditor& editor);
   void ShowEditor(TTextEditor& editor);
-  /// Caption, lock picture and tool tip follow the editor's state.
+  /// Updates caption, lock image and tool tip.
   void RefreshEditor(TTextEditor& editor);
   void SetFontSize(int points);
 
-  /// The page in front, or nullptr.
+  /// The page in front; null if there is none.
   TEditorPage* FrontPage() const;
   TEditorPage* PageOf(const TTextEditor& editor) const;
 

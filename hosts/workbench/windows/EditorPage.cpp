@@ -16,7 +16,7 @@ TEditorPage::TEditorPage(wxWindow* parent, IEditorPageOwner& owner, TTextEditor&
   editor_.AttachView(this);
   Bind(wxEVT_SIZE, [this](wxSizeEvent& event) {
     event.Skip();
-    // As wide as the page, so that only longer lines bring a scroll bar; less looks like scrolled past the end.
+    // As wide as the page: only longer lines bring a scroll bar, and a smaller width would look scrolled past the end.
     SetScrollWidth(std::max(1, GetClientSize().GetWidth() - GetMarginWidth(0) - GetMarginLeft()));
   });
   Bind(wxEVT_STC_CHANGE, [this](wxStyledTextEvent&) {
@@ -30,7 +30,7 @@ TEditorPage::TEditorPage(wxWindow* parent, IEditorPageOwner& owner, TTextEditor&
 }
 
 std::string TEditorPage::ReadText() const {
-  // Bytes, not characters: text that is not UTF-8 goes back to the disk as it came.
+  // Raw bytes, so that text that is not UTF-8 is saved unchanged.
   auto* self = const_cast<TEditorPage*>(this);
   const wxCharBuffer raw = self->GetTextRaw();
   return {raw.data(), raw.length()};
@@ -55,7 +55,7 @@ void TEditorPage::ShowText(const std::string& text) {
 }
 
 void TEditorPage::ReplaceText(const std::string& text) {
-  // In one undoable step, so that even a reload over unsaved changes can be taken back.
+  // One undoable step, so that a reload over unsaved changes can be undone.
   const int line = GetCurrentLine();
   const int top = GetFirstVisibleLine();
   BeginUndoAction();

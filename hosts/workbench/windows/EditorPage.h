@@ -1,4 +1,4 @@
-// One editor page: a text with syntax colouring.
+// An editor page: a text with syntax colouring.
 #pragma once
 
 #include <wx/stc/stc.h>
@@ -7,7 +7,7 @@
 
 namespace kestrel::workbench {
 
-/// What the pages tell the window that holds them.
+/// Notifications to the window that holds the pages.
 class IEditorPageOwner {
  public:
   virtual ~IEditorPageOwner() = default;
@@ -18,7 +18,7 @@ class IEditorPageOwner {
 
 class TEditorPage final : public wxStyledTextCtrl, public IDocumentView {
  public:
-  /// Attaches itself to `editor`, which must outlive it or be released by Detach().
+  /// Attaches itself to `editor`, which must outlive the page or be released by Detach.
   TEditorPage(wxWindow* parent, IEditorPageOwner& owner, TTextEditor& editor, int fontSize);
   TTextEditor& Editor() const { return editor_; }
   void Detach() { editor_.AttachView(nullptr); }
@@ -28,7 +28,7 @@ class TEditorPage final : public wxStyledTextCtrl, public IDocumentView {
   bool HasChanges() const override { return GetModify(); }
   void MarkSaved() override { SetSavePoint(); }
   void LockText(bool locked) override { SetReadOnly(locked); }
-  /// Types at the end, as the user would.  False when the page is read-only.
+  /// Types at the end as a user would. False if the page is read-only.
   bool TypeAtEnd(const std::string& text);
 
  private:

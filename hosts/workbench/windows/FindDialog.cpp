@@ -62,7 +62,7 @@ bool TFindReplace::Step() {
   };
   const int before = down ? editor->GetSelectionEnd() : editor->GetSelectionStart();
   int found = search(before);
-  if (found == wxSTC_INVALID_POSITION) found = search(down ? 0 : editor->GetTextLength());  // around the end
+  if (found == wxSTC_INVALID_POSITION) found = search(down ? 0 : editor->GetTextLength());  // wraps around
   if (found == wxSTC_INVALID_POSITION) {
     editor->SetSelection(before, before);
     status_(Format(sNotFoundText, {data_.GetFindString().utf8_string()}));

@@ -13,15 +13,15 @@ namespace kestrel::workbench {
 
 class TFindReplace final {
  public:
-  /// `editor` answers the editor to search, nullptr for none; `status` shows a line to the user.
+  /// `editor` returns the editor to search, or null; `status` shows a line to the user.
   TFindReplace(wxWindow* parent, std::function<wxStyledTextCtrl*()> editor,
                std::function<void(const std::string&)> status);
   TFindReplace(const TFindReplace&) = delete;
   TFindReplace& operator=(const TFindReplace&) = delete;
-  /// Takes its dialog with it.
+  /// Deletes the dialog if it is open.
   ~TFindReplace();
   void Show(bool replace);
-  /// Finds the last text again; asks for one when there was none.
+  /// Finds the last text again, or asks for one.
   void FindNext();
 
  private:

@@ -7,7 +7,7 @@ class wxWindow;
 
 namespace kestrel::workbench {
 
-/// Lets the user choose a wizard; nullptr when he cancelled.  The caller runs it once the dialog is gone.
+/// Lets the user choose a wizard; null if the user cancelled. The caller runs it after the dialog has closed.
 std::shared_ptr<IOTAWizard> ChooseWizard(wxWindow* parent, TGalleryCategories& categories,
                                          const TRegistrations<IOTAWizard>& wizards);
 

@@ -17,7 +17,7 @@ namespace {
 wxWindow* CreateGeneralPage(wxWindow* parent, IOTAOptionsPageHost& host) {
   auto* page = new wxPanel(parent);
   auto* sizer = new wxBoxSizer(wxVERTICAL);
-  // Labels are made before their controls: that is how access keys find them.
+  // Labels precede their controls, so that access keys find them.
   const auto addLabel = [&](const TResString& text) {
     sizer->Add(new wxStaticText(page, wxID_ANY, ToWx(text)), wxSizerFlags().Border(wxLEFT | wxTOP | wxRIGHT));
   };

@@ -1,11 +1,11 @@
-// The workbench's own page of the options dialog.
+// The workbench's page of the options dialog.
 #pragma once
 
 #include "host/Options.h"
 
 namespace kestrel::workbench {
 
-/// Its fields are those of the property set kGeneralSet.
+/// Edits the property set kGeneralSet.
 TOptionsPage GeneralOptionsPage();
 
 }  // namespace kestrel::workbench

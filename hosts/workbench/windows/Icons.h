@@ -1,4 +1,4 @@
-// The workbench's pictures, drawn as SVG so that they stay sharp at every scale.
+// The workbench's icons, as SVG.
 #pragma once
 
 #include <wx/bmpbndl.h>
@@ -11,7 +11,7 @@ enum class TIcon { Group, Project, ActiveProject, Unit, Form, Module, Lock, Prog
 
 wxBitmapBundle IconBundle(TIcon icon);
 const char* IconSvg(TIcon icon);
-/// An SVG document of a package, shown at `size` device-independent pixels; an empty bundle when it is not one.
+/// An SVG document at `size` device-independent pixels; an empty bundle if it is not one.
 wxBitmapBundle SvgBundle(const std::string& svg, int size);
 
 }  // namespace kestrel::workbench

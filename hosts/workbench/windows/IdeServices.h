@@ -1,4 +1,4 @@
-// The root of the host's services, and those that need no window.
+// The root of the host's services, and the services that need no window.
 #pragma once
 
 #include <functional>
@@ -10,7 +10,7 @@
 
 namespace kestrel::workbench {
 
-/// The host program: main-form event and help.
+/// The event for the main form, and help.
 class TApplicationService final : public IOTAApplication {
  public:
   TEvent<>& MainFormCreated() override { return created_; }
@@ -23,20 +23,20 @@ class TApplicationService final : public IOTAApplication {
   TEvent<> created_;
 };
 
-/// What CorvaneIDEServices points to.  Services that work on windows are found once the main form exists.
+/// The target of CorvaneIDEServices. Services that need windows can be queried once the main form exists.
 class TIdeServices final : public IOTAServices {
  public:
   explicit TIdeServices(TLogLine log);
   ~TIdeServices() override;
 
-  /// Makes a service findable until Withdraw; borrowed.
+  /// Makes a service, which is borrowed, available to QueryInterface.
   template <class T>
   void Publish(T& service) {
     published_.push_back({T::IID, &service});
   }
-  /// The main form goes: its services are no longer found.
+  /// Withdraws the services that need the main form.
   void WithdrawWindowServices();
-  /// Drops what packages did not take back; how much there was.
+  /// Drops the objects that packages did not unregister; returns their number.
   std::size_t DropRegistrations();
 
   int AddNotifier(std::shared_ptr<IOTAIDENotifier> notifier) override;

@@ -1,4 +1,4 @@
-// Functions of libraries below the toolkit, found by name and called without the libraries' headers.
+// Calls functions of libraries below the toolkit by name, without their headers.
 #pragma once
 
 #include <wx/dynlib.h>
@@ -6,14 +6,14 @@
 
 namespace kestrel::workbench {
 
-/// A library that the process has loaded already; without it nothing is found.
+/// A library that the process has loaded already; finds nothing if it has not.
 class TLoadedLibrary {
  public:
   explicit TLoadedLibrary(const wxString& name) {
     const wxLogNull quiet;
     library_.Load(name, wxDL_DEFAULT | wxDL_VERBATIM | wxDL_QUIET);
   }
-  /// Null when there is none of that name.
+  /// Null if there is no symbol of that name.
   template <class TFunction>
   TFunction Find(const wxString& name) const {
     return library_.IsLoaded() ? reinterpret_cast<TFunction>(library_.GetSymbol(name)) : nullptr;

@@ -24,7 +24,7 @@ namespace {
 enum TStatusField { sfText, sfPosition, sfState, sfProject, sfCount };
 constexpr int kStatusWidths[] = {-1, 120, 90, 180};
 
-/// A pane with its caption above it.
+/// A panel with a caption above its content.
 wxPanel* CaptionedPanel(wxWindow* parent, const TResString& caption) {
   auto* panel = new wxPanel(parent);
   auto* label = new wxStaticText(panel, wxID_ANY, ToWx(caption));
@@ -118,7 +118,7 @@ void TMainFrame::CreateWindows() {
   rows_->SetSashGravity(1.0);
   columns_->SplitVertically(treePanel_, rows_, FromDIP(state.TreeWidth));
   rows_->SplitHorizontally(book_, messagePanel_);
-  // The frame gets its real size when it is shown; a sash set before that would be measured from the wrong bottom.
+  // The frame gets its final size when it is shown; sash positions are relative to the bottom of that size.
   CallAfter([this, height = FromDIP(state.MessagesHeight)] { rows_->SetSashPosition(-height); });
   Centre();
   if (state.Maximized) Maximize();
@@ -164,7 +164,7 @@ void TMainFrame::ShowState() {
                 sfState);
   SetStatusText(ToWx(project ? ExtractFileName(project->FileName()) : sNoOpenProject.str()), sfProject);
   const std::string shown = editor ? editor->FileName() : project ? project->FileName() : std::string();
-  // A hint belongs to the file that it was about.
+  // A hint applies to one file only.
   const wxString about = ToWx(shown + (editor && editor->IsReadOnly() ? sReadOnlyState.str() : ""));
   if (std::exchange(hintedFile_, about) != about) SetStatusText(wxString(), sfText);
   SetTitle(ToWx(shown.empty() ? sProgramName.str() : Format(sFrameTitle, {shown})));
@@ -247,7 +247,7 @@ void TMainFrame::OpenForUser(const std::string& fileName) {
 }
 
 void TMainFrame::CheckFilesOnDisk() {
-  // Not while a dialog is up: its command works on the files, and a question would come in between.
+  // Not while a dialog is open: its command works on the files, and a question would interrupt it.
   if (checkingFiles_ || TModalStack::Top()) return;
   checkingFiles_ = true;
   RunShowingErrors([this] { workspace_.CheckDisk(); });
@@ -267,7 +267,7 @@ void TMainFrame::OnClose(wxCloseEvent& event) {
     workspace_.CloseAllWithoutSaving();
   }
   SaveWindowState();
-  // The frame itself stays until the packages are finalized: they take their menus out of it.
+  // The frame exists until the packages are finalized, because they remove their menus from it.
   Hide();
   wxTheApp->ExitMainLoop();
 }

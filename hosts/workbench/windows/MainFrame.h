@@ -22,7 +22,7 @@ class TProjectTree;
 
 class TMainFrame final : public wxFrame, public IWorkspaceUi {
  public:
-  /// Publishes the services that work on windows.
+  /// Publishes the services that need windows.
   explicit TMainFrame(TIdeServices& services);
   ~TMainFrame() override;
 
@@ -31,11 +31,11 @@ class TMainFrame final : public wxFrame, public IWorkspaceUi {
   TMessagePane& Messages() { return *messages_; }
   TMenuBridge& PackageMenus() { return *menus_; }
   void AddMessage(const std::string& line);
-  /// Opens a file for the user: failures become a message box.
+  /// Opens a file; shows failures in a message box.
   void OpenForUser(const std::string& fileName);
-  /// Offers the windows that packages have created in the View menu.
+  /// Adds the windows that packages have created to the View menu.
   void OfferPackageWindows();
-  /// Looks for files that other programs changed.
+  /// Applies changes that other programs made to open files.
   void CheckFilesOnDisk();
 
   void EditorOpened(TTextEditor& editor) override;
@@ -64,13 +64,13 @@ class TMainFrame final : public wxFrame, public IWorkspaceUi {
   void OnCommand(wxCommandEvent& event);
   void OnUpdateCommand(wxUpdateUIEvent& event);
   void OnClose(wxCloseEvent& event);
-  /// Caret, state or title may be others now: they are shown as soon as nothing else is to be done.  Editors say so
-  /// while they are painted, when no other window may be touched.
+  /// Caret, state or title may have changed: updates them when idle. Editors report it while they paint, when no other
+  /// window may be touched.
   void StateChanged();
   void ShowState();
   void SaveWindowState();
   void AddWizards();
-  /// Runs an operation for the user; its failure becomes a message box.
+  /// Runs an operation; shows its failure in a message box.
   void RunShowingErrors(const std::function<void()>& operation);
   wxString AskFile(const TResString& title, const TResString& filter, long style,
                    const std::string& proposed = {});

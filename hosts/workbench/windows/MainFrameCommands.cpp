@@ -1,4 +1,4 @@
-// The main menu's commands: one table of what they are called, do and need, and the short bodies behind it.
+// The commands of the main menu: a table of captions, functions and conditions, and the functions.
 #include <wx/aboutdlg.h>
 #include <wx/filedlg.h>
 #include <wx/menu.h>
@@ -78,7 +78,7 @@ struct TMainFrame::TCommand {
   int Id;
   const TResString& Caption;
   void (TMainFrame::*Run)();
-  bool (TMainFrame::*Enabled)() const = nullptr;  // nullptr: always
+  bool (TMainFrame::*Enabled)() const = nullptr;  // null: always
 };
 
 struct TMainFrame::TCommandMenu {

@@ -13,7 +13,7 @@ namespace kestrel::workbench {
 namespace {
 constexpr int kMenuImageSize = 16;
 
-/// What stands before a disabled item, at 100 % and 200 %; toolkits grey the text only.
+/// A greyed image at 100 % and 200 %; toolkits grey only the text of a disabled item.
 wxBitmapBundle DisabledImage(const wxBitmapBundle& image) {
   const auto at = [&](int scale) {
     return image.GetBitmap(image.GetDefaultSize() * scale).ConvertToDisabled();
@@ -22,7 +22,7 @@ wxBitmapBundle DisabledImage(const wxBitmapBundle& image) {
 }
 }  // namespace
 
-/// One package menu: what it describes and what is on the screen for it.
+/// A package's menu, and the toolkit's menu that shows it.
 struct TMenuBridge::TTopMenu {
   TMenuItem* Top;
   wxMenu* Menu;
@@ -32,7 +32,7 @@ struct TMenuBridge::TTopMenu {
     wxMenuItem* Shown;
     bool Enabled;
   };
-  std::vector<TRow> Rows;  // separators too; submenus' items behind their parent
+  std::vector<TRow> Rows;  // including separators; items of a submenu follow their parent
 };
 
 TMenuBridge::TMenuBridge(wxFrame& frame, const TPackageCaller& caller)
@@ -67,7 +67,7 @@ int ImageIndexOf(const TMenuItem& item) {
   return item.ImageIndex < 0 && item.Action ? item.Action->ImageIndex : item.ImageIndex;
 }
 
-/// Gives an item that is in a menu already another picture.  Some ports of the toolkit have to be told to show it.
+/// Changes the image of an item that is in a menu. Some ports need a call to show it.
 template <class TItem>
 void ChangeImage(TItem& item, const wxBitmapBundle& image) {
   item.SetBitmap(image);
@@ -75,15 +75,15 @@ void ChangeImage(TItem& item, const wxBitmapBundle& image) {
     item.SetupBitmaps(item.GetMenu()->GetWindow());
 }
 
-/// Gives an item its first picture.  On Windows the toolkit draws the item, as the theme has it: Wine's own menus show the
-/// transparent parts of a picture black.
+/// Sets the image of a new item. On Windows the toolkit draws the item: Wine's native menus show transparent pixels
+/// black.
 template <class TItem>
 void ShowImage(TItem& item, const wxBitmapBundle& image) {
   if constexpr (requires { item.SetOwnerDrawn(); }) item.SetOwnerDrawn();
   if (image.IsOk()) item.SetBitmap(image);
 }
 
-/// The visible items below `items`, depth first: what a filled menu shows.
+/// The visible items below `items`, depth first, as a filled menu shows them.
 void CollectRows(const std::vector<TMenuItem*>& items, std::vector<const TMenuItem*>& rows) {
   for (const TMenuItem* item : VisibleRows(items)) {
     rows.push_back(item);
@@ -105,8 +105,8 @@ void TMenuBridge::Show(TTopMenu& top) {
     return item == row.Item && ImageIndexOf(*item) == row.Image;
   };
   if (!std::ranges::equal(rows, top.Rows, same)) {
-    // Other items, or a picture where there was none.  Only then: rebuilding an opening menu makes it flicker, and one
-    // that loses items keeps the height it opens with.
+    // The items or an image changed. Otherwise the menu is kept: rebuilding an opening menu flickers, and a menu that
+    // loses items keeps its height.
     top.Rows.clear();
     while (top.Menu->GetMenuItemCount() > 0) top.Menu->Destroy(top.Menu->FindItemByPosition(0));
     Fill(top, *top.Menu, top.Top->Items);
@@ -188,7 +188,7 @@ void TMenuBridge::OnMenuOpen(wxMenuEvent& event) {
   auto* top = FindTop(event.GetMenu());
   if (!top || reopening_) return;
   if (!IsOnScreen(*top->Menu)) return Refresh(*top);
-  // GTK is in the middle of opening it, and a window shown now would end the program.
+  // GTK is opening the menu, and a window shown now would crash it.
   CallNext([this, menu = top->Menu] { RefreshOnScreen(*menu); });
 }
 
@@ -198,7 +198,7 @@ void TMenuBridge::RefreshOnScreen(wxMenu& menu) {
   const TMenuCloser closer(bar_, menu);
   Refresh(*top);
   if (!closer.HasClosed()) return SelectFirstItem(menu);
-  reopening_ = true;  // it has been asked for its items already
+  reopening_ = true;  // its items are up to date already
   OpenFromBar(menu);
   reopening_ = false;
 }
@@ -212,7 +212,7 @@ void TMenuBridge::OnMenu(wxCommandEvent& event) {
   for (const auto& top : tops_)
     for (const auto& row : top->Rows) {
       if (row.Item->IsSeparator() || row.Shown->GetId() != event.GetId()) continue;
-      const TMenuItem& clicked = *row.Item;  // its click may rebuild or remove the menu
+      const TMenuItem& clicked = *row.Item;  // Click may rebuild or remove the menu
       if (clicked.IsEnabled()) caller_.Run(clicked.Name, [&] { clicked.Click(); });
       return;
     }

@@ -1,4 +1,4 @@
-// Packages' menus in the main menu: the plain TMenuItem trees shown with the toolkit's own.
+// Shows the TMenuItem trees of packages in the main menu.
 #pragma once
 
 #include <wx/bmpbndl.h>
@@ -16,7 +16,7 @@ namespace kestrel::workbench {
 
 class TMenuBridge final : public IOTAMenuServices {
  public:
-  /// `frame` has its menu bar already.
+  /// `frame` must have its menu bar.
   TMenuBridge(wxFrame& frame, const TPackageCaller& caller);
   ~TMenuBridge() override;
 
@@ -24,7 +24,7 @@ class TMenuBridge final : public IOTAMenuServices {
   void RemoveMenu(TMenuItem& top) override;
   void InsertFileMenu(TFileMenu& menu) override { fileMenus_.push_back(&menu); }
   void RemoveFileMenu(TFileMenu& menu) override { std::erase(fileMenus_, &menu); }
-  /// Appends the packages' commands for one file to a context menu that is about to show.
+  /// Appends the packages' commands for one file to a context menu.
   void AppendFileMenus(wxMenu& menu, const std::string& fileName) const;
   void AttachAction(TAction& action) override;
   void DetachAction(TAction& action) override;
@@ -33,13 +33,13 @@ class TMenuBridge final : public IOTAMenuServices {
     return FindInterface<IOTAMenuServices>(this, iid);
   }
 
-  /// The action list, in the order of attaching.
+  /// The actions, in the order in which they were attached.
   const std::vector<TAction*>& Actions() const { return actions_; }
   wxBitmapBundle ImageAt(int index) const;
-  /// Brings the menus in line with what the packages describe now, without asking them.  Called when they have started:
-  /// a menu should not have to change when it opens for the first time.
+  /// Shows the present items without calling the packages. Called after they have started, so that a menu need not
+  /// change when it opens for the first time.
   void ShowAll();
-  /// Lets every package bring its commands up to date, as opening its menu does.
+  /// Calls every package to update its commands, as opening its menu does.
   void RefreshAll();
 
  private:
@@ -50,8 +50,8 @@ class TMenuBridge final : public IOTAMenuServices {
   void Fill(TTopMenu& top, wxMenu& menu, const std::vector<TMenuItem*>& items);
   void AppendItem(TTopMenu& top, wxMenu& menu, const TMenuItem& item);
   void OnMenuOpen(wxMenuEvent& event);
-  /// Refresh of a menu that the user is looking at.  The package may show windows meanwhile: the menu goes before they
-  /// come and is back when the package has its commands up to date.
+  /// Refreshes a menu that is on the screen. If the package shows windows meanwhile, the menu closes before and opens
+  /// again after.
   void RefreshOnScreen(wxMenu& menu);
   TTopMenu* FindTop(const wxMenu* menu) const;
   void OnMenu(wxCommandEvent& event);

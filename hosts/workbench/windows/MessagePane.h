@@ -1,4 +1,4 @@
-// The message pane: lines for the user, kept until he clears them.
+// The message pane: lines for the user, kept until they are cleared.
 #pragma once
 
 #include <wx/listctrl.h>

@@ -1,4 +1,4 @@
-// Which modal dialogs are open, the innermost last: the toolkit itself does not say.
+// The open modal dialogs, innermost last; the toolkit does not expose them.
 #pragma once
 
 #include <wx/modalhook.h>
@@ -9,12 +9,12 @@ class wxDialog;
 
 namespace kestrel::workbench {
 
-/// One object for the program, registered for as long as it lives.
+/// One object per program, registered while it exists.
 class TModalStack final : public wxModalDialogHook {
  public:
   TModalStack();
   ~TModalStack() override;
-  /// The innermost modal dialog, or nullptr.
+  /// The innermost modal dialog; null if there is none.
   static wxDialog* Top();
 
  protected:

@@ -23,7 +23,7 @@ bool TOpenMenus::Any() { return theMenus && !theMenus->open_.empty(); }
 void TOpenMenus::Close() {
   const auto open = theMenus ? theMenus->open_ : std::set<wxMenu*>();
   for (wxMenu* menu : open)
-    if (theMenus->open_.contains(menu)) CloseMenu(*menu);  // closing one closes those that belong to it
+    if (theMenus->open_.contains(menu)) CloseMenu(*menu);  // closing a menu closes its submenus
 }
 
 int TOpenMenus::FilterEvent(wxEvent& event) {

@@ -1,7 +1,8 @@
-// Which menus are open on the screen: the toolkit itself does not say.
+// The menus that are open on the screen; the toolkit does not expose them.
 #pragma once
 
 #include <wx/event.h>
+#include <wx/eventfilter.h>
 
 #include <set>
 
@@ -9,19 +10,19 @@ class wxMenu;
 
 namespace kestrel::workbench {
 
-/// One object for the program, listening for as long as it lives.
+/// One object per program, listening while it exists.
 class TOpenMenus final : private wxEventFilter {
  public:
   TOpenMenus();
   ~TOpenMenus() override;
   static bool Any();
-  /// Closes them, as Escape does.
+  /// Closes all, as Escape does.
   static void Close();
 
  private:
   int FilterEvent(wxEvent& event) override;
 
-  std::set<wxMenu*> open_;  // borrowed, each until it says that it closes
+  std::set<wxMenu*> open_;  // borrowed until they announce that they close
 };
 
 }  // namespace kestrel::workbench

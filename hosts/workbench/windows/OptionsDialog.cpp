@@ -29,14 +29,14 @@ void ShowValue(wxControl& control, const std::string& value) {
   const wxString text = ToWx(value);
   if (auto* box = dynamic_cast<wxTextCtrl*>(&control)) return box->ChangeValue(text);
   auto* list = dynamic_cast<wxItemContainerImmutable*>(&control);
-  // A value that is no longer offered leaves what the page itself chose.
+  // A value that is no longer offered keeps the page's own choice.
   if (const int at = list ? list->FindString(text, true) : wxNOT_FOUND; at != wxNOT_FOUND)
     list->SetSelection(at);
   else if (auto* combo = dynamic_cast<wxComboBox*>(&control); combo && !combo->HasFlag(wxCB_READONLY))
     combo->SetValue(text);
 }
 
-/// One property set's part of the dialog: which control stands for which field.
+/// Binds controls of the dialog to the fields of one property set.
 class TBindings final : public IOTAOptionsPageHost {
  public:
   explicit TBindings(IOTAPropertySet& set) : set_(set) {}
@@ -46,7 +46,7 @@ class TBindings final : public IOTAOptionsPageHost {
   }
   std::string GetValue(const std::string& field) override { return set_.GetValue(field); }
 
-  /// Puts the controls' values into the set; whether one was new.
+  /// Writes the controls' values to the set; returns whether one changed.
   bool Store() {
     bool changed = false;
     for (const auto& [control, field] : bindings_) {

@@ -1,4 +1,4 @@
-// Tools > Options: the workbench's own page and those of add-ins.
+// Tools > Options: the pages of the workbench and of add-ins.
 #pragma once
 
 #include "workbench/model/Settings.h"
@@ -7,7 +7,7 @@ class wxWindow;
 
 namespace kestrel::workbench {
 
-/// Shows the dialog; true when it was accepted and everything is stored.  Cancel leaves all settings as they were.
+/// Shows the dialog; returns true if it was accepted and everything was saved. Cancel changes nothing.
 bool ShowOptionsDialog(wxWindow* parent, TOptionsServices& options, const TPackageCaller& caller);
 
 }  // namespace kestrel::workbench

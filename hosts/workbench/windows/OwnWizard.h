@@ -1,4 +1,4 @@
-// The workbench's own wizards: the gallery treats them like those of packages.
+// A wizard of the workbench, registered like those of packages.
 #pragma once
 
 #include <functional>

@@ -1,11 +1,11 @@
-// How Pascal source looks in an editor.
+// Style of Pascal source in an editor.
 #pragma once
 
 class wxStyledTextCtrl;
 
 namespace kestrel::workbench {
 
-/// Font, colours, keywords and margins.  `fontSize` in points; calling it again changes the font.
+/// Applies font, colours, keywords and margins. `fontSize` is in points; a second call changes the font.
 void ApplyPascalStyle(wxStyledTextCtrl& editor, int fontSize);
 
 }  // namespace kestrel::workbench

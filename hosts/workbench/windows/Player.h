@@ -1,4 +1,4 @@
-// What operates the program in place of a user.  The program is given one or none when it starts; the installed one none.
+// Operates the program in place of a user. The installed program has no player.
 #pragma once
 
 #include <functional>
@@ -14,12 +14,12 @@ class TMainFrame;
 class IPlayer {
  public:
   virtual ~IPlayer() = default;
-  /// Adds the player's options to those of the program.  Parsing fills them in.
+  /// Adds the player's options to the program's; parsing fills them in.
   virtual void AddOptions(CLI::App& parser) = 0;
-  /// Whether the options ask for it to play; nothing else is called otherwise.
+  /// Whether the options request a play. If not, nothing else is called.
   virtual bool IsRequested() const = 0;
-  /// Called once, when the program's windows are shown.  `end` ends the program with an exit code and is called once, not
-  /// before Start has returned.
+  /// Called once, when the windows are shown. `end` ends the program with an exit code; it is called once, after Start
+  /// has returned.
   virtual void Start(TMainFrame& frame, std::function<void(int exitCode)> end) = 0;
   /// Called before the windows are deleted.
   virtual void Stop() = 0;

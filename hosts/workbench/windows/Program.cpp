@@ -16,7 +16,7 @@ namespace kestrel::workbench {
 
 namespace {
 
-/// Prints why the program cannot run; returns `code`.
+/// Prints an error; returns `code`.
 int Fail(int code, const std::string& text) {
   PrepareConsole();
   std::fputs(text.c_str(), stderr);

@@ -1,4 +1,4 @@
-// The program without its main function, which decides what it is given.
+// The program without its main function.
 #pragma once
 
 namespace kestrel::workbench {

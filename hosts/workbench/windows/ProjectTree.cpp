@@ -15,7 +15,7 @@ namespace {
 
 constexpr TIcon kTreeIcons[] = {TIcon::Group, TIcon::Project, TIcon::ActiveProject,
                                 TIcon::Unit,  TIcon::Form,    TIcon::Module};
-int ImageOf(TIcon icon) { return static_cast<int>(icon); }  // the enumeration begins with the tree's pictures
+int ImageOf(TIcon icon) { return static_cast<int>(icon); }  // TIcon begins with kTreeIcons
 
 TIcon ModuleIcon(const std::string& fileName) {
   const std::string extension = ExtractFileExt(fileName);
@@ -83,7 +83,7 @@ void TProjectTree::Rebuild() {
         AddNode({}, ExtractFileName(group->FileName()), ImageOf(TIcon::Group), new TNode(group->FileName()));
     for (TProject* project : group->Projects()) AddProject(root, *project);
     Expand(root);
-    // Only the names at the top: looking for a module would fill every project.
+    // Only top-level nodes: searching modules would fill every project.
     wxTreeItemIdValue cookie;
     for (auto item = GetFirstChild(root, cookie); item.IsOk(); item = GetNextChild(root, cookie))
       if (NodeOf(item)->File == selectedFile) SelectItem(item);

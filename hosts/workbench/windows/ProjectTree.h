@@ -15,16 +15,16 @@ class TProjectTree final : public wxTreeCtrl {
  public:
   struct THooks {
     std::function<void(const std::string& fileName)> Open;
-    /// With the commands for the selected node; `fileName` is that of the node.
+    /// Adds the commands for the selected node, whose file is `fileName`.
     std::function<void(wxMenu& menu, const std::string& fileName)> FillContextMenu;
   };
   TProjectTree(wxWindow* parent, TWorkspace& workspace, THooks hooks);
 
-  /// Shows the workspace's projects as they are now; keeps what was expanded and selected.
+  /// Shows the current projects; keeps the expanded nodes and the selection.
   void Rebuild();
-  /// The project that the selected node is or belongs to, or nullptr.
+  /// The project that contains, or is, the selected node; null if there is none.
   TProject* SelectedProject();
-  /// The selected module's index in that project, or -1.
+  /// The index of the selected module in that project; -1 if there is none.
   int SelectedModule();
 
  private:

@@ -21,7 +21,7 @@ const TLoadedLibrary& Objects() {
   return objects;
 }
 
-/// GTK's widget of a menu, of the item in the menu bar that opens it, and of a menu bar; nullptr under another toolkit.
+/// The GTK widget of a menu or menu bar, and of the item that opens a menu; null on other ports.
 template <class TMenu>
 void* WidgetOf(const TMenu& menu) {
   if constexpr (requires { menu.m_menubar; }) return menu.m_menubar;
@@ -34,14 +34,14 @@ void* OpenerOf(const TMenu& menu) {
   return nullptr;
 }
 
-/// Calls a function of GTK that takes a widget and, maybe, a flag; does nothing without the widget.
+/// Calls a GTK function with a widget and, optionally, a flag; does nothing if the widget is null.
 template <class TResult = void, class... TArguments>
 TResult CallGtk(const char* name, void* widget, TArguments... arguments) {
   const auto function = widget ? Gtk().Find<TResult (*)(void*, TArguments...)>(name) : nullptr;
   return function ? function(widget, arguments...) : TResult();
 }
 
-/// Whether the widget is a window with a frame, unlike menus and hints.
+/// Whether the widget is a framed window, unlike menus and tool tips.
 bool IsFramedWindow(void* widget) {
   const auto typeOfWindows = Gtk().Find<std::size_t (*)()>("gtk_window_get_type");
   const auto isA = Objects().Find<int (*)(void*, std::size_t)>("g_type_check_instance_is_a");
@@ -86,7 +86,7 @@ void CallNext(std::function<void()> body) {
   if (!add) return wxTheApp->CallAfter(std::move(body));
   const auto call = [](void* data) {
     (*static_cast<TCall*>(data))();
-    return 0;  // once
+    return 0;  // remove the source
   };
   add(kBeforeEvents, call, new TCall(std::move(body)), [](void* data) { delete static_cast<TCall*>(data); });
 }
@@ -99,7 +99,7 @@ void SelectFirstItem(wxMenu& menu) {
 void OpenFromBar(wxMenu& menu) { CallGtk<int>("gtk_widget_mnemonic_activate", OpenerOf(menu), 0); }
 
 TMenuCloser::TMenuCloser(const wxMenuBar& bar, const wxMenu& menu) : bar_(bar), menu_(menu) {
-  struct TValue {  // of the library's; the first member is all that is needed of it
+  struct TValue {  // GValue; only the first member is used
     std::size_t Type;
     std::uint64_t Data[2];
   };
@@ -110,7 +110,7 @@ TMenuCloser::TMenuCloser(const wxMenuBar& bar, const wxMenu& menu) : bar_(bar), 
   const THook hook = [](void*, unsigned, const TValue* values, void* data) {
     const auto peek = Objects().Find<void* (*)(const TValue*)>("g_value_peek_pointer");
     if (IsFramedWindow(peek(values))) static_cast<TMenuCloser*>(data)->OnWindowShown();
-    return 1;  // stays
+    return 1;  // keep the hook
   };
   hook_ = add(ShowSignal(), 0, hook, this, nullptr);
 }
@@ -121,7 +121,7 @@ TMenuCloser::~TMenuCloser() {
 }
 
 void TMenuCloser::OnWindowShown() {
-  hasClosed_ = true;  // some dialogs of the toolkit have closed it already
+  hasClosed_ = true;  // some dialogs of the toolkit have closed the menu already
   if (IsOnScreen(menu_)) CallGtk<void>("gtk_menu_shell_cancel", WidgetOf(bar_));
 }
 

@@ -8,32 +8,32 @@ class wxMenuBar;
 
 namespace kestrel::workbench {
 
-/// GTK leaves out the pictures of menu items by default; packages have reasons for theirs.
+/// Enables pictures of menu items, which GTK omits by default.
 void ShowMenuImages();
-/// Closes a menu that is open, and those that belong to it, as Escape does.
+/// Closes an open menu and its submenus, as Escape does.
 void CloseMenu(wxMenu& menu);
 
-/// Whether `menu` is on the screen.  Where the toolkit announces a menu before it shows it (all but GTK): false.
+/// Whether `menu` is on the screen. False on ports that announce a menu before they show it (all but GTK).
 bool IsOnScreen(const wxMenu& menu);
-/// Calls `body` as soon as the toolkit has done what it is doing now, before the keys and clicks that wait.
+/// Calls `body` when the toolkit has finished the current event, before queued keys and clicks.
 void CallNext(std::function<void()> body);
-/// Puts the keyboard's selection in `menu`, which is on the screen, on its first enabled item; leaves it alone where
-/// there is none, as after a click.
+/// Moves the keyboard selection of `menu`, which is on the screen, to its first enabled item; does nothing if there is
+/// no selection, as after a click.
 void SelectFirstItem(wxMenu& menu);
 /// Opens a menu of the menu bar, as its access key does.
 void OpenFromBar(wxMenu& menu);
 
-/// While it lives, a menu that is on the screen closes before a window comes up, whoever shows it: an open menu holds the
-/// keyboard and the mouse, and the window would not get them.
+/// While it exists, closes a menu that is on the screen before any window is shown: an open menu grabs keyboard and
+/// mouse.
 class TMenuCloser {
  public:
-  /// Both are borrowed; `menu` is one of `bar`.
+  /// Borrows both; `menu` belongs to `bar`.
   TMenuCloser(const wxMenuBar& bar, const wxMenu& menu);
   ~TMenuCloser();
   TMenuCloser(const TMenuCloser&) = delete;
   TMenuCloser& operator=(const TMenuCloser&) = delete;
 
-  /// Whether a window came up.
+  /// Whether a window was shown.
   bool HasClosed() const { return hasClosed_; }
 
  private:

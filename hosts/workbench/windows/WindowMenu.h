@@ -1,4 +1,4 @@
-// Windows of packages in the View menu: a package's message window is hidden until somebody shows it.
+// Windows of packages in the View menu: a message window is hidden until the user shows it.
 #pragma once
 
 #include <wx/frame.h>
@@ -6,7 +6,7 @@
 
 namespace kestrel::workbench {
 
-/// Appends an item for each frame that packages have created so far; choosing it shows and raises the frame.
+/// Appends an item for each frame that packages have created; it shows and raises the frame.
 void AppendPackageWindows(wxFrame& mainFrame, wxMenu& menu);
 
 }  // namespace kestrel::workbench
