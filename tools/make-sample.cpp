@@ -1,5 +1,5 @@
-// Makes a sample to try the add-in on: a Subversion repository, a copy of the sample project mapped to it with its files
-// under control, and a registry of its own in which the provider is installed.
+// Creates a sample: a Subversion repository, a copy of the sample project under its control, and a registry with the
+// provider.
 #include <CLI/CLI.hpp>
 #include <cstdio>
 #include <cstdlib>
@@ -50,7 +50,7 @@ void Check(bool done, const TStateMessages& messages) {
   if (!done) throw std::runtime_error(messages[1] + messages[2]);
 }
 
-/// One user's view of the repository through the provider.
+/// A user's working copy, operated through the provider.
 class TUser {
  public:
   TUser(const std::string& library, const std::string& work, const std::string& url, const std::string& user)

@@ -28,7 +28,7 @@ constexpr const char* kEntryPoint = "SccInitialize";
 constexpr int kExitFailed = 1;
 constexpr int kExitUsage = 2;
 
-/// What the generated help calls things: the usage line shows already what is required.
+/// Labels in the generated help; the usage line shows what is required.
 constexpr std::pair<const char*, const char*> kHelpLabels[] = {
     {"Positionals", "Arguments"}, {"SUBCOMMAND", "COMMAND"}, {"TEXT", ""}, {"REQUIRED", ""}};
 
@@ -66,7 +66,7 @@ std::vector<std::string> InstalledProviders() {
                                                           : std::vector<std::string>();
 }
 
-/// The key that this program makes for a provider; an installer of its own may have chosen another.
+/// The key that this program creates for a provider; other installers may have chosen another.
 std::string OwnKey(const std::string& name) { return "Software\\" + name + "\\SCC"; }
 
 bool IsInstalled(const std::string& name) {
@@ -75,14 +75,14 @@ bool IsInstalled(const std::string& name) {
                      [&](const std::string& installed) { return SameText(installed, name); });
 }
 
-/// The key of an installed provider; empty when none of that name is, or its entry names no key.
+/// The key of an installed provider; empty if there is no such provider or its entry has no key.
 std::string KeyOf(const std::string& name) { return ReadValue(kInstalledProvidersKey, name); }
 
 void RequireInstalled(const std::string& name) {
   if (!IsInstalled(name)) throw EFailure(Format(sNotInstalled, {name}));
 }
 
-/// Throws EFailure for a provider that has no key.
+/// Like KeyOf; throws EFailure instead of returning an empty string.
 std::string InstalledKeyOf(const std::string& name) {
   RequireInstalled(name);
   const auto key = KeyOf(name);
@@ -150,7 +150,7 @@ void Remove(const TArguments& arguments) {
   if (SameText(key, OwnKey(name))) {
     TRegistry().DeleteKey(key);
   } else if (!key.empty()) {
-    // A key that its own installer made may hold more than what this program knows about.
+    // A key created by another installer may hold more than this program knows.
     for (const char* value : {kServerName, kServerPath, kSearchPath}) DeleteValue(key, value);
   }
   if (IsInstalled(name)) throw EFailure(Format(sInstalledForAll, {name}));
@@ -200,7 +200,7 @@ void List(const TArguments&) {
 
 // --------------------------------------------------------------------------------------------- command line
 
-/// Adds the commands to `parser`, which fills `arguments`; Run of the chosen one is stored in `command`.
+/// Adds the commands to `parser`. Parsing fills in `arguments` and sets `command` to the chosen function.
 void AddCommands(CLI::App& parser, TArguments& arguments, void (*&command)(const TArguments&)) {
   const auto add = [&](const char* name, const TResString& help, void (*run)(const TArguments&)) {
     auto* const added = parser.add_subcommand(name, help);
