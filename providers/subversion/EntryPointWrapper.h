@@ -1,4 +1,4 @@
-// What stands around every entry point.
+// Wrappers that turn exceptions into SCC return codes.
 #pragma once
 
 #include "subversion/EntryPointStrings.h"
@@ -8,7 +8,7 @@
 
 namespace kestrel::svnscc {
 
-/// No exception leaves an entry point: it becomes a sentence for the user and a code for the client.
+/// Runs `body(context)`.  An exception becomes a message for the user and a return code.
 template <class Body>
 scc::Long RunEntryPoint(void* handle, Body&& body) noexcept {
   auto* context = static_cast<ProviderContext*>(handle);
@@ -30,6 +30,7 @@ scc::Long RunEntryPoint(void* handle, Body&& body) noexcept {
   return scc::SCC_E_NONSPECIFICERROR;
 }
 
+/// The same; SCC_E_PROJNOTOPEN without an open project, whose working copy is marked as in use meanwhile.
 template <class Body>
 scc::Long RunWithProject(void* handle, Body&& body) noexcept {
   return RunEntryPoint(handle, [&](ProviderContext& context) -> scc::Long {
@@ -39,7 +40,7 @@ scc::Long RunWithProject(void* handle, Body&& body) noexcept {
   });
 }
 
-/// The same for a list of files.
+/// The same for `body(context, names)`.
 template <class Body>
 scc::Long RunWithFiles(void* handle, scc::Long count, const char** names, Body&& body) noexcept {
   return RunWithProject(handle, [&](ProviderContext& context) -> scc::Long {
@@ -48,7 +49,7 @@ scc::Long RunWithFiles(void* handle, scc::Long count, const char** names, Body&&
   });
 }
 
-/// The user can cancel while this lives.
+/// Scoped: the user can cancel.
 class RunningCommand {
  public:
   explicit RunningCommand(ProviderContext& context) : context_(context) { context_.BeginCommand(); }
@@ -60,8 +61,7 @@ class RunningCommand {
   ProviderContext& context_;
 };
 
-/// The same for a command that can take long and changes the files: the user can cancel it, and what it did to them
-/// becomes events.
+/// The same for a command that changes files and may take long: the user can cancel it, and status changes become events.
 template <class Body>
 scc::Long RunFileCommand(void* handle, scc::Long count, const char** names, Body&& body) noexcept {
   return RunWithFiles(handle, count, names, [&](ProviderContext& context, Names files) -> scc::Long {

@@ -1,4 +1,4 @@
-// The 23 exported names.  Nothing happens here but the crossing: arguments become types, exceptions become codes.
+// The exported functions.  They only convert: arguments to types, exceptions to return codes.
 #include <algorithm>
 #include <cstring>
 
@@ -27,7 +27,7 @@ constexpr Dword kCapabilities =
 
 std::string Text(const char* text) { return text != nullptr ? text : ""; }
 
-/// Writes into a client's buffer of `size` bytes, which may be missing.
+/// Writes `text`, truncated, into a client's buffer of `size` bytes, which may be null.
 void Return(char* buffer, const std::string& text, std::size_t size) {
   if (buffer == nullptr) return;
   const auto cut = TruncateUtf8(text, size - 1);
@@ -57,7 +57,7 @@ SCC_EXPORT Long SCC_CALL SccInitialize(void** handle, WindowHandle, const char*,
     SetLoginPrompt(AskLogin);
     SetQuestionPrompt(ShowQuestion);
     *handle = new ProviderContext;
-  } catch (...) {  // no text-out yet: the code must do
+  } catch (...) {  // there is no text-out callback yet
     return SCC_E_INITIALIZEFAILED;
   }
   Return(sccName, sProviderName, SCC_NAME_SIZE);
@@ -87,7 +87,7 @@ SCC_EXPORT Long SCC_CALL SccSetOption(void* handle, Long option, Long value) {
       case SCC_OPT_SHARESUBPROJ:
         context.SharesSubprojects = true;
         return SCC_I_SHARESUBPROJOK;
-      default:  // the rest are pointers, which do not fit
+      default:  // the other options are pointers, which do not fit into 32 bits
         return SCC_E_OPNOTSUPPORTED;
     }
   });
@@ -129,7 +129,7 @@ SCC_EXPORT Long SCC_CALL SccOpenProject(void* handle, WindowHandle window, char*
     OpenProject(
         context, names,
         {.MayCreate = !silent && (flags & SCC_OP_CREATEIFNEW) != 0, .Silent = silent, .Parent = window});
-    // The client's strings are its own: only what it left open is filled in.
+    // Only what the client left empty is filled in.
     if (given.User.empty()) Return(user, names.User, SCC_USER_SIZE);
     if (given.ProjectName.empty()) Return(projectName, names.ProjectName, SCC_PRJPATH_SIZE);
     if (given.Repository.empty()) Return(auxPath, names.Repository, SCC_PRJPATH_SIZE);
@@ -159,7 +159,7 @@ SCC_EXPORT Long SCC_CALL SccQueryInfo(void* handle, Long count, const char** nam
     for (std::size_t i = 0; i < files.size(); ++i) {
       const std::string path = context.InsidePath(files[i]);
       statuses[i] = table.Of(path).Bits;
-      if (!path.empty() && table.Result >= 0) context.Events().Told(path, statuses[i]);
+      if (!path.empty() && table.Result >= 0) context.Events().MarkReported(path, statuses[i]);
     }
     return table.Result;
   });
@@ -169,7 +169,7 @@ SCC_EXPORT Long SCC_CALL SccPopulateList(void* handle, SCCCommand command, Long 
                                          TPopListFunc populate, void* callerData, Long* statuses,
                                          Long flags) {
   return RunWithFiles(handle, count, names, [&](ProviderContext& context, Names files) {
-    context.Options().Forget();
+    context.Options().Reset();
     const auto named = (flags & SCC_PL_DIR) != 0 ? Named::Folders : Named::Files;
     return Populate(context, command, files, named, populate, callerData, statuses);
   });
@@ -187,7 +187,7 @@ SCC_EXPORT Long SCC_CALL SccDiff(void* handle, WindowHandle window, const char* 
 SCC_EXPORT Long SCC_CALL SccGet(void* handle, WindowHandle, Long count, const char** names, Long flags,
                                 void* options) {
   return RunFileCommand(handle, count, names, [&](ProviderContext& context, Names files) {
-    const auto chosen = context.Options().Take(options, SCC_COMMAND_GET);
+    const auto chosen = context.Options().Use(options, SCC_COMMAND_GET);
     if ((flags & SCC_GET_ALL) == 0) return GetFiles(context, files, chosen);
     const bool recursive = (flags & SCC_GET_RECURSIVE) != 0;
     return GetFolders(context, files, recursive ? Below::Everything : Below::FilesOnly, chosen);
@@ -197,7 +197,7 @@ SCC_EXPORT Long SCC_CALL SccGet(void* handle, WindowHandle, Long count, const ch
 SCC_EXPORT Long SCC_CALL SccCheckout(void* handle, WindowHandle, Long count, const char** names,
                                      const char* comment, Long, void* options) {
   return RunFileCommand(handle, count, names, [&](ProviderContext& context, Names files) {
-    return CheckOut(context, files, Text(comment), context.Options().Take(options, SCC_COMMAND_CHECKOUT));
+    return CheckOut(context, files, Text(comment), context.Options().Use(options, SCC_COMMAND_CHECKOUT));
   });
 }
 
@@ -211,7 +211,7 @@ SCC_EXPORT Long SCC_CALL SccCheckin(void* handle, WindowHandle, Long count, cons
                                     const char* comment, Long flags, void* options) {
   return RunFileCommand(handle, count, names, [&](ProviderContext& context, Names files) {
     return CheckIn(context, files, Text(comment), AfterFlags(flags),
-                   context.Options().Take(options, SCC_COMMAND_CHECKIN));
+                   context.Options().Use(options, SCC_COMMAND_CHECKIN));
   });
 }
 
@@ -221,7 +221,7 @@ SCC_EXPORT Long SCC_CALL SccAdd(void* handle, WindowHandle, Long count, const ch
   return RunFileCommand(handle, count, names, [&](ProviderContext& context, Names files) {
     const Long word = flags != nullptr ? *flags : 0;
     return Add(context, files, Text(comment), word, AfterFlags(word),
-               context.Options().Take(options, SCC_COMMAND_ADD));
+               context.Options().Use(options, SCC_COMMAND_ADD));
   });
 }
 
@@ -236,15 +236,15 @@ SCC_EXPORT Long SCC_CALL SccRename(void* handle, WindowHandle, const char* name,
   return RunWithProject(handle, [&](ProviderContext& context) { return Rename(context, name, newName); });
 }
 
-// Answers from memory.
+// Contacts no repository and reads no working copy.
 SCC_EXPORT Long SCC_CALL SccGetEvents(void* handle, char* name, Long* status, Long* remaining) {
   constexpr std::size_t kSize = SCC_LOCALPATH_SIZE;
   Return(name, "", kSize);
   if (remaining != nullptr) *remaining = 0;
   return RunEntryPoint(handle, [&](ProviderContext& context) -> Long {
-    auto event = context.Events().Take();
+    auto event = context.Events().Pop();
     while (event && NativeName(event->Path).size() >= kSize)
-      event = context.Events().Take();  // would name another file
+      event = context.Events().Pop();  // a truncated name would be that of another file
     if (!event) return SCC_OK;
     Return(name, NativeName(event->Path), kSize);
     if (status != nullptr) *status = event->Bits;

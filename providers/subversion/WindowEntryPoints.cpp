@@ -1,4 +1,4 @@
-// The exported names that bring up the provider's windows.
+// The exported functions that show windows.
 #include "subversion/EntryPointWrapper.h"
 #include "subversion/windows/ProviderWindows.h"
 
@@ -33,23 +33,23 @@ SCC_EXPORT Long SCC_CALL SccGetCommandOptions(void* handle, WindowHandle window,
       handle, [&](ProviderContext& context) { return AskCommandOptions(context, window, command, options); });
 }
 
-// Without a count the client gives the names of its last call back.
+// A null count releases the names of the last call.
 SCC_EXPORT Long SCC_CALL SccAddFromScc(void* handle, WindowHandle window, Long* count, const char*** names) {
   if (count == nullptr)
     return RunEntryPoint(handle, [](ProviderContext& context) -> Long {
-      context.Handed().Assign({});
+      context.ReturnedNames().Assign({});
       return SCC_OK;
     });
   return RunWithProject(handle, [&](ProviderContext& context) -> Long {
     if (names == nullptr) return SCC_E_NONSPECIFICERROR;
-    const bool named =
-        context.SharesSubprojects && *count == 1 && *names != nullptr && *names != context.Handed().Data();
+    const bool named = context.SharesSubprojects && *count == 1 && *names != nullptr &&
+                       *names != context.ReturnedNames().Data();
     std::vector<std::string> chosen;
     const Long result = ChooseMissingFiles(context, window, named ? **names : nullptr, chosen);
     if (result != SCC_OK) return result;
-    context.Handed().Assign(std::move(chosen));
-    *names = context.Handed().Data();
-    *count = static_cast<Long>(context.Handed().Count());
+    context.ReturnedNames().Assign(std::move(chosen));
+    *names = context.ReturnedNames().Data();
+    *count = static_cast<Long>(context.ReturnedNames().Count());
     return SCC_OK;
   });
 }

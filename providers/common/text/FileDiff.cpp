@@ -10,7 +10,7 @@ namespace kestrel {
 
 namespace {
 
-/// The end of the line that starts at `start`: where its text ends, and where the next line starts.
+/// Of the line that starts at `start`: where its text ends, and where the next line starts.
 std::pair<std::size_t, std::size_t> EndOfLine(std::string_view text, std::size_t start) {
   const auto end = text.find_first_of("\r\n", start);
   if (end == std::string_view::npos) return {text.size(), text.size()};
@@ -37,7 +37,7 @@ std::string EndsOf(std::string_view text) {
   return ends;
 }
 
-/// How the first line ends says how the file does.
+/// Line-ending style of the text, taken from its first line.
 std::string_view StyleOf(std::string_view text) {
   const auto [end, next] = EndOfLine(text, 0);
   return text.substr(end, next - end);
@@ -59,7 +59,7 @@ std::string WithoutSpace(std::string_view line) {
   return result;
 }
 
-/// Numbers lines, equal ones alike.
+/// Gives equal lines equal numbers.
 class LineNumbers {
  public:
   explicit LineNumbers(const DiffOptions& options) : options_(options) {}
@@ -102,7 +102,7 @@ void FileDiff::Compare(const DiffOptions& options) {
   const LineIds left = numbers.Of(left_);
   const LineIds right = numbers.Of(right_);
   auto matches = MatchLines(left, right);
-  matches.emplace_back(left.size(), right.size());  // ends what is left over
+  matches.emplace_back(left.size(), right.size());  // sentinel
   int nextLeft = 0;
   int nextRight = 0;
   for (const auto& [leftLine, rightLine] : matches) {
@@ -115,7 +115,7 @@ void FileDiff::Compare(const DiffOptions& options) {
   endsMatch_ = options.IgnoreSpace || (IsEnded(left_) == IsEnded(right_) && EndsOf(left_) == EndsOf(right_));
 }
 
-// Lines that stand opposite each other count as changed, those that are left over as removed or added.
+// Pairs of lines count as changed, the rest of the longer side as removed or added.
 void FileDiff::AppendDifference(int left, int leftCount, int right, int rightCount) {
   if (leftCount == 0 && rightCount == 0) return;
   differences_.push_back(rows_.size());

@@ -1,4 +1,4 @@
-// Two texts side by side, line by line.  Rules only: the window that shows them is DiffWindow.
+// Compares two texts line by line.
 #pragma once
 
 #include <cstddef>
@@ -16,12 +16,12 @@ struct DiffOptions {
   bool IgnoreCase = false;
   bool IgnoreSpace = false;  // line ends included
 };
-/// What the flags of SccDiff ask for.
+/// From the flags of SccDiff.
 DiffOptions ToDiffOptions(scc::Long flags);
 
 enum class DiffKind { Same, Changed, Added, Removed };
 
-/// One row of the two columns: line numbers from 0, or kNoLine where the other side has a line more.
+/// One row of the two columns: line numbers from 0, kNoLine on the side that has no line here.
 struct DiffRow {
   static constexpr int kNoLine = -1;
   int Left;
@@ -29,12 +29,12 @@ struct DiffRow {
   DiffKind Kind;
 };
 
-/// How the texts differ apart from what stands in their lines.
+/// How the line ends of the texts differ.
 enum class LineEnds {
   Alike,
   OtherStyle,    // CRLF here, LF there
-  LeftUnended,   // the last line of the left text has no end, that of the right one has
-  RightUnended,  // the other way round
+  LeftUnended,   // only the last line of the left text has no end
+  RightUnended,  // only the last line of the right text has no end
 };
 
 /// A range of bytes in a line.
@@ -53,17 +53,17 @@ class FileDiff {
   void Compare(const DiffOptions& options);
 
   const std::vector<DiffRow>& Rows() const { return rows_; }
-  /// The rows' texts without line ends; empty where there is no line.
+  /// The line without its end; empty where there is none.
   std::string_view LeftText(const DiffRow& row) const { return LineOf(leftLines_, row.Left); }
   std::string_view RightText(const DiffRow& row) const { return LineOf(rightLines_, row.Right); }
-  /// The first row of every difference, rising.
+  /// The first row of every difference, ascending.
   const std::vector<std::size_t>& Differences() const { return differences_; }
-  /// The nearest difference that begins after (before) `row`.
+  /// The first row of the nearest difference after (before) `row`.
   std::optional<std::size_t> Next(std::size_t row) const;
   std::optional<std::size_t> Previous(std::size_t row) const;
 
   LineEnds Ends() const { return ends_; }
-  /// Nothing differs that the options do not ignore.
+  /// Whether the texts are equal apart from what the options ignore.
   bool Same() const { return differences_.empty() && endsMatch_; }
 
  private:
@@ -81,7 +81,7 @@ class FileDiff {
   bool endsMatch_ = true;
 };
 
-/// What differs between two lines of UTF-8: all but their common beginning and end, at character borders.
+/// The parts of two UTF-8 lines between their common prefix and suffix, cut at character boundaries.
 std::pair<Span, Span> ChangedParts(std::string_view left, std::string_view right);
 
 }  // namespace kestrel

@@ -9,7 +9,7 @@
 namespace kestrel {
 namespace {
 
-/// A stretch of lines on either side, as half-open ranges.
+/// A range of lines on either side, half open.
 struct Gap {
   int left, leftEnd, right, rightEnd;
   bool IsOneSided() const { return left == leftEnd || right == rightEnd; }
@@ -29,7 +29,7 @@ class ShortestEdit {
  private:
   static constexpr int kUnreached = -1;
 
-  /// How far a path from one end of a gap comes with so many edits, by diagonal (left minus right).
+  /// How far paths from one end of a gap reach, by diagonal (left minus right index).
   class Front {
    public:
     Front(int size, int leftSize, int rightSize)
@@ -38,7 +38,7 @@ class ShortestEdit {
           rightSize_(rightSize),
           reached_(At(2 * size + 3), kUnreached) {}
     int& operator[](int diagonal) { return reached_[At(middle_ + diagonal)]; }
-    /// The start of the next run of equal lines on `diagonal`, one edit further; kUnreached outside the gap.
+    /// One edit further: where the next run of equal lines on `diagonal` starts; kUnreached outside the gap.
     int Step(int diagonal, int edits) {
       if (edits == 0) return 0;
       const int above = (*this)[diagonal + 1];
@@ -123,7 +123,7 @@ class Matcher {
  private:
   bool Equal(int left, int right) const { return left_[At(left)] == right_[At(right)]; }
 
-  /// Matches what is equal at the beginning of the gap; returns how many lines are equal at its end, which it shortens.
+  /// Matches the equal lines at the start of the gap, cuts those at its end off and returns their number.
   int MatchEnds(Gap& gap) {
     for (; !gap.IsOneSided() && Equal(gap.left, gap.right); ++gap.left, ++gap.right)
       matches_.emplace_back(gap.left, gap.right);
@@ -176,9 +176,9 @@ class Matcher {
     MatchGap(gap);
   }
 
-  /// The longest sublist that rises on the right side too.
+  /// The longest sublist that ascends on the right side, too.
   static LineMatches LongestRising(const LineMatches& pairs) {
-    std::vector<std::size_t> tops;  // of the best lists by length: where the list of that length ends lowest
+    std::vector<std::size_t> tops;  // by length: the last pair of the list that ends lowest
     std::vector<std::size_t> before(pairs.size());
     constexpr auto kNone = std::numeric_limits<std::size_t>::max();
     for (std::size_t i = 0; i < pairs.size(); ++i) {
@@ -210,7 +210,7 @@ class Matcher {
       matches_.emplace_back(left[At(i)], right[At(j)]);
   }
 
-  /// The indices of lines from `start` to `end` that the other side has too.
+  /// The indices of the lines from `start` to `end` that the other side has, too.
   static std::vector<int> Shared(const LineIds& lines, int start, int end, const LineIds& others,
                                  int otherStart, int otherEnd) {
     const std::unordered_set<int> known(others.begin() + otherStart, others.begin() + otherEnd);

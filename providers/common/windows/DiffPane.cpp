@@ -5,7 +5,7 @@
 namespace kestrel {
 namespace {
 
-// A row's marks: a sign in the margin, and the background behind the text.
+// Markers of a row: a sign in the margin, and the background of the text.
 enum Mark { kChangedBack, kAddedBack, kRemovedBack, kFillerBack, kChangedSign, kAddedSign, kRemovedSign };
 enum Margin { kNumbers, kSigns };
 constexpr int kChangedPart = wxSTC_INDIC_CONTAINER;
@@ -99,7 +99,7 @@ void DiffPane::ScrollWith(DiffPane& other) {
     event.Skip();
     const wxPoint place(GetXOffset(), GetFirstVisibleLine());
     if (std::exchange(scrolledTo_, place) == place) return;
-    // The event comes while this pane is painted, when the other one may not be touched.
+    // The event comes during a paint of this pane, when the other one must not be changed.
     CallAfter([this, &other] { other.ScrollTo(scrolledTo_); });
   });
 }

@@ -1,4 +1,4 @@
-// One side of a difference window: its lines at the rows where the other side has theirs.
+// One side of a DiffWindow, with filler lines where the other side has more.
 #pragma once
 
 #include "common/text/FileDiff.h"
@@ -12,7 +12,7 @@ class DiffPane : public TextPane {
  public:
   DiffPane(wxWindow* parent, DiffSideOf side);
   void ShowRows(const FileDiff& diff);
-  /// The panes scroll together from now on.
+  /// Makes `other` follow when this pane is scrolled.
   void ScrollWith(DiffPane& other);
 
  private:
@@ -23,7 +23,7 @@ class DiffPane : public TextPane {
 
   DiffSideOf side_;
   std::vector<bool> isFiller_;  // by row
-  wxPoint scrolledTo_;          // what the other pane knows: pixels to the right, first row shown
+  wxPoint scrolledTo_;          // last position passed to the other pane: x offset, first visible row
 };
 
 }  // namespace kestrel

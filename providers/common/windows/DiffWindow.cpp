@@ -18,7 +18,7 @@ std::string Count(const TResString& text, std::size_t a, std::size_t b) {
   return Format(text.Text, {static_cast<long long>(a), static_cast<long long>(b)});
 }
 
-/// `text`, and what else is to be said of the line ends.
+/// Appends a sentence about the line ends if they differ.
 std::string Joined(std::string text, LineEnds ends) {
   switch (ends) {
     case LineEnds::OtherStyle:
@@ -102,7 +102,7 @@ wxSizer* DiffWindow::CreatePanes() {
   for (DiffPane* pane : {leftPane_, rightPane_}) {
     pane->SetMinSize(FromDIP(wxSize(120, 80)));
     grid->Add(pane, wxSizerFlags().Expand());
-    // The caret's row decides what is next.  The event comes while the pane is painted: other windows follow later.
+    // Previous and Next depend on the caret.  The event comes during a paint, so other windows are updated later.
     pane->Bind(wxEVT_STC_UPDATEUI, [this](wxStyledTextEvent& event) {
       event.Skip();
       if ((event.GetUpdated() & wxSTC_UPDATE_SELECTION) != 0) CallAfter([this] { ShowState(); });

@@ -1,4 +1,4 @@
-// Two versions of a file side by side; the rules are FileDiff's.
+// Two versions of a file side by side, compared by FileDiff.
 #pragma once
 
 #include <memory>
@@ -18,12 +18,12 @@ class DiffPane;
 
 class DiffWindow : public ToolWindow {
  public:
-  /// `name` is the file's, for the title.
+  /// `name` is the file's name for the title.
   DiffWindow(wxWindow* parent, const std::string& name, DiffSide left, DiffSide right,
              const DiffOptions& options);
   ~DiffWindow() override;
 
-  /// Whether nothing differs that is not ignored, as the boxes stand now.
+  /// Whether the versions are equal apart from what the check boxes ignore.
   bool Same() const;
 
  private:

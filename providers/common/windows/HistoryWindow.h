@@ -1,4 +1,4 @@
-// The history of a file or folder, and what can be done with its revisions.
+// The revisions of a file or folder: show, compare, get.
 #pragma once
 
 #include <string>

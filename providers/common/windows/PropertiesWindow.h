@@ -1,4 +1,4 @@
-// What there is to tell of a file or folder; every text can be selected and copied.
+// Facts and versioned properties of a file or folder, as texts that can be selected and copied.
 #pragma once
 
 #include "common/text/Properties.h"

@@ -4,6 +4,7 @@
 #include <wx/numformatter.h>
 #include <wx/splitter.h>
 
+#include "common/text/RepositoryPath.h"
 #include "common/windows/PropertiesWindow.h"
 #include "common/windows/TextWindow.h"
 #include "common/windows/WindowStrings.h"
@@ -13,25 +14,7 @@
 namespace kestrel {
 namespace {
 
-struct FolderData : wxTreeItemData {
-  explicit FolderData(std::string path) : Path(std::move(path)) {}
-  std::string Path;
-};
-
-std::string PathOf(wxTreeCtrl* tree, const wxTreeItemId& item) {
-  return static_cast<FolderData*>(tree->GetItemData(item))->Path;
-}
-
-std::string PathAbove(const std::string& path) {
-  const auto slash = path.rfind('/');
-  return slash == std::string::npos ? "" : path.substr(0, slash);
-}
-
-std::string PathBelow(const std::string& path, const std::string& name) {
-  return path.empty() ? name : path + "/" + name;
-}
-
-/// A path for people: the root is "/".
+/// A path for display: the root is "/".
 std::string DisplayName(const std::string& path) { return path.empty() ? "/" : path; }
 
 std::string Cell(const RepositorySource::Entry& entry, std::size_t column) {
@@ -93,9 +76,7 @@ wxSizer* RepositoryWindow::CreateAddress(const std::string& address) {
 
 wxWindow* RepositoryWindow::CreateLists() {
   auto* splitter = new wxSplitterWindow(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxSP_LIVE_UPDATE);
-  tree_ = new wxTreeCtrl(splitter, wxID_ANY, wxDefaultPosition, wxDefaultSize,
-                         wxTR_DEFAULT_STYLE | wxTR_SINGLE | wxTR_LINES_AT_ROOT);
-  tree_->SetName("folders");
+  tree_ = new FolderTree(splitter, [this](const std::string& path) { return FetchFolders(path); });
   list_ = new RowList(splitter, "entries",
                       {{sNameColumn, 200},
                        {sRevisionColumn, 80, wxLIST_FORMAT_RIGHT},
@@ -106,9 +87,8 @@ wxWindow* RepositoryWindow::CreateLists() {
                       [this](std::size_t row, std::size_t column) { return Cell(entries_.at(row), column); });
   splitter->SetMinimumPaneSize(FromDIP(120));
   splitter->SplitVertically(tree_, list_, FromDIP(230));
-  tree_->Bind(wxEVT_TREE_ITEM_EXPANDING, [this](wxTreeEvent& event) { FillFolder(event.GetItem()); });
   tree_->Bind(wxEVT_TREE_SEL_CHANGED, [this](wxTreeEvent& event) {
-    if (event.GetItem().IsOk()) ShowFolder(PathOf(tree_, event.GetItem()));
+    if (event.GetItem().IsOk()) ShowFolder(tree_->PathOf(event.GetItem()));
   });
   list_->Bind(wxEVT_LIST_ITEM_SELECTED, [this](wxListEvent&) { ShowState(); });
   list_->Bind(wxEVT_LIST_ITEM_DESELECTED, [this](wxListEvent&) { ShowState(); });
@@ -156,7 +136,7 @@ void RepositoryWindow::Open() {
   list_->SetRows(0);
   tree_->DeleteAllItems();
   if (!RunAndShowError([&] { path = source_.Open(address_->GetValue().utf8_string()); })) return;
-  FillTree();
+  tree_->ShowRoot(source_.Address());
   GoTo(path);
   list_->SetFocus();
 }
@@ -167,56 +147,22 @@ void RepositoryWindow::Reload() {
   const std::string name = entry != nullptr ? entry->Name : "";
   list_->SetRows(0);
   source_.Refresh();
-  FillTree();
+  tree_->ShowRoot(source_.Address());
   GoTo(folder, name);
 }
 
-void RepositoryWindow::FillTree() {
-  tree_->DeleteAllItems();
-  const auto root =
-      tree_->AddRoot(wxControl::EscapeMnemonics(ToWx(source_.Address())), -1, -1, new FolderData(""));
-  tree_->SetItemHasChildren(root);
-  tree_->Expand(root);
-}
-
-void RepositoryWindow::FillFolder(const wxTreeItemId& item) {
-  if (tree_->GetChildrenCount(item, false) > 0) return;
-  const std::string path = PathOf(tree_, item);
+std::vector<std::string> RepositoryWindow::FetchFolders(const std::string& path) {
+  std::vector<std::string> names;
   RunAndShowError([&] {
     for (const auto& entry : source_.FetchEntries(path))
-      if (entry.IsFolder) AppendFolder(item, PathBelow(path, entry.Name), entry.Name);
+      if (entry.IsFolder) names.push_back(entry.Name);
   });
-  if (tree_->GetChildrenCount(item, false) == 0) tree_->SetItemHasChildren(item, false);
-}
-
-wxTreeItemId RepositoryWindow::AppendFolder(const wxTreeItemId& parent, const std::string& path,
-                                            const std::string& name) {
-  const auto item = tree_->AppendItem(parent, ToWx(name), -1, -1, new FolderData(path));
-  tree_->SetItemHasChildren(item);  // known when it is opened
-  return item;
-}
-
-wxTreeItemId RepositoryWindow::ChildNamed(const wxTreeItemId& parent, const std::string& name) const {
-  wxTreeItemIdValue cookie = nullptr;
-  auto child = tree_->GetFirstChild(parent, cookie);
-  while (child.IsOk() && tree_->GetItemText(child) != ToWx(name)) child = tree_->GetNextChild(parent, cookie);
-  return child;
+  return names;
 }
 
 void RepositoryWindow::GoTo(const std::string& path, const std::string& entry) {
-  wxTreeItemId item = tree_->GetRootItem();
-  std::string rest = path;
-  while (!rest.empty()) {
-    tree_->Expand(item);
-    const std::string name = rest.substr(0, rest.find('/'));
-    const auto child = ChildNamed(item, name);
-    if (!child.IsOk()) break;
-    item = child;
-    rest.erase(0, name.size() + 1);
-  }
-  tree_->SelectItem(item);
-  tree_->EnsureVisible(item);
-  ShowFolder(PathOf(tree_, item));
+  const std::string rest = tree_->SelectPath(path);
+  ShowFolder(tree_->PathOf(tree_->GetSelection()));
   if (list_->GetItemCount() == 0) return;
   const std::string& wanted = rest.empty() ? entry : rest;
   const auto found =

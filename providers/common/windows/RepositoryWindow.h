@@ -1,8 +1,6 @@
 // Browsing a repository: a tree of its folders, and the entries of one.
 #pragma once
 
-#include <wx/treectrl.h>
-
 #include <memory>
 #include <optional>
 #include <string>
@@ -10,6 +8,7 @@
 
 #include "common/text/Contents.h"
 #include "common/text/Properties.h"
+#include "common/windows/FolderTree.h"
 #include "common/windows/HistoryWindow.h"
 #include "common/windows/WindowTools.h"
 
@@ -61,11 +60,8 @@ class RepositoryWindow : public ToolWindow {
 
   void Open();
   void Reload();
-  void FillTree();
-  void FillFolder(const wxTreeItemId& item);
-  wxTreeItemId AppendFolder(const wxTreeItemId& parent, const std::string& path, const std::string& name);
-  wxTreeItemId ChildNamed(const wxTreeItemId& parent, const std::string& name) const;
-  /// Opens the tree down to `path`, and selects what it names; in a folder, the entry of that name.
+  std::vector<std::string> FetchFolders(const std::string& path);
+  /// Shows the folder at `path` and selects `entry` in it; if `path` is a file, shows its folder and selects the file.
   void GoTo(const std::string& path, const std::string& entry = "");
   void ShowFolder(const std::string& path);
   void ShowState();
@@ -87,7 +83,7 @@ class RepositoryWindow : public ToolWindow {
   std::vector<RepositorySource::Entry> entries_;  // of the folder
   std::string problem_;
   wxComboBox* address_ = nullptr;
-  wxTreeCtrl* tree_ = nullptr;
+  FolderTree* tree_ = nullptr;
   RowList* list_ = nullptr;
   wxStaticText* message_ = nullptr;
   wxButton* text_ = nullptr;

@@ -1,4 +1,4 @@
-// The text of one version of a file.
+// A window with the text of one version of a file.
 #pragma once
 
 #include "common/text/Contents.h"

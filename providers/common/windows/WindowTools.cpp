@@ -57,7 +57,7 @@ ToolWindow::ToolWindow(wxWindow* parent, const std::string& title)
 wxButton* ToolWindow::AddButton(wxSizer* row, const std::string& label, std::function<void()> press) {
   auto* button = new wxButton(this, wxID_ANY, ToWx(label));
   button->Bind(wxEVT_BUTTON, [press](wxCommandEvent&) { press(); });
-  // An accelerator that names the button arrives here.
+  // Accelerators send a menu event.
   Bind(
       wxEVT_MENU,
       [button, press = std::move(press)](wxCommandEvent&) {

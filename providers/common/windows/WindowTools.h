@@ -1,4 +1,4 @@
-// What the provider's windows have in common.  User interface thread only.
+// Building blocks of a provider's windows.  User interface thread only.
 #pragma once
 
 #include <wx/listctrl.h>
@@ -13,34 +13,34 @@
 
 namespace kestrel {
 
-/// Whether this process runs the toolkit, and this thread is the one that may show windows.
+/// Whether this process runs the toolkit and this thread may show windows.
 bool CanShowWindows();
-/// The client's window if the toolkit knows it, by its own pointer or its native handle; else the active one.
+/// The client's window, given by the toolkit's pointer or the native handle; else the active window.
 wxWindow* ParentFor(scc::WindowHandle handle);
 
-/// `base` with some of `colour` (0 to 1): marks that fit light and dark themes.
+/// Mixes `share` (0 to 1) of `colour` into `base`, for light and dark themes.
 wxColour Blend(const wxColour& base, const wxColour& colour, double share);
-/// A text's bytes as UTF-8: what is not UTF-8 is read as Latin-1.
+/// Converts a text to UTF-8; bytes that are not UTF-8 are read as Latin-1.
 std::string ToUtf8(const std::string& bytes);
-/// The first line, and a sign that there are more.
+/// The first line, followed by an ellipsis if there are more.
 std::string FirstLine(const std::string& text);
 void CopyToClipboard(const std::string& text);
 void ShowError(wxWindow* parent, const std::string& title, const std::string& text);
 
-/// A dialog that is resized, maximised, and closed by Escape.
+/// A dialog that can be resized and maximised and is closed by Escape.
 class ToolWindow : public wxDialog {
  public:
   ToolWindow(wxWindow* parent, const std::string& title);
 
  protected:
-  /// A button at the end of `row`, bound to `press`; an accelerator with its id presses it too.
+  /// Appends a button to `row`; the button and an accelerator with its id call `press`.
   wxButton* AddButton(wxSizer* row, const std::string& label, std::function<void()> press);
-  /// The button that closes; answers Escape, and Enter when nothing else does.
+  /// Appends a Close button to `row`; Escape presses it.
   wxButton* AddClose(wxSizer* row);
   void UseSizer(wxSizer* all, const wxSize& initial, const wxSize& least);
 };
 
-/// A read-only text with line numbers.  Tab leaves it.
+/// A read-only text with line numbers; Tab moves the focus.
 class TextPane : public wxStyledTextCtrl {
  public:
   TextPane(wxWindow* parent, const char* name);
@@ -48,7 +48,7 @@ class TextPane : public wxStyledTextCtrl {
   void ShowText(const std::string& text);
 };
 
-/// A report of any length.  Rows are asked for when they are shown.
+/// A virtual report list: fetches the texts of the rows that it shows.
 class RowList : public wxListCtrl {
  public:
   struct Column {
@@ -62,7 +62,7 @@ class RowList : public wxListCtrl {
   void SetRows(std::size_t count);
   /// The focused selected row, or -1.
   long Selected() const { return GetNextItem(-1, wxLIST_NEXT_ALL, wxLIST_STATE_SELECTED); }
-  /// Selects `row` alone and shows it.
+  /// Selects `row` only, and scrolls to it.
   void Select(long row);
 
  protected:

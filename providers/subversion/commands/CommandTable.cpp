@@ -40,9 +40,9 @@ struct Row {
   Rule get, checkOut, checkIn, undo, add, remove;
 };
 
-// Check-in and undo also need the lock, which Remove must not find.  A conflict and a deletion in the repository can be
-// given up without it: nobody can get it any more.  A client may offer undo for what is locked only, so get and check-out
-// ask about it, too.
+// Check-in and undo also require the lock; Remove requires that there is none.  Undo of a conflict or of a deletion in the
+// repository does not, as it cannot be obtained any more.  A client may offer undo for locked files only, so get and
+// check-out offer the same.
 constexpr std::array kRows{
     // state                get        check-out  check-in    undo      add       remove
     Row{FileState::Nowhere, kUnknown, kUnknown, kNoFile, kUnknown, kNoFile, kUnknown},

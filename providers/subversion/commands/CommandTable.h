@@ -1,6 +1,5 @@
-// What each command does with a file, by the state of the file and of the folders above it.  It holds for all of them
-// that no command overwrites, takes away or hands in a version that nobody has looked at, and that from every state some
-// command leads out.
+// What each command does with a file, by the state of the file and of the folders above it.  No command overwrites, removes
+// or checks in a version that the user has not seen, and every state can be left by some command.
 #pragma once
 
 #include "subversion/svn/LocalStatus.h"
@@ -9,36 +8,36 @@
 namespace kestrel::svnscc {
 
 enum class FileState {
-  Nowhere,     // neither here nor in the repository
-  Loose,       // here only
+  Nowhere,     // neither local nor in the repository
+  Loose,       // local only
   NotFetched,  // in the repository only
-  InTheWay,    // in the repository, and here a file of that name that never came from it
-  Current,     // here as in the repository
-  Edited,      // changed here
+  InTheWay,    // in the repository, and obstructed by a local file that is not under control
+  Current,     // same as in the repository
+  Edited,      // changed locally
   Old,         // changed in the repository
-  Diverged,    // changed here and in the repository
-  Missing,     // known to the working copy, not on disk
-  Gone,        // deleted in the repository, itself or with a folder above it
-  GoneEdited,  // the same, and changed here
-  Merged,      // a conflict in a text, whose marks were edited away
-  Marked,      // a conflict in a text, whose marks still stand
-  Open,  // a conflict that left no marks: a binary file, properties, another file of that name in the repository
-  Lost,  // a conflict of a change here with a deletion in the repository, of the file or of a folder above it
+  Diverged,    // changed locally and in the repository
+  Missing,     // in the working copy, not on disk
+  Gone,        // deleted in the repository, alone or with a folder above it
+  GoneEdited,  // the same, and changed locally
+  Merged,      // a text conflict whose markers the user has removed
+  Marked,      // a text conflict with markers
+  Open,  // a conflict without markers: a binary file, properties, another file of that name in the repository
+  Lost,  // a conflict of a local change with a deletion in the repository, of the file or of a folder above it
 };
 
 enum class Command { Get, CheckOut, CheckIn, Undo, Add, Remove };
 
 /// How a command begins.
 enum class Step {
-  Proceed,          // does what it is for
-  Nothing,          // there is nothing to do
-  Update,           // fetches first
-  MoveObstruction,  // fetches first; the file in the way stays beside it
-  Adopt,    // fetches first when the file in the way says the same as the repository's, and refuses otherwise
-  Resolve,  // takes the conflict for settled, and looks again
-  Drop,     // makes the working copy forget it, and keeps the file
-  AcceptRepository,  // takes what the repository has, and keeps a copy of what is here
-  Offer,             // asks whether to give up, and refuses otherwise
+  Proceed,           // does its work
+  Nothing,           // has nothing to do
+  Update,            // fetches first
+  MoveObstruction,   // moves the obstructing file aside, and fetches
+  Adopt,             // fetches if the obstructing file has the same contents, else refuses
+  Resolve,           // marks the conflict as resolved, and continues
+  Drop,              // unversions the file, which stays on disk
+  AcceptRepository,  // takes the repository's version, and keeps a copy of the local one
+  Offer,             // asks whether to accept the repository's version; refuses if not
   Refuse,
 };
 
@@ -49,19 +48,19 @@ struct Rule {
 };
 
 Rule RuleFor(FileState state, Command command);
-/// The rule, unless it is to refuse, or to ask first: then throws its Failure.
+/// The step of the rule.  Throws its Failure if the step is Refuse or Offer.
 Step Require(FileState state, Command command);
 
-/// What the working copy alone can tell: what it has counts as current until the repository was asked.
+/// The state according to the working copy alone: a controlled file counts as current.
 FileState StateOf(const LocalStatus& local);
-/// With what the repository said.  `path` is looked up in the working copy and on disk where `status` leaves it open.
+/// The state by a status from the repository; reads the working copy and the disk where `status` is not sufficient.
 FileState StateOf(const ProviderContext& context, const std::string& path, const FileStatus& status);
 
-/// The statuses of some files, asked of the repository in the cheapest way: one file alone, more by one walk.
+/// The statuses of some files, fetched in the cheapest way: one file alone, more by a walk.
 class Survey {
  public:
   Survey(ProviderContext& context, const std::vector<std::string>& paths);
-  /// Negative when the repository could not be asked.  The user was told why.
+  /// Negative if the repository could not be contacted, which has been reported.
   scc::Long Result() const { return result_; }
   FileStatus StatusOf(const std::string& path) const;
   FileState StateOf(const std::string& path) const { return svnscc::StateOf(context_, path, StatusOf(path)); }

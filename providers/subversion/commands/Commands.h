@@ -1,5 +1,5 @@
-// The file commands.  Each works on all files it is given, tells the user about every one that fails, and returns the
-// last failure's code or SCC_OK.  A Failure thrown out of one concerns the whole call.
+// The file commands.  Each processes all of its files, reports every failure, and returns the last failure's code or
+// SCC_OK.  A Failure that it throws concerns the whole call.
 #pragma once
 
 #include <string>
@@ -19,57 +19,63 @@ scc::Long CheckIn(ProviderContext& context, Names names, const std::string& comm
 scc::Long Add(ProviderContext& context, Names names, const std::string& comment, scc::Long type,
               AfterCommit after, const CommandOptions& options);
 scc::Long Remove(ProviderContext& context, Names names, const std::string& comment);
-/// Renames or moves a file in the repository; what is on disk stays where it is, under either name.
+/// Renames or moves a file in the repository; leaves the files on disk alone.
 scc::Long Rename(ProviderContext& context, const char* oldName, const char* newName);
 scc::Long GetFiles(ProviderContext& context, Names names, const CommandOptions& options);
 
 enum class Below { FilesOnly, Everything };
 scc::Long GetFolders(ProviderContext& context, Names names, Below below, const CommandOptions& options);
 
-/// Compares the file with what was last fetched, without asking the repository: SCC_OK or SCC_I_FILEDIFFERS.  `flags`
-/// are those of SccDiff.
+/// Compares the file with the working copy's base, without contacting the repository.  `flags` are those of SccDiff.
+/// Returns SCC_OK, SCC_I_FILEDIFFERS or an error code.
 scc::Long QuickDiff(ProviderContext& context, const char* name, scc::Long flags);
 
-// Steps that several commands share.
+// Steps shared by several commands.  They throw Failure.
 
-/// Brings a path up to date, fetching it and its parent folders when only the repository has them.  No local file may
-/// stand in the way: it would count as an edit (see MovedObstruction).
+/// Updates paths to the newest revision; fetches missing ones with their parent folders.  An obstructing file would become
+/// a local edit (see MovedObstruction).
 void Update(ProviderContext& context, const std::vector<std::string>& paths);
-/// The same to a given revision, each path by itself.
+/// The same to `revision`.
 void UpdateTo(ProviderContext& context, const std::vector<std::string>& paths,
               const svn_opt_revision_t& revision);
-/// Takes a conflict in a text for settled.
+enum class AddedFiles { Keep, Delete };
+/// Reverts local changes.  `added` says what happens to added files on disk.
+void Revert(ProviderContext& context, const std::vector<std::string>& paths,
+            svn_depth_t depth = svn_depth_empty, AddedFiles added = AddedFiles::Keep);
+/// Takes back scheduled additions and deletions that were not committed, ignoring errors; leaves files on disk alone.
+void Unschedule(ProviderContext& context, const std::vector<std::string>& paths);
+/// Marks a text conflict as resolved.
 void MarkResolved(ProviderContext& context, const std::string& path);
-/// End conflicts of folders: above these files, or of all below a folder.  Edits stay where the repository has no such
-/// file, and in copies beside the repository's otherwise.
+/// Resolve the conflicts of folders above these files, or below a folder.  Local edits stay in place where the repository
+/// has no such file, else in copies beside the repository's version.
 void ResolveFoldersAbove(ProviderContext& context, const std::vector<std::string>& paths);
 void ResolveFoldersBelow(ProviderContext& context, const std::string& folder);
-/// Makes the working copy forget a file that was deleted in the repository, with the folders above it that were deleted,
-/// too.  All files in them stay on disk.
-void Forget(ProviderContext& context, const std::string& path);
-/// Ends a conflict, or an edit, in favour of the repository.  Edits are kept in copies beside the files.
+/// Removes a file that was deleted in the repository from the working copy, with the deleted folders above it.  All files
+/// stay on disk.
+void Unversion(ProviderContext& context, const std::string& path);
+/// Resolves a conflict in favour of the repository, or reverts an edit.  Keeps local edits in copies beside the files.
 void AcceptRepository(ProviderContext& context, const std::string& path);
-/// Asks, once for all, whether to give up what is here of these files in conflict.  False also when nothing can be asked.
+/// Asks once for all paths whether to do so.  False also if no window can be shown.
 bool AskToAcceptRepository(ProviderContext& context, const std::vector<std::string>& paths);
-/// The folders above `path`, up to the project's, that the repository does not have yet, outermost first.
+/// The folders above `path` inside the project that are not under control yet, outermost first.
 std::vector<std::string> NewFoldersAbove(const ProviderContext& context, const std::string& path);
 std::string ParentOf(const std::string& path);
-/// Commits `paths`, each on its own, in one revision.  Throws Failure when nothing was committed.
+/// Commits exactly `paths`, not what is below them, in one revision.
 void Commit(ProviderContext& context, const std::vector<std::string>& paths, const std::string& log,
             AfterCommit locks);
 enum class ForeignLocks { Respect, Steal };
-/// Locks controlled files and makes them writable; a file that is out of date is updated first.  Returns who was refused,
-/// and why.
+/// Locks controlled files and makes them writable; updates outdated files first.  Returns the files that could not be
+/// locked, with the reasons.
 std::map<std::string, Failure> LockAvailable(ProviderContext& context, const std::vector<std::string>& paths,
                                              const std::string& comment,
                                              ForeignLocks others = ForeignLocks::Respect);
-/// The same; refusals are failures.
+/// The same; records the refused files in `outcome`.
 void Lock(ProviderContext& context, const std::vector<std::string>& paths, const std::string& comment,
           ForeignLocks others, Outcome& outcome);
-/// Tells of files that were named with others and are not checked out: a failure only when none of the others was.
+/// Reports files that are not checked out: as information if others of the call were, else as failures.
 void ReportNotCheckedOut(ProviderContext& context, const std::vector<std::string>& paths, bool othersWereOut,
                          Outcome& outcome);
-/// Releases locks that the working copy holds.
+/// Releases locks of the working copy.
 void Unlock(ProviderContext& context, const std::vector<std::string>& paths, Outcome& outcome);
 
 }  // namespace kestrel::svnscc

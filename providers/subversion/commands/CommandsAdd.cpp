@@ -20,25 +20,25 @@
 namespace kestrel::svnscc {
 namespace {
 
-/// The file, or the outermost of the folders above it that the working copy does not know: what is not in the repository
-/// under that name is not there below it either.
+/// The file, or the outermost folder above it that is not in the working copy: if the repository does not have that
+/// folder, it has nothing below it.
 std::string OutermostUnknown(const ProviderContext& context, const std::string& path) {
   const auto folders = NewFoldersAbove(context, path);
   return folders.empty() ? path : folders.front();
 }
 
-/// Whether the repository can have folders above the file that the working copy does not know yet.
+/// Whether the repository has folders above the file that are not in the working copy.
 bool HasUnfetchedFolders(ProviderContext& context, const Survey& survey, bool isAlone,
                          const std::string& path) {
   const std::string unknown = OutermostUnknown(context, path);
-  if (unknown == path) return false;  // then the file would have a status of its own
+  if (unknown == path) return false;  // the file has a status of its own
   if (!isAlone) return survey.StatusOf(unknown).Bits != 0;
   const Project& project = context.CurrentProject();
   const char* inside = svn_dirent_skip_ancestor(project.Folder.c_str(), unknown.c_str());
   return KindOf(context.Svn(), UrlOf(project.Url, inside)) != svn_node_none;
 }
 
-/// The nearest folder above that the working copy knows.
+/// The nearest folder above that is in the working copy.
 std::string KnownFolderAbove(const ProviderContext& context, const std::string& path) {
   std::string folder = ParentOf(path);
   while (folder != context.CurrentProject().Folder && !ReadLocalStatus(context, folder).IsControlled() &&
@@ -47,13 +47,13 @@ std::string KnownFolderAbove(const ProviderContext& context, const std::string& 
   return folder;
 }
 
-/// Readies the folders above a new file: what the repository has of them is fetched, what it has no more is forgotten.
+/// Prepares the folders above a new file: fetches those that the repository has, unversions those it has deleted.
 void PrepareFoldersAbove(ProviderContext& context, const Survey& survey, bool isAlone,
                          const std::string& path) {
   const std::string folder = KnownFolderAbove(context, path);
   if (folder != context.CurrentProject().Folder) {
     const FileStatus status = isAlone ? FetchStatus(context, folder) : survey.StatusOf(folder);
-    if ((status.Bits & scc::SCC_STATUS_DELETED) != 0) Forget(context, folder);
+    if ((status.Bits & scc::SCC_STATUS_DELETED) != 0) Unversion(context, folder);
   }
   if (HasUnfetchedFolders(context, survey, isAlone, path)) Update(context, {path});
 }
@@ -61,7 +61,7 @@ void PrepareFoldersAbove(ProviderContext& context, const Survey& survey, bool is
 void CheckAddable(ProviderContext& context, const Survey& survey, bool isAlone, const std::string& path) {
   if (!IsOnDisk(path)) throw Failure(scc::SCC_E_FILENOTEXIST, sFileMissing);
   if (!FileExists(path)) throw Failure(scc::SCC_E_TYPENOTSUPPORTED, sNotAFile);
-  if (Require(survey.StateOf(path), Command::Add) == Step::Drop) Forget(context, path);
+  if (Require(survey.StateOf(path), Command::Add) == Step::Drop) Unversion(context, path);
   PrepareFoldersAbove(context, survey, isAlone, path);
   if (ReadLocalStatus(context, path).IsControlled())
     throw Failure(scc::SCC_E_FILEALREADYEXISTS, sAlreadyControlled);
@@ -74,48 +74,48 @@ void SetProperty(ProviderContext& context, const std::string& path, const char* 
                                              context.ClientContext(), pool));
 }
 
-void Schedule(ProviderContext& context, const std::string& path, scc::Long type,
-              const CommandOptions& options) {
+void ScheduleAddition(ProviderContext& context, const std::string& path, scc::Long type,
+                      const CommandOptions& options) {
   const Pool pool;
   if (ReadLocalStatus(context, path).State != LocalState::Added)
     context.Svn().Run(svn_client_add5(path.c_str(), svn_depth_empty, /*force*/ FALSE, /*no_ignore*/ TRUE,
                                       /*no_autoprops*/ FALSE, /*add_parents*/ TRUE, context.ClientContext(),
                                       pool));
-  // Read-only until it is checked out, everywhere.
+  // svn:needs-lock makes the file read-only in every working copy that has not checked it out.
   if (!options.WithoutNeedsLock) SetProperty(context, path, SVN_PROP_NEEDS_LOCK, "*");
   if ((type & scc::SCC_FILETYPE_BINARY) != 0)
     SetProperty(context, path, SVN_PROP_MIME_TYPE, "application/octet-stream");
 }
 
-/// Someone added the name at the same moment: to the API that is no conflict.
+/// Another user added the file at the same time, which the API does not call a conflict.
 Failure AsAddFailure(const Failure& failure) {
   return failure.Result() == scc::SCC_E_CHECKINCONFLICT
              ? Failure(scc::SCC_E_FILEALREADYEXISTS, failure.what())
              : failure;
 }
 
-/// The files of one call on their way into the repository.
+/// The files that one call adds.
 class Addition {
  public:
   Addition(ProviderContext& context, const std::string& comment, Outcome& outcome)
       : context_(context), comment_(comment), outcome_(outcome) {}
 
-  void Take(const std::string& path, scc::Long type, const CommandOptions& options, const Survey& survey,
-            bool isAlone) {
+  void Schedule(const std::string& path, scc::Long type, const CommandOptions& options, const Survey& survey,
+                bool isAlone) {
     CheckAddable(context_, survey, isAlone, path);
     const auto folders = NewFoldersAbove(context_, path);
     folders_.insert(folders.begin(), folders.end());
     scheduled_.push_back(path);
     try {
-      Schedule(context_, path, type, options);
+      ScheduleAddition(context_, path, type, options);
     } catch (const Failure&) {
       scheduled_.pop_back();
-      Unschedule({path});
+      Unschedule(context_, {path});
       throw;
     }
   }
 
-  /// One revision for all, so that nobody sees half of it.  Returns what was added.
+  /// Commits all files in one revision if possible.  Returns the files that were added.
   std::vector<std::string> Run() {
     std::vector<std::string> added;
     if (!scheduled_.empty()) try {
@@ -127,14 +127,14 @@ class Addition {
         else
           added = RunOneByOne();
       }
-    Unschedule(EmptyFolders());
+    Unschedule(context_, EmptyFolders());
     return added;
   }
 
-  /// Forgets what was not committed.
+  /// Takes back what was not committed.
   void Abandon() {
-    Unschedule(scheduled_);
-    Unschedule(EmptyFolders());
+    Unschedule(context_, scheduled_);
+    Unschedule(context_, EmptyFolders());
   }
 
  private:
@@ -150,7 +150,7 @@ class Addition {
     Commit(context_, {targets.begin(), targets.end()}, comment_, AfterCommit::Release);
   }
 
-  /// Some of the files were refused, and a commit does not say which: the others need not suffer.
+  /// A refused commit does not tell which files caused it: commits each alone.
   std::vector<std::string> RunOneByOne() {
     std::vector<std::string> added;
     for (const auto& path : scheduled_) {
@@ -165,21 +165,11 @@ class Addition {
   }
 
   void Refuse(const std::vector<std::string>& paths, const Failure& failure) {
-    Unschedule(paths);
+    Unschedule(context_, paths);
     for (const auto& path : paths) outcome_.Fail(path, AsAddFailure(failure));
   }
 
-  /// Takes schedulings back that were not committed; what is on disk stays.
-  void Unschedule(const std::vector<std::string>& paths) {
-    if (paths.empty()) return;
-    const MutedNotifications silence(context_);
-    const Pool pool;
-    svn_error_clear(svn_client_revert4(ToArray(paths, pool), svn_depth_empty, nullptr, FALSE,
-                                       /*metadata_only*/ TRUE,
-                                       /*added_keep_local*/ TRUE, context_.ClientContext(), pool));
-  }
-
-  /// Folders that were scheduled for files that did not come, innermost first.
+  /// Folders scheduled for files that were not committed, innermost first.
   std::vector<std::string> EmptyFolders() const {
     std::vector<std::string> folders;
     for (auto folder = folders_.rbegin(); folder != folders_.rend(); ++folder)
@@ -198,8 +188,8 @@ svn_revnum_t RevisionOf(ProviderContext& context, const std::string& path) {
   return LocalNodeInfo(context.Svn(), path).ChangedRevision;
 }
 
-/// Takes those out of `paths` that this context added and nobody touched since, and returns them: clients name a form
-/// twice when they add it with its unit.
+/// Removes from `paths` the unchanged files that this context has added, and returns them: a client that adds a form with
+/// its unit names the form twice.
 std::vector<std::string> ExtractJustAdded(ProviderContext& context, const Survey& survey,
                                           std::vector<std::string>& paths) {
   const auto isKnown = [&](const std::string& path) {
@@ -214,7 +204,7 @@ std::vector<std::string> ExtractJustAdded(ProviderContext& context, const Survey
   return known;
 }
 
-/// The files are in the repository: a lock that was refused does not make that a failure.
+/// Reports a refused lock as a warning: the files have been added.
 void CheckOutAdded(ProviderContext& context, const std::vector<std::string>& paths,
                    const std::string& comment) {
   if (paths.empty()) return;
@@ -254,7 +244,7 @@ scc::Long Add(ProviderContext& context, Names names, const std::string& comment,
   std::vector<std::string> added;
   try {
     for (const auto& path : paths)
-      outcome.Try(path, [&] { addition.Take(path, type, options, survey, isAlone); });
+      outcome.Try(path, [&] { addition.Schedule(path, type, options, survey, isAlone); });
     added = addition.Run();
   } catch (const Failure&) {
     addition.Abandon();

@@ -1,4 +1,4 @@
-// Check-in, and committing as a step of other commands.
+// Check-in, and commits for other commands.
 #include <algorithm>
 
 #include "subversion/commands/CommandStrings.h"
@@ -10,7 +10,7 @@
 namespace kestrel::svnscc {
 namespace {
 
-/// What is to be done with the files of one call.
+/// The files of one call by what has to be done.
 struct Batch {
   std::vector<std::string> changed;
   std::vector<std::string> unchanged;
@@ -26,8 +26,8 @@ void Sort(ProviderContext& context, const std::string& path, bool isAlone, Batch
   kind.push_back(path);
 }
 
-/// Whether a refused commit says no more than that the working copy is behind: files that were moved away and back are
-/// as they were, but count as old.
+/// Whether a commit was refused although no file has changed in the repository: a file that was moved away and back counts
+/// as out of date.
 bool IsOnlyBehind(const Survey& survey, const std::vector<std::string>& paths) {
   return survey.Result() >= 0 && std::all_of(paths.begin(), paths.end(), [&](const auto& path) {
            return survey.StateOf(path) == FileState::Edited;
@@ -42,7 +42,7 @@ void CommitChanged(ProviderContext& context, const std::vector<std::string>& pat
     if (failure.Result() != scc::SCC_E_CHECKINCONFLICT) throw;
     const Survey survey(context, paths);
     if (!IsOnlyBehind(survey, paths)) {
-      // A commit takes all of its files or none: each is told, the guilty ones with their reason.
+      // A commit is atomic: every file fails, those that caused it with their own reason.
       for (const auto& path : paths)
         outcome.Try(path, [&] {
           Require(survey.StateOf(path), Command::CheckIn);
@@ -55,7 +55,7 @@ void CommitChanged(ProviderContext& context, const std::vector<std::string>& pat
   Commit(context, paths, comment, after);
 }
 
-/// A lock that was taken away is not noticed while nothing is sent.
+/// A commit would report broken locks; files that are not sent need a look.
 void ReportLostLocks(ProviderContext& context, const std::vector<std::string>& paths) {
   if (paths.empty()) return;
   const Survey survey(context, paths);

@@ -1,4 +1,4 @@
-// Getting files, and updating as a step of other commands.
+// Get, and updates for other commands.
 #include <svn_dirent_uri.h>
 
 #include <algorithm>
@@ -19,18 +19,18 @@
 namespace kestrel::svnscc {
 namespace {
 
-enum class Reach { AsItIs, Set };
+enum class Depth { Keep, Set };
 
-void UpdateTo(ProviderContext& context, const std::vector<std::string>& paths, svn_depth_t depth, Reach reach,
-              const svn_opt_revision_t& revision = Newest()) {
+void UpdateTo(ProviderContext& context, const std::vector<std::string>& paths, svn_depth_t depth,
+              Depth change, const svn_opt_revision_t& revision = Newest()) {
   const Pool pool;
   context.Svn().Run(svn_client_update4(nullptr, ToArray(paths, pool), &revision, depth,
-                                       /*depth_is_sticky*/ reach == Reach::Set, /*ignore_externals*/ FALSE,
+                                       /*depth_is_sticky*/ change == Depth::Set, /*ignore_externals*/ FALSE,
                                        /*allow_unver_obstructions*/ TRUE, /*adds_as_modification*/ TRUE,
                                        /*make_parents*/ TRUE, context.ClientContext(), pool));
 }
 
-/// A get that left a conflict did not do what was asked, whoever caused it.
+/// A get that leaves a conflict has failed.
 void RequireNoConflict(ProviderContext& context, const std::string& path) {
   const LocalStatus local = ReadLocalStatus(context, path);
   if (local.IsConflicted()) Require(StateOf(local), Command::Get);
@@ -46,7 +46,7 @@ std::vector<std::string> FilesBelow(const StatusTable& walked, const std::string
   return files;
 }
 
-/// The files that an update of the folder would lay its own over, out of its way.
+/// Moves the files aside that would obstruct an update of the folder.
 std::vector<MovedObstruction> MoveObstructionsBelow(ProviderContext& context, const std::string& folder,
                                                     Below below) {
   const StatusTable walked = WalkProject(context);
@@ -56,8 +56,8 @@ std::vector<MovedObstruction> MoveObstructionsBelow(ProviderContext& context, co
   return rooms;
 }
 
-/// Whether libsvn gave up at a name in the folder that is not UTF-8.  Files that are named it can fetch.
-bool IsOverBadName(const Failure& failure, const std::string& folder) {
+/// Whether libsvn failed on a name in the folder that is not UTF-8; it can update single files then.
+bool IsFromNonUtf8Name(const Failure& failure, const std::string& folder) {
   return failure.Has(APR_EINVAL) && !NamesNotUtf8(folder).empty();
 }
 
@@ -66,16 +66,16 @@ void UpdateEach(ProviderContext& context, const std::string& folder, Below below
   const StatusTable walked = WalkProject(context);
   for (const auto& file : FilesBelow(walked, folder, below))
     if (walked.Of(file).NeedsGet || revision.kind == svn_opt_revision_number)
-      UpdateTo(context, {file}, svn_depth_unknown, Reach::AsItIs, revision);
+      UpdateTo(context, {file}, svn_depth_unknown, Depth::Keep, revision);
 }
 
-/// False when the files have to be fetched one by one.
+/// False if the files have to be fetched one by one.
 bool UpdateProject(ProviderContext& context) {
   const std::string folder = context.CurrentProject().Folder;
   try {
-    UpdateTo(context, {folder}, svn_depth_infinity, Reach::Set);
+    UpdateTo(context, {folder}, svn_depth_infinity, Depth::Set);
   } catch (const Failure& failure) {
-    if (!IsOverBadName(failure, folder)) throw;
+    if (!IsFromNonUtf8Name(failure, folder)) throw;
     ReleaseOwnLocks(context);
     return false;
   }
@@ -83,34 +83,34 @@ bool UpdateProject(ProviderContext& context) {
   return true;
 }
 
-/// Setting a folder's reach drops what lies beyond: a folder that holds others is not narrowed to its files.
+/// Whether the folder has subfolders in the working copy, which setting a smaller depth would remove.
 bool HoldsFolders(ProviderContext& context, const std::string& folder) {
   const auto known = LocalEntries(context, folder);
   return std::any_of(known.begin(), known.end(),
                      [&](const auto& entry) { return entry.second.IsFolder && entry.first != folder; });
 }
 
-/// The files right in a folder, each by itself.
+/// Gets the files of a folder without setting its depth.
 void GetFilesIn(ProviderContext& context, const std::string& folder, const svn_opt_revision_t& revision) {
-  UpdateTo(context, {folder}, svn_depth_files, Reach::AsItIs, revision);
+  UpdateTo(context, {folder}, svn_depth_files, Depth::Keep, revision);
   const StatusTable walked = WalkProject(context);
   std::vector<std::string> missing;
   for (const auto& file : walked.Files())
     if (ParentOf(file) == folder && !walked.Of(file).IsHere) missing.push_back(file);
-  if (!missing.empty()) UpdateTo(context, missing, svn_depth_unknown, Reach::AsItIs, revision);
+  if (!missing.empty()) UpdateTo(context, missing, svn_depth_unknown, Depth::Keep, revision);
 }
 
 void UpdateFolder(ProviderContext& context, const std::string& path, Below below,
                   const svn_opt_revision_t& revision) {
   const LocalStatus local = ReadLocalStatus(context, path);
   if (below == Below::Everything)
-    UpdateTo(context, {path}, svn_depth_infinity, Reach::Set, revision);
+    UpdateTo(context, {path}, svn_depth_infinity, Depth::Set, revision);
   else if (local.Depth >= svn_depth_files)
-    UpdateTo(context, {path}, svn_depth_files, Reach::AsItIs, revision);
+    UpdateTo(context, {path}, svn_depth_files, Depth::Keep, revision);
   else if (HoldsFolders(context, path))
     GetFilesIn(context, path, revision);
   else
-    UpdateTo(context, {path}, svn_depth_files, Reach::Set, revision);
+    UpdateTo(context, {path}, svn_depth_files, Depth::Set, revision);
 }
 
 void ReportConflicts(ProviderContext& context, const std::string& folder, Outcome& outcome) {
@@ -131,9 +131,9 @@ void GetFolder(ProviderContext& context, const std::string& path, Below below,
     try {
       UpdateFolder(context, path, below, revision);
     } catch (const Failure& failure) {
-      // libsvn stumbles over what it has just dropped, and finds its way at the second try.
+      // libsvn fails on a path that it has just removed; a retry succeeds.
       const bool stumbled = failure.Has(SVN_ERR_WC_PATH_NOT_FOUND);
-      if (!stumbled && !IsOverBadName(failure, path)) throw;
+      if (!stumbled && !IsFromNonUtf8Name(failure, path)) throw;
       ReleaseOwnLocks(context);
       (stumbled ? UpdateFolder : UpdateEach)(context, path, below, revision);
     }
@@ -150,11 +150,11 @@ void GetFolder(ProviderContext& context, const std::string& path, Below below,
 void GetOld(ProviderContext& context, const std::string& path, svn_revnum_t revision) {
   if (ReadLocalStatus(context, path).HasLock) throw Failure(scc::SCC_E_FILEISCHECKEDOUT, sStillOut);
   RequireSameName(context, RequireControlled(context, path.c_str()), revision);
-  UpdateTo(context, {path}, svn_depth_unknown, Reach::AsItIs, Numbered(revision));
+  UpdateTo(context, {path}, svn_depth_unknown, Depth::Keep, Numbered(revision));
   RequireNoConflict(context, path);
 }
 
-/// Whether the paths are all of the project that an update would change.
+/// Whether `stale` contains every file of the project that an update would change.
 bool CoverEverything(const StatusTable& statuses, std::vector<std::string> stale) {
   std::sort(stale.begin(), stale.end());
   const auto files = statuses.Files();
@@ -171,15 +171,15 @@ void ReportUpToDate(ProviderContext& context, const std::vector<std::string>& pa
 }  // namespace
 
 void Update(ProviderContext& context, const std::vector<std::string>& paths) {
-  UpdateTo(context, paths, svn_depth_unknown, Reach::AsItIs);
+  UpdateTo(context, paths, svn_depth_unknown, Depth::Keep);
 }
 
 void UpdateTo(ProviderContext& context, const std::vector<std::string>& paths,
               const svn_opt_revision_t& revision) {
-  UpdateTo(context, paths, svn_depth_unknown, Reach::AsItIs, revision);
+  UpdateTo(context, paths, svn_depth_unknown, Depth::Keep, revision);
 }
 
-// One walk finds what has to be fetched; a fetch costs a connection per file unless it is the whole tree.
+// One walk finds the files to fetch.  An update of a file costs a connection, as does one of the whole tree.
 scc::Long GetFiles(ProviderContext& context, Names names, const CommandOptions& options) {
   Outcome outcome(context);
   const auto paths = outcome.PathsOf(names);

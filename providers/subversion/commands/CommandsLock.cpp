@@ -1,4 +1,4 @@
-// Check-out and its undoing: locks.
+// Check-out and undo check-out: locks.
 #include <svn_dirent_uri.h>
 
 #include <algorithm>
@@ -17,27 +17,28 @@
 namespace kestrel::svnscc {
 namespace {
 
-/// Tries to lock all of `paths`; who was refused, and why.
+/// Locks `paths`; returns the refused ones with the reasons.
 std::map<std::string, Failure> TryLock(ProviderContext& context, const std::vector<std::string>& paths,
                                        const std::string& comment, ForeignLocks others) {
   const Pool pool;
   context.DrainRefusals();
   if (paths.empty()) return {};
-  std::vector<std::string> settled;  // by this call; a refused one may be left over from an earlier check-out
-  std::copy_if(paths.begin(), paths.end(), std::back_inserter(settled),
+  std::vector<std::string>
+      done;  // can leave the journal; a refused path may be there from an earlier check-out
+  std::copy_if(paths.begin(), paths.end(), std::back_inserter(done),
                [&](const std::string& path) { return !context.Journal().Has(path); });
   context.Journal().Add(paths);
   context.Svn().Run(svn_client_lock(ToArray(paths, pool), comment.c_str(),
                                     /*steal_lock*/ others == ForeignLocks::Steal, context.ClientContext(),
                                     pool));
   auto refused = context.DrainRefusals();
-  std::copy_if(paths.begin(), paths.end(), std::back_inserter(settled),
+  std::copy_if(paths.begin(), paths.end(), std::back_inserter(done),
                [&](const std::string& path) { return !refused.contains(path); });
-  context.Journal().Remove(settled);
+  context.Journal().Remove(done);
   return refused;
 }
 
-/// Asks about refused locks that an interrupted check-out here left, and takes them over.
+/// Offers to take over refused locks that an interrupted check-out here left.
 void OfferTakeOver(ProviderContext& context, const std::string& comment,
                    std::map<std::string, Failure>& refused) {
   std::vector<std::string> left;
@@ -56,7 +57,7 @@ void OfferTakeOver(ProviderContext& context, const std::string& comment,
   for (const auto& path : left) refused.emplace(path, Failure(scc::SCC_E_ALREADYCHECKEDOUT, sLeftOver));
 }
 
-/// A refused lock in the words of the API: whose is it?
+/// The reason for a refused lock, which depends on its owner.
 Failure ToLockFailure(ProviderContext& context, const std::string& path, const Failure& refusal) {
   if (refusal.Has(SVN_ERR_FS_PATH_ALREADY_LOCKED)) {
     if ((FetchStatus(context, path).Bits & scc::SCC_STATUS_OUTBYUSER) != 0)
@@ -66,8 +67,8 @@ Failure ToLockFailure(ProviderContext& context, const std::string& path, const F
   return refusal;
 }
 
-/// Whether it was refused because it is out here already.  That is what the user wants, so it is no failure: clients
-/// name a form twice when they check it out together with its unit.
+/// Whether a lock was refused because the file is checked out here already, which is no failure: a client that checks out a
+/// form with its unit names the form twice.
 bool IsOutHere(ProviderContext& context, const std::string& path, const Failure& refusal) {
   if (!refusal.Has(SVN_ERR_FS_PATH_ALREADY_LOCKED)) return false;
   if ((FetchStatus(context, path).Bits & scc::SCC_STATUS_CHECKEDOUT) == 0) return false;
@@ -75,7 +76,7 @@ bool IsOutHere(ProviderContext& context, const std::string& path, const Failure&
   return true;
 }
 
-/// Brings an old file up to date.  One that was deleted in the repository stays: an update would take it away.
+/// Updates an outdated file.  Throws Failure for a deleted file, which an update would remove.
 void UpdateOutdated(ProviderContext& context, const std::string& path) {
   if ((FetchStatus(context, path).Bits & scc::SCC_STATUS_DELETED) != 0)
     throw Failure(scc::SCC_E_FILENOTCONTROLLED, sDeletedInRepository);
@@ -84,7 +85,7 @@ void UpdateOutdated(ProviderContext& context, const std::string& path) {
   if (local.IsConflicted()) Require(StateOf(local), Command::CheckOut);
 }
 
-/// Fetches the repository's version of a file that stands in its way, if both are the same.
+/// Fetches a file over an obstructing one with the same contents.  Throws Failure if they differ.
 void Adopt(ProviderContext& context, const std::string& path) {
   const char* inside = svn_dirent_skip_ancestor(context.CurrentProject().Folder.c_str(), path.c_str());
   const Contents theirs = FetchContents(context.Svn(), UrlOf(context.CurrentProject().Url, inside), Newest());
@@ -96,14 +97,14 @@ void Adopt(ProviderContext& context, const std::string& path) {
   Update(context, {path});
 }
 
-/// What the working copy does not have the repository is asked about.
+/// Contacts the repository about a file that is not in the working copy.
 FileState StateFor(ProviderContext& context, const std::string& path, const LocalStatus& local) {
   const FileState state = StateOf(local);
   const bool unknown = state == FileState::Nowhere || state == FileState::Loose;
   return unknown ? StateOf(context, path, FetchStatus(context, path)) : state;
 }
 
-/// Fetches what is not here yet; false, with the failure noted, when there is nothing to lock.
+/// Brings a file into a state in which it can be locked; false after a failure, which it records.
 bool Prepare(ProviderContext& context, const std::string& path, Outcome& outcome) {
   return outcome.Try(path, [&] {
     const LocalStatus local = ReadLocalStatus(context, path);
@@ -133,7 +134,7 @@ bool Prepare(ProviderContext& context, const std::string& path, Outcome& outcome
   });
 }
 
-/// Whether the check-out of the file can be undone, and how.  Nothing, when a file of a batch was never checked out.
+/// How to undo the check-out of the file; Nothing for a file of a batch that is not checked out.  Throws Failure.
 Step PrepareUndo(ProviderContext& context, const std::string& path, bool isBatch) {
   const LocalStatus local = ReadLocalStatus(context, path);
   FileState state = StateFor(context, path, local);
@@ -183,7 +184,7 @@ void Unlock(ProviderContext& context, const std::vector<std::string>& paths, Out
   context.Svn().Run(
       svn_client_unlock(ToArray(paths, pool), /*break_lock*/ FALSE, context.ClientContext(), pool));
   for (const auto& [path, refusal] : context.DrainRefusals()) {
-    // Someone broke the lock: what was wanted has happened.
+    // Another user broke the lock: the file is unlocked.
     if (refusal.Has(SVN_ERR_FS_NO_SUCH_LOCK) || refusal.Has(SVN_ERR_FS_BAD_LOCK_TOKEN) ||
         refusal.Has(SVN_ERR_FS_NOT_FOUND))
       ReportBrokenLock(context, path);
@@ -214,7 +215,7 @@ scc::Long CheckOut(ProviderContext& context, Names names, const std::string& com
   return outcome.Result();
 }
 
-// A client names the files that belong together, out or not: what was not out is no failure beside what was.
+// A client names all files of a module: one that is not checked out is no failure if others are.
 scc::Long UndoCheckOut(ProviderContext& context, Names names) {
   Outcome outcome(context);
   std::vector<std::string> undone;

@@ -1,4 +1,4 @@
-// Taking files out of the repository.
+// Removing files from the repository.
 #include "subversion/commands/CommandStrings.h"
 #include "subversion/commands/CommandTable.h"
 #include "subversion/commands/Commands.h"
@@ -8,7 +8,7 @@
 namespace kestrel::svnscc {
 namespace {
 
-/// Whether the file can be removed, and what comes before.
+/// The step before a removal.  Throws Failure if the file cannot be removed.
 Step PrepareRemoval(const Survey& survey, const std::string& path) {
   const FileStatus status = survey.StatusOf(path);
   const auto has = [&](scc::Long bits) { return (status.Bits & bits) != 0; };
@@ -25,15 +25,6 @@ void ScheduleDeletion(ProviderContext& context, const std::vector<std::string>& 
                                        nullptr, context.ClientContext(), pool));
 }
 
-/// Takes the deletion back; local edits stay.
-void Unschedule(ProviderContext& context, const std::vector<std::string>& paths) {
-  const MutedNotifications silence(context);
-  const Pool pool;
-  svn_error_clear(svn_client_revert4(ToArray(paths, pool), svn_depth_empty, nullptr, FALSE,
-                                     /*metadata_only*/ TRUE,
-                                     /*added_keep_local*/ TRUE, context.ClientContext(), pool));
-}
-
 }  // namespace
 
 scc::Long Remove(ProviderContext& context, Names names, const std::string& comment) {
@@ -43,8 +34,8 @@ scc::Long Remove(ProviderContext& context, Names names, const std::string& comme
   const Survey survey(context, paths);
   if (survey.Result() < 0) return survey.Result();
 
-  std::vector<std::string> kept;     // the copies on disk stay
-  std::vector<std::string> fetched;  // only the repository had them: nothing is left behind
+  std::vector<std::string> kept;     // stay on disk
+  std::vector<std::string> fetched;  // were not on disk, and are deleted there again
   for (const auto& path : paths)
     outcome.Try(path, [&] {
       const bool onDisk = IsOnDisk(path);

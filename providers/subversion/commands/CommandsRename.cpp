@@ -1,4 +1,4 @@
-// Renaming and moving in the repository.  The file on disk is the client's: wherever it is, there it stays.
+// Renaming and moving in the repository.  The client moves the file on disk.
 #include <filesystem>
 #include <optional>
 
@@ -12,7 +12,7 @@
 namespace kestrel::svnscc {
 namespace {
 
-/// Throws unless the file can be renamed; whether it is checked out here.
+/// Whether the file is checked out here.  Throws Failure if it cannot be renamed.
 bool CheckSource(ProviderContext& context, const std::string& path) {
   const LocalStatus local = ReadLocalStatus(context, path);
   if (!local.IsControlled()) throw Failure(scc::SCC_E_FILENOTCONTROLLED, sNotControlled);
@@ -21,7 +21,7 @@ bool CheckSource(ProviderContext& context, const std::string& path) {
   const auto has = [&](scc::Long bit) { return (bits & bit) != 0; };
   if (has(scc::SCC_STATUS_DELETED)) throw Failure(scc::SCC_E_FILENOTCONTROLLED, sDeletedInRepository);
   if (has(scc::SCC_STATUS_OUTOTHER)) throw Failure(scc::SCC_E_FILEOUTEXCLUSIVE, sOutByOther);
-  // The local edits would be laid over what others checked in.
+  // The rename would put the local edits over changes that others checked in.
   if (has(scc::SCC_STATUS_OUTOFDATE) || local.IsConflicted())
     throw Failure(scc::SCC_E_OPNOTPERFORMED, sGetBeforeRename);
   if (has(scc::SCC_STATUS_OUTBYUSER) && !has(scc::SCC_STATUS_CHECKEDOUT))
@@ -29,14 +29,7 @@ bool CheckSource(ProviderContext& context, const std::string& path) {
   return has(scc::SCC_STATUS_CHECKEDOUT);
 }
 
-void Revert(ProviderContext& context, const std::vector<std::string>& paths) {
-  const Pool pool;
-  context.Svn().Run(svn_client_revert4(ToArray(paths, pool), svn_depth_empty, nullptr, FALSE,
-                                       /*metadata_only*/ FALSE,
-                                       /*added_keep_local*/ FALSE, context.ClientContext(), pool));
-}
-
-/// Folders above the new name that the repository does not have, made and scheduled.
+/// Creates and schedules the folders above the new name that the repository does not have, and returns them.
 std::vector<std::string> PrepareFolders(ProviderContext& context, const std::string& path) {
   const std::string parent = ParentOf(path);
   if (!ReadLocalStatus(context, parent).IsControlled()) Update(context, {parent});
@@ -63,15 +56,15 @@ void Undo(ProviderContext& context, const std::string& from, const std::string& 
   std::vector<std::string> paths{to, from};
   paths.insert(paths.end(), folders.rbegin(), folders.rend());
   try {
-    Revert(context, paths);
-  } catch (const Failure& failure) {  // the failure that led here is the one to be told
+    Revert(context, paths, svn_depth_empty, AddedFiles::Delete);
+  } catch (const Failure& failure) {  // the original failure is the command's
     context.Out().Warning(failure.what());
   }
 }
 
-/// What the commit needs on disk, with the client's files out of the way.
+/// Moves and commits, with the client's files moved aside.
 void MoveAndCommit(ProviderContext& context, const std::string& from, const std::string& to) {
-  Revert(context, {from});
+  Revert(context, {from}, svn_depth_empty, AddedFiles::Delete);
   std::vector<std::string> folders;
   try {
     folders = PrepareFolders(context, to);
@@ -88,7 +81,7 @@ void MoveAndCommit(ProviderContext& context, const std::string& from, const std:
   }
 }
 
-/// A place on disk that looks afterwards as it did before, whatever libsvn does there.
+/// Scoped: restores a path on disk to what it was, a file or nothing.
 class RestoredPath {
  public:
   explicit RestoredPath(const std::string& path) : path_(path) {

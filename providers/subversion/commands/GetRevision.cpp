@@ -9,16 +9,6 @@
 #include "system/System.h"
 
 namespace kestrel::svnscc {
-namespace {
-
-void Revert(ProviderContext& context, const std::string& path) {
-  const Pool pool;
-  context.Svn().Run(svn_client_revert4(ToArray({path}, pool), svn_depth_empty, nullptr, FALSE,
-                                       /*metadata_only*/ FALSE, /*added_keep_local*/ TRUE,
-                                       context.ClientContext(), pool));
-}
-
-}  // namespace
 
 GotRevision GetRevision(ProviderContext& context, const std::string& path, svn_revnum_t revision) {
   const LocalStatus local = ReadLocalStatus(context, path);
@@ -28,7 +18,7 @@ GotRevision GetRevision(ProviderContext& context, const std::string& path, svn_r
   if (local.HasLock) {
     WriteFileAtomically(path, FetchContents(context.Svn(), path, Numbered(revision)).Bytes);
   } else {
-    if (local.Differs) Revert(context, path);
+    if (local.Differs) Revert(context, {path});
     UpdateTo(context, {path}, Numbered(revision));
   }
   context.Out().Info(Format(sGotRevision.Text, {static_cast<long long>(revision), context.Label(path)}));

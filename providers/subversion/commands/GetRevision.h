@@ -9,12 +9,12 @@ namespace kestrel::svnscc {
 
 class ProviderContext;
 
-/// What GetRevision did.
+/// The result of GetRevision.
 struct GotRevision {
-  std::string Copy;  // where the local edits are kept; empty when there were none
+  std::string Copy;  // the copy of the local edits; empty if there were none
 };
-/// Makes the local file what it was in `revision`.  A file that is checked out gets it as an edit, so that it can be
-/// checked in; any other is fetched at that revision.  Local edits are kept in a copy beside the file.
+/// Replaces a local file by its contents in `revision`: as an edit, to be checked in, if the file is checked out, else by an
+/// update to that revision.  Keeps local edits in a copy beside the file.  Throws Failure.
 GotRevision GetRevision(ProviderContext& context, const std::string& path, svn_revnum_t revision);
 
 }  // namespace kestrel::svnscc

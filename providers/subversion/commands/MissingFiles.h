@@ -1,4 +1,4 @@
-// Files that the repository has and this computer does not: what SccAddFromScc offers.
+// Files that are in the repository and not on disk, for SccAddFromScc.
 #pragma once
 
 #include <string>
@@ -8,8 +8,7 @@
 
 namespace kestrel::svnscc {
 
-/// Sorted.  `folder` is a path inside the project; only what is below it counts.  Throws Failure when the repository
-/// cannot be asked.
+/// The missing files below `folder`, a path inside the project; sorted.  Throws Failure.
 std::vector<std::string> MissingFiles(ProviderContext& context, const std::string& folder);
 
 }  // namespace kestrel::svnscc

@@ -31,18 +31,18 @@ constexpr Row kAnyControlled{scc::SCC_COMMAND_GET, scc::SCC_STATUS_CONTROLLED, 0
 class Report {
  public:
   Report(scc::TPopListFunc callback, void* callerData) : callback_(callback), callerData_(callerData) {}
-  /// False when the client wants no more.
-  bool Keep(const std::string& name, scc::Long bits) {
+  // Both return false if the client wants no more.
+  bool Include(const std::string& name, scc::Long bits) {
     return callback_(callerData_, 1, bits, name.c_str()) != 0;
   }
-  bool Drop(const char* name, scc::Long bits) { return callback_(callerData_, 0, bits, name) != 0; }
+  bool Exclude(const char* name, scc::Long bits) { return callback_(callerData_, 0, bits, name) != 0; }
 
  private:
   scc::TPopListFunc callback_;
   void* callerData_;
 };
 
-/// Whether one of the folders holds `path` at any depth; climbs, however many folders there are.
+/// Whether one of the folders contains `path` at any depth.  Climbs from `path`: there may be many folders.
 bool IsBelowAny(const std::unordered_set<std::string>& folders, std::string path) {
   for (auto slash = path.rfind('/'); slash != std::string::npos && slash > 0; slash = path.rfind('/')) {
     path.resize(slash);
@@ -54,7 +54,7 @@ bool IsBelowAny(const std::unordered_set<std::string>& folders, std::string path
 bool ExcludeUnfit(scc::SCCCommand command, Names names, const std::vector<FileStatus>& found,
                   Report& report) {
   for (std::size_t i = 0; i < names.size(); ++i)
-    if (names[i] != nullptr && !Fits(command, found[i].Bits) && !report.Drop(names[i], found[i].Bits))
+    if (names[i] != nullptr && !Fits(command, found[i].Bits) && !report.Exclude(names[i], found[i].Bits))
       return false;
   return true;
 }
@@ -85,14 +85,14 @@ scc::Long Populate(ProviderContext& context, scc::SCCCommand command, Names name
   Report report(callback, callerData);
   if (named == Named::Folders && names.empty()) paths.push_back(context.CurrentProject().Folder);
   if (named == Named::Files && !ExcludeUnfit(command, names, found, report)) return table.Result;
-  if (command == scc::SCC_COMMAND_ADD) return table.Result;  // what could be added, the client knows better
+  if (command == scc::SCC_COMMAND_ADD) return table.Result;  // the client knows which files can be added
 
   paths.erase(std::remove(paths.begin(), paths.end(), std::string()), paths.end());
   const std::unordered_set<std::string> listed(paths.begin(), paths.end());
   for (const auto& file : table.Files()) {
     const scc::Long bits = table.Of(file).Bits;
     const bool wanted = named == Named::Folders ? IsBelowAny(listed, file) : !listed.contains(file);
-    if (wanted && Fits(command, bits) && !report.Keep(NativeName(file), bits)) break;
+    if (wanted && Fits(command, bits) && !report.Include(NativeName(file), bits)) break;
   }
   return table.Result;
 }

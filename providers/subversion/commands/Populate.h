@@ -1,4 +1,4 @@
-// Which files fit a command: fills a client's file list.
+// Fills a client's file list with the files that a command can work on.
 #pragma once
 
 #include "subversion/svn/ProviderContext.h"
@@ -7,13 +7,14 @@ namespace kestrel::svnscc {
 
 enum class Named { Files, Folders };
 
-/// Calls `callback` for files that fit `command` and are not among the names, and for names that do not fit.  With
-/// Named::Folders the names are folders (none: the project folder), and everything below them that fits is reported.
-/// `statuses` (may be nullptr) receives one word per name.  Ends early, successfully, when the callback says so.
+/// Calls `callback` for each name that does not fit `command` (to exclude it) and for each file that fits and is not among
+/// the names (to include it).  With Named::Folders the names are folders, or the project folder if there are none, and all
+/// fitting files below them are included.  `statuses` (may be null) receives one status per name.  Stops if the callback
+/// returns 0.
 scc::Long Populate(ProviderContext& context, scc::SCCCommand command, Names names, Named named,
                    scc::TPopListFunc callback, void* callerData, scc::Long* statuses);
 
-/// Whether a file with these bits can be offered for the command.
+/// Whether the command can work on a file with these status bits.
 bool Fits(scc::SCCCommand command, scc::Long bits);
 
 }  // namespace kestrel::svnscc

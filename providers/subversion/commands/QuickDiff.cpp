@@ -15,7 +15,7 @@ bool Differs(ProviderContext& context, const std::string& path, const DiffOption
 
 }  // namespace
 
-// Asked for every row of a file list: no messages, no server.
+// Called for every row of a file list: shows no messages, contacts no server.
 scc::Long QuickDiff(ProviderContext& context, const char* name, scc::Long flags) {
   const std::string path = context.InsidePath(name);
   if (path.empty()) return scc::SCC_E_FILENOTCONTROLLED;
@@ -32,7 +32,7 @@ scc::Long QuickDiff(ProviderContext& context, const char* name, scc::Long flags)
     case LocalState::Unversioned:
       break;
   }
-  // A file of the repository's name that was never fetched: whatever it is, it is not the repository's.
+  // It obstructs a file of the repository, or is local only.
   return context.LastStatuses().Of(path).Bits != 0 ? scc::SCC_I_FILEDIFFERS : scc::SCC_E_FILENOTCONTROLLED;
 }
 

@@ -40,7 +40,7 @@ void RenameOnDisk(const std::string& from, const std::string& to) {
   Check(svn_io_file_rename2(from.c_str(), to.c_str(), /*flush_to_disk*/ FALSE, pool));
 }
 
-// The name is its own: a long one with something behind it would be too long.
+// A fixed name: a suffix might make a long one too long.
 TemporaryRename::TemporaryRename(const std::string& path)
     : path_(path), aside_(FreeName(Beside(path, "scc-aside"))) {
   RenameOnDisk(path_, aside_);
@@ -58,7 +58,7 @@ TemporaryRename::~TemporaryRename() {
 
 std::string FreeNameBeside(const std::string& path) {
   constexpr std::string_view kEnding = ".mine";
-  constexpr std::size_t kRoom = 8;  // for more of them
+  constexpr std::size_t kRoom = 8;  // for what FreeName() appends
   const Pool pool;
   const std::string name = svn_dirent_basename(path.c_str(), pool);
   return FreeName(Beside(
@@ -93,7 +93,7 @@ MovedObstruction::~MovedObstruction() {
       std::filesystem::remove(copy_, ignored);
     else
       context_->Out().Warning(Format(sKeptBeside.Text, {context_->Label(path_), context_->Label(copy_)}));
-  } catch (const std::exception&) {  // the file stays under its new name, beside the old one
+  } catch (const std::exception&) {  // the file keeps its new name
   }
 }
 

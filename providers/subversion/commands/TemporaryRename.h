@@ -1,4 +1,4 @@
-// Keeping files that libsvn must not see or touch.
+// Moving files aside that libsvn must not see or touch.
 #pragma once
 
 #include <svn_client.h>
@@ -12,7 +12,7 @@ namespace kestrel::svnscc {
 
 void RenameOnDisk(const std::string& from, const std::string& to);
 
-/// A file or folder out of libsvn's sight while this lives.  What takes its name meanwhile is lost.
+/// Scoped: renames a file or folder, and back; deletes what has taken its name meanwhile.
 class TemporaryRename {
  public:
   explicit TemporaryRename(const std::string& path);
@@ -27,17 +27,17 @@ class TemporaryRename {
 
 /// A free name in the folder of `path` for a copy of it.
 std::string FreeNameBeside(const std::string& path);
-/// Copies a file to a free name beside it, tells the user, and returns the name.  Throws Failure.
+/// Copies a file to a free name beside it, reports and returns the name.  Throws Failure.
 std::string SaveCopy(ProviderContext& context, const std::string& path);
 
-/// Makes room for a file of the repository where a file stands that never came from it.
+/// Scoped: moves a local file aside that obstructs a file of the repository.
 class MovedObstruction {
  public:
   MovedObstruction(ProviderContext& context, std::string path);
   MovedObstruction(MovedObstruction&& other) noexcept;
   MovedObstruction& operator=(MovedObstruction&&) = delete;
-  /// Puts the file back when nothing took its place.  Otherwise it stays beside, under a name that the user is told,
-  /// unless it says the same as what was fetched.
+  /// Moves the file back if nothing has taken its place.  Otherwise it keeps its new name, which is reported, or is deleted
+  /// if its contents are those of the fetched file.
   ~MovedObstruction();
 
  private:
@@ -46,7 +46,7 @@ class MovedObstruction {
   std::string copy_;
 };
 
-/// No notice reaches the user while this lives: what libsvn does is a step that the user did not ask for.
+/// Scoped: no notification of libsvn reaches the user.
 class MutedNotifications {
  public:
   explicit MutedNotifications(const ProviderContext& context);

@@ -25,7 +25,7 @@ std::string LocalFolderOf(const std::string& text) {
   return absolute;
 }
 
-/// A client may leave both names empty and expect the provider to know them.
+/// A client may leave both names empty.
 void FillNamesFromWorkingCopy(Client& client, const std::string& folder, ProjectNames& names) {
   if (!UrlOfWorkingCopy(client, folder)) throw Failure(scc::SCC_E_UNKNOWNPROJECT, sNoProjectNamed);
   const RepositoryPlace place = PlaceOfWorkingCopy(client, folder);
@@ -66,7 +66,7 @@ void RequireProject(ProviderContext& context, Client& client, const std::string&
   }
 }
 
-/// True when `project.Folder` is a working copy of the project already; throws when it is one of something else.
+/// Whether `project.Folder` is a working copy of the project; throws Failure if it is one of another URL.
 bool IsWorkingCopyOf(Client& client, const Project& project) {
   const auto url = UrlOfWorkingCopy(client, project.Folder);
   if (!url) return false;
@@ -75,12 +75,11 @@ bool IsWorkingCopyOf(Client& client, const Project& project) {
                                                                             ReadableUrl(project.Url)}));
 }
 
-// Nothing is fetched here: files come with the first get, which keeps those of the same name beside them.
+// Fetches nothing: the first get does, and keeps obstructing files under other names.
 void MakeWorkingCopy(Client& client, const Project& project) {
   const Pool pool;
-  svn_opt_revision_t head{};
-  head.kind = svn_opt_revision_head;
-  // libsvn takes a link for something that stands in the way.
+  const svn_opt_revision_t head = Newest();
+  // libsvn treats a symbolic link as an obstruction.
   std::error_code missing;
   const std::string folder = std::filesystem::canonical(project.Folder, missing).string();
   client.Run(svn_client_checkout3(nullptr, project.Url.c_str(), (missing ? project.Folder : folder).c_str(),
@@ -89,7 +88,7 @@ void MakeWorkingCopy(Client& client, const Project& project) {
                                   client.ClientContext(), pool));
 }
 
-/// Whether someone deleted what libsvn still holds open.
+/// Whether .svn was deleted while libsvn has it open.
 bool IsAdministrationGone(Client& client, const std::string& folder) {
   const Pool pool;
   const char* root = nullptr;
@@ -117,7 +116,7 @@ void OpenProject(ProviderContext& context, ProjectNames& names, const OpenMode& 
   project.Url = UrlOf(*root, *path);
 
   RequireConsent(*root, project, names, mode);
-  bool bound = false;  // to be known before anything is made in the repository
+  bool bound = false;  // checked before anything is created in the repository
   RetryWhenFree(context, project.Folder, [&] { bound = IsWorkingCopyOf(*client, project); });
   RequireProject(context, *client, *root, project, names, mode);
   RetryWhenFree(context, project.Folder, [&] {

@@ -7,31 +7,31 @@
 
 namespace kestrel::svnscc {
 
-/// How a client opens a project.
+/// Flags and window of an open call.
 struct OpenMode {
-  bool MayCreate = false;  ///< the project's folder may be made in the repository
-  bool Silent = false;     ///< the user must not be asked anything
+  bool MayCreate = false;  ///< create the project's folder in the repository if it is missing
+  bool Silent = false;     ///< ask the user nothing
   scc::WindowHandle Parent = nullptr;
 };
 
-/// What the client stores for a project.  All but LocalFolder and Comment may be empty; opening fills them in.
+/// What a client stores for a project.  All but LocalFolder and Comment may be empty; OpenProject() fills them in.
 struct ProjectNames {
   std::string User;
   std::string ProjectName;  // path in the repository
   std::string Repository;   // address of the repository
   std::string LocalFolder;
-  std::string Comment;  // for a folder that is made
+  std::string Comment;  // for the commit that creates the folder
 };
 
-/// Opens the project into `context`, whose output is attached already.  A repository that this user has not used before
-/// is asked about first.  Throws Failure, and the context stays closed.
+/// Opens the project in `context`, whose output is attached already.  Asks the user before it contacts a repository that
+/// the user has not used before.  Throws Failure and leaves the context closed.
 void OpenProject(ProviderContext& context, ProjectNames& names, const OpenMode& mode);
 
-/// Makes the project folder a working copy when it is none; files that are there stay as they are.  Throws Failure when
-/// it is a working copy of something else.
+/// Makes the project folder a working copy if it is none; keeps the files in it.  Throws Failure if it is a working copy
+/// of another URL.
 void EnsureWorkingCopy(ProviderContext& context);
 
-/// The name under which the operating system knows the user.
+/// The user's name in the operating system.
 std::string SystemUser();
 
 }  // namespace kestrel::svnscc

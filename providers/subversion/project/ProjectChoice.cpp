@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <filesystem>
 
+#include "common/text/RepositoryPath.h"
 #include "subversion/project/OpenProject.h"
 #include "subversion/project/ProjectStrings.h"
 #include "subversion/project/RecentRepositories.h"
@@ -15,25 +16,16 @@
 namespace kestrel::svnscc {
 namespace {
 
-// What clients keep: some give the project name less room than the API does.
+// Limits of clients: some store shorter project names than the API allows.
 constexpr std::size_t kLongestProjectName = 260;
 constexpr std::size_t kLongestRepository = scc::SCC_PRJPATH_SIZE - 1;
 constexpr std::size_t kLongestUser = scc::SCC_USER_SIZE - 1;
-
-std::string Join(const std::string& parent, const std::string& name) {
-  return parent.empty() ? name : parent + "/" + name;
-}
-
-std::string ParentOf(const std::string& path) {
-  const auto slash = path.rfind('/');
-  return slash == std::string::npos ? "" : path.substr(0, slash);
-}
 
 bool IsFolderName(const std::string& name) {
   return !name.empty() && name != "." && name != ".." && name.find('/') == std::string::npos;
 }
 
-/// What the folder is a working copy of, and the repository's own address; empty texts when it is none.
+/// Where the working copy in `folder` belongs; empty if there is none.
 RepositoryPlace WorkingCopyPlace(const std::string& user, const std::string& folder) {
   const std::string path = ExcludeTrailingPathDelimiter(folder);
   Client client(user);
@@ -68,8 +60,8 @@ std::string ProjectChoice::ProposedRepository() const {
 }
 
 bool ProjectChoice::ShouldConnectAtOnce() const {
-  // What a project names may be somebody else's idea.  A server that was used last may be out of reach, and waiting for
-  // it is not what the user asked for.
+  // The project may come from somebody else: connect only to a repository used before.  Do not make the user wait for a
+  // recent server either, which may be out of reach.
   return !proposed_.empty() ? knowsProposed_ : ProposedRepository().starts_with("file://");
 }
 
@@ -110,7 +102,7 @@ bool ProjectChoice::Connect(const std::string& text) {
   return true;
 }
 
-// The address may name a folder itself; otherwise the project that the client had.
+// The folder of the address if it has one; else the client's project.
 void ProjectChoice::PreselectProject(const std::string& path) {
   const std::string wanted = !path.empty() ? path : ToProjectPath(request_.ProjectName).value_or("");
   if (KindOf(Svn(), UrlOf(root_, wanted)) == svn_node_dir) selected_ = wanted;
@@ -126,7 +118,7 @@ bool ProjectChoice::CreateRepository(const std::string& folder) {
   } catch (const Failure& failure) {
     return Refuse(AsSentence(failure.what()));
   }
-  Tell(sRepositoryMade, false);
+  SetMessage(sRepositoryMade, false);
   return true;
 }
 
@@ -141,7 +133,7 @@ std::optional<std::string> ProjectChoice::AddFolder(const std::string& parent, c
     Refuse(Format(sFolderExists.Text, {trimmed}));
     return std::nullopt;
   }
-  const std::string path = Join(parent, trimmed);
+  const std::string path = PathBelow(parent, trimmed);
   planned_.insert(path);
   ShowNextStep();
   return path;
@@ -156,7 +148,7 @@ std::vector<std::string> ProjectChoice::FoldersOf(const std::string& path) {
     Refuse(AsSentence(failure.what()));
   }
   for (const auto& folder : planned_)
-    if (ParentOf(folder) == path) names.push_back(folder.substr(path.empty() ? 0 : path.size() + 1));
+    if (PathAbove(folder) == path) names.push_back(folder.substr(path.empty() ? 0 : path.size() + 1));
   std::sort(names.begin(), names.end());
   return names;
 }
@@ -184,21 +176,22 @@ ProjectRequest ProjectChoice::Result() const {
   return result;
 }
 
-void ProjectChoice::Tell(const std::string& text, bool isError) {
+void ProjectChoice::SetMessage(const std::string& text, bool isError) {
   message_ = text;
   isError_ = isError;
 }
 
 bool ProjectChoice::Refuse(const std::string& text) {
-  Tell(text, true);
+  SetMessage(text, true);
   return false;
 }
 
 void ProjectChoice::ShowNextStep() {
   const std::string problem = Problem();
-  if (!problem.empty()) return Tell(problem, false);
+  if (!problem.empty()) return SetMessage(problem, false);
   const std::string url = ReadableUrl(UrlOf(root_, *selected_));
-  Tell(planned_.contains(*selected_) ? Format(sWillCreate.Text, {url}) : Format(sWillUse.Text, {url}), false);
+  SetMessage(planned_.contains(*selected_) ? Format(sWillCreate.Text, {url}) : Format(sWillUse.Text, {url}),
+             false);
 }
 
 }  // namespace kestrel::svnscc

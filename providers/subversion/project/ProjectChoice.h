@@ -1,4 +1,4 @@
-// The dialog for choosing a project, without its window: what is connected, what is chosen, whether that will do.
+// The model of the dialog for choosing a project: connection, choice, validation.
 #pragma once
 
 #include <memory>
@@ -16,17 +16,18 @@ class ProjectChoice {
  public:
   explicit ProjectChoice(const ProjectRequest& request);
 
-  // Each of the following leaves a sentence in Message(): what went wrong, or what comes next.
+  // Each of the following sets Message() to an error or to the next step.
   void SetUser(const std::string& user);
-  /// Opens the repository that `text` names, and chooses the folder if it names one.  False leaves nothing connected.
+  /// Connects to the repository at or above the address `text`, and selects the folder that `text` names.  On failure returns
+  /// false and is not connected.
   bool Connect(const std::string& text);
-  /// Makes an empty repository in a folder that is missing or empty, and connects to it.
+  /// Creates an empty repository in a folder that is missing or empty, and connects to it.
   bool CreateRepository(const std::string& folder);
-  /// Plans a new folder, which is made when the project is opened.  Returns its path.
+  /// Plans a new folder, which opening the project creates.  Returns its path, or nullopt if the name is not usable.
   std::optional<std::string> AddFolder(const std::string& parent, const std::string& name);
-  /// Names of the folders in `path`, planned ones included, sorted.
+  /// Names of the folders in `path` including planned ones, sorted.
   std::vector<std::string> FoldersOf(const std::string& path);
-  /// `path` is empty for the root; nullopt chooses nothing.
+  /// `path` is empty for the root; nullopt clears the selection.
   void Select(std::optional<std::string> path);
 
   bool IsConnected() const { return client_ != nullptr; }
@@ -39,26 +40,26 @@ class ProjectChoice {
   const std::string& Message() const { return message_; }
   bool IsError() const { return isError_; }
 
-  /// What the repository line proposes at first.
+  /// The initial address.
   std::string ProposedRepository() const;
-  /// Whether the proposal should be opened without being asked for.
+  /// Whether the dialog connects to the initial address when it opens.
   bool ShouldConnectAtOnce() const;
   std::string ProposedFolderName() const;
-  /// The choice.  CanAccept() only.
+  /// The choice.  Requires CanAccept().
   ProjectRequest Result() const;
 
  private:
   std::string Problem() const;
-  /// The connection, for the user as it is named now.
+  /// The client, re-created after the user name has changed.
   Client& Svn();
-  void Tell(const std::string& text, bool isError);
+  void SetMessage(const std::string& text, bool isError);
   void ShowNextStep();
   bool Refuse(const std::string& text);
   void PreselectProject(const std::string& path);
 
   ProjectRequest request_;
   std::string proposed_;
-  bool knowsProposed_ = false;  // the user agreed to its repository before
+  bool knowsProposed_ = false;  // the user has used its repository before
   std::unique_ptr<Client> client_;
   std::string root_;
   std::set<std::string> planned_;

@@ -15,7 +15,7 @@ namespace {
 namespace fs = std::filesystem;
 
 bool Mentions(const fs::directory_entry& file, const std::string& text) {
-  constexpr std::uintmax_t kLargest = 64 * 1024;  // a mapping has a few lines
+  constexpr std::uintmax_t kLargest = 64 * 1024;  // a mapping file has a few lines
   std::error_code error;
   if (!file.is_regular_file(error) || file.file_size(error) > kLargest) return false;
   try {
@@ -36,7 +36,7 @@ std::string Origin(const Project& project, const ProjectNames& names) {
   return *std::min_element(mappings.begin(), mappings.end());
 }
 
-/// `text` without what could make it look like another one: line breaks, control and format characters.
+/// Replaces characters that could forge the question's text: line breaks, control and format characters.
 std::string OneLine(std::string text) {
   const bool tricky = std::any_of(text.begin(), text.end(), [](char c) {
     const auto byte = static_cast<unsigned char>(c);
@@ -52,7 +52,7 @@ std::string OneLine(std::string text) {
   return text;
 }
 
-/// Asks once; what the user agrees to is kept.
+/// Asks, and stores the consent.
 void Require(const TResString& text, const TResString& note, const std::string& root, const Project& project,
              const ProjectNames& names, const OpenMode& mode) {
   const std::string repository = OneLine(ReadableUrl(root));

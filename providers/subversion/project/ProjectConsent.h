@@ -1,15 +1,15 @@
-// Asking before a project's mapping is followed: it may come from somebody else.
+// Asks the user before a project's mapping file, which may come from somebody else, makes the provider contact a server.
 #pragma once
 
 #include "subversion/project/OpenProject.h"
 
 namespace kestrel::svnscc {
 
-/// Makes sure that the user agreed to use the repository at `root` for `project`.  Throws Failure, before anything is
-/// contacted, when the user did not, or cannot be asked.
+/// Returns if the user has agreed, now or earlier, to use the repository at `root`.  Throws Failure if the user declines or
+/// cannot be asked.  Contacts no server.
 void RequireConsent(const std::string& root, const Project& project, const ProjectNames& names,
                     const OpenMode& mode);
-/// The same for making the project's folder in the repository.
+/// The same for creating the project's folder in the repository.
 void RequireFolderConsent(const std::string& root, const Project& project, const ProjectNames& names,
                           const OpenMode& mode);
 

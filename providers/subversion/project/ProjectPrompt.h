@@ -1,4 +1,4 @@
-// Asking the user which folder of which repository holds the project.
+// Lets the user choose the repository folder of a project.
 #pragma once
 
 #include <string>
@@ -7,17 +7,17 @@
 
 namespace kestrel::svnscc {
 
-/// In: what the client proposes; texts may be empty.  Out: what was chosen.
+/// In: the client's proposal, whose texts may be empty.  Out: the choice.
 struct ProjectRequest {
   std::string User;
   std::string ProjectName;
   std::string Repository;
-  std::string LocalFolder;  // shown, never changed
+  std::string LocalFolder;  // for display
   bool MayCreate = false;
-  bool IsNew = false;  // the folder is made when the project is opened
+  bool IsNew = false;  // opening the project creates the folder
 };
 
-/// Shows the dialog.  SCC_OK, SCC_I_OPERATIONCANCELED, or SCC_E_NONSPECIFICERROR when this process shows no windows.
+/// Shows the dialog.  Returns SCC_OK, SCC_I_OPERATIONCANCELED, or SCC_E_NONSPECIFICERROR if this process shows no windows.
 /// User interface thread only.
 scc::Long PromptForProject(ProviderContext& context, scc::WindowHandle parent, ProjectRequest& request);
 

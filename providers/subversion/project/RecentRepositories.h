@@ -1,4 +1,4 @@
-// The repositories that this user chose before.
+// The repositories that this user chose most recently.
 #pragma once
 
 #include <string>
@@ -8,7 +8,7 @@ namespace kestrel::svnscc {
 
 /// Most recent first.
 std::vector<std::string> RecentRepositories();
-/// Puts `url` in front.  A list that cannot be stored is no reason to stop anybody.
+/// Moves `url` to the front; ignores a list that cannot be stored.
 void RememberRepository(const std::string& url);
 
 }  // namespace kestrel::svnscc

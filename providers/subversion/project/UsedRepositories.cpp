@@ -13,7 +13,8 @@ namespace {
 
 constexpr const char* kKey = "Software\\SubversionScc\\UsedRepositories";
 
-/// A value's name: addresses hold characters that names must not, and two processes can add one at the same time.
+/// A registry value's name: a hash, as URLs may contain characters that names must not, and as two processes may add
+/// values at the same time.
 std::string NameOf(const std::string& url) {
   EnsureRuntime();
   const Pool pool;

@@ -1,18 +1,18 @@
-// The repositories, and the project folders in them, that this user agreed to use on this computer.  Whoever writes a
-// project's mapping file must not be able to make the provider connect, run hooks or commit unasked.
+// The repositories and project folders that this user agreed to use on this computer.  The author of a project's mapping
+// file must not be able to make the provider connect, run hooks or commit without consent.
 #pragma once
 
 #include <string>
 
 namespace kestrel::svnscc {
 
-/// Whether the user agreed to `url`, a repository or a project folder to be made, as libsvn spells addresses.
+/// Whether the user agreed to `url`: the canonical URL of a repository, or of a project folder to be created.
 bool IsUsed(const std::string& url);
-/// Stores that the user agreed.  What cannot be stored is asked again next time.
+/// Stores the consent; ignores a failure, after which the user is asked again.
 void MarkUsed(const std::string& url);
 
-/// Marks the repository at `address` and the folder `projectName` in it as chosen by the user, to be made if need be;
-/// both as a client stores them.  Does nothing when they are no address and no path.
+/// Stores the consent for a repository and for creating the folder `projectName` in it, both as a client stores them.
+/// Ignores what is no address or no path.
 void MarkProjectUsed(const std::string& address, const std::string& projectName);
 
 }  // namespace kestrel::svnscc

@@ -24,7 +24,7 @@ constexpr int kLoginRetries = 2;
 
 std::atomic<bool> runtimeEnded = false;
 
-/// Releases what Subversion keeps for the whole process, its cache first of all.
+/// Releases Subversion's process-wide state, its cache in particular.
 void EndRuntime() {
   runtimeEnded = true;
   apr_terminate();
@@ -34,13 +34,12 @@ void StartRuntime() {
   if (apr_initialize() != APR_SUCCESS) throw Failure(scc::SCC_E_INITIALIZEFAILED, sNoRuntime);
   std::atexit(EndRuntime);
   Check(svn_dso_initialize2());
-  // A client in the C locale still means UTF-8, and must not be stopped by a broken promise inside Subversion.
+  // A client in the C locale still passes UTF-8; a failed assertion inside Subversion must not abort the client.
   static const Pool forever;
   svn_utf_initialize2(TRUE, forever);
   svn_error_set_malfunction_handler(svn_error_raise_on_malfunction);
-  // A local repository reads and parses the whole list of a folder for each entry it looks up, unless the list is in the
-  // cache; and a list of thousands of entries only fits into one that is in a single piece.  That is for one thread at a
-  // time: the provider does not claim to be re-entrant.
+  // Without a cache, a local repository parses a whole directory for each entry it looks up.  A directory of thousands of
+  // entries fits only into an unsegmented cache, which is single-threaded: the provider does not claim to be re-entrant.
   svn_cache_config_t cache = *svn_cache_config_get();
   cache.single_threaded = TRUE;
   svn_cache_config_set(&cache);
@@ -48,10 +47,16 @@ void StartRuntime() {
   Check(svn_ra_initialize(forever));
 }
 
-/// A log message as Subversion takes it: lines end in LF.
+/// Subversion requires LF in log messages.
 std::string WithUnixLines(std::string text) {
   text.erase(std::remove(text.begin(), text.end(), '\r'), text.end());
   return text;
+}
+
+svn_opt_revision_t OfKind(svn_opt_revision_kind kind) {
+  svn_opt_revision_t revision{};
+  revision.kind = kind;
+  return revision;
 }
 
 struct CommitAnswer {
@@ -72,6 +77,14 @@ svn_error_t* OnCommit(const svn_commit_info_t* info, void* baton, apr_pool_t*) n
 
 }  // namespace
 
+svn_opt_revision_t Newest() { return OfKind(svn_opt_revision_head); }
+svn_opt_revision_t Pristine() { return OfKind(svn_opt_revision_base); }
+svn_opt_revision_t Numbered(svn_revnum_t number) {
+  svn_opt_revision_t revision = OfKind(svn_opt_revision_number);
+  revision.value.number = number;
+  return revision;
+}
+
 bool HasRuntimeEnded() noexcept { return runtimeEnded; }
 
 void EnsureRuntime() {
@@ -80,7 +93,7 @@ void EnsureRuntime() {
 }
 
 Client::Client(const std::string& user) : givenUser_(user), user_(user) {
-  // Tests, and installations that keep their own settings, name the directory; nullptr is the user's own.
+  // Tests, and installations with settings of their own, set the directory; null means the user's own.
   const char* directory = std::getenv("SUBVERSION_SCC_CONFIG_DIR");
   apr_hash_t* config = nullptr;
   Check(svn_config_get_config(&config, directory, pool_));
@@ -105,7 +118,7 @@ svn_auth_baton_t* Client::OpenAuthentication(apr_hash_t* config, const char* dir
     get(&provider, arguments..., pool_);
     APR_ARRAY_PUSH(providers, svn_auth_provider_object_t*) = provider;
   };
-  // What the user let other Subversion clients store is read; then the user is asked.
+  // Credentials that other Subversion clients stored come first, then the prompt.
   add(svn_auth_get_simple_provider2, nullptr, nullptr);
   add(svn_auth_get_username_provider);
   add(svn_auth_get_ssl_server_trust_file_provider);
@@ -137,16 +150,18 @@ svn_error_t* Client::AskForLogin(svn_auth_cred_simple_t** answer, void* baton, c
   });
 }
 
-void Client::Run(svn_error_t* error) { Check(error, std::exchange(callbackException_, nullptr)); }
+void Client::Run(svn_error_t* error, const std::exception_ptr& exception) {
+  const auto earlier = std::exchange(callbackException_, nullptr);
+  Check(error, exception ? exception : earlier);
+}
 
 svn_revnum_t Client::Commit(const std::string& log, std::string& warning,
                             const std::function<svn_error_t*(svn_commit_callback2_t, void*)>& commit) {
   log_ = WithUnixLines(log);
   CommitAnswer answer{.committed = committed_, .warning = {}, .exception = nullptr};
   svn_error_t* error = commit(OnCommit, &answer);
-  if (callbackException_ == nullptr) callbackException_ = answer.exception;
   try {
-    Run(error);
+    Run(error, callbackException_ ? callbackException_ : answer.exception);
     warning = answer.warning;
   } catch (const Failure& failure) {
     if (!SVN_IS_VALID_REVNUM(answer.revision)) throw;
@@ -157,7 +172,7 @@ svn_revnum_t Client::Commit(const std::string& log, std::string& warning,
 
 void Client::Notify(void* baton, const svn_wc_notify_t* notice, apr_pool_t*) noexcept {
   auto& self = *static_cast<Client*>(baton);
-  if (!self.notice_ || self.callbackException_ != nullptr) return;
+  if (!self.notice_ || self.callbackException_) return;
   svn_error_clear(RunInCallback(self.callbackException_, [&] { self.notice_(*notice); }));
 }
 
@@ -170,7 +185,7 @@ svn_error_t* Client::GiveLogMessage(const char** message, const char** file, con
 
 svn_error_t* Client::CheckCancelled(void* baton) noexcept {
   const auto& self = *static_cast<Client*>(baton);
-  const bool stop = self.callbackException_ != nullptr || (self.poll_ && self.poll_());
+  const bool stop = self.callbackException_ || (self.poll_ && self.poll_());
   return stop ? svn_error_create(SVN_ERR_CANCELLED, nullptr, nullptr) : SVN_NO_ERROR;
 }
 

@@ -1,4 +1,4 @@
-// libsvn_client set up for one user: configuration, login, notices and log message.
+// libsvn_client set up for one user: configuration, authentication, notifications and log messages.
 #pragma once
 
 #include <svn_client.h>
@@ -12,37 +12,44 @@
 
 namespace kestrel::svnscc {
 
-/// Readies APR and Subversion for this process, once; later calls do nothing.  They last until the process ends: see
-/// nodelete in CMakeLists.txt.  Throws Failure.
+/// Initialises APR and Subversion; later calls do nothing.  Both stay until the process ends (see nodelete in
+/// CMakeLists.txt).  Throws Failure.
 void EnsureRuntime();
 
-/// Not movable: libsvn keeps its address.
+// Revisions; svn_opt_revision_t{} is unspecified.
+svn_opt_revision_t Newest();
+/// The working copy's base, without local changes.  Local paths only; contacts no repository.
+svn_opt_revision_t Pristine();
+svn_opt_revision_t Numbered(svn_revnum_t revision);
+
+/// Neither copyable nor movable: libsvn keeps its address.
 class Client {
  public:
   using NoticeHandler = std::function<void(const svn_wc_notify_t&)>;
 
-  /// `user` names whoever commits and locks.  A server that wants a password gets what the user answers to the login
-  /// prompt (Login.h); nothing is stored on disk.
+  /// `user` commits and locks.  If a server wants a password, the login prompt (Login.h) asks for it; nothing is stored
+  /// on disk.
   explicit Client(const std::string& user);
   Client(const Client&) = delete;
   Client& operator=(const Client&) = delete;
 
   svn_client_ctx_t* ClientContext() const { return context_; }
-  /// Who works: `user`, or whoever logged in instead.
+  /// The user who last logged in, else the one given to the constructor.
   const std::string& User() const { return user_; }
-  /// What libsvn reports while it works.  An exception of the handler ends the call in progress.
+  /// Sets the handler of libsvn's notifications.  An exception it throws ends the call in progress.
   void OnNotice(NoticeHandler handler) { notice_ = std::move(handler); }
 
-  /// Called when the server has taken a commit: there is no way back from then on.  Must not throw.
+  /// Sets the function called when the server has accepted a commit, which cannot be cancelled any more.  Must not throw.
   void OnCommitted(std::function<void()> committed) { committed_ = std::move(committed); }
-  /// Asked while libsvn works: true stops it.  Must not throw.
+  /// Sets the function polled while libsvn works: it returns true to cancel.  Must not throw.
   void OnPoll(std::function<bool()> poll) { poll_ = std::move(poll); }
 
-  /// Throws what `error` or a callback's exception says.  Every call that uses Context() goes through here.
-  void Run(svn_error_t* error);
-  /// Commits what `commit(callback, baton)` commits, with `log` as its message; the revision it made, or
-  /// SVN_INVALID_REVNUM when there was nothing to do.  `warning` receives what went wrong afterwards: what a server's hook
-  /// said, or what the working copy could not note.
+  /// Throws the exception of a callback, else the Failure of `error`.  Every call that uses ClientContext() passes its
+  /// result here.  `exception` is that of the call's own callbacks (see RunInCallback).
+  void Run(svn_error_t* error, const std::exception_ptr& exception = nullptr);
+  /// Runs `commit(callback, baton)` with `log` as the log message.  Returns the new revision, or SVN_INVALID_REVNUM if
+  /// there was nothing to commit.  `warning` receives what failed after the commit: the output of a post-commit hook, or
+  /// an error of the working copy.
   svn_revnum_t Commit(const std::string& log, std::string& warning,
                       const std::function<svn_error_t*(svn_commit_callback2_t, void*)>& commit);
 
@@ -64,8 +71,8 @@ class Client {
   std::function<bool()> poll_;
   std::function<void()> committed_;
   std::string log_;
-  std::set<std::string> offered_;         // realms that a login was offered for
-  std::exception_ptr callbackException_;  // of a callback, rethrown by Run
+  std::set<std::string> offered_;         // realms that already got a login
+  std::exception_ptr callbackException_;  // rethrown by Run
 };
 
 }  // namespace kestrel::svnscc

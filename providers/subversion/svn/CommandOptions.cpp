@@ -8,7 +8,7 @@ namespace kestrel::svnscc {
 
 namespace {
 
-/// Copies what `command` heeds.
+/// Copies the options of `command`.
 void CopyOption(scc::SCCCommand command, const CommandOptions& from, CommandOptions& to) {
   switch (command) {
     case scc::SCC_COMMAND_GET:
@@ -47,7 +47,7 @@ CommandOptions* OptionBlocks::Live(const void* block) const {
 }
 
 CommandOptions* OptionBlocks::Find(void* argument) const {
-  // Without a block there is nothing to find, and no need to look where the argument points.
+  // Without blocks, the argument need not be read.
   if (argument == nullptr || blocks_.empty()) return nullptr;
   if (CommandOptions* block = Live(argument)) return block;
   const void* held = nullptr;
@@ -55,22 +55,22 @@ CommandOptions* OptionBlocks::Find(void* argument) const {
   return Live(held);
 }
 
-void OptionBlocks::Forget() {
+void OptionBlocks::Reset() {
   for (const auto& block : blocks_) *block = {};
-  running_ = taken_ = std::nullopt;
+  previous_ = current_ = std::nullopt;
 }
 
 void OptionBlocks::EndRun() {
-  if (!running_) return;
-  for (const auto& block : blocks_) CopyOption(*running_, {}, *block);
-  running_.reset();
+  if (!previous_) return;
+  for (const auto& block : blocks_) CopyOption(*previous_, {}, *block);
+  previous_.reset();
 }
 
-CommandOptions OptionBlocks::Take(void* argument, scc::SCCCommand command) {
-  taken_ = command;
-  CommandOptions taken;
-  if (const CommandOptions* block = Find(argument)) CopyOption(command, *block, taken);
-  return taken;
+CommandOptions OptionBlocks::Use(void* argument, scc::SCCCommand command) {
+  current_ = command;
+  CommandOptions options;
+  if (const CommandOptions* block = Find(argument)) CopyOption(command, *block, options);
+  return options;
 }
 
 }  // namespace kestrel::svnscc

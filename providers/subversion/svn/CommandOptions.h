@@ -1,4 +1,4 @@
-// What a user chose beyond a command's own arguments, and the blocks in which clients carry it around.
+// Advanced options of commands, and the blocks in which clients pass them.
 #pragma once
 
 #include <svn_types.h>
@@ -12,7 +12,7 @@
 
 namespace kestrel::svnscc {
 
-/// A client keeps one block for all commands, or one for each: every block has room for all.
+/// Options of all commands: a client may use one block for every command, or one for each.
 struct CommandOptions {
   svn_revnum_t GetRevision = SVN_INVALID_REVNUM;  // get: this instead of the newest
   bool StealLocks = false;                        // check-out: also what others have checked out
@@ -23,21 +23,21 @@ struct CommandOptions {
 /// Whether there is anything to choose for the command.
 bool HasOptions(scc::SCCCommand command);
 
-/// The blocks that one context handed out; they live as long as this does.  What was chosen in them does not: clients keep
-/// a block for good, also when the list that it was chosen for is cancelled.
+/// The blocks of one context; they live as long as this object.  The options in them do not: a client keeps using a block
+/// after the file list that the user set it for was cancelled.
 class OptionBlocks {
  public:
-  /// One call of the client.  Clients carry a command out with one call per file: a choice that a call took counts for
-  /// the calls of the same command that follow it at once, and is forgotten by the first other call.
+  /// Scope of one call of the client.  A client may run a command with one call per file: options stay valid for
+  /// consecutive calls of the same command and are reset by the first other call.
   class Call {
    public:
     explicit Call(OptionBlocks& blocks) : blocks_(blocks) {
-      blocks_.running_ = std::exchange(blocks_.taken_, std::nullopt);
+      blocks_.previous_ = std::exchange(blocks_.current_, std::nullopt);
     }
     Call(const Call&) = delete;
     Call& operator=(const Call&) = delete;
     ~Call() {
-      if (blocks_.running_ != blocks_.taken_) blocks_.EndRun();
+      if (blocks_.previous_ != blocks_.current_) blocks_.EndRun();
     }
 
    private:
@@ -45,21 +45,21 @@ class OptionBlocks {
   };
 
   CommandOptions* Make();
-  /// Forgets what was chosen: a new list for a command begins, or the project goes.
-  void Forget();
-  /// Forgets what was chosen for the command that ran up to this call.
+  /// Resets all options: a client begins a new file list, or the project closes.
+  void Reset();
+  /// Resets the options of the command that ran up to this call.
   void EndRun();
-  /// The block that a client's argument means: the block itself, or the address of the variable that holds it.  Null
-  /// for anything else.  A variable must be readable for the size of a pointer.
+  /// The block for a client's argument: a block, or the address of a variable that points to one.  Null for anything
+  /// else.  The argument must be readable for the size of a pointer.
   CommandOptions* Find(void* argument) const;
-  /// What is to be heeded by the command that runs now.
-  CommandOptions Take(void* argument, scc::SCCCommand command);
+  /// The options for the command that runs now.
+  CommandOptions Use(void* argument, scc::SCCCommand command);
 
  private:
   CommandOptions* Live(const void* block) const;
   std::vector<std::unique_ptr<CommandOptions>> blocks_;
-  std::optional<scc::SCCCommand> running_;  // the command of the call before this one
-  std::optional<scc::SCCCommand> taken_;    // the command of this call
+  std::optional<scc::SCCCommand> previous_;  // the command of the call before this one
+  std::optional<scc::SCCCommand> current_;   // the command of this call
 };
 
 }  // namespace kestrel::svnscc

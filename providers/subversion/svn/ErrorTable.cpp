@@ -1,4 +1,4 @@
-// From libsvn's errors to the API's return codes.
+// Maps libsvn errors to SCC return codes.
 #include <svn_error_codes.h>
 
 #include <algorithm>
@@ -13,11 +13,11 @@ namespace {
 struct Row {
   apr_status_t code;
   scc::Long result;
-  TResString text{nullptr};  // for people, where libsvn's own words are about its inside
+  TResString text{nullptr};  // for the user, where libsvn's text is too technical
 };
 
-// libsvn reports chains of errors, what was tried outside and the reason inside.  The first row that is found anywhere
-// in the chain decides: rows stand from the most telling to the most general.
+// libsvn reports chains of errors, from what was attempted to the cause.  The first row whose code is anywhere in the chain
+// applies, so the rows go from the most specific to the most general.
 constexpr std::array kRows{
     Row{SVN_ERR_SQLITE_READONLY, scc::SCC_E_NOTAUTHORIZED, sCopyReadOnly},
     Row{SVN_ERR_FS_LOCK_OWNER_MISMATCH, scc::SCC_E_FILEOUTEXCLUSIVE, sOutByOther},
@@ -82,42 +82,41 @@ constexpr std::array kRows{
     Row{SVN_ERR_CANCELLED, scc::SCC_I_OPERATIONCANCELED},
 };
 
-bool Holds(const std::vector<apr_status_t>& codes, apr_status_t code) {
+bool Contains(const std::vector<apr_status_t>& codes, apr_status_t code) {
   return std::find(codes.begin(), codes.end(), code) != codes.end();
 }
 
 const Row* RowOf(const std::vector<apr_status_t>& codes) {
   const auto row =
-      std::find_if(kRows.begin(), kRows.end(), [&](const Row& r) { return Holds(codes, r.code); });
+      std::find_if(kRows.begin(), kRows.end(), [&](const Row& r) { return Contains(codes, r.code); });
   return row != kRows.end() ? &*row : nullptr;
 }
 
-/// libsvn's words for one link of a chain, as part of a sentence.
-std::string WordsOf(const svn_error_t& error) {
+/// libsvn's text for one link of a chain, without its final punctuation.
+std::string TextOf(const svn_error_t& error) {
   char buffer[256];
-  std::string words =
+  std::string text =
       error.message != nullptr ? error.message : svn_strerror(error.apr_err, buffer, sizeof buffer);
-  if (words.starts_with("sqlite[")) words.erase(0, std::min(words.find("]: ") + 3, words.size()));
-  const auto cut = [&](std::string_view letters) { words.resize(words.find_last_not_of(letters) + 1); };
+  if (text.starts_with("sqlite[")) text.erase(0, std::min(text.find("]: ") + 3, text.size()));
+  const auto cut = [&](std::string_view letters) { text.resize(text.find_last_not_of(letters) + 1); };
   cut("\n");
-  if (words.find('\n') == std::string::npos) cut(".:");  // what a server's hook printed stays as it is
-  return words;
+  if (text.find('\n') == std::string::npos) cut(".:");  // the output of a server's hook stays unchanged
+  return text;
 }
 
-/// A chain goes from what was tried to the reason: the reason comes first, and what was tried after it if only that says
-/// about what.
+/// The cause, followed by what was attempted if only that names the object.
 std::string SentenceOf(const svn_error_t* error) {
   std::string tried;
   for (; error->child != nullptr; error = error->child)
-    if (const auto words = WordsOf(*error); words.find('\'') != std::string::npos) tried = words;
-  const std::string reason = WordsOf(*error);
-  const bool saysAboutWhat = tried.empty() || reason.find('\'') != std::string::npos || reason == tried;
-  return saysAboutWhat ? reason : reason + " (" + tried + ")";
+    if (const auto text = TextOf(*error); text.find('\'') != std::string::npos) tried = text;
+  const std::string reason = TextOf(*error);
+  const bool namesObject = tried.empty() || reason.find('\'') != std::string::npos || reason == tried;
+  return namesObject ? reason : reason + " (" + tried + ")";
 }
 
 }  // namespace
 
-bool Failure::Has(apr_status_t code) const { return Holds(codes_, code); }
+bool Failure::Has(apr_status_t code) const { return Contains(codes_, code); }
 
 bool Failure::MeansNoWorkingCopy() const {
   return Has(SVN_ERR_WC_NOT_WORKING_COPY) || Has(SVN_ERR_WC_PATH_NOT_FOUND);

@@ -1,4 +1,4 @@
-// Status changes that the client does not know yet.
+// Status changes to report to the client.
 #pragma once
 
 #include <deque>
@@ -10,7 +10,7 @@
 
 namespace kestrel::svnscc {
 
-/// Covers files that the client asked about.  A file is queued once, with its latest status.
+/// Covers the files whose status the client has queried.  A file is queued once, with its latest status.
 class EventQueue {
  public:
   struct Event {
@@ -18,24 +18,25 @@ class EventQueue {
     scc::Long Bits;
   };
 
-  /// While disabled nothing is queued; what was queued stays.
+  /// While disabled, nothing is queued; queued events stay.
   void Enable(bool enabled) { enabled_ = enabled; }
-  /// The client was told the status by other means.
-  void Told(const std::string& path, scc::Long bits);
-  bool Covers(const std::string& path) const { return told_.contains(path); }
-  void Found(const std::string& path, scc::Long bits);
-  /// The statuses of all files, as a walk found them.
-  void Found(const StatusTable& table);
-  /// The oldest event.  The client knows it from now on.
-  std::optional<Event> Take();
+  /// Records that the client knows the status.
+  void MarkReported(const std::string& path, scc::Long bits);
+  bool Covers(const std::string& path) const { return reported_.contains(path); }
+  /// Queues an event if the status differs from the reported one.
+  void Update(const std::string& path, scc::Long bits);
+  /// The same for all covered files.
+  void Update(const StatusTable& table);
+  /// Removes the oldest event, which counts as reported; nullopt if there is none.
+  std::optional<Event> Pop();
   std::size_t Count() const { return pending_.size(); }
   void Clear();
 
  private:
   bool enabled_ = true;
-  std::unordered_map<std::string, scc::Long> told_;
+  std::unordered_map<std::string, scc::Long> reported_;
   std::unordered_map<std::string, scc::Long> pending_;
-  std::deque<std::string> order_;  // of pending_, and paths that are pending no more
+  std::deque<std::string> order_;  // paths in pending_, and some that no longer are
 };
 
 }  // namespace kestrel::svnscc

@@ -39,14 +39,14 @@ void History::LoadMore() {
     try {
       more = Load(Newest());
     } catch (const Failure& failure) {
-      // Deleted since: what led to the local copy is still history.
+      // Deleted since: the history of the local copy still exists.
       if (failure.Result() != scc::SCC_E_FILENOTCONTROLLED || svn_path_is_url(place_.c_str())) throw;
       more = Load(Pristine());
     }
   } else {
     more = Load(Numbered(revisions_.back().Number - 1));
   }
-  // One more than shown was asked for.
+  // Load() asks for one more than a page.
   hasMore_ =
       more.size() > static_cast<std::size_t>(page_) && more[static_cast<std::size_t>(page_) - 1].Number > 1;
   if (more.size() > static_cast<std::size_t>(page_)) more.resize(static_cast<std::size_t>(page_));
@@ -67,8 +67,7 @@ std::vector<Revision> History::Load(const svn_opt_revision_t& from) {
       /*strict_node_history*/ FALSE, /*include_merged_revisions*/ FALSE,
       ToArray({SVN_PROP_REVISION_AUTHOR, SVN_PROP_REVISION_DATE, SVN_PROP_REVISION_LOG}, pool), OnLogEntry,
       &receiver, client_.ClientContext(), pool);
-  if (receiver.exception != nullptr) Check(error, receiver.exception);
-  client_.Run(error);
+  client_.Run(error, receiver.exception);
   return std::move(receiver.revisions);
 }
 

@@ -1,4 +1,4 @@
-// The revisions in which a file or folder changed, newest first, loaded piece by piece.
+// The revisions in which a file or folder changed, newest first, fetched page by page.
 #pragma once
 
 #include <string>
@@ -19,14 +19,14 @@ class History {
  public:
   static constexpr int kPage = 100;
 
-  /// Of a place as Nodes.h means it; nothing is loaded yet.
+  /// `place` is as in NodeInfo.h.  Fetches nothing yet.
   History(Client& client, std::string place, int page = kPage);
-  /// Appends at most one page.  Throws Failure.
+  /// Fetches and appends at most one page.  Throws Failure.
   void LoadMore();
   bool HasMore() const { return hasMore_; }
   const std::vector<Revision>& Revisions() const { return revisions_; }
   const std::string& Place() const { return place_; }
-  /// The file as that revision left it.
+  /// The file in that revision.  Throws Failure.
   Contents TextOf(std::size_t index);
 
  private:

@@ -34,7 +34,7 @@ bool IsChanged(svn_wc_status_kind kind) {
   return kind == svn_wc_status_modified || kind == svn_wc_status_conflicted;
 }
 
-/// Whether Subversion's marks of a conflict still stand in the text.
+/// Whether the text still contains conflict markers.
 bool HasConflictMarks(const std::string& path) {
   const std::string text = "\n" + ReadWholeFile(path);
   return text.find("\n<<<<<<< ") != std::string::npos || text.find("\n>>>>>>> ") != std::string::npos;
@@ -58,7 +58,7 @@ Conflict KindOfConflict(const ProviderContext& context, const std::string& path)
   return HasConflictMarks(path) ? Conflict::Marked : Conflict::Edited;
 }
 
-/// The conflict of a folder above a file that libsvn kept as a copy of what was deleted.
+/// Applies the conflict of a folder above: libsvn turns its files into copies of what was deleted.
 void InheritConflict(const ProviderContext& context, LocalStatus& status, const std::string& path) {
   const std::string& top = context.CurrentProject().Folder;
   const Pool pool;

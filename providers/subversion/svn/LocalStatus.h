@@ -1,4 +1,4 @@
-// What the working copy knows of one file, without asking the repository.
+// The status of one file in the working copy, without contacting the repository.
 #pragma once
 
 #include <svn_wc.h>
@@ -17,13 +17,13 @@ enum class LocalState {
   Missing,      // controlled, but not on disk
 };
 
-/// What stands between a file and its next check-in.
+/// The conflict that has to be resolved before the next check-in.
 enum class Conflict {
   None,
-  Marked,  // a text in which both versions stand, between marks
-  Edited,  // such a text whose marks were edited away: the user settled it
-  Open,    // no marks to go by: a binary file, properties, or another file of that name in the repository
-  Lost,    // changed here, deleted or moved in the repository
+  Marked,  // a text with conflict markers
+  Edited,  // a text whose conflict markers the user has removed
+  Open,    // without markers: a binary file, properties, or another file of that name in the repository
+  Lost,    // changed here, and deleted or moved in the repository
 };
 
 struct LocalStatus {
@@ -32,7 +32,7 @@ struct LocalStatus {
   bool Modified = false;  // contents or properties
   bool Differs = false;   // contents only
   Conflict Kind = Conflict::None;
-  std::string Victim;    // where the conflict stands: the file, or a folder above it
+  std::string Victim;    // the file or the folder above it that is in conflict
   bool HasLock = false;  // the working copy holds a lock token
   svn_depth_t Depth = svn_depth_unknown;
 
@@ -40,10 +40,10 @@ struct LocalStatus {
   bool IsConflicted() const { return Kind != Conflict::None; }
 };
 
-/// `path` is an absolute path inside the project.  Throws Failure when the working copy cannot be read.
+/// `path` is an absolute path inside the project.  Throws Failure if the working copy cannot be read.
 LocalStatus ReadLocalStatus(const ProviderContext& context, const std::string& path);
 
-/// Makes the file writable by its owner; a missing file is left alone.
+/// Makes the file writable by its owner; ignores a missing file.  Throws Failure.
 void MakeWritable(const std::string& path);
 bool IsOnDisk(const std::string& path);
 

@@ -10,7 +10,7 @@ void ReportBrokenLock(ProviderContext& context, const std::string& path) {
   std::string owner;
   try {
     owner = FetchNodeInfo(context.Svn(), path, Newest()).Lock.Owner;
-  } catch (const Failure&) {  // told without
+  } catch (const Failure&) {  // reported without an owner
   }
   const auto& text = owner.empty() ? sLockGone : sLockTaken;
   context.Out().Warning(Format(text.Text, {context.Label(path), owner}));

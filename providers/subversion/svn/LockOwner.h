@@ -1,4 +1,4 @@
-// Who holds a lock that the working copy does not have, or has no longer.
+// Locks that are not, or no longer, held by the working copy.
 #pragma once
 
 #include <string>
@@ -8,9 +8,9 @@ namespace kestrel::svnscc {
 class Failure;
 class ProviderContext;
 
-/// Tells the user that the working copy's lock on `path` is gone from the repository, and who has it instead.
+/// Warns that the working copy's lock on `path` was broken, naming the new owner if there is one.
 void ReportBrokenLock(ProviderContext& context, const std::string& path);
-/// Why a file that the repository holds locked otherwise was refused: who has it.  `failure` when that cannot be asked.
+/// Why a lock refused an operation on `path`: who holds it.  The text of `failure` if the repository cannot be contacted.
 std::string ExplainForeignLock(ProviderContext& context, const std::string& path, const Failure& failure);
 
 }  // namespace kestrel::svnscc

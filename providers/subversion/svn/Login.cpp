@@ -8,7 +8,7 @@ namespace {
 
 LoginPrompt askUser = nullptr;
 
-/// By realm and proposed user: two users may share a process, as they do a computer.
+/// By realm and proposed user: one process may work for several users.
 std::map<std::pair<std::string, std::string>, Login>& Remembered() {
   static std::map<std::pair<std::string, std::string>, Login> logins;
   return logins;

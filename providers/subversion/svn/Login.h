@@ -1,5 +1,4 @@
-// Logins that servers ask for.  They are kept in memory until the process ends; nothing is written to disk.  User
-// interface thread only.
+// Logins that servers ask for, kept in memory until the process ends.  User interface thread only.
 #pragma once
 
 #include <optional>
@@ -7,27 +6,27 @@
 
 namespace kestrel::svnscc {
 
-/// What the user answers; texts are UTF-8.
+/// The user's answer; UTF-8.
 struct Login {
   std::string User;
   std::string Password;
 };
 
-/// What a server asks.
+/// A server's question; UTF-8.
 struct LoginQuestion {
-  std::string Realm;  ///< how the server names what the login is for
+  std::string Realm;  ///< the server's name for what the login is for
   std::string User;   ///< the name to propose
   bool Refused;       ///< the server did not accept the last answer
 };
 
-/// Asks the user; nothing when he cancels, or when no window can be shown.
+/// Asks the user; nullopt if the user cancels, or if no window can be shown.
 using LoginPrompt = std::optional<Login> (*)(const LoginQuestion& question);
 
-/// Without a prompt, a server that wants a password refuses.
+/// Sets the prompt; without one, a server that wants a password refuses.
 void SetLoginPrompt(LoginPrompt prompt);
 
-/// The login for `question`: the one given earlier for the same realm and user, unless the server refused it; else the
-/// user's answer, which is remembered.
+/// The login given earlier for the same realm and user, unless the server refused it; else the user's answer, which is
+/// kept for later.
 std::optional<Login> FindLogin(const LoginQuestion& question);
 
 }  // namespace kestrel::svnscc

@@ -17,12 +17,6 @@ namespace {
 
 constexpr svn_opt_revision_t kUnspecified{};
 
-svn_opt_revision_t OfKind(svn_opt_revision_kind kind) {
-  svn_opt_revision_t revision{};
-  revision.kind = kind;
-  return revision;
-}
-
 std::string TextOf(const char* text) { return text != nullptr ? text : ""; }
 
 bool HoldsNul(const std::string& bytes) { return bytes.find('\0') != std::string::npos; }
@@ -78,20 +72,11 @@ NodeInfo FetchInfo(Client& client, const std::string& place, const svn_opt_revis
       svn_client_info4(place.c_str(), &peg, &revision, svn_depth_empty,
                        /*fetch_excluded*/ FALSE, /*fetch_actual_only*/ FALSE,
                        /*include_externals*/ FALSE, nullptr, OnInfo, &receiver, client.ClientContext(), pool);
-  if (receiver.exception != nullptr) Check(error, receiver.exception);
-  client.Run(error);
+  client.Run(error, receiver.exception);
   return receiver.facts;
 }
 
 }  // namespace
-
-svn_opt_revision_t Newest() { return OfKind(svn_opt_revision_head); }
-svn_opt_revision_t Pristine() { return OfKind(svn_opt_revision_base); }
-svn_opt_revision_t Numbered(svn_revnum_t number) {
-  svn_opt_revision_t revision = OfKind(svn_opt_revision_number);
-  revision.value.number = number;
-  return revision;
-}
 
 ControlledNode RequireControlled(ProviderContext& context, const char* name) {
   const std::string path = context.InsidePath(name);
@@ -136,7 +121,7 @@ NodeInfo FetchNodeInfo(Client& client, const std::string& place, const svn_opt_r
   return FetchInfo(client, place, kUnspecified, revision);
 }
 
-// Neither revision given is how libsvn is told to look into the working copy only.
+// With neither revision given, libsvn reads the working copy only.
 NodeInfo LocalNodeInfo(Client& client, const std::string& path) {
   return FetchInfo(client, path, kUnspecified, kUnspecified);
 }
@@ -147,8 +132,7 @@ NamedTexts FetchProperties(Client& client, const std::string& place, const svn_o
   svn_error_t* error = svn_client_proplist4(place.c_str(), &kUnspecified, &revision, svn_depth_empty, nullptr,
                                             /*get_target_inherited_props*/ FALSE, OnProperties, &receiver,
                                             client.ClientContext(), pool);
-  if (receiver.exception != nullptr) Check(error, receiver.exception);
-  client.Run(error);
+  client.Run(error, receiver.exception);
   std::sort(receiver.list.begin(), receiver.list.end());
   return receiver.list;
 }

@@ -1,5 +1,5 @@
-// One file or folder of the repository, in any revision.  A `place` is a local path inside a working copy, or an
-// address.  All of this asks the repository unless said otherwise, and throws Failure.
+// One file or folder of the repository, in any revision.  A `place` is a local path inside a working copy, or a URL.
+// Every function throws Failure; Fetch... contact the repository unless said otherwise.
 #pragma once
 
 #include <svn_types.h>
@@ -16,31 +16,27 @@ namespace kestrel::svnscc {
 
 class ProviderContext;
 
-svn_opt_revision_t Newest();
-/// What the working copy has of it, without the local changes.  Local paths only; nothing is asked.
-svn_opt_revision_t Pristine();
-svn_opt_revision_t Numbered(svn_revnum_t revision);
-
-/// What a client's file name stands for.
+/// A file name of the client, resolved.
 struct ControlledNode {
   std::string Path;   // local
-  std::string Place;  // Path, or the address of what was never fetched
+  std::string Place;  // Path, or the URL if it was never fetched
   bool IsLocal() const { return Path == Place; }
 };
-/// Throws Failure when the name is not under control.
+/// Contacts the repository about a file that the working copy does not have.  Throws Failure if `name` is not controlled.
 ControlledNode RequireControlled(ProviderContext& context, const char* name);
 
-/// Throws Failure unless the node had the same name in `revision`: an update to a revision in which it had
-/// another would take it away.
+/// Throws Failure unless the node had the same name in `revision`: an update to a revision in which it had another name
+/// would remove it.
 void RequireSameName(ProviderContext& context, const ControlledNode& node, svn_revnum_t revision);
 
-/// The contents as they would stand on disk: line ends and keywords as the file's properties want them.
+/// The contents as an update would write them, with line ends translated and keywords expanded.  Contacts no repository
+/// for Pristine().
 Contents FetchContents(Client& client, const std::string& place, const svn_opt_revision_t& revision);
-/// The local file as it is.
+/// The local file.
 Contents ReadLocalContents(const std::string& path);
 
 struct LockInfo {
-  std::string Owner;  // empty: not locked
+  std::string Owner;  // empty if not locked
   std::string Comment;
   apr_time_t Since = 0;
 };
@@ -56,14 +52,14 @@ struct NodeInfo {
   LockInfo Lock;
 };
 NodeInfo FetchNodeInfo(Client& client, const std::string& place, const svn_opt_revision_t& revision);
-/// The same from the working copy: nothing is asked.
+/// From the working copy alone.
 NodeInfo LocalNodeInfo(Client& client, const std::string& path);
 
-/// Versioned properties, by name.
+/// Versioned properties, sorted by name.
 NamedTexts FetchProperties(Client& client, const std::string& place, const svn_opt_revision_t& revision);
 
 LockInfo ToLockInfo(const svn_lock_t* lock);
-/// A moment on the user's clock, "2026-11-21 14:05:33"; empty for 0.
+/// Local time as "2026-11-21 14:05:33"; empty for 0.
 std::string LocalTime(apr_time_t when);
 
 }  // namespace kestrel::svnscc

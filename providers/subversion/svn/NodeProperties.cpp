@@ -12,7 +12,7 @@ namespace {
 
 class FactList {
  public:
-  /// Leaves out what is not known.
+  /// Skips an empty value.
   FactList& Add(const TResString& label, const std::string& value) {
     if (!value.empty()) facts_.emplace_back(label.str(), value);
     return *this;
@@ -35,7 +35,7 @@ class FactList {
         .Add(sFactLockSince, LocalTime(lock.Since))
         .Add(sFactLockComment, lock.Comment);
   }
-  NamedTexts Take() { return std::move(facts_); }
+  NamedTexts Release() { return std::move(facts_); }
 
  private:
   NamedTexts facts_;
@@ -51,7 +51,7 @@ constexpr std::array kWords{
     Word{scc::SCC_STATUS_OUTOFDATE, sStateOld},      Word{scc::SCC_STATUS_DELETED, sStateDeleted},
 };
 
-/// Newest facts, or the working copy's with a sentence to the user.
+/// The newest facts; else the working copy's, with a warning.
 NodeInfo NewestOrLocal(ProviderContext& context, const ControlledNode& node) {
   try {
     return FetchNodeInfo(context.Svn(), node.Place, Newest());
@@ -66,7 +66,7 @@ NodeInfo NewestOrLocal(ProviderContext& context, const ControlledNode& node) {
 scc::Long BitsOf(ProviderContext& context, const std::string& path) {
   try {
     return FetchStatus(context, path).Bits;
-  } catch (const Failure&) {  // told by NewestOrLocal
+  } catch (const Failure&) {  // NewestOrLocal has reported it
     const LocalStatus local = ReadLocalStatus(context, path);
     return (local.HasLock ? scc::SCC_STATUS_CHECKEDOUT | scc::SCC_STATUS_OUTBYUSER : 0) |
            (local.Modified ? scc::SCC_STATUS_MODIFIED : 0) | scc::SCC_STATUS_CONTROLLED;
@@ -94,7 +94,7 @@ NodeProperties DescribeNode(ProviderContext& context, const ControlledNode& node
   facts.AddChange(newest);
   if (!newest.IsFolder) facts.AddLock(newest.Lock);
   const auto revision = node.IsLocal() ? Pristine() : Newest();
-  return {facts.Take(), FetchProperties(context.Svn(), node.Place, revision)};
+  return {facts.Release(), FetchProperties(context.Svn(), node.Place, revision)};
 }
 
 NodeProperties DescribeNode(Client& client, const std::string& url) {
@@ -102,7 +102,7 @@ NodeProperties DescribeNode(Client& client, const std::string& url) {
   FactList facts;
   facts.AddNode(newest).AddChange(newest);
   if (!newest.IsFolder) facts.AddLock(newest.Lock);
-  return {facts.Take(), FetchProperties(client, url, Newest())};
+  return {facts.Release(), FetchProperties(client, url, Newest())};
 }
 
 }  // namespace kestrel::svnscc

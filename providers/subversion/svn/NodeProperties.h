@@ -1,4 +1,4 @@
-// What there is to tell of one file or folder: for the window of its properties.
+// Facts and versioned properties of a file or folder.
 #pragma once
 
 #include "common/text/Properties.h"
@@ -6,12 +6,12 @@
 
 namespace kestrel::svnscc {
 
-/// Of a client's file or folder.  What the repository does not answer is told from the working copy.
+/// Of a local file or folder; falls back to the working copy if the repository cannot be contacted.  Throws Failure.
 NodeProperties DescribeNode(ProviderContext& context, const ControlledNode& node);
-/// Of an address.
+/// Of a URL.  Throws Failure.
 NodeProperties DescribeNode(Client& client, const std::string& url);
 
-/// What SCC status bits mean, in words.
+/// SCC status bits as text.
 std::string StateWords(scc::Long bits, bool onDisk);
 
 }  // namespace kestrel::svnscc

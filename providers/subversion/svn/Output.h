@@ -1,4 +1,4 @@
-// Where the provider's sentences go: the client's text-out callback.
+// Messages to the user through the client's text-out callback.
 #pragma once
 
 #include <string>
@@ -7,7 +7,7 @@
 
 namespace kestrel::svnscc {
 
-/// Valid from opening a project to closing it; silent without a callback.
+/// Attached while a project is open; without a callback, messages are dropped.
 class Output {
  public:
   void Attach(scc::TTextOutProc callback) { callback_ = callback; }
@@ -17,7 +17,7 @@ class Output {
   void Write(const std::string& text, scc::MessageKind kind) const {
     if (callback_ != nullptr) callback_(text.c_str(), kind);
   }
-  /// Sends a kind that has no text; true when the user wants to stop.
+  /// Sends a kind that has no text; true if the user cancelled.
   bool Signal(scc::MessageKind kind) const {
     return callback_ != nullptr && callback_(nullptr, kind) == scc::SCC_MSG_RTN_CANCEL;
   }

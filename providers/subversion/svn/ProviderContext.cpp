@@ -25,13 +25,13 @@ void ProviderContext::Open(std::unique_ptr<Client> client, Project project) {
   client_->OnCommitted([this] { canCancel_ = false; });
   const std::string root = WorkingCopyRoot(project_.Folder);
   mark_ = UseMarker(root);
-  journal_ = {};  // before another is made: it would find this one in use
+  journal_ = {};  // first: the new one would find its file in use
   journal_ = LockJournal(root);
 }
 
 void ProviderContext::Reconnect() {
   const std::string user = client_->User();
-  client_.reset();  // the old one goes first: both would share the working copy
+  client_.reset();  // first: both would share the working copy
   Open(std::make_unique<Client>(user), std::move(project_));
 }
 
@@ -46,7 +46,7 @@ void ProviderContext::Close() {
   leftOut_.clear();
   lostLocks_.clear();
   events_.Clear();
-  options_.Forget();
+  options_.Reset();
   output_.Attach(nullptr);
 }
 
@@ -55,7 +55,7 @@ std::string ProviderContext::InsidePath(const char* name) const {
   const Pool pool;
   const char* path = svn_dirent_internal_style(name, pool);
   if (!svn_dirent_is_absolute(path)) return {};
-  const char* absolute = nullptr;  // also takes ".." out
+  const char* absolute = nullptr;  // without ".."
   svn_error_t* error = svn_dirent_get_absolute(&absolute, path, pool);
   svn_error_clear(error);
   if (error != SVN_NO_ERROR || !svn_dirent_is_ancestor(project_.Folder.c_str(), absolute)) return {};
@@ -90,7 +90,7 @@ void ProviderContext::StopIfCancelled() {
 }
 
 bool ProviderContext::IsCancelled() {
-  // libsvn asks at every block it reads; a client answers by looking at its windows.
+  // libsvn polls at every block it reads; a client dispatches events to answer.
   constexpr std::chrono::milliseconds kPause{50};
   const auto now = std::chrono::steady_clock::now();
   if (!canCancel_ || now < nextPoll_) return false;
@@ -109,7 +109,7 @@ void ProviderContext::HandleNotice(const svn_wc_notify_t& notice) {
     output_.Write(Label(notice.path), scc::SCC_MSG_STATUS);
     nextPoll_ = {};
   }
-  if (notice.action == svn_wc_notify_update_broken_lock) {  // the repository cannot be asked while it answers
+  if (notice.action == svn_wc_notify_update_broken_lock) {  // the connection is busy now
     lostLocks_.emplace_back(notice.path);
     return;
   }
@@ -127,7 +127,7 @@ void ProviderContext::ReportLostLocks() {
 }
 
 void Outcome::Fail(const std::string& path, const Failure& failure) {
-  // No file failed: the command ends, or is tried again.
+  // These concern the command, which ends or is retried, rather than the file.
   if (failure.Result() == scc::SCC_I_OPERATIONCANCELED || failure.MeansBusyWorkingCopy()) throw failure;
   result_ = failure.Result();
   const std::string reason =

@@ -1,4 +1,4 @@
-// One context of the API: who works, on which project, and where the sentences go.
+// The state behind one context of the SCC API: the user, the open project, the client's callbacks.
 #pragma once
 
 #include <chrono>
@@ -19,19 +19,19 @@
 
 namespace kestrel::svnscc {
 
-/// A provider project: a folder of a repository and its local counterpart.  Texts as libsvn spells them.
+/// A provider project: a folder of a repository and its local folder.  Canonical in the sense of libsvn.
 struct Project {
   std::string Url;     // of the folder in the repository
   std::string Folder;  // absolute, without a trailing delimiter
 };
 
-/// A path as the operating system and clients spell it.
+/// A canonical path in the operating system's spelling.
 std::string NativeName(const std::string& path);
 
 /// The file names of one call; entries may be null.
 using Names = std::span<const char* const>;
 
-/// Names as the API hands them out.
+/// File names as an array of C strings, as the API returns them.
 class NameArray {
  public:
   void Assign(std::vector<std::string> names);
@@ -46,9 +46,9 @@ class NameArray {
 class ProviderContext {
  public:
   bool IsOpen() const { return client_ != nullptr; }
-  /// Takes over a project that was opened.
+  /// Stores an opened project and its client.
   void Open(std::unique_ptr<Client> client, Project project);
-  /// Starts libsvn anew for the same user and project: it has forgotten what it held open.
+  /// Replaces the client by a new one for the same user and project: libsvn drops what it had open.
   void Reconnect();
   void Close();
 
@@ -56,49 +56,49 @@ class ProviderContext {
   svn_client_ctx_t* ClientContext() const { return client_->ClientContext(); }
   const Project& CurrentProject() const { return project_; }
   Output& Out() { return output_; }
-  /// Of the working copy that the project lies in.
+  /// Marks the working copy that contains the project as in use.
   const UseMarker& Mark() const { return mark_; }
   LockJournal& Journal() { return journal_; }
 
-  /// `name` as libsvn spells it; empty when it names nothing inside the project folder (the folder itself is inside).
+  /// Canonicalises `name`; empty if it is not inside the project folder (the folder itself is inside).
   std::string InsidePath(const char* name) const;
-  /// The path as the user knows it: relative to the project folder.
+  /// The path for display: relative to the project folder.
   std::string Label(const std::string& path) const;
 
-  /// What the project's files were at the last status walk.
+  /// The result of the last WalkProject().
   StatusTable& LastStatuses() { return lastStatuses_; }
 
-  /// Files that were added since the project was opened, and in which revision.
+  /// Files added since the project was opened, with the revision that added them.
   std::map<std::string, svn_revnum_t>& JustAdded() { return justAdded_; }
 
-  /// What the client carries for the commands; outlives projects.
+  /// The option blocks of the client; they outlive projects.
   OptionBlocks& Options() { return options_; }
 
-  /// Tells the user, once for each, of files that Subversion cannot name.
+  /// Warns, once per path, about names that are not UTF-8.
   void ReportNonUtf8Names(const std::vector<std::string>& paths);
-  /// Tells the user who took the locks that an update found gone.
+  /// Warns about the locks that an update found broken.
   void ReportLostLocks();
 
   /// Status changes for the client.
   EventQueue& Events() { return events_; }
-  /// Names that the client holds until it asks for others, or gives them back.
-  NameArray& Handed() { return handed_; }
-  /// What the client announced through SccSetOption.
+  /// Names that SccAddFromScc returned; the client uses them until its next call of it.
+  NameArray& ReturnedNames() { return returnedNames_; }
+  // Set by the client through SccSetOption.
   bool ClientCancels = false;      // it shows a Cancel button, and wants status messages
   bool SharesSubprojects = false;  // it names a destination to SccAddFromScc
 
-  /// Errors that libsvn reported for single paths since the last call.
+  /// Returns and clears the errors that libsvn reported for single paths.
   std::map<std::string, Failure> DrainRefusals() { return std::exchange(refusals_, {}); }
 
-  /// While a command runs the client shows its Cancel button; nothing happens when it has none.
+  /// Make the client show and hide its Cancel button, if it has one.
   void BeginCommand();
   void EndCommand();
-  /// Throws the Failure that ends a cancelled command.
+  /// Throws Failure (SCC_I_OPERATIONCANCELED) if the user has cancelled.
   void StopIfCancelled();
 
  private:
   void HandleNotice(const svn_wc_notify_t& notice);
-  /// Whether the user has just cancelled.  True once: what libsvn does to clean up must not be stopped.
+  /// Polls the client.  Returns true only once: cancelling must not stop libsvn's cleanup.
   bool IsCancelled();
 
   Output output_;
@@ -108,8 +108,8 @@ class ProviderContext {
   LockJournal journal_;
   OptionBlocks options_;
   EventQueue events_;
-  NameArray handed_;
-  bool canCancel_ = false;  // a command runs, and was not cancelled
+  NameArray returnedNames_;
+  bool canCancel_ = false;  // a command runs and was not cancelled
   std::chrono::steady_clock::time_point nextPoll_;
   StatusTable lastStatuses_;
   std::map<std::string, svn_revnum_t> justAdded_;
@@ -118,13 +118,13 @@ class ProviderContext {
   std::vector<std::string> lostLocks_;
 };
 
-/// The result of one command over several files: the last failure, or success.  Every failure is told to the user.
+/// The result of one command over several files: that of the last failure, else SCC_OK.  Reports every failure.
 class Outcome {
  public:
   explicit Outcome(ProviderContext& context) : context_(context) {}
   void Fail(const std::string& path, const Failure& failure);
   void Fail(const std::string& path, scc::Long result, const char* reason);
-  /// Runs one file's share of the work; false, with the failure noted, when it failed.
+  /// Runs `body` for one file.  Records and reports a failure and returns false.
   template <class Body>
   bool Try(const std::string& path, Body&& body) {
     context_.StopIfCancelled();
@@ -138,7 +138,7 @@ class Outcome {
     }
     return false;
   }
-  /// The names that lie inside the project, as paths, each once; the others are failures.
+  /// Resolves the names inside the project, without duplicates; records a failure for each of the others.
   std::vector<std::string> PathsOf(Names names);
   scc::Long Result() const { return result_; }
 

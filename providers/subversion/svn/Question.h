@@ -1,4 +1,4 @@
-// Questions that the provider asks while it works.  User interface thread only.
+// Yes/No questions during a command.  User interface thread only.
 #pragma once
 
 #include <optional>
@@ -8,16 +8,16 @@
 
 namespace kestrel::svnscc {
 
-/// Answered with Yes or No; texts are UTF-8.
+/// UTF-8.
 struct Question {
   std::string Title;
   std::string Text;
 };
 
-/// True for Yes; false for No and for a question that was closed; nullopt when no window can be shown.
+/// True for Yes; false for No and for a closed question; nullopt if no window can be shown.
 using QuestionPrompt = std::optional<bool> (*)(scc::WindowHandle parent, const Question& question);
 
-/// Without a prompt nothing can be asked.
+/// Sets the prompt; without one, AskUser() returns nullopt.
 void SetQuestionPrompt(QuestionPrompt prompt);
 /// Shows the question above `parent`, which may be null.
 std::optional<bool> AskUser(scc::WindowHandle parent, const Question& question);

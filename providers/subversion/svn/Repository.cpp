@@ -14,14 +14,8 @@
 namespace kestrel::svnscc {
 namespace {
 
-/// "/proc/self/cwd" is the current directory, and the numbers in these folders mean open files and directories.
+/// "/proc/self/cwd" is the current directory; the numbers in these folders are open files and directories.
 constexpr std::array kPerProcess{"/proc", "/dev/fd"};
-
-svn_opt_revision_t Head() {
-  svn_opt_revision_t head{};
-  head.kind = svn_opt_revision_head;
-  return head;
-}
 
 struct Listing {
   svn_node_kind_t kind;
@@ -42,18 +36,17 @@ svn_error_t* OnEntry(void* baton, const char* path, const svn_dirent_t* entry, c
 std::vector<std::string> List(Client& client, const std::string& url, svn_node_kind_t kind,
                               svn_depth_t depth) {
   const Pool pool;
-  const svn_opt_revision_t head = Head();
+  const svn_opt_revision_t head = Newest();
   Listing listing{kind, {}, nullptr};
   svn_error_t* error =
       svn_client_list4(url.c_str(), &head, &head, nullptr, depth, SVN_DIRENT_KIND, /*fetch_locks*/ FALSE,
                        /*include_externals*/ FALSE, OnEntry, &listing, client.ClientContext(), pool);
-  if (listing.exception != nullptr) Check(error, listing.exception);
-  client.Run(error);
+  client.Run(error, listing.exception);
   std::sort(listing.names.begin(), listing.names.end());
   return listing.names;
 }
 
-/// nullopt instead of an error: the text comes from a user or a client.
+/// nullopt on an error: the text comes from a user or a client.
 template <class Convert>
 std::optional<std::string> Canonical(const std::string& text, Convert convert) {
   const Pool pool;
@@ -211,7 +204,7 @@ std::optional<std::string> UrlOfWorkingCopy(Client& client, const std::string& f
   try {
     client.Run(svn_client_url_from_path2(&url, folder.c_str(), client.ClientContext(), pool, pool));
   } catch (const Failure& failure) {
-    if (failure.MeansBusyWorkingCopy()) throw;  // it is one, and cannot be read now
+    if (failure.MeansBusyWorkingCopy()) throw;  // a working copy that cannot be read now
   }
   return url != nullptr ? std::optional<std::string>(url) : std::nullopt;
 }

@@ -1,4 +1,4 @@
-// Repositories as such: their addresses, their folders, making new ones.
+// Addresses of repositories, paths inside them, and requests to them.
 #pragma once
 
 #include <svn_types.h>
@@ -12,45 +12,44 @@
 
 namespace kestrel::svnscc {
 
-/// Whether an absolute path means another place in each process, as what lies below /proc does.
+/// Whether an absolute path, such as one below /proc, means another place in each process.
 bool IsPerProcess(const std::string& path);
-/// The address that `text` means, as libsvn spells it: a URL, or the absolute name of a local folder.  nullopt when it
-/// is neither, or names a local folder that is not the same for every process.
+/// Canonicalises an address, which is a URL or the absolute path of a local folder.  nullopt if `text` is neither, or if
+/// the folder is not the same for every process (IsPerProcess).
 std::optional<std::string> ToRepositoryUrl(const std::string& text);
-/// A path in a repository as libsvn spells it, empty for its root; nullopt when `text` is none.
+/// Canonicalises a path in a repository, empty for the root; nullopt if `text` is no such path.
 std::optional<std::string> ToProjectPath(const std::string& text);
-/// The other way round, for people and for the client's storage: the root is "/".
+/// The reverse, for display and for the client's storage: the root is "/".
 std::string ToProjectName(const std::string& path);
 /// The address of `path` in the repository at `url`.
 std::string UrlOf(const std::string& url, const std::string& path);
-/// An address for people, without escapes.
+/// `url` for display, with escapes decoded.
 std::string ReadableUrl(const std::string& url);
 
-/// Where an address lies: the repository's own address and the path in it.
+/// An address split into that of the repository and the path in it.
 struct RepositoryPlace {
   std::string Root;
   std::string Path;
 };
-/// Where a working copy's folder lies, as it knows itself.  Throws Failure.
+/// From the working copy, without contacting the repository.  Throws Failure.
 RepositoryPlace PlaceOfWorkingCopy(Client& client, const std::string& folder);
-// The following ask the repository and throw Failure.
+// The following contact the repository and throw Failure.
 RepositoryPlace PlaceOf(Client& client, const std::string& url);
 svn_node_kind_t KindOf(Client& client, const std::string& url);
 /// The names of the folders in the folder at `url`, sorted.
 std::vector<std::string> FoldersIn(Client& client, const std::string& url);
-/// The files below `url` at any depth, by their paths relative to it; one of them is "" when `url` is a file.  None when
-/// there is nothing at `url`.
+/// The files below `url` at any depth, relative to it; {""} if `url` is a file, empty if there is nothing at `url`.
 std::vector<std::string> FilesBelow(Client& client, const std::string& url);
-/// Makes the folder with all folders above it; returns the revision.
+/// Creates the folder and its missing parents; returns the revision.
 svn_revnum_t MakeFolder(Client& client, const std::string& url, const std::string& log);
 
-/// Who holds locks on files below `url`, by their paths relative to it.
+/// The owners of locks on files below `url`, by path relative to it.
 std::map<std::string, std::string> LockOwnersBelow(Client& client, const std::string& url);
 
-/// Makes an empty repository in `folder`, which is missing or empty; returns its address.  Throws Failure.
+/// Creates an empty repository in `folder`, which is missing or empty; returns its URL.  Throws Failure.
 std::string CreateRepository(const std::string& folder);
 
-/// The address of which `folder` is a working copy, or nullopt.  Throws Failure when another process is at work there.
+/// The URL of which `folder` is a working copy, or nullopt.  Throws Failure if the working copy is locked.
 std::optional<std::string> UrlOfWorkingCopy(Client& client, const std::string& folder);
 
 }  // namespace kestrel::svnscc

@@ -51,8 +51,7 @@ const std::vector<TreeEntry>& RepositoryTree::EntriesOf(const std::string& path)
   svn_error_t* error = svn_client_list4(
       UrlAt(path).c_str(), &newest, &newest, nullptr, svn_depth_immediates, SVN_DIRENT_ALL,
       /*fetch_locks*/ TRUE, /*include_externals*/ FALSE, OnEntry, &receiver, client_->ClientContext(), pool);
-  if (receiver.exception != nullptr) Check(error, receiver.exception);
-  client_->Run(error);
+  client_->Run(error, receiver.exception);
   std::sort(receiver.entries.begin(), receiver.entries.end(), [](const TreeEntry& a, const TreeEntry& b) {
     return a.IsFolder != b.IsFolder ? a.IsFolder : a.Name < b.Name;
   });

@@ -25,15 +25,16 @@ class RepositoryTree {
  public:
   explicit RepositoryTree(std::string user) : user_(std::move(user)) {}
 
-  /// Opens the repository that `text` names: an address of it or of something inside, or a local folder.  Returns the
-  /// path inside that `text` names.  Throws Failure, and then nothing is open.
+  /// Opens the repository at or above the address `text` (see ToRepositoryUrl).  Returns the path inside the repository.
+  /// Throws Failure and leaves nothing open.
   std::string Open(const std::string& text);
   bool IsOpen() const { return client_ != nullptr; }
   const std::string& Root() const { return root_; }
   std::string UrlAt(const std::string& path) const;
-  /// Folders first, then files, by name.  `path` is inside the repository, empty for its root.  Asked once.  Throws.
+  /// Sorted: folders first, then files, by name.  `path` is inside the repository, empty for its root.  Fetches each folder
+  /// once.  Throws Failure.
   const std::vector<TreeEntry>& EntriesOf(const std::string& path);
-  /// Asks everything again.
+  /// Drops the cache.
   void Forget() { entries_.clear(); }
   Client& Svn() { return *client_; }
 

@@ -15,13 +15,13 @@
 namespace kestrel::svnscc {
 namespace {
 
-/// Somebody's lock that this working copy does not hold.
+/// The bits of a lock that this working copy does not hold.
 scc::Long OutBits(const std::string& user, const std::string& owner) {
   return scc::SCC_STATUS_OUTEXCLUSIVE |
          (user == owner ? scc::SCC_STATUS_OUTBYUSER : scc::SCC_STATUS_OUTOTHER);
 }
 
-// The working copy's lock is the repository's lock when both carry the same token: it can have been broken meanwhile.
+// A lock of the working copy may have been broken since; it is valid if the repository's lock has the same token.
 scc::Long LockBits(const svn_lock_t* here, const svn_lock_t* lock, const std::string& user) {
   if (lock == nullptr) return 0;
   if (here != nullptr && std::strcmp(here->token, lock->token) == 0)
@@ -34,9 +34,9 @@ bool IsHere(const svn_client_status_t& status) {
          status.node_status != svn_wc_status_none;
 }
 
-/// A copy that was not committed.  libsvn makes one of what is changed here and deleted in the repository.
+/// A copy that was not committed.  libsvn makes one of a file that is changed here and deleted in the repository.
 bool IsCopy(const svn_client_status_t& status) {
-  if (status.node_status == svn_wc_status_missing) return status.conflicted;  // libsvn does not tell any more
+  if (status.node_status == svn_wc_status_missing) return status.conflicted;  // libsvn reports no more
   return status.versioned && status.copied && status.node_status != svn_wc_status_deleted;
 }
 
@@ -50,8 +50,7 @@ bool IsOnlyInRepository(const svn_client_status_t& status) {
   return !IsHere(status) && status.repos_node_status == svn_wc_status_added;
 }
 
-/// A lock of the user's that a check-out here may have taken before it died does not keep the file from being checked
-/// out.
+/// Ignores the user's own lock if an interrupted check-out here may have taken it: the file can be checked out again.
 void ApplyLeftOverLock(ProviderContext& context, const svn_client_status_t& status, FileStatus& file) {
   if (!context.Journal().Has(status.local_abspath)) return;
   constexpr scc::Long kElsewhere = scc::SCC_STATUS_OUTBYUSER | scc::SCC_STATUS_OUTEXCLUSIVE;
@@ -62,7 +61,7 @@ void ApplyLeftOverLock(ProviderContext& context, const svn_client_status_t& stat
     context.Journal().Remove({status.local_abspath});
 }
 
-/// Fills in what a walk without the working copy leaves out.
+/// Fills in the local fields, which a walk without the working copy does not set.
 void AddLocalState(ProviderContext& context, svn_client_status_t& status, apr_pool_t* pool) {
   svn_wc_status3_t* local = nullptr;
   Check(svn_wc_status3(&local, context.ClientContext()->wc_ctx, status.local_abspath, pool, pool));
@@ -77,7 +76,7 @@ void AddLocalState(ProviderContext& context, svn_client_status_t& status, apr_po
   status.file_external = local->file_external;
 }
 
-/// A file or folder that libsvn reports without a word on what lies below it.
+/// A file or folder below which libsvn reports nothing.
 struct Root {
   std::string path;
   bool inConflict;    // deleted or replaced in the repository, and changed here
@@ -88,7 +87,7 @@ struct Walk {
   ProviderContext& context;
   const std::string& user;
   bool online;
-  bool byName;  // libsvn could not read the folders: local states are asked for file by file
+  bool byName;  // libsvn could not read the folders: reads local states file by file
   StatusTable& table;
   std::vector<std::string>
       shadowed;  // in the repository, and a local file of that name that is not controlled
@@ -125,7 +124,7 @@ svn_error_t* OnStatus(void* baton, const char*, const svn_client_status_t* statu
   });
 }
 
-/// libsvn leaves the locks of such files out: they are asked for once, together.
+/// Fetches the locks of files that libsvn reports without them, all at once.
 void AddLocksOfShadowed(StatusTable& table, ProviderContext& context,
                         const std::vector<std::string>& shadowed) {
   if (shadowed.empty()) return;
@@ -144,7 +143,7 @@ bool IsBelow(const std::string& path, const std::string& folder) {
   return svn_dirent_is_ancestor(folder.c_str(), path.c_str());
 }
 
-/// What a file is whose copy is part of a conflict.
+/// The status of a copy that belongs to a conflict.
 FileStatus InConflict(FileStatus status, bool isInRepository) {
   status.Bits &= ~scc::SCC_STATUS_DELETED;
   status.Bits |= scc::SCC_STATUS_CONTROLLED | scc::SCC_STATUS_MERGED;
@@ -155,7 +154,7 @@ FileStatus InConflict(FileStatus status, bool isInRepository) {
 
 void FetchStatusBelow(Walk& walk, ProviderContext& context, const Root& root);
 
-/// What libsvn says of a folder that was deleted or replaced holds for the files in it.
+/// Applies the status of deleted and replaced folders to the files in them.
 void Inherit(Walk& walk, ProviderContext& context) {
   std::sort(walk.roots.begin(), walk.roots.end(),
             [](const Root& a, const Root& b) { return a.path < b.path; });
@@ -189,28 +188,26 @@ svn_error_t* OnNode(void* baton, const char* path, const svn_client_info2_t*, ap
   return OnStatus(baton, path, &status, pool);
 }
 
-/// A walk that reads no folder on disk: the working copy's database names what it knows.
+/// A walk over the working copy's database, which reads no folder on disk.
 svn_error_t* WalkKnown(Walk& walk, const std::string& path, svn_depth_t depth) {
   const Pool pool;
-  svn_opt_revision_t here{};
-  here.kind = svn_opt_revision_unspecified;
+  const svn_opt_revision_t here{};
   return svn_client_info4(path.c_str(), &here, &here, depth, /*fetch_excluded*/ FALSE,
                           /*fetch_actual_only*/ TRUE, /*include_externals*/ FALSE, nullptr, OnNode, &walk,
                           walk.context.ClientContext(), pool);
 }
 
-enum class Ask { Repository, WorkingCopy };
+enum class Source { Repository, WorkingCopy };
 
 enum class Read { Folders, NamedFiles };
 
 void WalkInto(StatusTable& table, ProviderContext& context, const std::string& path, svn_depth_t depth,
-              Ask ask, Read read) {
+              Source source, Read read) {
   const Pool pool;
-  const bool online = ask == Ask::Repository;
+  const bool online = source == Source::Repository;
   const bool byName = read == Read::NamedFiles;
   Walk walk{context, context.Svn().User(), online, byName, table, {}, {}, {}, nullptr};
-  svn_opt_revision_t head{};
-  head.kind = svn_opt_revision_head;
+  const svn_opt_revision_t head = Newest();
   svn_error_t* error =
       byName && !online
           ? WalkKnown(walk, path, depth)
@@ -219,26 +216,22 @@ void WalkInto(StatusTable& table, ProviderContext& context, const std::string& p
                                /*no_ignore*/ TRUE,
                                /*ignore_externals*/ TRUE, /*depth_as_sticky*/ TRUE, nullptr, OnStatus, &walk,
                                pool);
-  if (walk.exception != nullptr) {
-    svn_error_clear(error);
-    std::rethrow_exception(walk.exception);
-  }
-  context.Svn().Run(error);
+  context.Svn().Run(error, walk.exception);
   Inherit(walk, context);
   AddLocksOfShadowed(table, context, walk.shadowed);
 }
 
 void WalkInto(StatusTable& table, ProviderContext& context, const std::string& path, svn_depth_t depth,
-              Ask ask) {
+              Source source) {
   try {
-    WalkInto(table, context, path, depth, ask, Read::Folders);
+    WalkInto(table, context, path, depth, source, Read::Folders);
   } catch (const Failure& failure) {
-    // libsvn gives up at a folder that holds a name which is not UTF-8.
+    // libsvn fails on a folder that contains a name which is not UTF-8.
     const auto names = failure.Has(APR_EINVAL) ? NamesNotUtf8(path) : std::vector<std::string>();
     if (names.empty()) throw;
     context.ReportNonUtf8Names(names);
     table = {};
-    WalkInto(table, context, path, depth, ask, Read::NamedFiles);
+    WalkInto(table, context, path, depth, source, Read::NamedFiles);
   }
 }
 
@@ -249,14 +242,14 @@ bool IsFolderKnown(ProviderContext& context, const std::string& path) {
   return state != LocalState::Absent && state != LocalState::Unversioned;
 }
 
-/// The files below a folder that was deleted in the repository were deleted with it.  When it was replaced, libsvn calls
-/// all of them deleted: each is asked for alone.
+/// Marks the files below a deleted folder as deleted.  Below a replaced folder libsvn reports every file as deleted, so
+/// each status is fetched alone.
 void FetchStatusBelow(Walk& walk, ProviderContext& context, const Root& root) {
   for (auto& [path, status] : walk.table.Entries()) {
     if (path == root.path || !status.IsHere || !IsBelow(path, root.path)) continue;
     if (root.mayHoldFiles) {
       StatusTable alone;
-      WalkInto(alone, context, path, svn_depth_empty, Ask::Repository);
+      WalkInto(alone, context, path, svn_depth_empty, Source::Repository);
       status = alone.Of(path);
     } else {
       status.Bits &= ~scc::SCC_STATUS_OUTOFDATE;
@@ -266,12 +259,12 @@ void FetchStatusBelow(Walk& walk, ProviderContext& context, const Root& root) {
   }
 }
 
-/// What the working copy knows, when the repository could not be asked.
+/// The statuses from the working copy alone; reports why the repository could not be contacted.
 StatusTable LocalWalk(ProviderContext& context, const Failure& reason) {
   context.Out().Error(Format(sStatusFailed.Text, {reason.what()}));
   const bool unreachable = reason.Result() == scc::SCC_E_CONNECTIONFAILURE;
   StatusTable table;
-  WalkInto(table, context, context.CurrentProject().Folder, svn_depth_infinity, Ask::WorkingCopy);
+  WalkInto(table, context, context.CurrentProject().Folder, svn_depth_infinity, Source::WorkingCopy);
   table.Result = unreachable ? static_cast<scc::Long>(scc::SCC_E_ACCESSFAILURE) : reason.Result();
   return table;
 }
@@ -318,11 +311,11 @@ FileStatus ToFileStatus(const svn_client_status_t& status, const std::string& us
 const StatusTable& WalkProject(ProviderContext& context) {
   StatusTable table;
   try {
-    WalkInto(table, context, context.CurrentProject().Folder, svn_depth_infinity, Ask::Repository);
+    WalkInto(table, context, context.CurrentProject().Folder, svn_depth_infinity, Source::Repository);
   } catch (const Failure& failure) {
     table = failure.MeansNoWorkingCopy() ? StatusTable{} : LocalWalk(context, failure);
   }
-  if (table.Result >= 0) context.Events().Found(table);
+  if (table.Result >= 0) context.Events().Update(table);
   return context.LastStatuses() = std::move(table);
 }
 
@@ -330,10 +323,10 @@ FileStatus FetchStatus(ProviderContext& context, const std::string& path) {
   const LocalStatus local = ReadLocalStatus(context, path);
   if (!local.IsConflicted() && IsFolderKnown(context, path)) {
     StatusTable table;
-    WalkInto(table, context, path, svn_depth_empty, Ask::Repository);
+    WalkInto(table, context, path, svn_depth_empty, Source::Repository);
     return table.Of(path);
   }
-  // libsvn says nothing of a file below a folder that it does not know, or that is in conflict itself.
+  // libsvn reports nothing about a file below a folder that it does not know, or that is in conflict.
   const StatusTable& walked = WalkProject(context);
   if (walked.Result < 0) throw Failure(walked.Result, sNotAsked);
   return walked.Of(path);
@@ -341,20 +334,20 @@ FileStatus FetchStatus(ProviderContext& context, const std::string& path) {
 
 std::map<std::string, FileStatus> LocalEntries(ProviderContext& context, const std::string& folder) {
   StatusTable table;
-  WalkInto(table, context, folder, svn_depth_infinity, Ask::WorkingCopy);
+  WalkInto(table, context, folder, svn_depth_infinity, Source::WorkingCopy);
   return {table.Entries().begin(), table.Entries().end()};
 }
 
 void RecordCommandResult(ProviderContext& context, std::span<const char* const> names) {
-  // After more than that a client does better to ask for everything.
+  // For more files, a client should query all statuses instead.
   constexpr std::size_t kMost = 1000;
   if (names.size() > kMost) return;
   for (const char* name : names) {
     const std::string path = context.InsidePath(name);
     if (!context.Events().Covers(path)) continue;
     StatusTable table;
-    WalkInto(table, context, path, svn_depth_empty, Ask::WorkingCopy);
-    context.Events().Found(path, table.Of(path).Bits);
+    WalkInto(table, context, path, svn_depth_empty, Source::WorkingCopy);
+    context.Events().Update(path, table.Of(path).Bits);
   }
 }
 

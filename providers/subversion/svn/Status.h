@@ -1,4 +1,4 @@
-// The status of a project's files, in the API's bits.
+// The status of a project's files as SCC status bits.
 #pragma once
 
 #include <svn_client.h>
@@ -18,37 +18,37 @@ class ProviderContext;
 struct FileStatus {
   scc::Long Bits = 0;
   bool IsFolder = false;
-  /// The local copy is not what the repository holds: to be fetched by a get.
+  /// The local copy differs from the newest revision apart from local edits: a get would change it.
   bool NeedsGet = false;
-  /// Locked in the repository by a check-out that was interrupted here: can be taken over.
+  /// Locked in the repository by a check-out that was interrupted here; the lock can be taken over.
   bool LeftOver = false;
-  /// The working copy has it, though perhaps not on disk.
+  /// Known to the working copy, though perhaps not on disk.
   bool IsHere = false;
 };
 
-/// Statuses by absolute path as libsvn spells it.
+/// Statuses by canonical absolute path.
 class StatusTable {
  public:
   void Put(const std::string& path, const FileStatus& status);
-  /// The status of a path; one that is not listed is not controlled.
+  /// The status of a path; default (not controlled) if it is not listed.
   FileStatus Of(const std::string& path) const;
   std::unordered_map<std::string, FileStatus>& Entries() { return entries_; }
   /// All controlled files, sorted.
   std::vector<std::string> Files() const;
-  /// SCC_OK, or why the repository could not be asked: then the table holds what the working copy knows.
+  /// SCC_OK, or why the repository could not be contacted: then the statuses come from the working copy alone.
   scc::Long Result = scc::SCC_OK;
 
  private:
   std::unordered_map<std::string, FileStatus> entries_;
 };
 
-/// One walk over the whole project folder and the repository.  Also keeps a copy as the context's last statuses.
+/// Walks the whole project folder and the repository; one server contact.  Stores the result in LastStatuses().
 const StatusTable& WalkProject(ProviderContext& context);
-/// The status of one path, asked of the repository: for one file that costs less than a walk.  Throws Failure.
+/// Fetches the status of one path, which is cheaper than a walk.  Throws Failure.
 FileStatus FetchStatus(ProviderContext& context, const std::string& path);
-/// What the working copy knows of a folder and of all that lies below it, sorted by path.  Nothing is asked.
+/// The statuses of a folder and everything below it, by path, from the working copy alone.
 std::map<std::string, FileStatus> LocalEntries(ProviderContext& context, const std::string& folder);
-/// Queues what a command that succeeded for all of these files made of them, from the working copy's knowledge.
+/// Queues the local statuses of `names` as events, after a command that succeeded for all of them.
 void RecordCommandResult(ProviderContext& context, std::span<const char* const> names);
 /// The bits of one libsvn status for `user`.
 FileStatus ToFileStatus(const svn_client_status_t& status, const std::string& user);

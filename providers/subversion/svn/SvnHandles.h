@@ -1,4 +1,4 @@
-// Owners for what libsvn hands out, and the one place where its errors become exceptions.
+// RAII owners for APR and libsvn objects, and the conversion of libsvn errors to exceptions.
 #pragma once
 
 #include <apr_tables.h>
@@ -15,10 +15,10 @@
 
 namespace kestrel::svnscc {
 
-/// Whether the process is ending and all of APR's memory is gone already.
+/// Whether APR has been terminated: the process is ending and no pool may be touched.
 bool HasRuntimeEnded() noexcept;
 
-/// A memory pool of APR: everything allocated in it lives as long as it does.
+/// An APR memory pool, destroyed with its owner.
 class Pool {
  public:
   Pool() : pool_(svn_pool_create(nullptr)) {}
@@ -29,7 +29,7 @@ class Pool {
     return *this;
   }
   ~Pool() {
-    // A client may keep its context in a static object, which goes after the runtime.
+    // A client may keep its context in a static object, which is destroyed after the runtime.
     if (pool_ != nullptr && !HasRuntimeEnded()) svn_pool_destroy(pool_);
   }
   operator apr_pool_t*() const { return pool_; }
@@ -39,23 +39,23 @@ class Pool {
   apr_pool_t* pool_;
 };
 
-/// A failure as the API and the user see it: a return code and a sentence.
+/// An error as an SCC return code and a text for the user.
 class Failure : public std::runtime_error {
  public:
   Failure(scc::Long result, const std::string& text, std::vector<apr_status_t> codes = {})
       : std::runtime_error(text), result_(result), codes_(std::move(codes)) {}
   scc::Long Result() const { return result_; }
-  /// The same failure in better words.
+  /// The same failure with another text.
   Failure With(const std::string& text) const { return Failure(result_, text, codes_); }
-  /// Whether `code` is anywhere in libsvn's chain of errors.
+  /// Whether libsvn's error chain contains `code`.
   bool Has(apr_status_t code) const;
-  /// Whether the failure is that a path belongs to no working copy.
+  /// Whether a path belongs to no working copy.
   bool MeansNoWorkingCopy() const;
-  /// Whether the failure is that the repository holds the file locked, and not for this working copy.
+  /// Whether the repository holds a lock that this working copy has no token for.
   bool MeansOthersLock() const {
     return result_ == scc::SCC_E_FILEOUTEXCLUSIVE || result_ == scc::SCC_E_FILEISLOCKED;
   }
-  /// Whether the failure is that another process is at work in the working copy, or was when it died.
+  /// Whether the working copy is locked by another process, or by one that died.
   bool MeansBusyWorkingCopy() const;
 
  private:
@@ -63,12 +63,12 @@ class Failure : public std::runtime_error {
   std::vector<apr_status_t> codes_;
 };
 
-/// A reason that stands alone: with a capital letter and a full stop.
+/// `reason` with a capital first letter and a full stop.
 std::string AsSentence(std::string reason);
 
-/// The failure that a chain of errors means.  Borrows `error`.
+/// Converts an error chain; does not take ownership.
 Failure ToFailure(svn_error_t* error);
-/// Takes ownership of `error`; throws its Failure unless it is SVN_NO_ERROR.
+/// Takes ownership of `error`; throws Failure unless it is SVN_NO_ERROR.
 void Check(svn_error_t* error);
 
 /// Runs `body` inside a C callback; stores an exception in `exception` and returns SVN_ERR_CANCELLED, which stops libsvn.
@@ -82,7 +82,7 @@ svn_error_t* RunInCallback(std::exception_ptr& exception, Body&& body) noexcept 
     return svn_error_create(SVN_ERR_CANCELLED, nullptr, nullptr);
   }
 }
-/// Check() for a call whose callbacks used RunInCallback.
+/// Check() for a call whose callbacks used RunInCallback: an exception of a callback comes first.
 inline void Check(svn_error_t* error, const std::exception_ptr& exception) {
   if (exception) {
     svn_error_clear(error);
@@ -91,7 +91,7 @@ inline void Check(svn_error_t* error, const std::exception_ptr& exception) {
   Check(error);
 }
 
-/// The texts as libsvn takes lists; copied into `pool`.
+/// An APR array of C strings, copied into `pool`.
 apr_array_header_t* ToArray(const std::vector<std::string>& texts, apr_pool_t* pool);
 
 }  // namespace kestrel::svnscc

@@ -1,4 +1,4 @@
-// What libsvn reports while it works, as sentences.
+// libsvn's notifications as messages for the user.
 #pragma once
 
 #include <svn_wc.h>
@@ -15,7 +15,7 @@ struct Sentence {
   std::string Text;
 };
 
-/// The sentence for a notice about `label`, or nothing when users need not know.
+/// The message for a notification about `label`, or nullopt if it is of no interest to users.
 std::optional<Sentence> ToSentence(const svn_wc_notify_t& notice, const std::string& label);
 
 }  // namespace kestrel::svnscc

@@ -28,13 +28,12 @@ svn_error_t* LookForLock(void* baton, const char* path, const svn_client_info2_t
   return SVN_NO_ERROR;
 }
 
-/// Whether a command is at work, or was when its process died, in the working copy below `folder` or above it.
+/// Whether a folder below or above `folder` has a working-copy lock, of a live or a dead process.
 bool IsInUse(const std::string& folder) {
   const Pool pool;
-  Client fresh("");  // one that has the working copy open already does not notice unfinished work
+  Client fresh("");  // a client that has the working copy open already does not see new locks
   LockSearch search{fresh.ClientContext()};
-  svn_opt_revision_t here{};
-  here.kind = svn_opt_revision_unspecified;
+  const svn_opt_revision_t here{};
   try {
     fresh.Run(svn_client_info4(folder.c_str(), &here, &here, svn_depth_infinity, TRUE, TRUE, FALSE, nullptr,
                                LookForLock, &search, fresh.ClientContext(), pool));
@@ -67,28 +66,28 @@ void CleanUp(const std::string& root) {
   }
 }
 
-enum class Told { Yes, No };
+enum class Report { Yes, No };
 
-/// Cleans the working copy up if no other process works on it; otherwise the programs that do.
-std::vector<std::string> CleanUpIfUnused(ProviderContext& context, const std::string& folder, Told told) {
+/// Cleans the working copy up if no other process uses it; else returns the names of the programs that do.
+std::vector<std::string> CleanUpIfUnused(ProviderContext& context, const std::string& folder, Report report) {
   const std::string root = WorkingCopyRoot(folder);
-  // An open context holds its own mark, which a second one would find in use.
+  // A second marker of this process would find that of the open project locked.
   const UseMarker own = context.IsOpen() ? UseMarker() : UseMarker(root);
   const UseMarker& mark = context.IsOpen() ? context.Mark() : own;
   return mark.IfUnused([&] {
-    if (!IsInUse(folder)) return;  // whoever was at work is done
+    if (!IsInUse(folder)) return;  // the other process has finished
     CleanUp(root);
-    if (told == Told::Yes) context.Out().Warning(Format(sFinishedInterrupted.Text, {NativeName(folder)}));
+    if (report == Report::Yes) context.Out().Warning(Format(sFinishedInterrupted.Text, {NativeName(folder)}));
   });
 }
 
-/// Returns when the working copy can be tried again.
+/// Returns when the working copy is free.  Throws Failure after a timeout, or if the user cancels.
 void WaitUntilFree(ProviderContext& context, const std::string& folder) {
-  constexpr std::chrono::seconds kPatience{5};
+  constexpr std::chrono::seconds kTimeout{5};
   constexpr std::chrono::milliseconds kPause{50};
-  const auto end = std::chrono::steady_clock::now() + kPatience;
+  const auto end = std::chrono::steady_clock::now() + kTimeout;
   while (IsInUse(folder)) {
-    const auto users = CleanUpIfUnused(context, folder, Told::Yes);
+    const auto users = CleanUpIfUnused(context, folder, Report::Yes);
     if (users.empty()) return;
     if (std::chrono::steady_clock::now() > end)
       throw Failure(scc::SCC_E_ACCESSFAILURE, Format(sInUse.Text, {users.front(), NativeName(folder)}));
@@ -108,7 +107,7 @@ std::string WorkingCopyRoot(const std::string& folder) {
 }
 
 void FinishInterrupted(ProviderContext& context, const std::string& folder) {
-  if (IsInUse(folder)) CleanUpIfUnused(context, folder, Told::Yes);
+  if (IsInUse(folder)) CleanUpIfUnused(context, folder, Report::Yes);
 }
 
 void RetryWhenFree(ProviderContext& context, const std::string& folder, const std::function<void()>& body) {
@@ -125,8 +124,8 @@ void RetryWhenFree(ProviderContext& context, const std::string& folder, const st
 
 void ReleaseOwnLocks(ProviderContext& context) {
   const std::string folder = context.CurrentProject().Folder;
-  context.Reconnect();  // libsvn believes that it still holds its lock
-  if (IsInUse(folder)) CleanUpIfUnused(context, folder, Told::No);
+  context.Reconnect();  // the old client still counts the lock as its own
+  if (IsInUse(folder)) CleanUpIfUnused(context, folder, Report::No);
 }
 
 scc::Long RunCommand(ProviderContext& context, const std::function<scc::Long()>& command) {

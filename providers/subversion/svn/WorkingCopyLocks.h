@@ -1,5 +1,5 @@
-// Locks of the working copy itself, which libsvn takes for the time of a command: what dead processes left is cleaned
-// up, what live ones hold is waited for.
+// Working-copy locks, which libsvn holds during a command.  Those of dead processes are cleaned up, those of live ones
+// waited for.
 #pragma once
 
 #include <functional>
@@ -11,21 +11,21 @@ namespace kestrel::svnscc {
 
 class ProviderContext;
 
-/// The top folder of the working copy that `folder` belongs to; empty when it belongs to none.
+/// The root of the working copy that contains `folder`; empty if there is none.
 std::string WorkingCopyRoot(const std::string& folder);
 
-/// Finishes what dead processes left in the working copy that holds `folder`; what live ones do is left alone.
-/// Throws Failure when that fails.
+/// Cleans up after dead processes in the working copy that contains `folder`, unless another process uses it.  Throws
+/// Failure.
 void FinishInterrupted(ProviderContext& context, const std::string& folder);
 
-/// Runs `body`, again when another process was at work in the working copy that holds `folder`.  Throws Failure, which
-/// names the other program, when that one is not done in time.
+/// Runs `body` and retries it while the working copy that contains `folder` is locked.  Throws Failure, naming the other
+/// program, after a timeout.
 void RetryWhenFree(ProviderContext& context, const std::string& folder, const std::function<void()>& body);
 
-/// Releases what a command of the open project that failed or was cancelled left locked in this process.
+/// Releases the working-copy locks that a failed or cancelled command of this process left.
 void ReleaseOwnLocks(ProviderContext& context);
 
-/// Runs a command of the open project so, and cleans up when it is cancelled.
+/// RetryWhenFree() for a command of the open project; cleans up after a cancelled one.
 scc::Long RunCommand(ProviderContext& context, const std::function<scc::Long()>& command);
 
 }  // namespace kestrel::svnscc

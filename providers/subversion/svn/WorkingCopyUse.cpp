@@ -18,7 +18,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr const char* kMark = "/.svn/subversion-scc";
+constexpr const char* kMarker = "/.svn/subversion-scc";
 constexpr const char* kJournalPrefix = "subversion-scc-";
 
 std::string RealPath(const std::string& path) {
@@ -26,25 +26,25 @@ std::string RealPath(const std::string& path) {
   return fs::canonical(path, error).string();
 }
 
-/// What one process holds open of a working copy.
-struct Held {
+/// Which files of a working copy a process has open.
+struct OpenFiles {
   bool database = false;
-  bool mark = false;
-  bool hidden = false;  // the system does not show it to this user
+  bool marker = false;
+  bool hidden = false;  // no permission to list them
 };
 
-Held HeldBy(const fs::path& process, const std::string& database, const std::string& mark) {
-  Held held;
+OpenFiles OpenFilesOf(const fs::path& process, const std::string& database, const std::string& marker) {
+  OpenFiles opened;
   std::error_code error;
   auto files = fs::directory_iterator(process / "fd", error);
-  held.hidden = error == std::errc::permission_denied;
+  opened.hidden = error == std::errc::permission_denied;
   for (; !error && files != fs::directory_iterator(); files.increment(error)) {
     std::error_code closed;
     const std::string name = fs::read_symlink(files->path(), closed).string();
-    held.database = held.database || name == database;
-    held.mark = held.mark || name == mark;
+    opened.database = opened.database || name == database;
+    opened.marker = opened.marker || name == marker;
   }
-  return held;
+  return opened;
 }
 
 std::string ProgramName(const fs::path& process) {
@@ -55,13 +55,13 @@ std::string ProgramName(const fs::path& process) {
   }
 }
 
-/// Whether other users may write to the file: if not, what the system hides of their processes does not matter.
+/// Whether other users may write to the file; if not, their hidden processes do not matter.
 bool IsShared(const std::string& file) {
   struct stat facts {};
   return stat(file.c_str(), &facts) != 0 || (facts.st_mode & (S_IWGRP | S_IWOTH)) != 0;
 }
 
-bool IsRoots(const fs::path& process) {
+bool IsOwnedByRoot(const fs::path& process) {
   struct stat facts {};
   return stat(process.c_str(), &facts) == 0 && facts.st_uid == 0;
 }
@@ -73,16 +73,16 @@ FileHandle::~FileHandle() {
 }
 
 UseMarker::UseMarker(const std::string& root)
-    : root_(root), file_(open((root + kMark).c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666)) {}
+    : root_(root), file_(open((root + kMarker).c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666)) {}
 
 bool UseMarker::Lock(int operation) const {
   return !file_.IsOpen() || flock(file_.Number(), operation) == 0 || errno != EWOULDBLOCK;
 }
 
 std::vector<std::string> UseMarker::IfUnused(const std::function<void()>& body) const {
-  struct Share {  // also when refused: the attempt has given the shared lock up
-    const UseMarker& mark;
-    ~Share() { mark.Lock(LOCK_SH); }
+  struct Share {  // even a refused attempt has released the shared lock
+    const UseMarker& marker;
+    ~Share() { marker.Lock(LOCK_SH); }
   } const share{*this};
   if (!Lock(LOCK_EX | LOCK_NB)) return {sThisProvidersProgram};
   auto users = Users();
@@ -92,7 +92,7 @@ std::vector<std::string> UseMarker::IfUnused(const std::function<void()>& body) 
 
 std::vector<std::string> UseMarker::Users() const {
   const std::string database = RealPath(root_ + "/.svn/wc.db");
-  const std::string mark = RealPath(root_ + kMark);
+  const std::string marker = RealPath(root_ + kMarker);
   const bool shared = IsShared(database);
   const std::string own = std::to_string(getpid());
   std::vector<std::string> users;
@@ -100,11 +100,11 @@ std::vector<std::string> UseMarker::Users() const {
   for (const auto& process : fs::directory_iterator("/proc", error)) {
     const std::string number = process.path().filename().string();
     if (number == own || number.find_first_not_of("0123456789") != std::string::npos) continue;
-    const Held held = HeldBy(process.path(), database, mark);
-    if (held.database && !held.mark) users.push_back(ProgramName(process.path()));
-    if (held.hidden && shared && !IsRoots(process.path())) users.push_back(sOthersProgram);
+    const OpenFiles opened = OpenFilesOf(process.path(), database, marker);
+    if (opened.database && !opened.marker) users.push_back(ProgramName(process.path()));
+    if (opened.hidden && shared && !IsOwnedByRoot(process.path())) users.push_back(sOthersProgram);
   }
-  if (error) users.push_back(sUnknownProgram);  // without a list of processes nobody can tell
+  if (error) users.push_back(sUnknownProgram);  // no list of processes
   std::sort(users.begin(), users.end());
   users.erase(std::unique(users.begin(), users.end()), users.end());
   return users;
@@ -123,7 +123,7 @@ LockJournal::LockJournal(const std::string& root) : root_(root) {
     } catch (const std::runtime_error&) {
       continue;
     }
-    Store();  // before the other one goes
+    Store();  // before the other journal is deleted
     unlink(entry.path().c_str());
   }
 }
@@ -139,8 +139,7 @@ void LockJournal::Remove(const std::vector<std::string>& paths) {
   if (gone > 0) Store();
 }
 
-// Written in place: a process that is killed loses nothing that the system has taken, and after a crash of the whole
-// computer a lock can still be broken by hand.
+// Written in place: written data survives a killed process; after a system crash, the user can break the lock by hand.
 void LockJournal::Store() {
   if (paths_.empty()) {
     if (file_.IsOpen()) unlink(name_.c_str());
@@ -157,7 +156,7 @@ void LockJournal::Store() {
   for (const auto& path : paths_) text += path.substr(root_.size() + 1) + '\0';
   if (ftruncate(file_.Number(), 0) == 0 &&
       pwrite(file_.Number(), text.data(), text.size(), 0) != static_cast<ssize_t>(text.size()))
-    ftruncate(file_.Number(), 0);  // half a name would be another file's
+    ftruncate(file_.Number(), 0);  // a truncated name would be that of another file
 }
 
 }  // namespace kestrel::svnscc

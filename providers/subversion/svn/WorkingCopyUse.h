@@ -1,5 +1,4 @@
-// Who works on a working copy besides this process.  libsvn marks a working copy that a command works on as locked, and
-// leaves the mark when the process dies; nothing in the mark says whose it is.
+// Which other processes use a working copy.  libsvn's working-copy locks name no owner and survive a process that dies.
 #pragma once
 
 #include <sys/file.h>
@@ -12,7 +11,7 @@
 
 namespace kestrel::svnscc {
 
-/// A file descriptor, closed with its owner; -1 is none.
+/// Owns a file descriptor; -1 is none.
 class FileHandle {
  public:
   explicit FileHandle(int number = -1) : number_(number) {}
@@ -29,16 +28,16 @@ class FileHandle {
   int number_;
 };
 
-/// A file in the administrative folder that every process with the project open holds: shared-locked while it works,
-/// unlocked while it waits for its client.  So a provider that only waits is told from one that works.  Where the folder
-/// cannot be written to there is no mark, and nothing to be left over either.
+/// A file in .svn that every process with the project open holds open: shared-locked during a call, unlocked between
+/// calls, which tells an idle provider from a busy one.  In a read-only folder there is no marker, and no command can
+/// leave a lock either.
 class UseMarker {
  public:
   UseMarker() = default;
-  /// Of the working copy at `root`.
+  /// For the working copy at `root`.
   explicit UseMarker(const std::string& root);
 
-  /// Says that this process works on the working copy while it lives.
+  /// Scoped: this process is using the working copy.
   class Work {
    public:
     explicit Work(const UseMarker& mark) : mark_(mark) { mark_.Lock(LOCK_SH); }
@@ -50,30 +49,29 @@ class UseMarker {
     const UseMarker& mark_;
   };
 
-  /// Runs `body` if no other process uses the working copy; until it returns none of this provider can start to.
-  /// Returns the names of the programs that do; without any, `body` has run.
+  /// Runs `body` if no other process uses the working copy; processes of this provider cannot start to meanwhile.
+  /// Otherwise returns the names of the programs that use it.
   std::vector<std::string> IfUnused(const std::function<void()>& body) const;
 
  private:
-  /// False when another process works and `operation` does not wait.
+  /// flock(); false if the lock is taken and `operation` does not wait.
   bool Lock(int operation) const;
-  /// The programs that hold the working copy's database open.  Those that also hold the mark only wait.
+  /// The programs that have the working copy's database open, except those that have the marker open, too: they are idle.
   std::vector<std::string> Users() const;
 
   std::string root_;
   FileHandle file_;
 };
 
-/// The files that a check-out is locking, kept in the administrative folder.  When it dies between the repository's answer
-/// and the working copy's note of it, the repository holds locks that nobody has the token of; here stands that they
-/// were taken for this working copy.
+/// The files that a check-out is locking, stored in .svn.  A process that dies between the repository's answer and the
+/// update of the working copy leaves locks whose tokens are lost; the journal shows that they belong to this working copy.
 class LockJournal {
  public:
   LockJournal() = default;
-  /// Takes over what processes that died left in the working copy at `root`.
+  /// Reads and removes the journals of dead processes in the working copy at `root`.
   explicit LockJournal(const std::string& root);
 
-  /// Whether a lock on the absolute `path` without a token may have been taken here.
+  /// Whether a lock on the absolute `path` may belong to this working copy.
   bool Has(const std::string& path) const { return paths_.contains(path); }
   void Add(const std::vector<std::string>& paths);
   void Remove(const std::vector<std::string>& paths);
@@ -83,7 +81,7 @@ class LockJournal {
 
   std::string root_;
   std::string name_;
-  FileHandle file_;  // locked: its process lives
+  FileHandle file_;  // locked while the process lives
   std::set<std::string> paths_;
 };
 

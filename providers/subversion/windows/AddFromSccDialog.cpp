@@ -1,4 +1,4 @@
-// Picking files that only the repository has.
+// Choosing files that are in the repository and not on disk.
 #include "common/windows/WindowTools.h"
 #include "subversion/commands/Commands.h"
 #include "subversion/commands/MissingFiles.h"
@@ -10,7 +10,7 @@
 namespace kestrel::svnscc {
 namespace {
 
-/// A report with check boxes.
+/// A RowList with check boxes.
 class CheckedList : public RowList {
  public:
   CheckedList(wxWindow* parent, const char* name, const std::vector<Column>& columns, TextOf textOf)

@@ -1,4 +1,4 @@
-// Asks for the user name and password that a server wants.
+// Asks for the user name and password for a server.
 #include "common/windows/WindowTools.h"
 #include "subversion/windows/ProviderWindowStrings.h"
 #include "subversion/windows/ProviderWindows.h"
@@ -54,7 +54,7 @@ class LoginDialog : public wxDialog {
 
 std::optional<Login> AskLogin(const LoginQuestion& question) {
   if (!CanShowWindows()) return std::nullopt;
-  // Whatever the client shows, it shows modally: the active window is the one in front.
+  // The client may show a modal dialog: use the active window as the parent.
   LoginDialog dialog(ParentFor(nullptr), question);
   if (dialog.ShowModal() != wxID_OK) return std::nullopt;
   return dialog.Answer();

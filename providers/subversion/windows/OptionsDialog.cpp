@@ -1,4 +1,4 @@
-// The dialogs of the commands' options.
+// The dialog of a command's advanced options.
 #include <wx/radiobut.h>
 #include <wx/spinctrl.h>
 
@@ -95,8 +95,8 @@ class OptionsDialog : public wxDialog {
 
 scc::Long AskCommandOptions(ProviderContext& context, scc::WindowHandle parent, scc::SCCCommand command,
                             void** options) {
-  if (options == nullptr) {  // a client asks when it begins a list for the command
-    context.Options().Forget();
+  if (options == nullptr) {  // a client calls so when it begins a file list
+    context.Options().Reset();
     return HasOptions(command) && CanShowWindows() ? scc::SCC_I_ADV_SUPPORT
                                                    : static_cast<scc::Long>(scc::SCC_OK);
   }

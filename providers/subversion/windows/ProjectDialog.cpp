@@ -14,17 +14,8 @@
 namespace kestrel::svnscc {
 namespace {
 
-/// The same where a control would read "&" as a mnemonic.
+/// ToWx() for labels, where "&" would be a mnemonic.
 wxString ToPlainWx(const std::string& text) { return wxControl::EscapeMnemonics(ToWx(text)); }
-
-struct FolderData : wxTreeItemData {
-  explicit FolderData(std::string path) : Path(std::move(path)) {}
-  std::string Path;
-};
-
-std::string PathOf(wxTreeCtrl* tree, const wxTreeItemId& item) {
-  return static_cast<FolderData*>(tree->GetItemData(item))->Path;
-}
 
 }  // namespace
 
@@ -100,9 +91,12 @@ wxSizer* ProjectDialog::CreateFolderPart() {
   auto* part = new wxBoxSizer(wxVERTICAL);
   part->Add(new wxStaticText(this, wxID_ANY, ToWx(sFolderLabel)),
             wxSizerFlags().Border(wxBOTTOM, FromDIP(4)));
-  tree_ = new wxTreeCtrl(this, wxID_ANY, wxDefaultPosition, wxDefaultSize,
-                         wxTR_DEFAULT_STYLE | wxTR_SINGLE | wxTR_LINES_AT_ROOT);
-  tree_->SetName("folders");
+  tree_ = new FolderTree(this, [this](const std::string& path) {
+    const wxBusyCursor busy;
+    auto names = choice_.FoldersOf(path);
+    ShowState();
+    return names;
+  });
   part->Add(tree_, wxSizerFlags(1).Expand());
   newFolder_ = new wxButton(this, wxID_ANY, ToWx(sNewFolderButton));
   newFolder_->Show(choice_.MayCreate());
@@ -130,9 +124,8 @@ void ProjectDialog::BindEvents() {
   connect_->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { Connect(); });
   newRepository_->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { MakeRepository(); });
   newFolder_->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { MakeFolder(); });
-  tree_->Bind(wxEVT_TREE_ITEM_EXPANDING, [this](wxTreeEvent& event) { FillFolder(event.GetItem()); });
   tree_->Bind(wxEVT_TREE_SEL_CHANGED, [this](wxTreeEvent& event) {
-    if (event.GetItem().IsOk()) choice_.Select(PathOf(tree_, event.GetItem()));
+    if (event.GetItem().IsOk()) choice_.Select(tree_->PathOf(event.GetItem()));
     ShowState();
   });
 }
@@ -163,8 +156,8 @@ void ProjectDialog::MakeFolder() {
   if (path) {
     const wxTreeItemId item = tree_->GetSelection();
     tree_->SetItemHasChildren(item);
-    FillFolder(item);
-    ShowPath(*path);
+    tree_->Fill(item);
+    tree_->SelectPath(*path);
     tree_->SetFocus();
   }
   ShowState();
@@ -172,57 +165,13 @@ void ProjectDialog::MakeFolder() {
 
 void ProjectDialog::FillTree() {
   const auto selected = choice_.Selected();
-  const std::string message = choice_.Message();
   tree_->DeleteAllItems();
   if (choice_.IsConnected()) {
-    const auto root = tree_->AddRoot(ToPlainWx(ReadableUrl(choice_.Root())), -1, -1, new FolderData(""));
-    tree_->SetItemHasChildren(root);
-    tree_->Expand(root);
-    ShowPath(selected.value_or(""));
+    tree_->ShowRoot(ReadableUrl(choice_.Root()));
+    tree_->SelectPath(selected.value_or(""));
     tree_->SetFocus();
   }
   ShowState();
-}
-
-void ProjectDialog::FillFolder(const wxTreeItemId& item) {
-  const wxBusyCursor busy;
-  const std::string path = PathOf(tree_, item);
-  const auto present = ChildrenOf(item);
-  for (const auto& name : choice_.FoldersOf(path))
-    if (!present.contains(name)) AppendFolder(item, path.empty() ? name : path + "/" + name, name);
-  if (tree_->GetChildrenCount(item, false) == 0) tree_->SetItemHasChildren(item, false);
-  ShowState();
-}
-
-wxTreeItemId ProjectDialog::AppendFolder(const wxTreeItemId& parent, const std::string& path,
-                                         const std::string& name) {
-  const auto item = tree_->AppendItem(parent, ToWx(name), -1, -1, new FolderData(path));
-  tree_->SetItemHasChildren(item);  // known when it is opened
-  return item;
-}
-
-std::map<std::string, wxTreeItemId> ProjectDialog::ChildrenOf(const wxTreeItemId& parent) const {
-  std::map<std::string, wxTreeItemId> children;
-  wxTreeItemIdValue cookie = nullptr;
-  for (auto child = tree_->GetFirstChild(parent, cookie); child.IsOk();
-       child = tree_->GetNextChild(parent, cookie))
-    children[tree_->GetItemText(child).utf8_string()] = child;
-  return children;
-}
-
-void ProjectDialog::ShowPath(const std::string& path) {
-  wxTreeItemId item = tree_->GetRootItem();
-  for (std::size_t start = 0; start < path.size();) {
-    const auto slash = std::min(path.find('/', start), path.size());
-    tree_->Expand(item);
-    const auto children = ChildrenOf(item);
-    const auto child = children.find(path.substr(start, slash - start));
-    if (child == children.end()) break;
-    item = child->second;
-    start = slash + 1;
-  }
-  tree_->SelectItem(item);
-  tree_->EnsureVisible(item);
 }
 
 void ProjectDialog::ShowState() {

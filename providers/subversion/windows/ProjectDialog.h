@@ -1,11 +1,9 @@
-// The window for choosing a project; its rules are ProjectChoice's.
+// The dialog for choosing a project; its model is ProjectChoice.
 #pragma once
 
-#include <wx/treectrl.h>
 #include <wx/wx.h>
 
-#include <map>
-
+#include "common/windows/FolderTree.h"
 #include "subversion/project/ProjectChoice.h"
 
 namespace kestrel::svnscc {
@@ -25,12 +23,7 @@ class ProjectDialog : public wxDialog {
   void MakeRepository();
   void MakeFolder();
   void FillTree();
-  void FillFolder(const wxTreeItemId& item);
-  /// Opens the tree down to `path` and selects it.
-  void ShowPath(const std::string& path);
-  wxTreeItemId AppendFolder(const wxTreeItemId& parent, const std::string& path, const std::string& name);
-  std::map<std::string, wxTreeItemId> ChildrenOf(const wxTreeItemId& parent) const;
-  /// Brings message and buttons in line with the choice.
+  /// Updates message and buttons.
   void ShowState();
 
   ProjectChoice& choice_;
@@ -38,7 +31,7 @@ class ProjectDialog : public wxDialog {
   wxComboBox* repository_ = nullptr;
   wxButton* connect_ = nullptr;
   wxButton* newRepository_ = nullptr;
-  wxTreeCtrl* tree_ = nullptr;
+  FolderTree* tree_ = nullptr;
   wxButton* newFolder_ = nullptr;
   wxStaticBitmap* icon_ = nullptr;
   wxStaticText* message_ = nullptr;

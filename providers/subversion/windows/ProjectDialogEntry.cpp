@@ -1,4 +1,4 @@
-// From the provider border to the dialog.
+// Runs the dialog for choosing a project.
 #include "common/windows/WindowTools.h"
 #include "subversion/project/UsedRepositories.h"
 #include "subversion/windows/ProjectDialog.h"

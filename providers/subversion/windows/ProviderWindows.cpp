@@ -19,7 +19,7 @@ void RequireWindows() {
 
 namespace {
 
-/// What the repository has of a controlled file; what was last fetched when it has none or cannot be asked.
+/// The newest revision of a controlled file; the last fetched one if it was deleted or the repository cannot be contacted.
 DiffSide RepositorySide(ProviderContext& context, const ControlledNode& node) {
   const auto titled = [&](const TResString& text, const NodeInfo& facts) {
     return Format(text.Text, {static_cast<long long>(facts.ChangedRevision)});

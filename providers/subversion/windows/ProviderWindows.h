@@ -1,5 +1,5 @@
-// The provider's windows as its entry points call them.  Each is modal and runs on the user interface thread; each
-// throws Failure, and SCC_E_NONSPECIFICERROR when this process shows no windows.
+// The provider's windows as functions.  They are modal, belong to the user interface thread, and throw Failure:
+// SCC_E_NONSPECIFICERROR if this process shows no windows.
 #pragma once
 
 #include <string>
@@ -13,25 +13,26 @@ namespace kestrel::svnscc {
 /// Throws Failure (SCC_E_NONSPECIFICERROR) unless this thread may show windows.
 void RequireWindows();
 
-/// The file in the repository beside the local one.  SCC_OK when they are the same, else SCC_I_FILEDIFFERS; `flags` are
-/// those of SccDiff.
+/// Compares a local file with the newest revision.  `flags` are those of SccDiff.  Returns SCC_OK if they are the same, else
+/// SCC_I_FILEDIFFERS.
 scc::Long ShowDifferences(ProviderContext& context, scc::WindowHandle parent, const char* name,
                           scc::Long flags);
-/// The history of the first file or folder.  SCC_I_RELOADFILE when the user had the local file replaced.
+/// The history of the first file or folder.  Returns SCC_I_RELOADFILE if the local file was replaced.
 scc::Long ShowHistory(ProviderContext& context, scc::WindowHandle parent, Names names);
-/// All there is to tell of a file or folder.
+/// The properties of a file or folder.
 scc::Long ShowProperties(ProviderContext& context, scc::WindowHandle parent, const char* name);
-/// The provider's own application, at the first file if one is named.  Works without an open project, too.
+/// The repository browser, at the first file if there is one.  Needs no open project.
 scc::Long RunBrowser(ProviderContext& context, scc::WindowHandle parent, Names names);
-/// SccGetCommandOptions: answers a probe (`options` null), or lets the user choose and stores the block.
+/// SccGetCommandOptions.  With a null `options` only returns whether the command has options; else shows the dialog and
+/// stores the block in `options`.
 scc::Long AskCommandOptions(ProviderContext& context, scc::WindowHandle parent, scc::SCCCommand command,
                             void** options);
-/// A LoginPrompt with a window of its own.  Nothing is asked, and nothing thrown, where none can be shown.
+/// A LoginPrompt.  Returns nullopt if no window can be shown; throws no Failure.
 std::optional<Login> AskLogin(const LoginQuestion& question);
-/// A QuestionPrompt with a window of its own.
+/// A QuestionPrompt.
 std::optional<bool> ShowQuestion(scc::WindowHandle parent, const Question& question);
-/// Gets files that only the repository has, as the user chooses; `names` receives them.  `folder` (may be null) limits
-/// the choice to what is below it.
+/// Lets the user choose from the files that are not on disk, gets them, and returns them in `names`.  `folder` (may be null)
+/// limits the choice to the files below it.
 scc::Long ChooseMissingFiles(ProviderContext& context, scc::WindowHandle parent, const char* folder,
                              std::vector<std::string>& names);
 

@@ -1,4 +1,4 @@
-// Questions as a message box: No is what Enter and Escape answer.
+// Questions as message boxes; Enter and Escape mean No.
 #include "common/windows/WindowTools.h"
 #include "subversion/windows/ProviderWindows.h"
 #include "toolkit/WxText.h"
