@@ -58,7 +58,7 @@ TEST(OptionBlocks, CountUntilTheirCommandHasRunOrANewListBegins) {
   const auto choose = [&] { *blocks.Find(variable) = {7, true, true, true}; };
   const auto take = [&](scc::SCCCommand command) {
     const svnscc::OptionBlocks::Call call(blocks);
-    return blocks.Take(&variable, command);
+    return blocks.Use(&variable, command);
   };
   choose();
   EXPECT_FALSE(take(scc::SCC_COMMAND_REMOVE).StealLocks);
@@ -71,7 +71,7 @@ TEST(OptionBlocks, CountUntilTheirCommandHasRunOrANewListBegins) {
   EXPECT_FALSE(take(scc::SCC_COMMAND_CHECKIN).KeepUnchangedOut) << "something else was called";
   EXPECT_TRUE(take(scc::SCC_COMMAND_ADD).WithoutNeedsLock);
   choose();
-  blocks.Forget();
+  blocks.Reset();
   for (const auto command : {scc::SCC_COMMAND_CHECKOUT, scc::SCC_COMMAND_CHECKIN})
     EXPECT_FALSE(take(command).StealLocks || take(command).KeepUnchangedOut);
 }
