@@ -98,7 +98,7 @@ TStringList addList;
 TStringList removeList;
 
 scc::Bool SCC_CALL PopListFunc(void*, scc::Bool addKeep, scc::Long, const char* fileName) noexcept {
-  return TakeFileName(fileName, addKeep ? addList : removeList) ? -1 : 0;
+  return AppendPopulatedName(fileName, addKeep ? addList : removeList) ? -1 : 0;
 }
 
 /// Deletes from `list`, for each of `names`, the first entry that matches it.

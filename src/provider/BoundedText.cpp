@@ -4,14 +4,14 @@
 
 namespace kestrel::addin {
 
-void TBoundedText::SetUncut(std::string_view text) { text_ = text.substr(0, text.find('\0')); }
+void TBoundedText::SetUntruncated(std::string_view text) { text_ = text.substr(0, text.find('\0')); }
 
 void TBoundedText::Set(std::string_view text) {
-  SetUncut(text);
-  text_ = Cut();
+  SetUntruncated(text);
+  text_ = Truncated();
 }
 
-std::string TBoundedText::Cut() const {
+std::string TBoundedText::Truncated() const {
   return Fits() ? text_ : FromCodePageLossy(TruncateInCodePage(*ToCodePageExact(text_), size_ - 1));
 }
 

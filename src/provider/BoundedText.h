@@ -18,9 +18,9 @@ class TBoundedText {
   /// Takes what a buffer would; a NUL inside `text` ends it.
   void Set(std::string_view text);
   /// Takes all of it, up to a NUL.
-  void SetUncut(std::string_view text);
+  void SetUntruncated(std::string_view text);
   /// What a buffer holds of it: what fits with its terminator, cut at a character border.
-  std::string Cut() const;
+  std::string Truncated() const;
   /// Whether a buffer holds all of it.  Text that the code page lacks does, too: it is refused for that.
   bool Fits() const;
 

@@ -17,7 +17,7 @@ IProviderSink* sink = nullptr;
 std::string providerName;
 bool calling = false;
 
-constexpr char kGuardByte = '\x5A';
+constexpr char kCanaryByte = '\x5A';
 
 /// Lines that a provider's own threads have written, until the user-interface thread shows them.
 struct TWaitingLines {
@@ -39,7 +39,7 @@ std::string ShownText(std::string_view text) {
 }
 
 /// Keeps the line when this is another thread than the one that shows lines.
-bool KeptForLater(IProviderSink::Kind kind, std::string_view text) {
+bool QueueLine(IProviderSink::Kind kind, std::string_view text) {
   const std::lock_guard lock(waiting.Lock);
   const auto shows = waiting.UserInterface;
   if (shows == std::thread::id() || shows == std::this_thread::get_id()) return false;
@@ -85,14 +85,14 @@ void ShowProviderLines() noexcept try {
 
 IProviderSink* ProviderSink() { return sink; }
 
-TFloatingPointKeeper::TFloatingPointKeeper() noexcept { std::fegetenv(&environment_); }
-TFloatingPointKeeper::~TFloatingPointKeeper() { std::fesetenv(&environment_); }
+TScopedFpEnv::TScopedFpEnv() noexcept { std::fegetenv(&environment_); }
+TScopedFpEnv::~TScopedFpEnv() { std::fesetenv(&environment_); }
 
-TCallMark::TCallMark() {
+TScopedProviderCall::TScopedProviderCall() {
   if (calling) throw EAbort(sProviderBusy);
   calling = true;
 }
-TCallMark::~TCallMark() { calling = false; }
+TScopedProviderCall::~TScopedProviderCall() { calling = false; }
 bool ProviderCallInProgress() { return calling; }
 
 void SetProviderName(const std::string& name) { providerName = name; }
@@ -116,7 +116,7 @@ scc::Long SCC_CALL TextOutProc(const char* text, scc::Dword kind) noexcept try {
   // Providers end their lines as if they wrote to a console; the message window has lines of its own.
   std::string_view line = text;
   line.remove_suffix(line.size() - (line.find_last_not_of("\r\n") + 1));
-  if (KeptForLater(known->Kind, line)) return scc::SCC_MSG_RTN_OK;
+  if (QueueLine(known->Kind, line)) return scc::SCC_MSG_RTN_OK;
   ShowProviderLines();  // what came first stands first
   WriteProviderLine(known->Kind, ShownText(line));
   return scc::SCC_MSG_RTN_OK;
@@ -124,24 +124,24 @@ scc::Long SCC_CALL TextOutProc(const char* text, scc::Dword kind) noexcept try {
   return scc::SCC_MSG_RTN_OK;
 }
 
-TScratchText::TScratchText(const char* entry, std::string_view text)
-    : entry_(entry), given_(ForProvider(UpToNul(text))), bytes_(kRoom + kGuard, '\0') {
+TScratchBuffer::TScratchBuffer(const char* entry, std::string_view text)
+    : entry_(entry), given_(ForProvider(UpToNul(text))), bytes_(kRoom + kCanarySize, '\0') {
   given_.resize(TruncateInCodePage(given_, kRoom - 1).size());
   std::ranges::copy(given_, bytes_.begin());
   // The last byte stays a terminator: who reads on after filling the room stops there.
-  std::fill(bytes_.begin() + kRoom, bytes_.end() - 1, kGuardByte);
+  std::fill(bytes_.begin() + kRoom, bytes_.end() - 1, kCanaryByte);
 }
 
-TScratchText::~TScratchText() {
-  const auto guard = std::string_view(bytes_.data() + kRoom, kGuard - 1);
-  const bool touched = guard.find_first_not_of(kGuardByte) != std::string_view::npos;
-  const bool passed = guard.back() != kGuardByte || bytes_.back() != '\0';
+TScratchBuffer::~TScratchBuffer() {
+  const auto canary = std::string_view(bytes_.data() + kRoom, kCanarySize - 1);
+  const bool touched = canary.find_first_not_of(kCanaryByte) != std::string_view::npos;
+  const bool passed = canary.back() != kCanaryByte || bytes_.back() != '\0';
   ReportOverrun(entry_, passed ? TOverrun::Passed : touched ? TOverrun::Caught : TOverrun::None);
 }
 
-std::string_view TScratchText::Text() const { return UpToNul({bytes_.data(), kRoom}); }
+std::string_view TScratchBuffer::Text() const { return UpToNul({bytes_.data(), kRoom}); }
 
-std::string TScratchText::TextFor(const TBoundedText& field) const {
+std::string TScratchBuffer::TextFor(const TBoundedText& field) const {
   const auto whole = Text();
   if (whole == given_) return field.Str();
   // A provider may leave out the terminator, so all bytes of a field count.
@@ -154,14 +154,14 @@ std::string TScratchText::TextFor(const TBoundedText& field) const {
   return *name;
 }
 
-TComment::TComment(std::string_view typed) { Take(ForProvider(typed)); }
+TProviderComment::TProviderComment(std::string_view typed) { Set(ForProvider(typed)); }
 
-TComment::TComment(std::string_view typed, const TResString& otherwise) {
-  Take(!typed.empty() ? ForProvider(typed)
-                      : ToCodePageLossy(Format(otherwise.str(), {DateTimeToStr(std::time(nullptr))})));
+TProviderComment::TProviderComment(std::string_view typed, const TResString& otherwise) {
+  Set(!typed.empty() ? ForProvider(typed)
+                     : ToCodePageLossy(Format(otherwise.str(), {DateTimeToStr(std::time(nullptr))})));
 }
 
-void TComment::Take(std::string_view text) {
+void TProviderComment::Set(std::string_view text) {
   std::ranges::copy(TruncateInCodePage(UpToNul(text), kMaxComment), bytes_.begin());
 }
 
@@ -177,7 +177,7 @@ const TBoundedText& RequireFits(const TBoundedText& path) {
   return path;
 }
 
-bool TakeFileName(const char* name, TStringList& taken) noexcept try {
+bool AppendPopulatedName(const char* name, TStringList& taken) noexcept try {
   if (taken.size() >= kMaxPopulated) return false;
   if (name == nullptr || *name == '\0') return true;
   if (auto known = FromCodePageExact(name))

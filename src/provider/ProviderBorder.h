@@ -36,17 +36,17 @@ std::string ForProvider(std::string_view text);
 
 /// An in/out text on its way through a provider.  The room is far larger than any field, zeroed, and followed by guard
 /// bytes; damage to them is reported when the object goes.
-class TScratchText {
+class TScratchBuffer {
  public:
   static constexpr std::size_t kRoom = 4096;
-  static constexpr std::size_t kGuard = 1024;
+  static constexpr std::size_t kCanarySize = 1024;
 
   /// `entry` names the entry point in the report and outlives the object.
-  TScratchText(const char* entry, std::string_view text);
-  TScratchText(const char* entry, const TBoundedText& field) : TScratchText(entry, field.Str()) {}
-  ~TScratchText();
-  TScratchText(const TScratchText&) = delete;
-  TScratchText& operator=(const TScratchText&) = delete;
+  TScratchBuffer(const char* entry, std::string_view text);
+  TScratchBuffer(const char* entry, const TBoundedText& field) : TScratchBuffer(entry, field.Str()) {}
+  ~TScratchBuffer();
+  TScratchBuffer(const TScratchBuffer&) = delete;
+  TScratchBuffer& operator=(const TScratchBuffer&) = delete;
 
   char* Data() { return bytes_.data(); }
   /// What stands there now, up to the terminator or the end of the room.
@@ -62,7 +62,7 @@ class TScratchText {
 };
 
 /// A word that a provider fills.  Providers built where `long` has 64 bits write eight bytes: the spare word takes them.
-struct TOutWord {
+struct TOutParam32 {
   alignas(std::int64_t) scc::Long Value = 0;
   scc::Long Spare = 0;
 };
@@ -86,17 +86,17 @@ class TFileArray {
 const TBoundedText& RequireFits(const TBoundedText& path);
 
 /// A comment as it may reach a provider: at most kMaxComment bytes, cut at a character border.
-class TComment {
+class TProviderComment {
  public:
   /// Throws EAbort as ForProvider does: what the user typed is not changed.
-  explicit TComment(std::string_view typed);
+  explicit TProviderComment(std::string_view typed);
   /// The date, put into `otherwise`, when nothing was typed.  In its words the active code page may lack characters: the
   /// user's locale need not be the system's.
-  TComment(std::string_view typed, const TResString& otherwise);
+  TProviderComment(std::string_view typed, const TResString& otherwise);
   const char* Data() const { return bytes_.data(); }
 
  private:
-  void Take(std::string_view text);
+  void Set(std::string_view text);
 
   std::array<char, kMaxComment + 1> bytes_{};  // zeros behind the text: a provider may copy all of it
 };
@@ -117,12 +117,12 @@ void RequireAtMostMaxFiles(const TStringList& files);
 
 /// Puts back how the thread computes.  Run-time libraries of other languages change the precision or let divisions by
 /// zero fault, some as soon as they are loaded, and the rest of the program is not made for that.
-class TFloatingPointKeeper {
+class TScopedFpEnv {
  public:
-  TFloatingPointKeeper() noexcept;
-  ~TFloatingPointKeeper();
-  TFloatingPointKeeper(const TFloatingPointKeeper&) = delete;
-  TFloatingPointKeeper& operator=(const TFloatingPointKeeper&) = delete;
+  TScopedFpEnv() noexcept;
+  ~TScopedFpEnv();
+  TScopedFpEnv(const TScopedFpEnv&) = delete;
+  TScopedFpEnv& operator=(const TScopedFpEnv&) = delete;
 
  private:
   std::fenv_t environment_;
@@ -130,12 +130,12 @@ class TFloatingPointKeeper {
 
 /// Marks that a provider function is on the call stack; see ProviderCallInProgress().  Throws EAbort when one is there
 /// already.
-class TCallMark {
+class TScopedProviderCall {
  public:
-  TCallMark();
-  ~TCallMark();
-  TCallMark(const TCallMark&) = delete;
-  TCallMark& operator=(const TCallMark&) = delete;
+  TScopedProviderCall();
+  ~TScopedProviderCall();
+  TScopedProviderCall(const TScopedProviderCall&) = delete;
+  TScopedProviderCall& operator=(const TScopedProviderCall&) = delete;
 };
 
 /// Throws EAbort: the entry point ended with a fault of that name (see CallWithSehFrame).
@@ -146,8 +146,8 @@ class TCallMark {
 template <class... Parameters, class... Arguments>
 scc::Long Invoke(scc::Long(SCC_CALL* entry)(Parameters...), Arguments... arguments) {
   if (scc::hSosScc == nullptr || entry == nullptr) return scc::SCC_E_OPNOTSUPPORTED;
-  const TCallMark mark;
-  const TFloatingPointKeeper floatingPoint;
+  const TScopedProviderCall mark;
+  const TScopedFpEnv floatingPoint;
   scc::Long result = scc::SCC_E_NONSPECIFICERROR;
   const auto fault = CallWithSehFrame([&] { result = entry(arguments...); });
   ShowProviderLines();  // of its other threads
@@ -157,7 +157,7 @@ scc::Long Invoke(scc::Long(SCC_CALL* entry)(Parameters...), Arguments... argumen
 
 /// Runs a call with its preparations.  No exception leaves here, of whatever type.
 template <class Body>
-TAnswer Attempt(Body&& body) {
+TAnswer RunCatching(Body&& body) {
   try {
     return {body(), {}};
   } catch (...) {
@@ -165,11 +165,11 @@ TAnswer Attempt(Body&& body) {
   }
 }
 
-/// Attempt for calls whose caller takes texts: fills them.  Returns the provider's code, `faultCode` after an exception.
+/// RunCatching for calls whose caller takes texts: fills them.  Returns the provider's code, `faultCode` after an exception.
 template <class Body>
-scc::Long AttemptWith(TStateMessages& messages, Body&& body,
-                      scc::Long faultCode = scc::SCC_E_NONSPECIFICERROR) {
-  const TAnswer answer = Attempt(body);
+scc::Long RunWithMessages(TStateMessages& messages, Body&& body,
+                          scc::Long faultCode = scc::SCC_E_NONSPECIFICERROR) {
+  const TAnswer answer = RunCatching(body);
   if (answer.Fault.empty()) {
     DecodeReturnCode(answer.Code, messages);
     return answer.Code;
@@ -178,10 +178,10 @@ scc::Long AttemptWith(TStateMessages& messages, Body&& body,
   return faultCode;
 }
 
-/// Attempt for calls whose caller takes none: an exception becomes an error line that begins with the entry's name.
+/// RunCatching for calls whose caller takes none: an exception becomes an error line that begins with the entry's name.
 template <class Body>
-scc::Long AttemptLogged(const char* entry, Body&& body) {
-  const TAnswer answer = Attempt(body);
+scc::Long RunLogged(const char* entry, Body&& body) {
+  const TAnswer answer = RunCatching(body);
   if (!answer.Fault.empty())
     WriteProviderLine(IProviderSink::Kind::Error, std::string(entry) + "; " + answer.Fault);
   return answer.Code;

@@ -11,40 +11,40 @@ using namespace scc;
 
 namespace {
 
-constexpr std::size_t kGuardWords = 256;
-constexpr Long kGuardWord = 0x5A5A5A5A;
+constexpr std::size_t kCanaryWords = 256;
+constexpr Long kCanaryWord = 0x5A5A5A5A;
 
 }  // namespace
 
-TStatusArray::TStatusArray() : words_(kMaxFiles + kGuardWords, kGuardWord) { Clear(); }
+TStatusArray::TStatusArray() : words_(kMaxFiles + kCanaryWords, kCanaryWord) { Clear(); }
 
 void TStatusArray::Clear() { std::fill_n(words_.begin(), kMaxFiles, 0); }
 
-TOverrun TStatusArray::TakeOverrun() {
-  const auto guard = words_.begin() + kMaxFiles;
-  if (std::all_of(guard, words_.end(), [](Long word) { return word == kGuardWord; })) return TOverrun::None;
-  const bool passed = words_.back() != kGuardWord;
-  std::fill(guard, words_.end(), kGuardWord);
+TOverrun TStatusArray::CheckOverrun() {
+  const auto canary = words_.begin() + kMaxFiles;
+  if (std::all_of(canary, words_.end(), [](Long word) { return word == kCanaryWord; })) return TOverrun::None;
+  const bool passed = words_.back() != kCanaryWord;
+  std::fill(canary, words_.end(), kCanaryWord);
   return passed ? TOverrun::Passed : TOverrun::Caught;
 }
 
 bool TSCCProviderProject::Query(const TStringList& files, TStatusArray& statuses, TStateMessages& messages) {
   RequireFiles(files, sQueryListEmpty);
   RequireAtMostMaxFiles(files);
-  const Long code = AttemptWith(messages, [&] {
+  const Long code = RunWithMessages(messages, [&] {
     statuses.Clear();
     TFileArray names(files);
     return Invoke(SccQueryInfo, context_, names.Count(), names.Data(), statuses.data());
   });
-  ReportOverrun("SccQueryInfo", statuses.TakeOverrun());
+  ReportOverrun("SccQueryInfo", statuses.CheckOverrun());
   return code == SCC_OK;
 }
 
 bool TSCCProviderProject::CheckOutFile(const TStringList& files, const std::string& comment,
                                        TStateMessages& messages) {
   RequireFiles(files, sCheckOutListEmpty);
-  const Long code = AttemptWith(messages, [&] {
-    const TComment text(comment, sCheckOutComment);
+  const Long code = RunWithMessages(messages, [&] {
+    const TProviderComment text(comment, sCheckOutComment);
     TFileArray names(files);
     return Invoke(SccCheckOut, context_, Window(), names.Count(), names.Data(), text.Data(), 0, Options());
   });
@@ -54,8 +54,8 @@ bool TSCCProviderProject::CheckOutFile(const TStringList& files, const std::stri
 bool TSCCProviderProject::AddFile(const TStringList& files, const std::string& comment, bool keepCheckedOut,
                                   TStateMessages& messages) {
   RequireFiles(files, sAddListEmpty);
-  const Long code = AttemptWith(messages, [&] {
-    const TComment text(comment);
+  const Long code = RunWithMessages(messages, [&] {
+    const TProviderComment text(comment);
     TFileArray names(files);
     // One choice for all files; but a provider may read one word per file, so there is one for each.
     std::vector<Long> flags(files.size(), keepCheckedOut ? SCC_KEEP_CHECKEDOUT : 0);
@@ -68,8 +68,8 @@ bool TSCCProviderProject::AddFile(const TStringList& files, const std::string& c
 bool TSCCProviderProject::CheckInFile(const TStringList& files, const std::string& comment,
                                       bool keepCheckedOut, TStateMessages& messages) {
   RequireFiles(files, sCheckInListEmpty);
-  const Long code = AttemptWith(messages, [&] {
-    const TComment text(comment, sCheckInComment);
+  const Long code = RunWithMessages(messages, [&] {
+    const TProviderComment text(comment, sCheckInComment);
     TFileArray names(files);
     const Long flags = keepCheckedOut ? SCC_KEEP_CHECKEDOUT : 0;
     return Invoke(SccCheckin, context_, Window(), names.Count(), names.Data(), text.Data(), flags, Options());
@@ -79,8 +79,8 @@ bool TSCCProviderProject::CheckInFile(const TStringList& files, const std::strin
 
 bool TSCCProviderProject::RemoveFile(const TStringList& files, TStateMessages& messages) {
   RequireFiles(files, sRemoveListEmpty);
-  const Long code = AttemptWith(messages, [&] {
-    const TComment text({}, sRemoveComment);
+  const Long code = RunWithMessages(messages, [&] {
+    const TProviderComment text({}, sRemoveComment);
     TFileArray names(files);
     return Invoke(SccRemove, context_, Window(), names.Count(), names.Data(), text.Data(), 0, Options());
   });
@@ -89,7 +89,7 @@ bool TSCCProviderProject::RemoveFile(const TStringList& files, TStateMessages& m
 
 bool TSCCProviderProject::UnCheckOutFile(const TStringList& files, TStateMessages& messages) {
   RequireFiles(files, sAddListEmpty);  // the add message is meant
-  const Long code = AttemptWith(messages, [&] {
+  const Long code = RunWithMessages(messages, [&] {
     TFileArray names(files);
     return Invoke(SccUncheckout, context_, Window(), names.Count(), names.Data(), 0, Options());
   });
@@ -106,7 +106,7 @@ Long TSCCProviderProject::GetFilesAndDirs(const TStringList& names, TStateMessag
 
 Long TSCCProviderProject::Get(const TStringList& names, Long flags, TStateMessages& messages) {
   RequireFiles(names, sGetListEmpty);
-  return AttemptWith(messages, [&] {
+  return RunWithMessages(messages, [&] {
     TFileArray array(names);
     return Invoke(SccGet, context_, Window(), array.Count(), array.Data(), flags, Options());
   });
@@ -121,7 +121,7 @@ bool TSCCProviderProject::SilentDiff(const std::string& fileName, TStateMessages
 }
 
 Long TSCCProviderProject::Diff(const std::string& fileName, Long flags, TStateMessages& messages) {
-  return AttemptWith(messages, [&] {
+  return RunWithMessages(messages, [&] {
     TFileArray name({fileName});
     return Invoke(SccDiff, context_, Window(), *name.Data(), flags, Options());
   });
@@ -129,7 +129,7 @@ Long TSCCProviderProject::Diff(const std::string& fileName, Long flags, TStateMe
 
 Long TSCCProviderProject::ShowHistory(const std::string& fileName, TStateMessages& messages) {
   if (Trim(fileName).empty()) throw EAbort(sHistoryNameBlank);
-  return AttemptWith(messages, [&] {
+  return RunWithMessages(messages, [&] {
     TFileArray name({fileName});
     return Invoke(SccHistory, context_, Window(), name.Count(), name.Data(), 0, Options());
   });
@@ -150,20 +150,20 @@ bool TSCCProviderProject::Populate(SCCCommand command, const TStringList& files,
                                    TStatusArray& statuses, Long flags, TStateMessages& messages) {
   RequireAtMostMaxFiles(files);
   bool answered = false;
-  AttemptWith(messages, [&] {
+  RunWithMessages(messages, [&] {
     TFileArray names(files);
     const Long code = Invoke(SccPopulateList, context_, command, names.Count(), names.Data(), callback,
                              nullptr, statuses.data(), flags);
     answered = true;
     return code;
   });
-  ReportOverrun("SccPopulateList", statuses.TakeOverrun());
+  ReportOverrun("SccPopulateList", statuses.CheckOverrun());
   return answered;  // the provider's code does not matter: it may decline, and the list stays as it was
 }
 
 bool TSCCProviderProject::GetCommandOptions(TCommandOptions command, TCommandOptionFlags flag,
                                             TStateMessages& messages) {
-  const Long code = AttemptWith(messages, [&] {
+  const Long code = RunWithMessages(messages, [&] {
     void** block = flag == coShowAdvDialog ? options_.data() : nullptr;
     return Invoke(SccGetCommandOptions, context_, Window(), static_cast<SCCCommand>(command), block);
   });
@@ -171,8 +171,8 @@ bool TSCCProviderProject::GetCommandOptions(TCommandOptions command, TCommandOpt
 }
 
 void TSCCProviderProject::AddFromScc(TStateMessages& messages) {
-  const Long code = AttemptWith(messages, [&] {
-    TOutWord count;
+  const Long code = RunWithMessages(messages, [&] {
+    TOutParam32 count;
     const char** names = nullptr;  // the provider's afterwards, and neither used nor freed here
     return Invoke(SccAddFromScc, context_, Window(), &count.Value, &names);
   });

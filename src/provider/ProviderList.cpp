@@ -102,11 +102,11 @@ TSCCProviderList::~TSCCProviderList() {
 
 void TSCCProviderList::Initialize(const std::string& providerPath) {
   SetProviderName(ExtractFileName(providerPath));
-  TOutWord capabilities;
-  const Long result = AttemptLogged("SccInitialize", [&] {
+  TOutParam32 capabilities;
+  const Long result = RunLogged("SccInitialize", [&] {
     constexpr const char* entry = "SccInitialize";
-    TScratchText caller(entry, kCallerName), name(entry, ""), auxLabel(entry, "");
-    TOutWord checkOutCommentLength, commentLength;
+    TScratchBuffer caller(entry, kCallerName), name(entry, ""), auxLabel(entry, "");
+    TOutParam32 checkOutCommentLength, commentLength;
     const Long code =
         Invoke(SccInitialize, &context_, ToWindow(window_), caller.Data(), name.Data(), &capabilities.Value,
                auxLabel.Data(), &checkOutCommentLength.Value, &commentLength.Value);
@@ -123,11 +123,11 @@ void TSCCProviderList::Initialize(const std::string& providerPath) {
 
 void TSCCProviderList::SetOptions() {
   for (const TOptionRow& row : kOptions)
-    AttemptLogged("SccSetOption", [&] { return Invoke(SccSetOption, context_, row.Number, row.Value); });
+    RunLogged("SccSetOption", [&] { return Invoke(SccSetOption, context_, row.Number, row.Value); });
 }
 
 void TSCCProviderList::UnInitialize() {
-  AttemptLogged("SccUninitialize", [&] { return Invoke(SccUninitialize, context_); });
+  RunLogged("SccUninitialize", [&] { return Invoke(SccUninitialize, context_); });
 }
 
 void TSCCProviderList::Add(const std::string& localPath) { Add(localPath, userName_); }

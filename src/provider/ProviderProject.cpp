@@ -17,12 +17,12 @@ struct TIdentityTexts {
   TIdentityTexts(const char* entry, const TBoundedText& user, const TBoundedText& name,
                  const TBoundedText& local, const TBoundedText& aux)
       : User(entry, user), Name(entry, name), Local(entry, RequireFits(local)), Aux(entry, aux) {}
-  TScratchText User, Name, Local, Aux;
+  TScratchBuffer User, Name, Local, Aux;
 };
 
 /// One of them on its way back.
 struct TReturned {
-  const TScratchText& Text;
+  const TScratchBuffer& Text;
   TBoundedText& Field;
 };
 
@@ -31,13 +31,13 @@ std::string FirstLine(const std::string& text) { return text.substr(0, text.find
 
 /// Gives the fields what the provider made of their texts: all of them, or none when one cannot be taken.  Only a path,
 /// cut, would be another folder's.
-void TakeBack(std::initializer_list<TReturned> lines, std::initializer_list<TReturned> paths = {}) {
+void CopyBack(std::initializer_list<TReturned> lines, std::initializer_list<TReturned> paths = {}) {
   TStringList taken;
   for (const auto& [text, field] : lines) taken.push_back(FirstLine(text.TextFor(field)));
   for (const auto& [text, field] : paths) taken.push_back(text.TextFor(field));
   auto next = taken.begin();
   for (const auto& texts : {lines, paths})
-    for (const auto& returned : texts) returned.Field.SetUncut(*next++);
+    for (const auto& returned : texts) returned.Field.SetUntruncated(*next++);
 }
 
 }  // namespace
@@ -45,7 +45,7 @@ void TakeBack(std::initializer_list<TReturned> lines, std::initializer_list<TRet
 TSCCProviderProject::TSCCProviderProject(const std::string& localPath, TWindowHandle window,
                                          const std::string& userName)
     : window_(window) {
-  localPath_.SetUncut(localPath);
+  localPath_.SetUntruncated(localPath);
   userName_.Set(userName);
 }
 
@@ -57,19 +57,19 @@ std::string TSCCProviderProject::get_ProjName() const { return projName_.Str(); 
 void TSCCProviderProject::set_ProjName(const std::string& value) { projName_.Set(value); }
 std::string TSCCProviderProject::get_ProjPath() const { return projPath_.Str(); }
 void TSCCProviderProject::set_ProjPath(const std::string& value) { projPath_.Set(value); }
-std::string TSCCProviderProject::get_LocalPath() const { return localPath_.Cut(); }
-void TSCCProviderProject::set_LocalPath(const std::string& value) { localPath_.SetUncut(value); }
+std::string TSCCProviderProject::get_LocalPath() const { return localPath_.Truncated(); }
+void TSCCProviderProject::set_LocalPath(const std::string& value) { localPath_.SetUntruncated(value); }
 std::string TSCCProviderProject::get_UserName() const { return userName_.Str(); }
 void TSCCProviderProject::set_UserName(const std::string& value) { userName_.Set(value); }
 
 Long TSCCProviderProject::GetProjectPath(TStateMessages& messages, bool mayCreate, bool mayChangePath) {
   const auto toBool = [](bool value) -> Bool { return value ? -1 : 0; };
-  TOutWord isNew{toBool(mayCreate)};
-  const Long code = AttemptWith(messages, [&] {
+  TOutParam32 isNew{toBool(mayCreate)};
+  const Long code = RunWithMessages(messages, [&] {
     TIdentityTexts texts("SccGetProjPath", userName_, projName_, localPath_, projPath_);
     const Long result = Invoke(SccGetProjPath, context_, Window(), texts.User.Data(), texts.Name.Data(),
                                texts.Local.Data(), texts.Aux.Data(), toBool(mayChangePath), &isNew.Value);
-    TakeBack({{texts.User, userName_}, {texts.Name, projName_}, {texts.Aux, projPath_}},
+    CopyBack({{texts.User, userName_}, {texts.Name, projName_}, {texts.Aux, projPath_}},
              {{texts.Local, localPath_}});
     return result;
   });
@@ -81,7 +81,7 @@ Long TSCCProviderProject::OpenProject(TStateMessages& messages) { return OpenAt(
 
 Long TSCCProviderProject::OpenProject(TStateMessages& messages, const std::string& localPath) {
   TBoundedText path(localPath_.Size());
-  path.SetUncut(localPath);
+  path.SetUntruncated(localPath);
   return OpenAt(messages, path);
 }
 
@@ -92,47 +92,47 @@ Long TSCCProviderProject::OpenAt(TStateMessages& messages, const TBoundedText& l
     return SCC_OK;
   };
   const auto open = [&] {
-    const TComment comment({}, sProjectComment);
+    const TProviderComment comment({}, sProjectComment);
     const Long result =
         Invoke(SccOpenProject, context_, Window(), texts->User.Data(), texts->Name.Data(),
                texts->Local.Data(), texts->Aux.Data(), comment.Data(), &TextOutProc, SCC_OP_CREATEIFNEW);
-    TakeBack({{texts->User, userName_}, {texts->Name, projName_}, {texts->Aux, projPath_}});
+    CopyBack({{texts->User, userName_}, {texts->Name, projName_}, {texts->Aux, projPath_}});
     return result;
   };
   // What the provider is not even asked for has not been opened.
-  if (const Long refused = AttemptWith(messages, prepare); refused != SCC_OK) return refused;
+  if (const Long refused = RunWithMessages(messages, prepare); refused != SCC_OK) return refused;
   // After an exception the code says 0 all the same: callers find the failure in the error text.
-  return AttemptWith(messages, open, SCC_OK);
+  return RunWithMessages(messages, open, SCC_OK);
 }
 
 bool TSCCProviderProject::CloseProject(TStateMessages& messages) {
-  return AttemptWith(messages, [&] { return Invoke(SccCloseProject, context_); }) == SCC_OK;
+  return RunWithMessages(messages, [&] { return Invoke(SccCloseProject, context_); }) == SCC_OK;
 }
 
 std::string TSCCProviderProject::GetVersion() {
-  const Long answer = AttemptLogged("SccGetVersion", [] { return Invoke(SccGetVersion); });
+  const Long answer = RunLogged("SccGetVersion", [] { return Invoke(SccGetVersion); });
   if (answer < 0) return {};  // an error code, not a version
   const auto version = static_cast<Dword>(answer);
   return Format(sVersion.str(), {SCC_GET_MAJOR_VER(version), SCC_GET_MINOR_VER(version)});
 }
 
 void TSCCProviderProject::Properties(const std::string& fileName, TStateMessages& messages) {
-  AttemptWith(messages, [&] {
+  RunWithMessages(messages, [&] {
     TFileArray name({fileName});
     return Invoke(SccProperties, context_, Window(), *name.Data());
   });
 }
 
 void TSCCProviderProject::GetEvents(TStateMessages& messages) {
-  AttemptWith(messages, [&] {
-    TScratchText name("SccGetEvents", "");
-    TOutWord status, remaining;
+  RunWithMessages(messages, [&] {
+    TScratchBuffer name("SccGetEvents", "");
+    TOutParam32 status, remaining;
     return Invoke(SccGetEvents, context_, name.Data(), &status.Value, &remaining.Value);
   });
 }
 
 Long TSCCProviderProject::RunSCC() {
-  return AttemptLogged("SccRunScc", [&] { return Invoke(SccRunScc, context_, Window(), 0, nullptr); });
+  return RunLogged("SccRunScc", [&] { return Invoke(SccRunScc, context_, Window(), 0, nullptr); });
 }
 
 }  // namespace kestrel::addin

@@ -34,7 +34,7 @@ void Bind(Function*& variable, const char* name) {
 }  // namespace
 
 bool LoadSCCDLL(const std::string& path) {
-  const TFloatingPointKeeper floatingPoint;
+  const TScopedFpEnv floatingPoint;
   std::string reason;
   const auto search = SearchesPath(path) ? TDependencySearch::OwnFolderPath : TDependencySearch::OwnFolder;
   if (hSosScc == nullptr) hSosScc = LoadModule(path, &reason, search);
@@ -49,7 +49,7 @@ bool LoadSCCDLL(const std::string& path) {
 }
 
 void UnloadSCCDLL() {
-  const TFloatingPointKeeper floatingPoint;
+  const TScopedFpEnv floatingPoint;
   UnloadModule(hSosScc);
   hSosScc = nullptr;
 }

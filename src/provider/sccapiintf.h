@@ -95,7 +95,7 @@ class TStatusArray {
   /// Sets all words to 0.
   void Clear();
   /// Whether somebody wrote behind the words since the last time; repairs the guard.
-  TOverrun TakeOverrun();
+  TOverrun CheckOverrun();
 
  private:
   std::vector<scc::Long> words_;
@@ -127,7 +127,7 @@ scc::Long SCC_CALL TextOutProc(const char* text, scc::Dword kind) noexcept;
 /// Appends to `taken` a file name that a provider gave a list callback.  Leaves out null pointers, empty names and, with a
 /// warning in the sink, names that could not be passed back to it (see FromCodePageExact).  False when `taken` is full, that
 /// is, has kMaxPopulated names: the callback then asks the provider to stop.
-bool TakeFileName(const char* name, TStringList& taken) noexcept;
+bool AppendPopulatedName(const char* name, TStringList& taken) noexcept;
 
 /// Whether a provider function is on the call stack.  A provider may pump messages in its dialogs; whoever is called
 /// then must not close a project or unload the library.

@@ -83,7 +83,7 @@ scc::Bool SCC_CALL TakePopulated(void*, scc::Bool, scc::Long status, const char*
   constexpr scc::Bool kStop = 0;
   const bool known = status != scc::SCC_STATUS_INVALID && status != scc::SCC_STATUS_NOTCONTROLLED;
   if (populated && !known) return kGoOn;
-  return populated && TakeFileName(fileName, *populated) ? kGoOn : kStop;
+  return populated && AppendPopulatedName(fileName, *populated) ? kGoOn : kStop;
 }
 
 class TPopulation {

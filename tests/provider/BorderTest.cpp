@@ -197,7 +197,7 @@ TEST_F(Border, AProviderMayFloodTheListCallback) {
   provider->Faults.FloodList = true;
   TStatusArray statuses;
   const auto take = [](void*, scc::Bool, scc::Long, const char* name) -> scc::Bool {
-    return TakeFileName(name, taken) ? -1 : 0;
+    return AppendPopulatedName(name, taken) ? -1 : 0;
   };
   EXPECT_TRUE(session().PopulateList(scc::SCC_COMMAND_GET, kFiles, take, statuses, messages));
   EXPECT_GT(provider->ListAnswers, static_cast<scc::Long>(kMaxPopulated));
@@ -245,8 +245,8 @@ TEST_F(Border, TextsThatAreNoUtf8AreShownAndNamesGoBackAsTheyCame) {
   session().OpenProject(messages);
   EXPECT_EQ(provider->Last("SccOpenProject").ProjName, given);
   TStringList taken;
-  EXPECT_TRUE(TakeFileName(given.c_str(), taken));
-  EXPECT_TRUE(TakeFileName(nullptr, taken));
+  EXPECT_TRUE(AppendPopulatedName(given.c_str(), taken));
+  EXPECT_TRUE(AppendPopulatedName(nullptr, taken));
   EXPECT_THAT(taken, ElementsAre(given));
 
   provider->OnCall["SccGet"] = [](const ScriptedCall&) { throw std::runtime_error("f\xFCr Ann"); };
@@ -283,7 +283,7 @@ TEST_F(Border, LinesAndCommentsHaveASize) {
   provider->Texts["SccOpenProject"] = {{scc::SCC_MSG_INFO, std::string(10'000'000, 'x') + "\r\n"}};
   session().OpenProject(messages);
   EXPECT_THAT(sink.Of(Kind::Info), ElementsAre(std::string(4096, 'x') + " [...]"));
-  const TComment comment("why");
+  const TProviderComment comment("why");
   EXPECT_EQ(std::string_view(comment.Data(), kMaxComment + 1), "why" + std::string(126, '\0'));
 }
 

@@ -125,7 +125,7 @@ TEST_F(CodePage932, ShowsWhatItCanOfATextAndRefusesSuchNames) {
   EXPECT_THAT(messages[2], HasSubstr("gave a name that cannot be passed back to it"));
   EXPECT_EQ(session().get_ProjName(), "");
   TStringList taken;
-  for (const char* name : {"C:\\\x95\x5C.pas", "C:\\a\x95"}) EXPECT_TRUE(TakeFileName(name, taken));
+  for (const char* name : {"C:\\\x95\x5C.pas", "C:\\a\x95"}) EXPECT_TRUE(AppendPopulatedName(name, taken));
   EXPECT_THAT(taken, testing::ElementsAre("C:\\表.pas"));
   EXPECT_THAT(sink.Of(Kind::Warning), testing::ElementsAre(HasSubstr("(SccPopulateList)")));
 }
