@@ -2,8 +2,6 @@
 
 #include <wx/msgdlg.h>
 
-#include <array>
-
 #include "commands/Comments.h"
 #include "commands/GetFileList.h"
 #include "expert/SccSystem.h"
@@ -19,7 +17,19 @@ namespace {
 constexpr const char* kHelpFile = "RavelinDSP.hlp";
 constexpr auto kVanishing =
     std::chrono::milliseconds(30);  // what a closed window needs until it is off the screen
-constexpr std::array kBoxIcons{wxICON_ERROR, wxICON_WARNING, wxICON_INFORMATION, wxICON_QUESTION};
+
+long BoxIconOf(TMsgType kind) {
+  switch (kind) {
+    case metError:
+      return wxICON_ERROR;
+    case metWarning:
+      return wxICON_WARNING;
+    case metQuestion:
+      return wxICON_QUESTION;
+    default:
+      return wxICON_INFORMATION;
+  }
+}
 
 /// What was under the dialog is painted before the provider is called, which may take a while.
 int ShowAndClear(wxDialog&& form) {
@@ -39,7 +49,7 @@ void TWxExpertUi::ShowMsgDialog(const std::string& title, const std::string& tex
 }
 
 void TWxExpertUi::ShowBox(const std::string& text, TMsgType kind) {
-  wxMessageBox(ToWx(text), ToWx(sMsgDialogCaption), wxOK | kBoxIcons[kind]);
+  wxMessageBox(ToWx(text), ToWx(sMsgDialogCaption), wxOK | BoxIconOf(kind));
 }
 
 int TWxExpertUi::ShowFileList(TCommandContext& context, TFileListModel& model) {

@@ -38,8 +38,8 @@ TCallProgress::TCallProgress(IExpertUi& ui, const std::string& caption, Kind kin
 
 TCallProgress::~TCallProgress() { SetProviderSink(previous_); }
 
-void TCallProgress::Line(IProviderSink::Kind kind, const std::string& text) {
-  if (previous_) previous_->Line(kind, text);
+void TCallProgress::Line(TSeverity severity, const std::string& text) {
+  if (previous_) previous_->Line(severity, text);
   if (const auto file = FileNamedIn(text); !file.empty()) {
     named_.insert(FoldCase(file));
     latest_ = file;

@@ -26,7 +26,7 @@ class TCallProgress final : private IProviderSink {
   TCallProgress& operator=(const TCallProgress&) = delete;
 
  private:
-  void Line(IProviderSink::Kind kind, const std::string& text) override;
+  void Line(TSeverity severity, const std::string& text) override;
   void Box(const std::string& text) override;
   /// The file's path as the line has it; empty when it names none.
   std::string FileNamedIn(const std::string& line);

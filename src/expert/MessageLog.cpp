@@ -1,6 +1,5 @@
 #include "expert/MessageLog.h"
 
-#include <array>
 #include <utility>
 
 #include "expert/SccExpertStrings.h"
@@ -10,7 +9,18 @@ namespace kestrel::addin {
 
 namespace {
 std::unique_ptr<IMessageWindow> aMsgWin;  // owned by the open TMessageLog
+
+TMsgWinType LineTypeOf(TSeverity severity) {
+  switch (severity) {
+    case TSeverity::Warning:
+      return mwtWarning;
+    case TSeverity::Error:
+      return mwtError;
+    default:
+      return mwtInfo;
+  }
 }
+}  // namespace
 
 void WriteMessage(TMsgWinType kind, const std::string& text) {
   if (!aMsgWin) throw std::runtime_error(sMessageWindowNil);
@@ -44,9 +54,8 @@ TMessageLog::~TMessageLog() {
   aMsgWin.reset();
 }
 
-void TMessageLog::Line(Kind kind, const std::string& text) {
-  constexpr std::array kKinds{mwtInfo, mwtWarning, mwtError};  // by Kind
-  WriteMessage(kKinds[static_cast<std::size_t>(kind)], text);
+void TMessageLog::Line(TSeverity severity, const std::string& text) {
+  WriteMessage(LineTypeOf(severity), text);
 }
 
 void TMessageLog::ShowWindow(bool show) {

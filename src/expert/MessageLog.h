@@ -58,7 +58,7 @@ class TMessageLog final : private IProviderSink {
   void DisplayMessages(const std::string& title, const TStateMessages& messages);
 
  private:
-  void Line(Kind kind, const std::string& text) override;
+  void Line(TSeverity severity, const std::string& text) override;
   void Box(const std::string& text) override { ui_.ShowBox(text, metInfo); }
 
   IExpertUi& ui_;

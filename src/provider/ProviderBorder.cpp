@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <ctime>
 #include <mutex>
+#include <optional>
 #include <thread>
 #include <utility>
 
@@ -22,7 +23,7 @@ constexpr char kCanaryByte = '\x5A';
 /// Lines that a provider's own threads have written, until the user-interface thread shows them.
 struct TWaitingLines {
   struct TLine {
-    IProviderSink::Kind Kind;
+    TSeverity Severity;
     std::string Text;
   };
   std::mutex Lock;  // of all that follows
@@ -39,26 +40,30 @@ std::string ShownText(std::string_view text) {
 }
 
 /// Keeps the line when this is another thread than the one that shows lines.
-bool QueueLine(IProviderSink::Kind kind, std::string_view text) {
+bool QueueLine(TSeverity severity, std::string_view text) {
   const std::lock_guard lock(waiting.Lock);
   const auto shows = waiting.UserInterface;
   if (shows == std::thread::id() || shows == std::this_thread::get_id()) return false;
-  waiting.Lines.push_back({kind, std::string(text.substr(0, kMaxTextLine + 1))});
+  waiting.Lines.push_back({severity, std::string(text.substr(0, kMaxTextLine + 1))});
   if (waiting.Lines.size() == 1 && waiting.Wake) waiting.Wake();
   return true;
 }
 
 std::string_view UpToNul(std::string_view text) { return text.substr(0, text.find('\0')); }
 
-struct TTextKind {
-  scc::Dword Value;
-  IProviderSink::Kind Kind;
-};
-constexpr TTextKind kTextKinds[] = {
-    {scc::SCC_MSG_INFO, IProviderSink::Kind::Info},
-    {scc::SCC_MSG_WARNING, IProviderSink::Kind::Warning},
-    {scc::SCC_MSG_ERROR, IProviderSink::Kind::Error},
-};
+/// The severity of a text-out message; empty for the kinds that are not lines.
+std::optional<TSeverity> SeverityOf(scc::Dword kind) {
+  switch (kind) {
+    case scc::SCC_MSG_INFO:
+      return TSeverity::Info;
+    case scc::SCC_MSG_WARNING:
+      return TSeverity::Warning;
+    case scc::SCC_MSG_ERROR:
+      return TSeverity::Error;
+    default:
+      return std::nullopt;
+  }
+}
 
 }  // namespace
 
@@ -79,7 +84,7 @@ void ShowProviderLines() noexcept try {
     const std::lock_guard lock(waiting.Lock);
     lines.swap(waiting.Lines);
   }
-  for (const auto& line : lines) WriteProviderLine(line.Kind, ShownText(line.Text));
+  for (const auto& line : lines) WriteProviderLine(line.Severity, ShownText(line.Text));
 } catch (...) {
 }
 
@@ -97,9 +102,9 @@ bool ProviderCallInProgress() { return calling; }
 
 void SetProviderName(const std::string& name) { providerName = name; }
 
-void WriteProviderLine(IProviderSink::Kind kind, const std::string& text) noexcept {
+void WriteProviderLine(TSeverity severity, const std::string& text) noexcept {
   try {
-    if (sink != nullptr) sink->Line(kind, text);
+    if (sink != nullptr) sink->Line(severity, text);
   } catch (...) {
   }
 }
@@ -107,18 +112,18 @@ void WriteProviderLine(IProviderSink::Kind kind, const std::string& text) noexce
 void ReportOverrun(const char* entry, TOverrun overrun) noexcept {
   if (overrun == TOverrun::None) return;
   const auto& text = overrun == TOverrun::Caught ? sBufferOverrun : sGuardOverrun;
-  WriteProviderLine(IProviderSink::Kind::Warning, Format(text.str(), {providerName, entry}));
+  WriteProviderLine(TSeverity::Warning, Format(text.str(), {providerName, entry}));
 }
 
 scc::Long SCC_CALL TextOutProc(const char* text, scc::Dword kind) noexcept try {
-  const auto known = std::ranges::find(kTextKinds, kind, &TTextKind::Value);
-  if (text == nullptr || known == std::end(kTextKinds)) return scc::SCC_MSG_RTN_OK;
+  const auto severity = SeverityOf(kind);
+  if (!text || !severity) return scc::SCC_MSG_RTN_OK;
   // Providers end their lines as if they wrote to a console; the message window has lines of its own.
   std::string_view line = text;
   line.remove_suffix(line.size() - (line.find_last_not_of("\r\n") + 1));
-  if (QueueLine(known->Kind, line)) return scc::SCC_MSG_RTN_OK;
+  if (QueueLine(*severity, line)) return scc::SCC_MSG_RTN_OK;
   ShowProviderLines();  // what came first stands first
-  WriteProviderLine(known->Kind, ShownText(line));
+  WriteProviderLine(*severity, ShownText(line));
   return scc::SCC_MSG_RTN_OK;
 } catch (...) {
   return scc::SCC_MSG_RTN_OK;
@@ -149,7 +154,7 @@ std::string TScratchBuffer::TextFor(const TBoundedText& field) const {
   const auto name = FromCodePageExact(fitting);
   if (!name) throw EAbort(Format(sNotFromCodePage.str(), {providerName, FromCodePageLossy(fitting), entry_}));
   if (fitting.size() != whole.size())
-    WriteProviderLine(IProviderSink::Kind::Warning,
+    WriteProviderLine(TSeverity::Warning,
                       Format(sTextCut.str(), {providerName, entry_, static_cast<long long>(field.Size())}));
   return *name;
 }
@@ -183,9 +188,8 @@ bool AppendPopulatedName(const char* name, TStringList& taken) noexcept try {
   if (auto known = FromCodePageExact(name))
     taken.push_back(*std::move(known));
   else
-    WriteProviderLine(
-        IProviderSink::Kind::Warning,
-        Format(sNotFromCodePage.str(), {providerName, FromCodePageLossy(name), "SccPopulateList"}));
+    WriteProviderLine(TSeverity::Warning, Format(sNotFromCodePage.str(),
+                                                 {providerName, FromCodePageLossy(name), "SccPopulateList"}));
   return true;
 } catch (...) {
   return false;

@@ -23,7 +23,7 @@ void SetProviderName(const std::string& name);
 /// The installed sink, or nullptr.
 IProviderSink* ProviderSink();
 /// Sends a line to the sink, if there is one.  A sink that fails has nowhere else to report it.
-void WriteProviderLine(IProviderSink::Kind kind, const std::string& text) noexcept;
+void WriteProviderLine(TSeverity severity, const std::string& text) noexcept;
 /// Warns that the provider wrote behind a buffer handed to `entry`, if it did.
 void ReportOverrun(const char* entry, TOverrun overrun) noexcept;
 /// The most bytes of one line of a provider's that are shown.  More is cut, with a mark: no window is made for a line of
@@ -182,8 +182,7 @@ scc::Long RunWithMessages(TStateMessages& messages, Body&& body,
 template <class Body>
 scc::Long RunLogged(const char* entry, Body&& body) {
   const TAnswer answer = RunCatching(body);
-  if (!answer.Fault.empty())
-    WriteProviderLine(IProviderSink::Kind::Error, std::string(entry) + "; " + answer.Fault);
+  if (!answer.Fault.empty()) WriteProviderLine(TSeverity::Error, std::string(entry) + "; " + answer.Fault);
   return answer.Code;
 }
 

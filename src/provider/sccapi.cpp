@@ -39,7 +39,7 @@ bool LoadSCCDLL(const std::string& path) {
   const auto search = SearchesPath(path) ? TDependencySearch::OwnFolderPath : TDependencySearch::OwnFolder;
   if (hSosScc == nullptr) hSosScc = LoadModule(path, &reason, search);
   if (hSosScc == nullptr) {
-    WriteProviderLine(IProviderSink::Kind::Error, Format(sLibraryNotLoaded, {path, reason}));
+    WriteProviderLine(TSeverity::Error, Format(sLibraryNotLoaded, {path, reason}));
     return false;
   }
 #define SCC_ENTRY(variable, name, result, arguments) Bind(variable, name);

@@ -101,12 +101,14 @@ class TStatusArray {
   std::vector<scc::Long> words_;
 };
 
-/// Where the provider's texts go.  The layer above installs one; without one they are dropped.
+/// How serious a line about the provider is.
+enum class TSeverity { Info, Warning, Error };
+
+/// Receives the provider's texts.  The layer above installs one; without a sink they are dropped.
 class IProviderSink {
  public:
-  enum class Kind { Info, Warning, Error };
   virtual ~IProviderSink() = default;
-  virtual void Line(Kind kind, const std::string& text) = 0;
+  virtual void Line(TSeverity severity, const std::string& text) = 0;
   /// A modal box with an OK button.
   virtual void Box(const std::string& text) = 0;
 };

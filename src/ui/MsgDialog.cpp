@@ -5,7 +5,6 @@
 #include <wx/wx.h>
 
 #include <algorithm>
-#include <array>
 
 #include "system/System.h"
 #include "toolkit/WxText.h"
@@ -19,9 +18,20 @@ TMsgDialogForm* MsgDialogForm = nullptr;
 
 namespace {
 
-/// By kind, as the icons are.
-constexpr std::array kBeeps{TBeep::Hand, TBeep::Exclamation, TBeep::Asterisk, TBeep::Question};
-static_assert(kBeeps.size() == kDialogIcons.size());
+static_assert(kDialogIcons.size() == metQuestion + 1);
+
+TBeep BeepOf(TMsgType kind) {
+  switch (kind) {
+    case metError:
+      return TBeep::Hand;
+    case metWarning:
+      return TBeep::Exclamation;
+    case metQuestion:
+      return TBeep::Question;
+    default:
+      return TBeep::Asterisk;
+  }
+}
 
 constexpr int kTitleWidth = 222;
 
@@ -88,7 +98,7 @@ void TMsgDialogForm::LayOut() {
 
 void ShowMsgDialog(const std::string& title, const std::string& msg, TMsgType kind) {
   TMsgDialogForm form(title, msg, kind);
-  MessageBeep(kBeeps[kind]);
+  MessageBeep(BeepOf(kind));
   form.ShowModal();
 }
 

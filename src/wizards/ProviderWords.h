@@ -20,10 +20,10 @@ class TProviderWords final : public IProviderSink {
   TProviderWords& operator=(const TProviderWords&) = delete;
   ~TProviderWords() override { SetProviderSink(previous_); }
 
-  void Line(Kind kind, const std::string& text) override {
-    if (previous_) previous_->Line(kind, text);
-    if (kind == Kind::Error) errors_.push_back(text);
-    if (kind == Kind::Warning) warnings_.push_back(text);
+  void Line(TSeverity severity, const std::string& text) override {
+    if (previous_) previous_->Line(severity, text);
+    if (severity == TSeverity::Error) errors_.push_back(text);
+    if (severity == TSeverity::Warning) warnings_.push_back(text);
     if (on_line_) on_line_(text);
   }
   void Box(const std::string& text) override {

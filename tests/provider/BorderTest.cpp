@@ -89,7 +89,7 @@ TEST_F(Border, ExceptionsWithoutATextToFillAreLogged) {
   for (const char* entry : {"SccInitialize", "SccSetOption", "SccSetOption", "SccSetOption", "SccGetVersion",
                             "SccRunScc", "SccUninitialize"})
     expected.push_back(std::string(entry) + "; scripted failure in " + entry);
-  EXPECT_EQ(sink.Of(Kind::Error), expected);
+  EXPECT_EQ(sink.Of(TSeverity::Error), expected);
 }
 
 TEST_F(Border, AHalfWrittenAnswerOfAFailedCallIsDropped) {
@@ -122,7 +122,7 @@ TEST_F(Border, AnOverrunIsReportedByTheLibrarysNameWhenTheProviderHasNone) {
   sink.Lines.clear();
   list = std::make_unique<TSCCProviderList>(PARTIAL_LIBRARY_PATH, 0, "ann");
   EXPECT_THAT(
-      sink.Of(Kind::Warning),
+      sink.Of(TSeverity::Warning),
       ElementsAre("The provider \"" + ExtractFileName(PARTIAL_LIBRARY_PATH) +
                   "\" wrote past the end of a buffer (SccInitialize). Nothing was damaged, but its answer "
                   "may be wrong."));
@@ -144,7 +144,7 @@ TEST_F(Border, ATextLongerThanItsFieldIsCutAndSaidSo) {
   EXPECT_EQ(session().OpenProject(messages), 0);
   EXPECT_EQ(session().get_ProjName(), std::string(261, 'n'));
   EXPECT_EQ(session().get_ProjPath(), "");
-  EXPECT_THAT(sink.Of(Kind::Warning),
+  EXPECT_THAT(sink.Of(TSeverity::Warning),
               ElementsAre("The provider \"Scripted provider\" gave a text that is too long "
                           "(SccOpenProject): it was cut to 261 bytes."));
 }
@@ -152,15 +152,17 @@ TEST_F(Border, ATextLongerThanItsFieldIsCutAndSaidSo) {
 TEST_F(Border, WritingFarBehindABufferIsCaughtByTheGuard) {
   provider->Faults.WriteFarBehind = 1024;  // all of the guard
   session().GetEvents(messages);
-  EXPECT_THAT(sink.Of(Kind::Warning), ElementsAre(HasSubstr("far past the end of a buffer (SccGetEvents)")));
+  EXPECT_THAT(sink.Of(TSeverity::Warning),
+              ElementsAre(HasSubstr("far past the end of a buffer (SccGetEvents)")));
   sink.Lines.clear();
   provider->Faults.WriteFarBehind = 100;
   session().GetEvents(messages);
-  EXPECT_THAT(sink.Of(Kind::Warning), ElementsAre(HasSubstr("\"Scripted provider\" wrote past the end")));
+  EXPECT_THAT(sink.Of(TSeverity::Warning),
+              ElementsAre(HasSubstr("\"Scripted provider\" wrote past the end")));
   sink.Lines.clear();
   session().GetProjectPath(messages, true, true);
   EXPECT_EQ(session().get_UserName(), std::string(33, 'o'));
-  EXPECT_THAT(sink.Of(Kind::Warning), SizeIs(8)) << "four texts, each overrun and cut";
+  EXPECT_THAT(sink.Of(TSeverity::Warning), SizeIs(8)) << "four texts, each overrun and cut";
 }
 
 TEST_F(Border, WritingBehindTheStatusesIsReportedByTheCallThatDidIt) {
@@ -168,7 +170,7 @@ TEST_F(Border, WritingBehindTheStatusesIsReportedByTheCallThatDidIt) {
   provider->Faults.WriteBehindStatuses = true;
   EXPECT_TRUE(session().Query(kFiles, statuses, messages));
   EXPECT_TRUE(session().PopulateList(scc::SCC_COMMAND_GET, kFiles, Ignore, statuses, messages));
-  EXPECT_THAT(sink.Of(Kind::Warning),
+  EXPECT_THAT(sink.Of(TSeverity::Warning),
               ElementsAre(HasSubstr("(SccQueryInfo)"), HasSubstr("(SccPopulateList)")));
   sink.Lines.clear();
   provider->Faults = {};
@@ -240,7 +242,7 @@ TEST_F(Border, TextsThatAreNoUtf8AreShownAndNamesGoBackAsTheyCame) {
   provider->OpenProject.ProjName = given;
   provider->Texts["SccOpenProject"] = {{scc::SCC_MSG_WARNING, given}};
   session().OpenProject(messages);
-  EXPECT_THAT(sink.Of(Kind::Warning), ElementsAre("$/Größe"));
+  EXPECT_THAT(sink.Of(TSeverity::Warning), ElementsAre("$/Größe"));
   provider->OpenProject.ProjName = {};
   session().OpenProject(messages);
   EXPECT_EQ(provider->Last("SccOpenProject").ProjName, given);
@@ -271,9 +273,9 @@ TEST_F(Border, LinesOfOtherThreadsWaitForTheUserInterface) {
     std::jthread([&] { write("far", scc::SCC_MSG_WARNING); }).join();
   };
   session().GetFile(kFiles, messages);
-  EXPECT_THAT(sink.Of(Kind::Warning), ElementsAre("far", "near"));
+  EXPECT_THAT(sink.Of(TSeverity::Warning), ElementsAre("far", "near"));
   int next[] = {0, 0};
-  for (const auto& line : sink.Of(Kind::Info))
+  for (const auto& line : sink.Of(TSeverity::Info))
     EXPECT_EQ(line.substr(2), std::to_string(next[line[0] - '0']++));
   EXPECT_THAT(next, ElementsAre(2000, 2000));
   SetProviderWaker({});
@@ -282,7 +284,7 @@ TEST_F(Border, LinesOfOtherThreadsWaitForTheUserInterface) {
 TEST_F(Border, LinesAndCommentsHaveASize) {
   provider->Texts["SccOpenProject"] = {{scc::SCC_MSG_INFO, std::string(10'000'000, 'x') + "\r\n"}};
   session().OpenProject(messages);
-  EXPECT_THAT(sink.Of(Kind::Info), ElementsAre(std::string(4096, 'x') + " [...]"));
+  EXPECT_THAT(sink.Of(TSeverity::Info), ElementsAre(std::string(4096, 'x') + " [...]"));
   const TProviderComment comment("why");
   EXPECT_EQ(std::string_view(comment.Data(), kMaxComment + 1), "why" + std::string(126, '\0'));
 }

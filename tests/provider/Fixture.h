@@ -20,25 +20,23 @@ class RecordingSink : public IProviderSink {
  public:
   RecordingSink() : before_(SetProviderSink(this)) {}
   ~RecordingSink() override { SetProviderSink(before_); }
-  void Line(Kind kind, const std::string& text) override { Lines.emplace_back(kind, text); }
+  void Line(TSeverity severity, const std::string& text) override { Lines.emplace_back(severity, text); }
   void Box(const std::string& text) override { Boxes.push_back(text); }
 
-  /// The texts of one kind.
-  std::vector<std::string> Of(Kind kind) const {
+  /// The texts of one severity.
+  std::vector<std::string> Of(TSeverity severity) const {
     std::vector<std::string> texts;
-    for (const auto& [lineKind, text] : Lines)
-      if (lineKind == kind) texts.push_back(text);
+    for (const auto& [lineSeverity, text] : Lines)
+      if (lineSeverity == severity) texts.push_back(text);
     return texts;
   }
 
-  std::vector<std::pair<Kind, std::string>> Lines;
+  std::vector<std::pair<TSeverity, std::string>> Lines;
   std::vector<std::string> Boxes;
 
  private:
   IProviderSink* before_;
 };
-
-using Kind = IProviderSink::Kind;
 
 /// One session for /p on the scripted provider, not opened yet.
 class SessionTest : public testing::Test {

@@ -53,7 +53,7 @@ TEST_F(ProviderProject, OpensWithACommentAndTheTextCallback) {
   EXPECT_EQ(session().get_ProjPath(), "rewritten");
   EXPECT_EQ(session().get_ProjName(), "$/p") << "a text ends at a line break";
   EXPECT_EQ(session().get_UserName(), "ann");
-  EXPECT_THAT(sink.Of(Kind::Info), ElementsAre("welcome"));
+  EXPECT_THAT(sink.Of(TSeverity::Info), ElementsAre("welcome"));
 
   EXPECT_EQ(session().OpenProject(messages), scc::SCC_E_PROJECTALREADYOPEN);
   EXPECT_THAT(messages, ElementsAre("", "", "Project already open"));
@@ -72,11 +72,11 @@ TEST_F(ProviderProject, TextsOfTheProviderMayBeNullUnknownOrLate) {
   provider->Faults.LateText = true;
   session().OpenProject(messages);
   session().GetFile({"/p/a"}, messages);
-  EXPECT_THAT(sink.Of(Kind::Warning), ElementsAre("careful"));
+  EXPECT_THAT(sink.Of(TSeverity::Warning), ElementsAre("careful"));
   EXPECT_TRUE(session().CloseProject(messages));
   list.reset();
-  EXPECT_THAT(sink.Of(Kind::Info), ElementsAre("late", "late"));
-  EXPECT_THAT(sink.Of(Kind::Error), IsEmpty());
+  EXPECT_THAT(sink.Of(TSeverity::Info), ElementsAre("late", "late"));
+  EXPECT_THAT(sink.Of(TSeverity::Error), IsEmpty());
 }
 
 TEST_F(ProviderProject, VersionIsMajorDotMinor) {

@@ -44,13 +44,13 @@ TEST(ReturnCode, TheRowsStandAtTheirNumbers) {
 TEST(QueryStatus, WritesALinePerBit) {
   RecordingSink sink;
   DecodeQueryStatus("/src/unit1.pas", 0x1003);
-  EXPECT_THAT(sink.Of(Kind::Info),
+  EXPECT_THAT(sink.Of(TSeverity::Info),
               ElementsAre("[unit1.pas]: Under source code control", "[unit1.pas]: Checked out by you",
                           "[unit1.pas]: Checked out to current user"));
 
   sink.Lines.clear();
   DecodeQueryStatus("/src/100%s.pas", 0);
-  EXPECT_THAT(sink.Of(Kind::Info), ElementsAre("[100%s.pas]: Not under source code control"));
+  EXPECT_THAT(sink.Of(TSeverity::Info), ElementsAre("[100%s.pas]: Not under source code control"));
 
   sink.Lines.clear();
   DecodeQueryStatus("/src/unit1.pas", -1);
@@ -81,14 +81,14 @@ TEST(TextOut, WritesKnownKindsAndIgnoresTheRest) {
   } calls[] = {{"a", 1},      {"b\r\n", 2}, {"", 3},     {nullptr, 1},
                {"status", 4}, {nullptr, 5}, {"zero", 0}, {"far", 0xFFFFFFFF}};
   for (const auto& call : calls) EXPECT_EQ(TextOutProc(call.Text, call.Kind), 0);
-  using Line = std::pair<Kind, std::string>;
-  EXPECT_THAT(sink.Lines,
-              ElementsAre(Line{Kind::Info, "a"}, Line{Kind::Warning, "b"}, Line{Kind::Error, ""}));
+  using Line = std::pair<TSeverity, std::string>;
+  EXPECT_THAT(sink.Lines, ElementsAre(Line{TSeverity::Info, "a"}, Line{TSeverity::Warning, "b"},
+                                      Line{TSeverity::Error, ""}));
 }
 
 TEST(TextOut, SurvivesAMissingAndAFailingSink) {
   struct FailingSink : RecordingSink {
-    void Line(Kind, const std::string&) override { throw std::runtime_error("the window is gone"); }
+    void Line(TSeverity, const std::string&) override { throw std::runtime_error("the window is gone"); }
   };
   EXPECT_EQ(TextOutProc("nobody listens", 1), 0);
   FailingSink sink;

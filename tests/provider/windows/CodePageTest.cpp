@@ -73,7 +73,7 @@ TEST_F(CodePage, IsWhatTheProviderReadsAndWrites) {
             "C:\\Gr\xF6\xDF"
             "e.pas");
   EXPECT_EQ(provider->Last("SccCheckin").Comment, "f\xFCr Ann");
-  EXPECT_THAT(sink.Of(Kind::Info), testing::Contains("für Größe"));
+  EXPECT_THAT(sink.Of(TSeverity::Info), testing::Contains("für Größe"));
 }
 
 TEST_F(CodePage, RefusesANameThatItCannotHold) {
@@ -127,7 +127,7 @@ TEST_F(CodePage932, ShowsWhatItCanOfATextAndRefusesSuchNames) {
   TStringList taken;
   for (const char* name : {"C:\\\x95\x5C.pas", "C:\\a\x95"}) EXPECT_TRUE(AppendPopulatedName(name, taken));
   EXPECT_THAT(taken, testing::ElementsAre("C:\\表.pas"));
-  EXPECT_THAT(sink.Of(Kind::Warning), testing::ElementsAre(HasSubstr("(SccPopulateList)")));
+  EXPECT_THAT(sink.Of(TSeverity::Warning), testing::ElementsAre(HasSubstr("(SccPopulateList)")));
 }
 
 TEST_F(CodePage932, CutsBetweenCharacters) {

@@ -63,7 +63,7 @@ TEST_F(Crash, AtTheBeginningAndTheEndIsLogged) {
   provider->OnCall["SccInitialize"] = provider->OnCall["SccUninitialize"] = Violate;
   list = std::make_unique<TSCCProviderList>(provider.Path(), 0, "ann");
   list.reset();
-  EXPECT_THAT(sink.Of(Kind::Error),
+  EXPECT_THAT(sink.Of(TSeverity::Error),
               ElementsAre(AllOf(StartsWith("SccInitialize; "), HasSubstr("access violation")),
                           AllOf(StartsWith("SccUninitialize; "), HasSubstr("access violation"))));
   EXPECT_EQ(scc::hSosScc, nullptr) << "the library was let go of";

@@ -26,7 +26,7 @@ TEST(SearchPath, IsThatOfAProviderWhoseKeySaysSo) {
   EXPECT_FALSE(scc::LoadSCCDLL(library));
   key.WriteString(kSearchPath, "1");
   EXPECT_FALSE(scc::LoadSCCDLL(library));
-  EXPECT_THAT(sink.Of(Kind::Error),
+  EXPECT_THAT(sink.Of(TSeverity::Error),
               ElementsAre(HasSubstr("PATH is searched only for"), HasSubstr("nor in one that PATH names")));
 }
 
