@@ -11,7 +11,7 @@
 #include "BigProject.h"
 #include "wizards/CommitBrowser.h"
 #include "wizards/CommitGrid.h"
-#include "wizards/CommitPass.h"
+#include "wizards/CommitRunner.h"
 #include "wizards/FileSearch.h"
 
 using namespace kestrel;
@@ -80,7 +80,7 @@ void CommitAll(benchmark::State& state) {
   double whole = 0;
   for (auto _ : state)
     whole += Milliseconds([&] {
-      CommitRows(project.Expert().Context(), rows, {}, std::make_unique<TNoProgress>());
+      RunCommit(project.Expert().Context(), rows, {}, std::make_unique<TNoProgress>());
       project.Host.Log.clear();
     });
 

@@ -23,8 +23,8 @@
 #include "toolkit/WxText.h"
 #include "wizards/CommitBrowserStrings.h"
 #include "wizards/CommitGrid.h"
-#include "wizards/CommitPass.h"
 #include "wizards/CommitRowsStrings.h"
+#include "wizards/CommitRunner.h"
 
 namespace kestrel::addin {
 
@@ -403,7 +403,7 @@ void TCommitBrowser::TButtonCommitClick(wxCommandEvent&) {
                                  FromWx(TMemoSummaryComments->GetValue())};
   SetBusy(true);
   const bool done = RunShowingErrors([&] {
-    CommitRows(*FExpert, FRows, comments, std::make_unique<TProgressLine>(*progress_, FRows.size()));
+    RunCommit(*FExpert, FRows, comments, std::make_unique<TProgressLine>(*progress_, FRows.size()));
   });
   SetBusy(false);
   if (done)

@@ -78,7 +78,7 @@ void SortWithoutDuplicates(TStringList& names) {
 /// Where the callback below puts the names, while a population runs; only one runs at a time.
 TStringList* populated = nullptr;
 
-scc::Bool SCC_CALL TakePopulated(void*, scc::Bool, scc::Long status, const char* fileName) noexcept {
+scc::Bool SCC_CALL OnPopulated(void*, scc::Bool, scc::Long status, const char* fileName) noexcept {
   constexpr scc::Bool kGoOn = -1;
   constexpr scc::Bool kStop = 0;
   const bool known = status != scc::SCC_STATUS_INVALID && status != scc::SCC_STATUS_NOTCONTROLLED;
@@ -86,21 +86,21 @@ scc::Bool SCC_CALL TakePopulated(void*, scc::Bool, scc::Long status, const char*
   return populated && AppendPopulatedName(fileName, *populated) ? kGoOn : kStop;
 }
 
-class TPopulation {
+class TPopulateScope {
  public:
-  TPopulation() { populated = &names_; }
-  TPopulation(const TPopulation&) = delete;
-  TPopulation& operator=(const TPopulation&) = delete;
-  ~TPopulation() { populated = nullptr; }
+  TPopulateScope() { populated = &names_; }
+  TPopulateScope(const TPopulateScope&) = delete;
+  TPopulateScope& operator=(const TPopulateScope&) = delete;
+  ~TPopulateScope() { populated = nullptr; }
   TStringList& Names() { return names_; }
 
  private:
   TStringList names_;
 };
 
-class TGathering {
+class TCommitRowCollector {
  public:
-  explicit TGathering(TCommandContext& context)
+  explicit TCommitRowCollector(TCommandContext& context)
       : context_(context), directory_(ExtractFileDir(GetCurrentProjectFile())) {}
 
   std::vector<TCommitRowData> Rows() {
@@ -135,11 +135,10 @@ class TGathering {
   }
 
   void Populate() {
-    TPopulation population;
+    TPopulateScope population;
     TStateMessages messages;
     const auto progress = Progress(sGatheringFiles);
-    Project().PopulateDirectoriesList(scc::SCC_COMMAND_GET, Directories(), TakePopulated, statuses_,
-                                      messages);
+    Project().PopulateDirectoriesList(scc::SCC_COMMAND_GET, Directories(), OnPopulated, statuses_, messages);
     std::ranges::move(population.Names(), std::back_inserter(files_));
     SortWithoutDuplicates(files_);
   }
@@ -201,6 +200,8 @@ TCommitRowData ClassifyCommitRow(scc::Long status, bool locallyModified) {
   return {rule->Activity, rule->State, {}, {}};  // the last rule matches everything
 }
 
-std::vector<TCommitRowData> GatherCommitRows(TCommandContext& context) { return TGathering(context).Rows(); }
+std::vector<TCommitRowData> GatherCommitRows(TCommandContext& context) {
+  return TCommitRowCollector(context).Rows();
+}
 
 }  // namespace kestrel::addin

@@ -11,7 +11,8 @@ namespace {
 constexpr int kFilesPanel = 3;
 }
 
-TPlaceProjectWizard::TPlaceProjectWizard(TCommandContext& expert) : TWizardForm(pages_), pages_(expert) {
+TPlaceProjectWizard::TPlaceProjectWizard(TCommandContext& expert)
+    : TWizardForm(controller_), controller_(expert) {
   CreateFilesPage();
   CreateStatusPage();
   FormCreate();
@@ -20,29 +21,30 @@ TPlaceProjectWizard::TPlaceProjectWizard(TCommandContext& expert) : TWizardForm(
 void TPlaceProjectWizard::CreateFilesPage() {
   DirectionLabelFileSelect = AddLabel(Page3Panel, sPlaceSelectFiles);
   FileSelectCheckListBox = new TLinesView(
-      Page3Panel, {[this] { return pages_.FileCount(); },
-                   [this](std::size_t row) -> const std::string& { return pages_.FileName(row); },
-                   [this](std::size_t row) { return pages_.IsTicked(row); },
-                   [this](std::size_t row, bool ticked) { pages_.SetTicked(row, ticked); }});
+      Page3Panel, {[this] { return controller_.FileCount(); },
+                   [this](std::size_t row) -> const std::string& { return controller_.FileName(row); },
+                   [this](std::size_t row) { return controller_.IsTicked(row); },
+                   [this](std::size_t row, bool ticked) { controller_.SetTicked(row, ticked); }});
   SelectedFilesCheckBox = new wxCheckBox(Page3Panel, wxID_ANY, ToWx(sPlaceCheckOutAfterAdd));
-  SelectedFilesCheckBox->Bind(
-      wxEVT_CHECKBOX, [this](wxCommandEvent&) { pages_.KeepCheckedOut = SelectedFilesCheckBox->GetValue(); });
+  SelectedFilesCheckBox->Bind(wxEVT_CHECKBOX, [this](wxCommandEvent&) {
+    controller_.KeepCheckedOut = SelectedFilesCheckBox->GetValue();
+  });
   ColumnOf(Page3Panel)->Add(FileSelectCheckListBox, wxSizerFlags(1).Expand());
   ColumnOf(Page3Panel)->Add(SelectedFilesCheckBox, wxSizerFlags().Border(wxTOP, FromDIP(8)));
 }
 
 void TPlaceProjectWizard::CreateStatusPage() {
   DirectionLabelProjectStatus = AddLabel(Page4Panel, sPlaceStatus);
-  lbStatus = new TLinesView(Page4Panel,
-                            {[this] { return pages_.Status().size(); },
-                             [this](std::size_t row) -> const std::string& { return pages_.Status()[row]; },
-                             {},
-                             {}});
+  lbStatus = new TLinesView(
+      Page4Panel, {[this] { return controller_.Status().size(); },
+                   [this](std::size_t row) -> const std::string& { return controller_.Status()[row]; },
+                   {},
+                   {}});
   ColumnOf(Page4Panel)->Add(lbStatus, wxSizerFlags(1).Expand());
 }
 
 void TPlaceProjectWizard::UpdateControls() {
-  if (pages_.Page().Panel == kFilesPanel) FileSelectCheckListBox->UpdateLines();
+  if (controller_.Page().Panel == kFilesPanel) FileSelectCheckListBox->UpdateLines();
 }
 
 wxWindow* TPlaceProjectWizard::FirstControl(int panel) const {

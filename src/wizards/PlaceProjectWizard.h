@@ -1,7 +1,7 @@
 // The wizard that puts the current host project under source control.
 #pragma once
 
-#include "wizards/PlaceProjectPages.h"
+#include "wizards/PlaceProjectController.h"
 #include "wizards/WizardForm.h"
 
 class wxCheckBox;
@@ -26,7 +26,7 @@ class TPlaceProjectWizard final : public TWizardForm {
   std::string HelpKeyword() const override { return "HC_TeamPlaceProject"; }
   void FormKeyDown(wxKeyEvent& event) override;
 
-  TPlaceProjectPages pages_;
+  TPlaceProjectController controller_;
 };
 
 }  // namespace kestrel::addin

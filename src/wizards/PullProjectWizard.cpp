@@ -14,7 +14,8 @@ namespace {
 constexpr int kTargetPanel = 3;
 }
 
-TPullProjectWizard::TPullProjectWizard(TCommandContext& expert) : TWizardForm(pages_), pages_(expert) {
+TPullProjectWizard::TPullProjectWizard(TCommandContext& expert)
+    : TWizardForm(controller_), controller_(expert) {
   CreateTargetPage();
   CreateStatusPage();
   FormCreate();
@@ -40,11 +41,11 @@ void TPullProjectWizard::CreateTargetPage() {
 void TPullProjectWizard::CreateStatusPage() {
   Label1 = new wxStaticText(Page4Panel, wxID_ANY, {}, wxDefaultPosition, wxDefaultSize,
                             wxST_NO_AUTORESIZE | wxST_ELLIPSIZE_END);
-  lbStatus = new TLinesView(Page4Panel,
-                            {[this] { return pages_.Status().size(); },
-                             [this](std::size_t row) -> const std::string& { return pages_.Status()[row]; },
-                             {},
-                             {}});
+  lbStatus = new TLinesView(
+      Page4Panel, {[this] { return controller_.Status().size(); },
+                   [this](std::size_t row) -> const std::string& { return controller_.Status()[row]; },
+                   {},
+                   {}});
   cbOpenProject = new wxCheckBox(Page4Panel, wxID_ANY, ToWx(sPullOpenProject));
   cbOpenProject->SetValue(true);
   auto* column = ColumnOf(Page4Panel);
@@ -54,14 +55,14 @@ void TPullProjectWizard::CreateStatusPage() {
 }
 
 void TPullProjectWizard::UpdateControls() {
-  if (FromWx(TargetDirectory->GetValue()) != pages_.TargetDirectory())
-    TargetDirectory->ChangeValue(ToWx(pages_.TargetDirectory()));
-  SetSentence(NoteLabel, pages_.TargetNote());
+  if (FromWx(TargetDirectory->GetValue()) != controller_.TargetDirectory())
+    TargetDirectory->ChangeValue(ToWx(controller_.TargetDirectory()));
+  SetSentence(NoteLabel, controller_.TargetNote());
   // The provider may have moved it while the project was picked.
-  SetSentence(TargetLabel, Format(sTargetOfPull.Text, {pages_.TargetDirectory()}));
+  SetSentence(TargetLabel, Format(sTargetOfPull.Text, {controller_.TargetDirectory()}));
   Label1->SetLabel(
-      wxControl::EscapeMnemonics(ToWx(pages_.Page().Next ? sPullStatus.str() : pages_.Progress())));
-  cbOpenProject->Show(pages_.CanOpen());
+      wxControl::EscapeMnemonics(ToWx(controller_.Page().Next ? sPullStatus.str() : controller_.Progress())));
+  cbOpenProject->Show(controller_.CanOpen());
   Page4Panel->Layout();
 }
 
@@ -70,12 +71,12 @@ wxWindow* TPullProjectWizard::FirstControl(int panel) const {
 }
 
 std::string TPullProjectWizard::FileToOpen() const {
-  const bool wanted = pages_.Finished() && pages_.CanOpen() && cbOpenProject->GetValue();
-  return wanted ? pages_.ProjectFile() : std::string();
+  const bool wanted = controller_.Finished() && controller_.CanOpen() && cbOpenProject->GetValue();
+  return wanted ? controller_.ProjectFile() : std::string();
 }
 
 void TPullProjectWizard::TargetDirectoryChange(wxCommandEvent&) {
-  pages_.TargetDirectoryChange(FromWx(TargetDirectory->GetValue()));
+  controller_.TargetDirectoryChange(FromWx(TargetDirectory->GetValue()));
 }
 
 void TPullProjectWizard::TargetDirectoryBrowserButtonClick(wxCommandEvent&) { BrowseForTargetFolder(); }
@@ -88,14 +89,14 @@ void TPullProjectWizard::BrowseForTargetFolder() {
 
 // Starts at the directory that the box names, or at the nearest one above it that exists.
 void TPullProjectWizard::BrowseForTargetFolderBeforeExecute(wxDirDialog& dialog) {
-  auto directory = ExcludeTrailingPathDelimiter(Trim(pages_.TargetDirectory()));
+  auto directory = ExcludeTrailingPathDelimiter(Trim(controller_.TargetDirectory()));
   while (!directory.empty() && !DirectoryExists(directory) && ExtractFileDir(directory) != directory)
     directory = ExtractFileDir(directory);
   dialog.SetPath(ToWx(directory));
 }
 
 void TPullProjectWizard::BrowseForTargetFolderAccept(const wxDirDialog& dialog) {
-  pages_.TargetDirectoryChange(FromWx(dialog.GetPath()));
+  controller_.TargetDirectoryChange(FromWx(dialog.GetPath()));
   TargetDirectory->SetFocus();
 }
 

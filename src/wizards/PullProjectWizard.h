@@ -1,7 +1,7 @@
 // The wizard that fetches a provider project into a local directory.
 #pragma once
 
-#include "wizards/PullProjectPages.h"
+#include "wizards/PullProjectController.h"
 #include "wizards/WizardForm.h"
 
 class wxCheckBox;
@@ -36,7 +36,7 @@ class TPullProjectWizard final : public TWizardForm {
   void UpdateControls() override;
   wxWindow* FirstControl(int panel) const override;
 
-  TPullProjectPages pages_;
+  TPullProjectController controller_;
   wxStaticText* NoteLabel;
   wxStaticText* TargetLabel;
 };

@@ -6,8 +6,8 @@
 
 #include "toolkit/WxText.h"
 #include "toolkit/WxWheel.h"
+#include "wizards/WizardControllerStrings.h"
 #include "wizards/WizardFormStrings.h"
-#include "wizards/WizardPagesStrings.h"
 
 namespace kestrel::addin {
 
@@ -23,8 +23,8 @@ constexpr auto kBetweenUpdates = 60ms;
 
 }  // namespace
 
-TWizardForm::TWizardForm(TWizardPages& pages)
-    : TModalForm({}, wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER), pages_(pages) {
+TWizardForm::TWizardForm(TWizardController& controller)
+    : TModalForm({}, wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER), controller_(controller) {
   for (auto** panel : {&Page1Panel, &Page2Panel, &Page3Panel, &Page4Panel}) *panel = new wxPanel(this);
   CreateProviderPage();
   CreateProjectPage();
@@ -36,11 +36,11 @@ TWizardForm::TWizardForm(TWizardPages& pages)
 void TWizardForm::FormCreate() {
   LayOut();
   BindEvents();
-  pages_.OnChange = [this] { Changed(); };
-  pages_.OnProgress = [this] {
+  controller_.OnChange = [this] { Changed(); };
+  controller_.OnProgress = [this] {
     if (TClock::now() >= next_update_) Changed();
   };
-  pages_.FormCreate(reinterpret_cast<TWindowHandle>(GetHandle()));
+  controller_.FormCreate(reinterpret_cast<TWindowHandle>(GetHandle()));
 }
 
 wxBoxSizer* TWizardForm::ColumnOf(wxPanel* panel) {
@@ -134,7 +134,7 @@ void TWizardForm::SetSentence(wxStaticText* label, const std::string& text) {
 
 void TWizardForm::Changed() {
   UpdatePage();
-  if (!pages_.Page().Working) return;
+  if (!controller_.Page().Working) return;
   Update();
   // The user's clicks and keys too: they reach this form only, and no button of it but Cancel can be pressed.  Left where
   // they are they would act on what is shown when the work is done.
@@ -144,7 +144,7 @@ void TWizardForm::Changed() {
 }
 
 void TWizardForm::UpdatePage() {
-  const auto& page = pages_.Page();
+  const auto& page = controller_.Page();
   const bool turned = page.Panel != panel_;
   panel_ = page.Panel;
   SetTitle(ToWx(page.Caption));
@@ -156,8 +156,8 @@ void TWizardForm::UpdatePage() {
   BackButton->Enable(page.Back);
   CancelButton->Enable(page.Cancel);
   UpdateProviders();
-  if (FromWx(ProjectName->GetValue()) != pages_.ProjectName())
-    ProjectName->ChangeValue(ToWx(pages_.ProjectName()));
+  if (FromWx(ProjectName->GetValue()) != controller_.ProjectName())
+    ProjectName->ChangeValue(ToWx(controller_.ProjectName()));
   UpdateStatus();
   UpdateControls();
   SetSentence(ProblemLabel, page.Problem);
@@ -167,10 +167,10 @@ void TWizardForm::UpdatePage() {
 
 void TWizardForm::UpdateProviders() {
   wxArrayString names;
-  for (const auto& name : pages_.Providers()) names.push_back(ToWx(name));
+  for (const auto& name : controller_.Providers()) names.push_back(ToWx(name));
   if (names != cbProviders->GetStrings()) cbProviders->Set(names);
-  cbProviders->SetSelection(pages_.SelectedProvider());
-  SetSentence(NoProvidersLabel, pages_.Page().NoProviders ? sNoProvidersNotice.str() : std::string());
+  cbProviders->SetSelection(controller_.SelectedProvider());
+  SetSentence(NoProvidersLabel, controller_.Page().NoProviders ? sNoProvidersNotice.str() : std::string());
 }
 
 void TWizardForm::UpdateStatus() {
@@ -186,7 +186,7 @@ wxWindow* TWizardForm::FirstControl(int panel) const {
 
 void TWizardForm::MoveFocus() {
   auto* control = FirstControl(panel_);
-  if (!control) control = pages_.Page().Working ? static_cast<wxWindow*>(lbStatus) : NextFinishButton;
+  if (!control) control = controller_.Page().Working ? static_cast<wxWindow*>(lbStatus) : NextFinishButton;
   control->SetFocus();
 }
 
@@ -194,7 +194,7 @@ void TWizardForm::FormKeyDown(wxKeyEvent& event) {
   const bool control = event.GetModifiers() == wxMOD_CONTROL;
   const int key = event.GetKeyCode();
   auto* application = IdeService<IOTAApplication>();
-  if (key == WXK_F1 && application && !HelpKeyword().empty() && !pages_.Page().Working)
+  if (key == WXK_F1 && application && !HelpKeyword().empty() && !controller_.Page().Working)
     application->HelpKeyword(HelpKeyword());
   else if (control && key == 'A' && lbStatus->IsDescendant(FindFocus()))
     lbStatus->SelectAll();
@@ -204,25 +204,25 @@ void TWizardForm::FormKeyDown(wxKeyEvent& event) {
     TModalForm::FormKeyDown(event);
 }
 
-void TWizardForm::BackButtonClick(wxCommandEvent&) { pages_.BackButtonClick(); }
+void TWizardForm::BackButtonClick(wxCommandEvent&) { controller_.BackButtonClick(); }
 
 void TWizardForm::NextFinishButtonClick(wxCommandEvent&) {
-  pages_.NextFinishButtonClick();
-  if (pages_.Finished()) CloseWith(mrOk);
+  controller_.NextFinishButtonClick();
+  if (controller_.Finished()) CloseWith(mrOk);
 }
 
 void TWizardForm::CancelButtonClick(wxCommandEvent&) { CloseWith(mrCancel); }
 
 void TWizardForm::CloseWith(int modalResult) {
-  if (pages_.CancelButtonClick()) TModalForm::CloseWith(modalResult);
+  if (controller_.CancelButtonClick()) TModalForm::CloseWith(modalResult);
 }
 
-void TWizardForm::ProjectBrowserButtonClick(wxCommandEvent&) { pages_.ProjectBrowserButtonClick(); }
+void TWizardForm::ProjectBrowserButtonClick(wxCommandEvent&) { controller_.ProjectBrowserButtonClick(); }
 void TWizardForm::ProjectNameChange(wxCommandEvent&) {
-  pages_.ProjectNameChange(FromWx(ProjectName->GetValue()));
+  controller_.ProjectNameChange(FromWx(ProjectName->GetValue()));
 }
 void TWizardForm::cbProvidersChange(wxCommandEvent&) {
-  pages_.cbProvidersChange(cbProviders->GetSelection());
+  controller_.cbProvidersChange(cbProviders->GetSelection());
 }
 
 }  // namespace kestrel::addin

@@ -1,12 +1,12 @@
 // What the windows of the two project wizards have in common: four panels of which one is shown, the provider page, the
-// status list and the three buttons.  The rules are TWizardPages'; this only shows them.
+// status list and the three buttons.  The rules are TWizardController'; this only shows them.
 #pragma once
 
 #include <chrono>
 
 #include "ui/ModalForm.h"
 #include "wizards/LinesView.h"
-#include "wizards/WizardPages.h"
+#include "wizards/WizardController.h"
 
 class wxBoxSizer;
 class wxButton;
@@ -43,7 +43,7 @@ class TWizardForm : public TModalForm {
 
  protected:
   /// `pages` is borrowed and is used once FormCreate() is called.
-  explicit TWizardForm(TWizardPages& pages);
+  explicit TWizardForm(TWizardController& controller);
   /// To be called by the derived constructor, when all controls are there.
   void FormCreate();
   /// Brings the controls of the derived form in line with its pages.
@@ -79,7 +79,7 @@ class TWizardForm : public TModalForm {
   void UpdateStatus();
   void MoveFocus();
 
-  TWizardPages& pages_;
+  TWizardController& controller_;
   wxStaticText* ProblemLabel;
   int panel_ = 0;  // the one that is shown
   TClock::time_point next_update_;

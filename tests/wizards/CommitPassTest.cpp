@@ -3,7 +3,7 @@
 #include "support/NativePath.h"
 #include "system/Paths.h"
 #include "system/System.h"
-#include "wizards/CommitPass.h"
+#include "wizards/CommitRunner.h"
 
 namespace kestrel::addin {
 
@@ -28,7 +28,7 @@ class CommitPass : public TExpertTest {
   /// The summary that the pass ends with.
   std::string Summary(const std::vector<TCommitRowData>& rows, const TCommitComments& comments = {}) {
     forms_.Boxes.clear();
-    CommitRows(expert_->Context(), rows, comments, std::make_unique<TSteps>(steps_));
+    RunCommit(expert_->Context(), rows, comments, std::make_unique<TSteps>(steps_));
     if (forms_.Boxes.size() != 1) return "(" + std::to_string(forms_.Boxes.size()) + " boxes)";
     EXPECT_EQ(forms_.Boxes.front().Title, "Commit Borwser");
     EXPECT_EQ(forms_.Boxes.front().Kind, metInfo);
@@ -148,7 +148,7 @@ TEST_F(CommitPass, IsRefusedWithoutAProviderProjectBeforeAnythingIsTouched) {
   SetFileAttributesOf(At("unit1.pas"), faReadOnly);
   const auto abort = [&] {
     return AbortOf([&] {
-      CommitRows(expert.Context(), {Row("unit1.pas", caNone)}, {}, std::make_unique<TSteps>(steps_));
+      RunCommit(expert.Context(), {Row("unit1.pas", caNone)}, {}, std::make_unique<TSteps>(steps_));
     });
   };
   EXPECT_EQ(abort(), "Unable to run Commit Browser, provider not assigned");

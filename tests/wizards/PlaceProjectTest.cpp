@@ -4,7 +4,7 @@
 #include "expert/ExpertFixture.h"
 #include "support/NativePath.h"
 #include "system/System.h"
-#include "wizards/PlaceProjectPages.h"
+#include "wizards/PlaceProjectController.h"
 
 namespace kestrel::addin {
 
@@ -17,10 +17,10 @@ class PlaceProject : public TExpertTest {
     provider_->GetProjPath = {{}, "trunk/App", {}, "repo"};
   }
   /// The wizard on its first page, for the project that the host has open.
-  TPlaceProjectPages& Show() {
+  TPlaceProjectController& Show() {
     if (!expert_) Start();
     if (!host_.FindModule(project_file_)) host_.AddProject(project_file_, units_);
-    pages_ = std::make_unique<TPlaceProjectPages>(expert_->Context());
+    pages_ = std::make_unique<TPlaceProjectController>(expert_->Context());
     pages_->FormCreate(0);
     return *pages_;
   }
@@ -37,9 +37,9 @@ class PlaceProject : public TExpertTest {
     const auto names = pages_->Providers();
     pages_->cbProvidersChange(static_cast<int>(std::ranges::find(names, provider) - names.begin()));
   }
-  const TWizardPage& Page() const { return pages_->Page(); }
+  const TWizardPageState& Page() const { return pages_->Page(); }
 
-  std::unique_ptr<TPlaceProjectPages> pages_;
+  std::unique_ptr<TPlaceProjectController> pages_;
 };
 
 TEST_F(PlaceProject, GoesThroughItsPagesAndLeavesTheProjectOpen) {

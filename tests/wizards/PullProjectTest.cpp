@@ -5,7 +5,7 @@
 #include "expert/ExpertFixture.h"
 #include "support/NativePath.h"
 #include "system/System.h"
-#include "wizards/PullProjectPages.h"
+#include "wizards/PullProjectController.h"
 
 namespace kestrel::addin {
 
@@ -31,9 +31,9 @@ class PullProject : public TExpertTest {
   std::string Target() const { return folder_ / "böb's copy"; }
   std::string In(const std::string& name) const { return folder_ / ("böb's copy/" + name); }
 
-  TPullProjectPages& Show() {
+  TPullProjectController& Show() {
     if (!expert_) Start();
-    pages_ = std::make_unique<TPullProjectPages>(expert_->Context());
+    pages_ = std::make_unique<TPullProjectController>(expert_->Context());
     pages_->FormCreate(0);
     return *pages_;
   }
@@ -44,9 +44,9 @@ class PullProject : public TExpertTest {
     pages_->TargetDirectoryChange(target);
     pages_->NextFinishButtonClick();
   }
-  const TWizardPage& Page() const { return pages_->Page(); }
+  const TWizardPageState& Page() const { return pages_->Page(); }
 
-  std::unique_ptr<TPullProjectPages> pages_;
+  std::unique_ptr<TPullProjectController> pages_;
 };
 
 TEST_F(PullProject, FetchesListsAndMaps) {

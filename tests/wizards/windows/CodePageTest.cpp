@@ -4,7 +4,7 @@
 #include "expert/ExpertFixture.h"
 #include "system/Text.h"
 #include "wizards/CommitRows.h"
-#include "wizards/PullProjectPages.h"
+#include "wizards/PullProjectController.h"
 
 namespace kestrel::addin {
 
@@ -29,7 +29,7 @@ TEST_F(WizardsCodePage, BoundsATargetAsTheProviderGetsIt) {
       {"C:\\名前", "Providers cannot take C:\\名前"},
   };
   for (const auto& row : rows) {
-    TPullProjectPages pages(*expert_);
+    TPullProjectController pages(*expert_);
     pages.FormCreate(0);
     pages.NextFinishButtonClick();
     pages.TargetDirectoryChange(row.target);

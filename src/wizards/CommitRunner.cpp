@@ -1,4 +1,4 @@
-#include "wizards/CommitPass.h"
+#include "wizards/CommitRunner.h"
 
 #include <array>
 #include <exception>
@@ -11,8 +11,8 @@
 #include "expert/SccSystem.h"
 #include "system/Paths.h"
 #include "system/System.h"
-#include "wizards/CommitPassStrings.h"
 #include "wizards/CommitRowsStrings.h"
+#include "wizards/CommitRunnerStrings.h"
 
 namespace kestrel::addin {
 
@@ -38,9 +38,9 @@ constexpr std::array kSteps{
 };
 static_assert(kSteps.size() == kCommitActivities);
 
-class TCommitPass {
+class TCommitRunner {
  public:
-  TCommitPass(TCommandContext& context, const TCommitComments& comments)
+  TCommitRunner(TCommandContext& context, const TCommitComments& comments)
       : context_(context),
         comments_(comments),
         directory_(ExtractFileDir(GetCurrentProjectFile())),
@@ -110,9 +110,9 @@ std::string CommitCommentPlace(const std::string& fileName) {
   return TCommentMemory::Place("browser", fileName);
 }
 
-void CommitRows(TCommandContext& context, const std::vector<TCommitRowData>& rows,
-                const TCommitComments& comments, std::unique_ptr<IProgress> progress) {
-  TCommitPass(context, comments).Execute(rows, std::move(progress));
+void RunCommit(TCommandContext& context, const std::vector<TCommitRowData>& rows,
+               const TCommitComments& comments, std::unique_ptr<IProgress> progress) {
+  TCommitRunner(context, comments).Execute(rows, std::move(progress));
 }
 
 }  // namespace kestrel::addin

@@ -7,12 +7,12 @@
 #include <vector>
 
 #include "expert/CommandContext.h"
-#include "wizards/ProviderWords.h"
+#include "wizards/ProviderMessageRecorder.h"
 
 namespace kestrel::addin {
 
 /// What a wizard's form shows of the current page.
-struct TWizardPage {
+struct TWizardPageState {
   std::string Caption;
   int Panel = 1;  ///< which of the form's four panels
   bool Back = false;
@@ -24,14 +24,14 @@ struct TWizardPage {
   std::string Problem;       ///< a sentence: why it does not go on; empty when nothing is in the way
 };
 
-class TWizardPages {
+class TWizardController {
  public:
   /// `expert` is borrowed.  The handlers below never throw: what goes wrong becomes the page's Problem, or a line of the
   /// status page.
-  explicit TWizardPages(TCommandContext& expert) : FExpert(expert) {}
-  TWizardPages(const TWizardPages&) = delete;
-  TWizardPages& operator=(const TWizardPages&) = delete;
-  virtual ~TWizardPages() = default;
+  explicit TWizardController(TCommandContext& expert) : FExpert(expert) {}
+  TWizardController(const TWizardController&) = delete;
+  TWizardController& operator=(const TWizardController&) = delete;
+  virtual ~TWizardController() = default;
 
   /// Called whenever the form should look again: Page() or texts have changed.
   std::function<void()> OnChange;
@@ -51,7 +51,7 @@ class TWizardPages {
   void ProjectNameChange(const std::string& text);
   void cbProvidersChange(int selected);
 
-  const TWizardPage& Page() const { return page_; }
+  const TWizardPageState& Page() const { return page_; }
   const TStringList& Providers() const { return providers_; }
   int SelectedProvider() const { return selected_; }  ///< -1 when there is none
   const std::string& ProjectName() const { return project_name_; }
@@ -92,7 +92,7 @@ class TWizardPages {
   /// Makes them the page's Problem, which is shown whole and stays until the user does something about it.
   void ShowReasons(const TStringList& reasons);
   /// What the provider said about a failure, or else the texts of its return code.
-  static TStringList Reasons(TProviderWords& words, const TStateMessages& messages);
+  static TStringList Reasons(TProviderMessageRecorder& recorder, const TStateMessages& messages);
 
   /// The wizard's provider project, made current after waiting notifications have run.  Throws EAbort when the host has
   /// released the provider meanwhile.
@@ -107,7 +107,7 @@ class TWizardPages {
   void RemoveProject(const std::string& directory);
 
   TCommandContext& FExpert;
-  TWizardPage page_;
+  TWizardPageState page_;
 
  private:
   void Initialize();

@@ -1,4 +1,4 @@
-#include "wizards/WizardPages.h"
+#include "wizards/WizardController.h"
 
 #include <algorithm>
 #include <ranges>
@@ -9,7 +9,7 @@
 #include "provider/SCMOptionsStrings.h"
 #include "system/Registry.h"
 #include "ui/ButtonStrings.h"
-#include "wizards/WizardPagesStrings.h"
+#include "wizards/WizardControllerStrings.h"
 
 namespace kestrel::addin {
 
@@ -23,7 +23,7 @@ constexpr std::ptrdiff_t kShownReasons = 3;
 
 }  // namespace
 
-void TWizardPages::ShowProblemOf(const std::function<void()>& action) {
+void TWizardController::ShowProblemOf(const std::function<void()>& action) {
   page_.Problem.clear();
   const auto run = [&] {
     FExpert.Activities.RequireNoProviderCall();  // a window of the provider's may leave this one enabled
@@ -33,15 +33,15 @@ void TWizardPages::ShowProblemOf(const std::function<void()>& action) {
   Changed();
 }
 
-void TWizardPages::Changed() const {
+void TWizardController::Changed() const {
   if (OnChange) OnChange();
 }
 
-void TWizardPages::Progressed() const {
+void TWizardController::Progressed() const {
   if (OnProgress) OnProgress();
 }
 
-void TWizardPages::FormCreate(TWindowHandle window) {
+void TWizardController::FormCreate(TWindowHandle window) {
   window_ = window;
   ShowProblemOf([this] {
     Initialize();
@@ -53,7 +53,7 @@ void TWizardPages::FormCreate(TWindowHandle window) {
   Changed();
 }
 
-void TWizardPages::Initialize() {
+void TWizardController::Initialize() {
   providers_.clear();
   project_name_.clear();
   TRegistry registry;
@@ -68,11 +68,11 @@ void TWizardPages::Initialize() {
   if (found != providers_.end()) selected_ = static_cast<int>(found - providers_.begin());
 }
 
-void TWizardPages::SetSCCSettings() {
+void TWizardController::SetSCCSettings() {
   FExpert.Provider.Select(selected_ < 0 ? std::string() : providers_[static_cast<std::size_t>(selected_)]);
 }
 
-void TWizardPages::InitializeProject() {
+void TWizardController::InitializeProject() {
   if (!FExpert.Provider.List()) {
     SetSCCSettings();
     if (!FExpert.Provider.Create(window_)) return;
@@ -80,7 +80,7 @@ void TWizardPages::InitializeProject() {
   EnsureProject();
 }
 
-TSCCProviderProject& TWizardPages::EnsureProject() {
+TSCCProviderProject& TWizardController::EnsureProject() {
   if (local_path_.empty()) local_path_ = ProjectDirectory();
   auto* list = FExpert.Provider.List();
   if (list && !list->SetCurrentProject(local_path_)) {
@@ -93,19 +93,19 @@ TSCCProviderProject& TWizardPages::EnsureProject() {
   return Project();
 }
 
-TSCCProviderProject& TWizardPages::Project() {
+TSCCProviderProject& TWizardController::Project() {
   FExpert.Activities.RunWaiting();
   return FExpert.Provider.SelectProject(local_path_, NoProviderText());
 }
 
-void TWizardPages::RemoveProject(const std::string& directory) {
+void TWizardController::RemoveProject(const std::string& directory) {
   auto* list = FExpert.Provider.List();
   if (!list) return;
   list->Remove(directory);
   list->SetCurrentProject(directory);  // the current project must not dangle
 }
 
-void TWizardPages::cbProvidersChange(int selected) {
+void TWizardController::cbProvidersChange(int selected) {
   ShowProblemOf([&] {
     selected_ = selected;
     picked_ = {};
@@ -118,14 +118,14 @@ void TWizardPages::cbProvidersChange(int selected) {
   });
 }
 
-void TWizardPages::DisplayPage() {
+void TWizardController::DisplayPage() {
   page_.Caption = FPage == kLastPage
                       ? StatusCaption().str()
                       : Format(StepCaption().Text, {static_cast<long long>(FPage) + 1, kSteps});
   ShowPage(FPage);
 }
 
-void TWizardPages::Show(int panel, const TResString& next, bool nextEnabled) {
+void TWizardController::Show(int panel, const TResString& next, bool nextEnabled) {
   page_.Panel = panel;
   page_.Back = true;
   page_.Next = nextEnabled;
@@ -135,7 +135,7 @@ void TWizardPages::Show(int panel, const TResString& next, bool nextEnabled) {
   Changed();  // what follows may open the provider's dialog, with this page behind it
 }
 
-void TWizardPages::PageSelectProviderDisplay() {
+void TWizardController::PageSelectProviderDisplay() {
   Show(1, sWizardNext);
   page_.Back = false;
   if (selected_ < 0 && providers_.empty()) {
@@ -147,7 +147,7 @@ void TWizardPages::PageSelectProviderDisplay() {
   page_.Next = !none && !page_.NoProviders;
 }
 
-void TWizardPages::PageStatusDisplay(Work work) {
+void TWizardController::PageStatusDisplay(Work work) {
   status_.clear();
   stopped_ = false;
   page_.Working = true;
@@ -157,7 +157,7 @@ void TWizardPages::PageStatusDisplay(Work work) {
   Changed();
 }
 
-void TWizardPages::Complete(bool succeeded) {
+void TWizardController::Complete(bool succeeded) {
   page_.Working = false;
   page_.Cancel = false;  // there is nothing left to cancel
   page_.Next = true;
@@ -165,7 +165,7 @@ void TWizardPages::Complete(bool succeeded) {
   Changed();
 }
 
-void TWizardPages::BackButtonClick() {
+void TWizardController::BackButtonClick() {
   if (FPage == 0) return;
   ShowProblemOf([this] {
     --FPage;
@@ -174,7 +174,7 @@ void TWizardPages::BackButtonClick() {
   });
 }
 
-void TWizardPages::NextFinishButtonClick() {
+void TWizardController::NextFinishButtonClick() {
   if (FPage == kLastPage) {
     finished_ = true;
     return Changed();
@@ -186,7 +186,7 @@ void TWizardPages::NextFinishButtonClick() {
   });
 }
 
-bool TWizardPages::CancelButtonClick() {
+bool TWizardController::CancelButtonClick() {
   if (!page_.Working) return true;
   if (!page_.Cancel) return false;
   stopped_ = true;
@@ -195,28 +195,28 @@ bool TWizardPages::CancelButtonClick() {
   return false;
 }
 
-void TWizardPages::Pick(const TSCCProviderProject& project) {
+void TWizardController::Pick(const TSCCProviderProject& project) {
   picked_ = {project.get_ProjName(), project.get_ProjPath(), project.get_UserName()};
   project_name_ = picked_.ProjName;
 }
 
-void TWizardPages::ProjectBrowserButtonClick() {
+void TWizardController::ProjectBrowserButtonClick() {
   ShowProblemOf([this] {
     TStateMessages messages;
-    TProviderWords words;
+    TProviderMessageRecorder recorder;
     auto& project = EnsureProject();
     const auto code = Browse(project, messages);
     page_.Problem.clear();  // why something was refused meanwhile
     if (code == scc::SCC_OK) {
       Pick(project);
     } else if (code < 0) {
-      ShowReasons(Reasons(words, messages));
+      ShowReasons(Reasons(recorder, messages));
     }
     page_.Next = !project_name_.empty();
   });
 }
 
-void TWizardPages::ProjectNameChange(const std::string& text) {
+void TWizardController::ProjectNameChange(const std::string& text) {
   ShowProblemOf([&] {
     project_name_ = text;
     page_.Next = !text.empty();
@@ -224,29 +224,29 @@ void TWizardPages::ProjectNameChange(const std::string& text) {
   });
 }
 
-void TWizardPages::NameProject(const std::string& name) {
+void TWizardController::NameProject(const std::string& name) {
   picked_.ProjName = name;
   EnsureProject().set_ProjName(name);
 }
 
-void TWizardPages::AddStatus(std::string line) {
+void TWizardController::AddStatus(std::string line) {
   status_.push_back(std::move(line));
   Progressed();
 }
 
-void TWizardPages::AddFailure(const TStringList& reasons) {
+void TWizardController::AddFailure(const TStringList& reasons) {
   ShowReasons(reasons);
   for (const auto& reason : reasons) AddStatus(reason);
 }
 
-void TWizardPages::ShowReasons(const TStringList& reasons) {
+void TWizardController::ShowReasons(const TStringList& reasons) {
   page_.Problem.clear();
   for (const auto& reason : reasons | std::views::take(kShownReasons))
     page_.Problem += (page_.Problem.empty() ? "" : "\n") + reason;
 }
 
-TStringList TWizardPages::Reasons(TProviderWords& words, const TStateMessages& messages) {
-  auto reasons = words.TakeErrors();
+TStringList TWizardController::Reasons(TProviderMessageRecorder& recorder, const TStateMessages& messages) {
+  auto reasons = recorder.DrainErrors();
   if (reasons.empty())
     for (const auto& text : {messages[2], messages[1]})
       if (!text.empty()) reasons.push_back(text);

@@ -11,14 +11,14 @@
 namespace kestrel::addin {
 
 /// Listens in for as long as it lives; everything still goes where it went before.
-class TProviderWords final : public IProviderSink {
+class TProviderMessageRecorder final : public IProviderSink {
  public:
   /// `onLine` (may be empty) is called with every line.
-  explicit TProviderWords(std::function<void(const std::string&)> onLine = {})
+  explicit TProviderMessageRecorder(std::function<void(const std::string&)> onLine = {})
       : on_line_(std::move(onLine)), previous_(SetProviderSink(this)) {}
-  TProviderWords(const TProviderWords&) = delete;
-  TProviderWords& operator=(const TProviderWords&) = delete;
-  ~TProviderWords() override { SetProviderSink(previous_); }
+  TProviderMessageRecorder(const TProviderMessageRecorder&) = delete;
+  TProviderMessageRecorder& operator=(const TProviderMessageRecorder&) = delete;
+  ~TProviderMessageRecorder() override { SetProviderSink(previous_); }
 
   void Line(TSeverity severity, const std::string& text) override {
     if (previous_) previous_->Line(severity, text);
@@ -31,9 +31,9 @@ class TProviderWords final : public IProviderSink {
   }
 
   /// The errors since the last time.
-  std::vector<std::string> TakeErrors() { return std::exchange(errors_, {}); }
+  std::vector<std::string> DrainErrors() { return std::exchange(errors_, {}); }
   /// The same for its warnings.
-  std::vector<std::string> TakeWarnings() { return std::exchange(warnings_, {}); }
+  std::vector<std::string> DrainWarnings() { return std::exchange(warnings_, {}); }
 
  private:
   std::function<void(const std::string&)> on_line_;

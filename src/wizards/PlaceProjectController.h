@@ -3,13 +3,13 @@
 
 #include <vector>
 
-#include "wizards/WizardPages.h"
+#include "wizards/WizardController.h"
 
 namespace kestrel::addin {
 
-class TPlaceProjectPages final : public TWizardPages {
+class TPlaceProjectController final : public TWizardController {
  public:
-  explicit TPlaceProjectPages(TCommandContext& expert);
+  explicit TPlaceProjectController(TCommandContext& expert);
 
   // The files of the first check-in: paths relative to the project's directory, all ticked at first.
   std::size_t FileCount() const { return files_.size(); }
@@ -31,9 +31,9 @@ class TPlaceProjectPages final : public TWizardPages {
   void PageSelectFilesDisplay();
   void PlaceProject();
   bool Place();
-  bool Open(class TMappingFile& mapping, TProviderWords& words);
-  void AddFiles(TProviderWords& words, bool opened);
-  void AddFile(std::size_t row, TProviderWords& words, bool opened);
+  bool Open(class TMappingFile& mapping, TProviderMessageRecorder& recorder);
+  void AddFiles(TProviderMessageRecorder& recorder, bool opened);
+  void AddFile(std::size_t row, TProviderMessageRecorder& recorder, bool opened);
   void RollBack();
 
   std::string project_file_;

@@ -1,13 +1,13 @@
 // The wizard that fetches a provider project into a local directory, without its window.
 #pragma once
 
-#include "wizards/WizardPages.h"
+#include "wizards/WizardController.h"
 
 namespace kestrel::addin {
 
-class TPullProjectPages final : public TWizardPages {
+class TPullProjectController final : public TWizardController {
  public:
-  explicit TPullProjectPages(TCommandContext& expert);
+  explicit TPullProjectController(TCommandContext& expert);
 
   void TargetDirectoryChange(const std::string& text);
   const std::string& TargetDirectory() const { return target_; }
@@ -36,7 +36,7 @@ class TPullProjectPages final : public TWizardPages {
   void PageSelectProjectDisplay();
   void PullProject();
   bool Pull();
-  bool Open(TProviderWords& words);
+  bool Open(TProviderMessageRecorder& recorder);
   std::size_t FindProjectFile();
   bool Fetch(std::size_t expected);
   void ListFetched();

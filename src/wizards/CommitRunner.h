@@ -26,7 +26,7 @@ std::string CommitCommentPlace(const std::string& fileName = {});
 ///
 /// Throws EAbort, with nothing touched, when there is no provider, when a call of it is running, or when the project's
 /// directory is no provider project.
-void CommitRows(TCommandContext& context, const std::vector<TCommitRowData>& rows,
-                const TCommitComments& comments, std::unique_ptr<IProgress> progress);
+void RunCommit(TCommandContext& context, const std::vector<TCommitRowData>& rows,
+               const TCommitComments& comments, std::unique_ptr<IProgress> progress);
 
 }  // namespace kestrel::addin

@@ -1,4 +1,4 @@
-#include "wizards/PlaceProjectPages.h"
+#include "wizards/PlaceProjectController.h"
 
 #include <algorithm>
 #include <unordered_set>
@@ -10,7 +10,7 @@
 #include "system/Paths.h"
 #include "system/System.h"
 #include "wizards/PlaceProjectWizardStrings.h"
-#include "wizards/WizardPagesStrings.h"
+#include "wizards/WizardControllerStrings.h"
 
 namespace kestrel::addin {
 
@@ -21,17 +21,19 @@ constexpr const char* kDirectoryProvider = "ClearCase";
 
 }  // namespace
 
-TPlaceProjectPages::TPlaceProjectPages(TCommandContext& expert)
-    : TWizardPages(expert),
+TPlaceProjectController::TPlaceProjectController(TCommandContext& expert)
+    : TWizardController(expert),
       project_file_(GetCurrentProjectFile()),
       directory_(ExtractFileDir(project_file_)) {}
 
-const TResString& TPlaceProjectPages::StepCaption() const { return sPlaceStep; }
-const TResString& TPlaceProjectPages::StatusCaption() const { return sPlaceStatusPage; }
-std::string TPlaceProjectPages::NoProviderText() const { return sPlaceNoProvider; }
-bool TPlaceProjectPages::SkipsProjectPage() const { return FExpert.Provider.Name() == kDirectoryProvider; }
+const TResString& TPlaceProjectController::StepCaption() const { return sPlaceStep; }
+const TResString& TPlaceProjectController::StatusCaption() const { return sPlaceStatusPage; }
+std::string TPlaceProjectController::NoProviderText() const { return sPlaceNoProvider; }
+bool TPlaceProjectController::SkipsProjectPage() const {
+  return FExpert.Provider.Name() == kDirectoryProvider;
+}
 
-void TPlaceProjectPages::ShowPage(int page) {
+void TPlaceProjectController::ShowPage(int page) {
   switch (page) {
     case 0:
       return PageSelectProviderDisplay();
@@ -44,7 +46,7 @@ void TPlaceProjectPages::ShowPage(int page) {
   }
 }
 
-void TPlaceProjectPages::PageSelectProjectDisplay() {
+void TPlaceProjectController::PageSelectProjectDisplay() {
   Show(2, sWizardNext, !ProjectName().empty());
   if (SkipsProjectPage()) {
     NameProject(IncludeTrailingPathDelimiter(directory_));
@@ -54,11 +56,11 @@ void TPlaceProjectPages::PageSelectProjectDisplay() {
   }
 }
 
-scc::Long TPlaceProjectPages::Browse(TSCCProviderProject& project, TStateMessages& messages) {
+scc::Long TPlaceProjectController::Browse(TSCCProviderProject& project, TStateMessages& messages) {
   return project.GetProjectPath(messages, /*mayCreate*/ true, /*mayChangePath*/ false);
 }
 
-void TPlaceProjectPages::PageSelectFilesDisplay() {
+void TPlaceProjectController::PageSelectFilesDisplay() {
   Show(3, sWizardNext);
   files_.clear();
   shown_.clear();
@@ -70,7 +72,7 @@ void TPlaceProjectPages::PageSelectFilesDisplay() {
   ticked_.assign(files_.size(), true);
 }
 
-void TPlaceProjectPages::PlaceProject() {
+void TPlaceProjectController::PlaceProject() {
   PageStatusDisplay(Work::CanStop);
   bool placed = false;
   RunCatching([&] { placed = Place(); }, [this](const std::exception& error) { AddFailure({error.what()}); });
@@ -82,61 +84,61 @@ void TPlaceProjectPages::PlaceProject() {
   Complete(placed);
 }
 
-bool TPlaceProjectPages::Place() {
+bool TPlaceProjectController::Place() {
   AddStatus(Format(sPlaceInitializing.Text, {ExtractFileName(project_file_)}));
   const auto& project = EnsureProject();
   TMappingFile mapping(MappingFileName(project_file_));
   mapping.Write(FExpert.Provider.Name(), kMapProjName, project.get_ProjName());
   mapping.Write(FExpert.Provider.Name(), kMapAuxProjPath, project.get_ProjPath());
-  TProviderWords words;
-  const bool opened = Open(mapping, words);
-  AddFiles(words, opened);  // whatever came of it: each file says for itself that it cannot be added
+  TProviderMessageRecorder recorder;
+  const bool opened = Open(mapping, recorder);
+  AddFiles(recorder, opened);  // whatever came of it: each file says for itself that it cannot be added
   if (opened && !IsStopped()) AddStatus(sPlaceSucceeded);
   return opened;
 }
 
-void TPlaceProjectPages::AddFiles(TProviderWords& words, bool opened) {
+void TPlaceProjectController::AddFiles(TProviderMessageRecorder& recorder, bool opened) {
   auto left = static_cast<long long>(std::ranges::count(ticked_, true));
   for (std::size_t row = 0; row < files_.size() && !IsStopped(); ++row)
     if (ticked_[row]) {
-      AddFile(row, words, opened);
+      AddFile(row, recorder, opened);
       --left;
     }
   if (IsStopped()) AddStatus(Format(sPlaceStopped.Text, {left}));
 }
 
-bool TPlaceProjectPages::Open(TMappingFile& mapping, TProviderWords& words) {
+bool TPlaceProjectController::Open(TMappingFile& mapping, TProviderMessageRecorder& recorder) {
   TStateMessages messages;
   // Once for providers that make the project, once more for those that settle its names only when it exists.
   Project().OpenProject(messages);
   Project().CloseProject(messages);
-  words.TakeErrors();
+  recorder.DrainErrors();
   const auto code = Project().OpenProject(messages);
   if (code != scc::SCC_OK || !messages[2].empty()) {
-    ShowReasons(Reasons(words, messages));
+    ShowReasons(Reasons(recorder, messages));
     return false;
   }
   mapping.Write(FExpert.Provider.Name(), kMapUserName, Project().get_UserName());
   return true;
 }
 
-void TPlaceProjectPages::AddFile(std::size_t row, TProviderWords& words, bool opened) {
+void TPlaceProjectController::AddFile(std::size_t row, TProviderMessageRecorder& recorder, bool opened) {
   const auto& file = files_[row];
   TStateMessages messages;
   if (!Project().AddFile({file}, {}, KeepCheckedOut, messages)) {
     // Seen from the directory above, so that the project's own name leads the way to the file: that is meant.
     AddStatus(Format(sPlaceAddFailed.Text, {RelativePath(ExtractFileDir(directory_), file)}));
-    const auto reasons = Reasons(words, messages);
+    const auto reasons = Reasons(recorder, messages);
     if (!opened) return;  // it is the same for all, and shown
     for (const auto& reason : reasons) AddStatus(Format(sPlaceReason.Text, {reason}));
     return;
   }
-  words.TakeErrors();
+  recorder.DrainErrors();
   AddStatus(Format(sPlaceAddOk.Text, {shown_[row]}));
   if (FileExists(file)) SetFileAttributesOf(file, faArchive);
 }
 
-void TPlaceProjectPages::RollBack() {
+void TPlaceProjectController::RollBack() {
   const auto close = [this] {
     TStateMessages messages;
     Project().CloseProject(messages);

@@ -1,4 +1,4 @@
-#include "wizards/PullProjectPages.h"
+#include "wizards/PullProjectController.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -13,7 +13,7 @@
 #include "system/System.h"
 #include "wizards/FileSearch.h"
 #include "wizards/PullProjectWizardStrings.h"
-#include "wizards/WizardPagesStrings.h"
+#include "wizards/WizardControllerStrings.h"
 
 namespace kestrel::addin {
 
@@ -83,21 +83,21 @@ void MakeDirectory(const std::string& directory) {
 
 }  // namespace
 
-TPullProjectPages::TPullProjectPages(TCommandContext& expert) : TWizardPages(expert) {}
+TPullProjectController::TPullProjectController(TCommandContext& expert) : TWizardController(expert) {}
 
-const TResString& TPullProjectPages::StepCaption() const { return sPullStep; }
-const TResString& TPullProjectPages::StatusCaption() const { return sPullStatusPage; }
-std::string TPullProjectPages::NoProviderText() const { return sPullNoProvider; }
-bool TPullProjectPages::Offers(const std::string& provider) const { return provider != kViewProvider; }
+const TResString& TPullProjectController::StepCaption() const { return sPullStep; }
+const TResString& TPullProjectController::StatusCaption() const { return sPullStatusPage; }
+std::string TPullProjectController::NoProviderText() const { return sPullNoProvider; }
+bool TPullProjectController::Offers(const std::string& provider) const { return provider != kViewProvider; }
 
-std::string TPullProjectPages::ProjectDirectory() {
+std::string TPullProjectController::ProjectDirectory() {
   auto* services = IdeService<IOTAServices>();
   return services ? services->GetStartupDirectory() : std::string();
 }
 
 // The directory comes before the project, since the provider is told of it when the project is picked; the panels are
 // numbered otherwise.
-void TPullProjectPages::ShowPage(int page) {
+void TPullProjectController::ShowPage(int page) {
   switch (page) {
     case 0:
       return PageSelectProviderDisplay();
@@ -110,12 +110,12 @@ void TPullProjectPages::ShowPage(int page) {
   }
 }
 
-void TPullProjectPages::PageSelectTargetDisplay() {
+void TPullProjectController::PageSelectTargetDisplay() {
   Show(3, sWizardNext);
   if (target_.empty()) TargetDirectoryChange(ProjectDirectory());
 }
 
-void TPullProjectPages::TargetDirectoryChange(const std::string& text) {
+void TPullProjectController::TargetDirectoryChange(const std::string& text) {
   target_ = text;
   note_ = addin::TargetNote(FullTarget(text));
   page_.Problem.clear();
@@ -123,32 +123,32 @@ void TPullProjectPages::TargetDirectoryChange(const std::string& text) {
 }
 
 // What the user may leave out of a path: the start-up directory in front, a delimiter at the end.
-std::string TPullProjectPages::FullTarget(const std::string& text) {
+std::string TPullProjectController::FullTarget(const std::string& text) {
   const auto path = Trim(text);
   const auto full = ResolvePath(ProjectDirectory(), path);
   return path.empty() || !IsAbsolutePath(full) ? path : NormalizePath(full);
 }
 
-bool TPullProjectPages::MayLeave() {
+bool TPullProjectController::MayLeave() {
   if (page_.Panel != 3) return true;
   target_ = FullTarget(target_);
   page_.Problem = TargetProblem(target_);
   return page_.Problem.empty();
 }
 
-void TPullProjectPages::MoveToTarget() {
+void TPullProjectController::MoveToTarget() {
   auto& project = EnsureProject();
   project.set_LocalPath(target_);
   Follow(project);
 }
 
-void TPullProjectPages::PageSelectProjectDisplay() {
+void TPullProjectController::PageSelectProjectDisplay() {
   Show(2, sPullNext, !ProjectName().empty());
   MoveToTarget();
   ProjectBrowserButtonClick();
 }
 
-scc::Long TPullProjectPages::Browse(TSCCProviderProject& project, TStateMessages& messages) {
+scc::Long TPullProjectController::Browse(TSCCProviderProject& project, TStateMessages& messages) {
   const auto code =
       project.GetProjectPath(messages, /*mayCreate*/ false, MayChangePath(FExpert.Provider.Path()));
   Follow(project);
@@ -157,12 +157,12 @@ scc::Long TPullProjectPages::Browse(TSCCProviderProject& project, TStateMessages
 }
 
 /// What is done from here on.  The provider may say nothing for minutes: the line must be there before.
-void TPullProjectPages::BeginStep(const TResString& text) {
+void TPullProjectController::BeginStep(const TResString& text) {
   progress_ = text;
   Changed();
 }
 
-void TPullProjectPages::PullProject() {
+void TPullProjectController::PullProject() {
   FProjectFile.clear();
   can_open_ = false;
   PageStatusDisplay(Work::Uninterrupted);
@@ -173,12 +173,12 @@ void TPullProjectPages::PullProject() {
   Complete(can_open_);
 }
 
-bool TPullProjectPages::Pull() {
+bool TPullProjectController::Pull() {
   MakeDirectory(target_);
   MoveToTarget();
-  TProviderWords words;
+  TProviderMessageRecorder recorder;
   BeginStep(sPullOpening);
-  const auto expected = Open(words) ? FindProjectFile() : 0;
+  const auto expected = Open(recorder) ? FindProjectFile() : 0;
   if (FProjectFile.empty()) {
     AddStatus(sPullNoProjectFile);
     return false;
@@ -189,16 +189,16 @@ bool TPullProjectPages::Pull() {
   return fetched && FileExists(FProjectFile);
 }
 
-bool TPullProjectPages::Open(TProviderWords& words) {
+bool TPullProjectController::Open(TProviderMessageRecorder& recorder) {
   TStateMessages messages;
   const auto code = Project().OpenProject(messages, target_);
   if (code >= 0 && messages[2].empty()) return true;
-  AddFailure(Reasons(words, messages));
+  AddFailure(Reasons(recorder, messages));
   return false;
 }
 
 /// Sets FProjectFile; returns how many files are to be fetched: the list begins with those of the host's own project.
-std::size_t TPullProjectPages::FindProjectFile() {
+std::size_t TPullProjectController::FindProjectFile() {
   BeginStep(sPullListing);
   TStringList files;
   Project();  // the one whose files are asked for
@@ -209,28 +209,28 @@ std::size_t TPullProjectPages::FindProjectFile() {
       files, [this](const std::string& file) { return RelativePathBelow(target_, file) != file; }));
 }
 
-bool TPullProjectPages::Fetch(std::size_t expected) {
+bool TPullProjectController::Fetch(std::size_t expected) {
   BeginStep(sPullFetching);
   long long done = 0;
-  TProviderWords words([&](const std::string& line) {
+  TProviderMessageRecorder recorder([&](const std::string& line) {
     done = std::min(done + 1, static_cast<long long>(expected));
     progress_ = Format(sPullFetched.Text, {done, static_cast<long long>(expected), line});
     Progressed();
   });
   TStateMessages messages;
   const auto code = Project().GetFilesAndDirs({target_}, messages);
-  for (const auto& warning : words.TakeWarnings()) AddStatus(warning);
+  for (const auto& warning : recorder.DrainWarnings()) AddStatus(warning);
   if (code >= 0) return true;
-  AddFailure(Reasons(words, messages));
+  AddFailure(Reasons(recorder, messages));
   return false;
 }
 
-void TPullProjectPages::ListFetched() {
+void TPullProjectController::ListFetched() {
   BeginStep(sPullChecking);
   TStringList entries;
   SearchRecursiveFiles(entries, target_);
   TStatusArray statuses;
-  TProviderWords words;
+  TProviderMessageRecorder recorder;
   // A provider may keep as many files of its own there as the project has: more than one query's worth, then.
   for (std::size_t first = 0; first < entries.size(); first += kMaxFiles) {
     const auto last = std::min(entries.size(), first + kMaxFiles);
@@ -240,7 +240,7 @@ void TPullProjectPages::ListFetched() {
     statuses.Clear();
     if (!Project().Query(part, statuses, messages)) {
       WriteFailure(target_, messages);
-      AddFailure(Reasons(words, messages));
+      AddFailure(Reasons(recorder, messages));
     }
     for (std::size_t i = 0; i < part.size(); ++i) {
       if (!(statuses[i] & scc::SCC_STATUS_CONTROLLED)) continue;
@@ -251,7 +251,7 @@ void TPullProjectPages::ListFetched() {
 }
 
 // Always in the target directory, wherever below it the project file is: that is the directory that the provider knows.
-void TPullProjectPages::WriteMapping() {
+void TPullProjectController::WriteMapping() {
   const auto& project = Project();
   TMappingFile mapping(
       MappingFileName(IncludeTrailingPathDelimiter(target_) + ExtractFileName(FProjectFile)));
@@ -259,7 +259,7 @@ void TPullProjectPages::WriteMapping() {
   mapping.Write(FExpert.Provider.Name(), kMapAuxProjPath, project.get_ProjPath());
 }
 
-void TPullProjectPages::Finish() {
+void TPullProjectController::Finish() {
   const auto close = [this] {
     TStateMessages messages;
     Project().CloseProject(messages);
