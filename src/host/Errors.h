@@ -1,16 +1,15 @@
-// The framework's two kinds of failure that cross subsystem borders.
+// The exception that ends a command.
 #pragma once
 
 #include <stdexcept>
 
 namespace kestrel {
 
-/// The silent abort exception: ends a command that cannot go on, carrying its message.  Whoever catches it writes
-/// or shows the text; nothing else is raised on purpose.
+/// Ends a command that cannot continue.  what() is a sentence for the user; the catcher writes or shows it.
 class EAbort : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
-  ~EAbort() override;  // defined in the host library: one type identity for every package
+  ~EAbort() override;  // defined in the host library, so that all packages share one type
 };
 
 }  // namespace kestrel

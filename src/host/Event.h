@@ -1,4 +1,4 @@
-// A multicast event of the host.
+// An event of the host with any number of handlers.
 #pragma once
 
 #include <functional>
@@ -13,7 +13,7 @@ class TEvent {
  public:
   using THandler = std::function<void(Args...)>;
 
-  /// Returns the cookie that Unsubscribe() takes; cookies are never reused.
+  /// Returns the cookie for Unsubscribe(); cookies are never reused.
   int Subscribe(THandler handler) {
     handlers_.emplace(next_, std::move(handler));
     return next_++;

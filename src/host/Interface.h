@@ -1,4 +1,4 @@
-// The host's object model: abstract interfaces found by identifier, as every run-time package of the IDE sees them.
+// The host's object model: abstract interfaces that packages query by identifier.
 #pragma once
 
 #include <array>
@@ -6,7 +6,7 @@
 
 namespace kestrel {
 
-/// An interface identifier, in the usual {XXXXXXXX-XXXX-XXXX-XXXX-XXXXXXXXXXXX} order.
+/// An interface identifier, in the order {XXXXXXXX-XXXX-XXXX-XXXX-XXXXXXXXXXXX}.
 struct TGuid {
   std::uint32_t D1;
   std::uint16_t D2;
@@ -15,7 +15,7 @@ struct TGuid {
   bool operator==(const TGuid&) const = default;
 };
 
-/// Base of every interface of the host.  All calls are made on the user-interface thread.
+/// Base of all interfaces of the host.  All calls are made on the user-interface thread.
 class IInterface {
  public:
   IInterface() = default;
@@ -23,18 +23,18 @@ class IInterface {
   IInterface& operator=(const IInterface&) = delete;
   virtual ~IInterface() = default;
 
-  /// The address of this object's sub-object for `iid`, or nullptr.  Borrowed: valid as long as the object.
-  /// Callers use Supports<T>() below; implementations use FindInterface<...>().
+  /// The address of this object's sub-object for `iid`, or null.  Valid as long as the object.  Callers use
+  /// Supports<T>(), implementations FindInterface<...>().
   virtual void* QueryInterface(const TGuid& iid) noexcept = 0;
 };
 
-/// Asks `object` (may be nullptr) for interface T; nullptr when it has none.
+/// Queries `object` (may be null) for interface T; null if it does not implement it.
 template <class T>
 T* Supports(IInterface* object) {
   return object ? static_cast<T*>(object->QueryInterface(T::IID)) : nullptr;
 }
 
-/// Body of a QueryInterface: the first of Interfaces... whose identifier is `iid`.
+/// Implements QueryInterface(): the first of Interfaces... with identifier `iid`, or null.
 template <class... Interfaces, class Self>
 void* FindInterface(Self* self, const TGuid& iid) noexcept {
   void* found = nullptr;

@@ -1,7 +1,7 @@
 // Modules, projects, editors and the services that find, open, save and reload them.
 //
-// Objects returned by pointer belong to the host and are borrowed: valid until control returns to the host's message
-// loop or a call closes the module.  All file names are full paths, in UTF-8.
+// Objects returned by pointer belong to the host.  They are valid until control returns to the host's message loop or a
+// call closes the module.  All file names are full paths in UTF-8.
 #pragma once
 
 #include <memory>
@@ -18,7 +18,7 @@ class IOTAEditor : public virtual IInterface {
   static constexpr TGuid IID{0x7C3E5B20, 0x24A1, 0x4E0D, {0x9A, 0x11, 0x52, 0x6B, 0x0C, 0x7E, 0x31, 0x10}};
   virtual std::string GetFileName() = 0;
   virtual bool GetModified() = 0;
-  /// Attaches a notifier and returns its index for RemoveNotifier, or a negative number when that failed.
+  /// Attaches a notifier and returns its index for RemoveNotifier(), or a negative number on failure.
   virtual int AddNotifier(std::shared_ptr<IOTANotifier> notifier) = 0;
   virtual void RemoveNotifier(int index) = 0;
 };
@@ -42,22 +42,22 @@ class IOTAFormEditor : public virtual IOTAEditor {
   static constexpr TGuid IID{0x7C3E5B23, 0x24A1, 0x4E0D, {0x9A, 0x11, 0x52, 0x6B, 0x0C, 0x7E, 0x31, 0x13}};
 };
 
-/// A file that the host has open: a unit, a form's unit, a project or a project group.
+/// An open file: a unit, a form's unit, a project or a project group.
 class IOTAModule : public virtual IInterface {
  public:
   static constexpr TGuid IID{0x7C3E5B24, 0x24A1, 0x4E0D, {0x9A, 0x11, 0x52, 0x6B, 0x0C, 0x7E, 0x31, 0x14}};
   virtual std::string GetFileName() = 0;
   virtual int GetEditorCount() = 0;
-  /// The editor at 0 <= index < GetEditorCount(), else nullptr.  Index 0 is the source editor where there is one.
+  /// The editor at 0 <= index < GetEditorCount(), otherwise null.  The source editor, if there is one, has index 0.
   virtual IOTAEditor* GetEditor(int index) = 0;
 };
 
-/// A project: an IOTAModule that lists the files it is made of, whether they are open or not.
+/// A project: a module that lists its files, open or not.
 class IOTAProject : public virtual IOTAModule {
  public:
   static constexpr TGuid IID{0x7C3E5B25, 0x24A1, 0x4E0D, {0x9A, 0x11, 0x52, 0x6B, 0x0C, 0x7E, 0x31, 0x15}};
   virtual int GetModuleCount() = 0;
-  /// The file name of the project's module at 0 <= index < GetModuleCount(), in the project's order.
+  /// The file name of the project's module at 0 <= index < GetModuleCount(), in project order.
   virtual std::string ModuleFileName(int index) = 0;
 };
 
@@ -72,19 +72,19 @@ class IOTAModuleServices : public virtual IInterface {
   static constexpr TGuid IID{0x7C3E5B30, 0x24A1, 0x4E0D, {0x9A, 0x11, 0x52, 0x6B, 0x0C, 0x7E, 0x31, 0x20}};
   virtual int GetModuleCount() = 0;
   virtual IOTAModule* GetModule(int index) = 0;
-  /// The open module of that file (compared ignoring case), or nullptr.
+  /// The open module of that file (compared ignoring case), or null.
   virtual IOTAModule* FindModule(const std::string& fileName) = 0;
-  /// The module whose editor has the focus, or nullptr.
+  /// The module whose editor has the focus, or null.
   virtual IOTAModule* CurrentModule() = 0;
-  /// The group that the IDE works on, or nullptr.  It may exist in memory only, not on disk.
+  /// The open project group, or null.  It need not exist on disk.
   virtual IOTAProjectGroup* GetMainProjectGroup() = 0;
-  /// Saves every modified module.  False when one could not be saved or the user cancelled.
+  /// Saves all modified modules.  Returns false if one could not be saved or the user cancelled.
   virtual bool SaveAll() = 0;
-  /// Closes every module, asking about unsaved ones.  False when the user cancelled.
+  /// Closes all modules, asking about unsaved ones.  Returns false if the user cancelled.
   virtual bool CloseAll() = 0;
 };
 
-/// The front-most text buffer.
+/// A text buffer of an editor.
 class IOTAEditBuffer : public virtual IInterface {
  public:
   static constexpr TGuid IID{0x7C3E5B31, 0x24A1, 0x4E0D, {0x9A, 0x11, 0x52, 0x6B, 0x0C, 0x7E, 0x31, 0x21}};
@@ -97,15 +97,15 @@ class IOTAEditorServices : public virtual IInterface {
   virtual IOTAEditBuffer* GetTopBuffer() = 0;
 };
 
-/// Every operation answers whether it succeeded.
+/// All operations return whether they succeeded.
 class IOTAActionServices : public virtual IInterface {
  public:
   static constexpr TGuid IID{0x7C3E5B33, 0x24A1, 0x4E0D, {0x9A, 0x11, 0x52, 0x6B, 0x0C, 0x7E, 0x31, 0x23}};
   virtual bool OpenFile(const std::string& fileName) = 0;
-  /// Opens a project; `newProjectGroup` puts it alone into a new, unsaved group.
+  /// Opens a project; with `newProjectGroup` as the only one of a new, unsaved group.
   virtual bool OpenProject(const std::string& fileName, bool newProjectGroup) = 0;
   virtual bool SaveFile(const std::string& fileName) = 0;
-  /// Shows again what is on disk: contents and read-only state.
+  /// Reloads contents and read-only state from disk.
   virtual bool ReloadFile(const std::string& fileName) = 0;
 };
 

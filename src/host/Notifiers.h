@@ -9,15 +9,15 @@ namespace kestrel {
 
 class IOTAProject;
 
-/// What happened to a file.  The numbers are the host's; a package ignores those it does not know.
+/// What happened to a file.  The host defines the numbers; a package ignores unknown ones.
 enum class TOTAFileNotification : int {
   fnFileOpened = 1,
   fnFileClosing = 2,
   fnActiveProjectChanged = 9,
 };
 
-/// Base of all notifiers.  The host calls BeforeSave/AfterSave around a save of the object it is attached to,
-/// Modified when that object's text changes, and Destroyed last, after which it makes no further call.
+/// Base of all notifiers.  The host calls BeforeSave and AfterSave around each save of the object that the notifier is
+/// attached to, Modified when the object's text changes, and Destroyed last.
 class IOTANotifier : public virtual IInterface {
  public:
   static constexpr TGuid IID{0x7C3E5B10, 0x24A1, 0x4E0D, {0x9A, 0x11, 0x52, 0x6B, 0x0C, 0x7E, 0x31, 0x01}};
@@ -27,7 +27,7 @@ class IOTANotifier : public virtual IInterface {
   virtual void Modified() = 0;
 };
 
-/// A notifier that ignores everything: derive from it and override what matters.
+/// A notifier that ignores all notifications; derived classes override the ones they need.
 class TNotifierObject : public virtual IOTANotifier {
  public:
   void AfterSave() override {}
@@ -41,13 +41,13 @@ class TNotifierObject : public virtual IOTANotifier {
 class IOTAIDENotifier : public virtual IOTANotifier {
  public:
   static constexpr TGuid IID{0x7C3E5B11, 0x24A1, 0x4E0D, {0x9A, 0x11, 0x52, 0x6B, 0x0C, 0x7E, 0x31, 0x02}};
-  /// `fileName` is a full path.  Setting `cancel` stops the operation where the host can still stop it.
+  /// `fileName` is a full path.  Setting `cancel` stops the operation if the host can still stop it.
   virtual void FileNotification(TOTAFileNotification code, const std::string& fileName, bool& cancel) = 0;
   virtual void BeforeCompile(IOTAProject* project, bool& cancel) = 0;
   virtual void AfterCompile(bool succeeded) = 0;
 };
 
-/// Whether a view was added to an editor or taken away from it.
+/// Whether a view was added to an editor or removed from it.
 enum class TOTAOperation : int { opInsert, opRemove };
 
 /// Notifications of one source editor.

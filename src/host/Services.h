@@ -1,4 +1,4 @@
-// The host's services for packages: notifiers, wizards, gallery, application.  CorvaneIDEServices leads to all of them.
+// The host's services for packages: notifiers, wizards, gallery, application.  All are queried from CorvaneIDEServices.
 #pragma once
 
 #include <cstdint>
@@ -12,19 +12,19 @@
 
 namespace kestrel {
 
-/// The native handle of a window: an HWND on Windows, a pointer to the toolkit's window elsewhere; 0 for none.
+/// The native handle of a window: an HWND on Windows, a pointer to the toolkit's native window elsewhere; 0 for none.
 using TWindowHandle = std::uintptr_t;
 
 /// General services.
 class IOTAServices : public virtual IInterface {
  public:
   static constexpr TGuid IID{0x33B33186, 0x3CEC, 0x4624, {0x97, 0x0E, 0x41, 0x7A, 0x8F, 0xE1, 0x40, 0x89}};
-  /// Returns the index that RemoveNotifier takes.  The host keeps its share of the notifier until then.
+  /// Returns the index for RemoveNotifier().  The host shares ownership of the notifier until then.
   virtual int AddNotifier(std::shared_ptr<IOTAIDENotifier> notifier) = 0;
   virtual void RemoveNotifier(int index) = 0;
-  /// The window that parents dialogs.
+  /// The parent window for dialogs.
   virtual TWindowHandle GetParentHandle() = 0;
-  /// The directory the IDE was started to work in; never empty, no trailing delimiter.
+  /// The IDE's working directory at start-up; never empty, without a trailing delimiter.
   virtual std::string GetStartupDirectory() = 0;
 };
 
@@ -39,7 +39,7 @@ class IOTAGalleryCategory : public virtual IInterface {
 class IOTAGalleryCategoryManager : public virtual IInterface {
  public:
   static constexpr TGuid IID{0x7C3E5B61, 0x24A1, 0x4E0D, {0x9A, 0x11, 0x52, 0x6B, 0x0C, 0x7E, 0x31, 0x51}};
-  /// The category of that name, e.g. "Corvane.Osprey.Other"; nullptr when the host has none.
+  /// The category of that name, e.g. "Corvane.Osprey.Other"; null if the host has none.
   virtual IOTAGalleryCategory* FindCategory(const std::string& idString) = 0;
 };
 
@@ -55,7 +55,7 @@ class IOTAWizard : public virtual IOTANotifier {
   virtual std::string GetAuthor() = 0;
   virtual std::string GetComment() = 0;
   virtual std::string GetPage() = 0;
-  /// The wizard's picture as an SVG document of 32 by 32 units.
+  /// The wizard's icon as an SVG document of 32 by 32 units.
   virtual std::string GetGlyph() = 0;
   virtual std::string GetDesigner() = 0;
   virtual IOTAGalleryCategory* GetGalleryCategory() = 0;
@@ -65,7 +65,7 @@ class IOTAWizard : public virtual IOTANotifier {
 class IOTAWizardServices : public virtual IInterface {
  public:
   static constexpr TGuid IID{0xB75C0CE3, 0xEEA6, 0x11D1, {0x95, 0x04, 0x00, 0x60, 0x8C, 0xCB, 0xF1, 0x53}};
-  /// Returns the index that RemoveWizard takes.  The host owns the wizard: RemoveWizard destroys it.
+  /// Returns the index for RemoveWizard(), which releases the host's share of the wizard.
   virtual int AddWizard(std::shared_ptr<IOTAWizard> wizard) = 0;
   virtual void RemoveWizard(int index) = 0;
 };
@@ -74,23 +74,23 @@ class IOTAWizardServices : public virtual IInterface {
 class IOTAApplication : public virtual IInterface {
  public:
   static constexpr TGuid IID{0x7C3E5B62, 0x24A1, 0x4E0D, {0x9A, 0x11, 0x52, 0x6B, 0x0C, 0x7E, 0x31, 0x52}};
-  /// Fires each time a main form has been created.  Packages are loaded before the first one is.
+  /// Fires after each creation of a main form.  Packages are loaded before the first one is created.
   virtual TEvent<>& MainFormCreated() = 0;
-  /// Opens the help topic of a keyword.  False when there is no help for it.
+  /// Opens the help topic for a keyword.  Returns false if there is none.
   virtual bool HelpKeyword(const std::string& keyword) = 0;
 };
 
-/// The one way into the host.  Set by the host before it loads a package and cleared after the last is unloaded.
+/// The entry point to the host.  The host sets it before it loads a package and clears it after it unloaded the last one.
 extern IInterface* CorvaneIDEServices;
 
-/// The host's service T, or nullptr when there is no host or it has no such service.
+/// The host's service T, or null if there is no host or it has no such service.
 template <class T>
 T* IdeService() {
   return Supports<T>(CorvaneIDEServices);
 }
 
-/// Exported by every run-time package with C linkage.  The host calls Initialize once after loading the library, then
-/// IDERegister, and Finalize once before unloading it.
+/// Entry points that every run-time package exports with C linkage.  The host calls Initialize once after loading the
+/// library, then IDERegister, and Finalize once before unloading it.
 using TPackageEntry = void (*)();
 inline constexpr const char* kPackageInitialize = "Initialize";
 inline constexpr const char* kPackageRegister = "IDERegister";

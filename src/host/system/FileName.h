@@ -1,5 +1,4 @@
-// File names where the standard library's file system is at work: its paths begin and end as this system's text, UTF-8,
-// on every platform.
+// Conversions between UTF-8 strings and std::filesystem::path.
 #pragma once
 
 #include <filesystem>

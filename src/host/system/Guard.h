@@ -1,22 +1,22 @@
-// Calls into other people's code that must not take the program along.
+// Calls into foreign code whose crash must not end the program.
 #pragma once
 
 #include <string>
 
 namespace kestrel {
 
-/// Calls body(data).  A C++ exception comes out as ever.  A fault that the system raises instead - an access violation,
-/// a division by zero, the exception of another compiler's or language's run-time - ends the call, and its name is the
-/// result; empty after a call that returned.  What lies between the fault and this call is skipped, not unwound: call
-/// nothing but the foreign code in `body`.
+/// Calls body(data) inside a frame for structured exceptions (Windows).  C++ exceptions propagate unchanged.  A structured
+/// exception, such as an access violation, a division by zero or the exception of another language's runtime, ends the
+/// call; its name is returned.  Returns an empty string if the call returned.  Frames between the fault and this call are
+/// not unwound, so `body` must contain nothing but the foreign call.
 ///
-/// Breakpoints are left to the debugger.  Faults of other threads, and what ends the process at once (abort), cannot be
-/// stopped.  On POSIX no fault can: it is a signal there, and going on behind one is undefined.
+/// Breakpoints are left to the debugger.  Faults in other threads and abort() cannot be caught.  On POSIX faults are
+/// signals and are not caught at all, because execution cannot continue after one.
 ///
-/// Not for LoadModule and UnloadModule: the system's loader stops what a library's own start raises, and unlocks itself.
+/// Do not wrap LoadModule or UnloadModule: the system's loader handles faults in a library's initialization itself.
 std::string CallWithSehFrame(void (*body)(void* data), void* data);
 
-/// The same with a function object that takes nothing.
+/// Overload for a function object without parameters.
 template <class Body>
 std::string CallWithSehFrame(Body body) {
   return CallWithSehFrame([](void* data) { (*static_cast<Body*>(data))(); }, &body);

@@ -13,7 +13,7 @@ namespace {
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 constexpr std::string_view kBlanks = " \t";
 constexpr std::string_view kHexDigits = "0123456789ABCDEF";
-/// What divides a name from the rest of its line.
+/// The characters that end a name.
 constexpr std::string_view kReservedInNames = "=]";
 
 bool Contains(std::string_view set, char c) { return set.find(c) != set.npos; }
@@ -25,20 +25,20 @@ std::string_view WithoutBlanks(std::string_view text) {
                             : text.substr(begin, text.find_last_not_of(kBlanks) - begin + 1);
 }
 
-/// The line that `text` begins with, its end included.  "\r" alone ends a line, too: other readers take it for an end.
+/// The first line of `text`, including its ending.  A lone "\r" ends a line as well, as it does for other readers.
 std::string_view FirstLine(std::string_view text) {
   const auto end = text.find_first_of("\r\n");
   if (end == text.npos) return text;
   return text.substr(0, end + (text.substr(end).starts_with("\r\n") ? 2 : 1));
 }
 
-std::string_view WithoutEnd(std::string_view line) {
+std::string_view WithoutLineEnd(std::string_view line) {
   return line.substr(0, std::min(line.find_first_of("\r\n"), line.size()));
 }
 
 // ------------------------------------------------------------------------------------------------- escapes
 
-/// The character that the escape at the beginning of `text` stands for.
+/// Decodes the escape at the beginning of `text`, if there is one.
 std::optional<char> EscapeAt(std::string_view text) {
   if (text.size() < 3 || text[0] != '%') return std::nullopt;
   const auto high = kHexDigits.find(text[1]);
@@ -59,19 +59,20 @@ std::string Escape(std::string_view text) {
   return escaped;
 }
 
-template <typename TTaken>
-std::string Unescape(std::string_view text, const TTaken& isTaken) {
+/// Decodes the escapes for which isEscape(character, offset) returns true.
+template <typename TIsEscape>
+std::string Unescape(std::string_view text, const TIsEscape& isEscape) {
   std::string plain;
   for (std::size_t at = 0; at < text.size();) {
     const auto c = EscapeAt(text.substr(at));
-    const bool taken = c && isTaken(*c, at);
-    plain += taken ? *c : text[at];
-    at += taken ? 3 : 1;
+    const bool decode = c && isEscape(*c, at);
+    plain += decode ? *c : text[at];
+    at += decode ? 3 : 1;
   }
   return plain;
 }
 
-/// Of a text without the mark %"...", as earlier versions wrote it.
+/// Decodes text that earlier versions escaped without the mark %"...".
 std::string UnescapeUnmarked(std::string_view text, std::string_view reserved) {
   return Unescape(text, [&](char c, std::size_t at) {
     const bool atAnEnd = at == 0 || at + 3 == text.size();
@@ -83,14 +84,14 @@ bool IsQuoted(std::string_view text) {
   return text.size() >= 2 && text.front() == text.back() && Contains("\"'", text.front());
 }
 
-/// Where the name in a section line ends; it begins behind "[".  A "]" in the middle of a word belongs to the name.
+/// The offset of the "]" that ends the name in a section line.  A "]" inside a word belongs to the name.
 std::size_t SectionNameEnd(std::string_view line) {
   for (auto end = line.find(']'); end != line.npos; end = line.find(']', end + 1))
     if (end + 1 == line.size() || Contains(kBlanks, line[end + 1])) return end;
   return line.find(']');
 }
 
-/// How `text` is written; `readsBack` says whether it is what is read from a way to write it.
+/// Encodes `text` in the first form for which readsBack(form) returns true, that is, which decodes to `text` again.
 template <typename TReadsBack>
 std::string Encode(std::string_view text, const TReadsBack& readsBack) {
   const std::string plain(text);
@@ -108,7 +109,7 @@ TIniText::TIniText(std::string_view text, TPercent percent) : percent_(percent),
   byteOrderMark_ = text.starts_with(kByteOrderMark);
   if (byteOrderMark_) text.remove_prefix(kByteOrderMark.size());
   const auto first = FirstLine(text);
-  lineEnd_ = first.substr(WithoutEnd(first).size());
+  lineEnd_ = first.substr(WithoutLineEnd(first).size());
   if (lineEnd_.empty()) lineEnd_ = LineEnd;
   while (!text.empty()) {
     const auto line = FirstLine(text);
@@ -119,7 +120,7 @@ TIniText::TIniText(std::string_view text, TPercent percent) : percent_(percent),
 
 TIniText::TLine TIniText::Parse(std::string_view raw) const {
   TLine line{.Raw = std::string(raw), .Name = {}};
-  const auto text = WithoutBlanks(WithoutEnd(raw));
+  const auto text = WithoutBlanks(WithoutLineEnd(raw));
   if (text.empty()) return line;
   if (Contains(";#", text.front())) {
     line.Kind = TKind::Comment;
@@ -133,7 +134,7 @@ TIniText::TLine TIniText::Parse(std::string_view raw) const {
     line.Kind = sign == 0 || sign == text.npos ? TKind::Damaged : TKind::Key;
     if (line.Kind == TKind::Damaged) return line;
     line.Name = Decode(WithoutBlanks(text.substr(0, sign)), kReservedInNames);
-    const auto content = WithoutEnd(raw);
+    const auto content = WithoutLineEnd(raw);
     const auto value = WithoutBlanks(content.substr(content.find('=') + 1));
     line.ValueAt = static_cast<std::size_t>(value.data() - raw.data());
     line.ValueSize = value.size();
@@ -151,9 +152,9 @@ void TIniText::Append(TLine line) {
   lines_.push_back(std::move(line));
 }
 
-/// Before another one follows: the last line of a text may have no end.
+/// Adds the line ending that the last line of a text may lack.
 void TIniText::EndLine(TLine& line) const {
-  if (WithoutEnd(line.Raw).size() == line.Raw.size()) line.Raw += lineEnd_;
+  if (WithoutLineEnd(line.Raw).size() == line.Raw.size()) line.Raw += lineEnd_;
 }
 
 std::string TIniText::Text() const {
@@ -264,7 +265,7 @@ void TIniText::Insert(std::size_t at, std::vector<TLine> lines) {
                 std::move_iterator(lines.end()));
 }
 
-/// Where a new key of the section goes: behind its last key or, without one, its section line.
+/// The insertion point for a new key of the section: after its last key or, without keys, after its section line.
 std::size_t TIniText::EndOf(std::size_t section) const {
   const auto belongs = [&](TKind kind) {
     return [section, kind](const TLine& line) { return line.Kind == kind && line.Section == section; };
@@ -276,7 +277,7 @@ std::size_t TIniText::EndOf(std::size_t section) const {
   return 0;
 }
 
-/// The section's index; one that is missing comes into being at the end of the text, behind an empty line.
+/// The section's number.  Appends a missing section to the text, after an empty line.
 std::size_t TIniText::FindOrAppend(std::string_view section) {
   const auto known = Find(section);
   if (known == kRoot || HasSection(section)) return known;
@@ -341,7 +342,7 @@ bool TIniText::DeleteSection(std::string_view section) {
     for (auto next = end; next != lines_.end() && next->Section == index && next->Kind != TKind::Section;
          ++next)
       if (next->Kind == TKind::Key) end = std::next(next);
-    // The empty line before it came with it.
+    // FindOrAppend() put an empty line before it.
     if (begin != lines_.begin() && std::prev(begin)->Kind == TKind::Blank) --begin;
     lines_.erase(begin, end);
   }

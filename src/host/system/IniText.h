@@ -1,16 +1,16 @@
-// INI text that is changed in place: what was read is written back byte for byte, except for the keys that changed.
+// INI text that is edited in place: everything except the changed keys is written back byte for byte.
 //
 //   ; a comment
 //   [Section]
 //   Key=value
 //
-// How a text is written, names of sections and keys included: as it stands, if it reads back as itself; otherwise in
-// double quotes; and where that does not help either, as in a text with line breaks, in %"...", in which '%', '=', ']' and
-// control characters stand as %XX (two upper-case hexadecimal digits).  Blanks around a text do not belong to it, and one
-// pair of quotes, double or single, is taken off, as Windows' own functions for such files do.
+// Values and the names of sections and keys are written literally if they can be read back that way, otherwise in double
+// quotes.  Text for which neither works, such as text with line breaks, is written as %"...", where '%', '=', ']' and control
+// characters are escaped as %XX (two upper-case hexadecimal digits).  On reading, surrounding blanks and one pair of double
+// or single quotes are removed, as the Windows functions for such files do.
 //
-// A damaged line is one that is neither blank, comment, section nor key and value.  It is kept and means nothing; keys
-// below a section line without its "]" belong to no section.
+// A damaged line is neither blank nor a comment, section or key with value.  It is kept and ignored.  Keys after a section
+// line without "]" belong to no section.
 #pragma once
 
 #include <cstddef>
@@ -22,39 +22,39 @@
 
 namespace kestrel {
 
-/// Sections and keys compare ignoring case.  Sections of one name are one section, and the first of equal keys holds.
-/// The section "" holds what stands before the first section line.
+/// Sections and keys compare ignoring case.  Sections of the same name are merged; the first of equal keys counts.  The
+/// section "" contains the keys before the first section line.
 class TIniText {
  public:
-  /// What %XX means outside of %"...": nothing special, or what it stands for, as earlier versions of this program wrote
-  /// control characters, percent signs and blanks at the ends of a text.
+  /// Whether %XX outside of %"..." is an escape.  Earlier versions of this program wrote control characters, percent signs
+  /// and surrounding blanks that way.
   enum class TPercent { Literal, Escape };
   struct TDamage {
     std::size_t Line;  ///< counted from 1
-    std::string Text;  ///< without blanks around it
+    std::string Text;  ///< trimmed
   };
 
   explicit TIniText(std::string_view text = {}, TPercent percent = TPercent::Literal);
-  /// False for contents that must not be taken for INI text, and so not be written again: they hold a NUL.
+  /// Returns false for binary contents (with a NUL), which must not be parsed and written back.
   static bool IsText(std::string_view contents) { return contents.find('\0') == contents.npos; }
 
-  /// In the order of the text, each once, without "".
+  /// The distinct section names in text order, without "".
   std::vector<std::string> Sections() const;
   bool HasSection(std::string_view section) const;
-  /// In the order of the text, equal ones once.
+  /// The distinct keys of a section in text order.
   std::vector<std::string> Keys(std::string_view section) const;
   std::optional<std::string> Value(std::string_view section, std::string_view key) const;
-  /// The values of all keys of that name.
+  /// The values of all keys with that name.
   std::vector<std::string> Values(std::string_view section, std::string_view key) const;
   /// The first damaged line.
   std::optional<TDamage> Damage() const;
 
-  // These answer whether they changed anything.
+  // These return whether they changed anything.
   bool SetValue(std::string_view section, std::string_view key, std::string_view value);
-  /// Makes `values` the values of all keys of that name.  Lines of values that stay where they are stay as they are.
+  /// Replaces the values of all keys with that name.  The line of a value that keeps its position is not rewritten.
   bool SetValues(std::string_view section, std::string_view key, const std::vector<std::string>& values);
   bool DeleteKey(std::string_view section, std::string_view key) { return SetValues(section, key, {}); }
-  /// Deletes the section with its keys; what stands behind its last key stays, as it may belong to the next section.
+  /// Deletes the section with its keys.  Lines after its last key stay, because they may belong to the next section.
   bool DeleteSection(std::string_view section);
 
   std::string Text() const;
@@ -64,11 +64,11 @@ class TIniText {
   static constexpr std::size_t kRoot = 0;
   static constexpr std::size_t kNone = static_cast<std::size_t>(-1);
   struct TLine {
-    std::string Raw;  ///< with its end
+    std::string Raw;  ///< with its line ending
     TKind Kind = TKind::Blank;
-    std::size_t Section = kRoot;  ///< its number in sections_; kNone below a damaged section line
+    std::size_t Section = kRoot;  ///< its number in sections_; kNone after a damaged section line
     std::string Name;             ///< of a section or key
-    std::size_t ValueAt = 0;      ///< in Raw
+    std::size_t ValueAt = 0;      ///< offset in Raw
     std::size_t ValueSize = 0;
   };
 
@@ -91,7 +91,7 @@ class TIniText {
   bool byteOrderMark_ = false;
   std::string lineEnd_;
   std::vector<TLine> lines_;
-  std::map<std::string, std::size_t> sections_;  ///< numbers by folded name; deleted ones stay
+  std::map<std::string, std::size_t> sections_;  ///< numbers by folded name; entries of deleted sections stay
 };
 
 }  // namespace kestrel

@@ -1,27 +1,27 @@
-// Loading shared libraries.  Only the host library talks to the platform's loader.
+// Loading of shared libraries.
 #pragma once
 
 #include <string>
 
 namespace kestrel {
 
-/// A loaded library; nullptr is none.
+/// A loaded library; null for none.
 using TModuleHandle = void*;
 
-/// Where a library's own dependencies are searched for on Windows; elsewhere the loader has rules of its own.  Never in
-/// the current directory or the program's, where anybody could put something of the same name.
+/// Where Windows searches the dependencies of a library; ignored on POSIX.  The current directory and the program's are
+/// never searched, because anybody could put a library of that name there.
 enum class TDependencySearch {
-  OwnFolder,     ///< in the library's folder and the system's
-  OwnFolderPath  ///< there, and in the folders that PATH names
+  OwnFolder,     ///< the library's folder and the system's
+  OwnFolderPath  ///< these, then the folders in PATH
 };
 
-/// Loads a library by its absolute path.  nullptr when the path is relative or nothing loadable; then `error` (may be
-/// nullptr) receives the loader's own words.
+/// Loads a library by its absolute path.  Returns null if the path is relative or the library cannot be loaded; `error`
+/// (may be null) then receives the loader's message.
 TModuleHandle LoadModule(const std::string& path, std::string* error = nullptr,
                          TDependencySearch search = TDependencySearch::OwnFolder);
-/// The address of an exported name, or nullptr.
+/// The address of an exported symbol, or null.
 void* FindSymbol(TModuleHandle module, const char* name);
-/// Releases one LoadModule.  nullptr is allowed.
+/// Releases a library once.  Null is allowed.
 void UnloadModule(TModuleHandle module);
 
 }  // namespace kestrel

@@ -1,7 +1,7 @@
-// The registry: the real one on Windows, a store of the same keys and values elsewhere.
+// The registry: the system's on Windows, INI files with the same keys and values elsewhere.
 //
-// Key paths use backslashes and are relative to a root; keys and value names compare ignoring case; values keep the
-// order in which the registry lists them.
+// Key paths use backslashes and are relative to a root.  Keys and value names compare ignoring case.  Values are listed in
+// the order of the registry.
 #pragma once
 
 #include <memory>
@@ -12,11 +12,10 @@ namespace kestrel {
 
 enum class TRegRoot { LocalMachine, CurrentUser };
 
-/// Where files lie that belong to what is registered for this machine: with the registry's own files; where it has none,
-/// with the program.
+/// The folder for files that belong to registered providers: that of the registry's files, or on Windows the program's.
 std::string RegistryFolder();
 
-/// A cursor on one open key at a time.
+/// A cursor on one open key.
 class TRegistry {
  public:
   explicit TRegistry(TRegRoot root = TRegRoot::LocalMachine);
@@ -24,24 +23,24 @@ class TRegistry {
   TRegistry& operator=(const TRegistry&) = delete;
   ~TRegistry();
 
-  /// Opens a key that exists, for reading; closes the one open before.  False, and no key open, when it is missing.
+  /// Opens an existing key for reading; closes the previous one.  Returns false, with no key open, if it is missing.
   bool OpenKeyReadOnly(const std::string& key);
-  /// Opens a key for writing, creating it at the first write.
+  /// Opens a key for writing; closes the previous one.  The first write creates the key if necessary.
   void OpenKey(const std::string& key);
   void CloseKey();
 
-  /// A string value of the open key; empty when the value or the key is missing.
+  /// A string value of the open key; empty if the value is missing or no key is open.
   std::string ReadString(const std::string& name) const;
   std::vector<std::string> GetValueNames() const;
 
-  // Changes are stored at once and for good, and seen by every other TRegistry, also of other programs.  They throw
-  // std::runtime_error with a readable text when they cannot be stored or no key is open for writing.
+  // Changes are stored immediately and visible to every other TRegistry, also in other processes.  They throw
+  // std::runtime_error with a sentence for the user if they cannot be stored or no key is open for writing.
 
   void WriteString(const std::string& name, const std::string& value);
-  /// False when there was nothing that the user may delete: what the machine's administrator set stays.
+  /// Returns false if there was nothing that the user may delete: values set by the administrator stay.
   bool DeleteValue(const std::string& name);
-  /// Removes a key with its values and everything below it.  Needs no open key.  False when it was not there.  A root
-  /// is refused: std::runtime_error.
+  /// Deletes a key with its values and subkeys; no key need be open.  Returns false if it did not exist.  Throws
+  /// std::runtime_error for a root.
   bool DeleteKey(const std::string& key);
 
  private:

@@ -1,4 +1,4 @@
-// How paths of registry keys are spelled, on every platform.
+// Paths of registry keys, on every platform.
 #pragma once
 
 #include <stdexcept>
@@ -7,7 +7,7 @@
 
 namespace kestrel {
 
-/// The one spelling of a key path: no delimiter at either end, none doubled.  A root is empty.
+/// Removes leading, trailing and repeated delimiters.  A root becomes empty.
 inline std::string CanonicalKey(std::string_view key) {
   std::string canonical;
   for (const char c : key)
@@ -16,7 +16,7 @@ inline std::string CanonicalKey(std::string_view key) {
   return canonical;
 }
 
-/// Throws std::runtime_error: deleting a root would delete what every program keeps there.
+/// Throws std::runtime_error for a root, which holds the keys of all programs and must not be deleted.
 inline void RequireBelowRoot(std::string_view key) {
   if (CanonicalKey(key).empty()) throw std::runtime_error("A root of the registry cannot be deleted.");
 }

@@ -1,4 +1,4 @@
-// What the system asks of the operating system.  Implemented once per platform in posix/ and windows/.
+// Operating system services, implemented in posix/ and windows/.
 #pragma once
 
 #include <cstdint>
@@ -9,25 +9,24 @@
 
 namespace kestrel {
 
-/// What the user typed behind the program's name; `argc` and `argv` are those of main().
+/// The command line arguments without the program's name, as UTF-8; `argc` and `argv` are those of main().
 std::vector<std::string> CommandLineArguments(int argc, char** argv);
 
-/// To be called before anything is printed: the console that the program was started from shows UTF-8 until the
-/// program ends, and is there for a program with windows, too.  Such a program ends with the console from then on, so it
-/// calls this only when it prints.  What goes to the console is seen when it is flushed, at the latest at the program's end;
-/// output to a file or a pipe stays as it is.  Main thread.
+/// Call before the first output.  Makes the console show UTF-8 until the program ends, and on Windows attaches a program
+/// with windows to the console that it was started from.  Such a program then ends when that console is closed, so call
+/// this only if there is output.  Console output is buffered until it is flushed or the program ends; output to a file or
+/// pipe is unaffected.  Main thread only.
 void PrepareConsole();
 
-/// The logged-on user's name.  Empty when it does not fit `bufferSize` characters (not bytes), terminator included.
+/// The logged-on user's name.  Empty if it does not fit `bufferSize` characters (not bytes), terminator included.
 std::string GetUserNameText(std::size_t bufferSize);
-/// The process's current directory.  Empty when it does not fit `bufferSize` characters (not bytes), terminator included.
+/// The process's current directory.  Empty if it does not fit `bufferSize` characters (not bytes), terminator included.
 std::string GetCurrentDirectoryText(std::size_t bufferSize);
 
-/// The folder of the program that runs.
+/// The directory of the running program.
 std::string ProgramFolder();
 
-/// `path` as it is meant from within the current directory, absolute and in normal form (see NormalizePath), without asking the
-/// disk.  Empty when `path` is.
+/// Absolute, lexically normalized form of `path`; does not access the file system.  Empty if `path` is.
 std::string FullPath(const std::string& path);
 
 bool FileExists(const std::string& path);
@@ -36,36 +35,36 @@ bool DirectoryExists(const std::string& path);
 /// One entry of a directory.
 struct TDirectoryEntry {
   std::string_view Name;  ///< without a directory part; valid during the visit
-  bool IsDirectory;       ///< a link to a directory is one too
-  bool IsLink;            ///< leads somewhere else: a symbolic link, a junction
+  bool IsDirectory;       ///< also for a link to a directory
+  bool IsLink;            ///< a symbolic link or junction
 };
-/// Calls `visit` with every entry directly in the directory, hidden and system entries included, but not "." and "..", in
-/// the order of the file system.  A directory that is missing or cannot be read has none.
+/// Calls `visit` for each direct entry of the directory, in the order of the file system.  Includes hidden and system
+/// entries, but not "." and "..".  A missing or unreadable directory has no entries.
 void ForEachEntry(const std::string& directory, const std::function<void(const TDirectoryEntry&)>& visit);
 
-/// File attributes of the SCC world, as far as the system changes them.
+/// The file attributes that the SCC API uses.
 inline constexpr std::uint32_t faReadOnly = 0x01;
 inline constexpr std::uint32_t faArchive = 0x20;
-/// faReadOnly, faArchive or both; 0 for a file that is not there.
+/// faReadOnly, faArchive or both; 0 for a missing file.
 std::uint32_t GetFileAttributesOf(const std::string& path);
-/// Sets exactly `attributes`.  Archive without read-only makes the file writable by its owner.  False when the file
+/// Sets exactly `attributes`.  Archive without read-only makes the file writable by its owner.  Returns false if the file
 /// is missing or may not be changed.
 bool SetFileAttributesOf(const std::string& path, std::uint32_t attributes);
 
-/// The system's beeps (values of the Windows MessageBeep call).
+/// The system's beeps, with the values of the Windows MessageBeep call.
 enum class TBeep : unsigned { Hand = 16, Question = 32, Exclamation = 48, Asterisk = 64 };
-/// Sounds a beep and returns at once.  User-interface thread.  Where the system has no beeps of its own (POSIX), the
-/// host's toolkit sounds them: silent until the host has installed a handler.
+/// Sounds a beep and returns immediately.  On POSIX the handler does that; without one it is silent.  User-interface
+/// thread only.
 void MessageBeep(TBeep kind);
-/// Installs what sounds a beep; an empty function removes it.  User-interface thread.
+/// Sets the handler that sounds beeps (POSIX); an empty function removes it.  User-interface thread only.
 void SetBeepHandler(std::function<void(TBeep)> handler);
 
-/// Writes the whole file, or leaves the old one as it was: temporary file beside it, synced, renamed over it.  Removes
-/// what processes that were killed in the middle left beside it.
-/// Keeps the old file's permissions and writes through symbolic links.  A read-only file is refused.  Throws
-/// std::runtime_error with a sentence that names the file.
+/// Writes a temporary file beside `path`, syncs it and renames it to `path`, so that the file has either its old or its
+/// new contents.  Keeps the permissions of the old file and follows symbolic links.  Also removes stale temporary files
+/// of killed processes from the directory.  Throws std::runtime_error with a sentence that names the file if it is
+/// read-only or cannot be written.
 void WriteFileAtomically(const std::string& path, const std::string& contents);
-/// The whole file.  Throws std::runtime_error with a sentence that names the file when it cannot be read.
+/// The contents of a file.  Throws std::runtime_error with a sentence that names the file if it cannot be read.
 std::string ReadWholeFile(const std::string& path);
 
 }  // namespace kestrel

@@ -1,21 +1,20 @@
-// The files that WriteFileAtomically writes before they take their target's name: ".corvane-PROCESS-NUMBER.tmp".
+// The temporary files of WriteFileAtomically(), named ".corvane-PROCESS-NUMBER.tmp".
 #pragma once
 
 #include <string>
 
 namespace kestrel {
 
-/// A name that this process has not used yet, without a directory.  Short, so that a target whose own name is as long as
-/// names may be can be written too.
+/// A name, without a directory, that this process has not used yet.  It is short, so that a target with a name of the
+/// greatest length can be written as well.
 std::string NewTemporaryName();
-/// Deletes such files of processes that are gone, as a kill leaves them.  Those younger than an hour stay: on a shared disk
-/// their process may run on another machine.  An empty directory is the current one.  Reports no errors.
+/// Deletes temporary files of processes that no longer run.  Files younger than an hour stay, because on a shared disk
+/// their process may run on another machine.  An empty `directory` is the current one.  Ignores errors.
 void RemoveStaleTemporaryFiles(const std::string& directory);
 
-/// Whether a process of this number runs on this machine; true when the system does not tell.  Implemented once per
-/// platform.
+/// Whether a process with this id runs on this machine; true if that cannot be determined.
 bool IsProcessRunning(unsigned long process);
-/// The number of this one.
+/// The id of this process.
 unsigned long CurrentProcess();
 
 }  // namespace kestrel

@@ -1,4 +1,4 @@
-// Text helpers: resource strings, printf-like formatting and case-ignoring comparison.  Text is UTF-8 on every platform.
+// Resource strings, formatting, comparison and code page conversions.  Text is UTF-8 on every platform.
 #pragma once
 
 #include <ctime>
@@ -10,8 +10,8 @@
 
 namespace kestrel {
 
-/// A text shown to the user.  Each unit keeps its own in <Unit>Strings.h, so that a translation finds them there, as
-/// `inline constexpr TResString sName{"..."};` in the namespace of its part.
+/// A text shown to the user.  Each unit defines its own in <Unit>Strings.h as `inline constexpr TResString sName{"..."};`
+/// in the namespace of its part.
 struct TResString {
   const char* Text;
   operator std::string() const { return Text; }
@@ -19,48 +19,47 @@ struct TResString {
   std::string str() const { return Text; }
 };
 
-/// How lines end in the platform's text files.
+/// The line ending of the platform's text files.
 extern const std::string_view LineEnd;
 
-/// One argument of Format.
+/// One argument of Format().
 using TFormatArg = std::variant<std::string, long long>;
 
-/// Replaces %s and %d by the arguments in turn; "%%" is a percent sign.  A placeholder without an argument, or of
-/// another letter, stays as it stands: a text never fails to format.
+/// Replaces %s and %d by the arguments in turn and "%%" by a percent sign.  Never fails: a placeholder without an argument
+/// or with another letter is kept as it is.
 std::string Format(std::string_view format, std::initializer_list<TFormatArg> args);
 
-/// `text` without blanks (spaces, tabs and control characters) at both ends.
+/// Removes spaces, tabs and control characters from both ends.
 std::string Trim(std::string_view text);
 
-/// The text folded for comparison: equal results mean equal texts ignoring case.  Bytes that are not valid UTF-8 compare
-/// as they stand.
+/// Folds case for comparison: results are equal if the texts are equal ignoring case.  Bytes that are not valid UTF-8 are
+/// kept.
 std::string FoldCase(std::string_view text);
 bool SameText(std::string_view a, std::string_view b);
 
-/// At most `bytes` bytes of `text`, cut at a character border.
+/// Truncates to at most `bytes` bytes without splitting a character.
 std::string_view TruncateUtf8(std::string_view text, std::size_t bytes);
 
-/// `text` with every byte that is part of no UTF-8 character replaced by decode(byte run).
+/// Replaces each run of bytes that are not valid UTF-8 by decode(run).
 std::string ReplaceInvalidUtf8(std::string_view text, std::string (*decode)(std::string_view bytes));
 
-// What 8-bit programs of other people take and give: providers.  Their bytes are UTF-8 on POSIX and where Windows runs this
-// program with UTF-8 as its code page; otherwise text of the active code page.
+// Conversions for 8-bit interfaces, that is, for providers.  Their text is in the active code page on Windows, which may be
+// UTF-8, and UTF-8 on POSIX.
 
-/// Nothing when the active code page lacks a character of `text`.
+/// Empty if the active code page lacks a character of `text`.
 std::optional<std::string> ToCodePageExact(std::string_view text);
-/// The same for a text that is only read: what the page lacks becomes a character like it, or a question mark.
+/// For display text: a character that the code page lacks is replaced by a similar one or by a question mark.
 std::string ToCodePageLossy(std::string_view text);
-/// A text that is only read: always UTF-8, and nothing of it missing.  A program that was told to write UTF-8 may still
-/// have texts of its own in it, so bytes that are none are read as the page they most likely come from: that of the
-/// system's locale on Windows, 1252 elsewhere.
+/// Converts provider text for display; never fails, and the result is UTF-8.  Where the code page is UTF-8, invalid bytes
+/// are decoded as the code page of the system's locale (Windows) or as CP-1252 (POSIX).
 std::string FromCodePageLossy(std::string_view text);
-/// A name or path that will go back: ToCodePageExact() of the result is `name` again, or there is no result.  Where the
-/// bytes are to be UTF-8 a name is not touched: a file name may be any bytes, and so may be the result.
+/// Converts a name or path that is passed back later.  Empty unless ToCodePageExact() of the result is `name` again.  Where
+/// the code page is UTF-8 the bytes are returned unchanged, valid or not.
 std::optional<std::string> FromCodePageExact(std::string_view name);
-/// At most `bytes` bytes of such a text, cut at a character border.
+/// Truncates text in the active code page to at most `bytes` bytes without splitting a character.
 std::string_view TruncateInCodePage(std::string_view text, std::size_t bytes);
 
-/// A moment in the locale's default date and time format.
+/// A point in time in the locale's default date and time format.
 std::string DateTimeToStr(std::time_t when);
 
 }  // namespace kestrel

@@ -1,4 +1,4 @@
-// The one crossing between the system's 8-bit text and the toolkit's strings.
+// Conversions between UTF-8 strings and the toolkit's strings.
 #pragma once
 
 #include <wx/string.h>
@@ -7,8 +7,8 @@
 
 namespace kestrel {
 
-/// `text` for display.  Bytes that are not valid UTF-8 (a provider's message, an old file name) are read as Latin-1, so
-/// that the user sees them rather than nothing.
+/// Text that is not valid UTF-8, such as an old file name, is decoded as Latin-1, because the toolkit would return an empty
+/// string.
 inline wxString ToWx(const std::string& text) {
   auto result = wxString::FromUTF8(text.data(), text.size());
   return result.empty() && !text.empty() ? wxString(text.data(), wxConvISO8859_1, text.size()) : result;

@@ -1,4 +1,4 @@
-// Waiting in a call while windows stay painted.  User-interface thread only.
+// Painting windows during a long call.  User-interface thread only.
 #pragma once
 
 #include <wx/event.h>
@@ -7,7 +7,7 @@
 
 namespace kestrel {
 
-/// Vetoes the closing of windows for its lifetime: a window would go with the call that is on the stack.
+/// Scoped: vetoes every close request, because closing a window could destroy objects that the call on the stack uses.
 class TNoClosing final : private wxEventFilter {
  public:
   TNoClosing() { wxEvtHandler::AddFilter(this); }
@@ -25,7 +25,7 @@ class TNoClosing final : private wxEventFilter {
   }
 };
 
-/// Lets windows appear and paint.  Keys and clicks stay queued.
+/// Dispatches pending paint events.  Keyboard and mouse input stays queued.
 inline void PaintPending() {
   auto* loop = wxEventLoopBase::GetActive();
   if (loop && !loop->IsYielding()) loop->YieldFor(wxEVT_CATEGORY_UI);
