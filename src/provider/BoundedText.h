@@ -1,4 +1,4 @@
-// A text of limited size, as the fields that travel to a provider and back are.
+// Text limited by the size of a provider's buffer.
 #pragma once
 
 #include <cstddef>
@@ -7,21 +7,20 @@
 
 namespace kestrel::addin {
 
-/// Stands for a character buffer of `size` bytes, terminator included, in a provider: the bytes are counted there, in
-/// the system's code page, and Str() gives UTF-8.
+/// UTF-8 text for a provider's buffer of `size` bytes, terminator included.  Bytes are counted in the active code page.
 class TBoundedText {
  public:
   explicit TBoundedText(std::size_t size) : size_(size) {}
 
   std::size_t Size() const { return size_; }
   const std::string& Str() const { return text_; }
-  /// Takes what a buffer would; a NUL inside `text` ends it.
+  /// Sets the text up to its first NUL, truncated to the buffer.
   void Set(std::string_view text);
-  /// Takes all of it, up to a NUL.
+  /// Sets the text up to its first NUL.
   void SetUntruncated(std::string_view text);
-  /// What a buffer holds of it: what fits with its terminator, cut at a character border.
+  /// The text truncated to the buffer, without splitting a character.
   std::string Truncated() const;
-  /// Whether a buffer holds all of it.  Text that the code page lacks does, too: it is refused for that.
+  /// Whether the text fits the buffer.  True for text that the code page lacks, which is rejected for that reason later.
   bool Fits() const;
 
  private:

@@ -7,8 +7,7 @@
 namespace kestrel::addin {
 
 namespace {
-/// The path of a provider's library, spelled as programs that look for the default provider spell it; the registry does
-/// not mind.
+// Differs from kServerPath in case, as in other programs; the registry ignores case.
 constexpr const char* kDefaultServerPath = "SCCServerPath";
 }  // namespace
 
@@ -19,7 +18,7 @@ bool SCCProviderInstalled() {
 
 void GetDefaultProvider(std::string& name, std::string& path) {
   TRegistry registry;
-  // No opening is checked: what is missing reads as the empty text, and so does everything behind it.
+  // Failures are not checked: a missing key reads as an empty string.
   registry.OpenKeyReadOnly(kProviderKey);
   const std::string providerKey = registry.ReadString(kProviderRegKey);
   registry.OpenKeyReadOnly(providerKey);

@@ -20,26 +20,26 @@ bool calling = false;
 
 constexpr char kCanaryByte = '\x5A';
 
-/// Lines that a provider's own threads have written, until the user-interface thread shows them.
+/// Lines written by a provider's threads that the user-interface thread has not shown yet.
 struct TWaitingLines {
   struct TLine {
     TSeverity Severity;
     std::string Text;
   };
-  std::mutex Lock;  // of all that follows
+  std::mutex Lock;  // for all following members
   std::vector<TLine> Lines;
   std::function<void()> Wake;
   std::thread::id UserInterface;
 };
 TWaitingLines waiting;
 
-/// A text of the provider's as it is shown.
+/// A provider's text, converted for display.
 std::string ShownText(std::string_view text) {
   if (text.size() <= kMaxTextLine) return FromCodePageLossy(text);
   return FromCodePageLossy(TruncateInCodePage(text, kMaxTextLine)) + sLineCutMark.str();
 }
 
-/// Keeps the line when this is another thread than the one that shows lines.
+/// Queues the line if this is not the user-interface thread.  Returns whether it was queued.
 bool QueueLine(TSeverity severity, std::string_view text) {
   const std::lock_guard lock(waiting.Lock);
   const auto shows = waiting.UserInterface;
@@ -118,11 +118,11 @@ void ReportOverrun(const char* entry, TOverrun overrun) noexcept {
 scc::Long SCC_CALL TextOutProc(const char* text, scc::Dword kind) noexcept try {
   const auto severity = SeverityOf(kind);
   if (!text || !severity) return scc::SCC_MSG_RTN_OK;
-  // Providers end their lines as if they wrote to a console; the message window has lines of its own.
+  // Providers may end lines as on a console; the message window does not need that.
   std::string_view line = text;
   line.remove_suffix(line.size() - (line.find_last_not_of("\r\n") + 1));
   if (QueueLine(*severity, line)) return scc::SCC_MSG_RTN_OK;
-  ShowProviderLines();  // what came first stands first
+  ShowProviderLines();  // keeps the order
   WriteProviderLine(*severity, ShownText(line));
   return scc::SCC_MSG_RTN_OK;
 } catch (...) {
@@ -133,7 +133,7 @@ TScratchBuffer::TScratchBuffer(const char* entry, std::string_view text)
     : entry_(entry), given_(ForProvider(UpToNul(text))), bytes_(kRoom + kCanarySize, '\0') {
   given_.resize(TruncateInCodePage(given_, kRoom - 1).size());
   std::ranges::copy(given_, bytes_.begin());
-  // The last byte stays a terminator: who reads on after filling the room stops there.
+  // The last byte stays 0, in case the provider fills the room and then reads the text.
   std::fill(bytes_.begin() + kRoom, bytes_.end() - 1, kCanaryByte);
 }
 
@@ -149,7 +149,7 @@ std::string_view TScratchBuffer::Text() const { return UpToNul({bytes_.data(), k
 std::string TScratchBuffer::TextFor(const TBoundedText& field) const {
   const auto whole = Text();
   if (whole == given_) return field.Str();
-  // A provider may leave out the terminator, so all bytes of a field count.
+  // A provider may omit the terminator, so all bytes of the field can hold text.
   const auto fitting = TruncateInCodePage(whole, field.Size());
   const auto name = FromCodePageExact(fitting);
   if (!name) throw EAbort(Format(sNotFromCodePage.str(), {providerName, FromCodePageLossy(fitting), entry_}));
@@ -182,11 +182,11 @@ const TBoundedText& RequireFits(const TBoundedText& path) {
   return path;
 }
 
-bool AppendPopulatedName(const char* name, TStringList& taken) noexcept try {
-  if (taken.size() >= kMaxPopulated) return false;
+bool AppendPopulatedName(const char* name, TStringList& names) noexcept try {
+  if (names.size() >= kMaxPopulated) return false;
   if (name == nullptr || *name == '\0') return true;
   if (auto known = FromCodePageExact(name))
-    taken.push_back(*std::move(known));
+    names.push_back(*std::move(known));
   else
     WriteProviderLine(TSeverity::Warning, Format(sNotFromCodePage.str(),
                                                  {providerName, FromCodePageLossy(name), "SccPopulateList"}));
@@ -202,7 +202,7 @@ TFileArray::TFileArray(const TStringList& files) {
     starts.push_back(texts_.size());
     texts_.append(ForProvider(name)) += '\0';
   }
-  // Only now the texts have found their place.
+  // `texts_` no longer reallocates; pointers into it are stable from here on.
   names_.reserve(files.size() + 1);
   for (const std::size_t start : starts) names_.push_back(texts_.data() + start);
   names_.push_back(nullptr);
@@ -228,7 +228,7 @@ std::string CurrentFault() {
   } catch (const EAbort& error) {
     return error.what();
   } catch (const std::exception& error) {
-    // A provider's own words are the system's text.
+    // Messages of a provider's exceptions are in the code page.
     if (error.what() != nullptr && *error.what() != '\0') return ShownText(error.what());
   } catch (...) {
   }

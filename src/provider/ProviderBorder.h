@@ -1,5 +1,4 @@
-// What a call needs on its way to a provider and back.  Everything that crosses is handed over as a copy, and whatever
-// the provider does with it stays in that copy.
+// Helpers for calling a provider.  All arguments are passed as copies, so that a provider can damage nothing else.
 #pragma once
 
 #include <array>
@@ -18,30 +17,29 @@
 
 namespace kestrel::addin {
 
-/// The name that lines about the provider carry.
+/// Sets the name used in messages about the provider.
 void SetProviderName(const std::string& name);
-/// The installed sink, or nullptr.
+/// The current sink, or null.
 IProviderSink* ProviderSink();
-/// Sends a line to the sink, if there is one.  A sink that fails has nowhere else to report it.
+/// Sends a line to the sink, if there is one.  Ignores exceptions of the sink.
 void WriteProviderLine(TSeverity severity, const std::string& text) noexcept;
-/// Warns that the provider wrote behind a buffer handed to `entry`, if it did.
+/// Writes a warning that the provider wrote past a buffer passed to `entry`, unless `overrun` is None.
 void ReportOverrun(const char* entry, TOverrun overrun) noexcept;
-/// The most bytes of one line of a provider's that are shown.  More is cut, with a mark: no window is made for a line of
-/// megabytes.
+/// Maximum length in bytes of a provider's line.  Longer ones are truncated and marked.
 inline constexpr std::size_t kMaxTextLine = 4096;
 
-/// The text as providers read it.  Throws EAbort, naming it, when the active code page lacks a character of it: with
-/// another one in its place a provider would work on another file.
+/// Converts to the code page of providers.  Throws EAbort, naming the text, if a character is missing there: with a
+/// substitute the provider would work on another file.
 std::string ForProvider(std::string_view text);
 
-/// An in/out text on its way through a provider.  The room is far larger than any field, zeroed, and followed by guard
-/// bytes; damage to them is reported when the object goes.
+/// Buffer for an in/out text.  It is much larger than any field, zeroed, and followed by a canary; the destructor reports
+/// a damaged canary.
 class TScratchBuffer {
  public:
   static constexpr std::size_t kRoom = 4096;
   static constexpr std::size_t kCanarySize = 1024;
 
-  /// `entry` names the entry point in the report and outlives the object.
+  /// `entry`, the entry point's name for reports, is borrowed.
   TScratchBuffer(const char* entry, std::string_view text);
   TScratchBuffer(const char* entry, const TBoundedText& field) : TScratchBuffer(entry, field.Str()) {}
   ~TScratchBuffer();
@@ -49,10 +47,10 @@ class TScratchBuffer {
   TScratchBuffer& operator=(const TScratchBuffer&) = delete;
 
   char* Data() { return bytes_.data(); }
-  /// What stands there now, up to the terminator or the end of the room.
+  /// The text up to the terminator or the end of the room, in the code page.
   std::string_view Text() const;
-  /// What the field has to hold now: its own text, when the provider left that as it was.  Warns when the provider's was
-  /// longer than the field.  Throws EAbort when it cannot be given back as it came (see FromCodePageExact).
+  /// The new text for the field: unchanged if the provider left it unchanged, otherwise truncated to the field with a
+  /// warning.  Throws EAbort if it cannot be passed back later (see FromCodePageExact).
   std::string TextFor(const TBoundedText& field) const;
 
  private:
@@ -61,13 +59,13 @@ class TScratchBuffer {
   std::vector<char> bytes_;
 };
 
-/// A word that a provider fills.  Providers built where `long` has 64 bits write eight bytes: the spare word takes them.
+/// A 32-bit out parameter.  Providers that were built with a 64-bit `long` write eight bytes, hence the spare word.
 struct TOutParam32 {
   alignas(std::int64_t) scc::Long Value = 0;
   scc::Long Spare = 0;
 };
 
-/// The file names of one call as the API wants them: an array of pointers to copies, a null pointer behind the last.
+/// The file names of one call: a null-terminated array of pointers to copies.
 class TFileArray {
  public:
   explicit TFileArray(const TStringList& files);
@@ -78,30 +76,30 @@ class TFileArray {
   const char** Data() { return names_.data(); }
 
  private:
-  std::string texts_;  // all copies one behind the other
+  std::string texts_;  // all copies, each with its terminator
   std::vector<const char*> names_;
 };
 
-/// The path; throws EAbort, naming it, when it is too long for a provider: cut it would be another folder's.
+/// Returns `path`.  Throws EAbort, naming it, if it is too long for a provider: truncated it would name another directory.
 const TBoundedText& RequireFits(const TBoundedText& path);
 
-/// A comment as it may reach a provider: at most kMaxComment bytes, cut at a character border.
+/// A comment for a provider: at most kMaxComment bytes, truncated without splitting a character.
 class TProviderComment {
  public:
-  /// Throws EAbort as ForProvider does: what the user typed is not changed.
+  /// Throws EAbort like ForProvider(): a typed comment is never altered.
   explicit TProviderComment(std::string_view typed);
-  /// The date, put into `otherwise`, when nothing was typed.  In its words the active code page may lack characters: the
-  /// user's locale need not be the system's.
+  /// If nothing was typed, the text is `otherwise` formatted with the date, converted lossily: the date is in the user's
+  /// locale, which the code page need not support.
   TProviderComment(std::string_view typed, const TResString& otherwise);
   const char* Data() const { return bytes_.data(); }
 
  private:
   void Set(std::string_view text);
 
-  std::array<char, kMaxComment + 1> bytes_{};  // zeros behind the text: a provider may copy all of it
+  std::array<char, kMaxComment + 1> bytes_{};  // zeroed, because a provider may copy all of it
 };
 
-/// How a call ended: the provider's code, or the text of the exception or fault that it let out.
+/// Result of a call: the provider's code, or the text of an exception or fault.
 struct TAnswer {
   scc::Long Code = scc::SCC_E_NONSPECIFICERROR;
   std::string Fault;
@@ -110,13 +108,13 @@ struct TAnswer {
 /// The text of the exception being handled; never empty.
 std::string CurrentFault();
 
-/// Throws EAbort with `message` when there are no files.
+/// Throws EAbort with `message` if there are no files.
 void RequireFiles(const TStringList& files, const TResString& message);
-/// Throws EAbort when one request cannot carry that many.
+/// Throws EAbort for more than kMaxFiles files.
 void RequireAtMostMaxFiles(const TStringList& files);
 
-/// Puts back how the thread computes.  Run-time libraries of other languages change the precision or let divisions by
-/// zero fault, some as soon as they are loaded, and the rest of the program is not made for that.
+/// Scoped: saves and restores the floating-point environment.  Runtimes of other languages change the precision or enable
+/// traps, some as soon as they are loaded.
 class TScopedFpEnv {
  public:
   TScopedFpEnv() noexcept;
@@ -128,8 +126,7 @@ class TScopedFpEnv {
   std::fenv_t environment_;
 };
 
-/// Marks that a provider function is on the call stack; see ProviderCallInProgress().  Throws EAbort when one is there
-/// already.
+/// Scoped: ProviderCallInProgress() returns true.  The constructor throws EAbort if it does already.
 class TScopedProviderCall {
  public:
   TScopedProviderCall();
@@ -138,11 +135,11 @@ class TScopedProviderCall {
   TScopedProviderCall& operator=(const TScopedProviderCall&) = delete;
 };
 
-/// Throws EAbort: the entry point ended with a fault of that name (see CallWithSehFrame).
+/// Throws EAbort for an entry point that ended with a structured exception of that name (see CallWithSehFrame).
 [[noreturn]] void ThrowFault(scc::TEntry entry, const std::string& fault);
 
-/// Calls an entry point.  One that the library lacks, or that went away with the library, answers "not supported"; one
-/// that crashes throws EAbort.
+/// Calls an entry point.  Returns SCC_E_OPNOTSUPPORTED if the library lacks it or is not loaded.  Throws EAbort if it
+/// crashes.
 template <class... Parameters, class... Arguments>
 scc::Long Invoke(scc::Long(SCC_CALL* entry)(Parameters...), Arguments... arguments) {
   if (scc::hSosScc == nullptr || entry == nullptr) return scc::SCC_E_OPNOTSUPPORTED;
@@ -150,12 +147,12 @@ scc::Long Invoke(scc::Long(SCC_CALL* entry)(Parameters...), Arguments... argumen
   const TScopedFpEnv floatingPoint;
   scc::Long result = scc::SCC_E_NONSPECIFICERROR;
   const auto fault = CallWithSehFrame([&] { result = entry(arguments...); });
-  ShowProviderLines();  // of its other threads
+  ShowProviderLines();  // written by other threads
   if (!fault.empty()) ThrowFault(reinterpret_cast<scc::TEntry>(entry), fault);
   return result;
 }
 
-/// Runs a call with its preparations.  No exception leaves here, of whatever type.
+/// Runs a call with its preparations; catches every exception.
 template <class Body>
 TAnswer RunCatching(Body&& body) {
   try {
@@ -165,7 +162,7 @@ TAnswer RunCatching(Body&& body) {
   }
 }
 
-/// RunCatching for calls whose caller takes texts: fills them.  Returns the provider's code, `faultCode` after an exception.
+/// RunCatching() that sets `messages`.  Returns the provider's code, or `faultCode` after an exception.
 template <class Body>
 scc::Long RunWithMessages(TStateMessages& messages, Body&& body,
                           scc::Long faultCode = scc::SCC_E_NONSPECIFICERROR) {
@@ -178,7 +175,7 @@ scc::Long RunWithMessages(TStateMessages& messages, Body&& body,
   return faultCode;
 }
 
-/// RunCatching for calls whose caller takes none: an exception becomes an error line that begins with the entry's name.
+/// RunCatching() that writes an exception to the sink, prefixed with the entry point's name.
 template <class Body>
 scc::Long RunLogged(const char* entry, Body&& body) {
   const TAnswer answer = RunCatching(body);

@@ -1,4 +1,4 @@
-// The file half of a session: status and the file commands.
+// Status and file commands of a provider project.
 #include <algorithm>
 
 #include "host/Errors.h"
@@ -57,7 +57,7 @@ bool TSCCProviderProject::AddFile(const TStringList& files, const std::string& c
   const Long code = RunWithMessages(messages, [&] {
     const TProviderComment text(comment);
     TFileArray names(files);
-    // One choice for all files; but a provider may read one word per file, so there is one for each.
+    // The choice is the same for all files, but providers may read one word per file.
     std::vector<Long> flags(files.size(), keepCheckedOut ? SCC_KEEP_CHECKEDOUT : 0);
     return Invoke(SccAdd, context_, Window(), names.Count(), names.Data(), text.Data(), flags.data(),
                   Options());
@@ -88,7 +88,7 @@ bool TSCCProviderProject::RemoveFile(const TStringList& files, TStateMessages& m
 }
 
 bool TSCCProviderProject::UnCheckOutFile(const TStringList& files, TStateMessages& messages) {
-  RequireFiles(files, sAddListEmpty);  // the add message is meant
+  RequireFiles(files, sAddListEmpty);  // intentional: the text of the add command
   const Long code = RunWithMessages(messages, [&] {
     TFileArray names(files);
     return Invoke(SccUncheckout, context_, Window(), names.Count(), names.Data(), 0, Options());
@@ -158,7 +158,7 @@ bool TSCCProviderProject::Populate(SCCCommand command, const TStringList& files,
     return code;
   });
   ReportOverrun("SccPopulateList", statuses.CheckOverrun());
-  return answered;  // the provider's code does not matter: it may decline, and the list stays as it was
+  return answered;  // whatever the code: a provider may decline, and the list stays unchanged
 }
 
 bool TSCCProviderProject::GetCommandOptions(TCommandOptions command, TCommandOptionFlags flag,
@@ -173,7 +173,7 @@ bool TSCCProviderProject::GetCommandOptions(TCommandOptions command, TCommandOpt
 void TSCCProviderProject::AddFromScc(TStateMessages& messages) {
   const Long code = RunWithMessages(messages, [&] {
     TOutParam32 count;
-    const char** names = nullptr;  // the provider's afterwards, and neither used nor freed here
+    const char** names = nullptr;  // owned by the provider; not used
     return Invoke(SccAddFromScc, context_, Window(), &count.Value, &names);
   });
   if (ProviderSink() == nullptr) return;

@@ -1,4 +1,3 @@
-// The owner of one loaded provider.
 #include <algorithm>
 #include <iterator>
 #include <utility>
@@ -50,7 +49,7 @@ constexpr TCapabilityRow kCapabilities[] = {
     {pcIgnoreWhiteSpace, SCC_CAP_IGNORESPACE},
 };
 
-/// One row per flag in the flags' order, each with a bit of its own.
+/// One row per flag, in order, each with one distinct bit.
 constexpr bool CapabilitiesAreDistinct() {
   Dword seen = 0;
   int expected = 0;
@@ -79,7 +78,7 @@ struct TOptionRow {
 };
 constexpr TOptionRow kOptions[] = {
     {SCC_OPT_EVENTQUEUE, 1},     // the provider may collect events
-    {SCC_OPT_HASCANCELMODE, 0},  // there is no Cancel button for it
+    {SCC_OPT_HASCANCELMODE, 0},  // the add-in has no Cancel button
     {SCC_OPT_SHARESUBPROJ, 1},
 };
 
@@ -114,7 +113,7 @@ void TSCCProviderList::Initialize(const std::string& providerPath) {
     if (!Trim(given).empty()) SetProviderName(given);
     return code;
   });
-  // A failure ends nothing and is not shown: the calls that follow fail with codes of their own, and those are.
+  // A failure is not reported here: the following calls fail and report their codes.
   const auto error = std::ranges::find(kInitializeErrors, result, &TInitializeRow::Code);
   if (error != std::end(kInitializeErrors)) initializeError_ = error->Text;
   for (const TCapabilityRow& row : kCapabilities)

@@ -1,4 +1,4 @@
-// The project half of a session: identity, choosing, opening and closing.
+// Identity, choosing, opening and closing of a provider project.
 #include <initializer_list>
 #include <optional>
 #include <string>
@@ -12,7 +12,7 @@ using namespace scc;
 
 namespace {
 
-/// The texts of a session on their way through one call.  Throws EAbort for those that the provider cannot be given.
+/// Buffers for the project's texts during one call.  Throws EAbort for a text that cannot be passed to the provider.
 struct TIdentityTexts {
   TIdentityTexts(const char* entry, const TBoundedText& user, const TBoundedText& name,
                  const TBoundedText& local, const TBoundedText& aux)
@@ -20,22 +20,22 @@ struct TIdentityTexts {
   TScratchBuffer User, Name, Local, Aux;
 };
 
-/// One of them on its way back.
+/// A buffer and the field that receives its text after the call.
 struct TReturned {
   const TScratchBuffer& Text;
   TBoundedText& Field;
 };
 
-/// The mapping file and the registry keep these texts as one line each.
+/// The mapping file and the registry store these texts as one line each.
 std::string FirstLine(const std::string& text) { return text.substr(0, text.find_first_of("\r\n")); }
 
-/// Gives the fields what the provider made of their texts: all of them, or none when one cannot be taken.  Only a path,
-/// cut, would be another folder's.
+/// Copies the buffers' texts to their fields: all of them, or none if one cannot be converted.  Paths are not reduced to
+/// their first line, because that would name another directory.
 void CopyBack(std::initializer_list<TReturned> lines, std::initializer_list<TReturned> paths = {}) {
-  TStringList taken;
-  for (const auto& [text, field] : lines) taken.push_back(FirstLine(text.TextFor(field)));
-  for (const auto& [text, field] : paths) taken.push_back(text.TextFor(field));
-  auto next = taken.begin();
+  TStringList converted;
+  for (const auto& [text, field] : lines) converted.push_back(FirstLine(text.TextFor(field)));
+  for (const auto& [text, field] : paths) converted.push_back(text.TextFor(field));
+  auto next = converted.begin();
   for (const auto& texts : {lines, paths})
     for (const auto& returned : texts) returned.Field.SetUntruncated(*next++);
 }
@@ -99,9 +99,9 @@ Long TSCCProviderProject::OpenAt(TStateMessages& messages, const TBoundedText& l
     CopyBack({{texts->User, userName_}, {texts->Name, projName_}, {texts->Aux, projPath_}});
     return result;
   };
-  // What the provider is not even asked for has not been opened.
+  // A text that cannot be passed is a failure, because the provider was not called.
   if (const Long refused = RunWithMessages(messages, prepare); refused != SCC_OK) return refused;
-  // After an exception the code says 0 all the same: callers find the failure in the error text.
+  // Intentional: 0 even after an exception; callers find the failure in the error text.
   return RunWithMessages(messages, open, SCC_OK);
 }
 
@@ -111,7 +111,7 @@ bool TSCCProviderProject::CloseProject(TStateMessages& messages) {
 
 std::string TSCCProviderProject::GetVersion() {
   const Long answer = RunLogged("SccGetVersion", [] { return Invoke(SccGetVersion); });
-  if (answer < 0) return {};  // an error code, not a version
+  if (answer < 0) return {};  // an error code
   const auto version = static_cast<Dword>(answer);
   return Format(sVersion.str(), {SCC_GET_MAJOR_VER(version), SCC_GET_MINOR_VER(version)});
 }

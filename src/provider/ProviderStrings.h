@@ -105,13 +105,13 @@ inline constexpr TResString sProjectCreated{"Project created"};
 inline constexpr TResString sReloadFile{
     "The version control system actually modified the on-disk file during the history"};
 inline constexpr TResString _sFileNotAffected{
-    "File not affected"};  // its code shows the text above, see kCodes
+    "File not affected"};  // unused: the code shows the text above, see kCodes
 inline constexpr TResString sFileDiffers{
     "The file on disk is different from the file in source code control"};
 inline constexpr TResString sShareSubprojectOk{"Share subproject ok"};
 inline constexpr TResString sUndefinedCode{"Undefined error or warning"};
 
-// File status; the placeholder takes the file's name without its directory
+// File status; the placeholder is the file's name without its directory
 inline constexpr TResString sStatusNone{"[%s]: No status information available"};
 inline constexpr TResString sStatusNotControlled{"[%s]: Not under source code control"};
 inline constexpr TResString sStatusControlled{"[%s]: Under source code control"};

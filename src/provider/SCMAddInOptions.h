@@ -1,4 +1,4 @@
-// The add-in's two per-user settings, kept by the host's property-set mechanism, and their place in its options dialog.
+// The add-in's two per-user settings, stored in a property set of the host, and their page in the host's options dialog.
 #pragma once
 
 #include <string>
@@ -11,28 +11,28 @@ namespace kestrel::addin {
 inline constexpr const char* kSCMUserNameField = "UserName";
 inline constexpr const char* kSCMProviderField = "SCCProvider";
 
-/// A view of the settings; any number may exist.  Without a host every value reads as empty and setting does nothing.
+/// A view of the settings; all instances share them.  Without a host, values are empty and setters do nothing.
 class TSCMAddInEnvironmentOptions final : public IOTAAddInOptions {
  public:
-  /// `page` creates the page's window; only the one given to the host needs it.
+  /// `page` creates the page's window; only the instance that is registered with the host needs it.
   explicit TSCMAddInEnvironmentOptions(TOptionsPageFactory page = {}) : page_(std::move(page)) {}
 
-  /// Display name of the chosen provider; empty when none was chosen yet.
+  /// Display name of the chosen provider; empty if none was chosen yet.
   std::string SCCProvider() const;
   void SetSCCProvider(const std::string& value);
-  /// User name handed to the provider; empty when none was entered yet.
+  /// User name for the provider; empty if none was entered yet.
   std::string UserName() const;
   void SetUserName(const std::string& value);
-  /// Stores what was set through any view since the last time.  Throws std::runtime_error when it cannot be stored; the
-  /// values still hold for this run.
+  /// Saves changes made through any instance.  Throws std::runtime_error if they cannot be saved; they still apply until
+  /// the program ends.
   static void SaveChanges();
 
-  // The host's hooks.
+  // Called by the host.
   void* QueryInterface(const TGuid& iid) noexcept override {
     return FindInterface<IOTAAddInOptions>(this, iid);
   }
   void CustomizeDialog(IOTAEnvironmentDialog& dialog) override;
-  bool GetIsModified() override { return true; }  // so that the host saves whenever its dialog is accepted
+  bool GetIsModified() override { return true; }  // the host then saves each time its dialog is accepted
   void SendModified() override { Modified(); }
   void SaveOptions() override;
   void LoadOptions() override;

@@ -34,7 +34,7 @@ TSCMOptionsPage::TSCMOptionsPage(wxWindow* parent, IOTAOptionsPageHost& host, TC
   TPropComboBoxSCMProvider->Bind(wxEVT_CHOICE, &TSCMOptionsPage::TPropComboBoxSCMProviderChange, this);
 }
 
-// A label is created just before its control, so that its access key leads there.
+// Each label is created just before its control, because its access key moves the focus to the next control.
 void TSCMOptionsPage::Arrange() {
   auto* column = new wxBoxSizer(wxVERTICAL);
   const auto indented = wxSizerFlags().Border(wxLEFT, FromDIP(kIndent));
@@ -66,14 +66,14 @@ void TSCMOptionsPage::PropertySheetCreate(IOTAOptionsPageHost& host) {
   host.Bind(TPropEditSCMUserName, kSCMUserNameField);
   const auto count = TPropComboBoxSCMProvider->GetCount();
   if (count == 0) {
-    // Not bound to the field: the notice is no provider's name, and the user's choice may come back.
+    // Not bound to the field, because the notice is not a provider's name.  The stored choice is kept.
     TPropComboBoxSCMProvider->SetSelection(TPropComboBoxSCMProvider->Append(ToWx(sNoProvidersAvailable)));
     return;
   }
   TPropComboBoxSCMProvider->SetSelection(0);
   host.Bind(TPropComboBoxSCMProvider, kSCMProviderField);
-  for (unsigned i = 0; i < count;
-       ++i)  // names that differ in case only are different, and the last equal one counts
+  // Names are case-sensitive; the last match counts.
+  for (unsigned i = 0; i < count; ++i)
     if (TPropComboBoxSCMProvider->GetString(i) == setting)
       TPropComboBoxSCMProvider->SetSelection(static_cast<int>(i));
 }

@@ -1,4 +1,4 @@
-// The page "Source Control Options" of the host's options dialog: which provider, under which user name.
+// The page "Source Control Options" of the host's options dialog: provider and user name.
 #pragma once
 
 #include <wx/panel.h>
@@ -15,10 +15,10 @@ namespace kestrel::addin {
 
 class TSCMOptionsPage final : public wxPanel {
  public:
-  /// What choosing another provider does: called with the entry's text and the user name, may throw.
+  /// Called when the user chooses a provider, with the entry's text and the user name; may throw.
   using TChosen = std::function<void(const std::string& provider, const std::string& userName)>;
 
-  /// A child of `parent`, which owns it.
+  /// `parent` owns the page.
   TSCMOptionsPage(wxWindow* parent, IOTAOptionsPageHost& host, TChosen chosen);
 
   wxChoice* TPropComboBoxSCMProvider = nullptr;

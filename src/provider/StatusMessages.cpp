@@ -52,7 +52,7 @@ constexpr TCodeRow kCodes[] = {
     {scc::SCC_I_ADV_SUPPORT, kInfo, sAdvancedSupport},
     {scc::SCC_I_OPERATIONCANCELED, kInfo, sOperationCancelled},
     {scc::SCC_I_PROJECTCREATED, kInfo, sProjectCreated},
-    // Not a slip: users are to look at their file after "not affected" just as after "reload".
+    // Intentional: after "not affected" users should check their file, as after "reload".
     {scc::SCC_I_FILENOTAFFECTED, kInfo, sReloadFile},
     {scc::SCC_I_RELOADFILE, kInfo, sReloadFile},
     {scc::SCC_I_FILEDIFFERS, kInfo, sFileDiffers},
@@ -60,7 +60,7 @@ constexpr TCodeRow kCodes[] = {
 };
 constexpr TCodeRow kUnlisted{0, kError, sUndefinedCode};
 
-/// The look-up is by position, so the codes follow each other without a gap, and errors are exactly the negative ones.
+/// FindCode() indexes the table: codes must be consecutive.  Exactly the positive ones are information.
 constexpr bool CodesAreInOrder() {
   scc::Long expected = kCodes[0].Code;
   for (const TCodeRow& row : kCodes)
@@ -79,7 +79,7 @@ struct TStatusRow {
   scc::Long Value;
   TResString Text;
 
-  /// The first two stand for the whole word, the others for one bit of it.
+  /// The first two flags match the whole word, the others one bit.
   bool Matches(scc::Long status) const {
     return Flag <= qsNotControlled ? status == Value : (status & Value) != 0;
   }
@@ -103,7 +103,7 @@ constexpr TStatusRow kStatuses[] = {
     {qsCheckedOutToCurrentUser, scc::SCC_STATUS_OUTBYUSER, sStatusOutByUser},
 };
 
-/// One row per flag in the flags' order, and each bit row the next bit.
+/// One row per flag, in order; each bit row has the next bit.
 constexpr bool StatusesAreInOrder() {
   for (int i = 0; i < static_cast<int>(std::size(kStatuses)); ++i)
     if (kStatuses[i].Flag != i || (i >= qsControlled && kStatuses[i].Value != 1 << (i - qsControlled)))

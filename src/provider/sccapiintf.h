@@ -1,8 +1,8 @@
-// Providers, their sessions and their answers, as the rest of the add-in sees them.
+// Providers and provider projects, as the rest of the add-in sees them.
 //
-// Everything behind these classes is somebody else's code loaded into the IDE, so this is the border: texts cross it in
-// guarded copies, a missing entry point answers -14 (operation not supported), and an exception or, on Windows,
-// a crash of the provider becomes an error text.  All calls are synchronous and made on the user-interface thread.
+// These classes call foreign code that is loaded into the IDE.  Texts are passed in buffers with a canary, a missing entry
+// point returns -14 (operation not supported), and an exception or, on Windows, a crash of the provider becomes an error
+// text.  All calls are synchronous and made on the user-interface thread.
 #pragma once
 
 #include <array>
@@ -23,32 +23,33 @@ namespace kestrel::addin {
 
 // ---------------------------------------------------------------------------------------------- discovery
 
-/// The registry layout that programs share; keys are relative to the local-machine root.
+/// The registry layout that SCC clients share; keys are relative to the local-machine root.
 inline constexpr const char* kProviderKey = "Software\\SourceCodeControlProvider";
 inline constexpr const char* kInstalledProvidersKey =
     "Software\\SourceCodeControlProvider\\InstalledSCCProviders";
 inline constexpr const char* kProviderRegKey = "ProviderRegKey";
 inline constexpr const char* kServerName = "SccServerName";
 inline constexpr const char* kServerPath = "SccServerPath";
-/// Value of a provider's key that other programs do not know: "1" when the provider's own dependencies are searched for
-/// in PATH, too (Windows).
+/// Value of a provider's key, specific to this add-in: "1" if the provider's dependencies are searched in PATH as well
+/// (Windows).
 inline constexpr const char* kSearchPath = "CorvaneSearchPath";
 
 /// Whether at least one provider is installed.
 bool SCCProviderInstalled();
-/// Display name and library path of the machine's default provider; what is missing comes back empty.
+/// Reads display name and library path of the machine's default provider; missing values are empty.  Part of the package's
+/// interface; no caller here.
 void GetDefaultProvider(std::string& name, std::string& path);
 
-/// Whether a provider that is installed with this library has that mark.
+/// Whether an installed provider with this library has kSearchPath set.
 bool SearchesPath(const std::string& libraryPath);
 
 // ---------------------------------------------------------------------------------------------- messages
 
-/// Filled after every provider call: [0] the operation's own success line, [1] an informational text, [2] an error.
+/// Texts of a provider call: [0] the operation's success line, [1] an information, [2] an error; empty if there is none.
 using TStateMessages = std::array<std::string, 3>;
 using TStringList = std::vector<std::string>;
 
-/// Fills all three texts from a return code.
+/// Sets all three texts from a return code.
 void DecodeReturnCode(scc::Long code, TStateMessages& messages);
 
 /// One flag per status bit; the values are bit numbers of TQueryStatus.
@@ -71,20 +72,21 @@ enum TQueryFlags {
 };
 using TQueryStatus = std::bitset<15>;
 
+/// Part of the package's interface; no caller here.
 TQueryStatus ToQueryStatus(scc::Long status);
-/// Writes one information line per matching status bit of the file to the message sink.  -1 (no information) writes
-/// its own line and all bit lines too: that is meant.
+/// Writes one information line per matching status bit to the sink.  For -1 (no information) all lines are written
+/// (intentional).
 void DecodeQueryStatus(const std::string& fileName, scc::Long status);
 
-/// The most files that one query or list population may carry.
+/// Maximum number of files in one query or list population.
 inline constexpr std::size_t kMaxFiles = 65536;
-/// Of the names that a list callback takes: a provider that never stops calling must not eat the IDE's memory.
+/// Maximum number of names accepted by a list callback, in case a provider never stops calling it.
 inline constexpr std::size_t kMaxPopulated = 4 * kMaxFiles;
-/// The most bytes of a comment that a provider is handed.
+/// Maximum length in bytes of a comment that is passed to a provider.
 inline constexpr std::size_t kMaxComment = 128;
-/// Whether a provider wrote past the end of what it was given, and whether the guard behind it was large enough.
+/// Whether a provider wrote past the end of a buffer: not at all, into the canary, or past the canary.
 enum class TOverrun { None, Caught, Passed };
-/// Caller-owned status words, one per file; always kMaxFiles of them, and a guard behind.
+/// Status words for one call: kMaxFiles of them, followed by a canary.
 class TStatusArray {
  public:
   TStatusArray();
@@ -94,7 +96,7 @@ class TStatusArray {
 
   /// Sets all words to 0.
   void Clear();
-  /// Whether somebody wrote behind the words since the last time; repairs the guard.
+  /// Whether the words were overrun since the last call; restores the canary.
   TOverrun CheckOverrun();
 
  private:
@@ -112,32 +114,31 @@ class IProviderSink {
   /// A modal box with an OK button.
   virtual void Box(const std::string& text) = 0;
 };
-/// Borrowed until replaced; nullptr removes it.  Returns the one before.
+/// Sets the sink; borrowed until replaced, null for none.  Returns the previous one.
 IProviderSink* SetProviderSink(IProviderSink* sink);
 
-/// What a provider's own thread calls when it has written a line: arranges that ShowProviderLines() is called soon.  An
-/// empty one: nobody.
+/// Sets the function that a provider's own thread calls after writing a line.  It must arrange for ShowProviderLines() to
+/// be called soon on the user-interface thread.  An empty function removes it.
 void SetProviderWaker(std::function<void()> wake);
-/// Sends the lines that have been written from other threads to the sink.  For the thread that installed the sink, the
-/// user interface's.
+/// Sends the lines written by other threads to the sink.  Call on the thread that set the sink.
 void ShowProviderLines() noexcept;
 
-/// The callback handed to providers.  Tolerates null texts, late calls and any kind, from any thread; always returns 0.
-/// The sink gets the lines in their order, cut where they are too long to be read.
+/// The text callback for providers.  Accepts null texts, late calls and any kind, on any thread; always returns 0.  The
+/// sink receives the lines in order, truncated to kMaxTextLine bytes.
 scc::Long SCC_CALL TextOutProc(const char* text, scc::Dword kind) noexcept;
 
-/// Appends to `taken` a file name that a provider gave a list callback.  Leaves out null pointers, empty names and, with a
-/// warning in the sink, names that could not be passed back to it (see FromCodePageExact).  False when `taken` is full, that
-/// is, has kMaxPopulated names: the callback then asks the provider to stop.
-bool AppendPopulatedName(const char* name, TStringList& taken) noexcept;
+/// Appends a file name that a provider passed to a list callback.  Skips null pointers, empty names and, with a warning in
+/// the sink, names that cannot be passed back (see FromCodePageExact).  Returns false if `names` has kMaxPopulated
+/// entries; the callback then asks the provider to stop.
+bool AppendPopulatedName(const char* name, TStringList& names) noexcept;
 
-/// Whether a provider function is on the call stack.  A provider may pump messages in its dialogs; whoever is called
-/// then must not close a project or unload the library.
+/// Whether a provider function is on the call stack.  Providers dispatch events while they show dialogs; an event handler
+/// must then not close the project or unload the library.
 bool ProviderCallInProgress();
 
-// ---------------------------------------------------------------------------------------------- sessions
+// ---------------------------------------------------------------------------------------------- projects
 
-/// Commands whose options can be asked for; equal to SCCCommand.
+/// Commands that may have advanced options; the values are those of SCCCommand.
 enum TCommandOptions : std::int32_t {
   coGet,
   coCheckOut,
@@ -153,7 +154,7 @@ enum TCommandOptions : std::int32_t {
 };
 enum TCommandOptionFlags { coQuery, coShowAdvDialog };
 
-/// One provider project bound to one local directory.  Created and owned by TSCCProviderList.
+/// One provider project for one local directory.  Created and owned by TSCCProviderList.
 class TSCCProviderProject {
  public:
   TSCCProviderProject(const std::string& localPath, TWindowHandle window, const std::string& userName);
@@ -161,9 +162,9 @@ class TSCCProviderProject {
   TSCCProviderProject(const TSCCProviderProject&) = delete;
   TSCCProviderProject& operator=(const TSCCProviderProject&) = delete;
 
-  // Identity texts.  Each is a buffer of the size in brackets (bytes as the provider reads them); a setter copies what
-  // fits, a getter returns the text up to its terminator.  The provider may rewrite them in GetProjectPath and
-  // OpenProject.  Only a local path is never cut: too long, it makes those two fail.
+  // Texts that identify the project.  The provider's buffer sizes are given in brackets, in bytes of the code page with
+  // terminator.  Setters truncate to them, except for the local path: GetProjectPath and OpenProject fail if it is too
+  // long.  The provider may change the texts in these two calls.
   std::string get_ProjName() const;  // [261]
   void set_ProjName(const std::string& value);
   std::string get_ProjPath() const;  // [301] the auxiliary project path
@@ -173,26 +174,28 @@ class TSCCProviderProject {
   std::string get_UserName() const;  // [33]
   void set_UserName(const std::string& value);
 
-  // When the provider lets an exception out, its message becomes element 2 of the messages, booleans are false, and
-  // codes are -15 (non-specific failure); only OpenProject still answers 0, so look at element 2 there.
+  // If the provider throws, its message becomes element 2 of the messages; the result is false or -15 (non-specific
+  // failure), but 0 for OpenProject, whose callers must check element 2.
 
-  /// Lets the user choose or create a provider project.  On 0 (OK) element 0 tells which of the two it was.
+  /// Lets the user choose or create a provider project.  On 0 (OK) element 0 tells whether it is new.
   scc::Long GetProjectPath(TStateMessages& messages, bool mayCreate, bool mayChangePath);
   scc::Long OpenProject(TStateMessages& messages);
-  /// The same with another local path, which leaves the session's own untouched.
+  /// Opens the project with another local path; get_LocalPath() is unaffected.
   scc::Long OpenProject(TStateMessages& messages, const std::string& localPath);
   bool CloseProject(TStateMessages& messages);
-  /// "major.minor" of the provider's interface; empty when it does not tell.
+  /// The provider's interface version as "major.minor"; empty on failure.  Part of the package's interface; no caller here.
   std::string GetVersion();
   void Properties(const std::string& fileName, TStateMessages& messages);
+  /// Part of the package's interface; no caller here.
   void GetEvents(TStateMessages& messages);
   scc::Long RunSCC();
 
-  /// Status words of `files` into `statuses`, in order.  Throws EAbort for an empty list or more than kMaxFiles.
+  /// Reads the status words of `files` into `statuses`, in the same order.  Throws EAbort for an empty list or more than
+  /// kMaxFiles.
   bool Query(const TStringList& files, TStatusArray& statuses, TStateMessages& messages);
 
-  // File commands.  All throw EAbort for an empty list (a blank name for the history) before the provider is called;
-  // provider results never throw.  Comments are cut at kMaxComment bytes.
+  // File commands.  They throw EAbort for an empty list (for ShowHistory a blank name); failures of the provider do not
+  // throw.  Comments are truncated to kMaxComment bytes.
   bool CheckOutFile(const TStringList& files, const std::string& comment, TStateMessages& messages);
   bool AddFile(const TStringList& files, const std::string& comment, bool keepCheckedOut,
                TStateMessages& messages);
@@ -205,16 +208,17 @@ class TSCCProviderProject {
   scc::Long ShowDiff(const std::string& fileName, scc::Long flags, TStateMessages& messages);
   bool SilentDiff(const std::string& fileName, TStateMessages& messages);
   scc::Long ShowHistory(const std::string& fileName, TStateMessages& messages);
-  /// Lets the provider widen or narrow the list through `callback`.  True whatever its code; at most kMaxFiles files,
-  /// none allowed.  Throws EAbort for more.
+  /// Lets the provider add and remove names through `callback`.  `files` may be empty.  Returns whether the provider
+  /// returned, with whatever code.  Throws EAbort for more than kMaxFiles.
   bool PopulateList(scc::SCCCommand command, const TStringList& files, scc::TPopListFunc callback,
                     TStatusArray& statuses, TStateMessages& messages);
-  /// The same for names of directories.
+  /// Like PopulateList(), for directories.
   bool PopulateDirectoriesList(scc::SCCCommand command, const TStringList& files, scc::TPopListFunc callback,
                                TStatusArray& statuses, TStateMessages& messages);
-  /// coQuery: whether the provider has advanced options for the command.  coShowAdvDialog: shows them; false.
+  /// coQuery: returns whether the provider has advanced options for the command.  coShowAdvDialog: shows them and returns
+  /// false.
   bool GetCommandOptions(TCommandOptions command, TCommandOptionFlags flag, TStateMessages& messages);
-  /// Opens the provider's browser for files under control; a box tells how it ended.
+  /// Opens the provider's browser for controlled files; a message box reports success or cancellation.
   void AddFromScc(TStateMessages& messages);
 
  private:
@@ -228,19 +232,18 @@ class TSCCProviderProject {
   scc::WindowHandle Window() const;
   void* Options() { return options_.data(); }
 
-  void* context_ = nullptr;  // the list's; it outlives the session
+  void* context_ = nullptr;  // owned by the list
   TWindowHandle window_;
   TBoundedText localPath_{261};
   TBoundedText userName_{33};
   TBoundedText projName_{261};
   TBoundedText projPath_{301};
-  // Commands pass the address of this block, and an advanced-options dialog stores the provider's pointer in it.  The
-  // API's authors meant four bytes; a pointer has eight here, and a provider that takes the block for its own
-  // structure reads zeros instead of whatever lies behind.
+  // Commands pass the address of this block; an advanced-options dialog stores the provider's pointer in it.  It is larger
+  // than one pointer, so that a provider that reads it as its own structure finds zeros.
   std::array<void*, 16> options_{};
 };
 
-/// What a provider can do, decoded from its capability word.
+/// The provider's capabilities, decoded from its capability word.
 enum TProviderCapabilityFlags {
   pcReEntrant,
   pcSccRemove,
@@ -270,10 +273,11 @@ enum TProviderCapabilityFlags {
 };
 using TProviderCapabilities = std::bitset<25>;
 
-/// Owner of one loaded provider: library, context, capabilities and one session per local directory.
+/// A loaded provider: library, context, capabilities and one provider project per local directory.
 class TSCCProviderList {
  public:
-  /// Throws EAbort when the path is blank or nothing loadable; a failing SccInitialize does not throw.
+  /// Loads and initializes the provider.  Throws EAbort if the path is blank or the library cannot be loaded, but not if
+  /// SccInitialize fails.
   TSCCProviderList(const std::string& providerPath, TWindowHandle window, const std::string& userName);
   ~TSCCProviderList();
   TSCCProviderList(const TSCCProviderList&) = delete;
@@ -281,22 +285,22 @@ class TSCCProviderList {
 
   void Add(const std::string& localPath);
   void Add(const std::string& localPath, const std::string& userName);
-  /// Frees the first session of that directory.  Does not touch the current project, even if it was the one freed:
-  /// call SetCurrentProject afterwards.
+  /// Deletes the first project of that directory.  CurrentProject() is not updated, even if it was deleted: call
+  /// SetCurrentProject() afterwards.
   void Remove(const std::string& localPath);
   bool SetCurrentProject(const std::string& localPath);
-  /// Frees all sessions without closing their projects.
+  /// Deletes all projects without closing them.
   void CloseAll();
 
   int GetCount() const;
   TSCCProviderProject* GetItem(int index) const;
-  /// Replaces the entry; the one replaced is handed back to the caller.
+  /// Replaces an entry and returns the previous one.  Part of the package's interface; no caller here.
   std::unique_ptr<TSCCProviderProject> PutItem(int index, std::unique_ptr<TSCCProviderProject> project);
 
   const TProviderCapabilities& Capabilities() const;
   TSCCProviderProject* CurrentProject() const;
   const std::string& UserName() const;
-  /// Why the provider did not start; empty when it did, or when its code says nothing about that.
+  /// The reason why SccInitialize failed; empty if it succeeded or its code has no text.
   const std::string& InitializeError() const;
 
  private:

@@ -1,5 +1,5 @@
-// The published Source Code Control API as both sides see it: types, numbers, calling convention.  Version 1.1, with
-// the later constants that a 1.1 client may meet.  Needs nothing but the C library, so that a provider can use it too.
+// Types, constants and calling convention of the Source Code Control API, version 1.1, with later constants that a 1.1
+// client may receive.  Depends on the C library only, so that providers can use it as well.
 #pragma once
 
 #include <cstdint>
@@ -14,7 +14,7 @@
 
 namespace kestrel::scc {
 
-// Fixed widths: the API was written where `long` has 32 bits.
+// The API was designed for platforms where `long` has 32 bits.
 using Long = std::int32_t;
 using Dword = std::uint32_t;
 using Bool = std::int32_t;
@@ -76,7 +76,7 @@ enum ReturnCode : Long {
   SCC_E_CONNECTIONFAILURE = -29,
 };
 
-/// Status of a file.  INVALID has every bit set: test for it first.
+/// Status of a file.  INVALID has all bits set: test for it first.
 enum StatusBits : Long {
   SCC_STATUS_INVALID = -1,
   SCC_STATUS_NOTCONTROLLED = 0x0000,
@@ -95,7 +95,7 @@ enum StatusBits : Long {
   SCC_STATUS_OUTBYUSER = 0x1000,
 };
 
-/// What a provider can do.
+/// Capabilities of a provider.
 enum CapabilityBits : Dword {
   SCC_CAP_REMOVE = 0x00000001,
   SCC_CAP_RENAME = 0x00000002,
@@ -124,7 +124,7 @@ enum CapabilityBits : Dword {
   SCC_CAP_REENTRANT = 0x40000000,
 };
 
-/// Flags of the commands; values repeat, a flag means something only in its own command.
+/// Flags of the commands.  Values overlap; each flag applies to its own command only.
 enum CommandFlags : Long {
   SCC_KEEP_CHECKEDOUT = 0x1000,  // add (per file), check-in
   SCC_FILETYPE_TEXT = 0x01,      // add
@@ -173,7 +173,7 @@ inline constexpr int SCC_USER_SIZE = 32;
 inline constexpr int SCC_PRJPATH_SIZE = 301;
 inline constexpr int SCC_LOCALPATH_SIZE = 260;
 
-// Callbacks that the client implements.  Neither may let an exception out.
+// Callbacks implemented by the client.  They must not throw.
 using TTextOutProc = Long(SCC_CALL*)(const char* text, Dword kind);
 using TPopListFunc = Bool(SCC_CALL*)(void* callerData, Bool addOrKeep, Long status, const char* fileName);
 
