@@ -25,7 +25,7 @@ TCommentsForm::TCommentsForm(TCommentModel& model)
   CreateControls();
   LayOut();
   Bind(wxEVT_INIT_DIALOG, [this](wxInitDialogEvent&) { FormShow(); });
-  // Not within the event: the control is still busy with the change.
+  // Deferred, because the control is still processing the change.
   CommentsMemo->Bind(wxEVT_TEXT, [this](wxCommandEvent&) { CallAfter([this] { FitMemo(); }); });
   btnOK->Bind(wxEVT_BUTTON, &TCommentsForm::btnOKClick, this);
   btnCancel->Bind(wxEVT_BUTTON, &TCommentsForm::btnCancelClick, this);
@@ -57,7 +57,7 @@ void TCommentsForm::CreateControls() {
 
 void TCommentsForm::LayOut() {
   const int gap = FromDIP(8);
-  const int around = FromDIP(5);  // leaves the memo its height
+  const int around = FromDIP(5);  // so that the memo keeps its height
   auto* under = new wxBoxSizer(wxHORIZONTAL);
   under->Add(cbApplyToAll, wxSizerFlags().CentreVertical());
   under->AddStretchSpacer();
@@ -95,7 +95,7 @@ void TCommentsForm::FitMemo() {
 
 void TCommentsForm::FormShow() {
   CommentsMemo->SetFocus();
-  CommentsMemo->SelectAll();  // typing replaces what is offered
+  CommentsMemo->SelectAll();  // so that typing replaces it
 }
 
 void TCommentsForm::FormKeyDown(wxKeyEvent& event) {
@@ -107,7 +107,7 @@ void TCommentsForm::FormKeyDown(wxKeyEvent& event) {
 }
 
 void TCommentsForm::CloseWith(int modalResult) {
-  FitMemo();  // what was typed last may still wait for it
+  FitMemo();  // the deferred call may be pending
   model_.Text = FromWx(CommentsMemo->GetValue());
   TModalForm::CloseWith(modalResult);
 }
@@ -128,7 +128,7 @@ void TCommentsForm::FillRecentMenu() {
   history_.Keep(FromWx(CommentsMemo->GetValue()));
   while (RecentMenu.GetMenuItemCount() > 0) RecentMenu.Destroy(RecentMenu.FindItemByPosition(0));
   for (std::size_t i = 1; i < history_.Entries().size(); ++i) {
-    // &1 to &9, 1&0; what is beyond has none.
+    // &1 to &9, 1&0; the rest have no access key.
     AppendRecent(i, i < 10 ? wxString::Format("&%zu ", i) : i == 10 ? wxString("1&0 ") : wxString());
   }
   if (history_.IsAtDraft() || Trim(history_.Entries()[0]).empty()) return;
@@ -138,7 +138,7 @@ void TCommentsForm::FillRecentMenu() {
 
 void TCommentsForm::AppendRecent(std::size_t entry, const wxString& accelerator) {
   auto text = ToWx(history_.Entries()[entry]);
-  text.Replace("\t", " ");  // in a label it begins a shortcut
+  text.Replace("\t", " ");  // a tab in a label precedes a shortcut
   text = wxControl::Ellipsize(text, wxClientDC(this), wxELLIPSIZE_END, FromDIP(kRecentWidth));
   RecentMenu.Append(kFirstRecentId + static_cast<int>(entry), accelerator + wxControl::EscapeMnemonics(text));
 }

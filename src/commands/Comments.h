@@ -1,4 +1,4 @@
-// The dialog that asks for the comment of a command.
+// The dialog for the comment of a command.
 #pragma once
 
 #include <wx/menu.h>
@@ -16,7 +16,7 @@ namespace kestrel::addin {
 
 class TCommentsForm final : public TModalForm {
  public:
-  /// `model` is borrowed.  It receives the text however the dialog is closed, and the box when OK is pressed.
+  /// `model` is borrowed.  It receives the text however the dialog is closed, and the check box if OK is pressed.
   explicit TCommentsForm(TCommentModel& model);
 
   void FormShow();
@@ -24,7 +24,7 @@ class TCommentsForm final : public TModalForm {
   void btnOKClick(wxCommandEvent& event);
   void btnCancelClick(wxCommandEvent& event);
   void btnRecentClick(wxCommandEvent& event);
-  /// Brings RecentMenu up to date with what the memo can be replaced by.
+  /// Fills RecentMenu with the comments that can replace the memo's text.
   void FillRecentMenu();
 
   wxTextCtrl* CommentsMemo;
@@ -40,10 +40,10 @@ class TCommentsForm final : public TModalForm {
  private:
   void CreateControls();
   void LayOut();
-  /// Holds the memo to what a provider takes, and says how much of it is used.
+  /// Truncates the memo to the length that providers accept and shows how much of it is used.
   void FitMemo();
   void AppendRecent(std::size_t entry, const wxString& accelerator);
-  /// Shows another comment in the memo, if there is one.
+  /// Replaces the memo's text, if `comment` has a value.
   void Replace(const std::optional<std::string>& comment);
 
   TCommentModel& model_;
@@ -51,7 +51,7 @@ class TCommentsForm final : public TModalForm {
   wxStaticText* LengthLabel;
 };
 
-/// For a command that shares its dialog with others.  None does: each keeps its own to itself.
+/// Always null: each command has a dialog of its own.  Part of the package's interface; no caller here.
 extern TCommentsForm* CommentsForm;
 
 }  // namespace kestrel::addin

@@ -39,7 +39,7 @@ TFilesListView::TFilesListView(wxWindow* parent, TFileListModel& model)
 }
 
 int TFilesListView::StatusWidth() const {
-  std::set<std::string_view> texts;  // a handful, however many rows there are
+  std::set<std::string_view> texts;  // few distinct ones, however many rows there are
   for (std::size_t row = 0; row < model_.Count(); ++row) texts.insert(model_.StatusOf(row));
   int width = FromDIP(kStatusWidth);
   for (const auto text : texts)
@@ -177,7 +177,7 @@ void TGetFileListForm::ChangeAllCheckedStates(bool checked) {
 void TGetFileListForm::CheckState() {
   const auto buttons = model_.CheckState();
   const auto* focused = FindFocus();
-  // A button that disables itself would leave the keyboard nowhere.
+  // If the focused button gets disabled, no control would have the focus.
   if ((focused == btnCheckAll && !buttons.CheckAll) || (focused == btnUncheckAll && !buttons.UncheckAll))
     FilesListView->SetFocus();
   btnOK->Enable(buttons.Ok);
@@ -227,9 +227,9 @@ void TGetFileListForm::btnCheckAllClick(wxCommandEvent&) { ChangeAllCheckedState
 void TGetFileListForm::btnUncheckAllClick(wxCommandEvent&) { ChangeAllCheckedStates(false); }
 
 void TGetFileListForm::btnAdvancedClick(wxCommandEvent&) {
-  if (Expert.Activities.InProviderCall()) return wxBell();  // its options are being shown
+  if (Expert.Activities.InProviderCall()) return wxBell();  // the provider's dialog is open already
   TStateMessages messages;
-  // The host may have closed the project while the list was open.
+  // The host may have closed the project while this dialog was open.
   if (auto* project = Expert.Provider.CurrentProject())
     project->GetCommandOptions(model_.CommandKind, coShowAdvDialog, messages);
 }

@@ -1,4 +1,4 @@
-// The dialog in which the user picks the files of a command.
+// The dialog in which the user selects the files of a command.
 #pragma once
 
 #include "expert/FileListModel.h"
@@ -12,18 +12,18 @@ namespace kestrel::addin {
 
 struct TCommandContext;
 
-/// The rows of a TFileListModel.  The control asks the model for what it shows, so that 65,536 rows open at once.
+/// The rows of a TFileListModel.  The list is virtual, so that 65,536 rows open immediately.
 class TFilesListView final : public TVirtualList {
  public:
-  /// `model` is borrowed.  Its rows change in number only with ShowRows.
+  /// `model` is borrowed.  Call ShowRows() after the number of its rows has changed.
   TFilesListView(wxWindow* parent, TFileListModel& model);
-  /// Shows as many rows as the model has now.
+  /// Updates the number of rows from the model.
   void ShowRows() { SetItemCount(static_cast<long>(model_.Count())); }
-  /// Turns the ticks of the selected rows to the opposite of the focused row's.
+  /// Sets the check boxes of the selected rows to the opposite of the focused row's.
   void ToggleSelected();
-  /// Focuses the first ticked row, or the first row, and scrolls to it.
+  /// Focuses the first checked row, or the first row, and scrolls to it.
   void FocusFirstChecked();
-  /// Lets the paths have the width that the other columns leave.
+  /// Widens the path column to fill the list.
   void FitColumns();
 
  protected:
@@ -31,7 +31,7 @@ class TFilesListView final : public TVirtualList {
   bool OnGetItemIsChecked(long item) const override;
 
  private:
-  /// Wide enough for the longest status.
+  /// The width of the longest status.
   int StatusWidth() const;
 
   TFileListModel& model_;
@@ -39,7 +39,7 @@ class TFilesListView final : public TVirtualList {
 
 class TGetFileListForm final : public TModalForm {
  public:
-  /// Edits `model` in place; the boxes under the list are stored when OK is pressed.  Both are borrowed.
+  /// Edits `model` in place; the check boxes below the list are stored if OK is pressed.  Both arguments are borrowed.
   TGetFileListForm(TCommandContext& expert, TFileListModel& model);
   ~TGetFileListForm() override;
 
@@ -49,7 +49,7 @@ class TGetFileListForm final : public TModalForm {
   std::string GetFile(int index) const { return model_.GetFile(index); }
   int ItemsChecked() const { return model_.ItemsChecked(); }
   void ChangeAllCheckedStates(bool checked);
-  /// Brings the buttons in line with the ticks.
+  /// Enables the buttons according to the check boxes.
   void CheckState();
 
   void FormShow();
@@ -69,7 +69,7 @@ class TGetFileListForm final : public TModalForm {
   wxButton* btnCheckAll;
   wxButton* btnUncheckAll;
   wxButton* btnAdvanced;
-  std::string CurrentFile;  ///< the file in the editor, a form's unit for a form; since FormShow
+  std::string CurrentFile;  ///< the file in the editor, for a form its unit; set by FormShow()
 
  private:
   void CreateControls();
@@ -82,7 +82,7 @@ class TGetFileListForm final : public TModalForm {
   TFileListModel& model_;
 };
 
-/// The dialog of "Get Latest Version" while it is open, otherwise nullptr.  The other commands keep theirs to themselves.
+/// The dialog of "Get Latest Version" while it is open, otherwise null.
 extern TGetFileListForm* GetFileListForm;
 
 }  // namespace kestrel::addin

@@ -16,7 +16,7 @@ namespace {
 
 constexpr const char* kHelpFile = "RavelinDSP.hlp";
 constexpr auto kVanishing =
-    std::chrono::milliseconds(30);  // what a closed window needs until it is off the screen
+    std::chrono::milliseconds(30);  // for a closed window to disappear from the screen
 
 long BoxIconOf(TMsgType kind) {
   switch (kind) {
@@ -31,7 +31,7 @@ long BoxIconOf(TMsgType kind) {
   }
 }
 
-/// What was under the dialog is painted before the provider is called, which may take a while.
+/// Repaints the area under the dialog before the provider is called, which may take long.
 int ShowAndClear(wxDialog&& form) {
   const int result = form.ShowModal();
   PaintWindows(kVanishing);

@@ -1,4 +1,4 @@
-// Buttons that several windows have.
+// Labels of buttons that several windows have.
 #pragma once
 
 #include "system/Text.h"

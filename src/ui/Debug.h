@@ -1,4 +1,5 @@
-// The debug window: a plain text pad, there from package load to unload and hidden until somebody shows it.
+// The debug window: a text pad that exists while the package is loaded and is hidden until it is shown.  Part of the
+// package's interface; no caller here.
 #pragma once
 
 #include <wx/frame.h>
@@ -23,10 +24,10 @@ class TDebugForm final : public wxFrame {
   wxButton* const btnClear;
 };
 
-/// The debug window, or nullptr outside the package's life.
+/// The debug window; null while the package is not loaded.
 extern TDebugForm* DebugForm;
 
-/// Called by the package entry at initialization and finalization.
+/// Called when the package is initialized and finalized.
 void CreateDebugForm();
 void FreeDebugForm();
 

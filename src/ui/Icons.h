@@ -1,11 +1,11 @@
-// The windows' pictures: SVG documents drawn for this system, one array per image list, indexed by the kind's ordinal.
+// Icons of the windows: SVG documents, one array per image list.  The index is the ordinal of the kind.
 #pragma once
 
 #include <array>
 
 namespace kestrel::addin {
 
-/// Lines of the message window, in the order of TMsgWinType: information, warning, error, status.
+/// Icons of message window lines, in the order of TMsgWinType: information, warning, error, status.
 inline constexpr int kLineIconSize = 16;
 inline constexpr std::array kLineIcons{
     R"(<svg xmlns="http://www.w3.org/2000/svg" width="16" height="16" viewBox="0 0 16 16">
@@ -21,7 +21,7 @@ inline constexpr std::array kLineIcons{
 <rect x="2" y="1" width="12" height="14" rx="2" fill="#66737f"/>
 <path d="M4 4h8v1H4z M4 7h8v1H4z M4 10h5v1H4z" fill="#ffffff"/></svg>)"};
 
-/// Message dialogs, in the order of TMsgType: error, warning, information, question.
+/// Icons of message dialogs, in the order of TMsgType: error, warning, information, question.
 inline constexpr int kDialogIconSize = 32;
 inline constexpr std::array kDialogIcons{
     R"(<svg xmlns="http://www.w3.org/2000/svg" width="32" height="32" viewBox="0 0 32 32">

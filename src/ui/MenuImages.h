@@ -1,4 +1,4 @@
-// The pictures of the "Team" menu.
+// The icons of the "Team" menu.
 #pragma once
 
 #include <array>
@@ -8,17 +8,17 @@
 
 namespace kestrel::addin {
 
-/// One picture.  Two commands may share one, and not every index is taken.
+/// One icon.  Commands may share icons, and indexes need not be consecutive.
 struct TMenuImage {
   int Index;
-  TResString Name;      ///< its document's id, by which a theme of the host can tell it; empty for none
-  const char* Drawing;  ///< SVG elements on a field of 16 by 16 units
+  TResString Name;      ///< the id of the SVG document, for themes of the host; may be empty
+  const char* Drawing;  ///< SVG elements, 16 by 16 units
 };
 
-/// Rising by index.
+/// Sorted by index.
 extern const std::array<TMenuImage, 11> MenuImageList;
 
-/// The document of the picture with that index, as the host's image list takes it.  The index must be in the list.
+/// The icon with that index as an SVG document.  The index must be in the list.
 std::string MenuImageDocument(int index);
 
 }  // namespace kestrel::addin

@@ -1,4 +1,4 @@
-// The kinds of messages and the two windows that show them, as the layers without a toolkit see them.
+// Kinds of messages and the interface of the message window, for layers that do not link the toolkit.
 #pragma once
 
 #include <ctime>
@@ -13,13 +13,13 @@
 
 namespace kestrel::addin {
 
-/// Kind of a line of the message window; also the index of its icon.
+/// Kind of a line in the message window; its ordinal is the index of the icon.
 enum TMsgWinType { mwtInfo, mwtWarning, mwtError, mwtStatus };
 
-/// Kind of a message dialog; also the index of its icon.
+/// Kind of a message dialog; its ordinal is the index of the icon.
 enum TMsgType { metError, metWarning, metInfo, metQuestion };
 
-/// The running log of outcomes.  Lines accumulate until they are cleared; sending neither shows nor scrolls it.
+/// The log of the add-in's results.  Lines stay until they are cleared; sending a line neither shows nor scrolls the window.
 class IMessageWindow {
  public:
   virtual ~IMessageWindow() = default;
@@ -27,13 +27,13 @@ class IMessageWindow {
   void SendMessage(TMsgWinType kind, std::string_view format, std::initializer_list<TFormatArg> args) {
     SendMessage(kind, Format(format, args));
   }
-  /// From any thread: calls `body` on the user-interface thread soon, unless the window is gone by then.
+  /// Posts `body` to the user-interface thread; dropped if the window is destroyed first.  Any thread.
   virtual void CallSoon(std::function<void()> body) = 0;
-  /// Shows the window, or hides it without losing its lines.  Non-modal.
+  /// Shows the window, non-modally, or hides it without losing its lines.
   virtual void ShowWindow(bool show) = 0;
 };
 
-/// The time stamp of a line: "mm/dd/yyyy hh:mm:ss ampm" on the 12-hour clock, e.g. "03/02/2024 01:05:09 PM".
+/// The time stamp of a line: "mm/dd/yyyy hh:mm:ss ampm", e.g. "03/02/2024 01:05:09 PM".
 std::string MessageTimeStamp(const std::tm& localTime);
 
 }  // namespace kestrel::addin

@@ -1,4 +1,4 @@
-// What the system's modal dialogs have in common: results, key preview, place.
+// Base of the add-in's modal dialogs.
 #pragma once
 
 #include <wx/dialog.h>
@@ -7,17 +7,16 @@
 
 namespace kestrel::addin {
 
-/// A dialog that ends with mrOk or mrCancel.  It is parented by the active window of the host, or by the host's main
-/// window.  Escape and the title bar's close button cancel it; Enter presses the default button, whichever control has
-/// the focus, unless that is a button itself.
+/// A dialog that returns mrOk or mrCancel.  Its parent is the host's active window or main window.  Escape and the title
+/// bar's close button cancel it.  Enter presses the default button, unless the focused control is a button.
 class TModalForm : public wxDialog {
  public:
   TModalForm(const wxString& caption, long style);
 
  protected:
-  /// Ends ShowModal() with that result.  Every way to close the dialog comes through here.
+  /// Ends ShowModal() with that result.  Called however the dialog is closed.
   virtual void CloseWith(int modalResult);
-  /// Key preview: sees every key before the control with the focus.
+  /// Key preview: receives every key before the focused control.
   virtual void FormKeyDown(wxKeyEvent& event);
 
  private:

@@ -35,7 +35,7 @@ TBeep BeepOf(TMsgType kind) {
 
 constexpr int kTitleWidth = 222;
 
-/// The width to wrap a title at.  It has room for the longest word: the toolkit wraps nothing from a longer one on.
+/// The width to wrap a title at.  At least that of the longest word, because the toolkit stops wrapping at a longer one.
 int WrapWidth(const wxStaticText& title) {
   int width = title.FromDIP(kTitleWidth);
   for (const auto& word : wxSplit(title.GetLabelText(), ' ', '\0'))
@@ -67,7 +67,7 @@ void TMsgDialogForm::CreateControls(const std::string& title, const std::string&
   TitleLabel->SetFont(TitleLabel->GetFont().Bold());
   TitleLabel->SetLabelText(ToWx(title));
   TitleLabel->Wrap(WrapWidth(*TitleLabel));
-  // The control by itself would measure its text without the bold face, which it gets when it is shown.
+  // Until it is shown the control measures its text in the regular face.
   TitleLabel->SetMinSize(wxClientDC(TitleLabel).GetMultiLineTextExtent(TitleLabel->GetLabelText()));
   MessageText = new wxTextCtrl(this, wxID_ANY, ToWx(msg), wxDefaultPosition, FromDIP(wxSize(377, 124)),
                                wxTE_MULTILINE | wxTE_READONLY);
@@ -77,7 +77,7 @@ void TMsgDialogForm::CreateControls(const std::string& title, const std::string&
 
 void TMsgDialogForm::LayOut() {
   const int gap = FromDIP(8);
-  const int around = FromDIP(5);  // leaves the text its height
+  const int around = FromDIP(5);  // so that the text keeps its height
   auto* head = new wxBoxSizer(wxHORIZONTAL);
   head->Add(MsgIcon, wxSizerFlags().Top());
   head->Add(TitleLabel, wxSizerFlags(1).CentreVertical().Border(wxLEFT | wxRIGHT, gap));
@@ -88,8 +88,8 @@ void TMsgDialogForm::LayOut() {
   all->AddSpacer(around);
   all->Add(MessageText, wxSizerFlags(1).Expand().Border(wxLEFT | wxRIGHT | wxBOTTOM, gap));
   SetSizer(all);
-  auto client =
-      all->ComputeFittingClientSize(this);  // more only for a title of several lines or of long words
+  // Larger than the standard size only for a title with several lines or long words.
+  auto client = all->ComputeFittingClientSize(this);
   client.IncTo(FromDIP(wxSize(393, 182)));
   SetClientSize(client);
   SetMinClientSize(GetClientSize());

@@ -1,4 +1,4 @@
-// The modal message dialog: a titled box with an icon, a beep and a read-only text.
+// The modal message dialog: title, icon, beep and a read-only text.
 #pragma once
 
 #include <wx/bmpbndl.h>
@@ -34,10 +34,10 @@ class TMsgDialogForm final : public TModalForm {
   void LayOut();
 };
 
-/// The dialog that is shown, or nullptr.
+/// The open dialog, or null.
 extern TMsgDialogForm* MsgDialogForm;
 
-/// Shows the dialog modally and returns when it is closed.
+/// Shows the dialog modally; returns when it is closed.
 void ShowMsgDialog(const std::string& title, const std::string& msg, TMsgType kind);
 
 }  // namespace kestrel::addin

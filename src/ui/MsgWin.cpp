@@ -31,7 +31,7 @@ std::string Now() {
   return MessageTimeStamp(*std::localtime(&now));
 }
 
-/// A row shows one line; what breaks it shows as blanks.
+/// The text in one line: line breaks and tabs become blanks.
 wxString OneLine(const std::string& text) {
   auto line = text;
   std::ranges::replace_if(
@@ -54,7 +54,7 @@ TMessageListView::TMessageListView(wxWindow* parent)
 void TMessageListView::Append(TMsgWinType kind, const std::string& text) {
   lines_.push_back({kind, text, Now()});
   if (std::exchange(growing_, true)) return;
-  // Once for all lines of a command: some systems draw the scroll bar anew each time.
+  // Updates the count once for all lines of a command, because some systems redraw the scroll bar each time.
   CallAfter([this] {
     growing_ = false;
     SetItemCount(static_cast<long>(lines_.size()));
@@ -157,7 +157,7 @@ void TMsgWinForm::FormKeyDown(wxKeyEvent& event) {
 }
 
 void TMsgWinForm::ShowPopupMenu(wxContextMenuEvent& event) {
-  // Asked for by the keyboard, the menu belongs to the line that the keyboard is at.
+  // From the keyboard the menu opens at the focused line.
   const bool byKeyboard = event.GetPosition() == wxDefaultPosition;
   PopupMenu(&VCMPopupMenu,
             byKeyboard ? ScreenToClient(MessageListView->FocusedPosition()) : wxDefaultPosition);

@@ -1,4 +1,4 @@
-// The message window: a running log, one line a message.
+// The message window: a log with one line per message.
 #pragma once
 
 #include <wx/frame.h>
@@ -15,18 +15,18 @@
 
 namespace kestrel::addin {
 
-/// The lines.  The list control asks for what it shows, so that a long log costs no more than a short one.
+/// The list of lines.  It is virtual, so that a long log is as fast as a short one.
 class TMessageListView final : public wxListView {
  public:
   explicit TMessageListView(wxWindow* parent);
   void Append(TMsgWinType kind, const std::string& text);
   void Clear();
   void SelectAll();
-  /// The selected lines as text, message and date separated by a tab.
+  /// The selected lines, message and date separated by a tab.
   wxString SelectedText() const;
-  /// Where the focused line is on the screen; the list's top without a line in view.
+  /// The screen position of the focused line, or of the list's top if that line is not visible.
   wxPoint FocusedPosition() const;
-  /// Lets the messages have the width that the dates leave.
+  /// Widens the message column to fill the list.
   void FitColumns();
 
  protected:
@@ -41,13 +41,13 @@ class TMessageListView final : public wxListView {
     std::string Date;
   };
   std::vector<TLine> lines_;
-  bool growing_ = false;  ///< there are lines that the control does not know of yet
+  bool growing_ = false;  ///< the control's item count is not up to date
 };
 
-/// Modeless; hidden until it is asked for, and hidden again by Escape or its close button, never destroyed by them.
+/// Modeless and hidden at first.  Escape and the close button hide it.
 class TMsgWinForm final : public wxFrame, public IMessageWindow {
  public:
-  /// `helpFile` is the full path of the help file of this window, or empty.
+  /// `helpFile` is the full path of this window's help file, or empty.
   explicit TMsgWinForm(const std::string& helpFile);
   ~TMsgWinForm() override;
 
@@ -55,7 +55,6 @@ class TMsgWinForm final : public wxFrame, public IMessageWindow {
   void SendMessage(TMsgWinType kind, const std::string& text) override;
   void CallSoon(std::function<void()> body) override { CallAfter(std::move(body)); }
   void ShowWindow(bool show) override;
-  /// A log that is still open does not keep the host running.
   bool ShouldPreventAppExit() const override { return false; }
 
   void ClearMessagesExecute();
@@ -64,7 +63,7 @@ class TMsgWinForm final : public wxFrame, public IMessageWindow {
   TMessageListView* const MessageListView;
   TAction ClearMessages;
   const std::vector<TAction*> VCMActionList{&ClearMessages};
-  wxMenu VCMPopupMenu;  ///< an item for each action
+  wxMenu VCMPopupMenu;  ///< one item per action
   const std::string HelpFile;
   static constexpr int HelpContext = 25016;
 
@@ -73,7 +72,7 @@ class TMsgWinForm final : public wxFrame, public IMessageWindow {
   void CopySelection() const;
 };
 
-/// The message window, or nullptr.  Its owner is whoever created it.
+/// The message window, or null.  Owned by its creator.
 extern TMsgWinForm* MsgWinForm;
 
 }  // namespace kestrel::addin

@@ -1,19 +1,19 @@
-// A list that shows the rows of somebody else.
+// Virtual list control.
 #pragma once
 
 #include <wx/listctrl.h>
 
 namespace kestrel::addin {
 
-/// The control asks for what it shows and keeps no ticks of its own; the one of Windows, asked for one, would answer
-/// anything.  So who asks or sets a tick here deals with whoever keeps the rows.
+/// Rows and check states belong to the owner and are queried through OnGetItem*().  IsItemChecked() and CheckItem() go to
+/// the owner as well, because the native control of Windows does not store check states of a virtual list.
 class TVirtualList : public wxListView {
  public:
   TVirtualList(wxWindow* parent, long style)
       : wxListView(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, style | wxLC_REPORT | wxLC_VIRTUAL) {}
 
   bool IsItemChecked(long item) const override { return OnGetItemIsChecked(item); }
-  /// Sends what a click on the box sends.
+  /// Sends the event of a click on the check box.
   void CheckItem(long item, bool check) override {
     wxListEvent event(check ? wxEVT_LIST_ITEM_CHECKED : wxEVT_LIST_ITEM_UNCHECKED, GetId());
     event.SetEventObject(this);

@@ -33,26 +33,25 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr const char* kHelpKeyword = "HC_TeamCommitBrowser";
-/// As much of a local file as is shown: a huge one must not stop whoever walks through the rows.
+/// Preview limit; keeps row navigation responsive for huge files.
 constexpr std::size_t kShownBytes = 1 << 20;
 
-/// The beginning of a file, made fit for a text control.
+/// The beginning of a file, for display in a text control.
 std::string BeginningOf(const std::string& fileName) {
   std::error_code unknown;
-  if (std::filesystem::is_other(ToFilePath(fileName), unknown))
-    return {};  // a pipe: reading would wait for ever
+  if (std::filesystem::is_other(ToFilePath(fileName), unknown)) return {};  // reading from a pipe would block
   std::string text(kShownBytes + 1, '\0');
   std::ifstream file(ToFilePath(fileName), std::ios::binary);
   file.read(text.data(), static_cast<std::streamsize>(text.size()));
   text.resize(static_cast<std::size_t>(file.gcount()));
   text = TruncateUtf8(text, kShownBytes);
-  std::ranges::replace(text, '\0', ' ');  // a control's text would end there
+  std::ranges::replace(text, '\0', ' ');  // would end the control's text
   return text;
 }
 
 }  // namespace
 
-/// Says in the window which file of how many is being worked on.
+/// Shows the progress in a line of the window.
 class TCommitBrowser::TProgressLine final : public IProgress {
  public:
   TProgressLine(wxStaticText& line, std::size_t total) : line_(line), total_(total) {}
@@ -74,7 +73,7 @@ class TCommitBrowser::TProgressLine final : public IProgress {
   }
 
  private:
-  /// The window paints itself and swallows clicks and keys: an Escape that waited would close the summary unread.
+  /// Paints the window and discards keyboard and mouse input: a queued Escape would close the summary immediately.
   void HandleEvents() {
     wxGetTopLevelParent(&line_)->Update();
     if (auto* loop = wxEventLoopBase::GetActive())
@@ -124,7 +123,7 @@ void TCommitBrowser::BindEvents() {
   });
   StringGrid1->Bind(wxEVT_GRID_SELECT_CELL, &TCommitBrowser::StringGrid1SelectCell, this);
   StringGrid1->Bind(wxEVT_GRID_CELL_LEFT_CLICK, [this](wxGridEvent& event) {
-    // A click on the cell that is chosen already chooses nothing.
+    // Clicking the current cell does not select a cell, so there is no event that would show the list.
     if (event.GetRow() == StringGrid1->GetGridCursorRow() && event.GetCol() == cgcActivity &&
         StringGrid1->GetGridCursorCol() == cgcActivity && CurrentRow())
       PlaceActivities(event.GetRow());
@@ -154,7 +153,7 @@ void TCommitBrowser::BindEvents() {
 
 void TCommitBrowser::FormShow() {
   FShown = true;
-  FormResize();  // the size event may have come and gone while the rows were gathered
+  FormResize();  // the size event may have been handled before there were columns
   StringGrid1->SetFocus();
   DisplayWorkspaceFile(StringGrid1->GetGridCursorRow());
 }
@@ -173,7 +172,7 @@ TCommitRowData* TCommitBrowser::RowAt(int row) {
 TCommitRowData* TCommitBrowser::CurrentRow() { return RowAt(StringGrid1->GetGridCursorRow()); }
 
 void TCommitBrowser::StringGrid1SelectCell(wxGridEvent& event) {
-  FitMemo(individual_);  // what was typed last may still wait for it
+  FitMemo(individual_);  // the deferred call may be pending
   if (auto* left = CurrentRow()) left->Comment = FromWx(TMemoIndividualComment->GetValue());
   const int row = event.GetRow();
   table_->Highlighted = row;
@@ -199,9 +198,9 @@ void TCommitBrowser::PlaceActivities(int row) {
 void TCommitBrowser::HideActivities() {
   if (!ActivityComboBox->IsShown()) return;
   const bool hadFocus = ActivityComboBox->IsPopupShown() || ActivityComboBox->IsDescendant(FindFocus());
-  ActivityComboBox->Dismiss();  // its list is a window of its own
+  ActivityComboBox->Dismiss();  // the list is a window of its own
   ActivityComboBox->Hide();
-  if (hadFocus) StringGrid1->SetFocus();  // or the keyboard would be nowhere
+  if (hadFocus) StringGrid1->SetFocus();  // otherwise no control would have the focus
 }
 
 void TCommitBrowser::OpenActivities(TCommitActivity activity) {
@@ -281,16 +280,16 @@ bool TCommitBrowser::GridKeyDown(const wxKeyEvent& event) {
                                     static_cast<int>(WXK_NUMPAD_ENTER), static_cast<int>(WXK_F2),
                                     static_cast<int>(WXK_F4)};
   if (std::ranges::count(kOpeningKeys, key)) return OpenActivities(row->Activity), true;
-  return StringGrid1->MoveWith(key);  // the grid's own Home and End would stay in the row
+  return StringGrid1->MoveWith(key);  // by default Home and End stay in the row
 }
 
 bool TCommitBrowser::TurnToPage(const wxKeyEvent& event) {
-  // Tabs show no accelerators by themselves.
+  // The toolkit does not support access keys of tabs.
   const struct {
     wxNotebook* Book;
     std::size_t Page;
     TResString Caption;
-    wxWindow* First;  // where the keyboard goes
+    wxWindow* First;  // gets the focus
   } pages[] = {{TCommitPageControl, 0, sCommitsPage, StringGrid1},
                {TCommitPageControl, 1, sSummaryCommentPage, TMemoSummaryComments},
                {TFileDisplayPageControl, 0, sIndividualCommentPage, TMemoIndividualComment},
@@ -338,12 +337,12 @@ void TCommitBrowser::RestoreComments() {
   const auto summary = memory.Pending(CommitCommentPlace());
   TMemoSummaryComments->ChangeValue(ToWx(summary));
   if (summary.empty() || anyOwn) return;
-  TCheckBoxSummaryComment->SetValue(true);  // as typing it did
+  TCheckBoxSummaryComment->SetValue(true);  // as when it was typed
   TCheckboxIndividualComment->SetValue(false);
 }
 
 void TCommitBrowser::RememberComments() {
-  FitMemo(individual_);  // what was typed last may still wait for it
+  FitMemo(individual_);  // the deferred calls may be pending
   FitMemo(summary_);
   TCommentMemory memory(project_file_);
   const auto* current = CurrentRow();
@@ -355,7 +354,7 @@ void TCommitBrowser::RememberComments() {
 }
 
 void TCommitBrowser::TMemoIndividualCommentChange(wxCommandEvent&) {
-  CallAfter([this] { FitMemo(individual_); });  // GTK is still busy with what was typed
+  CallAfter([this] { FitMemo(individual_); });  // deferred, because GTK is still processing the change
   TCheckBoxSummaryComment->SetValue(false);
   TCheckboxIndividualComment->SetValue(true);
 }
@@ -412,7 +411,7 @@ void TCommitBrowser::TButtonCommitClick(wxCommandEvent&) {
     TButtonCommit->SetFocus();
 }
 
-// A provider's own windows run message loops: nothing of this one may be worked meanwhile.
+// Windows of a provider run event loops: this window must not accept input meanwhile.
 void TCommitBrowser::SetBusy(bool busy) {
   HideActivities();
   busy_ = busy;

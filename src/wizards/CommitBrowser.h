@@ -1,4 +1,4 @@
-// The window that lists every file of the project with its state and a proposed action, and carries them all out.
+// The commit browser: lists all files of the project with status and suggested activity, and performs the activities.
 #pragma once
 
 #include <cstdint>
@@ -29,20 +29,20 @@ struct TCommandContext;
 
 class TCommitBrowser final : public TModalForm {
  public:
-  /// Gathers the rows of the current project.  `expert` is borrowed.  Throws EAbort when there is no provider, or the
-  /// project's directory is no provider project.
+  /// Collects the rows of the current project.  `expert` is borrowed.  Throws EAbort if there is no provider or no provider
+  /// project for the project's directory.
   explicit TCommitBrowser(TCommandContext& expert);
 
   void AddRows();
   void AddRow(const std::string& fileName, const std::string& state, TCommitActivity activity);
-  /// Shows the local file of that row (from 0), or says that there is none.
+  /// Shows the local file of that row (from 0), or a text that there is none.
   void DisplayWorkspaceFile(int row);
 
   void FormCreate();
   void FormShow();
   void FormResize();
   void FormKeyDown(wxKeyEvent& event) override;
-  /// Keeps Tab inside the drop-down; false when the key is none of its business.
+  /// Keeps Tab inside the drop-down list; returns false if the key was not handled.
   bool CMDialogKey(const wxKeyEvent& event);
   void StringGrid1SelectCell(wxGridEvent& event);
   void StringGrid1TopLeftChanged();
@@ -88,7 +88,7 @@ class TCommitBrowser final : public TModalForm {
  private:
   class TProgressLine;
 
-  /// A memo for a comment, and how much of what a provider takes it has used.
+  /// A memo for a comment, and a label with its length.
   struct TCommentMemo {
     wxTextCtrl* Memo;
     wxStaticText* Length;
@@ -104,33 +104,33 @@ class TCommitBrowser final : public TModalForm {
   void BindEvents();
 
   void CloseWith(int modalResult) override;
-  /// Shows the comments that were typed and not used in an earlier browser.
+  /// Restores comments that were typed and not used in an earlier browser.
   void RestoreComments();
-  /// Remembers what is typed, whatever becomes of it.
+  /// Records the typed comments, even if the dialog is cancelled or the commit fails.
   void RememberComments();
-  /// The row of the grid's cursor, nullptr when there is none.
+  /// The row at the grid's cursor, or null.
   TCommitRowData* CurrentRow();
   TCommitRowData* RowAt(int row);
   void PlaceActivities(int row);
   void HideActivities();
-  /// Opens the list of activities of the current row, at that activity.
+  /// Opens the list of activities for the current row, with `activity` preselected.
   void OpenActivities(TCommitActivity activity);
-  /// Keys of the grid and its drop-down.
+  /// Handles keys of the grid and its drop-down list; returns false if the key was not handled.
   bool GridKeyDown(const wxKeyEvent& event);
   bool TurnToPage(const wxKeyEvent& event);
-  /// Holds a memo to what a provider takes.
+  /// Truncates a memo to the length that providers accept and shows how much of it is used.
   static void FitMemo(const TCommentMemo& comment);
-  /// Runs `command` and shows what it throws in a box.  Returns whether it threw none.
+  /// Runs `command` and shows an exception's message; returns whether there was none.
   bool RunShowingErrors(const std::function<void()>& command);
   void SetBusy(bool busy);
 
-  TCommitTable* table_ = nullptr;  // the grid's
+  TCommitTable* table_ = nullptr;  // owned by the grid
   TCommentMemo individual_{};
   TCommentMemo summary_{};
   wxStatusBar* source_status_ = nullptr;
   wxStaticText* progress_ = nullptr;
   std::string project_file_;
-  bool busy_ = false;  // a pass is running
+  bool busy_ = false;  // the activities are being performed
 };
 
 }  // namespace kestrel::addin

@@ -1,4 +1,4 @@
-// The commit browser's controls and where they stand.
+// Creation and layout of the commit browser's controls.
 #include <wx/notebook.h>
 #include <wx/statbmp.h>
 #include <wx/statusbr.h>
@@ -18,13 +18,13 @@ namespace kestrel::addin {
 namespace {
 
 constexpr int kGap = 6;
-constexpr int kImage = 3;  // the command's own
+constexpr int kImage = 3;  // that of the command
 constexpr int kImageSize = 32;
 constexpr int kFilePagesHeight = 132;
 constexpr int kGridHeight = 60;
 
 wxPanel* AddPage(wxNotebook* book, const TResString& caption) {
-  // Painted whole, or on Windows a box that a maximised window moves far stays blank.
+  // Repainted completely on resize: on Windows a check box stays blank if maximising the window moves it far.
   auto* page = new wxPanel(book, wxID_ANY, wxDefaultPosition, wxDefaultSize,
                            wxTAB_TRAVERSAL | wxFULL_REPAINT_ON_RESIZE);
   book->AddPage(page, wxStripMenuCodes(ToWx(caption)));
@@ -37,7 +37,7 @@ wxCheckBox* NewBox(wxWindow* parent, const TResString& label, bool ticked) {
   return box;
 }
 
-/// Pages get their size when they are shown; until then their controls have none, which GTK complains about.
+/// Sizes the pages before they are shown, because GTK warns about controls without a size.
 void SizePages(wxNotebook& book) {
   for (std::size_t page = 0; page < book.GetPageCount(); ++page)
     book.GetPage(page)->SetSize(book.GetClientSize());

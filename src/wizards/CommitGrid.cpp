@@ -54,7 +54,7 @@ wxString TCommitTable::GetColLabelValue(int column) {
 
 wxGridCellAttr* TCommitTable::GetAttr(int row, int, wxGridCellAttr::wxAttrKind) {
   auto& attr = row == Highlighted ? highlighted_ : plain_;
-  attr->IncRef();  // the caller lets go of it
+  attr->IncRef();  // the caller releases it
   return attr.get();
 }
 
@@ -110,7 +110,7 @@ bool TCommitGrid::MoveWith(int key) {
 }
 
 TActivityComboBox::TActivityComboBox(TCommitGrid* parent) : list_(new wxVListBoxComboPopup) {
-  Hide();  // before it exists: it never flashes up
+  Hide();  // before Create(), so that it never appears
   Create(parent, wxID_ANY, {}, wxDefaultPosition, wxDefaultSize, 0, nullptr, wxCB_READONLY | wxWANTS_CHARS);
   SetPopupControl(list_);
   for (int value = 0; value < kCommitActivities; ++value)
@@ -118,12 +118,12 @@ TActivityComboBox::TActivityComboBox(TCommitGrid* parent) : list_(new wxVListBox
   Bind(wxEVT_MOUSEWHEEL, &TActivityComboBox::OnWheel, this);
 }
 
-// The toolkit's own destructor would close the list with calls of what is no longer there.
+// The base class would close the list in its destructor, with virtual calls to destroyed parts.
 TActivityComboBox::~TActivityComboBox() { Dismiss(); }
 
 void TActivityComboBox::OpenAt(TCommitActivity activity) {
   if (!IsPopupShown()) Popup();
-  static_cast<wxVListBox*>(list_)->SetSelection(activity);  // the popup's own would choose it
+  static_cast<wxVListBox*>(list_)->SetSelection(activity);  // that of the popup class would commit it
 }
 
 TCommitActivity TActivityComboBox::Pointed() const {
@@ -131,7 +131,7 @@ TCommitActivity TActivityComboBox::Pointed() const {
   return static_cast<TCommitActivity>(std::max(0, item));
 }
 
-// The toolkit's own would choose the next item: a user who only wants to see further rows would not notice.
+// By default the wheel would select the next item, unnoticed by a user who wants to scroll.
 void TActivityComboBox::OnWheel(wxMouseEvent& event) {
   if (IsPopupShown()) return event.Skip();
   wheelRotation_ += event.GetWheelRotation();

@@ -1,4 +1,4 @@
-// The grid of the commit browser and the drop-down that floats over its first column.
+// The grid of the commit browser and the drop-down list that is shown over its first column.
 #pragma once
 
 #include <wx/generic/grid.h>
@@ -11,14 +11,14 @@
 
 namespace kestrel::addin {
 
-// The misspelling is the unit's own.
+// The spelling is part of the package's interface.
 enum TCommitGridColoumn { cgcActivity, cgcStatus, cgcFileName };
 inline constexpr int kCommitColumns = cgcFileName + 1;
 
-/// The rows as the grid asks for them: only what is on the screen becomes text.  Without rows there is one empty one.
+/// The rows of the grid, converted to text only when visible.  Without rows it shows one empty row.
 class TCommitTable final : public wxGridTableBase {
  public:
-  /// `rows` is borrowed; files are shown as seen from `directory` while TrimPaths is set.
+  /// `rows` is borrowed.  File names are shown relative to `directory` if TrimPaths is set.
   TCommitTable(const std::vector<TCommitRowData>& rows, std::string directory);
 
   bool TrimPaths = true;
@@ -27,7 +27,7 @@ class TCommitTable final : public wxGridTableBase {
   int GetNumberRows() override;
   int GetNumberCols() override { return kCommitColumns; }
   wxString GetValue(int row, int column) override;
-  void SetValue(int, int, const wxString&) override {}  // activities are set through the drop-down
+  void SetValue(int, int, const wxString&) override {}  // activities are set by the drop-down list
   wxString GetColLabelValue(int column) override;
   bool CanHaveAttributes() override { return true; }
   wxGridCellAttr* GetAttr(int row, int column, wxGridCellAttr::wxAttrKind kind) override;
@@ -39,37 +39,37 @@ class TCommitTable final : public wxGridTableBase {
   wxGridCellAttrPtr highlighted_;
 };
 
-/// A grid of whole rows that the keyboard can leave: Tab goes to the next control, not to the next cell.
+/// A grid in which Tab moves to the next control instead of the next cell.
 class TCommitGrid final : public wxGrid {
  public:
   explicit TCommitGrid(wxWindow* parent);
-  /// Takes the table, with rows of that height.
+  /// Sets the table, which the grid then owns, and the height of the rows.
   void Fill(TCommitTable* table, int rowHeight);
   /// Gives all columns the same width.
   void FitColumns();
-  /// Where the cell is in the grid's own window as it is scrolled now.
+  /// The visible position of a cell in the grid's client coordinates.
   wxRect ShownRect(int row, int column) const;
-  /// Moves the cursor as an arrow, page, Home or End key does; false for any other key.
+  /// Moves the cursor for an arrow, page, Home or End key; returns false for any other key.
   bool MoveWith(int key);
 };
 
-/// The list of activities, a child of the grid and not of its window of cells: GTK complains about hidden windows where
-/// it scrolls.  It can be opened with an item pointed at that is not yet chosen.  While it is closed the wheel scrolls
-/// the grid.
+/// The drop-down list of activities.  It is a child of the grid and not of its cell window, because GTK warns about hidden
+/// children of scrolled windows.  It is owner-drawn because its popup can preselect an item without committing it.  While
+/// it is closed the wheel scrolls the grid.
 class TActivityComboBox final : public wxOwnerDrawnComboBox {
  public:
   explicit TActivityComboBox(TCommitGrid* parent);
   ~TActivityComboBox() override;
-  /// Opens the list, if it is not open yet, and points at that activity.
+  /// Opens the list, if necessary, and preselects `activity`.
   void OpenAt(TCommitActivity activity);
-  /// What the list points at while it is open, else what is chosen.
+  /// The preselected activity while the list is open, otherwise the chosen one.
   TCommitActivity Pointed() const;
 
  private:
   void OnWheel(wxMouseEvent& event);
 
   wxVListBoxComboPopup* list_;  // owned by the popup's window
-  int wheelRotation_ = 0;       // since the last whole notch
+  int wheelRotation_ = 0;       // remainder of less than a notch
 };
 
 }  // namespace kestrel::addin

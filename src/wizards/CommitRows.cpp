@@ -40,10 +40,10 @@ bool IsBehind(scc::Long status) {
 }
 bool IsAny(scc::Long) { return true; }
 
-/// The first rule that matches decides.
+/// The first matching rule applies.
 struct TRule {
   bool (*Matches)(scc::Long status);
-  std::optional<bool> LocallyModified;  // nothing: does not matter
+  std::optional<bool> LocallyModified;  // empty: either
   TResString State;
   TCommitActivity Activity;
 };
@@ -75,7 +75,7 @@ void SortWithoutDuplicates(TStringList& names) {
   for (auto& entry : entries) names.push_back(std::move(entry.Name));
 }
 
-/// Where the callback below puts the names, while a population runs; only one runs at a time.
+/// The target of OnPopulated() during a population; null otherwise.  Populations do not nest.
 TStringList* populated = nullptr;
 
 scc::Bool SCC_CALL OnPopulated(void*, scc::Bool, scc::Long status, const char* fileName) noexcept {
@@ -113,7 +113,7 @@ class TCommitRowCollector {
   }
 
  private:
-  /// Looked up before every call: the host may have closed the project meanwhile.
+  /// Looked up before each call, because the host may have closed the project.
   TSCCProviderProject& Project() {
     context_.Activities.RunWaiting();
     return context_.Provider.SelectProject(directory_, sCommitNoProvider);
@@ -147,7 +147,7 @@ class TCommitRowCollector {
     if (files_.empty()) return;
     TStateMessages messages;
     const auto progress = Progress(sAskingStatus);
-    // States that the provider could not tell would pass for files to be added.
+    // Without a status all files would look as if they were not controlled yet, so the failure has to be reported.
     if (!Project().Query(files_, statuses_, messages))
       context_.Log.DisplayMessages(sCommitBrowserCaption, messages);
   }
@@ -164,7 +164,7 @@ class TCommitRowCollector {
     for (std::size_t i = 0; i < files_.size(); ++i) {
       progress->Step(i, files_[i]);
       const auto status = statuses_[i];
-      // No rule asks whether an uncontrolled file differs, and a provider would have nothing to compare it with.
+      // No rule depends on this for an uncontrolled file, which the provider could not compare anyway.
       const bool modified = IsControlled(status) && IsLocallyModified(files_[i]);
       rows.push_back(ClassifyCommitRow(status, modified));
       rows.back().FileName = files_[i];
@@ -197,7 +197,7 @@ TCommitRowData ClassifyCommitRow(scc::Long status, bool locallyModified) {
     return candidate.Matches(status) &&
            candidate.LocallyModified.value_or(locallyModified) == locallyModified;
   });
-  return {rule->Activity, rule->State, {}, {}};  // the last rule matches everything
+  return {rule->Activity, rule->State, {}, {}};  // the last rule always matches
 }
 
 std::vector<TCommitRowData> GatherCommitRows(TCommandContext& context) {

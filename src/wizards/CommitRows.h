@@ -1,4 +1,4 @@
-// What the commit browser lists, without its window: every file of the project with its state and a proposed action.
+// The rows of the commit browser: all files of the project with status and suggested activity.
 #pragma once
 
 #include <cstdint>
@@ -12,7 +12,7 @@ namespace kestrel::addin {
 
 struct TCommandContext;
 
-/// What is done to one file.  The values are the indexes of the drop-down's items.
+/// An operation on one file.  The values are the item indexes of the drop-down list.
 enum TCommitActivity : std::uint8_t {
   caNone,
   caCommit,
@@ -23,28 +23,27 @@ enum TCommitActivity : std::uint8_t {
   caGetLatest,
 };
 inline constexpr int kCommitActivities = caGetLatest + 1;
-/// As the user reads it; a value outside the enumeration has a text of its own.
+/// The activity's name for the user; "Activity Error" for a value outside the enumeration.
 std::string ActivityToString(TCommitActivity activity);
-/// The activity that typing `letter` (of either case) leads to from `current`: the next one, round about, whose text
-/// begins with it; nothing when none does.
+/// Next activity after `current` (wrapping around) whose text starts with `letter`, ignoring case.
 std::optional<TCommitActivity> NextActivityWith(char letter, TCommitActivity current);
 
 /// One listed file.
 struct TCommitRowData {
-  TCommitActivity Activity = caNone;  ///< proposed at first, later what the user picked
-  std::string Status;                 ///< the state in words
+  TCommitActivity Activity = caNone;  ///< suggested or chosen by the user
+  std::string Status;                 ///< for the user
   std::string FileName;               ///< full path
-  std::string Comment;                ///< this file's own
+  std::string Comment;                ///< individual comment
 };
 
-/// State and proposal for a file of that status word.  `locallyModified`: missing on disk, or the local file differs.
-/// Comment and file name stay empty.
+/// Status and suggested activity for a status word; comment and file name stay empty.  `locallyModified` means that the
+/// file is missing on disk or differs.
 TCommitRowData ClassifyCommitRow(scc::Long status, bool locallyModified);
 
-/// The rows of the current project, sorted by name ignoring case, no file twice: the project's files with their
-/// companions, and the files that only the provider knows, at most kMaxFiles in all.  Asks the provider for one
-/// population, one query, and one quick difference per controlled file on disk.  Throws EAbort when there is no
-/// provider, the project's directory is no provider project, or there are too many files.
+/// The rows of the current project, sorted by name ignoring case, without duplicates: the project's files with their
+/// companions and the files known to the provider only.  Calls the provider for one population, one query, and one quick
+/// difference per controlled file on disk.  Throws EAbort if there is no provider, no provider project for the project's
+/// directory, or more than kMaxFiles files.
 std::vector<TCommitRowData> GatherCommitRows(TCommandContext& context);
 
 }  // namespace kestrel::addin

@@ -18,10 +18,10 @@ namespace kestrel::addin {
 
 namespace {
 
-/// What an activity does.
+/// How an activity is performed.
 struct TStep {
   TResString Line;
-  const TFileCommand* Command;  // null: nothing
+  const TFileCommand* Command;  // null: no operation
   bool TakesComment;
   bool Reloads;  // the local copy may have changed
 };
@@ -48,7 +48,7 @@ class TCommitRunner {
         summary_(sProcessingFiles.str() + sCRLF.str()) {}
 
   void Execute(const std::vector<TCommitRowData>& rows, std::unique_ptr<IProgress> progress) {
-    // A window of the provider's may leave the browser enabled.
+    // While a provider shows a modeless window, the user can still press Commit.
     context_.Activities.RequireNoProviderCall();
     Project();
     for (std::size_t i = 0; i < rows.size(); ++i) {
@@ -62,7 +62,7 @@ class TCommitRunner {
   }
 
  private:
-  /// Looked up before every call: the host may have closed the project meanwhile.
+  /// Looked up before each call, because the host may have closed the project.
   TSCCProviderProject& Project() {
     context_.Activities.RunWaiting();
     return context_.Provider.SelectProject(directory_, sCommitNoProvider);
@@ -76,11 +76,11 @@ class TCommitRunner {
       if (done && step.Reloads) changed_.push_back(row.FileName);
       summary_.append(sOutcomeFollows).append(done ? sSucceeded : sFailed);
     }
-    // Listed files are for working on, whatever the provider thinks of that.
+    // Intentional: listed files become writable, whatever the provider set.
     SetFileAttributesOf(row.FileName, faArchive);
   }
 
-  /// An error fails this row only; the others are still carried out.
+  /// Reports any failure for this row only.  Returns whether it succeeded.
   bool Call(const TStep& step, const TCommitRowData& row) {
     const auto& comment = comments_.Individual ? row.Comment : comments_.Summary;
     TCallResult result;

@@ -1,4 +1,4 @@
-// Carries out what the commit browser's rows say, without its window.
+// Performs the activities of the commit browser's rows.
 #pragma once
 
 #include <memory>
@@ -10,22 +10,22 @@
 
 namespace kestrel::addin {
 
-/// Which comment a row's provider call gets.
+/// The comments to use.
 struct TCommitComments {
-  bool Individual = true;  ///< each row's own, else the summary for all
+  bool Individual = true;  ///< each row's comment; otherwise Summary for all
   std::string Summary;
 };
 
-/// Where the browser's comments stand in the memory of comments: a file's own, or with no file the summary.
+/// The place of the browser's comments in TCommentMemory: for a file, or without one for the summary.
 std::string CommitCommentPlace(const std::string& fileName = {});
 
-/// Carries out the activity of every row, one file at a time in row order, reloads what changed and shows a summary of
-/// what was done.  What the editor shows of a file is saved first.  A failure marks only its row in the summary; its
-/// reason goes to the message window.  Afterwards every listed file on disk is writable.  `progress` is told each row
-/// before it is begun; it ends before the summary is shown.  Comments that reach the provider are noted as used.
+/// Performs the activity of every row, one file at a time in row order, reloads changed files and shows a summary.  Saves
+/// each file in the editor first.  A failure does not stop the others: the summary marks its row and the message window
+/// shows the reason.  Makes all listed files writable.  Calls `progress` before each row and destroys it before the
+/// summary is shown.  Records the comments of successful calls as used.
 ///
-/// Throws EAbort, with nothing touched, when there is no provider, when a call of it is running, or when the project's
-/// directory is no provider project.
+/// Throws EAbort, without any change, if there is no provider, one of its calls is running, or there is no provider
+/// project for the project's directory.
 void RunCommit(TCommandContext& context, const std::vector<TCommitRowData>& rows,
                const TCommitComments& comments, std::unique_ptr<IProgress> progress);
 

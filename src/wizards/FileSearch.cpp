@@ -11,7 +11,7 @@ using TStringList = std::vector<std::string>;
 
 std::string PathOf(const std::string& directory, const TDirectoryEntry& entry) {
   std::string path;
-  path.reserve(directory.size() + entry.Name.size() + 1);  // one more: walks append a delimiter
+  path.reserve(directory.size() + entry.Name.size() + 1);  // callers may append a delimiter
   return path.append(directory).append(entry.Name);
 }
 
@@ -43,7 +43,7 @@ void SearchRecursiveFiles(TStringList& target, const std::string& directory) {
 }
 
 void SearchRecursiveDirectories(TStringList& target, const std::string& directory) {
-  auto next = target.size();  // what has been found and not yet entered is the walk's queue
+  auto next = target.size();  // `target` from here on is the queue
   target.push_back(IncludeTrailingPathDelimiter(directory));
   for (; next < target.size(); ++next) {
     const auto current = target[next];

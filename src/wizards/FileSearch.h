@@ -1,8 +1,8 @@
-// Walks of directories.
+// Directory listings.
 //
-// Each function appends to the caller's list.  A directory may be given with or without a trailing delimiter; one that
-// does not exist or cannot be read has no entries, and a walk goes on without it.  A directory's entries come in the
-// order of the file system, hidden and system entries included.
+// Each function appends paths to `target`: the directory, a delimiter, the name.  `directory` may have a trailing delimiter.
+// Missing or unreadable directories have no entries.  Entries are in the order of the file system and include hidden and
+// system entries.
 #pragma once
 
 #include <string>
@@ -10,18 +10,17 @@
 
 namespace kestrel::addin {
 
-/// Every entry (files and subdirectories) directly in the directory: the directory, a delimiter, the name.
+/// The direct entries, files and directories.  Part of the package's interface; no caller here.
 void SearchDirectory(std::vector<std::string>& target, const std::string& directory);
-/// The same, subdirectories only.  A link to a directory counts as one.
+/// The direct subdirectories, links to directories included.  Part of the package's interface; no caller here.
 void FindSubDirectories(std::vector<std::string>& target, const std::string& directory);
 
-// The walks go breadth first and read each directory once.  They do not enter links: what a link leads to belongs to the
-// place where it really is, and a link to a directory above would have no end.  The directory to start from may be a
-// link itself.
+// The recursive functions are breadth first and read each directory once.  They do not follow links, which also avoids
+// cycles; `directory` itself may be a link.
 
-/// Every entry in the whole tree below the directory, without trailing delimiters; a link is an entry.
+/// All entries of the tree, links included, without trailing delimiters.
 void SearchRecursiveFiles(std::vector<std::string>& target, const std::string& directory);
-/// The directory itself, whether it exists or not, and every directory below it, each with a trailing delimiter.
+/// The directory itself, even if it does not exist, and all directories below it, each with a trailing delimiter.
 void SearchRecursiveDirectories(std::vector<std::string>& target, const std::string& directory);
 
 }  // namespace kestrel::addin

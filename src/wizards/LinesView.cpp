@@ -44,7 +44,8 @@ void TLinesView::UpdateLines() {
     measured_ = 0;
     widest_ = 0;
   }
-  std::size_t longest = 0;  // bytes: measuring every line would take longer than showing them
+  std::size_t longest =
+      0;  // in bytes; only lines that set a new record are measured, because measuring is slow
   for (auto row = measured_; row < count; ++row)
     if (const auto& line = source_.Line(row); line.size() > longest) {
       longest = line.size();
@@ -52,7 +53,7 @@ void TLinesView::UpdateLines() {
     }
   measured_ = count;
   SetItemCount(static_cast<long>(count));
-  if (source_.IsTicked && count > 0 && GetFocusedItem() < 0) Focus(0);  // for Space to toggle
+  if (source_.IsTicked && count > 0 && GetFocusedItem() < 0) Focus(0);  // so that Space toggles it
   FitColumn();
   Refresh();
 }

@@ -1,4 +1,4 @@
-// A list of lines that asks its owner for what it shows, so that tens of thousands of them open and scroll at once.
+// A virtual list of lines, with or without check boxes.
 #pragma once
 
 #include <functional>
@@ -10,24 +10,23 @@ namespace kestrel::addin {
 
 class TLinesView final : public TVirtualList {
  public:
-  /// Where the lines come from; asked for the visible ones only.
+  /// The owner of the lines.
   struct TSource {
     std::function<std::size_t()> Count;
     std::function<const std::string&(std::size_t)> Line;
-    /// Both empty for a list without boxes.
+    /// Both empty for a list without check boxes.
     std::function<bool(std::size_t)> IsTicked;
     std::function<void(std::size_t, bool)> SetTicked;
   };
 
   TLinesView(wxWindow* parent, TSource source);
-  /// Shows what the source has now.
+  /// Updates the list from the source.
   void UpdateLines();
-  /// Scrolls to the last line.
   void ShowLast();
-  /// Gives the selected rows the opposite tick of the focused one.
+  /// Sets the check boxes of the selected rows to the opposite of the focused row's.
   void ToggleSelected();
   void SelectAll();
-  /// The selected lines, or all when none is selected.
+  /// Copies the selected lines, or all if none is selected, to the clipboard.
   void CopySelected() const;
 
  private:
@@ -36,7 +35,7 @@ class TLinesView final : public TVirtualList {
   void FitColumn();
 
   TSource source_;
-  std::size_t measured_ = 0;  // lines that the width is known for
+  std::size_t measured_ = 0;  // number of lines included in widest_
   int widest_ = 0;
 };
 

@@ -16,7 +16,7 @@ namespace kestrel::addin {
 
 namespace {
 
-/// This provider's projects are directories of its own file system: there is nothing to browse for.
+/// The projects of this provider are directories of its own file system, so there is nothing to browse.
 constexpr const char* kDirectoryProvider = "ClearCase";
 
 }  // namespace
@@ -65,7 +65,7 @@ void TPlaceProjectController::PageSelectFilesDisplay() {
   files_.clear();
   shown_.clear();
   FExpert.Provider.RequireList(sPlaceNoProvider);
-  std::unordered_set<std::string> known;  // a unit may be another file's companion too
+  std::unordered_set<std::string> known;  // a unit may also be a companion of another file
   for (auto& file : CurrentProjectFiles(/*onlyExisting*/ true))
     if (known.insert(FoldFileName(file)).second) files_.push_back(std::move(file));
   for (const auto& file : files_) shown_.push_back(RelativePath(directory_, file));
@@ -76,7 +76,7 @@ void TPlaceProjectController::PlaceProject() {
   PageStatusDisplay(Work::CanStop);
   bool placed = false;
   RunCatching([&] { placed = Place(); }, [this](const std::exception& error) { AddFailure({error.what()}); });
-  // The mapping file stays when it has been written: it says what was meant.
+  // The mapping file stays even if placing fails (intentional).
   if (placed)
     FExpert.Provider.SetOpenProjectFile(project_file_);
   else
@@ -92,7 +92,7 @@ bool TPlaceProjectController::Place() {
   mapping.Write(FExpert.Provider.Name(), kMapAuxProjPath, project.get_ProjPath());
   TProviderMessageRecorder recorder;
   const bool opened = Open(mapping, recorder);
-  AddFiles(recorder, opened);  // whatever came of it: each file says for itself that it cannot be added
+  AddFiles(recorder, opened);  // intentional even if not opened: reports a failure for each file
   if (opened && !IsStopped()) AddStatus(sPlaceSucceeded);
   return opened;
 }
@@ -109,7 +109,7 @@ void TPlaceProjectController::AddFiles(TProviderMessageRecorder& recorder, bool 
 
 bool TPlaceProjectController::Open(TMappingFile& mapping, TProviderMessageRecorder& recorder) {
   TStateMessages messages;
-  // Once for providers that make the project, once more for those that settle its names only when it exists.
+  // The first call may create the project; some providers report its final names only when it is opened again.
   Project().OpenProject(messages);
   Project().CloseProject(messages);
   recorder.DrainErrors();
@@ -126,10 +126,10 @@ void TPlaceProjectController::AddFile(std::size_t row, TProviderMessageRecorder&
   const auto& file = files_[row];
   TStateMessages messages;
   if (!Project().AddFile({file}, {}, KeepCheckedOut, messages)) {
-    // Seen from the directory above, so that the project's own name leads the way to the file: that is meant.
+    // Intentional: relative to the parent directory, so that the path starts with the project's directory.
     AddStatus(Format(sPlaceAddFailed.Text, {RelativePath(ExtractFileDir(directory_), file)}));
     const auto reasons = Reasons(recorder, messages);
-    if (!opened) return;  // it is the same for all, and shown
+    if (!opened) return;  // the reason is the same for all files, and already shown
     for (const auto& reason : reasons) AddStatus(Format(sPlaceReason.Text, {reason}));
     return;
   }

@@ -1,4 +1,4 @@
-// The wizard that puts the current host project under source control, without its window.
+// The logic of the wizard that puts the current host project under source control.
 #pragma once
 
 #include <vector>
@@ -11,7 +11,7 @@ class TPlaceProjectController final : public TWizardController {
  public:
   explicit TPlaceProjectController(TCommandContext& expert);
 
-  // The files of the first check-in: paths relative to the project's directory, all ticked at first.
+  // The files of the first check-in: paths relative to the project's directory, all checked at first.
   std::size_t FileCount() const { return files_.size(); }
   const std::string& FileName(std::size_t row) const { return shown_[row]; }
   bool IsTicked(std::size_t row) const { return ticked_[row]; }

@@ -11,7 +11,7 @@ inline constexpr TResString sPlaceNoProvider{"Unable to place project, provider 
 inline constexpr TResString sPlaceInitializing{"Initializing Project %s"};
 inline constexpr TResString sPlaceAddOk{"Add %s: ok"};
 inline constexpr TResString sPlaceAddFailed{"Add %s: failed"};
-inline constexpr TResString sPlaceReason{"      %s"};  // stands under the line above
+inline constexpr TResString sPlaceReason{"      %s"};  // below the previous line
 inline constexpr TResString sPlaceSucceeded{"Succeeded"};
 inline constexpr TResString sPlaceStopped{
     "Stopped. Files that were not added: %d. Team | Add Files... adds them."};

@@ -1,4 +1,4 @@
-// What the provider says while a wizard works.
+// Recording of the provider's messages.
 #pragma once
 
 #include <functional>
@@ -10,10 +10,10 @@
 
 namespace kestrel::addin {
 
-/// Listens in for as long as it lives; everything still goes where it went before.
+/// Scoped sink: records provider messages and forwards them to the previous sink.
 class TProviderMessageRecorder final : public IProviderSink {
  public:
-  /// `onLine` (may be empty) is called with every line.
+  /// `onLine` (may be empty) is called for each line.
   explicit TProviderMessageRecorder(std::function<void(const std::string&)> onLine = {})
       : on_line_(std::move(onLine)), previous_(SetProviderSink(this)) {}
   TProviderMessageRecorder(const TProviderMessageRecorder&) = delete;
@@ -30,9 +30,9 @@ class TProviderMessageRecorder final : public IProviderSink {
     if (previous_) previous_->Box(text);
   }
 
-  /// The errors since the last time.
+  /// Returns and removes the recorded errors.
   std::vector<std::string> DrainErrors() { return std::exchange(errors_, {}); }
-  /// The same for its warnings.
+  /// Returns and removes the recorded warnings.
   std::vector<std::string> DrainWarnings() { return std::exchange(warnings_, {}); }
 
  private:

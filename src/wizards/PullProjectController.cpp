@@ -21,13 +21,13 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Projects of this provider are views that exist already: there is nothing to pull.
+// The projects of this provider are views that exist already, so there is nothing to pull.
 constexpr const char* kViewProvider = "ClearCase";
 
-// The one provider whose users may change the local path while they pick a project.
+// Only users of this provider may change the local path while they choose a project.
 constexpr const char* kPathChoosingProvider = "software\\Mirelda\\MSIntegration3";
 
-// What a provider's field for the local path holds, in the text that it gets.
+// Capacity in bytes of a provider's buffer for the local path, without terminator.
 constexpr std::size_t kLongestPath = 260;
 
 bool MayChangePath(const std::string& providerPath) {
@@ -37,7 +37,7 @@ bool MayChangePath(const std::string& providerPath) {
   return SameText(chooser, providerPath);
 }
 
-/// Why a project cannot be pulled into that directory; empty when it can.
+/// The reason why a project cannot be pulled into that directory; empty if it can.
 std::string TargetProblem(const std::string& directory) {
   if (directory.empty()) return sTargetNone;
   if (!IsAbsolutePath(directory)) return sTargetNotAbsolute;
@@ -49,7 +49,7 @@ std::string TargetProblem(const std::string& directory) {
   return {};
 }
 
-/// The nearest directory above that has a mapping file; empty when there is none.
+/// The nearest parent directory with a mapping file; empty if there is none.
 std::string ProjectAbove(std::string directory) {
   bool found = false;
   for (auto above = ExtractFileDir(directory); !found && above != directory; above = ExtractFileDir(above)) {
@@ -61,7 +61,7 @@ std::string ProjectAbove(std::string directory) {
   return found ? directory : std::string();
 }
 
-/// What else the user should know about it.
+/// Remarks about a valid target directory.
 std::string TargetNote(const std::string& directory) {
   if (!TargetProblem(directory).empty()) return {};
   std::string note;
@@ -95,8 +95,8 @@ std::string TPullProjectController::ProjectDirectory() {
   return services ? services->GetStartupDirectory() : std::string();
 }
 
-// The directory comes before the project, since the provider is told of it when the project is picked; the panels are
-// numbered otherwise.
+// The target directory comes before the project, because the provider receives it when the project is chosen.  The panels'
+// numbers have the opposite order.
 void TPullProjectController::ShowPage(int page) {
   switch (page) {
     case 0:
@@ -122,14 +122,14 @@ void TPullProjectController::TargetDirectoryChange(const std::string& text) {
   Changed();
 }
 
-// What the user may leave out of a path: the start-up directory in front, a delimiter at the end.
+// A relative path is resolved against the host's start-up directory.
 std::string TPullProjectController::FullTarget(const std::string& text) {
   const auto path = Trim(text);
   const auto full = ResolvePath(ProjectDirectory(), path);
   return path.empty() || !IsAbsolutePath(full) ? path : NormalizePath(full);
 }
 
-bool TPullProjectController::MayLeave() {
+bool TPullProjectController::CanLeave() {
   if (page_.Panel != 3) return true;
   target_ = FullTarget(target_);
   page_.Problem = TargetProblem(target_);
@@ -139,7 +139,7 @@ bool TPullProjectController::MayLeave() {
 void TPullProjectController::MoveToTarget() {
   auto& project = EnsureProject();
   project.set_LocalPath(target_);
-  Follow(project);
+  SetLocalPathFrom(project);
 }
 
 void TPullProjectController::PageSelectProjectDisplay() {
@@ -151,12 +151,12 @@ void TPullProjectController::PageSelectProjectDisplay() {
 scc::Long TPullProjectController::Browse(TSCCProviderProject& project, TStateMessages& messages) {
   const auto code =
       project.GetProjectPath(messages, /*mayCreate*/ false, MayChangePath(FExpert.Provider.Path()));
-  Follow(project);
+  SetLocalPathFrom(project);
   if (code == scc::SCC_OK && LocalPath() != target_) TargetDirectoryChange(LocalPath());
   return code;
 }
 
-/// What is done from here on.  The provider may say nothing for minutes: the line must be there before.
+/// Shows the text of a step before it begins, because the provider may write nothing for minutes.
 void TPullProjectController::BeginStep(const TResString& text) {
   progress_ = text;
   Changed();
@@ -197,11 +197,12 @@ bool TPullProjectController::Open(TProviderMessageRecorder& recorder) {
   return false;
 }
 
-/// Sets FProjectFile; returns how many files are to be fetched: the list begins with those of the host's own project.
+/// Sets FProjectFile.  Returns the number of files to fetch, that is, without those of the host's current project, which
+/// the list contains as well.
 std::size_t TPullProjectController::FindProjectFile() {
   BeginStep(sPullListing);
   TStringList files;
-  Project();  // the one whose files are asked for
+  Project();  // makes it current
   ProviderAddRemove(FExpert, files, scc::SCC_COMMAND_GET);
   const auto found = std::ranges::find_if(files, IsProjectFile);
   if (found != files.end()) FProjectFile = *found;
@@ -231,7 +232,7 @@ void TPullProjectController::ListFetched() {
   SearchRecursiveFiles(entries, target_);
   TStatusArray statuses;
   TProviderMessageRecorder recorder;
-  // A provider may keep as many files of its own there as the project has: more than one query's worth, then.
+  // With the provider's own files there may be more entries than one query can have.
   for (std::size_t first = 0; first < entries.size(); first += kMaxFiles) {
     const auto last = std::min(entries.size(), first + kMaxFiles);
     const TStringList part(entries.begin() + static_cast<std::ptrdiff_t>(first),
@@ -250,7 +251,7 @@ void TPullProjectController::ListFetched() {
   }
 }
 
-// Always in the target directory, wherever below it the project file is: that is the directory that the provider knows.
+// The mapping file is in the target directory, which the provider knows, even if the project file is below it.
 void TPullProjectController::WriteMapping() {
   const auto& project = Project();
   TMappingFile mapping(
@@ -268,7 +269,7 @@ void TPullProjectController::Finish() {
   AddStatus(sPullDone);
   RemoveProject(ProjectDirectory());
   if (!FProjectFile.empty()) RemoveProject(ExtractFileDir(FProjectFile));
-  RemoveProject(LocalPath());  // the project file may be in a directory below
+  RemoveProject(LocalPath());  // differs if the project file is in a subdirectory
 }
 
 }  // namespace kestrel::addin

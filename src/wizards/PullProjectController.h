@@ -1,4 +1,4 @@
-// The wizard that fetches a provider project into a local directory, without its window.
+// The logic of the wizard that fetches a provider project into a local directory.
 #pragma once
 
 #include "wizards/WizardController.h"
@@ -11,12 +11,12 @@ class TPullProjectController final : public TWizardController {
 
   void TargetDirectoryChange(const std::string& text);
   const std::string& TargetDirectory() const { return target_; }
-  /// A sentence about the target directory that the user should know; empty when there is nothing to say.
+  /// Remarks about the target directory for the user; may be empty.
   const std::string& TargetNote() const { return note_; }
 
-  /// What is being done on the status page, for the line above the list.
+  /// The current step, for the line above the status list; empty when the work is done.
   const std::string& Progress() const { return progress_; }
-  /// The project is there and can be opened in the host.
+  /// Whether the project was pulled and can be opened in the host.
   bool CanOpen() const { return can_open_; }
   /// The project file among the pulled files; empty until found.
   const std::string& ProjectFile() const { return FProjectFile; }
@@ -29,7 +29,7 @@ class TPullProjectController final : public TWizardController {
   std::string NoProviderText() const override;
   bool Offers(const std::string& provider) const override;
   scc::Long Browse(TSCCProviderProject& project, TStateMessages& messages) override;
-  bool MayLeave() override;
+  bool CanLeave() override;
 
   std::string FullTarget(const std::string& text);
   void PageSelectTargetDisplay();

@@ -58,7 +58,7 @@ void TPullProjectWizard::UpdateControls() {
   if (FromWx(TargetDirectory->GetValue()) != controller_.TargetDirectory())
     TargetDirectory->ChangeValue(ToWx(controller_.TargetDirectory()));
   SetSentence(NoteLabel, controller_.TargetNote());
-  // The provider may have moved it while the project was picked.
+  // The provider may have changed the target directory.
   SetSentence(TargetLabel, Format(sTargetOfPull.Text, {controller_.TargetDirectory()}));
   Label1->SetLabel(
       wxControl::EscapeMnemonics(ToWx(controller_.Page().Next ? sPullStatus.str() : controller_.Progress())));
@@ -87,7 +87,7 @@ void TPullProjectWizard::BrowseForTargetFolder() {
   if (dialog.ShowModal() == wxID_OK) BrowseForTargetFolderAccept(dialog);
 }
 
-// Starts at the directory that the box names, or at the nearest one above it that exists.
+// Starts at the typed directory or its nearest existing parent.
 void TPullProjectWizard::BrowseForTargetFolderBeforeExecute(wxDirDialog& dialog) {
   auto directory = ExcludeTrailingPathDelimiter(Trim(controller_.TargetDirectory()));
   while (!directory.empty() && !DirectoryExists(directory) && ExtractFileDir(directory) != directory)
@@ -100,7 +100,7 @@ void TPullProjectWizard::BrowseForTargetFolderAccept(const wxDirDialog& dialog) 
   TargetDirectory->SetFocus();
 }
 
-// A path that is wider than its box is shown whole as a hint.
+// A path that is wider than its text box is shown as a tooltip.
 void TPullProjectWizard::TargetDirectoryMouseMove(wxMouseEvent& event) {
   event.Skip();
   const auto path = TargetDirectory->GetValue();

@@ -20,7 +20,7 @@ class TPullProjectWizard final : public TWizardForm {
   void BrowseForTargetFolderAccept(const wxDirDialog& dialog);
   void TargetDirectoryMouseMove(wxMouseEvent& event);
   void Page3PanelMouseMove(wxMouseEvent& event);
-  /// The project file that the user wants to have opened; empty for none.
+  /// The project file that the user wants to open; empty for none.
   std::string FileToOpen() const;
 
   wxStaticText* DirectionLabelSelectTargetDirectory;

@@ -13,7 +13,7 @@ inline constexpr TResString sPullNoProjectFile{"Corvane project file not found"}
 inline constexpr TResString sPullGetOf{"Get of \"%s\" SUCCEEDED"};
 inline constexpr TResString sPullDone{"Done"};
 
-// What the user is told about the target directory.
+// Problems of the target directory, and remarks about it.
 inline constexpr TResString sTargetNone{"Name the directory that the project is to be pulled into."};
 inline constexpr TResString sTargetNotAbsolute{"Give the full path of the directory."};
 inline constexpr TResString sTargetTooLong{"%s is longer than the %d bytes that providers can take."};
@@ -29,7 +29,7 @@ inline constexpr TResString sTargetInProject{
     "It is inside the directory of another project that is under source control: %s"};
 inline constexpr TResString sTargetOfPull{"The project is pulled into %s."};
 
-// What the progress line says.
+// The progress line.
 inline constexpr TResString sPullOpening{"Opening the project..."};
 inline constexpr TResString sPullListing{"Asking for the project's files..."};
 inline constexpr TResString sPullFetching{"Fetching the project's files..."};

@@ -16,9 +16,9 @@ namespace kestrel::addin {
 namespace {
 
 constexpr int kLastPage = 3;
-// The status page is the fourth, and no step: the user has nothing to do there.
+// The fourth page, the status page, does not count as a step.
 constexpr long long kSteps = 3;
-// A provider may have one for each of thousands of files; below the list is room for a few.
+// There may be thousands; the form has room for a few.
 constexpr std::ptrdiff_t kShownReasons = 3;
 
 }  // namespace
@@ -26,7 +26,7 @@ constexpr std::ptrdiff_t kShownReasons = 3;
 void TWizardController::ShowProblemOf(const std::function<void()>& action) {
   page_.Problem.clear();
   const auto run = [&] {
-    FExpert.Activities.RequireNoProviderCall();  // a window of the provider's may leave this one enabled
+    FExpert.Activities.RequireNoProviderCall();  // it may show a modeless window
     action();
   };
   RunCatching(run, [this](const std::exception& error) { page_.Problem = error.what(); });
@@ -112,7 +112,7 @@ void TWizardController::cbProvidersChange(int selected) {
     project_name_.clear();
     local_path_.clear();
     FExpert.Provider.Release();
-    PageSelectProviderDisplay();  // holds if the provider cannot be created
+    PageSelectProviderDisplay();  // the result if the provider cannot be created
     InitializeProject();
     PageSelectProviderDisplay();
   });
@@ -132,7 +132,7 @@ void TWizardController::Show(int panel, const TResString& next, bool nextEnabled
   page_.Cancel = true;
   page_.NextCaption = next;
   page_.NoProviders = false;
-  Changed();  // what follows may open the provider's dialog, with this page behind it
+  Changed();  // shows the page before the provider's dialog opens
 }
 
 void TWizardController::PageSelectProviderDisplay() {
@@ -159,9 +159,9 @@ void TWizardController::PageStatusDisplay(Work work) {
 
 void TWizardController::Complete(bool succeeded) {
   page_.Working = false;
-  page_.Cancel = false;  // there is nothing left to cancel
+  page_.Cancel = false;
   page_.Next = true;
-  page_.Back = !succeeded;  // what failed can be corrected and tried again
+  page_.Back = !succeeded;  // the user can correct the input and retry
   Changed();
 }
 
@@ -180,7 +180,7 @@ void TWizardController::NextFinishButtonClick() {
     return Changed();
   }
   ShowProblemOf([this] {
-    if (!MayLeave()) return;
+    if (!CanLeave()) return;
     ++FPage;
     DisplayPage();
   });
@@ -206,7 +206,7 @@ void TWizardController::ProjectBrowserButtonClick() {
     TProviderMessageRecorder recorder;
     auto& project = EnsureProject();
     const auto code = Browse(project, messages);
-    page_.Problem.clear();  // why something was refused meanwhile
+    page_.Problem.clear();  // may have been set by a nested event
     if (code == scc::SCC_OK) {
       Pick(project);
     } else if (code < 0) {

@@ -136,8 +136,8 @@ void TWizardForm::Changed() {
   UpdatePage();
   if (!controller_.Page().Working) return;
   Update();
-  // The user's clicks and keys too: they reach this form only, and no button of it but Cancel can be pressed.  Left where
-  // they are they would act on what is shown when the work is done.
+  // Dispatches input as well: no control of this form but Cancel is enabled, and input that stayed queued would apply to
+  // the page that is shown after the work.
   auto* loop = wxEventLoopBase::GetActive();
   if (loop && !loop->IsYielding()) loop->YieldFor(wxEVT_CATEGORY_UI | wxEVT_CATEGORY_USER_INPUT);
   next_update_ = TClock::now() + kBetweenUpdates;

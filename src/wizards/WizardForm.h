@@ -1,5 +1,5 @@
-// What the windows of the two project wizards have in common: four panels of which one is shown, the provider page, the
-// status list and the three buttons.  The rules are TWizardController'; this only shows them.
+// Common window of the two project wizards: four panels, one of them visible, the provider page, the status list and three
+// buttons.  The logic is in TWizardController.
 #pragma once
 
 #include <chrono>
@@ -42,27 +42,27 @@ class TWizardForm : public TModalForm {
   TLinesView* lbStatus;
 
  protected:
-  /// `pages` is borrowed and is used once FormCreate() is called.
+  /// `controller` is borrowed and need not be constructed before FormCreate().
   explicit TWizardForm(TWizardController& controller);
-  /// To be called by the derived constructor, when all controls are there.
+  /// Call at the end of the derived constructor, when all controls exist.
   void FormCreate();
-  /// Brings the controls of the derived form in line with its pages.
+  /// Updates the controls of the derived form from its controller.
   virtual void UpdateControls() {}
-  /// Where the keyboard goes on that panel; nullptr: to the Next button, or to the status list while it grows.
+  /// The control that gets the focus on that panel.  Null means the Next button, or the status list during the work.
   virtual wxWindow* FirstControl(int panel) const;
-  /// The help of the form; empty when there is none.
+  /// The help keyword of the form; may be empty.
   virtual std::string HelpKeyword() const { return {}; }
   void FormKeyDown(wxKeyEvent& event) override;
-  /// Whoever closes it: not while it works.
+  /// Ignores close requests while work is in progress.
   void CloseWith(int modalResult) override;
 
-  /// A panel's column, with the margins that all panels have.
+  /// The sizer of a panel, with standard margins.
   static wxBoxSizer* ColumnOf(wxPanel* panel);
-  /// A text box with a button for browsing behind it.
+  /// A text box followed by a button for browsing.
   static wxBoxSizer* BrowseRow(wxTextCtrl* text, wxButton* button);
   static wxStaticText* AddLabel(wxPanel* panel, const TResString& text);
   wxButton* MakeBrowseButton(wxPanel* panel, const TResString& hint);
-  /// A sentence that is wrapped to the width of the page.
+  /// Sets a label's text and wraps it to the width of the page.
   void SetSentence(wxStaticText* label, const std::string& text);
 
  private:
@@ -81,7 +81,7 @@ class TWizardForm : public TModalForm {
 
   TWizardController& controller_;
   wxStaticText* ProblemLabel;
-  int panel_ = 0;  // the one that is shown
+  int panel_ = 0;  // the visible one
   TClock::time_point next_update_;
 };
 
