@@ -8,13 +8,13 @@ namespace kestrel {
 
 namespace {
 
-/// Where the file name begins: behind the last delimiter, else at 0.
+/// The offset of the file name: after the last delimiter, or 0.
 std::size_t NameStart(std::string_view path) {
   const auto last = std::find_if(path.rbegin(), path.rend(), IsPathDelim);
   return static_cast<std::size_t>(path.rend() - last);
 }
 
-/// Where the extension begins, or the path's end.
+/// The offset of the extension, or the length of the path.
 std::size_t ExtStart(std::string_view path) {
   const auto dot = path.rfind('.');
   return dot == path.npos || dot < NameStart(path) ? path.size() : dot;
@@ -26,7 +26,7 @@ std::string_view WithoutTrailingDelimiters(std::string_view path) {
   return path;
 }
 
-/// A path taken apart, in normal form: without "." and, as far as possible, without "..".
+/// The normalized components of a path.
 struct TParts {
   std::string Root;
   std::vector<std::string_view> Names;
@@ -37,11 +37,11 @@ void Append(TParts& parts, std::string_view name) {
   const bool up = name == "..";
   if (up && !parts.Names.empty() && parts.Names.back() != "..")
     parts.Names.pop_back();
-  else if (!up || parts.Root.empty() || !IsPathDelim(parts.Root.back()))  // above a root there is nothing
+  else if (!up || parts.Root.empty() || !IsPathDelim(parts.Root.back()))  // a root is its own parent
     parts.Names.push_back(name);
 }
 
-TParts TakeApart(std::string_view path) {
+TParts SplitPath(std::string_view path) {
   const auto root = RootLength(path);
   TParts parts{NormalizeRoot(path.substr(0, root)), {}};
   for (auto at = path.begin() + static_cast<std::ptrdiff_t>(root);; ++at) {
@@ -91,16 +91,16 @@ std::string RelativePathBelow(std::string_view base, std::string_view path) {
 }
 
 std::string NormalizePath(std::string_view path) {
-  const auto parts = TakeApart(path);
+  const auto parts = SplitPath(path);
   return path.empty() ? std::string() : Join(parts.Root, parts.Names);
 }
 
 std::string RelativePath(std::string_view base, std::string_view path) {
-  const auto from = TakeApart(base);
-  const auto to = TakeApart(path);
+  const auto from = SplitPath(base);
+  const auto to = SplitPath(path);
   const auto [ours, theirs] = std::ranges::mismatch(from.Names, to.Names, SameFileName);
-  const bool unknown =
-      ours != from.Names.end() && *ours == "..";  // what is the directory called that it came from?
+  // The name of the directory that a leading ".." left is unknown.
+  const bool unknown = ours != from.Names.end() && *ours == "..";
   if (base.empty() || unknown || !SameFileName(from.Root, to.Root)) return std::string(path);
   std::vector<std::string_view> way(static_cast<std::size_t>(from.Names.end() - ours), "..");
   way.insert(way.end(), theirs, to.Names.end());

@@ -22,7 +22,7 @@ namespace {
 constexpr std::string_view kPrefix = ".corvane-";
 constexpr std::string_view kSuffix = ".tmp";
 
-/// The process that made the file of that name; nothing for the name of another file.
+/// The process that created the file; empty if the name is not that of a temporary file.
 std::optional<unsigned long> ProcessOf(std::string_view name) {
   if (!name.starts_with(kPrefix) || !name.ends_with(kSuffix)) return std::nullopt;
   unsigned long process = 0;

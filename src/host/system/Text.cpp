@@ -16,8 +16,8 @@ bool IsBlank(char c) { return static_cast<unsigned char>(c) <= ' '; }
 
 bool IsContinuation(char c) { return (static_cast<unsigned char>(c) & 0xC0) == 0x80; }
 
-/// What the first two bytes of a character may be.  The second is bounded so that no character has two spellings and
-/// none lies outside of Unicode.
+/// Valid first two bytes of a multi-byte character.  The range of the second excludes overlong forms, surrogates and values
+/// beyond Unicode.
 struct TLeadRow {
   unsigned char First, Last;
   std::size_t Size;
@@ -29,7 +29,7 @@ constexpr TLeadRow kLeads[] = {
     {0xF1, 0xF3, 4, 0x80, 0xBF}, {0xF4, 0xF4, 4, 0x80, 0x8F},
 };
 
-/// The bytes of the UTF-8 character that `text` begins with; 0 when it begins with none.
+/// The length of the UTF-8 character at the start of `text`; 0 if there is none.
 std::size_t CharacterSize(std::string_view text) {
   const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
   if (byte(0) < 0x80) return 1;
@@ -91,7 +91,7 @@ std::string_view TruncateUtf8(std::string_view text, std::size_t bytes) {
   if (text.size() <= bytes) return text;
   auto end = bytes;
   while (end > 0 && bytes - end < 3 && IsContinuation(text[end])) --end;
-  // More than three continuation bytes in a row are no character: such text is cut where it was asked for.
+  // More than three continuation bytes are not UTF-8; such text is truncated at exactly `bytes`.
   return text.substr(0, IsContinuation(text[end]) ? bytes : end);
 }
 

@@ -2,7 +2,7 @@
 
 namespace kestrel {
 
-// A terminal takes what is printed as it is, and every program has the one that it was started from.
+// Nothing to do on POSIX.
 void PrepareConsole() {}
 
 }  // namespace kestrel

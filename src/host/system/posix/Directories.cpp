@@ -1,4 +1,3 @@
-// What a directory holds.
 #include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -15,8 +14,8 @@ struct TCloseDirectory {
   void operator()(DIR* directory) const { closedir(directory); }
 };
 
-/// Follows links, as everything that opens the entry would.
-bool LeadsToDirectory(DIR* directory, const char* name) {
+/// Follows links.
+bool IsDirectory(DIR* directory, const char* name) {
   struct stat info {};
   return fstatat(dirfd(directory), name, &info, 0) == 0 && S_ISDIR(info.st_mode);
 }
@@ -26,16 +25,16 @@ bool IsLink(DIR* directory, const char* name) {
   return fstatat(dirfd(directory), name, &info, AT_SYMLINK_NOFOLLOW) == 0 && S_ISLNK(info.st_mode);
 }
 
-/// Most file systems tell the kind with the name; only links, and entries of the others, are looked at.
+/// Most file systems report the kind with the name; stat is needed for links and for other file systems only.
 TDirectoryEntry EntryOf(DIR* directory, const dirent& entry) {
   const char* name = entry.d_name;
   switch (entry.d_type) {
     case DT_DIR:
       return {name, true, false};
     case DT_LNK:
-      return {name, LeadsToDirectory(directory, name), true};
+      return {name, IsDirectory(directory, name), true};
     case DT_UNKNOWN:
-      return {name, LeadsToDirectory(directory, name), IsLink(directory, name)};
+      return {name, IsDirectory(directory, name), IsLink(directory, name)};
     default:
       return {name, false, false};
   }

@@ -1,4 +1,3 @@
-// Whole files, read and written.
 #include <fcntl.h>
 #include <signal.h>
 #include <sys/stat.h>
@@ -36,26 +35,26 @@ class TFile {
   }
   int Get() const { return descriptor_; }
   bool IsOpen() const { return descriptor_ >= 0; }
-  /// Some file systems report a full disk only here.
+  /// Returns false on failure; some file systems report a full disk only here.
   bool Close() { return close(std::exchange(descriptor_, -1)) == 0; }
 
  private:
   int descriptor_;
 };
 
-/// A new file that disappears with this object unless it became the real one.
+/// A new file that is deleted with this object unless Replace() succeeded.
 class TTemporaryFile {
  public:
-  /// Throws, naming `target`, when its directory takes no new file.
+  /// Throws if the file cannot be created in the directory of `target`.
   explicit TTemporaryFile(const std::string& target)
       : target_(target), path_(NewName(target)), file_(Create()) {}
   ~TTemporaryFile() {
     if (!path_.empty()) unlink(path_.c_str());
   }
 
-  void TakePermissionsOf(const struct stat& old) const {
-    // Only root may give a file away: for others the file becomes theirs, which is what saving does everywhere.
-    [[maybe_unused]] const int given = fchown(file_.Get(), old.st_uid, old.st_gid);
+  void CopyPermissions(const struct stat& old) const {
+    // Only root may change the owner; for other users the file becomes theirs.
+    [[maybe_unused]] const int ignored = fchown(file_.Get(), old.st_uid, old.st_gid);
     Check(fchmod(file_.Get(), old.st_mode & 0777) == 0);
   }
 
@@ -83,7 +82,7 @@ class TTemporaryFile {
   int Create() {
     constexpr int flags = O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC;
     int descriptor = open(path_.c_str(), flags, 0666);
-    // Left behind by a process of the same number that was killed.
+    // A killed process with the same id left a file with that name.
     while (descriptor < 0 && errno == EEXIST)
       descriptor = open((path_ = NewName(target_)).c_str(), flags, 0666);
     if (descriptor < 0) FailToWrite(target_, errno);
@@ -92,7 +91,7 @@ class TTemporaryFile {
   void Check(bool succeeded) const {
     if (!succeeded) FailToWrite(target_, errno);
   }
-  /// So that the new name survives a power failure as well; file systems that cannot do that do it by themselves.
+  /// Makes the rename survive a power failure.  Ignores errors: some file systems do not support or need it.
   void SyncDirectory() const {
     const auto directory = ExtractFileDir(target_);
     const TFile opened(open(directory.empty() ? "." : directory.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
@@ -104,12 +103,12 @@ class TTemporaryFile {
   TFile file_;
 };
 
-/// The file that a link leads to: a link stays a link when its file is written.
-std::string BehindLinks(const std::string& path) {
+/// Resolves links, so that writing replaces the file and not the link.
+std::string ResolveLinks(const std::string& path) {
   std::error_code failed;
   const auto real = std::filesystem::canonical(path, failed);
   if (!failed) return real.string();
-  // One that leads nowhere: what it stands for is not known here, and it must not be replaced.
+  // A dangling link must not be replaced.
   if (std::error_code ignored; std::filesystem::is_symlink(path, ignored)) FailToWrite(path, failed.value());
   return path;
 }
@@ -117,15 +116,15 @@ std::string BehindLinks(const std::string& path) {
 }  // namespace
 
 void WriteFileAtomically(const std::string& path, const std::string& contents) {
-  const auto target = BehindLinks(path);
+  const auto target = ResolveLinks(path);
   struct stat old {};
   const bool exists = stat(target.c_str(), &old) == 0;
   if (exists && S_ISDIR(old.st_mode)) FailToWrite(path, EISDIR);
-  // A rename asks nobody: without this a file that its owner protected would be replaced.
+  // rename() would replace a read-only file.
   if (exists && !(old.st_mode & S_IWUSR)) FailToWrite(path, EACCES);
   if (exists && access(target.c_str(), W_OK) != 0) FailToWrite(path, errno);
   TTemporaryFile file(target);
-  if (exists) file.TakePermissionsOf(old);
+  if (exists) file.CopyPermissions(old);
   file.Write(contents);
   file.Replace();
   RemoveStaleTemporaryFiles(ExtractFileDir(target));

@@ -8,7 +8,7 @@ namespace kestrel {
 
 TModuleHandle LoadModule(const std::string& path, std::string* error, TDependencySearch) {
   const bool absolute = IsAbsolutePath(path);
-  // RTLD_NOW: a library that lacks something fails here, with a message, not in the middle of a command.
+  // RTLD_NOW: missing symbols are reported here and do not end the program during a command.
   const auto module = absolute ? dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL) : nullptr;
   if (!module && error) *error = absolute ? dlerror() : path + ": not an absolute path";
   return module;

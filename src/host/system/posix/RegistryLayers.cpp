@@ -28,7 +28,7 @@ std::string HomeDirectory() {
   return user ? user->pw_dir : "/";
 }
 
-/// The user's directory of the store.  A relative XDG_CONFIG_HOME does not count, as the convention has it.
+/// The user's directory for registry files.  A relative XDG_CONFIG_HOME is ignored, as its specification demands.
 std::string UserDirectory() {
   const auto config = Environment("XDG_CONFIG_HOME");
   const auto base =

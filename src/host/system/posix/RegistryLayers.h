@@ -1,4 +1,4 @@
-// A root of the registry as the files that lie over each other: what an upper one does not hold shines through.
+// One registry root as a stack of INI files; a value is read from the topmost file that has it.
 #pragma once
 
 #include <functional>
@@ -11,23 +11,22 @@
 
 namespace kestrel {
 
-/// Reads all files, writes the uppermost.  Nothing is kept between calls: what another program writes is seen by the
-/// next one.
+/// Reads all files and writes the topmost.  Nothing is cached, so that changes by other programs are visible.
 class TRegistryLayers {
  public:
-  /// `files` from the uppermost down, at least one; they need not exist.
+  /// `files` from the topmost down, at least one; they need not exist.
   explicit TRegistryLayers(std::vector<std::string> files) : files_(std::move(files)) {}
-  /// The files of a root, as the environment places them.
+  /// The files of a root.
   static TRegistryLayers Of(TRegRoot root);
 
   bool HasKey(const std::string& key) const;
   std::optional<std::string> Value(const std::string& key, const std::string& name) const;
-  /// Names of the upper files come first; each name once.
+  /// The distinct names, those of the topmost file first.
   std::vector<std::string> ValueNames(const std::string& key) const;
 
-  // These throw std::runtime_error with a sentence that names the file when it cannot be written.
+  // These throw std::runtime_error with a sentence that names the file if it cannot be written.
   void SetValue(const std::string& key, const std::string& name, const std::string& value) const;
-  /// False when the uppermost file did not hold it; a lower one may still do.
+  /// Returns false if the topmost file does not contain it; a lower one may still do so.
   bool DeleteValue(const std::string& key, const std::string& name) const;
   bool DeleteKey(const std::string& key) const;
 

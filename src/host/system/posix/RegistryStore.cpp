@@ -28,8 +28,8 @@ bool IsAtOrBelow(std::string_view section, std::string_view foldedKey) {
 
 // ---------------------------------------------------------------------------------------------------- files
 
-/// Keeps other processes and threads from updating the files of a directory while it lives.  Where the file system
-/// knows no locks the last writer wins.
+/// Scoped: excludes updates of the directory's files by other processes and threads.  Has no effect on file systems
+/// without locks; there the last writer wins.
 class TDirectoryLock {
  public:
   explicit TDirectoryLock(const std::string& directory)
@@ -52,8 +52,8 @@ void MakeDirectory(const std::string& directory) {
   if (failed) throw std::runtime_error("Cannot create " + directory + ": " + failed.message());
 }
 
-/// What an update starts from.  A file that holds no text, as a disk failure leaves it, is put aside: its owner may
-/// still want to look into it.
+/// The contents before an update.  A binary file, which may result from a disk failure, is first copied to ".broken" and
+/// then treated as empty.
 std::string ReadForUpdate(const std::string& path) {
   if (!FileExists(path)) return {};
   auto text = ReadWholeFile(path);

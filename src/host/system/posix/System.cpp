@@ -20,7 +20,8 @@ namespace {
 
 constexpr mode_t kAllWrite = S_IWUSR | S_IWGRP | S_IWOTH;
 
-std::string IfItFits(std::string text, std::size_t bufferSize) {
+/// Counts characters, not bytes.
+std::string TextIfFits(std::string text, std::size_t bufferSize) {
   const auto begins = [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; };
   return static_cast<std::size_t>(std::ranges::count_if(text, begins)) < bufferSize ? text : std::string();
 }
@@ -47,15 +48,15 @@ std::string GetUserNameText(std::size_t bufferSize) {
   passwd entry{};
   passwd* found = nullptr;
   if (getpwuid_r(getuid(), &entry, buffer.data(), buffer.size(), &found) == 0 && found)
-    return IfItFits(found->pw_name, bufferSize);
-  // Containers often run under a number that no user list knows.
+    return TextIfFits(found->pw_name, bufferSize);
+  // In containers the user id often has no entry in the user database.
   const char* name = std::getenv("USER");
-  return IfItFits(name ? name : "", bufferSize);
+  return TextIfFits(name ? name : "", bufferSize);
 }
 
 std::string GetCurrentDirectoryText(std::size_t bufferSize) {
   std::error_code ignored;
-  return IfItFits(fs::current_path(ignored).string(), bufferSize);
+  return TextIfFits(fs::current_path(ignored).string(), bufferSize);
 }
 
 std::string FullPath(const std::string& path) {
@@ -81,7 +82,7 @@ std::uint32_t GetFileAttributesOf(const std::string& path) {
 bool SetFileAttributesOf(const std::string& path, std::uint32_t attributes) {
   const auto mode = ModeOf(path);
   if (!mode) return false;
-  // Read-only holds for everybody; making a file writable again gives no rights to others.
+  // Read-only applies to all users; writable to the owner only.
   const mode_t wanted = attributes & faReadOnly ? *mode & ~kAllWrite : *mode | S_IWUSR;
   return wanted == *mode || chmod(path.c_str(), wanted & 07777) == 0;
 }

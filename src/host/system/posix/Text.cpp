@@ -13,8 +13,7 @@ const std::string_view LineEnd = "\n";
 
 namespace {
 
-/// Makes this thread read and write UTF-8, whatever locale the program runs in.  Case tables need no more than the
-/// character type.
+/// Scoped: makes the character functions of this thread use UTF-8, whatever the program's locale.
 class TUtf8Scope {
  public:
   TUtf8Scope() : before_(uselocale(Locale())) {}
@@ -35,8 +34,7 @@ class TUtf8Scope {
 bool IsAscii(char c) { return static_cast<unsigned char>(c) < 0x80; }
 char FoldAscii(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
 
-/// Appends the first character of `text` in lower case and returns how many bytes it took.  A byte that begins no
-/// character is kept.
+/// Appends the first character of `text` in lower case and returns its length in bytes.  An invalid byte is kept.
 std::size_t AppendFolded(std::string& folded, std::string_view text) {
   std::mbstate_t state{};
   wchar_t wide = 0;
@@ -52,7 +50,7 @@ std::size_t AppendFolded(std::string& folded, std::string_view text) {
   return used;
 }
 
-// Code page 1252 is ISO 8859-1 but for these; five of them have no character and stay control characters.
+// The characters in which code page 1252 differs from ISO 8859-1.  Five are unassigned and stay control characters.
 constexpr std::array<wchar_t, 32> k1252From80 = {
     0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
@@ -88,7 +86,7 @@ std::string DateTimeToStr(std::time_t when) {
   std::tm local{};
   localtime_r(&when, &local);
   std::array<char, 256> text{};
-// The locale decides about the digits of the year: that is what its default format means.
+// The locale's default format determines the number of digits of the year.
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wformat-y2k"
   return {text.data(), std::strftime(text.data(), text.size(), "%x %X", &local)};

@@ -1,4 +1,4 @@
-// The system's own headers, in the order they need.
+// The Windows headers in the order that they require.
 #pragma once
 
 // clang-format off
@@ -10,7 +10,7 @@
 
 namespace kestrel {
 
-/// Deletes what a call of the system allocated for its caller.
+/// Deleter for memory that a Windows function allocated for its caller.
 struct TLocalFree {
   void operator()(void* memory) const { LocalFree(memory); }
 };

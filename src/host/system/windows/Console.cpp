@@ -1,4 +1,3 @@
-// What a program prints, in the console that it was started from.
 #include <fcntl.h>
 #include <io.h>
 
@@ -15,14 +14,15 @@ namespace {
 
 UINT codePageBefore = 0;  ///< of the console; 0 without one
 
-/// False for a program with windows, unless its output goes to a file or a pipe.
-bool LeadsSomewhere(std::FILE* stream) {
+/// False for a program with windows, unless its output is redirected to a file or pipe.
+bool IsConnected(std::FILE* stream) {
   const int file = _fileno(stream);
   return file >= 0 && GetFileType(reinterpret_cast<HANDLE>(_get_osfhandle(file))) != FILE_TYPE_UNKNOWN;
 }
 
-/// Whole texts, as they are: by itself the C library hands bytes on one by one, or as characters of their own.
-void KeepTextsTogether(std::FILE* stream) {
+/// Binary, fully buffered: otherwise the CRT writes UTF-8 one byte at a time and the console shows every byte as a
+/// character.
+void SetBinaryBuffered(std::FILE* stream) {
   constexpr std::size_t kBuffer = 65536;
   if (!_isatty(_fileno(stream))) return;
   _setmode(_fileno(stream), _O_BINARY);
@@ -38,7 +38,7 @@ void RestoreCodePage() {
 
 void PrepareConsole() {
   if (codePageBefore != 0) return;
-  const bool output = LeadsSomewhere(stdout), errors = LeadsSomewhere(stderr);
+  const bool output = IsConnected(stdout), errors = IsConnected(stderr);
   if (!(output && errors) && AttachConsole(ATTACH_PARENT_PROCESS)) {
     if (!output) std::freopen("CONOUT$", "w", stdout);
     if (!errors) std::freopen("CONOUT$", "w", stderr);
@@ -46,7 +46,7 @@ void PrepareConsole() {
   codePageBefore = GetConsoleOutputCP();
   if (codePageBefore == 0 || !SetConsoleOutputCP(CP_UTF8)) return;
   std::atexit(RestoreCodePage);
-  for (auto* stream : {stdout, stderr}) KeepTextsTogether(stream);
+  for (auto* stream : {stdout, stderr}) SetBinaryBuffered(stream);
 }
 
 }  // namespace kestrel

@@ -1,5 +1,3 @@
-// What a directory holds.
-
 #include <memory>
 
 #include "system/Paths.h"

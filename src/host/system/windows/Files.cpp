@@ -1,5 +1,3 @@
-// Whole files, read and written.
-
 #include <algorithm>
 #include <initializer_list>
 #include <memory>
@@ -20,7 +18,7 @@ namespace {
 [[noreturn]] void FailToWrite(const std::string& path, DWORD error) { Fail("Cannot write", path, error); }
 [[noreturn]] void FailToRead(const std::string& path, DWORD error) { Fail("Cannot read", path, error); }
 
-// The system's calls take their sizes as 32 bits.
+// ReadFile and WriteFile have 32-bit sizes.
 constexpr std::size_t kBlock = std::size_t{1} << 20;
 
 class TFile {
@@ -44,8 +42,8 @@ class TFile {
   HANDLE handle_ = INVALID_HANDLE_VALUE;
 };
 
-/// Tries again for a second: another process that looks into the file just now, as virus scanners and indexers do, is in
-/// the way for a moment only.
+/// Retries for one second while `attempt` fails with one of the errors `passing`.  Virus scanners and indexers open files
+/// for a short time.
 template <typename TAttempt>
 bool RetryOnSharingViolation(std::initializer_list<DWORD> passing, const TAttempt& attempt) {
   constexpr int kAttempts = 50;
@@ -61,17 +59,17 @@ bool RetryOnSharingViolation(std::initializer_list<DWORD> passing, const TAttemp
 
 // ------------------------------------------------------------------------------------------------- the target
 
-/// Where contents go.
+/// The file to write.
 struct TTarget {
-  std::string Shown;  ///< as the caller has it
-  std::wstring Path;  ///< the file behind links: a link stays a link when its file is written
+  std::string Shown;  ///< as passed by the caller, for messages
+  std::wstring Path;  ///< links resolved, so that writing replaces the file and not the link
   bool Exists;
 
-  /// With its delimiter.
+  /// With a trailing delimiter.
   std::string Folder() const { return FromWide(Path.substr(0, Path.find_last_of(L"\\:") + 1)); }
 };
 
-/// The name of an open file without links in it; empty where the system has none, as on some virtual disks.
+/// The name of an open file with links resolved; empty if the file system does not support that, as some virtual disks.
 std::wstring FinalName(HANDLE file) {
   constexpr DWORD kLongestPath = 32768;
   std::wstring name(kLongestPath, L'\0');
@@ -80,7 +78,7 @@ std::wstring FinalName(HANDLE file) {
   return name;
 }
 
-/// Throws when there is something that may not be written: replacing it would not ask.
+/// Throws if the file exists and is not writable; MoveFileExW would replace it nevertheless.
 TTarget FindTarget(const std::string& path) {
   const auto name = ToWideFileName(path);
   const auto attributes = GetFileAttributesW(name.c_str());
@@ -98,13 +96,13 @@ TTarget FindTarget(const std::string& path) {
 
 // ------------------------------------------------------------------------------------------------- its successor
 
-/// A list of permissions and what its folder may add to it.
+/// The access control list of a file.
 struct TPermissions {
   std::unique_ptr<void, TLocalFree> Descriptor;
   SECURITY_DESCRIPTOR_CONTROL Control = 0;
 };
 
-/// Without a descriptor where the file system has none or does not show it.
+/// Without a descriptor if the file system does not support it or access is denied.
 TPermissions PermissionsOf(const std::wstring& path) {
   PSECURITY_DESCRIPTOR descriptor = nullptr;
   if (GetNamedSecurityInfoW(path.c_str(), SE_FILE_OBJECT, DACL_SECURITY_INFORMATION, nullptr, nullptr,
@@ -116,21 +114,22 @@ TPermissions PermissionsOf(const std::wstring& path) {
   return permissions;
 }
 
-/// Exactly those: the calls that let the folder add its own would let others read what they could not.
+/// Sets exactly these permissions.  SetNamedSecurityInfoW would add those that the folder grants, so that other users could
+/// read the file.
 bool SetPermissions(const std::wstring& path, const TPermissions& permissions) {
-  // The system keeps the mark of an inherited list only for who says that he knows about it.
+  // Windows clears SE_DACL_AUTO_INHERITED unless SE_DACL_AUTO_INHERIT_REQ is set as well.
   if (permissions.Control & SE_DACL_AUTO_INHERITED)
     SetSecurityDescriptorControl(permissions.Descriptor.get(), SE_DACL_AUTO_INHERIT_REQ,
                                  SE_DACL_AUTO_INHERIT_REQ);
   return SetFileSecurityW(path.c_str(), DACL_SECURITY_INFORMATION, permissions.Descriptor.get());
 }
 
-/// A new file that disappears with this object unless it took the target's place.
+/// A new file that is deleted with this object unless Replace() succeeded.
 class TTemporaryFile {
  public:
-  /// Throws when the target's directory takes no new file.
+  /// Throws if the file cannot be created in the target's directory.
   explicit TTemporaryFile(const TTarget& target) : target_(target) {
-    // One of that name was left behind by a process of the same number that was killed.
+    // A killed process with the same id may have left a file with that name.
     while (!file_.Open(path_ = NewName(), GENERIC_WRITE, CREATE_NEW))
       Check(GetLastError() == ERROR_FILE_EXISTS);
   }
@@ -141,9 +140,9 @@ class TTemporaryFile {
     if (!path_.empty()) DeleteFileW(path_.c_str());
   }
 
-  /// What may not be handed on stays as the folder gives it to a new file; but a list that is protected from just that
-  /// must not be lost.
-  void TakePermissions() const {
+  /// Copies permissions and attributes of the target.  If permissions cannot be copied, the new file has those inherited
+  /// from its folder; that is a failure only if the target is protected from inheritance.
+  void CopyPermissions() const {
     const auto permissions = PermissionsOf(target_.Path);
     Check(!permissions.Descriptor || SetPermissions(path_, permissions) ||
           !(permissions.Control & SE_DACL_PROTECTED));
@@ -185,7 +184,7 @@ class TTemporaryFile {
 void WriteFileAtomically(const std::string& path, const std::string& contents) {
   const auto target = FindTarget(path);
   TTemporaryFile file(target);
-  if (target.Exists) file.TakePermissions();
+  if (target.Exists) file.CopyPermissions();
   file.Write(contents);
   file.Replace();
   RemoveStaleTemporaryFiles(target.Folder());
@@ -194,7 +193,7 @@ void WriteFileAtomically(const std::string& path, const std::string& contents) {
 bool IsProcessRunning(unsigned long process) {
   const auto handle = OpenProcess(SYNCHRONIZE, FALSE, process);
   if (!handle) return GetLastError() != ERROR_INVALID_PARAMETER;
-  // A process that has ended keeps its number as long as somebody has a handle of it.
+  // The id of a process that has ended stays valid while there is a handle to it.
   const bool ended = WaitForSingleObject(handle, 0) == WAIT_OBJECT_0;
   CloseHandle(handle);
   return !ended;

@@ -16,18 +16,18 @@ namespace kestrel {
 
 namespace {
 
-/// One call on its way through CallInFrame.
-struct TGuardedCall {
+/// A call made by CallInFrame.
+struct TSehCall {
   void (*Body)(void*);
   void* Data;
   std::exception_ptr Exception;
   std::optional<DWORD> Fault;
 };
 
-// What a thread keeps to handle a stack overflow with, bytes: less than the unwinding needs would end the process.
+// Stack in bytes reserved for handling a stack overflow; with less than unwinding needs the process would end.
 constexpr ULONG kSpareStack = 32 * 1024;
 
-// What GCC's run-time raises for an exception of its kind; one that another compiler threw so has no exception_ptr.
+// Raised by GCC's runtime for a C++ exception.  One that another compiler threw this way has no exception_ptr.
 constexpr DWORD kForeignGccException = 0x20474343;
 
 struct TFaultRow {
@@ -52,7 +52,7 @@ constexpr TFaultRow kFaults[] = {
     {EXCEPTION_PRIV_INSTRUCTION, sPrivilegedInstruction},
     {EXCEPTION_STACK_OVERFLOW, sStackOverflow},
     {kForeignGccException, sForeignCppException},
-    {0xE06D7363, sForeignCppException},  // as another compiler's run-time throws
+    {0xE06D7363, sForeignCppException},  // raised by another compiler's runtime
 };
 
 std::string NameOf(DWORD fault) {
@@ -67,12 +67,13 @@ std::string NameOf(DWORD fault) {
 
 extern "C" {
 
-/// Calls function(call) inside a frame that stops what the system raises and tells KeepFault.  No C++ exception may pass
-/// it: the two kinds of unwinding know nothing of each other.
-void CallInFrame(void (*function)(TGuardedCall*), TGuardedCall* call);
+/// Calls function(call) in a frame that passes structured exceptions to RecordFault.  `function` must not throw C++
+/// exceptions, because the frame has no unwind information for them.
+void CallInFrame(void (*function)(TSehCall*), TSehCall* call);
 
-/// Whether CallInFrame shall end because of this.  Runs while the stack still stands, perhaps on its last page.
-int __attribute__((used)) KeepFault(const EXCEPTION_RECORD* record, TGuardedCall* call) {
+/// Records a structured exception; returns whether CallInFrame handles it.  Runs before unwinding, after a stack overflow
+/// on the last page of the stack.
+int __attribute__((used)) RecordFault(const EXCEPTION_RECORD* record, TSehCall* call) {
   if (record->ExceptionCode == EXCEPTION_BREAKPOINT || record->ExceptionCode == EXCEPTION_SINGLE_STEP)
     return 0;
   call->Fault = record->ExceptionCode;
@@ -83,8 +84,8 @@ int __attribute__((used)) KeepFault(const EXCEPTION_RECORD* record, TGuardedCall
 
 #ifdef __x86_64__
 
-// The system finds the frame through the tables of the image: between 1 and 2 its C handler asks the filter, unwinds and
-// goes on at 3.  The call may not be the last instruction before 2, where its return address would lie outside.
+// The system finds the frame in the image's unwind tables.  For an exception between 1 and 2 __C_specific_handler calls the
+// filter, unwinds and continues at 3.  The nop keeps the return address of the call before 2.
 //
 //   rsp + 32: call
 asm(R"(
@@ -116,18 +117,18 @@ CallInFrame:
 
 /// `frame` is CallInFrame's rsp.
 extern "C" LONG __attribute__((used)) CallInFrameFilter(EXCEPTION_POINTERS* fault, char* frame) {
-  TGuardedCall* call = *reinterpret_cast<TGuardedCall**>(frame + 32);
-  return KeepFault(fault->ExceptionRecord, call) ? EXCEPTION_EXECUTE_HANDLER : EXCEPTION_CONTINUE_SEARCH;
+  TSehCall* call = *reinterpret_cast<TSehCall**>(frame + 32);
+  return RecordFault(fault->ExceptionRecord, call) ? EXCEPTION_EXECUTE_HANDLER : EXCEPTION_CONTINUE_SEARCH;
 }
 
 #else
 
-// The system finds the frame through the list that begins at fs:0.  The handler goes on searching while others unwind
-// (flags 2 and 4) and where KeepFault says no.  Otherwise it lets the handlers of the skipped calls end - RtlUnwind keeps
-// no register but ebp - and goes on at the frame as if the call had returned.
+// The system finds the frame in the list that begins at fs:0.  The handler continues the search during an unwind (flags 2
+// and 4) and if RecordFault returns 0.  Otherwise it unwinds the inner frames, where RtlUnwind preserves no register but
+// ebp, and continues at the frame as if the call had returned.
 //
-//   frame +  0: the next handler of the list    frame +  8: edi, esi, ebx, ebp    frame + 28: function
-//   frame +  4: CallInFrameHandler              frame + 24: the way back          frame + 32: call
+//   frame +  0: next handler in the list        frame +  8: edi, esi, ebx, ebp    frame + 28: function
+//   frame +  4: CallInFrameHandler              frame + 24: return address        frame + 32: call
 asm(R"(
   .text
   .globl _CallInFrame
@@ -162,7 +163,7 @@ _CallInFrameHandler:
   movl 12(%ebp), %ecx
   pushl 32(%ecx)
   pushl %eax
-  call _KeepFault
+  call _RecordFault
   testl %eax, %eax
   jz 2f
   pushl $0
@@ -184,7 +185,7 @@ _CallInFrameHandler:
 
 namespace {
 
-void Call(TGuardedCall* call) {
+void Call(TSehCall* call) {
   try {
     call->Body(call->Data);
   } catch (...) {
@@ -198,11 +199,12 @@ void Call(TGuardedCall* call) {
 std::string CallWithSehFrame(void (*body)(void* data), void* data) {
   ULONG spare = kSpareStack;
   SetThreadStackGuarantee(&spare);
-  TGuardedCall call{body, data, {}, {}};
+  TSehCall call{body, data, {}, {}};
   CallInFrame(Call, &call);
   if (call.Exception) std::rethrow_exception(call.Exception);
   if (!call.Fault) return {};
-  if (call.Fault == EXCEPTION_STACK_OVERFLOW) _resetstkoflw();  // or the next one would end the process
+  if (call.Fault == EXCEPTION_STACK_OVERFLOW)
+    _resetstkoflw();  // otherwise the next overflow would end the process
   return NameOf(*call.Fault);
 }
 

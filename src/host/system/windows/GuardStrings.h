@@ -1,4 +1,4 @@
-// What a fault is called.
+// Display names of structured exceptions.
 #pragma once
 
 #include "system/Text.h"

@@ -17,15 +17,15 @@ namespace kestrel {
 
 namespace {
 
-/// Lets LOAD_LIBRARY_SEARCH_USER_DIRS search the folders in PATH.  The system takes absolute paths only, so that the
-/// current directory is not one of them.
+/// Scoped: makes LOAD_LIBRARY_SEARCH_USER_DIRS search the folders in PATH.  AddDllDirectory rejects relative paths, so that
+/// the current directory is not searched.
 class TPathFolders {
  public:
   TPathFolders() {
     std::wstring path(GetEnvironmentVariableW(L"PATH", nullptr, 0), L'\0');
     path.resize(GetEnvironmentVariableW(L"PATH", path.data(), static_cast<DWORD>(path.size())));
     std::erase(path, L'"');
-    // No order is promised, but what was added last has been seen to be searched first.
+    // The order is not documented; in practice the folder that was added last is searched first.
     for (auto end = path.size(); end != path.npos && !path.empty();) {
       const auto before = end == 0 ? path.npos : path.rfind(L';', end - 1);
       const auto begin = before == path.npos ? 0 : before + 1;
@@ -44,7 +44,7 @@ class TPathFolders {
   std::vector<DLL_DIRECTORY_COOKIE> added_;
 };
 
-/// The module, or the error of the system.
+/// The module, or the error code.
 struct TLoaded {
   HMODULE Module;
   DWORD Error;
@@ -79,7 +79,7 @@ std::string NameOf(WORD machine) {
   }
 }
 
-/// The processor that a program or library is made for; 0 for any other file.
+/// The machine type of a program or library; 0 for any other file.
 WORD MachineOf(const std::string& path) {
   std::ifstream file(std::filesystem::path(ToWideFileName(path)), std::ios::binary);
   const auto read = [&file](std::streamoff position, auto value) {
@@ -92,7 +92,8 @@ WORD MachineOf(const std::string& path) {
   return read(header + LONG{offsetof(IMAGE_NT_HEADERS, FileHeader.Machine)}, WORD{});
 }
 
-/// The system has the same words whether the library itself or one that it needs is at fault.
+/// The reason why a library cannot be loaded.  The system's messages do not tell whether the library itself or a dependency
+/// is the cause.
 std::string Reason(const std::string& path, TDependencySearch search, DWORD error) {
   if (error == ERROR_MOD_NOT_FOUND && FileExists(path))
     return search == TDependencySearch::OwnFolder ? sLacksLibrary : sLacksLibraryInPath;
@@ -122,8 +123,8 @@ TModuleHandle LoadModule(const std::string& path, std::string* error, TDependenc
 void* FindSymbol(TModuleHandle module, const char* name) {
   if (!module) return nullptr;
   const auto symbol = Find(module, name);
-  // Some 32-bit tools export a C function with the underscore that the compiler puts before its name.  With the bytes of
-  // its arguments behind it ("_name@8") it would be one that is called otherwise.
+  // Some 32-bit tools export a C function with the compiler's leading underscore.  Decorated names with "@8" at the end are
+  // not tried, because they have another calling convention.
   return symbol || !kIs32Bit ? symbol : Find(module, std::string("_") + name);
 }
 

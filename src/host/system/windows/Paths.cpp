@@ -9,8 +9,8 @@ namespace kestrel {
 namespace {
 
 constexpr std::string_view kDelimiters = "\\/";
-constexpr std::string_view kAsItStands = "\\\\?\\";  // in front of a name: the system is not to interpret it
-constexpr std::string_view kShareAsItStands = "\\\\?\\UNC\\";  // the same for a share
+constexpr std::string_view kVerbatim = "\\\\?\\";  // prefix of names that the system does not interpret
+constexpr std::string_view kVerbatimUnc = "\\\\?\\UNC\\";
 
 bool IsLetter(char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); }
 
@@ -22,14 +22,14 @@ bool BeginsWith(std::string_view path, std::string_view prefix) {
   return SameFileName(path.substr(0, prefix.size()), prefix);
 }
 
-/// Where the name ends that begins at `at`, or behind the delimiters there.
+/// The end of the name at offset `at`, leading delimiters skipped.
 std::size_t NameEnd(std::string_view path, std::size_t at) {
   return std::min(path.find_first_of(kDelimiters, path.find_first_not_of(kDelimiters, at)), path.size());
 }
 
-/// "\\server\share\": the two names belong to the root.
+/// The length of "\\server\share\".
 std::size_t UncRootLength(std::string_view path) {
-  const auto server = BeginsWith(path, kShareAsItStands) ? kShareAsItStands.size() : 2;
+  const auto server = BeginsWith(path, kVerbatimUnc) ? kVerbatimUnc.size() : 2;
   const auto share = NameEnd(path, NameEnd(path, server));
   return share == path.size() ? share : share + 1;
 }
@@ -40,7 +40,7 @@ std::string WithOwnDelimiters(std::string_view path) {
   return own;
 }
 
-/// "\\server\share\" of its two names, whatever delimiters are between them.
+/// Builds "\\server\share\" from the two names, separated by any delimiters.
 std::string UncRoot(std::string_view names) {
   auto root = IncludeTrailingPathDelimiter("\\\\" + WithOwnDelimiters(names));
   const auto bothDelimit = [](char a, char b) { return a == PathDelim && b == PathDelim; };
@@ -61,13 +61,13 @@ std::size_t RootLength(std::string_view path) {
 }
 
 std::string NormalizeRoot(std::string_view root) {
-  if (BeginsWith(root, kShareAsItStands)) return UncRoot(root.substr(kShareAsItStands.size()));
-  if (BeginsWith(root, kAsItStands) && IsAbsolutePath(root.substr(kAsItStands.size())))
-    root.remove_prefix(kAsItStands.size());
+  if (BeginsWith(root, kVerbatimUnc)) return UncRoot(root.substr(kVerbatimUnc.size()));
+  if (BeginsWith(root, kVerbatim) && IsAbsolutePath(root.substr(kVerbatim.size())))
+    root.remove_prefix(kVerbatim.size());
   return IsUnc(root) ? UncRoot(root) : WithOwnDelimiters(root);
 }
 
-// Neither "C:name" nor "\name" says on its own where the file is.
+// "C:name" and "\name" are not absolute: they depend on the current directory or drive.
 bool IsAbsolutePath(std::string_view path) {
   return IsUnc(path) || (HasDrive(path) && path.size() > 2 && IsPathDelim(path[2]));
 }
@@ -76,7 +76,7 @@ std::string ResolvePath(std::string_view directory, std::string_view path) {
   auto drive = directory.substr(0, RootLength(directory));
   if (!drive.empty() && IsPathDelim(drive.back())) drive.remove_suffix(1);
   if (IsAbsolutePath(path)) return std::string(path);
-  // "\name" lies on the directory's drive or share, "C:name" in the directory if that is on C.
+  // "\name" is on the directory's drive or share; "C:name" is in the directory if that is on drive C.
   if (RootLength(path) == 1) return std::string(drive).append(path);
   if (HasDrive(path) && SameFileName(path.substr(0, 2), drive)) path.remove_prefix(2);
   return directory.empty() || HasDrive(path) ? std::string(path)

@@ -17,7 +17,6 @@ namespace {
                            SystemMessage(static_cast<unsigned long>(error)));
 }
 
-/// As the system's calls take it.
 std::wstring WideKey(const std::string& key) { return ToWide(CanonicalKey(key)); }
 
 HKEY RootOf(TRegRoot root) { return root == TRegRoot::LocalMachine ? HKEY_LOCAL_MACHINE : HKEY_CURRENT_USER; }

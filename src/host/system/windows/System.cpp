@@ -13,8 +13,8 @@ namespace {
 
 constexpr std::size_t kLongestPath = 32768;
 
-/// The system counts characters, not the bytes that they have as UTF-8.
-std::string IfItFits(const std::wstring& text, std::size_t bufferSize) {
+/// Counts UTF-16 units, not bytes.
+std::string TextIfFits(const std::wstring& text, std::size_t bufferSize) {
   return text.size() < bufferSize ? FromWide(text) : std::string();
 }
 
@@ -39,13 +39,13 @@ std::string ProgramFolder() {
 std::string GetUserNameText(std::size_t bufferSize) {
   std::array<wchar_t, UNLEN + 1> name{};
   auto size = static_cast<DWORD>(name.size());
-  return GetUserNameW(name.data(), &size) ? IfItFits(name.data(), bufferSize) : std::string();
+  return GetUserNameW(name.data(), &size) ? TextIfFits(name.data(), bufferSize) : std::string();
 }
 
 std::string GetCurrentDirectoryText(std::size_t bufferSize) {
   std::wstring directory(GetCurrentDirectoryW(0, nullptr), L'\0');
   directory.resize(GetCurrentDirectoryW(static_cast<DWORD>(directory.size()), directory.data()));
-  return IfItFits(directory, bufferSize);
+  return TextIfFits(directory, bufferSize);
 }
 
 std::string FullPath(const std::string& path) {
@@ -77,7 +77,7 @@ bool SetFileAttributesOf(const std::string& path, std::uint32_t attributes) {
 
 void MessageBeep(TBeep kind) { ::MessageBeep(static_cast<UINT>(kind)); }
 
-// The system beeps by itself.
+// Not needed: the system sounds beeps itself.
 void SetBeepHandler(std::function<void(TBeep)>) {}
 
 }  // namespace kestrel

@@ -22,8 +22,8 @@ std::string FoldAsciiLetters(std::string_view text) {
   return folded;
 }
 
-/// With MB_ERR_INVALID_CHARS empty when a byte of `text` is no part of a character in that code page; otherwise such a
-/// byte becomes the replacement character.
+/// With the flag MB_ERR_INVALID_CHARS the result is empty if `text` is invalid in the code page; without it invalid bytes
+/// become replacement characters.
 std::wstring Decode(UINT codePage, DWORD flags, std::string_view text) {
   std::wstring wide(text.size(), L'\0');
   wide.resize(static_cast<std::size_t>(MultiByteToWideChar(codePage, flags, text.data(),
@@ -34,7 +34,7 @@ std::wstring Decode(UINT codePage, DWORD flags, std::string_view text) {
 
 std::wstring DecodeUtf8(std::string_view text) { return Decode(CP_UTF8, MB_ERR_INVALID_CHARS, text); }
 
-/// `text` in the active code page; `lost` tells whether that lacks a character of it.
+/// Encodes `text` in the active code page; sets `lost` if a character is missing there.
 std::string Encode(DWORD flags, std::wstring_view text, bool& lost) {
   BOOL replaced = FALSE;
   std::string narrow(text.size() * 4, '\0');
@@ -45,12 +45,12 @@ std::string Encode(DWORD flags, std::wstring_view text, bool& lost) {
   return narrow;
 }
 
-/// Text that needs no conversion, whatever it holds.
+/// Whether `text` needs no conversion: it is ASCII, or the code page is UTF-8.
 bool IsSameInCodePage(std::string_view text) {
   return GetACP() == CP_UTF8 || std::all_of(text.begin(), text.end(), IsAscii);
 }
 
-/// The code page of the system's locale, which a manifest that asks for UTF-8 does not change.
+/// The code page of the system's locale, also if the program's manifest sets UTF-8.
 UINT LocalePage() {
   DWORD page = 0;
   GetLocaleInfoW(LOCALE_SYSTEM_DEFAULT, LOCALE_IDEFAULTANSICODEPAGE | LOCALE_RETURN_NUMBER,
@@ -66,7 +66,7 @@ bool HasWideCharacters(UINT codePage) {
 }
 
 SYSTEMTIME LocalTime(std::time_t when) {
-  // Counted in tenths of a microsecond since 1601.
+  // FILETIME counts units of 100 ns since 1601.
   constexpr long long kSecond = 10'000'000;
   constexpr long long kUnixEpoch = 116'444'736'000'000'000;
   const ULARGE_INTEGER ticks{.QuadPart = static_cast<ULONGLONG>(when * kSecond + kUnixEpoch)};
@@ -103,7 +103,7 @@ std::optional<std::string> ToCodePageExact(std::string_view text) {
   const auto wide = DecodeUtf8(text);
   if (wide.empty()) return std::nullopt;
   bool lost = false;
-  // No "best fit": a name that only looks alike is another file.
+  // Without "best fit" characters: a similar name would be another file.
   auto narrow = Encode(WC_NO_BEST_FIT_CHARS, wide, lost);
   return lost ? std::nullopt : std::optional(std::move(narrow));
 }
@@ -117,7 +117,7 @@ std::string ToCodePageLossy(std::string_view text) {
 std::string FromCodePageLossy(std::string_view text) {
   if (std::all_of(text.begin(), text.end(), IsAscii)) return std::string(text);
   if (GetACP() != CP_UTF8) return FromWide(Decode(CP_ACP, 0, text));
-  // Where the second byte of a character may be an ASCII one no part can be taken for itself.
+  // In a multi-byte code page a trailing byte may be ASCII, so that runs of invalid bytes cannot be decoded separately.
   if (HasWideCharacters(LocalePage()) && DecodeUtf8(text).empty()) return FromLocalePage(text);
   return ReplaceInvalidUtf8(text, FromLocalePage);
 }

@@ -11,7 +11,7 @@ namespace kestrel {
 
 namespace {
 
-// Folders already fail at 248 characters: an 8.3 name has to fit below them.
+// Paths of folders must be shorter than 248 characters, so that an 8.3 name fits.
 constexpr std::size_t kClassicLimit = 247;
 
 }  // namespace

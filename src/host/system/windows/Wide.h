@@ -1,4 +1,4 @@
-// The system's own text is UTF-16; everybody else here speaks UTF-8.
+// Conversions between UTF-8 and the UTF-16 of Windows.
 #pragma once
 
 #include <string>
@@ -6,14 +6,14 @@
 
 namespace kestrel {
 
-/// Bytes that are no UTF-8 become replacement characters.
+/// Invalid bytes become replacement characters.
 std::wstring ToWide(std::string_view text);
 std::string FromWide(std::wstring_view text);
 
-/// A file name as the system's calls take it: delimiters of its own kind, and beyond the classic limit of 260 characters.
+/// A file name for Windows functions: with backslashes, and with the prefix "\\?\" if it is absolute and too long otherwise.
 std::wstring ToWideFileName(std::string_view path);
 
-/// The system's own words for an error of GetLastError(), without a line end.
+/// The system's message for an error of GetLastError(), without a line ending.
 std::string SystemMessage(unsigned long error);
 
 }  // namespace kestrel
