@@ -26,7 +26,7 @@ TCommentsForm::TCommentsForm(TCommentModel& model)
   LayOut();
   Bind(wxEVT_INIT_DIALOG, [this](wxInitDialogEvent&) { FormShow(); });
   // Deferred, because the control is still processing the change.
-  CommentsMemo->Bind(wxEVT_TEXT, [this](wxCommandEvent&) { CallAfter([this] { FitMemo(); }); });
+  CommentsMemo->Bind(wxEVT_TEXT, [this](wxCommandEvent&) { CallAfter([this] { comment_.Update(); }); });
   btnOK->Bind(wxEVT_BUTTON, &TCommentsForm::btnOKClick, this);
   btnCancel->Bind(wxEVT_BUTTON, &TCommentsForm::btnCancelClick, this);
   btnRecent->Bind(wxEVT_BUTTON, &TCommentsForm::btnRecentClick, this);
@@ -39,32 +39,27 @@ void TCommentsForm::CreateControls() {
   const auto button = [this](wxWindowID id, const TResString& label) {
     return new wxButton(this, id, ToWx(label), wxDefaultPosition, FromDIP(wxSize(80, 30)));
   };
-  CommentsMemo = new wxTextCtrl(this, wxID_ANY, ToWx(model_.Text), wxDefaultPosition,
-                                FromDIP(wxSize(423, 153)), wxTE_MULTILINE);
+  comment_ = TCommentMemo::Create(this, FitComment, FromDIP(wxSize(423, 153)));
+  CommentsMemo = comment_.Memo;
+  CommentsMemo->ChangeValue(ToWx(model_.Text));
   cbApplyToAll = new wxCheckBox(this, wxID_ANY, ToWx(sApplyToAll));
   cbApplyToAll->SetValue(model_.ApplyToAll);
   cbApplyToAll->Show(model_.ShowApplyToAll);
-  LengthLabel = new wxStaticText(this, wxID_ANY, {});
-  LengthLabel->SetForegroundColour(wxSystemSettings::GetColour(wxSYS_COLOUR_GRAYTEXT));
   btnOK = button(wxID_OK, sButtonOk);
   btnCancel = button(wxID_CANCEL, sButtonCancel);
   btnRecent = button(wxID_ANY, sCommentsRecent);
   btnRecent->SetToolTip(ToWx(sCommentsRecentHint));
   btnRecent->Enable(history_.HasEarlier());
   btnOK->SetDefault();
-  FitMemo();
+  comment_.Update();
 }
 
 void TCommentsForm::LayOut() {
   const int gap = FromDIP(8);
   const int around = FromDIP(5);  // so that the memo keeps its height
-  auto* under = new wxBoxSizer(wxHORIZONTAL);
-  under->Add(cbApplyToAll, wxSizerFlags().CentreVertical());
-  under->AddStretchSpacer();
-  under->Add(LengthLabel, wxSizerFlags().CentreVertical());
   auto* left = new wxBoxSizer(wxVERTICAL);
   left->Add(CommentsMemo, wxSizerFlags(1).Expand());
-  left->Add(under, wxSizerFlags().Expand().Border(wxTOP, FromDIP(2)));
+  left->Add(comment_.RowWith(cbApplyToAll), wxSizerFlags().Expand().Border(wxTOP, FromDIP(2)));
   auto* right = new wxBoxSizer(wxVERTICAL);
   right->Add(btnOK);
   right->Add(btnCancel, wxSizerFlags().Border(wxTOP, gap));
@@ -77,20 +72,6 @@ void TCommentsForm::LayOut() {
   SetSizer(all);
   SetClientSize(FromDIP(wxSize(530, 189)));
   CentreOnScreen();
-}
-
-void TCommentsForm::FitMemo() {
-  const auto text = CommentsMemo->GetValue();
-  const auto caret = static_cast<std::size_t>(CommentsMemo->GetInsertionPoint());
-  const TCommentEdit typed{FromWx(text.Left(caret)), FromWx(text.Mid(caret))};
-  const auto fitted = FitComment(typed);
-  if (fitted != typed) {
-    CommentsMemo->ChangeValue(ToWx(fitted.Before + fitted.After));
-    CommentsMemo->SetInsertionPoint(static_cast<long>(ToWx(fitted.Before).length()));
-  }
-  const auto used = static_cast<long long>(fitted.Before.size() + fitted.After.size());
-  LengthLabel->SetLabel(ToWx(Format(sCommentLength.Text, {used, static_cast<long long>(kMaxComment)})));
-  Layout();
 }
 
 void TCommentsForm::FormShow() {
@@ -107,7 +88,7 @@ void TCommentsForm::FormKeyDown(wxKeyEvent& event) {
 }
 
 void TCommentsForm::CloseWith(int modalResult) {
-  FitMemo();  // the deferred call may be pending
+  comment_.Update();  // the deferred call may be pending
   model_.Text = FromWx(CommentsMemo->GetValue());
   TModalForm::CloseWith(modalResult);
 }
@@ -148,7 +129,7 @@ void TCommentsForm::Replace(const std::optional<std::string>& comment) {
   CommentsMemo->ChangeValue(ToWx(*comment));
   CommentsMemo->SetInsertionPointEnd();
   CommentsMemo->SetFocus();
-  FitMemo();
+  comment_.Update();
 }
 
 }  // namespace kestrel::addin

@@ -3,14 +3,13 @@
 
 #include <wx/menu.h>
 
+#include "commands/CommentMemo.h"
 #include "expert/CommentMemory.h"
 #include "expert/FileListModel.h"
 #include "ui/ModalForm.h"
 
 class wxButton;
 class wxCheckBox;
-class wxStaticText;
-class wxTextCtrl;
 
 namespace kestrel::addin {
 
@@ -40,15 +39,13 @@ class TCommentsForm final : public TModalForm {
  private:
   void CreateControls();
   void LayOut();
-  /// Truncates the memo to the length that providers accept and shows how much of it is used.
-  void FitMemo();
   void AppendRecent(std::size_t entry, const wxString& accelerator);
   /// Replaces the memo's text, if `comment` has a value.
   void Replace(const std::optional<std::string>& comment);
 
   TCommentModel& model_;
   TCommentHistory history_;
-  wxStaticText* LengthLabel;
+  TCommentMemo comment_;
 };
 
 /// Always null: each command has a dialog of its own.  Part of the package's interface; no caller here.

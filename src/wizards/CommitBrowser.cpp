@@ -12,7 +12,6 @@
 #include <fstream>
 #include <memory>
 
-#include "commands/CommentsStrings.h"
 #include "expert/CommandContext.h"
 #include "expert/CommentMemory.h"
 #include "expert/ProviderWindows.h"
@@ -101,8 +100,8 @@ void TCommitBrowser::FormCreate() {
   AddRows();
   table_ = new TCommitTable(FRows, ExtractFileDir(project_file_));
   RestoreComments();
-  FitMemo(individual_);
-  FitMemo(summary_);
+  individual_.Update();
+  summary_.Update();
   StringGrid1->Fill(table_, ActivityComboBox->GetBestSize().GetHeight());
 }
 
@@ -172,7 +171,7 @@ TCommitRowData* TCommitBrowser::RowAt(int row) {
 TCommitRowData* TCommitBrowser::CurrentRow() { return RowAt(StringGrid1->GetGridCursorRow()); }
 
 void TCommitBrowser::StringGrid1SelectCell(wxGridEvent& event) {
-  FitMemo(individual_);  // the deferred call may be pending
+  individual_.Update();  // the deferred call may be pending
   if (auto* left = CurrentRow()) left->Comment = FromWx(TMemoIndividualComment->GetValue());
   const int row = event.GetRow();
   table_->Highlighted = row;
@@ -183,7 +182,7 @@ void TCommitBrowser::StringGrid1SelectCell(wxGridEvent& event) {
     HideActivities();
   const auto* entered = RowAt(row);
   TMemoIndividualComment->ChangeValue(entered ? ToWx(entered->Comment) : wxString());
-  FitMemo(individual_);
+  individual_.Update();
   DisplayWorkspaceFile(row);
 }
 
@@ -312,20 +311,6 @@ void TCommitBrowser::HelpButtonClick() {
 
 // ------------------------------------------------------------------------------------------------ comments
 
-void TCommitBrowser::FitMemo(const TCommentMemo& comment) {
-  const auto text = comment.Memo->GetValue();
-  const auto caret = static_cast<std::size_t>(comment.Memo->GetInsertionPoint());
-  const TCommentEdit typed{FromWx(text.Left(caret)), FromWx(text.Mid(caret))};
-  const auto fitted = CutComment(typed);
-  if (fitted != typed) {
-    comment.Memo->ChangeValue(ToWx(fitted.Before + fitted.After));
-    comment.Memo->SetInsertionPoint(static_cast<long>(ToWx(fitted.Before).length()));
-  }
-  const auto used = static_cast<long long>(fitted.Before.size() + fitted.After.size());
-  comment.Length->SetLabel(ToWx(Format(sCommentLength, {used, static_cast<long long>(kMaxComment)})));
-  comment.Memo->GetParent()->Layout();
-}
-
 void TCommitBrowser::RestoreComments() {
   const TCommentMemory memory(project_file_);
   bool anyOwn = false;
@@ -342,8 +327,8 @@ void TCommitBrowser::RestoreComments() {
 }
 
 void TCommitBrowser::RememberComments() {
-  FitMemo(individual_);  // the deferred calls may be pending
-  FitMemo(summary_);
+  individual_.Update();  // the deferred calls may be pending
+  summary_.Update();
   TCommentMemory memory(project_file_);
   const auto* current = CurrentRow();
   for (const auto& row : FRows)
@@ -354,13 +339,13 @@ void TCommitBrowser::RememberComments() {
 }
 
 void TCommitBrowser::TMemoIndividualCommentChange(wxCommandEvent&) {
-  CallAfter([this] { FitMemo(individual_); });  // deferred, because GTK is still processing the change
+  CallAfter([this] { individual_.Update(); });  // deferred, because GTK is still processing the change
   TCheckBoxSummaryComment->SetValue(false);
   TCheckboxIndividualComment->SetValue(true);
 }
 
 void TCommitBrowser::TMemoSummaryCommentsChange(wxCommandEvent&) {
-  CallAfter([this] { FitMemo(summary_); });
+  CallAfter([this] { summary_.Update(); });
   TCheckboxIndividualComment->SetValue(false);
   TCheckBoxSummaryComment->SetValue(true);
 }

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "commands/CommentMemo.h"
 #include "ui/ModalForm.h"
 #include "wizards/CommitRows.h"
 
@@ -16,9 +17,7 @@ class wxGridEvent;
 class wxNotebook;
 class wxPanel;
 class wxSizer;
-class wxStaticText;
 class wxStatusBar;
-class wxTextCtrl;
 
 namespace kestrel::addin {
 
@@ -88,12 +87,6 @@ class TCommitBrowser final : public TModalForm {
  private:
   class TProgressLine;
 
-  /// A memo for a comment, and a label with its length.
-  struct TCommentMemo {
-    wxTextCtrl* Memo;
-    wxStaticText* Length;
-  };
-
   void CreateControls();
   void CreateCommitPage();
   void CreateFilePages();
@@ -118,15 +111,13 @@ class TCommitBrowser final : public TModalForm {
   /// Handles keys of the grid and its drop-down list; returns false if the key was not handled.
   bool GridKeyDown(const wxKeyEvent& event);
   bool TurnToPage(const wxKeyEvent& event);
-  /// Truncates a memo to the length that providers accept and shows how much of it is used.
-  static void FitMemo(const TCommentMemo& comment);
   /// Runs `command` and shows an exception's message; returns whether there was none.
   bool RunShowingErrors(const std::function<void()>& command);
   void SetBusy(bool busy);
 
   TCommitTable* table_ = nullptr;  // owned by the grid
-  TCommentMemo individual_{};
-  TCommentMemo summary_{};
+  TCommentMemo individual_;
+  TCommentMemo summary_;
   wxStatusBar* source_status_ = nullptr;
   wxStaticText* progress_ = nullptr;
   std::string project_file_;

@@ -4,7 +4,6 @@
 #include <wx/statusbr.h>
 #include <wx/wx.h>
 
-#include "commands/CommentsStrings.h"
 #include "toolkit/WindowSize.h"
 #include "toolkit/WxText.h"
 #include "ui/MenuImages.h"
@@ -107,19 +106,12 @@ void TCommitBrowser::CreateSummaryPage() {
   TMemoSummaryComments = summary_.Memo;
 }
 
-TCommitBrowser::TCommentMemo TCommitBrowser::CreateComment(wxPanel* page, wxCheckBox* box) {
-  const TCommentMemo comment{
-      new wxTextCtrl(page, wxID_ANY, {}, wxDefaultPosition, wxDefaultSize, wxTE_MULTILINE),
-      new wxStaticText(page, wxID_ANY, {})};
+TCommentMemo TCommitBrowser::CreateComment(wxPanel* page, wxCheckBox* box) {
+  const auto comment = TCommentMemo::Create(page, CutComment);
   comment.Memo->MoveBeforeInTabOrder(box);
-  comment.Length->SetForegroundColour(wxSystemSettings::GetColour(wxSYS_COLOUR_GRAYTEXT));
-  auto* under = new wxBoxSizer(wxHORIZONTAL);
-  under->Add(box, wxSizerFlags().CentreVertical());
-  under->AddStretchSpacer();
-  under->Add(comment.Length, wxSizerFlags().CentreVertical());
   auto* column = new wxBoxSizer(wxVERTICAL);
   column->Add(comment.Memo, wxSizerFlags(1).Expand());
-  column->Add(under, wxSizerFlags().Expand().Border(wxALL, FromDIP(kGap / 2)));
+  column->Add(comment.RowWith(box), wxSizerFlags().Expand().Border(wxALL, FromDIP(kGap / 2)));
   page->SetSizer(column);
   return comment;
 }

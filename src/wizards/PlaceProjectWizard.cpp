@@ -35,11 +35,6 @@ void TPlaceProjectWizard::CreateFilesPage() {
 
 void TPlaceProjectWizard::CreateStatusPage() {
   DirectionLabelProjectStatus = AddLabel(Page4Panel, sPlaceStatus);
-  lbStatus = new TLinesView(
-      Page4Panel, {[this] { return controller_.Status().size(); },
-                   [this](std::size_t row) -> const std::string& { return controller_.Status()[row]; },
-                   {},
-                   {}});
   ColumnOf(Page4Panel)->Add(lbStatus, wxSizerFlags(1).Expand());
 }
 

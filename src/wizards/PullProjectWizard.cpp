@@ -41,11 +41,6 @@ void TPullProjectWizard::CreateTargetPage() {
 void TPullProjectWizard::CreateStatusPage() {
   Label1 = new wxStaticText(Page4Panel, wxID_ANY, {}, wxDefaultPosition, wxDefaultSize,
                             wxST_NO_AUTORESIZE | wxST_ELLIPSIZE_END);
-  lbStatus = new TLinesView(
-      Page4Panel, {[this] { return controller_.Status().size(); },
-                   [this](std::size_t row) -> const std::string& { return controller_.Status()[row]; },
-                   {},
-                   {}});
   cbOpenProject = new wxCheckBox(Page4Panel, wxID_ANY, ToWx(sPullOpenProject));
   cbOpenProject->SetValue(true);
   auto* column = ColumnOf(Page4Panel);

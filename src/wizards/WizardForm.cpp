@@ -28,6 +28,11 @@ TWizardForm::TWizardForm(TWizardController& controller)
   for (auto** panel : {&Page1Panel, &Page2Panel, &Page3Panel, &Page4Panel}) *panel = new wxPanel(this);
   CreateProviderPage();
   CreateProjectPage();
+  lbStatus = new TLinesView(
+      Page4Panel, {[this] { return controller_.Status().size(); },
+                   [this](std::size_t row) -> const std::string& { return controller_.Status()[row]; },
+                   {},
+                   {}});
   ProblemLabel = new wxStaticText(this, wxID_ANY, {});
   ProblemLabel->SetForegroundColour(*wxRED);
   CreateButtons();
