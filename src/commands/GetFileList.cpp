@@ -47,15 +47,6 @@ int TFilesListView::StatusWidth() const {
   return width;
 }
 
-void TFilesListView::ToggleSelected() {
-  const long focused = GetFocusedItem();
-  if (focused < 0) return;
-  const bool check = !model_.IsChecked(Row(focused));
-  model_.SetChecked(Row(focused), check);
-  for (long i = GetFirstSelected(); i >= 0; i = GetNextSelected(i)) model_.SetChecked(Row(i), check);
-  Refresh();
-}
-
 void TFilesListView::FocusFirstChecked() {
   if (model_.Count() == 0) return;
   std::size_t row = 0;
@@ -84,6 +75,7 @@ wxString TFilesListView::OnGetItemText(long item, long column) const {
 }
 
 bool TFilesListView::OnGetItemIsChecked(long item) const { return model_.IsChecked(Row(item)); }
+void TFilesListView::SetItemChecked(long item, bool check) { model_.SetChecked(Row(item), check); }
 
 TGetFileListForm::TGetFileListForm(TCommandContext& expert, TFileListModel& model)
     : TModalForm(ToWx(model.Caption.empty() ? sGetFileListCaption.str() : model.Caption),
@@ -199,7 +191,7 @@ void TGetFileListForm::FormKeyDown(wxKeyEvent& event) {
   else if (inList && event.GetKeyCode() == WXK_SPACE && !event.HasAnyModifiers())
     ToggleSelected();
   else if (inList && event.GetKeyCode() == 'A' && event.GetModifiers() == wxMOD_CONTROL)
-    FilesListView->SetItemState(-1, wxLIST_STATE_SELECTED, wxLIST_STATE_SELECTED);
+    FilesListView->SelectAll();
   else
     TModalForm::FormKeyDown(event);
 }

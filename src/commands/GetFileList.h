@@ -19,8 +19,6 @@ class TFilesListView final : public TVirtualList {
   TFilesListView(wxWindow* parent, TFileListModel& model);
   /// Updates the number of rows from the model.
   void ShowRows() { SetItemCount(static_cast<long>(model_.Count())); }
-  /// Sets the check boxes of the selected rows to the opposite of the focused row's.
-  void ToggleSelected();
   /// Focuses the first checked row, or the first row, and scrolls to it.
   void FocusFirstChecked();
   /// Widens the path column to fill the list.
@@ -29,6 +27,7 @@ class TFilesListView final : public TVirtualList {
  protected:
   wxString OnGetItemText(long item, long column) const override;
   bool OnGetItemIsChecked(long item) const override;
+  void SetItemChecked(long item, bool check) override;
 
  private:
   /// The width of the longest status.

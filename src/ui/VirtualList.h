@@ -20,9 +20,21 @@ class TVirtualList : public wxListView {
     event.m_itemIndex = item;
     HandleWindowEvent(event);
   }
+  /// Sets the check boxes of the selected rows to the opposite of the focused row's.
+  void ToggleSelected() {
+    const long focused = GetFocusedItem();
+    if (focused < 0) return;
+    const bool check = !OnGetItemIsChecked(focused);
+    SetItemChecked(focused, check);
+    for (long i = GetFirstSelected(); i >= 0; i = GetNextSelected(i)) SetItemChecked(i, check);
+    Refresh();
+  }
+  void SelectAll() { SetItemState(-1, wxLIST_STATE_SELECTED, wxLIST_STATE_SELECTED); }
 
  protected:
   int OnGetItemImage(long) const override { return -1; }
+  /// Stores the check state of a row in the owner.
+  virtual void SetItemChecked(long item, bool check) = 0;
 };
 
 }  // namespace kestrel::addin

@@ -26,7 +26,7 @@ TLinesView::TLinesView(wxWindow* parent, TSource source)
     CallAfter([this] { FitColumn(); });
   });
   const auto toggled = [this](wxListEvent& event) {
-    source_.SetTicked(Row(event.GetIndex()), event.GetEventType() == wxEVT_LIST_ITEM_CHECKED);
+    SetItemChecked(event.GetIndex(), event.GetEventType() == wxEVT_LIST_ITEM_CHECKED);
     RefreshItem(event.GetIndex());
   };
   Bind(wxEVT_LIST_ITEM_CHECKED, toggled);
@@ -37,6 +37,7 @@ wxString TLinesView::OnGetItemText(long item, long) const { return ToWx(source_.
 bool TLinesView::OnGetItemIsChecked(long item) const {
   return source_.IsTicked && source_.IsTicked(Row(item));
 }
+void TLinesView::SetItemChecked(long item, bool check) { source_.SetTicked(Row(item), check); }
 
 void TLinesView::UpdateLines() {
   const auto count = source_.Count();
@@ -69,17 +70,6 @@ void TLinesView::FitColumn() {
 void TLinesView::ShowLast() {
   if (GetItemCount() > 0) EnsureVisible(GetItemCount() - 1);
 }
-
-void TLinesView::ToggleSelected() {
-  const long focused = GetFocusedItem();
-  if (focused < 0 || !source_.IsTicked) return;
-  const bool tick = !source_.IsTicked(Row(focused));
-  source_.SetTicked(Row(focused), tick);
-  for (long i = GetFirstSelected(); i >= 0; i = GetNextSelected(i)) source_.SetTicked(Row(i), tick);
-  Refresh();
-}
-
-void TLinesView::SelectAll() { SetItemState(-1, wxLIST_STATE_SELECTED, wxLIST_STATE_SELECTED); }
 
 void TLinesView::CopySelected() const {
   std::string text;

@@ -23,15 +23,13 @@ class TLinesView final : public TVirtualList {
   /// Updates the list from the source.
   void UpdateLines();
   void ShowLast();
-  /// Sets the check boxes of the selected rows to the opposite of the focused row's.
-  void ToggleSelected();
-  void SelectAll();
   /// Copies the selected lines, or all if none is selected, to the clipboard.
   void CopySelected() const;
 
  private:
   wxString OnGetItemText(long item, long column) const override;
   bool OnGetItemIsChecked(long item) const override;
+  void SetItemChecked(long item, bool check) override;
   void FitColumn();
 
   TSource source_;
