@@ -12,6 +12,8 @@ std::string ToText(const TFormatArg& arg) {
   return text ? *text : std::to_string(std::get<long long>(arg));
 }
 
+bool IsAsciiChar(char c) { return static_cast<unsigned char>(c) < 0x80; }
+char FoldAsciiChar(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
 bool IsBlank(char c) { return static_cast<unsigned char>(c) <= ' '; }
 
 bool IsContinuation(char c) { return (static_cast<unsigned char>(c) & 0xC0) == 0x80; }
@@ -64,12 +66,18 @@ std::string Trim(std::string_view text) {
   return std::string(text);
 }
 
+bool IsAscii(std::string_view text) { return std::ranges::all_of(text, IsAsciiChar); }
+
+std::string FoldAsciiCase(std::string_view text) {
+  std::string folded(text);
+  std::ranges::transform(folded, folded.begin(), FoldAsciiChar);
+  return folded;
+}
+
 bool SameText(std::string_view a, std::string_view b) {
-  const auto ascii = [](char c) { return static_cast<unsigned char>(c) < 0x80; };
-  const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; };
   std::size_t i = 0;
-  for (; i < a.size() && i < b.size() && ascii(a[i]) && ascii(b[i]); ++i)
-    if (lower(a[i]) != lower(b[i])) return false;
+  for (; i < a.size() && i < b.size() && IsAsciiChar(a[i]) && IsAsciiChar(b[i]); ++i)
+    if (FoldAsciiChar(a[i]) != FoldAsciiChar(b[i])) return false;
   return FoldCase(a.substr(i)) == FoldCase(b.substr(i));
 }
 

@@ -36,6 +36,9 @@ std::string Trim(std::string_view text);
 /// kept.
 std::string FoldCase(std::string_view text);
 bool SameText(std::string_view a, std::string_view b);
+bool IsAscii(std::string_view text);
+/// FoldCase() for ASCII letters only.
+std::string FoldAsciiCase(std::string_view text);
 
 /// Truncates to at most `bytes` bytes without splitting a character.
 std::string_view TruncateUtf8(std::string_view text, std::size_t bytes);

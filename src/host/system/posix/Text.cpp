@@ -3,7 +3,6 @@
 #include <locale.h>
 #include <wctype.h>
 
-#include <algorithm>
 #include <array>
 #include <cwchar>
 
@@ -31,16 +30,13 @@ class TUtf8Scope {
   locale_t before_;
 };
 
-bool IsAscii(char c) { return static_cast<unsigned char>(c) < 0x80; }
-char FoldAscii(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
-
 /// Appends the first character of `text` in lower case and returns its length in bytes.  An invalid byte is kept.
 std::size_t AppendFolded(std::string& folded, std::string_view text) {
   std::mbstate_t state{};
   wchar_t wide = 0;
-  const auto used = IsAscii(text.front()) ? 0 : std::mbrtowc(&wide, text.data(), text.size(), &state);
+  const auto used = IsAscii(text.substr(0, 1)) ? 0 : std::mbrtowc(&wide, text.data(), text.size(), &state);
   if (used == 0 || used > text.size()) {
-    folded += FoldAscii(text.front());
+    folded += FoldAsciiCase(text.substr(0, 1));
     return 1;
   }
   std::array<char, 16> bytes{};
@@ -71,12 +67,8 @@ std::string FromPage1252(std::string_view bytes) {
 }  // namespace
 
 std::string FoldCase(std::string_view text) {
-  std::string folded(text);
-  if (std::all_of(text.begin(), text.end(), IsAscii) || !TUtf8Scope::Locale()) {
-    std::ranges::transform(folded, folded.begin(), FoldAscii);
-    return folded;
-  }
-  folded.clear();
+  if (IsAscii(text) || !TUtf8Scope::Locale()) return FoldAsciiCase(text);
+  std::string folded;
   const TUtf8Scope utf8;
   while (!text.empty()) text.remove_prefix(AppendFolded(folded, text));
   return folded;

@@ -1,6 +1,5 @@
 #include "system/Text.h"
 
-#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -12,15 +11,6 @@ namespace kestrel {
 const std::string_view LineEnd = "\r\n";
 
 namespace {
-
-bool IsAscii(char c) { return static_cast<unsigned char>(c) < 0x80; }
-char FoldAscii(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
-
-std::string FoldAsciiLetters(std::string_view text) {
-  std::string folded(text);
-  std::ranges::transform(folded, folded.begin(), FoldAscii);
-  return folded;
-}
 
 /// With the flag MB_ERR_INVALID_CHARS the result is empty if `text` is invalid in the code page; without it invalid bytes
 /// become replacement characters.
@@ -46,9 +36,7 @@ std::string Encode(DWORD flags, std::wstring_view text, bool& lost) {
 }
 
 /// Whether `text` needs no conversion: it is ASCII, or the code page is UTF-8.
-bool IsSameInCodePage(std::string_view text) {
-  return GetACP() == CP_UTF8 || std::all_of(text.begin(), text.end(), IsAscii);
-}
+bool IsSameInCodePage(std::string_view text) { return GetACP() == CP_UTF8 || IsAscii(text); }
 
 /// The code page of the system's locale, also if the program's manifest sets UTF-8.
 UINT LocalePage() {
@@ -80,9 +68,8 @@ SYSTEMTIME LocalTime(std::time_t when) {
 }  // namespace
 
 std::string FoldCase(std::string_view text) {
-  if (std::all_of(text.begin(), text.end(), IsAscii)) return FoldAsciiLetters(text);
-  auto wide = DecodeUtf8(text);
-  if (wide.empty()) return FoldAsciiLetters(text);
+  auto wide = IsAscii(text) ? std::wstring() : DecodeUtf8(text);
+  if (wide.empty()) return FoldAsciiCase(text);
   const auto size = static_cast<int>(wide.size());
   LCMapStringEx(LOCALE_NAME_INVARIANT, LCMAP_LOWERCASE, wide.data(), size, wide.data(), size, nullptr,
                 nullptr, 0);
@@ -115,7 +102,7 @@ std::string ToCodePageLossy(std::string_view text) {
 }
 
 std::string FromCodePageLossy(std::string_view text) {
-  if (std::all_of(text.begin(), text.end(), IsAscii)) return std::string(text);
+  if (IsAscii(text)) return std::string(text);
   if (GetACP() != CP_UTF8) return FromWide(Decode(CP_ACP, 0, text));
   // In a multi-byte code page a trailing byte may be ASCII, so that runs of invalid bytes cannot be decoded separately.
   if (HasWideCharacters(LocalePage()) && DecodeUtf8(text).empty()) return FromLocalePage(text);
