@@ -47,11 +47,11 @@ std::vector<std::string> DirectoriesOf(TRegRoot root) {
 
 std::string RegistryFolder() { return DirectoriesOf(TRegRoot::LocalMachine).front(); }
 
-TRegistryLayers TRegistryLayers::Of(TRegRoot root) {
+std::unique_ptr<IRegistryRoot> IRegistryRoot::Open(TRegRoot root) {
   auto files = DirectoriesOf(root);
   const auto name = root == TRegRoot::LocalMachine ? "local-machine.ini" : "current-user.ini";
   for (auto& file : files) file = IncludeTrailingPathDelimiter(file) + name;
-  return TRegistryLayers(files);
+  return std::make_unique<TRegistryLayers>(std::move(files));
 }
 
 bool TRegistryLayers::HasKey(const std::string& key) const {

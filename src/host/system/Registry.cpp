@@ -3,14 +3,14 @@
 #include <stdexcept>
 
 #include "system/RegistryKey.h"
-#include "system/posix/RegistryLayers.h"
+#include "system/RegistryRoot.h"
 
 namespace kestrel {
 
 struct TRegistry::TImpl {
   enum class TAccess { None, Read, Write };
 
-  TRegistryLayers Layers;
+  std::unique_ptr<IRegistryRoot> Root;
   std::string Key;
   TAccess Access = TAccess::None;
 
@@ -19,11 +19,11 @@ struct TRegistry::TImpl {
   }
 };
 
-TRegistry::TRegistry(TRegRoot root) : impl_(new TImpl{.Layers = TRegistryLayers::Of(root), .Key = {}}) {}
+TRegistry::TRegistry(TRegRoot root) : impl_(new TImpl{.Root = IRegistryRoot::Open(root), .Key = {}}) {}
 TRegistry::~TRegistry() = default;
 
 bool TRegistry::OpenKeyReadOnly(const std::string& key) {
-  const bool exists = impl_->Layers.HasKey(key);
+  const bool exists = impl_->Root->HasKey(key);
   impl_->Key = key;
   impl_->Access = exists ? TImpl::TAccess::Read : TImpl::TAccess::None;
   return exists;
@@ -38,27 +38,27 @@ void TRegistry::CloseKey() { impl_->Access = TImpl::TAccess::None; }
 
 std::string TRegistry::ReadString(const std::string& name) const {
   if (impl_->Access == TImpl::TAccess::None) return {};
-  return impl_->Layers.Value(impl_->Key, name).value_or("");
+  return impl_->Root->Value(impl_->Key, name).value_or("");
 }
 
 std::vector<std::string> TRegistry::GetValueNames() const {
   if (impl_->Access == TImpl::TAccess::None) return {};
-  return impl_->Layers.ValueNames(impl_->Key);
+  return impl_->Root->ValueNames(impl_->Key);
 }
 
 void TRegistry::WriteString(const std::string& name, const std::string& value) {
   impl_->RequireWritable();
-  impl_->Layers.SetValue(impl_->Key, name, value);
+  impl_->Root->SetValue(impl_->Key, name, value);
 }
 
 bool TRegistry::DeleteValue(const std::string& name) {
   impl_->RequireWritable();
-  return impl_->Layers.DeleteValue(impl_->Key, name);
+  return impl_->Root->DeleteValue(impl_->Key, name);
 }
 
 bool TRegistry::DeleteKey(const std::string& key) {
   RequireBelowRoot(key);
-  return impl_->Layers.DeleteKey(key);
+  return impl_->Root->DeleteKey(key);
 }
 
 }  // namespace kestrel
