@@ -22,16 +22,10 @@ constexpr TResString sCannotWriteLibrary{"The library for \"%s\" cannot be writt
 
 /// Encodes a provider's name for use in a file name, on every system.
 std::string FileNamePart(const std::string& name) {
-  std::string part;
-  for (const char c : name) {
+  return PercentEncode(name, [](char c) {
     const auto byte = static_cast<unsigned char>(c);
-    constexpr std::string_view kHex = "0123456789ABCDEF";
-    if (std::isalnum(byte) || byte >= 0x80 || c == ' ' || c == '-' || c == '_')
-      part += c;
-    else
-      part += {'%', kHex[byte >> 4], kHex[byte & 0xF]};
-  }
-  return part;
+    return !std::isalnum(byte) && byte < 0x80 && c != ' ' && c != '-' && c != '_';
+  });
 }
 
 /// Path of the copy for the provider `name`.  On Windows it has to be beside the libraries that it needs.

@@ -18,7 +18,6 @@ namespace {
 constexpr const char* kSettings = "SCMComments";
 constexpr const char* kField = "Project%d";
 constexpr std::string_view kRecentKind = "recent";
-constexpr std::string_view kHexDigits = "0123456789ABCDEF";
 
 IOTAPropertySet* Settings() {
   auto* services = IdeService<IOTAOptionsServices>();
@@ -28,27 +27,9 @@ IOTAPropertySet* Settings() {
 std::string FieldName(std::size_t index) { return Format(kField, {static_cast<long long>(index) + 1}); }
 
 std::string Encoded(std::string_view text) {
-  std::string encoded;
-  for (const char c : text) {
-    const auto byte = static_cast<unsigned char>(c);
-    if (byte < ' ' || std::string_view("%&=").find(c) != std::string_view::npos)
-      encoded.append({'%', kHexDigits[byte / 16], kHexDigits[byte % 16]});
-    else
-      encoded += c;
-  }
-  return encoded;
-}
-
-std::string Decoded(std::string_view text) {
-  std::string decoded;
-  while (!text.empty()) {
-    unsigned char byte = 0;
-    const bool escape = text.size() >= 3 && text.front() == '%' &&
-                        std::from_chars(text.data() + 1, text.data() + 3, byte, 16).ptr == text.data() + 3;
-    decoded += escape ? static_cast<char>(byte) : text.front();
-    text.remove_prefix(escape ? 3 : 1);
-  }
-  return decoded;
+  return PercentEncode(text, [](char c) {
+    return static_cast<unsigned char>(c) < ' ' || std::string_view("%&=").find(c) != std::string_view::npos;
+  });
 }
 
 /// Takes the part up to the next `mark` off `text`, and the mark with it.
@@ -68,7 +49,7 @@ TStored TakeApart(std::string_view text) {
   TStored stored;
   const auto turn = NextPart(text, '&');
   std::from_chars(turn.data(), turn.data() + turn.size(), stored.Turn);
-  stored.Project = Decoded(NextPart(text, '&'));
+  stored.Project = PercentDecode(NextPart(text, '&'));
   stored.Comments = text;
   return stored;
 }
@@ -91,9 +72,9 @@ void TCommentMemory::TakeOver(std::string_view comments) {
     auto comment = NextPart(comments, '&');
     const auto kind = NextPart(comment, '=');
     if (kind == kRecentKind && recent_.size() < kRecent)
-      recent_.push_back(Decoded(comment));
+      recent_.push_back(PercentDecode(comment));
     else if (kind != kRecentKind && pending_.size() < kPending)
-      pending_.emplace_back(Decoded(kind), Decoded(comment));
+      pending_.emplace_back(PercentDecode(kind), PercentDecode(comment));
   }
 }
 

@@ -12,7 +12,6 @@ namespace {
 
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 constexpr std::string_view kBlanks = " \t";
-constexpr std::string_view kHexDigits = "0123456789ABCDEF";
 /// The characters that end a name.
 constexpr std::string_view kReservedInNames = "=]";
 
@@ -38,43 +37,9 @@ std::string_view WithoutLineEnd(std::string_view line) {
 
 // ------------------------------------------------------------------------------------------------- escapes
 
-/// Decodes the escape at the beginning of `text`, if there is one.
-std::optional<char> EscapeAt(std::string_view text) {
-  if (text.size() < 3 || text[0] != '%') return std::nullopt;
-  const auto high = kHexDigits.find(text[1]);
-  const auto low = kHexDigits.find(text[2]);
-  if (high == kHexDigits.npos || low == kHexDigits.npos) return std::nullopt;
-  return static_cast<char>(high * 16 + low);
-}
-
-std::string Escape(std::string_view text) {
-  std::string escaped;
-  for (const char c : text) {
-    const auto byte = static_cast<unsigned char>(c);
-    if (IsControl(c) || c == '%' || Contains(kReservedInNames, c))
-      escaped.append({'%', kHexDigits[byte / 16], kHexDigits[byte % 16]});
-    else
-      escaped += c;
-  }
-  return escaped;
-}
-
-/// Decodes the escapes for which isEscape(character, offset) returns true.
-template <typename TIsEscape>
-std::string Unescape(std::string_view text, const TIsEscape& isEscape) {
-  std::string plain;
-  for (std::size_t at = 0; at < text.size();) {
-    const auto c = EscapeAt(text.substr(at));
-    const bool decode = c && isEscape(*c, at);
-    plain += decode ? *c : text[at];
-    at += decode ? 3 : 1;
-  }
-  return plain;
-}
-
 /// Decodes text that earlier versions escaped without the mark %"...".
 std::string UnescapeUnmarked(std::string_view text, std::string_view reserved) {
-  return Unescape(text, [&](char c, std::size_t at) {
+  return PercentDecode(text, [&](char c, std::size_t at) {
     const bool atAnEnd = at == 0 || at + 3 == text.size();
     return IsControl(c) || c == '%' || Contains(reserved, c) || (c == ' ' && atAnEnd);
   });
@@ -98,7 +63,8 @@ std::string Encode(std::string_view text, const TReadsBack& readsBack) {
   if (std::ranges::none_of(text, [](char c) { return IsControl(c) && c != '\t'; }))
     for (const auto& written : {plain, '"' + plain + '"'})
       if (readsBack(written)) return written;
-  return "%\"" + Escape(text) + '"';
+  const auto mustEscape = [](char c) { return IsControl(c) || c == '%' || Contains(kReservedInNames, c); };
+  return "%\"" + PercentEncode(text, mustEscape) + '"';
 }
 
 }  // namespace
@@ -173,7 +139,7 @@ std::optional<TIniText::TDamage> TIniText::Damage() const {
 
 std::string TIniText::Decode(std::string_view text, std::string_view reserved) const {
   if (text.size() >= 3 && text.starts_with("%\"") && text.ends_with('"'))
-    return Unescape(text.substr(2, text.size() - 3), [](char, std::size_t) { return true; });
+    return PercentDecode(text.substr(2, text.size() - 3));
   if (IsQuoted(text)) text = text.substr(1, text.size() - 2);
   return percent_ == TPercent::Escape ? UnescapeUnmarked(text, reserved) : std::string(text);
 }

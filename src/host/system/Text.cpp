@@ -16,6 +16,17 @@ bool IsAsciiChar(char c) { return static_cast<unsigned char>(c) < 0x80; }
 char FoldAsciiChar(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
 bool IsBlank(char c) { return static_cast<unsigned char>(c) <= ' '; }
 
+constexpr std::string_view kHexDigits = "0123456789ABCDEF";
+
+/// Decodes the escape at the beginning of `text`, if there is one.
+std::optional<char> EscapeAt(std::string_view text) {
+  if (text.size() < 3 || text[0] != '%') return std::nullopt;
+  const auto high = kHexDigits.find(text[1]);
+  const auto low = kHexDigits.find(text[2]);
+  if (high == kHexDigits.npos || low == kHexDigits.npos) return std::nullopt;
+  return static_cast<char>(high * 16 + low);
+}
+
 bool IsContinuation(char c) { return (static_cast<unsigned char>(c) & 0xC0) == 0x80; }
 
 /// Valid first two bytes of a multi-byte character.  The range of the second excludes overlong forms, surrogates and values
@@ -79,6 +90,30 @@ bool SameText(std::string_view a, std::string_view b) {
   for (; i < a.size() && i < b.size() && IsAsciiChar(a[i]) && IsAsciiChar(b[i]); ++i)
     if (FoldAsciiChar(a[i]) != FoldAsciiChar(b[i])) return false;
   return FoldCase(a.substr(i)) == FoldCase(b.substr(i));
+}
+
+std::string PercentEncode(std::string_view text, bool (*mustEscape)(char c)) {
+  std::string escaped;
+  for (const char c : text) {
+    const auto byte = static_cast<unsigned char>(c);
+    if (mustEscape(c))
+      escaped.append({'%', kHexDigits[byte / 16], kHexDigits[byte % 16]});
+    else
+      escaped += c;
+  }
+  return escaped;
+}
+
+std::string PercentDecode(std::string_view text,
+                          const std::function<bool(char c, std::size_t at)>& isEscape) {
+  std::string plain;
+  for (std::size_t at = 0; at < text.size();) {
+    const auto c = EscapeAt(text.substr(at));
+    const bool decode = c && (!isEscape || isEscape(*c, at));
+    plain += decode ? *c : text[at];
+    at += decode ? 3 : 1;
+  }
+  return plain;
 }
 
 std::string ReplaceInvalidUtf8(std::string_view text, std::string (*decode)(std::string_view bytes)) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <ctime>
+#include <functional>
 #include <initializer_list>
 #include <optional>
 #include <string>
@@ -39,6 +40,12 @@ bool SameText(std::string_view a, std::string_view b);
 bool IsAscii(std::string_view text);
 /// FoldCase() for ASCII letters only.
 std::string FoldAsciiCase(std::string_view text);
+
+/// Replaces each character for which mustEscape(c) returns true by %XX (two upper-case hexadecimal digits).
+std::string PercentEncode(std::string_view text, bool (*mustEscape)(char c));
+/// Decodes the escapes %XX for which isEscape(character, offset) returns true; without a function all of them.
+std::string PercentDecode(std::string_view text,
+                          const std::function<bool(char c, std::size_t at)>& isEscape = {});
 
 /// Truncates to at most `bytes` bytes without splitting a character.
 std::string_view TruncateUtf8(std::string_view text, std::size_t bytes);
