@@ -104,7 +104,7 @@ void SetProviderName(const std::string& name) { providerName = name; }
 
 void WriteProviderLine(TSeverity severity, const std::string& text) noexcept {
   try {
-    if (sink != nullptr) sink->Line(severity, text);
+    if (sink) sink->Line(severity, text);
   } catch (...) {
   }
 }
@@ -112,7 +112,7 @@ void WriteProviderLine(TSeverity severity, const std::string& text) noexcept {
 void ReportOverrun(const char* entry, TOverrun overrun) noexcept {
   if (overrun == TOverrun::None) return;
   const auto& text = overrun == TOverrun::Caught ? sBufferOverrun : sGuardOverrun;
-  WriteProviderLine(TSeverity::Warning, Format(text.str(), {providerName, entry}));
+  WriteProviderLine(TSeverity::Warning, Format(text, {providerName, entry}));
 }
 
 scc::Long SCC_CALL TextOutProc(const char* text, scc::Dword kind) noexcept try {
@@ -152,10 +152,10 @@ std::string TScratchBuffer::TextFor(const TBoundedText& field) const {
   // A provider may omit the terminator, so all bytes of the field can hold text.
   const auto fitting = TruncateInCodePage(whole, field.Size());
   const auto name = FromCodePageExact(fitting);
-  if (!name) throw EAbort(Format(sNotFromCodePage.str(), {providerName, FromCodePageLossy(fitting), entry_}));
+  if (!name) throw EAbort(Format(sNotFromCodePage, {providerName, FromCodePageLossy(fitting), entry_}));
   if (fitting.size() != whole.size())
     WriteProviderLine(TSeverity::Warning,
-                      Format(sTextCut.str(), {providerName, entry_, static_cast<long long>(field.Size())}));
+                      Format(sTextCut, {providerName, entry_, static_cast<long long>(field.Size())}));
   return *name;
 }
 
@@ -163,7 +163,7 @@ TProviderComment::TProviderComment(std::string_view typed) { Set(ForProvider(typ
 
 TProviderComment::TProviderComment(std::string_view typed, const TResString& otherwise) {
   Set(!typed.empty() ? ForProvider(typed)
-                     : ToCodePageLossy(Format(otherwise.str(), {DateTimeToStr(std::time(nullptr))})));
+                     : ToCodePageLossy(Format(otherwise, {DateTimeToStr(std::time(nullptr))})));
 }
 
 void TProviderComment::Set(std::string_view text) {
@@ -172,24 +172,23 @@ void TProviderComment::Set(std::string_view text) {
 
 std::string ForProvider(std::string_view text) {
   auto converted = ToCodePageExact(text);
-  if (!converted) throw EAbort(Format(sNotInCodePage.str(), {std::string(text)}));
+  if (!converted) throw EAbort(Format(sNotInCodePage, {std::string(text)}));
   return *std::move(converted);
 }
 
 const TBoundedText& RequireFits(const TBoundedText& path) {
-  if (!path.Fits())
-    throw EAbort(Format(sPathTooLong.str(), {path.Str(), static_cast<long long>(path.Size() - 1)}));
+  if (!path.Fits()) throw EAbort(Format(sPathTooLong, {path.Str(), static_cast<long long>(path.Size() - 1)}));
   return path;
 }
 
 bool AppendPopulatedName(const char* name, TStringList& names) noexcept try {
   if (names.size() >= kMaxPopulated) return false;
-  if (name == nullptr || *name == '\0') return true;
+  if (!name || !*name) return true;
   if (auto known = FromCodePageExact(name))
     names.push_back(*std::move(known));
   else
-    WriteProviderLine(TSeverity::Warning, Format(sNotFromCodePage.str(),
-                                                 {providerName, FromCodePageLossy(name), "SccPopulateList"}));
+    WriteProviderLine(TSeverity::Warning,
+                      Format(sNotFromCodePage, {providerName, FromCodePageLossy(name), "SccPopulateList"}));
   return true;
 } catch (...) {
   return false;
@@ -215,11 +214,11 @@ void RequireFiles(const TStringList& files, const TResString& message) {
 void RequireAtMostMaxFiles(const TStringList& files) {
   const auto number = [](std::size_t n) { return static_cast<long long>(n); };
   if (files.size() > kMaxFiles)
-    throw EAbort(Format(sTooManyFiles.str(), {number(files.size()), number(kMaxFiles)}));
+    throw EAbort(Format(sTooManyFiles, {number(files.size()), number(kMaxFiles)}));
 }
 
 void ThrowFault(scc::TEntry entry, const std::string& fault) {
-  throw EAbort(Format(sProviderFault.str(), {scc::NameOf(entry), fault}));
+  throw EAbort(Format(sProviderFault, {scc::NameOf(entry), fault}));
 }
 
 std::string CurrentFault() {
@@ -229,7 +228,7 @@ std::string CurrentFault() {
     return error.what();
   } catch (const std::exception& error) {
     // Messages of a provider's exceptions are in the code page.
-    if (error.what() != nullptr && *error.what() != '\0') return ShownText(error.what());
+    if (error.what() && *error.what()) return ShownText(error.what());
   } catch (...) {
   }
   return sUnknownFault;

@@ -142,7 +142,7 @@ class TScopedProviderCall {
 /// crashes.
 template <class... Parameters, class... Arguments>
 scc::Long Invoke(scc::Long(SCC_CALL* entry)(Parameters...), Arguments... arguments) {
-  if (scc::hSosScc == nullptr || entry == nullptr) return scc::SCC_E_OPNOTSUPPORTED;
+  if (!scc::hSosScc || !entry) return scc::SCC_E_OPNOTSUPPORTED;
   const TScopedProviderCall mark;
   const TScopedFpEnv floatingPoint;
   scc::Long result = scc::SCC_E_NONSPECIFICERROR;
@@ -154,7 +154,7 @@ scc::Long Invoke(scc::Long(SCC_CALL* entry)(Parameters...), Arguments... argumen
 
 /// Runs a call with its preparations; catches every exception.
 template <class Body>
-TAnswer RunCatching(Body&& body) {
+TAnswer CallCatching(Body&& body) {
   try {
     return {body(), {}};
   } catch (...) {
@@ -162,11 +162,11 @@ TAnswer RunCatching(Body&& body) {
   }
 }
 
-/// RunCatching() that sets `messages`.  Returns the provider's code, or `faultCode` after an exception.
+/// CallCatching() that sets `messages`.  Returns the provider's code, or `faultCode` after an exception.
 template <class Body>
 scc::Long RunWithMessages(TStateMessages& messages, Body&& body,
                           scc::Long faultCode = scc::SCC_E_NONSPECIFICERROR) {
-  const TAnswer answer = RunCatching(body);
+  const TAnswer answer = CallCatching(body);
   if (answer.Fault.empty()) {
     DecodeReturnCode(answer.Code, messages);
     return answer.Code;
@@ -175,10 +175,10 @@ scc::Long RunWithMessages(TStateMessages& messages, Body&& body,
   return faultCode;
 }
 
-/// RunCatching() that writes an exception to the sink, prefixed with the entry point's name.
+/// CallCatching() that writes an exception to the sink, prefixed with the entry point's name.
 template <class Body>
 scc::Long RunLogged(const char* entry, Body&& body) {
-  const TAnswer answer = RunCatching(body);
+  const TAnswer answer = CallCatching(body);
   if (!answer.Fault.empty()) WriteProviderLine(TSeverity::Error, std::string(entry) + "; " + answer.Fault);
   return answer.Code;
 }

@@ -176,7 +176,7 @@ void TSCCProviderProject::AddFromScc(TStateMessages& messages) {
     const char** names = nullptr;  // owned by the provider; not used
     return Invoke(SccAddFromScc, context_, Window(), &count.Value, &names);
   });
-  if (ProviderSink() == nullptr) return;
+  if (!ProviderSink()) return;
   if (code == SCC_OK) ProviderSink()->Box(sAddFromSccOk);
   if (code == SCC_I_OPERATIONCANCELED) ProviderSink()->Box(sOperationCancelled);
 }

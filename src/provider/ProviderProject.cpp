@@ -113,7 +113,7 @@ std::string TSCCProviderProject::GetVersion() {
   const Long answer = RunLogged("SccGetVersion", [] { return Invoke(SccGetVersion); });
   if (answer < 0) return {};  // an error code
   const auto version = static_cast<Dword>(answer);
-  return Format(sVersion.str(), {SCC_GET_MAJOR_VER(version), SCC_GET_MINOR_VER(version)});
+  return Format(sVersion, {SCC_GET_MAJOR_VER(version), SCC_GET_MINOR_VER(version)});
 }
 
 void TSCCProviderProject::Properties(const std::string& fileName, TStateMessages& messages) {

@@ -129,7 +129,7 @@ TQueryStatus ToQueryStatus(scc::Long status) {
 void DecodeQueryStatus(const std::string& fileName, scc::Long status) {
   const std::string name = ExtractFileName(fileName);
   for (const TStatusRow& row : kStatuses)
-    if (row.Matches(status)) WriteProviderLine(TSeverity::Info, Format(row.Text.str(), {name}));
+    if (row.Matches(status)) WriteProviderLine(TSeverity::Info, Format(row.Text, {name}));
 }
 
 }  // namespace kestrel::addin

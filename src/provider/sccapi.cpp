@@ -37,8 +37,8 @@ bool LoadSCCDLL(const std::string& path) {
   const TScopedFpEnv floatingPoint;
   std::string reason;
   const auto search = SearchesPath(path) ? TDependencySearch::OwnFolderPath : TDependencySearch::OwnFolder;
-  if (hSosScc == nullptr) hSosScc = LoadModule(path, &reason, search);
-  if (hSosScc == nullptr) {
+  if (!hSosScc) hSosScc = LoadModule(path, &reason, search);
+  if (!hSosScc) {
     WriteProviderLine(TSeverity::Error, Format(sLibraryNotLoaded, {path, reason}));
     return false;
   }

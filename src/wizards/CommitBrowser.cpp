@@ -89,7 +89,7 @@ class TCommitBrowser::TProgressLine final : public IProgress {
 TCommitBrowser::TCommitBrowser(TCommandContext& expert)
     : TModalForm(ToWx(sCommitBrowserCaption), wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER | wxMAXIMIZE_BOX),
       FExpert(&expert),
-      project_file_(GetCurrentProjectFile()) {
+      projectFile_(GetCurrentProjectFile()) {
   CreateControls();
   LayOut();
   FormCreate();
@@ -98,7 +98,7 @@ TCommitBrowser::TCommitBrowser(TCommandContext& expert)
 
 void TCommitBrowser::FormCreate() {
   AddRows();
-  table_ = new TCommitTable(FRows, ExtractFileDir(project_file_));
+  table_ = new TCommitTable(FRows, ExtractFileDir(projectFile_));
   RestoreComments();
   individual_.Update();
   summary_.Update();
@@ -223,13 +223,13 @@ void TCommitBrowser::DisplayWorkspaceFile(int row) {
   const auto* data = RowAt(row);
   if (!data || !FileExists(data->FileName)) {
     TMemoWorkspaceSource->ChangeValue(ToWx(sFileNotLocal));
-    source_status_->SetStatusText(data ? ToWx(data->FileName) : wxString());
+    sourceStatus_->SetStatusText(data ? ToWx(data->FileName) : wxString());
     return;
   }
   TMemoWorkspaceSource->ChangeValue(ToWx(BeginningOf(data->FileName)));
   std::error_code ignored;
   const auto size = std::filesystem::file_size(ToFilePath(data->FileName), ignored);
-  source_status_->SetStatusText(
+  sourceStatus_->SetStatusText(
       ToWx(Format(size > kShownBytes ? sFilePartShown : sFileSize,
                   {data->FileName, static_cast<long long>(size), static_cast<long long>(kShownBytes)})));
 }
@@ -312,7 +312,7 @@ void TCommitBrowser::HelpButtonClick() {
 // ------------------------------------------------------------------------------------------------ comments
 
 void TCommitBrowser::RestoreComments() {
-  const TCommentMemory memory(project_file_);
+  const TCommentMemory memory(projectFile_);
   bool anyOwn = false;
   for (auto& row : FRows) {
     row.Comment = memory.Pending(CommitCommentPlace(row.FileName));
@@ -329,7 +329,7 @@ void TCommitBrowser::RestoreComments() {
 void TCommitBrowser::RememberComments() {
   individual_.Update();  // the deferred calls may be pending
   summary_.Update();
-  TCommentMemory memory(project_file_);
+  TCommentMemory memory(projectFile_);
   const auto* current = CurrentRow();
   for (const auto& row : FRows)
     memory.Typed(CommitCommentPlace(row.FileName),

@@ -118,9 +118,9 @@ class TCommitBrowser final : public TModalForm {
   TCommitTable* table_ = nullptr;  // owned by the grid
   TCommentMemo individual_;
   TCommentMemo summary_;
-  wxStatusBar* source_status_ = nullptr;
+  wxStatusBar* sourceStatus_ = nullptr;
   wxStaticText* progress_ = nullptr;
-  std::string project_file_;
+  std::string projectFile_;
   bool busy_ = false;  // the activities are being performed
 };
 

@@ -85,11 +85,11 @@ void TCommitBrowser::CreateFilePages() {
   TMemoWorkspaceSource = new wxTextCtrl(TTabSheetWorkspaceSource, wxID_ANY, {}, wxDefaultPosition,
                                         wxDefaultSize, wxTE_MULTILINE | wxTE_READONLY | wxTE_DONTWRAP);
   TMemoWorkspaceSource->SetFont(wxFont(wxFontInfo(GetFont().GetPointSize()).Family(wxFONTFAMILY_TELETYPE)));
-  source_status_ =
+  sourceStatus_ =
       new wxStatusBar(TTabSheetWorkspaceSource, wxID_ANY, wxSTB_ELLIPSIZE_MIDDLE | wxSTB_SHOW_TIPS);
   auto* source = new wxBoxSizer(wxVERTICAL);
   source->Add(TMemoWorkspaceSource, wxSizerFlags(1).Expand());
-  source->Add(source_status_, wxSizerFlags().Expand());
+  source->Add(sourceStatus_, wxSizerFlags().Expand());
   TTabSheetWorkspaceSource->SetSizer(source);
 
   TButtonShowDiff = new wxButton(TTabSheetSourceDiffAndHist, wxID_ANY, ToWx(sShowDifference));

@@ -23,8 +23,8 @@ constexpr const char* kDirectoryProvider = "ClearCase";
 
 TPlaceProjectController::TPlaceProjectController(TCommandContext& expert)
     : TWizardController(expert),
-      project_file_(GetCurrentProjectFile()),
-      directory_(ExtractFileDir(project_file_)) {}
+      projectFile_(GetCurrentProjectFile()),
+      directory_(ExtractFileDir(projectFile_)) {}
 
 const TResString& TPlaceProjectController::StepCaption() const { return sPlaceStep; }
 const TResString& TPlaceProjectController::StatusCaption() const { return sPlaceStatusPage; }
@@ -78,16 +78,16 @@ void TPlaceProjectController::PlaceProject() {
   RunCatching([&] { placed = Place(); }, [this](const std::exception& error) { AddFailure({error.what()}); });
   // The mapping file stays even if placing fails (intentional).
   if (placed)
-    FExpert.Provider.SetOpenProjectFile(project_file_);
+    FExpert.Provider.SetOpenProjectFile(projectFile_);
   else
     RollBack();
   Complete(placed);
 }
 
 bool TPlaceProjectController::Place() {
-  AddStatus(Format(sPlaceInitializing.Text, {ExtractFileName(project_file_)}));
+  AddStatus(Format(sPlaceInitializing, {ExtractFileName(projectFile_)}));
   const auto& project = EnsureProject();
-  TMappingFile mapping(MappingFileName(project_file_));
+  TMappingFile mapping(MappingFileName(projectFile_));
   mapping.Write(FExpert.Provider.Name(), kMapProjName, project.get_ProjName());
   mapping.Write(FExpert.Provider.Name(), kMapAuxProjPath, project.get_ProjPath());
   TProviderMessageRecorder recorder;
@@ -104,7 +104,7 @@ void TPlaceProjectController::AddFiles(TProviderMessageRecorder& recorder, bool 
       AddFile(row, recorder, opened);
       --left;
     }
-  if (IsStopped()) AddStatus(Format(sPlaceStopped.Text, {left}));
+  if (IsStopped()) AddStatus(Format(sPlaceStopped, {left}));
 }
 
 bool TPlaceProjectController::Open(TMappingFile& mapping, TProviderMessageRecorder& recorder) {
@@ -127,14 +127,14 @@ void TPlaceProjectController::AddFile(std::size_t row, TProviderMessageRecorder&
   TStateMessages messages;
   if (!Project().AddFile({file}, {}, KeepCheckedOut, messages)) {
     // Intentional: relative to the parent directory, so that the path starts with the project's directory.
-    AddStatus(Format(sPlaceAddFailed.Text, {RelativePath(ExtractFileDir(directory_), file)}));
+    AddStatus(Format(sPlaceAddFailed, {RelativePath(ExtractFileDir(directory_), file)}));
     const auto reasons = Reasons(recorder, messages);
     if (!opened) return;  // the reason is the same for all files, and already shown
-    for (const auto& reason : reasons) AddStatus(Format(sPlaceReason.Text, {reason}));
+    for (const auto& reason : reasons) AddStatus(Format(sPlaceReason, {reason}));
     return;
   }
   recorder.DrainErrors();
-  AddStatus(Format(sPlaceAddOk.Text, {shown_[row]}));
+  AddStatus(Format(sPlaceAddOk, {shown_[row]}));
   if (FileExists(file)) SetFileAttributesOf(file, faArchive);
 }
 

@@ -36,7 +36,7 @@ class TPlaceProjectController final : public TWizardController {
   void AddFile(std::size_t row, TProviderMessageRecorder& recorder, bool opened);
   void RollBack();
 
-  std::string project_file_;
+  std::string projectFile_;
   std::string directory_;
   TStringList files_;
   TStringList shown_;

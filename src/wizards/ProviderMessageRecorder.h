@@ -15,7 +15,7 @@ class TProviderMessageRecorder final : public IProviderSink {
  public:
   /// `onLine` (may be empty) is called for each line.
   explicit TProviderMessageRecorder(std::function<void(const std::string&)> onLine = {})
-      : on_line_(std::move(onLine)), previous_(SetProviderSink(this)) {}
+      : onLine_(std::move(onLine)), previous_(SetProviderSink(this)) {}
   TProviderMessageRecorder(const TProviderMessageRecorder&) = delete;
   TProviderMessageRecorder& operator=(const TProviderMessageRecorder&) = delete;
   ~TProviderMessageRecorder() override { SetProviderSink(previous_); }
@@ -24,7 +24,7 @@ class TProviderMessageRecorder final : public IProviderSink {
     if (previous_) previous_->Line(severity, text);
     if (severity == TSeverity::Error) errors_.push_back(text);
     if (severity == TSeverity::Warning) warnings_.push_back(text);
-    if (on_line_) on_line_(text);
+    if (onLine_) onLine_(text);
   }
   void Box(const std::string& text) override {
     if (previous_) previous_->Box(text);
@@ -36,7 +36,7 @@ class TProviderMessageRecorder final : public IProviderSink {
   std::vector<std::string> DrainWarnings() { return std::exchange(warnings_, {}); }
 
  private:
-  std::function<void(const std::string&)> on_line_;
+  std::function<void(const std::string&)> onLine_;
   IProviderSink* previous_;
   std::vector<std::string> errors_;
   std::vector<std::string> warnings_;

@@ -41,11 +41,11 @@ bool MayChangePath(const std::string& providerPath) {
 std::string TargetProblem(const std::string& directory) {
   if (directory.empty()) return sTargetNone;
   if (!IsAbsolutePath(directory)) return sTargetNotAbsolute;
-  const auto told = ToCodePageExact(directory);
-  if (!told) return Format(sTargetNotInCodePage.Text, {directory});
-  if (told->size() > kLongestPath)
-    return Format(sTargetTooLong.Text, {directory, static_cast<long long>(kLongestPath)});
-  if (FileExists(directory) && !DirectoryExists(directory)) return Format(sTargetIsFile.Text, {directory});
+  const auto encoded = ToCodePageExact(directory);
+  if (!encoded) return Format(sTargetNotInCodePage, {directory});
+  if (encoded->size() > kLongestPath)
+    return Format(sTargetTooLong, {directory, static_cast<long long>(kLongestPath)});
+  if (FileExists(directory) && !DirectoryExists(directory)) return Format(sTargetIsFile, {directory});
   return {};
 }
 
@@ -72,13 +72,13 @@ std::string TargetNote(const std::string& directory) {
     note = sTargetNotEmpty;
   const auto project = ProjectAbove(directory);
   if (project.empty()) return note;
-  return note + (note.empty() ? "" : "\n") + Format(sTargetInProject.Text, {project});
+  return note + (note.empty() ? "" : "\n") + Format(sTargetInProject, {project});
 }
 
 void MakeDirectory(const std::string& directory) {
   std::error_code failed;
   fs::create_directories(ToFilePath(directory), failed);
-  if (failed) throw std::runtime_error(Format(sTargetNotMade.Text, {directory, failed.message()}));
+  if (failed) throw std::runtime_error(Format(sTargetNotMade, {directory, failed.message()}));
 }
 
 }  // namespace
@@ -164,13 +164,13 @@ void TPullProjectController::BeginStep(const TResString& text) {
 
 void TPullProjectController::PullProject() {
   FProjectFile.clear();
-  can_open_ = false;
+  canOpen_ = false;
   PageStatusDisplay(Work::Uninterrupted);
-  RunCatching([this] { can_open_ = Pull(); },
+  RunCatching([this] { canOpen_ = Pull(); },
               [this](const std::exception& error) { AddFailure({error.what()}); });
   Finish();
   progress_.clear();
-  Complete(can_open_);
+  Complete(canOpen_);
 }
 
 bool TPullProjectController::Pull() {
@@ -215,7 +215,7 @@ bool TPullProjectController::Fetch(std::size_t expected) {
   long long done = 0;
   TProviderMessageRecorder recorder([&](const std::string& line) {
     done = std::min(done + 1, static_cast<long long>(expected));
-    progress_ = Format(sPullFetched.Text, {done, static_cast<long long>(expected), line});
+    progress_ = Format(sPullFetched, {done, static_cast<long long>(expected), line});
     Progressed();
   });
   TStateMessages messages;
@@ -245,7 +245,7 @@ void TPullProjectController::ListFetched() {
     }
     for (std::size_t i = 0; i < part.size(); ++i) {
       if (!(statuses[i] & scc::SCC_STATUS_CONTROLLED)) continue;
-      AddStatus(Format(sPullGetOf.Text, {RelativePathBelow(target_, part[i])}));
+      AddStatus(Format(sPullGetOf, {RelativePathBelow(target_, part[i])}));
       if (!DirectoryExists(part[i])) SetFileAttributesOf(part[i], faArchive);
     }
   }

@@ -17,7 +17,7 @@ class TPullProjectController final : public TWizardController {
   /// The current step, for the line above the status list; empty when the work is done.
   const std::string& Progress() const { return progress_; }
   /// Whether the project was pulled and can be opened in the host.
-  bool CanOpen() const { return can_open_; }
+  bool CanOpen() const { return canOpen_; }
   /// The project file among the pulled files; empty until found.
   const std::string& ProjectFile() const { return FProjectFile; }
 
@@ -49,7 +49,7 @@ class TPullProjectController final : public TWizardController {
   std::string note_;
   std::string progress_;
   std::string FProjectFile;
-  bool can_open_ = false;
+  bool canOpen_ = false;
 };
 
 }  // namespace kestrel::addin

@@ -25,12 +25,12 @@ void TPullProjectWizard::CreateTargetPage() {
   DirectionLabelSelectTargetDirectory = AddLabel(Page3Panel, sPullSelectTarget);
   TargetDirectory = new wxTextCtrl(Page3Panel, wxID_ANY);
   TargetDirectoryBrowserButton = MakeBrowseButton(Page3Panel, sPullBrowseTarget);
-  NoteLabel = new wxStaticText(Page3Panel, wxID_ANY, {});
+  noteLabel_ = new wxStaticText(Page3Panel, wxID_ANY, {});
   ColumnOf(Page3Panel)
       ->Add(BrowseRow(TargetDirectory, TargetDirectoryBrowserButton), wxSizerFlags().Expand());
-  ColumnOf(Page3Panel)->Add(NoteLabel, wxSizerFlags().Border(wxTOP, FromDIP(12)));
-  TargetLabel = new wxStaticText(Page2Panel, wxID_ANY, {});
-  ColumnOf(Page2Panel)->Add(TargetLabel, wxSizerFlags().Border(wxTOP, FromDIP(12)));
+  ColumnOf(Page3Panel)->Add(noteLabel_, wxSizerFlags().Border(wxTOP, FromDIP(12)));
+  targetLabel_ = new wxStaticText(Page2Panel, wxID_ANY, {});
+  ColumnOf(Page2Panel)->Add(targetLabel_, wxSizerFlags().Border(wxTOP, FromDIP(12)));
   TargetDirectory->Bind(wxEVT_TEXT, &TPullProjectWizard::TargetDirectoryChange, this);
   TargetDirectoryBrowserButton->Bind(wxEVT_BUTTON, &TPullProjectWizard::TargetDirectoryBrowserButtonClick,
                                      this);
@@ -52,9 +52,9 @@ void TPullProjectWizard::CreateStatusPage() {
 void TPullProjectWizard::UpdateControls() {
   if (FromWx(TargetDirectory->GetValue()) != controller_.TargetDirectory())
     TargetDirectory->ChangeValue(ToWx(controller_.TargetDirectory()));
-  SetSentence(NoteLabel, controller_.TargetNote());
+  SetSentence(noteLabel_, controller_.TargetNote());
   // The provider may have changed the target directory.
-  SetSentence(TargetLabel, Format(sTargetOfPull.Text, {controller_.TargetDirectory()}));
+  SetSentence(targetLabel_, Format(sTargetOfPull, {controller_.TargetDirectory()}));
   Label1->SetLabel(
       wxControl::EscapeMnemonics(ToWx(controller_.Page().Next ? sPullStatus.str() : controller_.Progress())));
   cbOpenProject->Show(controller_.CanOpen());

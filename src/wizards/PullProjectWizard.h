@@ -37,8 +37,8 @@ class TPullProjectWizard final : public TWizardForm {
   wxWindow* FirstControl(int panel) const override;
 
   TPullProjectController controller_;
-  wxStaticText* NoteLabel;
-  wxStaticText* TargetLabel;
+  wxStaticText* noteLabel_;
+  wxStaticText* targetLabel_;
 };
 
 }  // namespace kestrel::addin

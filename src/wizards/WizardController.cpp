@@ -55,7 +55,7 @@ void TWizardController::FormCreate(TWindowHandle window) {
 
 void TWizardController::Initialize() {
   providers_.clear();
-  project_name_.clear();
+  projectName_.clear();
   TRegistry registry;
   if (registry.OpenKeyReadOnly(kInstalledProvidersKey)) providers_ = registry.GetValueNames();
   std::erase_if(providers_, [this](const std::string& name) { return !Offers(name); });
@@ -81,10 +81,10 @@ void TWizardController::InitializeProject() {
 }
 
 TSCCProviderProject& TWizardController::EnsureProject() {
-  if (local_path_.empty()) local_path_ = ProjectDirectory();
+  if (localPath_.empty()) localPath_ = ProjectDirectory();
   auto* list = FExpert.Provider.List();
-  if (list && !list->SetCurrentProject(local_path_)) {
-    list->Add(local_path_);
+  if (list && !list->SetCurrentProject(localPath_)) {
+    list->Add(localPath_);
     auto& project = Project();
     if (!picked_.UserName.empty()) project.set_UserName(picked_.UserName);
     project.set_ProjName(picked_.ProjName);
@@ -95,7 +95,7 @@ TSCCProviderProject& TWizardController::EnsureProject() {
 
 TSCCProviderProject& TWizardController::Project() {
   FExpert.Activities.RunWaiting();
-  return FExpert.Provider.SelectProject(local_path_, NoProviderText());
+  return FExpert.Provider.SelectProject(localPath_, NoProviderText());
 }
 
 void TWizardController::RemoveProject(const std::string& directory) {
@@ -109,8 +109,8 @@ void TWizardController::cbProvidersChange(int selected) {
   ShowProblemOf([&] {
     selected_ = selected;
     picked_ = {};
-    project_name_.clear();
-    local_path_.clear();
+    projectName_.clear();
+    localPath_.clear();
     FExpert.Provider.Release();
     PageSelectProviderDisplay();  // the result if the provider cannot be created
     InitializeProject();
@@ -143,7 +143,7 @@ void TWizardController::PageSelectProviderDisplay() {
     selected_ = 0;
   }
   const bool none = providers_.size() == 1 && providers_.front() == sNoProvidersAvailable.str();
-  page_.NoProviders = FExpert.Provider.List() == nullptr;
+  page_.NoProviders = !FExpert.Provider.List();
   page_.Next = !none && !page_.NoProviders;
 }
 
@@ -197,7 +197,7 @@ bool TWizardController::CancelButtonClick() {
 
 void TWizardController::Pick(const TSCCProviderProject& project) {
   picked_ = {project.get_ProjName(), project.get_ProjPath(), project.get_UserName()};
-  project_name_ = picked_.ProjName;
+  projectName_ = picked_.ProjName;
 }
 
 void TWizardController::ProjectBrowserButtonClick() {
@@ -212,13 +212,13 @@ void TWizardController::ProjectBrowserButtonClick() {
     } else if (code < 0) {
       ShowReasons(Reasons(recorder, messages));
     }
-    page_.Next = !project_name_.empty();
+    page_.Next = !projectName_.empty();
   });
 }
 
 void TWizardController::ProjectNameChange(const std::string& text) {
   ShowProblemOf([&] {
-    project_name_ = text;
+    projectName_ = text;
     page_.Next = !text.empty();
     NameProject(text);
   });

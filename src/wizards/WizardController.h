@@ -54,7 +54,7 @@ class TWizardController {
   const TWizardPageState& Page() const { return page_; }
   const TStringList& Providers() const { return providers_; }
   int SelectedProvider() const { return selected_; }  ///< -1 for none
-  const std::string& ProjectName() const { return project_name_; }
+  const std::string& ProjectName() const { return projectName_; }
   const TStringList& Status() const { return status_; }
   /// Whether the Close button of the status page was pressed.
   bool Finished() const { return finished_; }
@@ -102,8 +102,8 @@ class TWizardController {
   /// Sets the name of the provider project.
   void NameProject(const std::string& name);
   /// Makes Project() look for the project at its present local path.
-  void SetLocalPathFrom(const TSCCProviderProject& project) { local_path_ = project.get_LocalPath(); }
-  const std::string& LocalPath() const { return local_path_; }
+  void SetLocalPathFrom(const TSCCProviderProject& project) { localPath_ = project.get_LocalPath(); }
+  const std::string& LocalPath() const { return localPath_; }
   void RemoveProject(const std::string& directory);
 
   TCommandContext& FExpert;
@@ -126,9 +126,9 @@ class TWizardController {
   TWindowHandle window_ = 0;
   TStringList providers_;
   int selected_ = -1;
-  std::string local_path_;
+  std::string localPath_;
   TIdentity picked_;
-  std::string project_name_;
+  std::string projectName_;
   TStringList status_;
   bool stopped_ = false;
   bool finished_ = false;

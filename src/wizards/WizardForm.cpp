@@ -33,8 +33,8 @@ TWizardForm::TWizardForm(TWizardController& controller)
                    [this](std::size_t row) -> const std::string& { return controller_.Status()[row]; },
                    {},
                    {}});
-  ProblemLabel = new wxStaticText(this, wxID_ANY, {});
-  ProblemLabel->SetForegroundColour(*wxRED);
+  problemLabel_ = new wxStaticText(this, wxID_ANY, {});
+  problemLabel_->SetForegroundColour(*wxRED);
   CreateButtons();
 }
 
@@ -43,7 +43,7 @@ void TWizardForm::FormCreate() {
   BindEvents();
   controller_.OnChange = [this] { Changed(); };
   controller_.OnProgress = [this] {
-    if (TClock::now() >= next_update_) Changed();
+    if (TClock::now() >= nextUpdate_) Changed();
   };
   controller_.FormCreate(reinterpret_cast<TWindowHandle>(GetHandle()));
 }
@@ -113,7 +113,7 @@ void TWizardForm::LayOut() {
   auto* all = new wxBoxSizer(wxVERTICAL);
   for (auto* panel : {Page1Panel, Page2Panel, Page3Panel, Page4Panel})
     all->Add(panel, wxSizerFlags(1).Expand());
-  all->Add(ProblemLabel, wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT | wxBOTTOM, FromDIP(12)));
+  all->Add(problemLabel_, wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT | wxBOTTOM, FromDIP(12)));
   all->Add(new wxStaticLine(this), wxSizerFlags().Expand());
   all->Add(buttons, wxSizerFlags().Expand().Border(wxALL, gap));
   SetSizer(all);
@@ -145,7 +145,7 @@ void TWizardForm::Changed() {
   // the page that is shown after the work.
   auto* loop = wxEventLoopBase::GetActive();
   if (loop && !loop->IsYielding()) loop->YieldFor(wxEVT_CATEGORY_UI | wxEVT_CATEGORY_USER_INPUT);
-  next_update_ = TClock::now() + kBetweenUpdates;
+  nextUpdate_ = TClock::now() + kBetweenUpdates;
 }
 
 void TWizardForm::UpdatePage() {
@@ -165,7 +165,7 @@ void TWizardForm::UpdatePage() {
     ProjectName->ChangeValue(ToWx(controller_.ProjectName()));
   UpdateStatus();
   UpdateControls();
-  SetSentence(ProblemLabel, page.Problem);
+  SetSentence(problemLabel_, page.Problem);
   Layout();
   if (turned || (panel_ == kStatusPanel && page.Next && !couldGoOn)) MoveFocus();
 }

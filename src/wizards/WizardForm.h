@@ -80,9 +80,9 @@ class TWizardForm : public TModalForm {
   void MoveFocus();
 
   TWizardController& controller_;
-  wxStaticText* ProblemLabel;
+  wxStaticText* problemLabel_;
   int panel_ = 0;  // the visible one
-  TClock::time_point next_update_;
+  TClock::time_point nextUpdate_;
 };
 
 }  // namespace kestrel::addin

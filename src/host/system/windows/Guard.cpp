@@ -59,8 +59,7 @@ std::string NameOf(DWORD fault) {
   const auto row = std::ranges::find(kFaults, fault, &TFaultRow::Code);
   std::array<char, 9> digits{};
   std::snprintf(digits.data(), digits.size(), "%08lX", fault);
-  return Format(sFault.str(),
-                {row != std::end(kFaults) ? row->Name.str() : sOtherFault.str(), digits.data()});
+  return Format(sFault, {row != std::end(kFaults) ? row->Name.str() : sOtherFault.str(), digits.data()});
 }
 
 }  // namespace

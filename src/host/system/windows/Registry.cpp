@@ -33,7 +33,7 @@ class TSystemRegistry final : public IRegistryRoot {
  public:
   explicit TSystemRegistry(HKEY root) : root_(root) {}
 
-  bool HasKey(const std::string& key) const override { return OpenForReading(key) != nullptr; }
+  bool HasKey(const std::string& key) const override { return static_cast<bool>(OpenForReading(key)); }
 
   std::optional<std::string> Value(const std::string& key, const std::string& name) const override {
     const auto opened = OpenForReading(key);
