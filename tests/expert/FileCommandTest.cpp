@@ -164,17 +164,6 @@ TEST(CommentMemory, IsBounded) {
   EXPECT_THAT(TCommentMemory("/p4/App.qvxproj").Recent(), IsEmpty());
 }
 
-TEST_F(FileCommand, LongWorkReportsEveryFile) {
-  auto& expert = Open();
-  WillTick({"unit1.pas", "unit2.pas"});
-  WillComment("x");
-  provider_->StatusOf = [&](const std::string& file) { return Long{std::ranges::count(units_, file) > 0}; };
-  expert.CheckOutFiles({});
-  EXPECT_THAT(forms_.Progress,
-              ElementsAre(HasSubstr("Gathering the files"), HasSubstr("Asking for the status"),
-                          "Check Out File(s) 2/2", "Check Out File(s) 2/2"));
-}
-
 TEST_F(FileCommand, OneCallOnManyFilesReportsTheFilesThatTheProviderNames) {
   auto& expert = Open();
   const auto odd = folder_.Write("work/odd name.pas", "x");
@@ -195,50 +184,7 @@ TEST_F(FileCommand, OneCallOnManyFilesReportsTheFilesThatTheProviderNames) {
   EXPECT_THAT(forms_.LinesOf(mwtInfo), Contains("Asking the repository"));
 }
 
-TEST_F(FileCommand, CommentsThatArrivedAreNotOfferedAgainAndOptionsLast) {
-  struct TRow {
-    void (TSccExpert::*Command)(const std::string&);
-    const char* Entry;
-    Long Status;
-  };
-  const TRow rows[] = {{&TSccExpert::AddFiles, "SccAdd", 0}, {&TSccExpert::CheckOutFiles, "SccCheckout", 1}};
-  auto& expert = Open();
-  provider_->Advanced = {SCC_COMMAND_ADD, SCC_COMMAND_CHECKOUT};
-  int chosen = 0;
-  for (const auto& row : rows) {
-    SCOPED_TRACE(row.Entry);
-    provider_->StatusOf = [&](const std::string& file) {
-      return std::ranges::count(units_, file) > 0 ? row.Status : SCC_STATUS_DELETED | SCC_STATUS_OUTBYUSER;
-    };
-    provider_->AdvancedBlock = &chosen;
-    forms_.OnFileList.push_back([&](TFileListModel& model) {
-      EXPECT_TRUE(model.HasOptions);
-      TStateMessages messages;
-      expert.ProviderList()->CurrentProject()->GetCommandOptions(model.CommandKind, coShowAdvDialog,
-                                                                 messages);
-      return mrCancel;
-    });
-    EXPECT_EQ(AbortOf([&] { (expert.*row.Command)({}); }), "User cancelled dialog");
-    std::vector<std::string> offered;
-    for (const bool fails : {true, false, false}) {
-      provider_->OnCall[row.Entry] = [&, fails](const ScriptedCall& call) {
-        EXPECT_EQ(*static_cast<void* const*>(call.Options), &chosen) << "how long it lasts is the provider's";
-        const bool first = ExtractFileName(call.Files[0]) == "unit1.pas";
-        provider_->Results[row.Entry] = fails && first ? SCC_E_ACCESSFAILURE : SCC_OK;
-      };
-      WillTick({"unit1.pas", "unit2.pas"});
-      forms_.OnComments.push_back([&](TCommentModel& model) {
-        offered.push_back(model.Text);
-        model.Text = "why";
-        return mrOk;
-      });
-      (expert.*row.Command)({});
-    }
-    EXPECT_THAT(offered, ElementsAre("", "", ""));
-  }
-}
-
-TEST_F(FileCommand, CheckInIsOneCallThenMakesFilesWritableAndReloads) {
+TEST_F(FileCommand, CheckInIsOneCallAndTheFilesAreSavedBeforeAndReloadedAfter) {
   auto& expert = Open();
   host_.AddUnit(units_[1]);
   provider_->DefaultStatus = kMine;
@@ -263,21 +209,13 @@ TEST_F(FileCommand, CheckInIsOneCallThenMakesFilesWritableAndReloads) {
   EXPECT_EQ(GetFileAttributesOf(units_[0]), faArchive);
   EXPECT_THAT(host_.Log, ElementsAre("SaveAll", "ReloadFile " + units_[1]));
   EXPECT_EQ(forms_.Boxes.back().Title, "Check In File(s)");
-}
 
-TEST_F(FileCommand, KeptCheckedOutFilesKeepTheirAttributes) {
-  auto& expert = Open();
-  provider_->DefaultStatus = kMine;
-  SetFileAttributesOf(units_[1], faReadOnly);
-  WillTick({"unit2.pas"});
+  WillTick({"unit2.pas"});  // and leaves "keep checked out" ticked
   WillComment("more to come");
   expert.CheckInFiles(units_[1]);
   EXPECT_EQ(provider_->Last("SccCheckin").Flags, SCC_KEEP_CHECKEDOUT);
   EXPECT_NE(GetFileAttributesOf(units_[1]) & faReadOnly, 0U);
-}
 
-TEST_F(FileCommand, FailedSaveAllStopsBeforeTheProvider) {
-  auto& expert = Open();
   provider_->Calls.clear();
   host_.SaveSucceeds = false;
   EXPECT_THAT(AbortOf([&] { expert.CheckInFiles({}); }), HasSubstr("Unkown save error."));
@@ -330,6 +268,8 @@ TEST_F(FileCommand, TakesWhatTheEditorsShowAndLeavesOutWhatCannotBeSaved) {
         (TShownBox{row.Box,
                    At("unit1.kfm") + " has unsaved changes and could not be saved. Nothing was done with it.",
                    metError}));
+    EXPECT_EQ(forms_.Boxes.back() == (TShownBox{"Add File", "Not all files were added", metError}),
+              row.Entry == std::string("SccAdd"));
     EXPECT_THAT(host_.Log, Not(Contains("ReloadFile " + At("unit1.kfm"))));
     EXPECT_EQ(std::ranges::count(host_.Log, "ReloadFile " + units_[1]), row.Reloads);
     EXPECT_THAT(forms_.Boxes, Not(Contains(testing::Field(&TShownBox::Text, HasSubstr("success")))));
@@ -338,6 +278,7 @@ TEST_F(FileCommand, TakesWhatTheEditorsShowAndLeavesOutWhatCannotBeSaved) {
 
 TEST_F(FileCommand, OnlyTheLastCheckOutDecidesAboutTheReport) {
   auto& expert = Open();
+  host_.AddUnit(units_[1]);
   int calls = 0;
   const auto failOn = [&](int which) {
     calls = 0;
@@ -360,6 +301,8 @@ TEST_F(FileCommand, OnlyTheLastCheckOutDecidesAboutTheReport) {
   EXPECT_THAT(forms_.Boxes,
               ElementsAre(TShownBox{"Check Out File",
                                     "Someone else has done an exclusive checkout on this file", metError}));
+  EXPECT_THAT(host_.Log, ElementsAre("ReloadFile " + units_[1], "ReloadFile " + units_[1]))
+      << "also after a failure: the provider may have updated the file";
 }
 
 TEST_F(FileCommand, AddAsksPerFileUntilTheCommentIsToldToServeAll) {
@@ -387,19 +330,6 @@ TEST_F(FileCommand, AddAsksPerFileUntilTheCommentIsToldToServeAll) {
                                     "unit2.kfm: comment 2"));
   EXPECT_EQ(provider_->Last("SccAdd").Flags, SCC_KEEP_CHECKEDOUT);
   EXPECT_EQ(forms_.Boxes.back(), (TShownBox{"Add File", "All files were added successfully", metInfo}));
-}
-
-TEST_F(FileCommand, AddCountsSuccesses) {
-  provider_->Capabilities = 0;
-  auto& expert = Open();
-  provider_->DefaultStatus = 0;
-  provider_->OnCall["SccAdd"] = [&](const ScriptedCall& call) {
-    provider_->Results["SccAdd"] =
-        ExtractFileName(call.Files[0]) == "unit1.pas" ? SCC_E_FILEALREADYEXISTS : SCC_OK;
-  };
-  WillTick({"unit1.pas", "unit2.pas"});
-  expert.AddFiles({});
-  EXPECT_EQ(forms_.Boxes.back(), (TShownBox{"Add File", "Not all files were added", metError}));
 }
 
 TEST_F(FileCommand, BatchCommandsReportAndReloadOnlyOnSuccess) {

@@ -1,9 +1,6 @@
 // What the "Team" menu offers when it opens.
-#include <set>
-
 #include "expert/ExpertFixture.h"
 #include "system/System.h"
-#include "ui/MenuImages.h"
 
 namespace kestrel::addin {
 
@@ -61,16 +58,12 @@ TEST_F(TeamMenu, FollowsTheStatusOfTheFiles) {
   }
 }
 
-TEST_F(TeamMenu, OneFileOfAKindIsEnough) {
+TEST_F(TeamMenu, NeedsOneFileOfAKindAndCompanionsOnDisk) {
   Open();
   provider_->Statuses[units_[1]] = 0x1003;
   provider_->StatusOf = [&](const std::string& file) { return Long{ExtractFileExt(file) == ".pas"}; };
   Drop();
   EXPECT_THAT(Enabled(), ElementsAre(kOut, kIn, kAdd, kRemove, kUndo, kBrowser, kPull, kRun));
-}
-
-TEST_F(TeamMenu, CompanionsThatAUnitNeverHadAreNotThereToBeAdded) {
-  Open();
   provider_->StatusOf = [](const std::string& file) { return Long{FileExists(file) ? 0x1003 : 0}; };
   Drop();
   EXPECT_THAT(Enabled(), ElementsAre(kIn, kRemove, kUndo, kBrowser, kPull, kRun));
@@ -122,62 +115,6 @@ TEST_F(TeamMenu, ProviderThatCannotBeLoadedIsNamedInTheMessageWindow) {
   Drop();
   EXPECT_THAT(Enabled(), ElementsAre(kPull));
   EXPECT_THAT(forms_.LinesOf(mwtInfo), Contains("MainMenu; SCC DLL Loadlibrary failed"));
-}
-
-TEST_F(TeamMenu, ItemsStandInTheirOrderAndMessagesNeverShows) {
-  Open();
-  Drop();
-  std::vector<std::string> names;
-  for (const auto* item : expert_->Menu()->Map.Items) names.push_back(item->Name);
-  EXPECT_THAT(names, ElementsAre("CheckOutFiles", "CheckInFiles", "AddFiles", "RemoveFiles",
-                                 "UndoCheckOutFiles", "MainSep2", "CommitBrowser", "PlaceProject",
-                                 "PullProject", "MainSep3", "ShowDifferences1", "GetFiles", "ShowHistory1",
-                                 "MainSep4", "Messages1", "RunSccApplication1"));
-  EXPECT_FALSE(expert_->Menu()->Messages1.IsVisible());
-  EXPECT_FALSE(expert_->Menu()->ShowDifferences1.IsVisible());
-}
-
-TEST_F(TeamMenu, RunSccGoesWithTheCapability) {
-  provider_->Capabilities = SCC_CAP_QUERYINFO;
-  Open();
-  Drop();
-  EXPECT_THAT(Enabled(), Not(Contains(kRun)));
-}
-
-TEST_F(TeamMenu, GivesTheHostAPictureForEachActionOfItsOwn) {
-  auto& menu = *Start().Menu();
-  EXPECT_EQ(host_.Actions.size(), 11u);
-  // The picture that the host has where the action or item says.
-  const auto shown = [this](int index) {
-    return host_.Images.at(static_cast<std::size_t>(index - TScriptedHost::kFirstImage));
-  };
-  const struct {
-    int Image;
-    int ImageIndex;
-  } rows[] = {
-      {5, menu.actPlaceProject.ImageIndex},      {4, menu.actPullProject.ImageIndex},
-      {1, menu.actAddFiles.ImageIndex},          {6, menu.actRemoveFiles.ImageIndex},
-      {1, menu.actCheckInFiles.ImageIndex},      {2, menu.actCheckOutFiles.ImageIndex},
-      {8, menu.actUndoCheckOutFiles.ImageIndex}, {7, menu.actRunSccApp.ImageIndex},
-      {3, menu.actCommitBrowser.ImageIndex},     {9, menu.GetFiles.Action->ImageIndex},
-      {18, menu.ShowDifferences1.ImageIndex},    {19, menu.ShowHistory1.ImageIndex},
-  };
-  std::set<int> indexes;
-  for (const auto& row : rows) {
-    EXPECT_EQ(shown(row.ImageIndex), MenuImageDocument(row.Image)) << row.Image;
-    indexes.insert(row.ImageIndex);
-  }
-  EXPECT_EQ(indexes.size(), 12u) << "no two share a copy";
-  EXPECT_EQ(host_.Images.size(), 12u);
-  EXPECT_EQ(menu.actMessages.ImageIndex, -1);
-}
-
-TEST_F(TeamMenu, LeavesTheHostAsItWas) {
-  Start();
-  expert_.reset();
-  EXPECT_THAT(host_.Menus, IsEmpty());
-  EXPECT_THAT(host_.FileMenus, IsEmpty());
-  EXPECT_THAT(host_.Actions, IsEmpty());
 }
 
 class FileMenu : public TeamMenu {
@@ -241,13 +178,6 @@ TEST_F(FileMenu, IsThereOnlyWhileAProviderProjectIsOpen) {
   EXPECT_FALSE(menu.IsEnabled("")) << "a text that was never saved";
   host_.Notify(TOTAFileNotification::fnFileClosing, project_file_);
   EXPECT_FALSE(menu.IsEnabled(units_[0]));
-}
-
-TEST_F(FileMenu, SaysWhyACommandEndedEarly) {
-  Open();
-  forms_.OnFileList.push_back([](TFileListModel&) { return mrCancel; });
-  Choose(kOut, units_[0]);
-  EXPECT_THAT(forms_.LinesOf(mwtInfo), Contains("CheckFilesOutClick; User cancelled dialog"));
 }
 
 }  // namespace

@@ -36,15 +36,6 @@ TEST_F(Project, OtherFilesAndUnmappedProjectsLoadNoProvider) {
   EXPECT_EQ(provider_->Count("SccInitialize"), 0);
 }
 
-TEST_F(Project, ExtensionInCapitalsIsAProjectToo) {
-  Start();
-  const auto file = folder_.Write("work/APP.QVXPROJ", "");
-  folder_.Write("work/APP.cdp", "[Scripted]\n");
-  host_.AddProject(file, units_);
-  host_.Notify(fnFileOpened, file);
-  EXPECT_TRUE(provider_->Open);
-}
-
 TEST_F(Project, ClosingShowsTheMessagesAndDropsTheProvider) {
   auto& expert = Open();
   provider_->Results["SccCloseProject"] = SCC_E_ACCESSFAILURE;

@@ -39,15 +39,6 @@ TEST_F(ProviderWindows, SaveFirstAndAreNotShownWhenThatFails) {
   EXPECT_NE(host_.Log.back(), "ReloadFile " + units_[0]) << "only when the provider says so";
 }
 
-TEST_F(ProviderWindows, NeedAProjectWithAProviderProject) {
-  auto& expert = Start();
-  EXPECT_EQ(AbortOf([&] { expert.Properties(units_[0]); }),
-            "No project or package file found in current project");
-  host_.AddProject(project_file_, units_);
-  EXPECT_EQ(AbortOf([&] { expert.Properties(units_[0]); }),
-            "Unable to set current project, no matching path");
-}
-
 TEST_F(ProviderWindows, ApplicationRunsInATemporaryProjectWithoutOne) {
   auto& expert = Start();
   provider_->Results["SccRunScc"] = SCC_E_SHELLFAILURE;

@@ -18,15 +18,6 @@ TEST_F(Settings, EmptyOptionsAreFilledFromTheMachine) {
   EXPECT_EQ(host_.Options.Saves, 1);
 }
 
-TEST_F(Settings, ChosenOptionsStay) {
-  InstallProvider("Second", "/second.so", false);
-  host_.Options.Values = {{"SCCProvider", "Second"}, {"UserName", "bob"}};
-  auto& expert = Start();
-  EXPECT_EQ(expert.ProviderPath(), "/second.so");
-  EXPECT_EQ(expert.UserName(), "bob");
-  EXPECT_EQ(host_.Options.Saves, 0);
-}
-
 TEST_F(Settings, DefaultIsFoundByItsKeyIgnoringCase) {
   TRegistry registry;
   registry.OpenKey(kProviderKey);
@@ -57,17 +48,6 @@ TEST_F(Settings, FirstSectionOfTheMappingWins) {
   }
 }
 
-TEST_F(Settings, MissingUserNameIsWrittenBeforeItIsRead) {
-  WriteMapping("[Scripted]\nProjName=p\n");
-  auto& expert = Start();
-  std::string project, user = "dora", aux;
-  EXPECT_TRUE(expert.ReadSCCIniFile(project_file_, project, user, aux));
-  EXPECT_EQ(project, "p");
-  EXPECT_THAT(Mapping(), HasSubstr("UserName=dora"));
-  EXPECT_FALSE(expert.UpdateSCCIniFile(project_file_, "   "));
-  EXPECT_THAT(Mapping(), HasSubstr("UserName=dora"));
-}
-
 TEST_F(Settings, BrokenMappingIsALineAndStaysAsItIs) {
   auto& expert = Start();
   const std::string binary("[Scripted]\n\0\xFF\xFE", 14);
@@ -79,13 +59,6 @@ TEST_F(Settings, BrokenMappingIsALineAndStaysAsItIs) {
   EXPECT_THAT(forms_.LinesOf(mwtError), Contains(HasSubstr("ReadSettings; The project mapping file")));
   EXPECT_FALSE(expert.UpdateSCCIniFile(project_file_, "ann"));
   EXPECT_EQ(Mapping(), binary);
-}
-
-TEST_F(Settings, MappingThatCannotBeWrittenIsALine) {
-  auto& expert = Start();
-  // A folder in the file's place: nobody, not even root, can write it.
-  EXPECT_FALSE(expert.UpdateSCCIniFile(folder_ / "missing/App.qvxproj", "ann"));
-  EXPECT_THAT(forms_.LinesOf(mwtInfo), Contains(HasSubstr("UpdateSCCIniFile; ")));
 }
 
 TEST_F(Settings, MappingThatSaysNothingIsAWarningOnce) {

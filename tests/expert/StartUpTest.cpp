@@ -1,5 +1,4 @@
 // The expert's start, end, and its window for messages.
-#include "expert/EditorNotifiers.h"
 #include "expert/ExpertFixture.h"
 
 namespace kestrel::addin {
@@ -16,7 +15,6 @@ TEST_F(StartUp, InstallsMenuAndNotifierAndTakesThemAway) {
               ElementsAre(std::pair(mwtInfo, "SccExpert; Quillon 7 Source Code Control Interface"),
                           std::pair(mwtInfo, "Provider: Scripted")));
   EXPECT_EQ(provider_->Count("SccInitialize"), 0) << "no provider at start-up";
-  EXPECT_EQ(expert_->SourceEditors()->GetCount(), 0);
   expert_.reset();
   EXPECT_THAT(host_.Menus, IsEmpty());
   EXPECT_THAT(host_.Actions, IsEmpty());
@@ -61,34 +59,6 @@ TEST_F(StartUp, MessagesComeErrorFirst) {
   forms_.Boxes.clear();
   expert.DisplayMessages("Title", {});
   EXPECT_THAT(forms_.Boxes, IsEmpty());
-}
-
-TEST_F(StartUp, EditorNotifiersAttachAndDetach) {
-  auto& expert = Open();
-  auto& unit = host_.AddUnit(units_[0]);
-  unit.Editors.emplace_back(At("unit1.kfm"), true);
-  host_.TopBuffer = units_[0];
-  auto& editors = *expert.SourceEditors();
-  editors.Add(units_[0]);
-  ASSERT_EQ(editors.GetCount(), 1);
-
-  editors.GetItem(0)->ViewNotification(TOTAOperation::opInsert);
-  EXPECT_EQ(expert.FormEditors()->GetCount(), 1);
-  editors.GetItem(0)->ViewActivated();
-  EXPECT_THAT(forms_.LinesOf(mwtInfo), Contains("[unit1.pas]: Under source code control"));
-
-  const auto notifier = unit.Editors[0].Notifiers[0];
-  notifier->Destroyed();
-  EXPECT_EQ(editors.GetCount(), 0);
-  EXPECT_EQ(unit.Editors[0].Notifiers[0], nullptr) << "detached from the host";
-  EXPECT_THROW(editors.Add(At("nowhere.pas")), EAbort);
-}
-
-TEST_F(StartUp, WizardIdentity) {
-  auto& expert = Start();
-  EXPECT_EQ(expert.GetIDString(), "Corvane SoftwarePull project wizard");
-  EXPECT_EQ(Supports<IOTAWizard>(static_cast<IOTAWizard*>(&expert)), &expert);
-  EXPECT_EQ(expert.GetState(), 1U);
 }
 
 }  // namespace

@@ -1,8 +1,6 @@
 // What the host is asked.
 #include "expert/ExpertFixture.h"
 #include "expert/SccSystem.h"
-#include "support/NativePath.h"
-#include "support/TestRegistry.h"
 
 namespace kestrel::addin {
 
@@ -44,32 +42,9 @@ TEST(HostAccess, EditorsAndTheirState) {
   host.TopBuffer = "/u.pas";
   EXPECT_EQ(rv_GetCurrentFile(), "/u.pas");
 
-  EXPECT_EQ(GetFormEditor(nullptr, ".kfm"), nullptr);
-  EXPECT_EQ(GetFormEditor(&static_cast<IOTAProject&>(unit), ".kfm"), nullptr);
-  unit.Editors.emplace_back("/u.KFM", true);
-  EXPECT_NE(GetFormEditor(&static_cast<IOTAProject&>(unit), ".kfm"), nullptr)
-      << "no match: the last editor is a form";
-  EXPECT_EQ(GetActiveFormEditor()->GetFileName(), "/u.KFM");
-  unit.Editors.emplace_back("/u.txt", false);
-  EXPECT_EQ(GetFormEditor(&static_cast<IOTAProject&>(unit), ".kfm"), nullptr);
-
-  unit.Editors.emplace_back("/u.kfm", false);
-  unit.Editors.emplace_back("/v.KFM", true);
-  EXPECT_EQ(GetFormEditor(&static_cast<IOTAProject&>(unit), ".kfm"), nullptr) << "the match is no form";
-
   auto& form = host.AddUnit("/f.pas");
   form.Editors.front().IsForm = true;
   EXPECT_THROW(IsUnitModified("/f.pas"), std::runtime_error);
-}
-
-TEST(HostAccess, HelpFileComesFromTheMachinesHelpKey) {
-  TTestRegistry registry;
-  EXPECT_EQ(GetRVHelpFile("RavelinDSP.hlp"), "");
-  TRegistry writer;
-  writer.OpenKey("SOFTWARE\\Microsoft\\Windows\\Help");
-  writer.WriteString("RavelinDSP.hlp", Native("/opt/help"));
-  EXPECT_EQ(GetRVHelpFile("RavelinDSP.hlp"), Native("/opt/help/RavelinDSP.hlp"));
-  EXPECT_EQ(GetRVHelpFile("other.hlp"), Native("/other.hlp"));
 }
 
 }  // namespace

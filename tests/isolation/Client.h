@@ -5,24 +5,15 @@
 #include <fstream>
 #include <functional>
 #include <map>
-#include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
 
-#include "scc/sccdefs.h"
+#include "support/EntryPoints.h"
 #include "support/Environment.h"
 #include "support/TemporaryFolder.h"
 #include "system/Library.h"
 #include "system/System.h"
-
-namespace kestrel::scc {
-struct EntryPoints {
-#define SCC_ENTRY(variable, name, result, arguments) result(SCC_CALL* variable) arguments = nullptr;
-#include "scc/entry_points.def"
-#undef SCC_ENTRY
-};
-}  // namespace kestrel::scc
 
 namespace kestrel::isolation {
 
@@ -30,16 +21,7 @@ inline std::vector<std::string> lines;  // the callback has no argument to find 
 
 class TIsolatedClient {
  public:
-  explicit TIsolatedClient(const char* caller = "tests") : Caller(caller) {
-    lines.clear();
-    std::string error;
-    const auto library = LoadModule(std::string(ISOLATED_SCRIPTED), &error);  // stays: it does so anyway
-    if (library == nullptr) throw std::runtime_error(error);
-#define SCC_ENTRY(variable, name, result, arguments) \
-  Scc.variable = reinterpret_cast<decltype(Scc.variable)>(FindSymbol(library, name));
-#include "scc/entry_points.def"
-#undef SCC_ENTRY
-  }
+  explicit TIsolatedClient(const char* caller = "tests") : Caller(caller) { lines.clear(); }
   ~TIsolatedClient() {
     if (Context != nullptr) Scc.SccUninitialize(Context);
   }
@@ -64,7 +46,7 @@ class TIsolatedClient {
 
   const std::string& Faults() const { return faults_; }
 
-  scc::EntryPoints Scc;
+  const scc::EntryPoints Scc{RequireModule(ISOLATED_SCRIPTED)};  // stays loaded: it does so anyway
   const char* Caller;
   void* Context = nullptr;
   std::array<char, 5120> Name{}, Label{}, User{}, Project{}, Aux{}, Local{}, Event{};

@@ -13,12 +13,10 @@ using testing::ElementsAre;
 
 namespace {
 
-struct Picking : testing::Test {
+struct Picking : TTeam {
   Picking() {
-    ann.Open(repository.Url(), "project");
-    bob.Open(repository.Url(), "project");
-    for (const char* name : {"a.pas", "b.pas", "sub/c.pas"}) bob.Write(name, "1\n");
-    bob.Add({"a.pas", "b.pas", "sub/c.pas"});
+    Join(bob);
+    bob.AddNew({"a.pas", "b.pas", "sub/c.pas"});
   }
   static std::vector<std::string> Offered(wxDialog& dialog) {
     std::vector<std::string> names;
@@ -32,9 +30,6 @@ struct Picking : testing::Test {
     event.m_itemIndex = row;
     list->HandleWindowEvent(event);
   }
-  TTestRepository repository;
-  TDeveloper ann{"ann"};
-  TDeveloper bob{"bob"};
   TModalScript script;
 };
 

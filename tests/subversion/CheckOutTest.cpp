@@ -1,12 +1,8 @@
 // Check-out, check-in and undo, alone and with a colleague.
 #include <gmock/gmock.h>
 
-#include <span>
-
 #include "Developer.h"
 #include "subversion/commands/Commands.h"
-#include "subversion/project/OpenProject.h"
-#include "subversion/svn/Question.h"
 
 namespace kestrel::svnscc {
 
@@ -14,27 +10,12 @@ using testing::HasSubstr;
 
 namespace {
 
-constexpr scc::Long kControlled = 0x0001;
-constexpr scc::Long kOutHere = 0x100B;
-constexpr scc::Long kOutElsewhere = 0x1009;
-constexpr scc::Long kOutByOther = 0x000D;
-constexpr scc::Long kOutOfDate = 0x0020;
-constexpr scc::Long kDeleted = 0x0040;
-constexpr scc::Long kMerged = 0x0100;
-constexpr scc::Long kModified = 0x0800;
-
 /// A project with unit1.pas in it, at Ann's and at Bob's.
-struct CheckOut : testing::Test {
+struct CheckOut : TTeam {
   CheckOut() {
-    EXPECT_EQ(scc::SCC_OK, ann.Open(repository.Url(), "project"));
-    ann.Write("unit1.pas", "one\ntwo\nthree\n");
-    EXPECT_EQ(scc::SCC_OK, ann.Add({"unit1.pas"}, "first"));
-    EXPECT_EQ(scc::SCC_OK, bob.Open(repository.Url(), "project"));
-    EXPECT_EQ(scc::SCC_OK, bob.GetEverything());
+    ann.AddNew({"unit1.pas"}, "one\ntwo\nthree\n");
+    Join(bob);
   }
-  TTestRepository repository;
-  TDeveloper ann{"ann"};
-  TDeveloper bob{"bob"};
 };
 
 }  // namespace
@@ -62,9 +43,8 @@ TEST_F(CheckOut, EditAndCheckInAreSeenInTheRepository) {
   EXPECT_EQ(kControlled, ann.Status("unit1.pas"));
 }
 
-TEST_F(CheckOut, UndoBringsTheTextBackEvenIfTheFileIsGone) {
-  ann.CheckOut({"unit1.pas"});
-  ann.Write("unit1.pas", "scribbled\n");
+TEST_F(CheckOut, UndoRestoresTheTextAndKeepsACopyOfTheEdits) {
+  ann.Edit("unit1.pas", "scribbled\n");
   ASSERT_EQ(scc::SCC_OK, ann.Undo({"unit1.pas"})) << ann.Said();
   EXPECT_THAT(ann.Said(), HasSubstr("I The changes to unit1.pas were kept in unit1.pas.mine.\n"));
   EXPECT_EQ("scribbled\n", ann.Read("unit1.pas.mine"));
@@ -79,37 +59,34 @@ TEST_F(CheckOut, UndoBringsTheTextBackEvenIfTheFileIsGone) {
   EXPECT_EQ(kControlled, ann.Status("unit1.pas"));
 }
 
-TEST_F(CheckOut, TheColleagueSeesItAndIsRefused) {
-  ann.CheckOut({"unit1.pas"});
-  EXPECT_EQ(kOutByOther, bob.Status("unit1.pas"));
-  EXPECT_EQ(scc::SCC_E_FILEOUTEXCLUSIVE, bob.CheckOut({"unit1.pas"}));
-  EXPECT_EQ("E unit1.pas: ann has it checked out\n", bob.Said());
-  EXPECT_FALSE(bob.IsWritable("unit1.pas"));
-  EXPECT_EQ(scc::SCC_E_FILEOUTEXCLUSIVE, bob.Remove({"unit1.pas"}));
-  EXPECT_EQ(scc::SCC_E_NOTCHECKEDOUT, bob.CheckIn({"unit1.pas"}));
-  EXPECT_EQ(scc::SCC_E_NOTCHECKEDOUT, bob.Undo({"unit1.pas"}));
-}
-
-TEST_F(CheckOut, MineElsewhereIsNotMineHere) {
+TEST_F(CheckOut, RefusesFilesThatAreCheckedOutByOthersOrInAnotherFolder) {
   TDeveloper annAtHome("ann");
-  ASSERT_EQ(scc::SCC_OK, annAtHome.Open(repository.Url(), "project"));
-  ASSERT_EQ(scc::SCC_OK, annAtHome.GetEverything());
+  Join(annAtHome);
   ann.CheckOut({"unit1.pas"});
-  EXPECT_EQ(kOutElsewhere, annAtHome.Status("unit1.pas"));
-  EXPECT_EQ(scc::SCC_E_ALREADYCHECKEDOUT, annAtHome.CheckOut({"unit1.pas"}));
-  EXPECT_EQ(scc::SCC_E_NOTCHECKEDOUT, annAtHome.Undo({"unit1.pas"}));
-  EXPECT_EQ(scc::SCC_E_FILEISCHECKEDOUT, annAtHome.Remove({"unit1.pas"}));
-  EXPECT_EQ(kOutHere, ann.Status("unit1.pas"));
+  struct Row {
+    TDeveloper& who;
+    scc::Long status, ofCheckOut, ofRemove;
+    const char* reason;
+  };
+  for (const auto& row : {Row{bob, kOutByOther, scc::SCC_E_FILEOUTEXCLUSIVE, scc::SCC_E_FILEOUTEXCLUSIVE,
+                              "ann has it checked out"},
+                          Row{annAtHome, kOutElsewhere, scc::SCC_E_ALREADYCHECKEDOUT,
+                              scc::SCC_E_FILEISCHECKEDOUT, "you have it checked out in another folder"}}) {
+    SCOPED_TRACE(row.reason);
+    EXPECT_EQ(row.status, row.who.Status("unit1.pas"));
+    EXPECT_EQ(row.ofCheckOut, row.who.CheckOut({"unit1.pas"}));
+    EXPECT_THAT(row.who.Said(), HasSubstr(row.reason));
+    EXPECT_FALSE(row.who.IsWritable("unit1.pas"));
+    EXPECT_EQ(row.ofRemove, row.who.Remove({"unit1.pas"}));
+    EXPECT_EQ(scc::SCC_E_NOTCHECKEDOUT, row.who.CheckIn({"unit1.pas"}));
+    EXPECT_EQ(scc::SCC_E_NOTCHECKEDOUT, row.who.Undo({"unit1.pas"}));
+  }
 }
 
-TEST_F(CheckOut, AnOldFileIsUpdatedFirstAndLocalEditsSurvive) {
-  ann.CheckOut({"unit1.pas"});
-  ann.Write("unit1.pas", "ONE\ntwo\nthree\n");
-  ann.CheckIn({"unit1.pas"});
+TEST_F(CheckOut, UpdatesAnOldFileFirstAndMergesLocalEdits) {
+  ann.EditAndCheckIn("unit1.pas", "ONE\ntwo\nthree\n");
   EXPECT_EQ(kControlled | kOutOfDate, bob.Status("unit1.pas"));
-
-  std::filesystem::permissions(bob.File("unit1.pas"), std::filesystem::perms::owner_all);
-  bob.Write("unit1.pas", "one\ntwo\nTHREE\n");
+  bob.EditWithoutCheckOut("unit1.pas", "one\ntwo\nTHREE\n");
   EXPECT_EQ(kControlled | kOutOfDate | kModified, bob.Status("unit1.pas"));
   ASSERT_EQ(scc::SCC_OK, bob.CheckOut({"unit1.pas"})) << bob.Said();
   EXPECT_THAT(bob.Said(), HasSubstr("I Merged changes from the repository into unit1.pas.\n"));
@@ -118,13 +95,9 @@ TEST_F(CheckOut, AnOldFileIsUpdatedFirstAndLocalEditsSurvive) {
   EXPECT_EQ(kOutHere | kModified, bob.Status("unit1.pas"));
 }
 
-TEST_F(CheckOut, AConflictIsMarkedRefusedAndSettledByEditing) {
-  ann.CheckOut({"unit1.pas"});
-  ann.Write("unit1.pas", "ann\ntwo\nthree\n");
-  ann.CheckIn({"unit1.pas"});
-  std::filesystem::permissions(bob.File("unit1.pas"), std::filesystem::perms::owner_all);
-  bob.Write("unit1.pas", "bob\ntwo\nthree\n");
-
+TEST_F(CheckOut, MarksAConflictThatEditingSettles) {
+  ann.EditAndCheckIn("unit1.pas", "ann\ntwo\nthree\n");
+  bob.EditWithoutCheckOut("unit1.pas", "bob\ntwo\nthree\n");
   ASSERT_EQ(scc::SCC_OK, bob.CheckOut({"unit1.pas"})) << bob.Said();
   EXPECT_THAT(bob.Said(), HasSubstr("W Changes from the repository conflict with yours in unit1.pas"));
   EXPECT_EQ(kOutHere | kModified | kMerged, bob.Status("unit1.pas"));
@@ -140,22 +113,18 @@ TEST_F(CheckOut, AConflictIsMarkedRefusedAndSettledByEditing) {
 }
 
 // Nobody has a lock here, so that clients do not offer undo.
-TEST_F(CheckOut, AConflictThatCannotBeMergedIsAskedAbout) {
-  for (const char* name : {"kept.dat", "gone.pas", "both.dat"}) ann.Write(name, "0\n");
-  ann.Add({"kept.dat", "both.dat"}, "", scc::SCC_FILETYPE_BINARY | scc::SCC_KEEP_CHECKEDOUT);
-  ann.Add({"gone.pas"});
+TEST_F(CheckOut, AsksAboutAConflictThatCannotBeMerged) {
+  ann.AddNew({"kept.dat", "both.dat"}, "0\n", scc::SCC_FILETYPE_BINARY | scc::SCC_KEEP_CHECKEDOUT);
+  ann.AddNew({"gone.pas"}, "0\n");
   bob.GetEverything();
-  for (const char* name : {"kept.dat", "gone.pas", "both.dat"}) {
-    std::filesystem::permissions(bob.File(name), std::filesystem::perms::owner_all);
-    bob.Write(name, "bob\n");
-  }
+  const std::vector<std::string> names{"kept.dat", "gone.pas", "both.dat"};
+  for (const auto& name : names) bob.EditWithoutCheckOut(name, "bob\n");
   ann.Write("kept.dat", "ann\n");
   ann.Write("both.dat", "ann\n");
   ASSERT_EQ(scc::SCC_OK, ann.CheckIn({"kept.dat", "both.dat"}));
   ASSERT_EQ(scc::SCC_OK, ann.Remove({"gone.pas"}));
-  EXPECT_EQ(scc::SCC_E_FIXMERGE, bob.Get({"kept.dat", "gone.pas", "both.dat"}));
-  EXPECT_EQ(scc::SCC_E_FIXMERGE, bob.Get({"kept.dat", "gone.pas", "both.dat"}))
-      << "nothing can be asked here";
+  EXPECT_EQ(scc::SCC_E_FIXMERGE, bob.Get(names));
+  EXPECT_EQ(scc::SCC_E_FIXMERGE, bob.Get(names)) << "nothing can be asked here";
   EXPECT_THAT(bob.Said(), HasSubstr("Get Latest Version or Undo Check Out takes the repository's"));
 
   const std::string lock = "svn lock -q --non-interactive --no-auth-cache --username bob '";
@@ -163,72 +132,60 @@ TEST_F(CheckOut, AConflictThatCannotBeMergedIsAskedAbout) {
   EXPECT_EQ(scc::SCC_E_FIXMERGE, bob.CheckIn({"both.dat"})) << "no marks, and still not settled";
   EXPECT_EQ("ann\n", repository.Contents("project/both.dat"));
 
-  static std::string asked;
-  static bool answer;
-  svnscc::SetQuestionPrompt([](scc::WindowHandle, const svnscc::Question& question) {
-    asked += question.Text;
-    return std::optional(answer);
-  });
   bob.Close();
-  svnscc::ProviderContext session;
-  svnscc::ProjectNames names{"bob", "project", repository.Url(), bob.Folder(), ""};
-  svnscc::OpenProject(session, names, {});
-  const std::vector<std::string> files{bob.File("kept.dat"), bob.File("gone.pas"), bob.File("both.dat")};
-  const std::vector<const char*> paths{files[0].c_str(), files[1].c_str(), files[2].c_str()};
-  const std::span get = std::span(paths).first(2);
-  answer = false;
-  EXPECT_EQ(scc::SCC_E_FIXMERGE, svnscc::GetFiles(session, get, {}));
-  EXPECT_THAT(asked, testing::AllOf(HasSubstr("kept.dat"), HasSubstr("gone.pas")));
-  EXPECT_EQ("bob\n", bob.Read("kept.dat"));
-  EXPECT_EQ("bob\n", bob.Read("gone.pas"));
-  answer = true;
-  EXPECT_EQ(scc::SCC_OK, svnscc::GetFiles(session, get, {}));
-  EXPECT_EQ(scc::SCC_OK, svnscc::CheckOut(session, std::span(paths).last(1), "", {}));
-  svnscc::SetQuestionPrompt(nullptr);
-  for (const char* name : {"kept.dat", "both.dat"}) {
-    EXPECT_EQ("ann\n", bob.Read(name));
-    EXPECT_EQ("bob\n", bob.Read(name + std::string(".mine")));
+  {
+    TAnsweredQuestions questions;
+    TDirectSession session(repository, bob);
+    const std::vector<std::string> files{bob.File("kept.dat"), bob.File("gone.pas"), bob.File("both.dat")};
+    const std::vector<const char*> paths{files[0].c_str(), files[1].c_str(), files[2].c_str()};
+    const svnscc::Names get(paths.data(), 2);
+    questions.Answer = false;
+    EXPECT_EQ(scc::SCC_E_FIXMERGE, svnscc::GetFiles(session, get, {}));
+    EXPECT_THAT(questions.Asked, testing::AllOf(HasSubstr("kept.dat"), HasSubstr("gone.pas")));
+    EXPECT_EQ("bob\n", bob.Read("kept.dat"));
+    EXPECT_EQ("bob\n", bob.Read("gone.pas"));
+    questions.Answer = true;
+    EXPECT_EQ(scc::SCC_OK, svnscc::GetFiles(session, get, {}));
+    EXPECT_EQ(scc::SCC_OK, svnscc::CheckOut(session, svnscc::Names(&paths[2], 1), "", {}));
   }
+  for (const auto& name : names) EXPECT_EQ("bob\n", bob.Read(name + ".mine"));
+  EXPECT_EQ("ann\n", bob.Read("kept.dat"));
+  EXPECT_EQ("ann\n", bob.Read("both.dat"));
   EXPECT_FALSE(bob.Has("gone.pas"));
-  EXPECT_EQ("bob\n", bob.Read("gone.pas.mine"));
-  session.Close();
   bob.Open(repository.Url(), "project");
-  EXPECT_EQ((std::vector<scc::Long>{kControlled, 0, kOutHere}),
-            bob.Statuses({"kept.dat", "gone.pas", "both.dat"}));
+  EXPECT_EQ((TStatuses{kControlled, 0, kOutHere}), bob.Statuses(names));
 }
 
-TEST_F(CheckOut, ALockThatWasTakenAwayEndsInACheckInConflict) {
+TEST_F(CheckOut, ReportsALostLockAndWhoTookIt) {
   ann.CheckOut({"unit1.pas"});
-  ann.Write("unit1.pas", "mine\n");
   repository.BreakLock("project/unit1.pas");
+  EXPECT_EQ(scc::SCC_OK, ann.CheckIn({"unit1.pas"}, "", scc::SCC_KEEP_CHECKEDOUT)) << "nothing to send";
+  EXPECT_EQ("W The lock on unit1.pas was taken away in the repository.\n", ann.Said());
+  ann.Write("unit1.pas", "mine\n");
   EXPECT_EQ(kControlled | kModified, ann.Status("unit1.pas"));
-  ASSERT_EQ(scc::SCC_OK, bob.CheckOut({"unit1.pas"}));
+  bob.CheckOut({"unit1.pas"});
   EXPECT_EQ(kOutByOther | kModified, ann.Status("unit1.pas"));
+  EXPECT_NE(scc::SCC_OK, ann.CheckIn({"unit1.pas"}));
+  EXPECT_THAT(ann.Said(), testing::EndsWith("\nE unit1.pas: bob has it checked out\n"));
+
   bob.Write("unit1.pas", "his\n");
   bob.CheckIn({"unit1.pas"});
-
   EXPECT_EQ(scc::SCC_E_CHECKINCONFLICT, ann.CheckIn({"unit1.pas"})) << ann.Said();
   EXPECT_EQ("mine\n", ann.Read("unit1.pas"));
   EXPECT_EQ("his\n", repository.Contents("project/unit1.pas"));
-}
 
-TEST_F(CheckOut, AStolenLockIsToldWithItsNewOwner) {
-  ann.CheckOut({"unit1.pas"});
-  ann.Write("unit1.pas", "mine\n");
-  repository.BreakLock("project/unit1.pas");
-  bob.CheckOut({"unit1.pas"});
-  EXPECT_NE(scc::SCC_OK, ann.CheckIn({"unit1.pas"}));
-  EXPECT_THAT(ann.Said(), testing::EndsWith("\nE unit1.pas: bob has it checked out\n"));
+  ann.AddNew({"unit2.pas"}, "1\n", scc::SCC_KEEP_CHECKEDOUT);
+  repository.BreakLock("project/unit2.pas");
+  ASSERT_EQ(scc::SCC_OK, bob.CheckOut({"unit2.pas"})) << bob.Said();
   ann.GetEverything();
-  EXPECT_THAT(ann.Said(), HasSubstr("unit1.pas was taken away in the repository: bob has it now.\n"));
+  EXPECT_THAT(ann.Said(), HasSubstr("unit2.pas was taken away in the repository: bob has it now.\n"));
 }
 
-TEST_F(CheckOut, OneBadNameDoesNotStopTheOthers) {
-  ann.Write("unit2.pas", "2\n");
-  ann.Add({"unit2.pas"});
+TEST_F(CheckOut, ContinuesWithTheOtherFilesAfterABadOne) {
+  ann.AddNew({"unit2.pas"});
   EXPECT_EQ(scc::SCC_E_FILENOTCONTROLLED, ann.CheckOut({"unit1.pas", "nonsense.pas", "unit2.pas"}));
   EXPECT_THAT(ann.Said(), HasSubstr("E nonsense.pas: the file is not under source control\n"));
-  EXPECT_EQ((std::vector<scc::Long>{kOutHere, kOutHere}), ann.Statuses({"unit1.pas", "unit2.pas"}));
+  EXPECT_EQ((TStatuses{kOutHere, kOutHere}), ann.Statuses({"unit1.pas", "unit2.pas"}));
 
   ann.Write("unit1.pas", "changed\n");
   std::filesystem::remove(ann.File("unit2.pas"));
@@ -238,9 +195,8 @@ TEST_F(CheckOut, OneBadNameDoesNotStopTheOthers) {
 }
 
 // Clients name a unit with its form, whichever of them is out.
-TEST_F(CheckOut, ABatchMayNameWhatIsNotOut) {
-  ann.Write("unit2.pas", "2\n");
-  ann.Add({"unit2.pas"});
+TEST_F(CheckOut, AllowsFilesInABatchThatAreNotCheckedOut) {
+  ann.AddNew({"unit2.pas"});
   ann.CheckOut({"unit1.pas", "unit1.pas"});
   EXPECT_EQ(scc::SCC_OK, ann.CheckOut({"unit1.pas"}));
   EXPECT_EQ("I unit1.pas is checked out already.\n", ann.Said());
@@ -252,17 +208,9 @@ TEST_F(CheckOut, ABatchMayNameWhatIsNotOut) {
   EXPECT_EQ(scc::SCC_E_NOTCHECKEDOUT, ann.Undo({"unit2.pas", "unit1.pas"}));
 }
 
-TEST_F(CheckOut, ALostLockIsToldWhenNothingIsSent) {
-  ann.CheckOut({"unit1.pas"});
-  repository.BreakLock("project/unit1.pas");
-  EXPECT_EQ(scc::SCC_OK, ann.CheckIn({"unit1.pas"}, "", scc::SCC_KEEP_CHECKEDOUT));
-  EXPECT_EQ("W The lock on unit1.pas was taken away in the repository.\n", ann.Said());
-}
-
 // The server counts such a file as old, and there is nothing to fetch.
-TEST_F(CheckOut, AFileThatWasMovedAwayAndBackIsCheckedIn) {
-  ann.CheckOut({"unit1.pas"});
-  ann.Write("unit1.pas", "mine\n");
+TEST_F(CheckOut, ChecksInAFileThatWasMovedAwayAndBack) {
+  ann.Edit("unit1.pas", "mine\n");
   repository.BreakLock("project/unit1.pas");
   const auto move = [&](const std::string& from, const std::string& to) {
     return bob.Library()->SccRename(bob.Context(), nullptr, bob.File(from).c_str(), bob.File(to).c_str());
@@ -273,10 +221,9 @@ TEST_F(CheckOut, AFileThatWasMovedAwayAndBackIsCheckedIn) {
   EXPECT_EQ("mine\n", repository.Contents("project/unit1.pas"));
 }
 
-TEST_F(CheckOut, ARefusalOfTheServersHookIsToldAndLosesNothing) {
+TEST_F(CheckOut, ReportsARefusalByTheServersHookAndKeepsTheEdits) {
   repository.WriteHook("pre-commit", "echo 'No ticket number.' >&2\nexit 1\n");
-  ann.CheckOut({"unit1.pas"});
-  ann.Write("unit1.pas", "mine\n");
+  ann.Edit("unit1.pas", "mine\n");
   EXPECT_EQ(scc::SCC_E_NOTAUTHORIZED, ann.CheckIn({"unit1.pas"}));
   EXPECT_THAT(ann.Said(), HasSubstr("No ticket number."));
   EXPECT_EQ("mine\n", ann.Read("unit1.pas"));

@@ -6,7 +6,6 @@
 
 #include "Developer.h"
 #include "subversion/commands/Commands.h"
-#include "subversion/project/OpenProject.h"
 #include "subversion/svn/CommandOptions.h"
 
 namespace kestrel::svnscc {
@@ -15,23 +14,15 @@ using svnscc::CommandOptions;
 
 namespace {
 
-struct OptionsAtWork : testing::Test {
-  OptionsAtWork() {
-    repository.Choose("project");
-    svnscc::ProjectNames names{"ann", "project", repository.Url(), ann.Folder(), ""};
-    svnscc::OpenProject(session, names, {.MayCreate = true});
-    bob.Open(repository.Url(), "project");
-  }
+struct OptionsAtWork : TTeam {
+  OptionsAtWork() { Join(bob); }
   const std::string& File(const char* name) { return names_.emplace_back(ann.File(name)); }
   template <class Command, class... Arguments>
   scc::Long Run(Command command, const char* name, Arguments... arguments) {
     const char* const path = File(name).c_str();
-    return command(session, svnscc::Names(&path, 1), arguments...);
+    return command(session.Session, svnscc::Names(&path, 1), arguments...);
   }
-  TTestRepository repository;
-  TDeveloper ann{"ann"};
-  TDeveloper bob{"bob"};
-  svnscc::ProviderContext session;
+  TDirectSession session{repository, ann};
   std::list<std::string> names_;
 };
 

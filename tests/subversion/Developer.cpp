@@ -1,11 +1,11 @@
 #include "Developer.h"
 
-#include <gtest/gtest.h>
-
 #include <array>
 #include <cstring>
 
+#include "subversion/project/OpenProject.h"
 #include "subversion/project/UsedRepositories.h"
+#include "subversion/svn/Question.h"
 #include "system/System.h"
 
 namespace kestrel::svnscc {
@@ -62,16 +62,6 @@ void Fill(std::array<char, Size>& buffer, const std::string& text) {
 }
 
 }  // namespace
-
-TProviderLibrary::TProviderLibrary() {
-  std::string error;
-  module_ = LoadModule(SubversionLibrary(), &error);
-  if (module_ == nullptr) throw std::runtime_error(error);
-#define SCC_ENTRY(variable, name, result, arguments) \
-  entries_.variable = reinterpret_cast<decltype(entries_.variable)>(FindSymbol(module_, name));
-#include "scc/entry_points.def"
-#undef SCC_ENTRY
-}
 
 TCancelPressed::TCancelPressed(const std::string& since) {
   cancelPressed = true;
@@ -176,6 +166,49 @@ TPopulated TDeveloper::Populate(scc::SCCCommand command, const std::vector<std::
   return list;
 }
 
+void TDeveloper::AddNew(const std::vector<std::string>& names, const std::string& text, scc::Long flags) {
+  for (const auto& name : names) Write(name, text);
+  ASSERT_EQ(scc::SCC_OK, Add(names, "", flags)) << said;
+}
+
+void TDeveloper::Edit(const std::string& name, const std::string& text) {
+  ASSERT_EQ(scc::SCC_OK, CheckOut({name})) << said;
+  Write(name, text);
+}
+
+void TDeveloper::EditAndCheckIn(const std::string& name, const std::string& text,
+                                const std::string& comment) {
+  Edit(name, text);
+  ASSERT_EQ(scc::SCC_OK, CheckIn({name}, comment)) << said;
+}
+
+void TDeveloper::EditWithoutCheckOut(const std::string& name, const std::string& text) const {
+  std::filesystem::permissions(File(name), std::filesystem::perms::owner_all);
+  Write(name, text);
+}
+
 std::string TDeveloper::Said() const { return said; }
+
+TTeam::TTeam() { EXPECT_EQ(scc::SCC_OK, ann.Open(repository.Url(), "project")) << ann.Said(); }
+
+void TTeam::Join(TDeveloper& colleague) {
+  ASSERT_EQ(scc::SCC_OK, colleague.Open(repository.Url(), "project")) << colleague.Said();
+  ASSERT_EQ(scc::SCC_OK, colleague.GetEverything()) << colleague.Said();
+}
+
+TDirectSession::TDirectSession(const TTestRepository& repository, const TDeveloper& developer) {
+  repository.Choose("project");
+  svnscc::ProjectNames names{developer.User(), "project", repository.Url(), developer.Folder(), ""};
+  svnscc::OpenProject(Session, names, {.MayCreate = true});
+}
+
+TAnsweredQuestions::TAnsweredQuestions() {
+  Asked.clear();
+  svnscc::SetQuestionPrompt([](scc::WindowHandle, const svnscc::Question& question) {
+    Asked += question.Text;
+    return std::optional(Answer);
+  });
+}
+TAnsweredQuestions::~TAnsweredQuestions() { svnscc::SetQuestionPrompt(nullptr); }
 
 }  // namespace kestrel::svnscc

@@ -1,37 +1,30 @@
 // Somebody at work: the provider library loaded as clients load it, a folder, and verbs.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <map>
 #include <string>
 #include <vector>
 
 #include "TestRepository.h"
-#include "scc/sccdefs.h"
-#include "system/Library.h"
-
-namespace kestrel::scc {
-/// The exported names of one library, null where it lacks one.
-struct EntryPoints {
-#define SCC_ENTRY(variable, name, result, arguments) result(SCC_CALL* variable) arguments = nullptr;
-#include "scc/entry_points.def"
-#undef SCC_ENTRY
-};
-}  // namespace kestrel::scc
+#include "subversion/svn/ProviderContext.h"
+#include "support/EntryPoints.h"
 
 namespace kestrel::svnscc {
 
 /// The provider, loaded until the end of the scope.
 class TProviderLibrary {
  public:
-  TProviderLibrary();
+  TProviderLibrary() = default;
   TProviderLibrary(const TProviderLibrary&) = delete;
   TProviderLibrary& operator=(const TProviderLibrary&) = delete;
   ~TProviderLibrary() { UnloadModule(module_); }
   const scc::EntryPoints* operator->() const { return &entries_; }
 
  private:
-  TModuleHandle module_ = nullptr;
-  scc::EntryPoints entries_;
+  const TModuleHandle module_ = RequireModule(SubversionLibrary());
+  const scc::EntryPoints entries_{module_};
 };
 
 /// A file's row in what SccPopulateList reports.
@@ -90,6 +83,14 @@ class TDeveloper {
   std::vector<scc::Long> Statuses(const std::vector<std::string>& names, scc::Long expected = scc::SCC_OK);
   TPopulated Populate(scc::SCCCommand command, const std::vector<std::string>& names, scc::Long flags = 0);
 
+  // Several steps at once; each is expected to succeed.
+  void AddNew(const std::vector<std::string>& names, const std::string& text = "1\n", scc::Long flags = 0);
+  /// Checks the file out and edits it.
+  void Edit(const std::string& name, const std::string& text);
+  void EditAndCheckIn(const std::string& name, const std::string& text, const std::string& comment = "");
+  /// Writes over a read-only file.
+  void EditWithoutCheckOut(const std::string& name, const std::string& text) const;
+
   /// The provider's sentences of the last command, one a line, each after its kind's letter: "I Locked a.txt."
   /// Signals are "? 6", status messages "? 4 a.txt"
   std::string Said() const;
@@ -104,6 +105,43 @@ class TDeveloper {
   std::string work_;
   std::string folder_;
   std::string user_;
+};
+
+// Statuses as clients see them.
+constexpr scc::Long kControlled = scc::SCC_STATUS_CONTROLLED;
+constexpr scc::Long kOutHere = 0x100B;
+constexpr scc::Long kOutElsewhere = 0x1009;
+constexpr scc::Long kOutByOther = 0x000D;
+constexpr scc::Long kOutOfDate = scc::SCC_STATUS_OUTOFDATE;
+constexpr scc::Long kDeleted = scc::SCC_STATUS_DELETED;
+constexpr scc::Long kMerged = scc::SCC_STATUS_MERGED;
+constexpr scc::Long kModified = scc::SCC_STATUS_MODIFIED;
+using TStatuses = std::vector<scc::Long>;
+
+/// Ann has opened the repository's folder "project"; Bob will.
+struct TTeam : testing::Test {
+  TTeam();
+  /// Opens the project for a colleague, who fetches everything.
+  void Join(TDeveloper& colleague);
+  TTestRepository repository;
+  TDeveloper ann{"ann"};
+  TDeveloper bob{"bob"};
+};
+
+/// A developer's working copy of "project", opened in this program: for what no entry point reaches without a window.
+struct TDirectSession {
+  TDirectSession(const TTestRepository& repository, const TDeveloper& developer);
+  svnscc::ProviderContext* operator->() { return &Session; }
+  operator svnscc::ProviderContext&() { return Session; }
+  svnscc::ProviderContext Session;
+};
+
+/// Answers the provider's questions as long as it lives.
+struct TAnsweredQuestions {
+  TAnsweredQuestions();
+  ~TAnsweredQuestions();
+  static inline bool Answer = true;
+  static inline std::string Asked;  ///< the texts of all questions
 };
 
 }  // namespace kestrel::svnscc

@@ -10,12 +10,10 @@ using testing::HasSubstr;
 
 namespace {
 
-struct DiffWindow : testing::Test {
+struct DiffWindow : TTeam {
   DiffWindow() {
-    ann.Open(repository.Url(), "project");
-    ann.Write("unit1.pas", "one\ntwo\nthree\n");
-    ann.Write("picture.bin", std::string("a\0b", 3));
-    ann.Add({"unit1.pas", "picture.bin"});
+    ann.AddNew({"unit1.pas"}, "one\ntwo\nthree\n");
+    ann.AddNew({"picture.bin"}, std::string("a\0b", 3));
   }
   scc::Long Diff(const std::string& name, scc::Long flags = 0) {
     return ann.Library()->SccDiff(ann.Context(), nullptr, ann.File(name).c_str(), flags, nullptr);
@@ -26,15 +24,12 @@ struct DiffWindow : testing::Test {
     script.Expect<wxDialog>(user);
     return Diff(name, flags);
   }
-  TTestRepository repository;
-  TDeveloper ann{"ann"};
 };
 
 }  // namespace
 
 TEST_F(DiffWindow, ShowsBothSidesAlignedAndComparesAnew) {
-  ann.CheckOut({"unit1.pas"});
-  ann.Write("unit1.pas", "one\nTWO\n2\nthree\n4\n");
+  ann.Edit("unit1.pas", "one\nTWO\n2\nthree\n4\n");
   EXPECT_EQ(scc::SCC_I_FILEDIFFERS, Diff("unit1.pas", 0, [](wxDialog& dialog) {
               EXPECT_EQ("one\ntwo\n\nthree\n", TextIn(dialog, "left"));
               EXPECT_EQ("one\nTWO\n2\nthree\n4", TextIn(dialog, "right"));
@@ -53,8 +48,7 @@ TEST_F(DiffWindow, ShowsBothSidesAlignedAndComparesAnew) {
 }
 
 TEST_F(DiffWindow, ComparesAsTheClientAsks) {
-  ann.CheckOut({"unit1.pas"});
-  ann.Write("unit1.pas", "ONE\nt w o\nthree\n");
+  ann.Edit("unit1.pas", "ONE\nt w o\nthree\n");
   const auto boxes = [](bool upper, bool space) {
     return [=](wxDialog& dialog) {
       EXPECT_EQ(upper, FindLabelled<wxCheckBox>(dialog, "Ignore &case")->GetValue());
@@ -70,11 +64,8 @@ TEST_F(DiffWindow, ComparesAsTheClientAsks) {
 }
 
 TEST_F(DiffWindow, ShowsWhatOthersCheckedIn) {
-  TDeveloper bob("bob");
-  bob.Open(repository.Url(), "project");
-  bob.CheckOut({"unit1.pas"});
-  bob.Write("unit1.pas", "one\ntwo and a half\nthree\n");
-  bob.CheckIn({"unit1.pas"});
+  Join(bob);
+  bob.EditAndCheckIn("unit1.pas", "one\ntwo and a half\nthree\n");
   EXPECT_EQ(scc::SCC_I_FILEDIFFERS, Diff("unit1.pas", 0, [](wxDialog& dialog) {
               EXPECT_THAT(TextIn(dialog, "left"), HasSubstr("two and a half"));
             }));
@@ -89,8 +80,7 @@ TEST_F(DiffWindow, FilesThatAreNoTextAreOnlyCompared) {
   EXPECT_EQ(scc::SCC_OK, Diff("picture.bin", 0, [](wxDialog& dialog) {
               EXPECT_EQ("The files are not text. There are no differences.", Message(dialog));
             }));
-  ann.CheckOut({"picture.bin"});
-  ann.Write("picture.bin", "text now\n");
+  ann.Edit("picture.bin", "text now\n");
   EXPECT_EQ(scc::SCC_I_FILEDIFFERS, Diff("picture.bin", 0, [](wxDialog& dialog) {
               EXPECT_THAT(Message(dialog), HasSubstr("3 bytes on the left, 9 bytes on the right"));
               EXPECT_EQ(nullptr, wxWindow::FindWindowByName("left", &dialog));

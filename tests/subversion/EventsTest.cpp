@@ -10,14 +10,10 @@ using testing::IsEmpty;
 
 namespace {
 
-struct Events : testing::Test {
+struct Events : TTeam {
   Events() {
-    for (TDeveloper* developer : {&ann, &bob}) developer->Open(repository.Url(), "project");
-    ann.Write("a.pas", "1\n");
-    ann.Write("b.pas", "1\n");
-    ann.Write("never asked.pas", "1\n");
-    ann.Add({"a.pas", "b.pas", "never asked.pas"});
-    bob.GetEverything();
+    ann.AddNew({"a.pas", "b.pas", "never asked.pas"});
+    Join(bob);
   }
   /// All events, as "file=status".
   std::vector<std::string> Drain() {
@@ -42,14 +38,11 @@ struct Events : testing::Test {
   void Set(scc::Option option, scc::Long value) {
     EXPECT_EQ(scc::SCC_OK, ann.Library()->SccSetOption(ann.Context(), option, value));
   }
-  TTestRepository repository;
-  TDeveloper ann{"ann"};
-  TDeveloper bob{"bob"};
 };
 
 }  // namespace
 
-TEST_F(Events, TellWhatTheClientDoesNotKnow) {
+TEST_F(Events, ReportWhatTheClientDoesNotKnow) {
   EXPECT_THAT(Drain(), IsEmpty());
   ann.Statuses({"a.pas", "b.pas"});
   bob.CheckOut({"a.pas", "b.pas", "never asked.pas"});
@@ -62,17 +55,13 @@ TEST_F(Events, TellWhatTheClientDoesNotKnow) {
   EXPECT_THAT(Drain(), testing::UnorderedElementsAre("a.pas=1", "b.pas=1"));
 }
 
-TEST_F(Events, TellWhatOwnCommandsDid) {
+TEST_F(Events, ReportWhatOwnCommandsDidUnlessTheQueueIsDisabled) {
   ann.Statuses({"a.pas"});
   ann.CheckOut({"a.pas"});
   EXPECT_THAT(Drain(), ElementsAre("a.pas=100b"));
   ann.Write("a.pas", "2\n");
   ann.CheckIn({"a.pas"});
   EXPECT_THAT(Drain(), ElementsAre("a.pas=1"));
-}
-
-TEST_F(Events, StopWhileTheQueueIsDisabled) {
-  ann.Statuses({"a.pas"});
   Set(scc::SCC_OPT_EVENTQUEUE, 0);
   ann.CheckOut({"a.pas"});
   EXPECT_THAT(Drain(), IsEmpty());
@@ -101,8 +90,7 @@ TEST_F(Events, CancelButtonEndsACommand) {
   EXPECT_EQ(scc::SCC_OK, ann.Add({"new.pas"})) << ann.Said();
 
   // What the server took is done, whenever the button is pressed.
-  ann.CheckOut({"a.pas"});
-  ann.Write("a.pas", "taken\n");
+  ann.Edit("a.pas", "taken\n");
   const std::string taken = repository.Folder() + "/taken";
   repository.WriteHook("post-commit", "touch '" + taken + "'\nsleep 0.2\n");
   const TCancelPressed late(taken);
@@ -115,8 +103,7 @@ TEST_F(Events, CancelButtonEndsACommand) {
 TEST_F(Events, ACancelledCommandLeavesNoLockBehind) {
   std::vector<std::string> names;
   for (int i = 0; i < 40; ++i) names.push_back("new/" + std::to_string(i) + ".pas");
-  for (const auto& name : names) bob.Write(name, "1\n");
-  ASSERT_EQ(scc::SCC_OK, bob.Add(names));
+  bob.AddNew(names);
   Set(scc::SCC_OPT_HASCANCELMODE, 1);
   {
     const TCancelPressed pressed(ann.File("new"));

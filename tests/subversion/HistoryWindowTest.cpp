@@ -11,14 +11,11 @@ using testing::HasSubstr;
 
 namespace {
 
-struct HistoryWindow : testing::Test {
+struct HistoryWindow : TTeam {
   HistoryWindow() {
-    ann.Open(repository.Url(), "project");
     ann.Write("unit1.pas", "1\n");
     ann.Add({"unit1.pas"}, "first");
-    ann.CheckOut({"unit1.pas"});
-    ann.Write("unit1.pas", "2\n");
-    ann.CheckIn({"unit1.pas"}, "second\nin detail");
+    ann.EditAndCheckIn("unit1.pas", "2\n", "second\nin detail");
   }
   scc::Long Show(const std::string& name) {
     const std::string file = ann.File(name);
@@ -31,8 +28,6 @@ struct HistoryWindow : testing::Test {
                        wxLIST_STATE_SELECTED);
     list->SetItemState(row, wxLIST_STATE_SELECTED, wxLIST_STATE_SELECTED);
   }
-  TTestRepository repository;
-  TDeveloper ann{"ann"};
   TModalScript script;
 };
 

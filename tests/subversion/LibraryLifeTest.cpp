@@ -10,7 +10,7 @@
 
 namespace kestrel::svnscc {
 
-TEST(Library, ExportsEveryEntryPointAndSaysWhatItCan) {
+TEST(Library, ExportsEveryEntryPointAndReportsItsCapabilities) {
   const TProviderLibrary library;
 #define SCC_ENTRY(variable, name, result, arguments) EXPECT_NE(nullptr, library->variable) << name;
 #include "scc/entry_points.def"
@@ -43,13 +43,12 @@ TEST(Library, WorksAgainEachTimeItIsLoaded) {
     TDeveloper ann("ann");
     ASSERT_EQ(scc::SCC_OK, ann.Open(repository.Url(), "project")) << ann.Said();
     const std::string name = "unit" + std::to_string(round) + ".pas";
-    ann.Write(name, "1\n");
-    ASSERT_EQ(scc::SCC_OK, ann.Add({name})) << ann.Said();
+    ann.AddNew({name});
     EXPECT_EQ(1, ann.Status(name));
   }
 }
 
-TEST(Library, SurvivesCallsWithNothingInThem) {
+TEST(Library, ToleratesNullArguments) {
   const TTestRepository repository;
   TDeveloper ann("ann");
   const auto& library = ann.Library();
@@ -99,7 +98,7 @@ namespace {
 std::unique_ptr<TDeveloper> late;  // goes after everything that is made while the program runs
 }
 
-TEST(Library, AllowsItsSessionToGoWhenTheProcessEnds) {
+TEST(Library, AllowsASessionToEndWithTheProcess) {
   const TTestRepository repository;
   const auto work = [&] {
     late = std::make_unique<TDeveloper>("ann");

@@ -8,10 +8,7 @@
 #include <iostream>
 
 #include "Developer.h"
-#include "Server.h"
 #include "subversion/commands/Commands.h"
-#include "subversion/project/OpenProject.h"
-#include "subversion/svn/Question.h"
 #include "subversion/svn/Repository.h"
 #include "support/PlainUser.h"
 #include "system/System.h"
@@ -47,38 +44,22 @@ TEST_F(OpenProject, CreatesTheProjectAroundAnExistingFolder) {
   EXPECT_EQ(1, ann.Status("unit1.pas"));
 }
 
-TEST_F(OpenProject, ExistingFilesOfTheSameNameStay) {
-  ann.Write("unit1.pas", "in the repository\n");
-  ann.Open(repository.Url(), "project");
-  ann.Add({"unit1.pas"});
-  TDeveloper bob("bob");
-  bob.Write("unit1.pas", "bob's own\n");
-  ASSERT_EQ(scc::SCC_OK, bob.Open(repository.Url(), "project"));
-  ASSERT_EQ(scc::SCC_OK, bob.GetEverything());
-  EXPECT_EQ("bob's own\n", bob.Read("unit1.pas.mine"));
-  EXPECT_EQ("in the repository\n", bob.Read("unit1.pas"));
-  EXPECT_EQ(0x0001, bob.Status("unit1.pas"));
-}
-
-TEST_F(OpenProject, TheFolderCanBeALink) {
+TEST_F(OpenProject, WorksInAFolderThatIsALink) {
   std::filesystem::rename(ann.Folder(), ann.Folder() + " itself");
   std::filesystem::create_directory_symlink(ann.Folder() + " itself", ann.Folder());
   ASSERT_EQ(scc::SCC_OK, ann.Open(repository.Url(), "project")) << ann.Said();
   ann.Write("sub/unit1.pas", "1\n");
   EXPECT_EQ(scc::SCC_OK, ann.Add({"sub/unit1.pas"})) << ann.Said();
   EXPECT_EQ(scc::SCC_OK, ann.CheckOut({"sub/unit1.pas"})) << ann.Said();
-  EXPECT_EQ(0x100B, ann.Status("sub/unit1.pas"));
   const auto list = ann.Populate(scc::SCC_COMMAND_CHECKIN, {});
   EXPECT_TRUE(list.Added.contains(ann.File("sub/unit1.pas"))) << "under the name that the client knows";
   ann.Write("sub/unit1.pas", "2\n");
   EXPECT_EQ(scc::SCC_OK, ann.CheckIn({"sub/unit1.pas"})) << ann.Said();
   EXPECT_EQ(scc::SCC_OK, ann.GetEverything()) << ann.Said();
-  ann.Close();
-  EXPECT_EQ(scc::SCC_OK, ann.Open(repository.Url(), "project")) << ann.Said();
   EXPECT_EQ(1, ann.Status("sub/unit1.pas"));
 }
 
-TEST_F(OpenProject, AWorkingCopyThatCannotBeWrittenToIsNoTroubleOfTheNetwork) {
+TEST_F(OpenProject, ReportsAReadOnlyWorkingCopyAsNotAuthorized) {
   ann.Open(repository.Url(), "project");
   ann.Close();
   const auto let = [&](unsigned folder, unsigned file) {
@@ -96,13 +77,6 @@ TEST_F(OpenProject, AWorkingCopyThatCannotBeWrittenToIsNoTroubleOfTheNetwork) {
   let(0755, 0644);
 }
 
-TEST_F(OpenProject, TheRootAndAFolderNameWillDo) {
-  ASSERT_EQ(scc::SCC_OK, ann.Open(repository.Folder(), "/")) << ann.Said();
-  ann.Write("unit1.pas", "1\n");
-  ASSERT_EQ(scc::SCC_OK, ann.Add({"unit1.pas"})) << ann.Said();
-  EXPECT_TRUE(repository.Exists("unit1.pas"));
-}
-
 TEST_F(OpenProject, UnknownProjectsAreCreatedOnlyOnRequest) {
   EXPECT_EQ(scc::SCC_E_UNKNOWNPROJECT, ann.Open(repository.Url(), "nowhere", scc::SCC_OP_SILENTOPEN));
   EXPECT_THAT(ann.Said(), HasSubstr("has no folder \"nowhere\""));
@@ -116,7 +90,7 @@ TEST_F(OpenProject, UnknownProjectsAreCreatedOnlyOnRequest) {
 }
 
 // Nothing can be asked here; what the question is answered with is in ProjectDialogTest.cpp.
-TEST_F(OpenProject, RepositoriesThatWereNeverUsedAreNotTouchedUnasked) {
+TEST_F(OpenProject, DoesNotContactANewRepositoryWithoutConsent) {
   const TTemporaryFolder elsewhere;
   const std::string url = svnscc::CreateRepository(elsewhere / "repository");
   for (const auto flags : {scc::SCC_OP_CREATEIFNEW, scc::SCC_OP_SILENTOPEN}) {
@@ -135,7 +109,7 @@ TEST_F(OpenProject, RepositoriesThatWereNeverUsedAreNotTouchedUnasked) {
   EXPECT_EQ(scc::SCC_E_OPNOTPERFORMED, ann.OpenMapped("", "")) << "a folder can bring its working copy along";
 }
 
-TEST_F(OpenProject, AnotherWorkingCopyIsLeftAlone) {
+TEST_F(OpenProject, LeavesAnotherWorkingCopyAlone) {
   ann.Open(repository.Url(), "one");
   ann.Close();
   EXPECT_EQ(scc::SCC_E_INVALIDFILEPATH, ann.Open(repository.Url(), "two"));
@@ -143,10 +117,9 @@ TEST_F(OpenProject, AnotherWorkingCopyIsLeftAlone) {
   EXPECT_FALSE(repository.Exists("two"));
 }
 
-TEST_F(OpenProject, BadNamesAreRefusedInWords) {
-  ann.Open(repository.Url(), "project");
-  ann.Write("unit1.pas", "1\n");
-  ann.Add({"unit1.pas"});
+TEST_F(OpenProject, RefusesBadAddressesAndNamesWithAReason) {
+  ASSERT_EQ(scc::SCC_OK, ann.Open(repository.Folder(), "/")) << ann.Said();  // the root, named as a folder
+  ann.AddNew({"unit1.pas"});
   ann.Close();
   struct Row {
     std::string url, project;
@@ -160,7 +133,7 @@ TEST_F(OpenProject, BadNamesAreRefusedInWords) {
                           Row{"file:///%70roc/self/cwd/repository", "p", scc::SCC_E_PROJSYNTAXERR},
                           Row{"/home/../proc/self/cwd/repository", "p", scc::SCC_E_PROJSYNTAXERR},
                           Row{repository.Url(), "../p", scc::SCC_E_PROJSYNTAXERR},
-                          Row{repository.Url(), "project/unit1.pas", scc::SCC_E_PROJSYNTAXERR},
+                          Row{repository.Url(), "unit1.pas", scc::SCC_E_PROJSYNTAXERR},
                           Row{"file:///no/such/repository", "p", scc::SCC_E_ACCESSFAILURE},
                           Row{"svn://127.0.0.1:1/repository", "p", scc::SCC_E_CONNECTIONFAILURE}}) {
     SCOPED_TRACE(row.url + " " + row.project);
@@ -206,8 +179,7 @@ void Svn(const std::string& arguments) {
 // The commit hangs, and its process is killed in the middle of it, as with a whole IDE.
 TEST_F(OpenProject, CleansUpAfterCommandsThatWereKilledAndLeavesLiveOnesAlone) {
   ann.Open(repository.Url(), "project");
-  ann.Write("sub/unit1.pas", "1\n");
-  ann.Add({"sub/unit1.pas"}, "", scc::SCC_KEEP_CHECKEDOUT);
+  ann.AddNew({"sub/unit1.pas"}, "1\n", scc::SCC_KEEP_CHECKEDOUT);
   ann.Write("sub/unit1.pas", "2\n");
   ann.Close();
   const std::string marker = repository.Folder() + "/hook-pid";
@@ -245,10 +217,7 @@ TEST_F(OpenProject, CleansUpAfterCommandsThatWereKilledAndLeavesLiveOnesAlone) {
 
 TEST_F(OpenProject, TwoProgramsAndSvnShareAWorkingCopy) {
   ann.Open(repository.Url(), "project");
-  for (const char* name : {"a.pas", "b.pas"}) {
-    ann.Write(name, "0\n");
-    ann.Add({name});
-  }
+  ann.AddNew({"a.pas", "b.pas"}, "0\n");
   ann.Close();
   std::vector<pid_t> programs;
   for (const char* name : {"a.pas", "b.pas"})
@@ -277,10 +246,9 @@ TEST_F(OpenProject, TwoProgramsAndSvnShareAWorkingCopy) {
 
 // The process dies when it has asked for the lock, and another one takes the answer's place: the repository has locked the
 // file, and the working copy does not know.
-TEST_F(OpenProject, LocksOfACheckOutThatWasKilledCanBeTakenOver) {
+TEST_F(OpenProject, OffersToTakeOverTheLocksOfAKilledCheckOut) {
   ann.Open(repository.Url(), "project");
-  ann.Write("unit1.pas", "1\n");
-  ann.Add({"unit1.pas"});
+  ann.AddNew({"unit1.pas"});
   ann.Close();
   const std::string marker = repository.Folder() + "/hook-ran";
   repository.WriteHook("pre-lock", "touch '" + marker + "'\nexec sleep 600\n");
@@ -307,31 +275,19 @@ TEST_F(OpenProject, LocksOfACheckOutThatWasKilledCanBeTakenOver) {
   EXPECT_THAT(ann.Said(), HasSubstr("interrupted"));
   ann.Close();
 
-  static std::string asked;
-  svnscc::SetQuestionPrompt([](scc::WindowHandle, const svnscc::Question& question) {
-    asked = question.Text;
-    return std::optional(true);
-  });
-  svnscc::ProviderContext session;
-  svnscc::ProjectNames names{"ann", "project", repository.Url(), ann.Folder(), ""};
-  svnscc::OpenProject(session, names, {});
-  const std::string file = ann.File("unit1.pas");
-  const char* const path = file.c_str();
-  EXPECT_EQ(scc::SCC_OK, svnscc::CheckOut(session, svnscc::Names(&path, 1), "", {}));
-  svnscc::SetQuestionPrompt(nullptr);
-  EXPECT_THAT(asked, HasSubstr("unit1.pas"));
-  session.Close();
+  {
+    const TAnsweredQuestions questions;
+    TDirectSession session(repository, ann);
+    const std::string file = ann.File("unit1.pas");
+    const char* const path = file.c_str();
+    EXPECT_EQ(scc::SCC_OK, svnscc::CheckOut(session, svnscc::Names(&path, 1), "", {}));
+    EXPECT_THAT(questions.Asked, HasSubstr("unit1.pas"));
+  }
   ann.Open(repository.Url(), "project");
   EXPECT_EQ(0x100B, ann.Status("unit1.pas"));
 }
 
-TEST_F(OpenProject, AServerThatAsksForAPasswordRefusesTheUser) {
-  const TServer server(repository);
-  EXPECT_EQ(scc::SCC_E_INVALIDUSER, ann.Open(server.Url(), "project"));
-  EXPECT_THAT(ann.Said(), HasSubstr("E "));
-}
-
-TEST_F(OpenProject, AHookThatRefusesTheUserIsReported) {
+TEST_F(OpenProject, ReportsAHookThatRefusesTheUser) {
   repository.WriteHook("start-commit", "exit 1\n");
   EXPECT_EQ(scc::SCC_E_NOTAUTHORIZED, ann.Open(repository.Url(), "project"));
   EXPECT_EQ(scc::SCC_E_PROJNOTOPEN, ann.Close());

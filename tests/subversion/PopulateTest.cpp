@@ -13,17 +13,12 @@ using testing::UnorderedElementsAre;
 namespace {
 
 /// Ann has mine.pas out, Bob theirs.pas; free.pas and sub/far.pas are in the repository only, loose.pas on disk only.
-struct Populate : testing::Test {
+struct Populate : TTeam {
   Populate() {
-    ann.Open(repository.Url(), "project");
-    bob.Open(repository.Url(), "project");
-    for (const auto* name : {"free.pas", "sub/far.pas", "theirs.pas"}) {
-      bob.Write(name, "1\n");
-      EXPECT_EQ(scc::SCC_OK, bob.Add({name}));
-    }
+    Join(bob);
+    bob.AddNew({"free.pas", "sub/far.pas", "theirs.pas"});
     bob.CheckOut({"theirs.pas"});
-    ann.Write("mine.pas", "1\n");
-    ann.Add({"mine.pas"}, "", scc::SCC_KEEP_CHECKEDOUT);
+    ann.AddNew({"mine.pas"}, "1\n", scc::SCC_KEEP_CHECKEDOUT);
     ann.Write("loose.pas", "1\n");
   }
   std::vector<std::string> Added(scc::SCCCommand command, const std::vector<std::string>& names = {},
@@ -34,9 +29,6 @@ struct Populate : testing::Test {
     for (const auto& [name, status] : list.Added) added.push_back(name.substr(ann.Folder().size() + 1));
     return added;
   }
-  TTestRepository repository;
-  TDeveloper ann{"ann"};
-  TDeveloper bob{"bob"};
 };
 
 }  // namespace

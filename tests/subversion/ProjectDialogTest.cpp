@@ -2,13 +2,12 @@
 #include <gmock/gmock.h>
 #include <wx/textdlg.h>
 #include <wx/treectrl.h>
-#include <wx/wx.h>
 
 #include <array>
 
 #include "Developer.h"
+#include "WindowControls.h"
 #include "subversion/svn/Repository.h"
-#include "support/ModalScript.h"
 
 namespace kestrel::svnscc {
 
@@ -21,26 +20,11 @@ struct TAnswer {
   bool IsNew;
 };
 
-template <class TControl>
-TControl* Find(wxDialog& dialog, const char* name) {
-  auto* control = dynamic_cast<TControl*>(wxWindow::FindWindowByName(name, &dialog));
-  if (control == nullptr) throw std::runtime_error(std::string("no control ") + name);
-  return control;
-}
-
-wxButton* Button(wxDialog& dialog, const char* label) {
-  return dynamic_cast<wxButton*>(wxWindow::FindWindowByLabel(label, &dialog));
-}
-
 wxButton* Ok(wxDialog& dialog) { return dynamic_cast<wxButton*>(dialog.FindWindow(wxID_OK)); }
 
 void Connect(wxDialog& dialog, const std::string& url) {
   Find<wxComboBox>(dialog, "repository")->SetValue(wxString::FromUTF8(url));
-  Click(Button(dialog, "&Connect"));
-}
-
-std::string Message(wxDialog& dialog) {
-  return Find<wxStaticText>(dialog, "message")->GetLabel().utf8_string();
+  Press(dialog, "&Connect");
 }
 
 /// Selects the folder that is reached by these names, opening what is above it.
@@ -67,8 +51,7 @@ struct ProjectDialog : testing::Test {
   }
   TAnswer Ask(bool mayCreate, const std::string& project = "", const std::string& url = "") {
     std::array<char, 33> user{"ann"};
-    std::array<char, 261> name{};
-    std::array<char, 261> local{};
+    std::array<char, 261> name{}, local{};
     std::array<char, 301> aux{};
     project.copy(name.data(), name.size() - 1);
     url.copy(aux.data(), aux.size() - 1);
@@ -95,7 +78,7 @@ TEST_F(ProjectDialog, ChoosesAFolderOfARepository) {
     Connect(dialog, repository.Folder());
     Choose(dialog, {"trunk", "Größe"});
     EXPECT_TRUE(Ok(dialog)->IsEnabled()) << Message(dialog);
-    EXPECT_FALSE(Button(dialog, "New F&older...")->IsShown());
+    EXPECT_FALSE(FindLabelled<wxButton>(dialog, "New F&older...")->IsShown());
     Click(Ok(dialog));
     dialog.SetReturnCode(wxID_OK);
   });
@@ -116,7 +99,7 @@ TEST_F(ProjectDialog, PlansANewFolderThatOpeningMakes) {
       EXPECT_EQ("MyProject", question.GetValue());  // as the client named it
       question.SetReturnCode(wxID_OK);
     });
-    Click(Button(dialog, "New F&older..."));
+    Press(dialog, "New F&older...");
     Find<wxTextCtrl>(dialog, "user")->SetValue("bob");
     EXPECT_TRUE(Ok(dialog)->IsEnabled()) << Message(dialog);
     dialog.SetReturnCode(wxID_OK);

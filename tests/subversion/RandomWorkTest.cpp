@@ -5,7 +5,7 @@
 
 namespace kestrel::svnscc {
 
-TEST(RandomWork, LosesNothingAndEndsNowhere) {
+TEST(RandomWork, LosesNoEditsAndLeavesEveryFileUsable) {
   for (unsigned seed = 1; seed <= 20; ++seed) {
     SCOPED_TRACE(seed);
     TRandomWork work(seed);

@@ -10,12 +10,10 @@ using testing::HasSubstr;
 
 namespace {
 
-struct Rename : testing::Test {
+struct Rename : TTeam {
   Rename() {
-    ann.Open(repository.Url(), "project");
-    ann.Write("old.pas", "1\n");
-    ann.Write("other.pas", "other\n");
-    ann.Add({"old.pas", "other.pas"});
+    ann.AddNew({"old.pas"}, "1\n");
+    ann.AddNew({"other.pas"}, "other\n");
   }
   scc::Long Run(const std::string& from, const std::string& to) {
     return ann.Library()->SccRename(ann.Context(), nullptr, ann.File(from).c_str(), ann.File(to).c_str());
@@ -24,8 +22,6 @@ struct Rename : testing::Test {
     std::filesystem::create_directories(std::filesystem::path(ann.File(to)).parent_path());
     std::filesystem::rename(ann.File(from), ann.File(to));
   }
-  TTestRepository repository;
-  TDeveloper ann{"ann"};
 };
 
 }  // namespace
@@ -38,8 +34,7 @@ TEST_F(Rename, LeavesTheFileUnderTheNameItHas) {
         SCOPED_TRACE(testing::Message()
                      << target << (clientFirst ? " client first" : "") << (edited ? " edited" : ""));
         if (edited) {
-          ASSERT_EQ(scc::SCC_OK, ann.CheckOut({"old.pas"})) << ann.Said();
-          ann.Write("old.pas", "edited for " + target + (clientFirst ? " first\n" : "\n"));
+          ann.Edit("old.pas", "edited for " + target + (clientFirst ? " first\n" : "\n"));
         }
         const std::string stored = repository.Contents("project/old.pas");
         const std::string local = ann.Read("old.pas");
@@ -52,7 +47,7 @@ TEST_F(Rename, LeavesTheFileUnderTheNameItHas) {
         EXPECT_EQ(edited, ann.IsWritable(target));
         EXPECT_EQ(stored, repository.Contents("project/" + target));  // edits are not checked in
         EXPECT_FALSE(repository.Exists("project/old.pas"));
-        EXPECT_EQ((std::vector<scc::Long>{0, edited ? 0x180B : 1}), ann.Statuses({"old.pas", target}));
+        EXPECT_EQ((TStatuses{0, edited ? 0x180B : 1}), ann.Statuses({"old.pas", target}));
         if (edited) {
           EXPECT_EQ(scc::SCC_OK, ann.CheckIn({target})) << ann.Said();
         }
@@ -75,9 +70,7 @@ TEST_F(Rename, WorksWithNothingAndWithBothOnDisk) {
 }
 
 TEST_F(Rename, RefusedRenamesChangeNothing) {
-  TDeveloper bob("bob");
-  bob.Open(repository.Url(), "project");
-  bob.GetEverything();
+  Join(bob);
   bob.CheckOut({"old.pas"});
   ann.Write("new.pas", "not added\n");
   EXPECT_EQ(scc::SCC_E_FILEOUTEXCLUSIVE, Run("old.pas", "x.pas"));
@@ -90,12 +83,11 @@ TEST_F(Rename, RefusedRenamesChangeNothing) {
   EXPECT_EQ(scc::SCC_E_FILENOTCONTROLLED, Run("new.pas", "x.pas"));
   EXPECT_EQ(scc::SCC_E_OPNOTPERFORMED, Run("old.pas", "../x.pas"));
   repository.WriteHook("pre-commit", "echo 'not today' >&2; exit 1\n");
-  ann.CheckOut({"old.pas"});
-  ann.Write("old.pas", "edited\n");
+  ann.Edit("old.pas", "edited\n");
   EXPECT_EQ(scc::SCC_E_NOTAUTHORIZED, Run("old.pas", "sub/x.pas"));
   EXPECT_THAT(ann.Said(), HasSubstr("not today"));
   EXPECT_EQ("edited\n", ann.Read("old.pas"));
-  EXPECT_EQ((std::vector<scc::Long>{0x180B, 0, 0}), ann.Statuses({"old.pas", "sub/x.pas", "new.pas"}));
+  EXPECT_EQ((TStatuses{0x180B, 0, 0}), ann.Statuses({"old.pas", "sub/x.pas", "new.pas"}));
   EXPECT_EQ("not added\n", ann.Read("new.pas"));
 }
 
