@@ -18,7 +18,7 @@ void Type(TCommentsForm& form, const std::string& text) {
   wxYield();
 }
 
-TEST(Comments, TakeWhatAProviderTakesAndKeepTheCaret) {
+TEST(Comments, AreCutToTheProvidersLimitAndKeepTheCaret) {
   TCommentModel model;
   TCommentsForm form(model);
   const int result = ShowAndPlay<TCommentsForm>(form, [](TCommentsForm& shown) {
@@ -72,24 +72,7 @@ TEST(Comments, EndAsTheUserEndsThem) {
   }
 }
 
-TEST(Comments, TheBoxIsShownOnlyWhereItMeansSomething) {
-  TCommentModel model;
-  EXPECT_FALSE(TCommentsForm(model).cbApplyToAll->IsShown());
-  model.ShowApplyToAll = true;
-  model.Caption = "Comments for größe.pas";
-  TCommentsForm form(model);
-  EXPECT_EQ(FromWx(form.GetTitle()), model.Caption);
-  ShowAndPlay<TCommentsForm>(form, [](TCommentsForm& shown) {
-    EXPECT_TRUE(shown.cbApplyToAll->IsShown());
-    EXPECT_TRUE(shown.cbApplyToAll->GetValue());
-    EXPECT_GE(shown.CommentsMemo->GetSize().GetHeight(), shown.FromDIP(153));
-    shown.cbApplyToAll->SetValue(false);
-    Click(shown.btnOK);
-  });
-  EXPECT_FALSE(model.ApplyToAll);
-}
-
-TEST(Comments, EarlierOnesAreAtHand) {
+TEST(Comments, OfferEarlierComments) {
   TCommentModel model;
   model.Text = "offered";
   model.Recent = {"offered", "save & load", "older"};
@@ -121,19 +104,6 @@ TEST(Comments, EarlierOnesAreAtHand) {
   });
   EXPECT_EQ(result, mrOk);
   EXPECT_EQ(model.Text, "older");
-}
-
-TEST(Comments, WithoutEarlierOnesThereIsNothingToChoose) {
-  TCommentModel model;
-  TCommentsForm form(model);
-  EXPECT_FALSE(form.btnRecent->IsEnabled());
-  ShowAndPlay<TCommentsForm>(form, [](TCommentsForm& shown) {
-    Type(shown, "typed");
-    Preview(shown.CommentsMemo, WXK_UP, wxMOD_CONTROL);
-    EXPECT_EQ(shown.CommentsMemo->GetValue(), "typed");
-    shown.Close();
-  });
-  EXPECT_EQ(form.GetClientSize(), form.FromDIP(wxSize(530, 189)));
 }
 
 TEST(CommentHistory, LosesNothingThatWasTyped) {

@@ -2,12 +2,10 @@
 
 #include "commands/GetFileList.h"
 #include "expert/SccExpert.h"
-#include "provider/SCMAddInOptions.h"
 #include "support/ModalScript.h"
 #include "support/NativePath.h"
 #include "support/ScriptedForms.h"
 #include "support/ScriptedHost.h"
-#include "support/ScriptedProvider.h"
 #include "support/TestRegistry.h"
 #include "system/Registry.h"
 #include "toolkit/WxText.h"
@@ -27,17 +25,6 @@ struct FileList : testing::Test {
   int Show(std::function<void(TGetFileListForm&)> user) {
     TGetFileListForm form(expert->Context(), model);
     return ShowAndPlay(form, std::move(user));
-  }
-  void InstallProvider(const std::string& path) {
-    const auto write = [](const char* key, const char* name, const std::string& value) {
-      TRegistry store;
-      store.OpenKey(key);
-      store.WriteString(name, value);
-    };
-    write(kInstalledProvidersKey, "Scripted", "Software\\Scripted");
-    write("Software\\Scripted", kServerPath, path);
-    TSCMAddInEnvironmentOptions().SetSCCProvider("Scripted");
-    expert->ReadSettings();
   }
   static TFileListModel::TButtons Buttons(const TGetFileListForm& form) {
     return {form.btnOK->IsEnabled(), form.btnCheckAll->IsEnabled(), form.btnUncheckAll->IsEnabled()};
@@ -130,62 +117,6 @@ TEST_F(FileList, EscapeCancelsFromEveryControl) {
   EXPECT_TRUE(model.KeepCheckedOut) << "what was cancelled does not count";
 }
 
-TEST_F(FileList, ShowsTheBoxOfTheCommand) {
-  using enum TFileListModel::ExtraBox;
-  Fill(1);
-  for (const auto extra : {None, KeepCheckedOut, CheckOutAfterAdd}) {
-    model.Extra = extra;
-    Show([&](TGetFileListForm& form) {
-      EXPECT_EQ(form.cbKeepCheckedOut->IsShown(), extra == KeepCheckedOut);
-      EXPECT_EQ(form.cbCheckOut->IsShown(), extra == CheckOutAfterAdd);
-      if (extra == KeepCheckedOut) form.cbKeepCheckedOut->SetValue(false);
-      if (extra == CheckOutAfterAdd) form.cbCheckOut->SetValue(false);
-      Click(form.btnOK);
-    });
-    EXPECT_EQ(model.KeepCheckedOut, extra == None);
-    EXPECT_EQ(model.CheckOutAfterAdd, extra != CheckOutAfterAdd);
-  }
-}
-
-TEST_F(FileList, CannotBeMadeSmallerThanItsMinimum) {
-  TGetFileListForm form(expert->Context(), model);
-  EXPECT_EQ(form.GetSize(), form.FromDIP(wxSize(662, 359)));
-  form.Show();
-  form.SetSize(100, 100);
-  wxYield();
-  EXPECT_EQ(form.GetSize(), form.FromDIP(wxSize(569, 274)));
-  const auto client = form.GetClientRect();
-  for (auto* control :
-       {static_cast<wxWindow*>(form.btnUncheckAll), static_cast<wxWindow*>(form.FilesListView)})
-    EXPECT_TRUE(client.Contains(control->GetRect()));
-}
-
-TEST_F(FileList, AdvancedAsksTheProjectThatIsOpenNow) {
-  ScriptedProviderLibrary provider;
-  InstallProvider(provider.Path());
-  Fill(1);
-  model.CommandKind = coCheckIn;
-  Show([](TGetFileListForm& form) {
-    EXPECT_FALSE(form.btnAdvanced->IsShown() || form.btnAdvanced->IsEnabled())
-        << "the provider has no options";
-    form.Close();
-  });
-  model.HasOptions = true;
-  Show([&](TGetFileListForm& form) {
-    Click(form.btnAdvanced);
-    EXPECT_EQ(provider->Count("SccGetCommandOptions"), 0) << "there is no provider";
-    ASSERT_TRUE(expert->ProviderCreate(0));
-    Click(form.btnAdvanced);
-    EXPECT_EQ(provider->Count("SccGetCommandOptions"), 0) << "there is no project";
-    expert->ProviderList()->Add("/p");
-    ASSERT_TRUE(expert->ProviderList()->SetCurrentProject("/p"));
-    Click(form.btnAdvanced);
-    form.Close();
-  });
-  EXPECT_EQ(provider->Last("SccGetCommandOptions").Command, coCheckIn);
-  EXPECT_NE(provider->Last("SccGetCommandOptions").Options, nullptr) << "the provider shows its dialog";
-}
-
 TEST_F(FileList, F1OpensTheHelpOfTheCommand) {
   Fill(1);
   Show([this](TGetFileListForm& form) {
@@ -195,19 +126,6 @@ TEST_F(FileList, F1OpensTheHelpOfTheCommand) {
     form.Close();
   });
   EXPECT_THAT(host.Log, ElementsAre("HelpKeyword HC_TeamCheckInFiles"));
-}
-
-TEST_F(FileList, IsFoundByOthersOnlyWhileItGetsFiles) {
-  for (const auto command : {coGet, coCheckOut, coCheckIn}) {
-    model.CommandKind = command;
-    TGetFileListForm form(expert->Context(), model);
-    EXPECT_EQ(GetFileListForm, command == coGet ? &form : nullptr);
-    form.AddFile(Native("/p/unit.pas"), "Current");
-    const int last = form.FilesListView->GetItemCount() - 1;
-    EXPECT_EQ(form.GetFile(last), Native("/p/unit.pas"));
-    EXPECT_EQ(form.GetFile(-1), "");
-  }
-  EXPECT_EQ(GetFileListForm, nullptr);
 }
 
 }  // namespace

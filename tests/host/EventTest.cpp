@@ -9,20 +9,6 @@ namespace kestrel {
 
 using testing::ElementsAre;
 
-TEST(Event, RunsHandlersInOrderUntilTheyUnsubscribe) {
-  TEvent<std::string> event;
-  std::vector<std::string> heard;
-  const int first = event.Subscribe([&](const std::string& text) { heard.push_back("first " + text); });
-  event.Subscribe([&](const std::string& text) { heard.push_back("second " + text); });
-
-  event.Fire("a");
-  event.Unsubscribe(first);
-  event.Subscribe([&](const std::string& text) { heard.push_back("third " + text); });
-  event.Fire("b");
-
-  EXPECT_THAT(heard, ElementsAre("first a", "second a", "second b", "third b"));
-}
-
 TEST(Event, HandlersMayUnsubscribeThemselvesAndLaterOnesAndSubscribeWhileItFires) {
   TEvent<> event;
   std::vector<std::string> heard;

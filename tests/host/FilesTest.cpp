@@ -31,7 +31,7 @@ std::vector<std::string> NamesIn(const std::string& folder) {
 
 }  // namespace
 
-TEST(Files, ComeBackAsTheyWereWritten) {
+TEST(Files, AreReadAsTheyWereWritten) {
   const TTemporaryFolder folder;
   const std::string longName = folder / (std::string(251, 'x') + ".pas");
   const std::string rows[] = {"", "one line\r\nno end", std::string("\0\xFF\n", 3),
@@ -69,7 +69,7 @@ TEST(Files, FailWithASentenceThatNamesThem) {
   EXPECT_THAT(NamesIn(folder.Path()), UnorderedElementsAre("file", "read-only"));
 }
 
-TEST(Files, TakeAwayWhatAKilledProcessLeft) {
+TEST(Files, RemoveTemporaryFilesOfKilledProcesses) {
   const TTemporaryFolder folder;
   const auto own = ".corvane-" + std::to_string(getpid()) + "-";
   const std::string gone = ".corvane-4194305-";  // beyond the numbers of processes on Linux, and odd

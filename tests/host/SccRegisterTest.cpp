@@ -122,7 +122,7 @@ TEST_F(SccRegister, ChangesThePathOfAnInstalledProvider) {
   Do({"remove", "Other: 2"});
 }
 
-TEST_F(SccRegister, LeavesWhatOthersInstalled) {
+TEST_F(SccRegister, LeavesForeignValuesAlone) {
   Write(kInstalledProvidersKey, "Vendor SCC", "Software\\Vendor");
   Write("Software\\Vendor", kServerName, "Vendor SCC");
   Write("Software\\Vendor", kServerPath, missing_);
@@ -143,7 +143,7 @@ TEST_F(SccRegister, LeavesWhatOthersInstalled) {
   EXPECT_THAT(Run({"list"}).Output, HasSubstr("No source control providers"));
 }
 
-TEST_F(SccRegister, ExplainsWhatItCannotDo) {
+TEST_F(SccRegister, RefusesBadArgumentsWithAReason) {
   const auto text = folder_.Write("text.so", "not a library");
   const struct {
     TWords arguments;

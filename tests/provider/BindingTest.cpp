@@ -40,20 +40,6 @@ TEST_F(Binding, ALoadedLibraryStaysWhateverThePathSays) {
   EXPECT_EQ(BoundEntries(), 0);
 }
 
-TEST_F(Binding, UnloadingTwiceDoesNothing) {
-  ASSERT_TRUE(scc::LoadSCCDLL(SCRIPTED_PROVIDER_PATH));
-  scc::UnloadSCCDLL();
-  scc::UnloadSCCDLL();
-  EXPECT_EQ(scc::hSosScc, nullptr);
-}
-
-TEST(InterfaceVersion, IsPackedInTwoHalves) {
-  EXPECT_EQ(scc::SCC_GET_MAJOR_VER(scc::SCC_VER_NUM()), 1u);
-  EXPECT_EQ(scc::SCC_GET_MINOR_VER(scc::SCC_VER_NUM()), 1u);
-  EXPECT_EQ(scc::SCC_GET_MAJOR_VER(0xFFFE0005), 0xFFFEu);
-  EXPECT_EQ(scc::SCC_GET_MINOR_VER(0xFFFE0005), 5u);
-}
-
 }  // namespace
 
 }  // namespace kestrel::addin

@@ -92,7 +92,7 @@ TEST_F(Border, ExceptionsWithoutATextToFillAreLogged) {
   EXPECT_EQ(sink.Of(TSeverity::Error), expected);
 }
 
-TEST_F(Border, AHalfWrittenAnswerOfAFailedCallIsDropped) {
+TEST_F(Border, DropsAHalfWrittenAnswerOfAFailedCall) {
   session().set_ProjName("$/mine");
   provider->OpenProject.ProjName = "$/half";
   provider->Faults.ThrowInt = {"SccOpenProject"};
@@ -117,7 +117,7 @@ TEST_F(Border, MissingEntryPointsAreNotSupported) {
   EXPECT_EQ(session().GetFile(kFiles, messages), 0);
 }
 
-TEST_F(Border, AnOverrunIsReportedByTheLibrarysNameWhenTheProviderHasNone) {
+TEST_F(Border, NamesTheLibraryInReportsWhenTheProviderHasNoName) {
   list.reset();
   sink.Lines.clear();
   list = std::make_unique<TSCCProviderList>(PARTIAL_LIBRARY_PATH, 0, "ann");
@@ -139,7 +139,7 @@ TEST_F(Border, TextsWithoutTerminatorEndAtTheFieldsSize) {
   EXPECT_EQ(provider->Last("SccOpenProject").AuxPath, std::string(301, 'u')) << "what it gave, it gets back";
 }
 
-TEST_F(Border, ATextLongerThanItsFieldIsCutAndSaidSo) {
+TEST_F(Border, CutsATextThatIsTooLongAndReportsIt) {
   provider->Faults.LongProjName = true;
   EXPECT_EQ(session().OpenProject(messages), 0);
   EXPECT_EQ(session().get_ProjName(), std::string(261, 'n'));
@@ -178,7 +178,7 @@ TEST_F(Border, WritingBehindTheStatusesIsReportedByTheCallThatDidIt) {
   EXPECT_THAT(sink.Lines, IsEmpty());
 }
 
-TEST_F(Border, WordsWrittenTwiceTooWideDoNoHarm) {
+TEST_F(Border, ToleratesWordsWrittenWithEightBytes) {
   list.reset();
   provider->Faults.WideWords = true;
   provider->Capabilities = 0x40000001;
@@ -193,7 +193,7 @@ TEST_F(Border, WordsWrittenTwiceTooWideDoNoHarm) {
   EXPECT_THAT(sink.Boxes, SizeIs(1));
 }
 
-TEST_F(Border, AProviderMayFloodTheListCallback) {
+TEST_F(Border, BoundsTheNamesOfAListCallback) {
   static TStringList taken;
   taken.clear();
   provider->Faults.FloodList = true;
@@ -206,7 +206,7 @@ TEST_F(Border, AProviderMayFloodTheListCallback) {
   EXPECT_EQ(taken.size(), kMaxPopulated);
 }
 
-TEST_F(Border, OneCallAtATime) {
+TEST_F(Border, RefusesACallWithinACall) {
   bool inside = false;
   TStateMessages nested;
   provider->OnCall["SccGet"] = [&](const ScriptedCall&) {
@@ -222,7 +222,7 @@ TEST_F(Border, OneCallAtATime) {
   EXPECT_FALSE(ProviderCallInProgress());
 }
 
-TEST_F(Border, HowTheThreadComputesStaysAsItWas) {
+TEST_F(Border, RestoresTheFloatingPointEnvironment) {
   for (const bool fails : {false, true}) {
     provider->OnCall["SccGet"] = [](const ScriptedCall&) { std::fesetround(FE_UPWARD); };
     if (fails) provider->Faults.ThrowInt = {"SccGet"};
@@ -235,7 +235,7 @@ TEST_F(Border, HowTheThreadComputesStaysAsItWas) {
   scc::UnloadSCCDLL();
 }
 
-TEST_F(Border, TextsThatAreNoUtf8AreShownAndNamesGoBackAsTheyCame) {
+TEST_F(Border, ShowsTextsThatAreNotUtf8AndReturnsNamesUnchanged) {
   const std::string given =
       "$/Gr\xF6\xDF"
       "e";
@@ -281,7 +281,7 @@ TEST_F(Border, LinesOfOtherThreadsWaitForTheUserInterface) {
   SetProviderWaker({});
 }
 
-TEST_F(Border, LinesAndCommentsHaveASize) {
+TEST_F(Border, BoundsLinesAndTerminatesComments) {
   provider->Texts["SccOpenProject"] = {{scc::SCC_MSG_INFO, std::string(10'000'000, 'x') + "\r\n"}};
   session().OpenProject(messages);
   EXPECT_THAT(sink.Of(TSeverity::Info), ElementsAre(std::string(4096, 'x') + " [...]"));
@@ -289,7 +289,7 @@ TEST_F(Border, LinesAndCommentsHaveASize) {
   EXPECT_EQ(std::string_view(comment.Data(), kMaxComment + 1), "why" + std::string(126, '\0'));
 }
 
-TEST_F(Border, ArbitraryCodesComeBackAsTheyAre) {
+TEST_F(Border, ReturnsUnknownCodesUnchanged) {
   provider->Results["SccGet"] = -77;
   EXPECT_EQ(session().GetFile(kFiles, messages), -77);
   EXPECT_EQ(messages[2], "Undefined error or warning");

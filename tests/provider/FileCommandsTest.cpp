@@ -65,12 +65,7 @@ TEST_F(FileCommands, EmptyListsAreRefusedBeforeTheProvider) {
             "Cannot perform query, filelist empty");
   EXPECT_EQ(AbortOf([&] { session().CheckOutFile({}, "c", messages); }),
             "Cannot checkout file, filelist empty");
-  EXPECT_EQ(AbortOf([&] { session().AddFile({}, "c", true, messages); }), "Cannot add file, filelist empty");
-  EXPECT_EQ(AbortOf([&] { session().CheckInFile({}, "c", true, messages); }),
-            "Cannot check-in file, filelist empty");
-  EXPECT_EQ(AbortOf([&] { session().RemoveFile({}, messages); }), "Cannot remove file, filelist empty");
   EXPECT_EQ(AbortOf([&] { session().UnCheckOutFile({}, messages); }), "Cannot add file, filelist empty");
-  EXPECT_EQ(AbortOf([&] { session().GetFile({}, messages); }), "Cannot get file, filelist empty");
   EXPECT_EQ(AbortOf([&] { session().GetFilesAndDirs({}, messages); }), "Cannot get file, filelist empty");
   EXPECT_EQ(AbortOf([&] { session().ShowHistory(" \t ", messages); }),
             "Cannot show file history, filename blank");
@@ -125,12 +120,6 @@ TEST_F(FileCommands, DifferencesAreTheCodeSix) {
   provider->Results["SccDiff"] = scc::SCC_E_FILENOTEXIST;
   EXPECT_FALSE(session().SilentDiff("/p/changed.pas", messages));
   EXPECT_EQ(messages[2], "Local file not found");
-}
-
-TEST_F(FileCommands, HistoryIsOfOneFile) {
-  EXPECT_EQ(session().ShowHistory(" /p/a.pas", messages), 0);
-  EXPECT_THAT(provider->Last("SccHistory").Files, ElementsAre(" /p/a.pas"));
-  EXPECT_TRUE(provider->Last("SccHistory").Terminated);
 }
 
 TEST_F(FileCommands, PopulatingPassesTheCallbackAndIgnoresTheCode) {

@@ -86,20 +86,6 @@ TEST_F(ProviderProject, VersionIsMajorDotMinor) {
   EXPECT_EQ(session().GetVersion(), "");
 }
 
-TEST_F(ProviderProject, SmallCallsReachTheProvider) {
-  session().Properties("/p/unit 1.pas", messages);
-  EXPECT_THAT(provider->Last("SccProperties").Files, ElementsAre("/p/unit 1.pas"));
-  EXPECT_THAT(messages, ElementsAre("", "", ""));
-
-  provider->Results["SccGetEvents"] = scc::SCC_E_NONSPECIFICERROR;
-  session().GetEvents(messages);
-  EXPECT_EQ(messages[2], "Non-specific failure, no action was taken");
-
-  provider->Results["SccRunScc"] = scc::SCC_E_SHELLFAILURE;
-  EXPECT_EQ(session().RunSCC(), -20);
-  EXPECT_THAT(provider->Last("SccRunScc").Files, IsEmpty());
-}
-
 TEST_F(ProviderProject, IdentityTextsAreCutAtTheirBuffers) {
   session().set_ProjPath(std::string(299, 'x') + "\u00fc" + "tail");
   EXPECT_EQ(session().get_ProjPath(), std::string(299, 'x')) << "half a character is none";

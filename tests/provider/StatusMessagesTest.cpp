@@ -15,17 +15,6 @@ TStateMessages Decoded(scc::Long code) {
   return messages;
 }
 
-TEST(ReturnCode, FillsExactlyTheElementOfItsKind) {
-  for (scc::Long code = -40; code <= 40; ++code) {
-    SCOPED_TRACE(code);
-    const bool informational = code >= 1 && code <= 7;
-    const TStateMessages messages = Decoded(code);
-    EXPECT_EQ(messages[0], "");
-    EXPECT_EQ(messages[1].empty(), !informational);
-    EXPECT_EQ(messages[2].empty(), informational || code == 0);
-  }
-}
-
 TEST(ReturnCode, UnlistedOnesAreErrors) {
   const auto extremes = std::numeric_limits<scc::Long>();
   for (scc::Long code : {8, 100, -30, extremes.min(), extremes.max()})

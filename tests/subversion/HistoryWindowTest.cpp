@@ -58,21 +58,6 @@ TEST_F(HistoryWindow, ShowsRevisionsTheirTextsAndDifferences) {
   EXPECT_EQ(scc::SCC_OK, Show("unit1.pas"));
 }
 
-TEST_F(HistoryWindow, TellsTheClientWhenItReplacedTheFile) {
-  const auto get = [&](int answer) {
-    script.Expect<wxDialog>([&, answer](wxDialog& dialog) {
-      Choose(dialog, 1);
-      script.Expect<wxMessageDialog>([answer](wxMessageDialog& question) { question.SetReturnCode(answer); });
-      Press(dialog, "&Get This Revision...");
-    });
-    return Show("unit1.pas");
-  };
-  EXPECT_EQ(scc::SCC_OK, get(wxID_NO));
-  EXPECT_EQ("2\n", ann.Read("unit1.pas"));
-  EXPECT_EQ(scc::SCC_I_RELOADFILE, get(wxID_YES));
-  EXPECT_EQ("1\n", ann.Read("unit1.pas"));
-}
-
 TEST_F(HistoryWindow, FoldersHaveAHistoryToo) {
   script.Expect<wxDialog>([&](wxDialog& dialog) {
     EXPECT_EQ(3, Find<wxListCtrl>(dialog, "revisions")->GetItemCount());

@@ -1,6 +1,5 @@
 // The project dialog as a client gets it: through SccGetProjPath of the loaded library.
 #include <gmock/gmock.h>
-#include <wx/textdlg.h>
 #include <wx/treectrl.h>
 
 #include <array>
@@ -16,38 +15,15 @@ namespace {
 /// What SccGetProjPath was given and gave back.
 struct TAnswer {
   scc::Long Result;
-  std::string User, Project, Repository;
-  bool IsNew;
+  std::string Project;
 };
 
 wxButton* Ok(wxDialog& dialog) { return dynamic_cast<wxButton*>(dialog.FindWindow(wxID_OK)); }
-
-void Connect(wxDialog& dialog, const std::string& url) {
-  Find<wxComboBox>(dialog, "repository")->SetValue(wxString::FromUTF8(url));
-  Press(dialog, "&Connect");
-}
-
-/// Selects the folder that is reached by these names, opening what is above it.
-void Choose(wxDialog& dialog, const std::vector<std::string>& names) {
-  auto* tree = Find<wxTreeCtrl>(dialog, "folders");
-  wxTreeItemId item = tree->GetRootItem();
-  for (const auto& name : names) {
-    tree->Expand(item);
-    wxTreeItemIdValue cookie = nullptr;
-    auto child = tree->GetFirstChild(item, cookie);
-    while (child.IsOk() && tree->GetItemText(child) != wxString::FromUTF8(name))
-      child = tree->GetNextChild(item, cookie);
-    ASSERT_TRUE(child.IsOk()) << name;
-    item = child;
-  }
-  tree->SelectItem(item);
-}
 
 struct ProjectDialog : testing::Test {
   ProjectDialog() {
     svnscc::Client client("ann");
     svnscc::MakeFolder(client, svnscc::UrlOf(repository.Url(), "trunk/Größe"), "");
-    svnscc::MakeFolder(client, svnscc::UrlOf(repository.Url(), "branches"), "");
   }
   TAnswer Ask(bool mayCreate, const std::string& project = "", const std::string& url = "") {
     std::array<char, 33> user{"ann"};
@@ -59,60 +35,13 @@ struct ProjectDialog : testing::Test {
     scc::Bool isNew = mayCreate ? -1 : 0;
     const scc::Long result = ann.Library()->SccGetProjPath(ann.Context(), nullptr, user.data(), name.data(),
                                                            local.data(), aux.data(), 0, &isNew);
-    return {result, user.data(), name.data(), aux.data(), isNew != 0};
+    return {result, name.data()};
   }
   TTestRepository repository;
   TDeveloper ann{"ann"};
 };
 
 }  // namespace
-
-TEST_F(ProjectDialog, ChoosesAFolderOfARepository) {
-  TModalScript script;
-  script.Expect<wxDialog>([&](wxDialog& dialog) {
-    EXPECT_FALSE(Ok(dialog)->IsEnabled());
-    EXPECT_EQ(Ok(dialog), dialog.GetDefaultItem());
-    Connect(dialog, "file:///nowhere");
-    EXPECT_THAT(Message(dialog), testing::HasSubstr("nowhere"));
-    EXPECT_FALSE(Ok(dialog)->IsEnabled());
-    Connect(dialog, repository.Folder());
-    Choose(dialog, {"trunk", "Größe"});
-    EXPECT_TRUE(Ok(dialog)->IsEnabled()) << Message(dialog);
-    EXPECT_FALSE(FindLabelled<wxButton>(dialog, "New F&older...")->IsShown());
-    Click(Ok(dialog));
-    dialog.SetReturnCode(wxID_OK);
-  });
-  const TAnswer answer = Ask(false);
-  EXPECT_EQ(scc::SCC_OK, answer.Result);
-  EXPECT_EQ("trunk/Größe", answer.Project);
-  EXPECT_EQ(repository.Url(), answer.Repository);
-  EXPECT_FALSE(answer.IsNew);
-  EXPECT_EQ(scc::SCC_OK, ann.Open(answer.Repository, answer.Project)) << ann.Said();
-}
-
-TEST_F(ProjectDialog, PlansANewFolderThatOpeningMakes) {
-  TModalScript script;
-  script.Expect<wxDialog>([&](wxDialog& dialog) {
-    Connect(dialog, repository.Url());
-    Choose(dialog, {"trunk"});
-    script.Expect<wxTextEntryDialog>([](wxTextEntryDialog& question) {
-      EXPECT_EQ("MyProject", question.GetValue());  // as the client named it
-      question.SetReturnCode(wxID_OK);
-    });
-    Press(dialog, "New F&older...");
-    Find<wxTextCtrl>(dialog, "user")->SetValue("bob");
-    EXPECT_TRUE(Ok(dialog)->IsEnabled()) << Message(dialog);
-    dialog.SetReturnCode(wxID_OK);
-  });
-  const TAnswer answer = Ask(true, "MyProject");
-  EXPECT_EQ(scc::SCC_OK, answer.Result);
-  EXPECT_EQ("trunk/MyProject", answer.Project);
-  EXPECT_EQ("bob", answer.User);
-  EXPECT_TRUE(answer.IsNew);
-  EXPECT_FALSE(repository.Exists("trunk/MyProject"));
-  EXPECT_EQ(scc::SCC_OK, ann.Open(answer.Repository, answer.Project));
-  EXPECT_TRUE(repository.Exists("trunk/MyProject"));
-}
 
 // Really shown: the modal loop runs, what was bound before is connected by itself, Cancel changes nothing.
 TEST_F(ProjectDialog, ShowsTheProjectThatWasBoundBefore) {

@@ -58,18 +58,6 @@ TEST(MsgDialog, MakesRoomForALongTitle) {
   EXPECT_LE(high.btnOK->GetRect().GetRight(), high.GetClientSize().GetWidth());
 }
 
-TEST(ShowMsgDialog, ShowsOneDialogAndFreesIt) {
-  TModalScript script;
-  script.Expect<TMsgDialogForm>([](TMsgDialogForm& form) {
-    EXPECT_EQ(MsgDialogForm, &form);
-    EXPECT_EQ(FromWx(form.TitleLabel->GetLabelText()), "Add File");
-    EXPECT_EQ(FromWx(form.MessageText->GetValue()), "unit1.pas was added successfully");
-    Click(form.btnOK);
-  });
-  ShowMsgDialog("Add File", "unit1.pas was added successfully", metQuestion);
-  EXPECT_EQ(MsgDialogForm, nullptr);
-}
-
 }  // namespace
 
 }  // namespace kestrel::addin

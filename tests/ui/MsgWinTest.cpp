@@ -128,11 +128,6 @@ TEST_F(MessageWindow, CopiesTheSelectedLines) {
   EXPECT_THAT(FromWx(copied.GetText()), MatchesRegex("two\r?\nlines\t.*M\nthree\t.*M\n"));
 }
 
-TEST_F(MessageWindow, ClearsItsVariableWhenItGoes) {
-  delete MsgWinForm;
-  EXPECT_EQ(MsgWinForm, nullptr);
-}
-
 }  // namespace
 
 }  // namespace kestrel::addin

@@ -51,25 +51,6 @@ class CommitBrowser : public TExpertTest {
   }
 };
 
-TEST_F(CommitBrowser, ListsTheRowsAndTrimsTheirPaths) {
-  const int result = Show([this](TCommitBrowser& form) {
-    EXPECT_EQ(form.FRowCount, 4);
-    EXPECT_EQ(form.StringGrid1->GetNumberRows(), 4);
-    EXPECT_EQ(Cell(form, 2, cgcActivity), "Commit");
-    EXPECT_EQ(Cell(form, 2, cgcStatus), "Checked out/Modified");
-    EXPECT_EQ(Cell(form, 2, cgcFileName), "unit1.pas");
-    Toggle(form.TCheckBoxPathTrim);
-    EXPECT_EQ(Cell(form, 0, cgcFileName), project_file_);
-    EXPECT_EQ(Cell(form, 3, cgcFileName), units_[1]);
-    Toggle(form.TCheckBoxPathTrim);
-    EXPECT_EQ(Cell(form, 3, cgcFileName), "unit2.pas");
-    EXPECT_EQ(FromWx(form.StringGrid1->GetColLabelValue(cgcFileName)), "File Name");
-    Click(form.TButtonCancel);
-  });
-  EXPECT_EQ(result, mrCancel);
-  EXPECT_THAT(forms_.Boxes, IsEmpty()) << "nothing happened";
-}
-
 TEST_F(CommitBrowser, AProjectWithoutFilesShowsOneEmptyRow) {
   Browsed();
   std::filesystem::remove_all(folder_ / "work");
@@ -132,75 +113,6 @@ TEST_F(CommitBrowser, TheDropDownFloatsOverTheFirstColumn) {
       hide();
       EXPECT_FALSE(list.IsShown());
     }
-    form.Close();
-  });
-}
-
-TEST_F(CommitBrowser, TheKeyboardReachesTheActivities) {
-  Show([](TCommitBrowser& form) {
-    auto& grid = *form.StringGrid1;
-    auto& list = *form.ActivityComboBox;
-    EXPECT_TRUE(IsFocused(&grid));
-    grid.SetGridCursor(2, cgcFileName);
-    Preview(&grid, 'U');
-    EXPECT_EQ(grid.GetGridCursorCol(), cgcActivity);
-    EXPECT_TRUE(list.IsPopupShown());
-    EXPECT_EQ(list.Pointed(), caUndo);
-    EXPECT_EQ(form.FRows[2].Activity, caCommit) << "pointed at, not yet chosen";
-    Preview(&list, 'C');
-    EXPECT_EQ(list.Pointed(), caCommit);
-    Preview(&list, 'C');
-    EXPECT_EQ(list.Pointed(), caCheckout);
-    list.Dismiss();
-    EXPECT_EQ(form.FRows[2].Activity, caCommit);
-    EXPECT_EQ(Cell(form, 2, cgcActivity), "Commit");
-
-    wxKeyEvent altDown(wxEVT_CHAR_HOOK);
-    altDown.m_keyCode = WXK_DOWN;
-    altDown.SetAltDown(true);
-    list.SetFocus();
-    form.FormKeyDown(altDown);
-    EXPECT_TRUE(list.IsPopupShown());
-    EXPECT_EQ(list.Pointed(), caCommit);
-    list.Dismiss();
-
-    Preview(&list, WXK_DOWN);
-    EXPECT_EQ(grid.GetGridCursorRow(), 3) << "a closed list leaves the arrows to the grid";
-    EXPECT_TRUE(IsFocused(&list));
-    Preview(&list, WXK_RIGHT);
-    EXPECT_TRUE(IsFocused(&grid));
-    EXPECT_FALSE(list.IsShown());
-    Preview(&grid, WXK_HOME);
-    EXPECT_EQ(grid.GetGridCursorRow(), 0);
-    Preview(&grid, WXK_END);
-    EXPECT_EQ(grid.GetGridCursorRow(), 3);
-
-    Preview(&grid, 'U');
-    form.FormResize();
-    EXPECT_FALSE(list.IsPopupShown()) << "it would float where the cell was";
-    Preview(&grid, 'U');
-    form.Close();
-    EXPECT_FALSE(list.IsPopupShown());
-  });
-}
-
-TEST_F(CommitBrowser, TheTwoKindsOfCommentsExcludeEachOther) {
-  Show([](TCommitBrowser& form) {
-    const auto ticks = [&] {
-      return std::pair(form.TCheckboxIndividualComment->GetValue(), form.TCheckBoxSummaryComment->GetValue());
-    };
-    const std::pair individual(true, false), summary(false, true);
-    EXPECT_EQ(ticks(), individual);
-    Type(form.TMemoSummaryComments, "for all");
-    EXPECT_EQ(ticks(), summary);
-    form.StringGrid1->SetGridCursor(1, cgcStatus);
-    EXPECT_EQ(ticks(), summary) << "another row's comment is not typed";
-    Type(form.TMemoIndividualComment, "mine");
-    EXPECT_EQ(ticks(), individual);
-    Toggle(form.TCheckboxIndividualComment);
-    EXPECT_EQ(ticks(), summary);
-    Toggle(form.TCheckBoxSummaryComment);
-    EXPECT_EQ(ticks(), individual);
     form.Close();
   });
 }
@@ -270,39 +182,6 @@ TEST_F(CommitBrowser, ShowsTheLocalSource) {
   });
 }
 
-TEST_F(CommitBrowser, ButtonsAndKeysLeadToTheProviderAndTheHelp) {
-  Show([this](TCommitBrowser& form) {
-    form.StringGrid1->SetGridCursor(2, cgcStatus);
-    Click(form.HelpButton);
-    Preview(form.StringGrid1, WXK_F1);
-    const struct {
-      int Letter;
-      wxNotebook* Book;
-      int Page;
-      wxWindow* First;
-    } pages[] = {{'L', form.TFileDisplayPageControl, 1, form.TMemoWorkspaceSource},
-                 {'O', form.TCommitPageControl, 0, form.StringGrid1},
-                 {'I', form.TFileDisplayPageControl, 0, form.TMemoIndividualComment},
-                 {'D', form.TFileDisplayPageControl, 2, form.TButtonShowDiff},
-                 {'S', form.TCommitPageControl, 1, form.TMemoSummaryComments},
-                 {'O', form.TCommitPageControl, 0, form.StringGrid1}};
-    for (const auto& page : pages) {
-      wxKeyEvent event(wxEVT_CHAR_HOOK);
-      event.m_keyCode = page.Letter;
-      event.SetAltDown(true);
-      form.FormKeyDown(event);
-      EXPECT_EQ(page.Book->GetSelection(), page.Page);
-      EXPECT_TRUE(IsFocused(page.First)) << static_cast<char>(page.Letter);
-    }
-    Click(form.TButtonShowDiff);
-    EXPECT_THAT(provider_->Last("SccDiff").Files, ElementsAre(units_[0]));
-    Click(form.TButtonShowHistory);
-    EXPECT_THAT(provider_->Last("SccHistory").Files, ElementsAre(units_[0]));
-    form.Close();
-  });
-  EXPECT_THAT(host_.Log, ElementsAre("HelpKeyword HC_TeamCommitBrowser", "HelpKeyword HC_TeamCommitBrowser"));
-}
-
 TEST_F(CommitBrowser, StaysOpenWhenThePassCannotBegin) {
   EXPECT_EQ(Show([this](TCommitBrowser& form) {
               provider_->OnCall["SccDiff"] = [&](const ScriptedCall&) { Click(form.TButtonCommit); };
@@ -342,22 +221,6 @@ TEST_F(CommitBrowser, CannotBeWorkedWhileThePassRuns) {
   EXPECT_EQ(provider_->Count("SccCheckin"), 2);
   ASSERT_EQ(progress.size(), 2U);
   EXPECT_EQ(progress.back(), "File 4 of 4: unit2.pas");
-}
-
-TEST_F(CommitBrowser, KeepsItsMinimumAndItsColumnsEqual) {
-  TCommitBrowser form(Browsed().Context());
-  EXPECT_EQ(form.GetSize(), form.FromDIP(wxSize(711, 507)));
-  form.Show();
-  for (const auto size : {wxSize(100, 100), wxSize(1000, 700)}) {
-    form.SetSize(form.FromDIP(size));
-    wxYield();
-    auto& grid = *form.StringGrid1;
-    EXPECT_EQ(grid.GetColSize(cgcActivity), grid.GetColSize(cgcStatus));
-    EXPECT_EQ(grid.GetColSize(cgcActivity), grid.GetColSize(cgcFileName));
-    EXPECT_NEAR(3 * grid.GetColSize(cgcActivity), grid.GetGridWindow()->GetClientSize().GetWidth(), 6);
-    EXPECT_GE(grid.GetGridWindow()->GetClientSize().GetHeight(), form.FromDIP(60)) << "room for rows";
-    EXPECT_EQ(form.GetSize(), form.FromDIP(size.GetWidth() == 100 ? wxSize(711, 505) : size));
-  }
 }
 
 }  // namespace

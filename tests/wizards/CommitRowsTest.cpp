@@ -52,14 +52,6 @@ TEST(CommitRowRules, ProposeAnActivityByStatusAndDifference) {
   }
 }
 
-TEST(CommitRowRules, ActivitiesHaveTexts) {
-  std::vector<std::string> texts;
-  for (int value = 0; value <= kCommitActivities; ++value)
-    texts.push_back(ActivityToString(static_cast<TCommitActivity>(value)));
-  EXPECT_THAT(texts, ElementsAre("No activity", "Commit", "Check Out", "Undo Check Out", "Add", "Remove",
-                                 "Get Latest", "Activity Error"));
-}
-
 TEST(CommitRowRules, ALetterLeadsToTheNextActivityThatBeginsWithIt) {
   EXPECT_EQ(NextActivityWith('c', caNone), caCommit);
   EXPECT_EQ(NextActivityWith('C', caCommit), caCheckout);

@@ -56,13 +56,6 @@ TEST_F(FileSearch, FindsTheSameWithAndWithoutATrailingDelimiter) {
   }
 }
 
-TEST_F(FileSearch, GoesBreadthFirst) {
-  const auto directories = Found(SearchRecursiveDirectories, "p");
-  EXPECT_EQ(directories.front(), "p/");
-  EXPECT_EQ(directories.back(), "p/sub/deep/");
-  EXPECT_EQ(Found(SearchRecursiveFiles, "p").back(), "p/sub/deep/c.pas");
-}
-
 TEST_F(FileSearch, FindsNothingWhereThereIsNothing) {
   EXPECT_THAT(Found(SearchRecursiveDirectories, "p/empty"), ElementsAre("p/empty/"));
   EXPECT_THAT(Found(SearchRecursiveFiles, "p/empty"), ElementsAre());

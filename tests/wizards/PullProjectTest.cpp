@@ -89,16 +89,6 @@ TEST_F(PullProject, FetchesListsAndMaps) {
   EXPECT_EQ(pages_->ProjectFile(), In("Sub/App.QVXPROJ"));
 }
 
-TEST_F(PullProject, WithoutAProjectFileNothingIsFetched) {
-  provider_->List.resize(1);
-  Aim(Target());
-  pages_->NextFinishButtonClick();
-  EXPECT_THAT(pages_->Status(), ElementsAre("Corvane project file not found", "Done"));
-  EXPECT_EQ(provider_->Count("SccGet"), 0);
-  EXPECT_TRUE(std::filesystem::is_empty(ToFilePath(Target())));
-  EXPECT_FALSE(pages_->CanOpen());
-}
-
 TEST_F(PullProject, FailuresAreListedAndCanBeTriedAgain) {
   Aim(Target());
   provider_->Results["SccOpenProject"] = scc::SCC_E_CONNECTIONFAILURE;
@@ -151,7 +141,7 @@ TEST_F(PullProject, ShowsWhatItWaitsFor) {
   EXPECT_EQ(pages_->Progress(), "");
 }
 
-TEST_F(PullProject, TargetThatWillNotDoIsRefusedInWords) {
+TEST_F(PullProject, RefusesAnUnusableTargetWithAReason) {
   const auto file = folder_.Write("file", "x");
   const auto start = folder_.Path() + PathDelim;
   const auto longest = start + std::string(260 - start.size(), 'x');

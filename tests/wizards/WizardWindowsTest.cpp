@@ -85,50 +85,6 @@ TEST_F(WizardWindows, EscapeStopsThePlacementAndDoesNotCloseTheForm) {
   EXPECT_THAT(host_.Log, Not(Contains("HelpKeyword HC_TeamPlaceProject"))) << "not in the middle of it";
 }
 
-TEST_F(WizardWindows, PullOffersToOpenWhatIsThere) {
-  host_.StartupDirectory = folder_.Path();
-  provider_->List.push_back({true, scc::SCC_STATUS_CONTROLLED, folder_ / "new/App.qvxproj"});
-  provider_->OnCall["SccGet"] = [this](const ScriptedCall&) { folder_.Write("new/App.qvxproj", "x"); };
-  const auto play = [this](bool open, bool found) {
-    provider_->List.resize(found ? 1 : 0);
-    TPullProjectWizard form(expert_->Context());
-    ShowAndPlay<TPullProjectWizard>(form, [&](TPullProjectWizard& wizard) {
-      Click(wizard.NextFinishButton);
-      EXPECT_THAT(Shown(wizard), ElementsAre(wizard.Page3Panel));
-      EXPECT_EQ(FromWx(wizard.TargetDirectory->GetValue()), folder_.Path());
-      wizard.TargetDirectory->SetValue("new");
-      Click(wizard.NextFinishButton);
-      EXPECT_THAT(Shown(wizard), ElementsAre(wizard.Page2Panel));
-      EXPECT_EQ(wizard.NextFinishButton->GetLabel(), "&Pull");
-      Click(wizard.NextFinishButton);
-      EXPECT_EQ(wizard.cbOpenProject->IsShown(), found);
-      wizard.cbOpenProject->SetValue(open);
-      Click(wizard.NextFinishButton);
-    });
-    return form.FileToOpen();
-  };
-  EXPECT_EQ(play(true, true), folder_ / "new/App.qvxproj");
-  EXPECT_EQ(play(false, true), "");
-  EXPECT_EQ(play(true, false), "");
-}
-
-TEST_F(WizardWindows, FailureIsShownOnThePageAndEscapeLeaves) {
-  host_.AddProject(project_file_, units_);
-  TRegistry registry;
-  registry.OpenKey("Software\\Scripted");
-  registry.WriteString("SccServerPath", "/nowhere/none.so");
-  TPlaceProjectWizard form(expert_->Context());
-  EXPECT_EQ(ShowAndPlay<TPlaceProjectWizard>(form,
-                                             [](TPlaceProjectWizard& wizard) {
-                                               EXPECT_TRUE(wizard.NoProvidersLabel->IsShown());
-                                               EXPECT_FALSE(wizard.NextFinishButton->IsEnabled());
-                                               Preview(wizard.cbProviders, WXK_F1);
-                                               Preview(wizard.cbProviders, WXK_ESCAPE);
-                                             }),
-            mrCancel);
-  EXPECT_THAT(host_.Log, Contains("HelpKeyword HC_TeamPlaceProject"));
-}
-
 }  // namespace
 
 }  // namespace kestrel::addin

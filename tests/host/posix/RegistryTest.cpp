@@ -81,7 +81,7 @@ TEST_F(RegistryFiles, KeepsItsRootsApartInTheUsersConfiguration) {
   }
 }
 
-TEST_F(RegistryFiles, LaysTheUsersValuesOverTheMachines) {
+TEST_F(RegistryFiles, ReadsTheUsersValuesBeforeTheMachines) {
   const auto user = folder_.Write("user.ini", "[Installed]\nMine=u1\nSHARED=u2\n[Only\\Mine]\na=b\n");
   const auto machine =
       folder_.Write("machine.ini", "[installed]\nFirst=m1\nshared=m2\nLast=m3\n[Software\\M]\na=b\n");
@@ -101,7 +101,7 @@ TEST_F(RegistryFiles, LaysTheUsersValuesOverTheMachines) {
   EXPECT_EQ(ReadWholeFile(machine), "[installed]\nFirst=m1\nshared=m2\nLast=m3\n[Software\\M]\na=b\n");
 }
 
-TEST_F(RegistryFiles, ReadsNothingFromAFileThatIsNoneAndPutsItAsideBeforeWriting) {
+TEST_F(RegistryFiles, KeepsABackupOfAFileThatIsNotText) {
   EXPECT_FALSE(KeyExists("Key")) << "no file at all";
   const auto broken = std::string("[Key]\nname=value\n") + std::string(4096, '\0') +
                       "\x7F"
@@ -121,7 +121,7 @@ TEST_F(RegistryFiles, ReadsNothingFromAFileThatIsNoneAndPutsItAsideBeforeWriting
   }
 }
 
-TEST_F(RegistryFiles, SaysWhatItCannotStoreAndKeepsWhatWasThere) {
+TEST_F(RegistryFiles, ReportsWhatItCannotStoreAndKeepsTheOldValues) {
   Write("Key", "name", "old");
   SetFileAttributesOf(machine_, faReadOnly);
   EXPECT_THAT([] { Write("Key", "name", "new"); }, ThrowsMessage<std::runtime_error>(HasSubstr(machine_)));
@@ -139,7 +139,7 @@ TEST_F(RegistryFiles, SaysWhatItCannotStoreAndKeepsWhatWasThere) {
   EXPECT_FALSE(TRegistry().DeleteKey("Key")) << "nothing there to delete is no failure";
 }
 
-TEST_F(RegistryFiles, LosesNothingWhenManyWriteAtOnce) {
+TEST_F(RegistryFiles, LosesNoValueOfConcurrentWriters) {
   constexpr int kWriters = 8;
   constexpr int kValues = 10;
   std::vector<std::thread> writers;
