@@ -23,16 +23,6 @@ std::vector<std::string> Ticked(const TFileListModel& model) {
   return files;
 }
 
-TEST(FileListModel, ShowsNameAndDirectoryAndGivesTheFullPathBack) {
-  const auto model = ListOf({Native("/p/src/unit1.pas"), Native("/unit2.pas")});
-  EXPECT_EQ(model.NameOf(0), "unit1.pas");
-  EXPECT_EQ(model.DirectoryOf(0), Native("/p/src"));
-  EXPECT_EQ(model.GetFile(0), Native("/p/src/unit1.pas"));
-  EXPECT_EQ(model.GetFile(1), Native("/unit2.pas")) << "a root keeps its delimiter";
-  EXPECT_EQ(model.GetFile(-1), "");
-  EXPECT_EQ(model.GetFile(2), "");
-}
-
 TEST(FileListModel, OpensWithTheFileThatIsBeingEditedTicked) {
   const struct {
     std::string Current;

@@ -117,53 +117,7 @@ TEST_F(TeamMenu, ProviderThatCannotBeLoadedIsNamedInTheMessageWindow) {
   EXPECT_THAT(forms_.LinesOf(mwtInfo), Contains("MainMenu; SCC DLL Loadlibrary failed"));
 }
 
-class FileMenu : public TeamMenu {
- protected:
-  /// The user chooses a command in the menu of that file.
-  void Choose(const std::string& caption, const std::string& file) {
-    auto& items = host_.FileMenus.at(0)->Items;
-    const auto item = std::ranges::find(items, caption, &TFileMenu::TItem::Caption);
-    ASSERT_NE(item, items.end()) << caption;
-    item->OnExecute(file);
-  }
-};
-
-TEST_F(FileMenu, RunsTheCommandForThatFileAlone) {
-  Open();
-  provider_->StatusOf = [&](const std::string& file) { return Long{file == units_[1]}; };
-  const struct {
-    const char* Caption;
-    const char* Call;
-    bool Lists, Comments;
-  } rows[] = {
-      {kOut, "SccCheckout", true, true},
-      {kIn, "SccCheckin", true, true},
-      {kAdd, "SccAdd", true, true},
-      {kRemove, "SccRemove", true, false},
-      {kUndo, "SccUncheckout", true, false},
-      {"Show Differences...", "SccDiff", false, false},
-      {"Get Latest Version", "SccGet", true, false},
-      {"Show History...", "SccHistory", false, false},
-      {"Properties...", "SccProperties", false, false},
-  };
-  std::vector<std::string> captions;
-  for (const auto& item : host_.FileMenus.at(0)->Items)
-    if (item.Caption != "-") captions.push_back(item.Caption);
-  ASSERT_EQ(captions.size(), std::size(rows));
-  for (std::size_t i = 0; i < std::size(rows); ++i) {
-    const auto& row = rows[i];
-    SCOPED_TRACE(row.Caption);
-    EXPECT_EQ(captions[i], row.Caption) << "in the order of the Team menu";
-    if (row.Lists) WillTick({"unit2.pas"});
-    if (row.Comments) WillComment("why");
-    Choose(row.Caption, units_[1]);
-    EXPECT_THAT(NamesOf(provider_->Last(row.Call)), ElementsAre("unit2.pas"));
-    EXPECT_THAT(forms_.OnFileList, IsEmpty());
-    EXPECT_THAT(forms_.OnComments, IsEmpty());
-  }
-}
-
-TEST_F(FileMenu, IsThereOnlyWhileAProviderProjectIsOpen) {
+TEST_F(TeamMenu, IsOfferedForAFileOnlyWhileAProviderProjectIsOpen) {
   Start();
   const auto& menu = *host_.FileMenus.at(0);
   EXPECT_FALSE(menu.IsEnabled(units_[0])) << "no project";

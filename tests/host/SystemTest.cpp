@@ -46,20 +46,4 @@ TEST(System, VisitsWhatADirectoryHolds) {
   EXPECT_EQ(seen, (std::map<std::string, bool>{{"unit 1.pas", false}, {"Größe", true}, {"名前.pas", false}}));
 }
 
-TEST(System, ReturnsNoTextThatItsBufferCannotHold) {
-  const auto name = GetUserNameText(1000);
-  EXPECT_FALSE(name.empty());
-  EXPECT_EQ(GetUserNameText(name.size() + 1), name);
-  EXPECT_EQ(GetUserNameText(name.size()), "");
-
-  const TTemporaryFolder folder;
-  const auto before = fs::current_path();
-  const auto longest = folder.MakeFolder(std::string(125 - folder.Path().size(), 'x') + "ö");
-  ASSERT_EQ(longest.size(), 128u) << "127 characters";
-  fs::current_path(ToFilePath(longest));
-  EXPECT_EQ(GetCurrentDirectoryText(128), longest);
-  EXPECT_EQ(GetCurrentDirectoryText(127), "");
-  fs::current_path(before);
-}
-
 }  // namespace kestrel

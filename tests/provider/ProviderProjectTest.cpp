@@ -19,17 +19,14 @@ TEST_F(ProviderProject, ChoosingAProjectBringsBackWhatTheProviderWrote) {
   EXPECT_EQ(session().GetProjectPath(messages, true, false), 0);
   EXPECT_THAT(messages, ElementsAre("A new project was created", "", ""));
   const ScriptedCall& call = provider->Last("SccGetProjPath");
-  EXPECT_EQ(call.User, "ann");
-  EXPECT_EQ(call.ProjName, "$/old");
-  EXPECT_EQ(call.LocalPath, "/p");
-  EXPECT_EQ(call.AuxPath, "aux");
+  EXPECT_THAT((std::vector{call.User, call.ProjName, call.LocalPath, call.AuxPath}),
+              ElementsAre("ann", "$/old", "/p", "aux"));
   EXPECT_TRUE(call.IsNew);
   EXPECT_FALSE(call.Allowed);
   EXPECT_EQ(call.Window, reinterpret_cast<void*>(77));
-  EXPECT_EQ(session().get_UserName(), "bob");
-  EXPECT_EQ(session().get_ProjName(), "$/new");
-  EXPECT_EQ(session().get_LocalPath(), "/elsewhere");
-  EXPECT_EQ(session().get_ProjPath(), "other aux");
+  EXPECT_THAT((std::vector{session().get_UserName(), session().get_ProjName(), session().get_LocalPath(),
+                           session().get_ProjPath()}),
+              ElementsAre("bob", "$/new", "/elsewhere", "other aux"));
 
   provider->IsNew = false;
   EXPECT_EQ(session().GetProjectPath(messages, true, true), 0);

@@ -79,35 +79,39 @@ TEST_F(Picking, OffersWhatBelongsIntoTheClientsFolder) {
 }
 
 // As this client does it: one variable for all commands, whose address travels.
-TEST_F(Picking, OptionsTravelThroughTheClientsVariable) {
+TEST_F(Picking, PassesOptionsThroughTheClientsVariable) {
   const auto& library = ann.Library();
+  void* variable = nullptr;
+  const auto query = [&](scc::SCCCommand command) {
+    return library->SccGetCommandOptions(ann.Context(), nullptr, command, nullptr);
+  };
+  /// The user sees the option as `before`, and leaves it as `after`.
+  const auto choose = [&](bool before, bool after, int button = wxID_OK) {
+    script.Expect<wxDialog>([=](wxDialog& dialog) {
+      auto* option = Find<wxCheckBox>(dialog, "option");
+      EXPECT_EQ(before, option->GetValue());
+      option->SetValue(after);
+      dialog.SetReturnCode(button);
+    });
+    return library->SccGetCommandOptions(ann.Context(), nullptr, scc::SCC_COMMAND_CHECKOUT, &variable);
+  };
+  const std::string file = ann.File("a.pas");
+  const auto checkOut = [&] {
+    const char* name = file.c_str();
+    return library->SccCheckOut(ann.Context(), nullptr, 1, &name, "", 0, &variable);
+  };
   for (const auto command :
        {scc::SCC_COMMAND_GET, scc::SCC_COMMAND_CHECKOUT, scc::SCC_COMMAND_CHECKIN, scc::SCC_COMMAND_ADD})
-    EXPECT_EQ(scc::SCC_I_ADV_SUPPORT,
-              library->SccGetCommandOptions(ann.Context(), nullptr, command, nullptr));
-  EXPECT_EQ(scc::SCC_OK,
-            library->SccGetCommandOptions(ann.Context(), nullptr, scc::SCC_COMMAND_REMOVE, nullptr));
-  void* variable = nullptr;
+    EXPECT_EQ(scc::SCC_I_ADV_SUPPORT, query(command));
+  EXPECT_EQ(scc::SCC_OK, query(scc::SCC_COMMAND_REMOVE));
   EXPECT_EQ(scc::SCC_E_OPNOTSUPPORTED,
             library->SccGetCommandOptions(ann.Context(), nullptr, scc::SCC_COMMAND_REMOVE, &variable));
 
-  script.Expect<wxDialog>([](wxDialog& dialog) { dialog.SetReturnCode(wxID_CANCEL); });
-  EXPECT_EQ(scc::SCC_I_OPERATIONCANCELED,
-            library->SccGetCommandOptions(ann.Context(), nullptr, scc::SCC_COMMAND_CHECKOUT, &variable));
+  EXPECT_EQ(scc::SCC_I_OPERATIONCANCELED, choose(false, true, wxID_CANCEL));
   EXPECT_EQ(nullptr, variable);
-  script.Expect<wxDialog>([](wxDialog& dialog) {
-    Find<wxCheckBox>(dialog, "option")->SetValue(true);
-    dialog.SetReturnCode(wxID_OK);
-  });
-  EXPECT_EQ(scc::SCC_OK,
-            library->SccGetCommandOptions(ann.Context(), nullptr, scc::SCC_COMMAND_CHECKOUT, &variable));
+  EXPECT_EQ(scc::SCC_OK, choose(false, true));
   void* const block = variable;
-  script.Expect<wxDialog>([](wxDialog& dialog) {
-    EXPECT_TRUE(Find<wxCheckBox>(dialog, "option")->GetValue());
-    dialog.SetReturnCode(wxID_OK);
-  });
-  EXPECT_EQ(scc::SCC_OK,
-            library->SccGetCommandOptions(ann.Context(), nullptr, scc::SCC_COMMAND_CHECKOUT, &variable));
+  EXPECT_EQ(scc::SCC_OK, choose(true, true));
   script.Expect<wxDialog>([](wxDialog& dialog) {
     EXPECT_FALSE(Find<wxSpinCtrl>(dialog, "revision")->IsEnabled());
     dialog.SetReturnCode(wxID_OK);
@@ -115,31 +119,19 @@ TEST_F(Picking, OptionsTravelThroughTheClientsVariable) {
   EXPECT_EQ(scc::SCC_OK,
             library->SccGetCommandOptions(ann.Context(), nullptr, scc::SCC_COMMAND_GET, &variable));
   EXPECT_EQ(block, variable);
-
   bob.CheckOut({"a.pas"});
-  const std::string file = ann.File("a.pas");
-  const char* name = file.c_str();
-  EXPECT_EQ(scc::SCC_OK, library->SccCheckOut(ann.Context(), nullptr, 1, &name, "", 0, &variable))
-      << ann.Said();
+  EXPECT_EQ(scc::SCC_OK, checkOut()) << ann.Said();
   EXPECT_EQ("ann", repository.LockOwner("project/a.pas"));
 
   // Chosen for a list that was cancelled: the next list begins without it.
   ann.Undo({"a.pas"});
   bob.CheckOut({"a.pas"});
-  for (const bool populated : {true, false}) {
-    script.Expect<wxDialog>([](wxDialog& dialog) {
-      EXPECT_FALSE(Find<wxCheckBox>(dialog, "option")->GetValue());
-      Find<wxCheckBox>(dialog, "option")->SetValue(true);
-      dialog.SetReturnCode(wxID_OK);
-    });
-    library->SccGetCommandOptions(ann.Context(), nullptr, scc::SCC_COMMAND_CHECKOUT, &variable);
-    if (populated)
-      ann.Populate(scc::SCC_COMMAND_CHECKOUT, {});
-    else
-      library->SccGetCommandOptions(ann.Context(), nullptr, scc::SCC_COMMAND_CHECKOUT, nullptr);
-    EXPECT_EQ(scc::SCC_E_FILEOUTEXCLUSIVE,
-              library->SccCheckOut(ann.Context(), nullptr, 1, &name, "", 0, &variable));
-  }
+  choose(false, true);
+  ann.Populate(scc::SCC_COMMAND_CHECKOUT, {});
+  EXPECT_EQ(scc::SCC_E_FILEOUTEXCLUSIVE, checkOut());
+  choose(false, true);
+  query(scc::SCC_COMMAND_CHECKOUT);
+  EXPECT_EQ(scc::SCC_E_FILEOUTEXCLUSIVE, checkOut());
 }
 
 }  // namespace kestrel::svnscc

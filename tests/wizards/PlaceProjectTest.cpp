@@ -209,15 +209,6 @@ TEST_F(PlaceProject, WithoutAUsableProviderTheFirstPageSaysSo) {
   Choose("Other");
   EXPECT_TRUE(Page().Next);
   EXPECT_FALSE(Page().NoProviders);
-
-  TRegistry registry;
-  registry.OpenKey(kInstalledProvidersKey);
-  for (const auto& name : registry.GetValueNames()) registry.DeleteValue(name);
-  expert_->Context().Provider.Release();
-  Show();
-  EXPECT_THAT(pages_->Providers(), ElementsAre("No providers available"));
-  EXPECT_FALSE(Page().Next);
-  EXPECT_TRUE(Page().NoProviders);
 }
 
 TEST_F(PlaceProject, NothingElseStartsWhileTheProvidersBrowserIsOpen) {
