@@ -104,11 +104,6 @@ class TExpertTest : public testing::Test {
     }
     return names;
   }
-  std::vector<std::string> NamesOf(const ScriptedCall& call) const {
-    std::vector<std::string> names;
-    for (const auto& file : call.Files) names.push_back(ExtractFileName(file));
-    return names;
-  }
 
   TTemporaryFolder folder_;
   TTestRegistry registry_;
