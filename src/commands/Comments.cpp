@@ -83,7 +83,7 @@ void TCommentsForm::FormKeyDown(wxKeyEvent& event) {
   const int key = event.GetKeyCode();
   const bool walk = (key == WXK_UP || key == WXK_DOWN) && event.GetModifiers() == wxMOD_CONTROL;
   if (!walk || FindFocus() != CommentsMemo) return TModalForm::FormKeyDown(event);
-  history_.Keep(FromWx(CommentsMemo->GetValue()));
+  history_.Record(FromWx(CommentsMemo->GetValue()));
   Replace(key == WXK_UP ? history_.Older() : history_.Newer());
 }
 
@@ -106,7 +106,7 @@ void TCommentsForm::btnRecentClick(wxCommandEvent&) {
 }
 
 void TCommentsForm::FillRecentMenu() {
-  history_.Keep(FromWx(CommentsMemo->GetValue()));
+  history_.Record(FromWx(CommentsMemo->GetValue()));
   while (RecentMenu.GetMenuItemCount() > 0) RecentMenu.Destroy(RecentMenu.FindItemByPosition(0));
   for (std::size_t i = 1; i < history_.Entries().size(); ++i) {
     // &1 to &9, 1&0; the rest have no access key.

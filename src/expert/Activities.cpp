@@ -13,12 +13,12 @@ namespace {
 
 using TVerdict = TActivities::TVerdict;
 
-/// What comes of something new while an activity runs: of what the user wants, and of a notification of the host.
+/// What happens while an activity runs: to an activity of the user, and to a notification of the host.
 struct TRule {
   TVerdict OfUser, OfHost;
 };
-// By TActivity.  A command looks its provider project up again after each of its dialogs, so the host need not wait for
-// its end.
+// By TActivity.  A command selects its provider project again after each dialog, so notifications need not wait for its
+// end.
 constexpr std::array kRules{
     TRule{TVerdict::Refuse, TVerdict::Start},  // Command
     TRule{TVerdict::Refuse, TVerdict::Wait},   // MenuOpening
@@ -29,7 +29,7 @@ constexpr TRule kInProviderCall{TVerdict::Refuse, TVerdict::Wait};
 
 }  // namespace
 
-TVerdict TActivities::Ask(TActivity wanted) const {
+TVerdict TActivities::Check(TActivity wanted) const {
   const auto of = wanted == TActivity::Notification ? &TRule::OfHost : &TRule::OfUser;
   auto verdict = in_provider_call_() ? kInProviderCall.*of : TVerdict::Start;
   for (const auto running : running_)
@@ -38,7 +38,7 @@ TVerdict TActivities::Ask(TActivity wanted) const {
 }
 
 void TActivities::Run(TActivity wanted, const std::function<void()>& body) {
-  if (Ask(wanted) != TVerdict::Start) throw EAbort(sCommandRunning);
+  if (Check(wanted) != TVerdict::Start) throw EAbort(sCommandRunning);
   try {
     const TScope running(*this, wanted);
     body();
@@ -55,7 +55,7 @@ void TActivities::Notify(std::function<void()> handle) {
 }
 
 void TActivities::RunWaiting() {
-  while (!waiting_.empty() && Ask(TActivity::Notification) == TVerdict::Start) {
+  while (!waiting_.empty() && Check(TActivity::Notification) == TVerdict::Start) {
     const auto handle = std::move(waiting_.front());
     waiting_.pop_front();
     const TScope handling(*this, TActivity::Notification);

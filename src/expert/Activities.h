@@ -1,6 +1,6 @@
-// What the add-in is busy with, and the one rule for what may start meanwhile.
+// The running activities, the one rule for what may start meanwhile, and the queue of host notifications.
 //
-// Dialogs, and providers in their calls, run message loops.  In these the user can choose another command or provider,
+// Dialogs and provider calls run message loops, in which the user can start another command or choose another provider,
 // and the host can close the project, while the code that shows the dialog is still on the call stack.
 #pragma once
 
@@ -10,7 +10,7 @@
 
 namespace kestrel::addin {
 
-/// What the add-in can be busy with, besides a call of the provider.
+/// What can be running, besides a provider call.
 enum class TActivity { Command, MenuOpening, ProviderChoice, Notification };
 
 /// User-interface thread only.
@@ -18,27 +18,27 @@ class TActivities {
  public:
   enum class TVerdict { Start, Wait, Refuse };
 
-  /// `inProviderCall` tells whether a function of the provider is on the call stack.
+  /// `inProviderCall` returns whether a function of the provider is on the call stack.
   explicit TActivities(std::function<bool()> inProviderCall) : in_provider_call_(std::move(inProviderCall)) {}
   TActivities(const TActivities&) = delete;
   TActivities& operator=(const TActivities&) = delete;
 
-  /// What becomes of `wanted` when it comes now.
-  TVerdict Ask(TActivity wanted) const;
-  /// Runs `body` as `wanted`, then the notifications that have waited.  Throws EAbort, without running it, unless it may
-  /// start now.  What `body` throws passes.
+  /// Whether `wanted` may start now.
+  TVerdict Check(TActivity wanted) const;
+  /// Runs `body` as `wanted`, then the queued notifications.  Throws EAbort, without running it, if it may not start now.
+  /// Exceptions of `body` propagate.
   void Run(TActivity wanted, const std::function<void()>& body);
-  /// Runs `handle` now, or when what is in its way has ended; in the order of the calls.  It must not throw.
+  /// Queues `handle` and runs the queue as far as allowed.  `handle` must not throw.
   void Notify(std::function<void()> handle);
-  /// Runs the notifications that have waited and may start now.
+  /// Runs the queued notifications that may start now, in order.
   void RunWaiting();
 
   bool InProviderCall() const { return in_provider_call_(); }
-  /// For whoever is about to call the provider or to release it.  Throws EAbort while one of its functions runs: most
-  /// providers are not made for a second call, and the library would go away under the first.
+  /// Precondition of calling or releasing the provider.  Throws EAbort while one of its functions runs: most providers are
+  /// not reentrant, and the library must not be unloaded while one of its functions is on the stack.
   void RequireNoProviderCall() const;
 
-  /// Says that this goes on, for as long as it lives.
+  /// Scoped: marks the activity as running.
   class TScope {
    public:
     TScope(TActivities& activities, TActivity running) : running_(activities.running_) {

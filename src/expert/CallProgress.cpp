@@ -11,7 +11,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// Until a call has shown it: what a file costs a provider whose repository is on this machine.
+// First estimates, measured with a local repository.
 constexpr std::chrono::microseconds kPerFile[]{100us, 1ms};  // by TCallProgress::Kind
 
 constexpr const char* kBeforeNames = "\"'`([<";
@@ -22,7 +22,7 @@ std::string LastWordOf(const std::string& fileName) {
   return name.substr(name.find_last_of(' ') + 1);
 }
 
-std::string_view Bare(std::string_view word) {
+std::string_view WithoutPunctuation(std::string_view word) {
   const auto begin = std::min(word.find_first_not_of(kBeforeNames), word.size());
   return word.substr(begin, word.find_last_not_of(kBehindNames) + 1 - begin);
 }
@@ -56,7 +56,7 @@ std::string TCallProgress::FileNamedIn(const std::string& line) {
     for (const auto& file : files_) names_.insert(LastWordOf(file));
   for (std::size_t at = 0; at < line.size();) {
     const auto end = std::min(line.find(' ', at), line.size());
-    const std::string word(Bare(std::string_view(line).substr(at, end - at)));
+    const std::string word(WithoutPunctuation(std::string_view(line).substr(at, end - at)));
     if (!word.empty() && names_.contains(FoldCase(ExtractFileName(word)))) return word;
     at = end + 1;
   }

@@ -1,4 +1,4 @@
-// What one provider call on many files is doing, by the lines that the provider writes meanwhile.
+// Progress of one provider call on many files, inferred from the lines that the provider writes.
 #pragma once
 
 #include <chrono>
@@ -11,14 +11,13 @@
 
 namespace kestrel::addin {
 
-/// Lives as long as the call.  Hands all lines on to the sink before it, and counts a file as under way when a line
-/// names it for the first time; a name is recognised by its last word, so files that share one count once.
+/// Scoped to the call.  Forwards all messages to the previous sink.  A file counts when a line names it for the first time;
+/// names are recognised by their last word, so files that share it count once.
 class TCallProgress final : private IProviderSink {
  public:
   enum class Kind { Status, Command };
 
-  /// `caption` is the window's, `what` says what happens to the files before the provider says it.  `ui` and `files`
-  /// are borrowed.
+  /// `caption` is the window's title, `what` its text before the first line.  `ui` and `files` are borrowed.
   TCallProgress(IExpertUi& ui, const std::string& caption, Kind kind, const std::string& what,
                 const TStringList& files);
   ~TCallProgress() override;
@@ -28,11 +27,11 @@ class TCallProgress final : private IProviderSink {
  private:
   void Line(TSeverity severity, const std::string& text) override;
   void Box(const std::string& text) override;
-  /// The file's path as the line has it; empty when it names none.
+  /// The first file name in the line, as written there; empty when it has none.
   std::string FileNamedIn(const std::string& line);
 
   const TStringList& files_;
-  std::unordered_set<std::string> names_;  // last words of the files' names; from the first line on
+  std::unordered_set<std::string> names_;  // last words of the file names; filled by the first line
   std::unordered_set<std::string> named_;
   std::string latest_;
   const std::unique_ptr<IProgress> progress_;

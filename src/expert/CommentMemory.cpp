@@ -13,8 +13,8 @@ namespace kestrel::addin {
 
 namespace {
 
-// The store: one field for each project, "turn&project file&kind=comment&...".  The turn counts changes, so that the
-// project whose comments have not changed for longest is known.  A kind is kRecentKind or the place of a pending one.
+// The store: one field per project, "turn&project file&kind=comment&...".  The turn counts changes; the lowest is the
+// least recently used project.  A kind is kRecentKind or the place of a pending comment.
 constexpr const char* kSettings = "SCMComments";
 constexpr const char* kField = "Project%d";
 constexpr std::string_view kRecentKind = "recent";
@@ -32,7 +32,7 @@ std::string Encoded(std::string_view text) {
   });
 }
 
-/// Takes the part up to the next `mark` off `text`, and the mark with it.
+/// Removes the part up to the next `mark` and the mark from `text`; returns the part.
 std::string_view NextPart(std::string_view& text, char mark) {
   const auto part = text.substr(0, text.find(mark));
   text.remove_prefix(std::min(text.size(), part.size() + 1));
@@ -45,7 +45,7 @@ struct TStored {
   std::string_view Comments;
 };
 
-TStored TakeApart(std::string_view text) {
+TStored ParseStored(std::string_view text) {
   TStored stored;
   const auto turn = NextPart(text, '&');
   std::from_chars(turn.data(), turn.data() + turn.size(), stored.Turn);
@@ -62,12 +62,12 @@ TCommentMemory::TCommentMemory(std::string projectFile) : project_file_(std::mov
   settings->Load();
   for (std::size_t i = 0; i < kProjects; ++i) {
     const auto text = settings->GetValue(FieldName(i));
-    const auto stored = TakeApart(text);
-    if (SameText(stored.Project, project_file_)) TakeOver(stored.Comments);
+    const auto stored = ParseStored(text);
+    if (SameText(stored.Project, project_file_)) Load(stored.Comments);
   }
 }
 
-void TCommentMemory::TakeOver(std::string_view comments) {
+void TCommentMemory::Load(std::string_view comments) {
   while (!comments.empty()) {
     auto comment = NextPart(comments, '&');
     const auto kind = NextPart(comment, '=');
@@ -97,7 +97,7 @@ std::string TCommentMemory::Pending(const std::string& place) const {
   return found == pending_.end() ? std::string() : found->second;
 }
 
-void TCommentMemory::Typed(const std::string& place, const std::string& text) {
+void TCommentMemory::RecordTyped(const std::string& place, const std::string& text) {
   const bool blank = Trim(text).empty();
   if (Pending(place) == (blank ? std::string() : text)) return;
   std::erase_if(pending_, [&](const auto& pending) { return pending.first == place; });
@@ -106,8 +106,8 @@ void TCommentMemory::Typed(const std::string& place, const std::string& text) {
   changed_ = true;
 }
 
-void TCommentMemory::Used(const std::string& place, const std::string& text) {
-  if (Pending(place) == text) Typed(place, {});
+void TCommentMemory::RecordUsed(const std::string& place, const std::string& text) {
+  if (Pending(place) == text) RecordTyped(place, {});
   if (Trim(text).empty() || (!recent_.empty() && recent_.front() == text)) return;
   std::erase(recent_, text);
   recent_.insert(recent_.begin(), text);
@@ -122,15 +122,15 @@ void TCommentMemory::Save() {
 void TCommentMemory::Store() {
   auto* settings = Settings();
   if (!settings) return;
-  settings->Load();  // another program may have stored its own
+  settings->Load();  // another instance may have changed the store
   long long last = 0;
   long long lowest = std::numeric_limits<long long>::max();
   std::size_t field = 0;
   for (std::size_t i = 0; i < kProjects; ++i) {
     const auto text = settings->GetValue(FieldName(i));
-    const auto stored = TakeApart(text);
+    const auto stored = ParseStored(text);
     last = std::max(last, stored.Turn);
-    // Its own field comes before a free one, and that before the oldest of another project.
+    // Prefer the project's own field, then a free one, then the least recently used.
     const auto rank = SameText(stored.Project, project_file_) ? -1 : stored.Turn;
     if (rank >= lowest) continue;
     lowest = rank;
@@ -142,12 +142,12 @@ void TCommentMemory::Store() {
 
 TCommentHistory::TCommentHistory(const std::vector<std::string>& recent, const std::string& offered)
     : entries_(recent) {
-  // What is offered can be typed over, so it stands among the earlier comments too.
+  // The user may overwrite the offered text, so it is also kept as an earlier comment.
   if (!Trim(offered).empty() && std::ranges::count(recent, offered) == 0) entries_.push_back(offered);
   entries_.insert(entries_.begin(), offered);
 }
 
-void TCommentHistory::Keep(const std::string& shown) {
+void TCommentHistory::Record(const std::string& shown) {
   if (IsAtDraft()) entries_[0] = shown;
   if (entries_[at_] == shown || Trim(shown).empty()) return;
   at_ = 1;

@@ -1,5 +1,4 @@
-// Comments that must not be lost: what is remembered of them from one dialog to the next, and the way through them
-// within one dialog.
+// The comments of a project, stored per user, and the history within one comment dialog.
 #pragma once
 
 #include <cstddef>
@@ -11,59 +10,58 @@
 
 namespace kestrel::addin {
 
-/// The comments of one project, kept in the host's settings of the user.  A comment that reached the provider is a
-/// recent one.  One that was typed and did not is pending: it is offered again in its place, until it is used, replaced
-/// or cleared.
+/// The comments of one project, stored in the user's settings of the host.  A comment that reached the provider is recent.
+/// One that was typed and did not is pending: it is offered again in its place until it is used, replaced or cleared.
 ///
-/// Changes are made in memory; Save() stores them.  User-interface thread only.
+/// Changes stay in memory until Save().  User-interface thread only.
 class TCommentMemory {
  public:
   static constexpr std::size_t kRecent = 10;
-  static constexpr std::size_t kPending = 100;  ///< of one project; the oldest gives way
-  static constexpr std::size_t kProjects = 20;  ///< in the store; the one not used for longest gives way
+  static constexpr std::size_t kPending = 100;  ///< per project; the oldest is dropped
+  static constexpr std::size_t kProjects = 20;  ///< in the store; the least recently used is dropped
 
-  /// Reads what is stored for that project; file names compare ignoring case.  Without the host's settings it is empty.
+  /// Loads the comments of that project; file names compare ignoring case.  Empty without the host's settings.
   explicit TCommentMemory(std::string projectFile);
 
-  /// Where a comment is typed: for a command, or for one file of it.
+  /// The key of a command's comment, or of the comment for one of its files.
   static std::string Place(std::string_view command, std::string_view fileName = {});
 
-  /// What was typed in that place and has not been used since; empty when there is none.
+  /// The unused comment typed in that place; empty when there is none.
   std::string Pending(const std::string& place) const;
-  /// The last comments used, the newest first, none twice, none blank.
+  /// The last used comments, newest first, without duplicates and blank ones.
   const std::vector<std::string>& Recent() const { return recent_; }
 
-  /// The user left the place with this text, whatever becomes of it.  A blank one clears what was pending there.
-  void Typed(const std::string& place, const std::string& text);
-  /// The comment typed in that place has reached the provider.
-  void Used(const std::string& place, const std::string& text);
+  /// Records a typed comment, even if the command was cancelled or fails.  A blank one clears the pending comment.
+  void RecordTyped(const std::string& place, const std::string& text);
+  /// Records that the comment typed in that place has reached the provider.
+  void RecordUsed(const std::string& place, const std::string& text);
 
-  /// Stores what has changed.  A failure becomes a warning in the message window.
+  /// Stores changes.  A failure becomes a warning in the message window.
   void Save();
 
  private:
   std::string Text(long long turn) const;
-  void TakeOver(std::string_view comments);
+  void Load(std::string_view comments);
   void Store();
 
   std::string project_file_;
   std::vector<std::string> recent_;
-  std::vector<std::pair<std::string, std::string>> pending_;  // place and text, the newest first
+  std::vector<std::pair<std::string, std::string>> pending_;  // place and text, newest first
   bool changed_ = false;
 };
 
-/// The comments that a dialog can go back to, and the one it is at: first the draft, what the dialog opened with, then
-/// the recent comments from the newest to the oldest.  A comment that is changed and left becomes one of the list.
+/// The comments that a dialog can go back to, and the current one: first the draft that the dialog opened with, then the
+/// recent comments, newest first.  A comment that is edited and left is added to the list.
 class TCommentHistory {
  public:
   TCommentHistory(const std::vector<std::string>& recent, const std::string& offered);
 
-  /// The dialog shows this text now.  To be called before every operation below.
-  void Keep(const std::string& shown);
-  /// The next older or newer comment that differs from the one shown; nullopt, and no move, when there is none.
+  /// Records the text that the dialog shows.  Call it before every operation below.
+  void Record(const std::string& shown);
+  /// Moves to the next older or newer comment that differs from the one shown; nullopt when there is none.
   std::optional<std::string> Older();
   std::optional<std::string> Newer();
-  /// Goes to that entry, which must exist.
+  /// Moves to that entry, which must exist.
   const std::string& Choose(std::size_t entry);
 
   /// The draft is entry 0.

@@ -38,7 +38,7 @@ void TEditorManager<TNotifier>::Remove(const std::string& fileName) {
   const auto found =
       std::ranges::find_if(items_, [&](auto& item) { return SameText(item->FileName(), fileName); });
   if (found == items_.end()) return;
-  const auto removed = *found;  // alive until it is detached
+  const auto removed = *found;  // keeps it alive until it is detached
   items_.erase(found);
   removed->Detach();
 }

@@ -1,7 +1,7 @@
 // Notifiers of source and form editors, and the lists that own them.
 //
-// Present and idle: an editor notifier creates form notifiers, and nothing creates editor notifiers yet.  They are kept
-// complete so that status shown per view can be switched on in one place.
+// Part of the package's interface; no caller here: editor notifiers create form notifiers, and nothing creates editor
+// notifiers.
 #pragma once
 
 #include <memory>
@@ -15,8 +15,8 @@ namespace kestrel::addin {
 
 class TSccExpert;
 
-/// A list of notifiers keyed by file name, compared ignoring case.  Sharing them with the host, the list detaches a
-/// notifier before it lets go of it.
+/// A list of notifiers keyed by file name, ignoring case.  The host shares ownership; the list detaches a notifier before it
+/// drops it.
 template <class TNotifier>
 class TEditorManager {
  public:
@@ -25,12 +25,12 @@ class TEditorManager {
   TEditorManager& operator=(const TEditorManager&) = delete;
   ~TEditorManager();
 
-  /// Attaches a notifier to the file's editor; does nothing for a file that has one.  Throws EAbort when the file is
-  /// not open or the host refuses.
+  /// Attaches a notifier to the file's editor, unless the file has one.  Throws EAbort when the file is not open or the
+  /// host refuses.
   void Add(const std::string& fileName);
   void Remove(const std::string& fileName);
   int GetCount() const { return static_cast<int>(items_.size()); }
-  /// nullptr for an index outside the list.
+  /// Null for an index outside the list.
   std::shared_ptr<TNotifier> GetItem(int index) const;
   void PutItem(int index, std::shared_ptr<TNotifier> notifier);
 
@@ -39,16 +39,16 @@ class TEditorManager {
   std::vector<std::shared_ptr<TNotifier>> items_;
 };
 
-/// What both kinds share: the file, the expert, and the place at the host's editor.
+/// Base of both kinds: the file, the expert, and the index at the host's editor.
 class TAttachedNotifier : public TNotifierObject {
  public:
   TAttachedNotifier(TSccExpert& expert, std::string fileName)
       : expert_(expert), file_name_(std::move(fileName)) {}
   const std::string& FileName() const { return file_name_; }
 
-  /// Attaches `self`, which is this object, to the editor.
+  /// Attaches `self`, which must point to this object, to the editor.
   virtual void Attach(const std::shared_ptr<IOTANotifier>& self) = 0;
-  /// Takes it from the editor again; does nothing when it is not attached or its editor is gone.
+  /// Does nothing when it is not attached or the editor is closed.
   void Detach();
 
  protected:

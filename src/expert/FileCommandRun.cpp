@@ -5,10 +5,8 @@
 #include <unordered_set>
 
 #include "expert/CallProgress.h"
-#include "expert/CommentMemory.h"
 #include "expert/Edits.h"
 #include "expert/FileCommandStrings.h"
-#include "expert/FileIndex.h"
 #include "expert/ProjectFiles.h"
 #include "expert/ProviderWindows.h"
 #include "expert/SccExpertStrings.h"
@@ -21,8 +19,8 @@ namespace kestrel::addin {
 
 namespace {
 
-/// The quick difference that fills the status column.  By time stamp is what is meant; the number is the one that
-/// providers have always been given for it, although the API's header calls it a comparison of checksums.
+/// Flag of the quick difference that fills the status column.  Intended as a comparison by time stamp; the API's header
+/// calls this value a comparison of checksums.
 constexpr scc::Long kQuickTimeDiff = 32;
 
 struct TProbeText {
@@ -44,57 +42,7 @@ const TResString& ProbeText(scc::Long code) {
   return found == kProbeTexts.end() ? sProbeUnknown : found->Text;
 }
 
-/// For one Execute().
-class TFileCommandRun {
- public:
-  TFileCommandRun(TCommandContext& context, const TFileCommand& command, const std::string& fileName);
-  void Execute();
-
- private:
-  /// To be called before every provider call: the dialogs in between run message loops in which the host may close the
-  /// project.  Runs the notifications that have waited, then selects the provider project again.
-  TSCCProviderProject& Project();
-  void Gather();
-  void SelectEligible();
-  void FillList(TFileListModel& model);
-  void TakeTicked(const TFileListModel& model);
-  bool WantsComment();
-  /// With a file name the dialog is for that file and offers to use the comment for the rest.  Throws EAbort when the
-  /// user cancels.
-  void AskComment(const std::string& caption, const std::string& fileName);
-  /// Saves the file's unsaved changes; on failure shows the reason and returns false.
-  bool SaveFile(const std::string& fileName);
-  /// The same for all selected files; deselects those that cannot be saved.  Returns whether all were saved.
-  bool SaveSelected();
-  /// Calls the provider for these files and shows its messages.  Returns whether it succeeded.
-  bool CallProvider(const TStringList& files);
-  /// All commands but add: one comment, all files saved first, then one call or one call per file.  Reports success
-  /// only if no file was left out.
-  void CallTogether();
-  bool CallBatch();
-  /// Returns the result of the last call only; intentional: earlier failures have shown their messages.
-  bool CallOneByOne();
-  /// Add: one comment and one call per file; the report depends on the number of successes.  Adding changes no file, so
-  /// nothing is reloaded.
-  void CallCounting();
-  void Reload(bool done);
-  void ReportDone();
-  void Box(const TResString& caption, const std::string& text, TMsgType kind = metInfo);
-
-  TCommandContext& context_;
-  const TFileCommand& command_;
-  const std::string file_name_;
-  std::string directory_;
-  TStringList all_files_;
-  TFileIndex all_index_;
-  TStringList selected_;
-  TStatusArray statuses_;
-  TCommentMemory comments_;
-  std::string comment_;
-  std::string comment_place_;  // key in TCommentMemory
-  bool apply_to_all_ = false;
-  bool keep_checked_out_ = false;
-};
+}  // namespace
 
 TFileCommandRun::TFileCommandRun(TCommandContext& context, const TFileCommand& command,
                                  const std::string& fileName)
@@ -130,7 +78,7 @@ void TFileCommandRun::Execute() {
   model.Extra = command_.Extra;
   const int result = context_.Ui.ShowFileList(context_, model);
   selected_.clear();
-  if (result == mrOk) TakeTicked(model);
+  if (result == mrOk) AppendTicked(model);
   if (result == mrCancel) throw EAbort(sUserCancelledDialog);
   if (selected_.empty()) return;
   if (command_.CallKind == TFileCommand::Calls::PerFileCounting)
@@ -156,7 +104,7 @@ void TFileCommandRun::Gather() {
   TStateMessages messages;
   const TCallProgress progress(context_.Ui, command_.List, TCallProgress::Kind::Status, sAskingStatus,
                                all_files_);
-  // Files whose status is unknown are not offered; the user must be able to find out why.
+  // Files of unknown status are not offered; the message window has the reason.
   if (!Project().Query(all_files_, statuses_, messages)) WriteFailure(command_.Single, messages);
 }
 
@@ -178,7 +126,7 @@ void TFileCommandRun::FillList(TFileListModel& model) {
   }
 }
 
-void TFileCommandRun::TakeTicked(const TFileListModel& model) {
+void TFileCommandRun::AppendTicked(const TFileListModel& model) {
   for (std::size_t row = 0; row < model.Count(); ++row) {
     if (!model.IsChecked(row)) continue;
     auto file = model.GetFile(static_cast<int>(row));
@@ -198,7 +146,7 @@ void TFileCommandRun::AskComment(const std::string& caption, const std::string& 
   model.Text = comments_.Pending(comment_place_);
   model.Recent = comments_.Recent();
   const int result = context_.Ui.ShowComments(model);
-  comments_.Typed(comment_place_, model.Text);
+  comments_.RecordTyped(comment_place_, model.Text);
   comments_.Save();
   if (result != mrOk) {
     Box(command_.Single, sUserCancelledDialog);
@@ -209,7 +157,7 @@ void TFileCommandRun::AskComment(const std::string& caption, const std::string& 
 }
 
 bool TFileCommandRun::WantsComment() {
-  Project();  // throws when there is no provider any more
+  Project();  // throws if the provider has been released
   return command_.CommentCapability &&
          context_.Provider.List()->Capabilities().test(*command_.CommentCapability);
 }
@@ -237,7 +185,7 @@ bool TFileCommandRun::SaveSelected() {
 bool TFileCommandRun::CallProvider(const TStringList& files) {
   const auto [done, messages] = command_.Run(Project(), {files, comment_, keep_checked_out_});
   if (done) {  // the comment has reached the provider, even if later calls fail
-    comments_.Used(comment_place_, comment_);
+    comments_.RecordUsed(comment_place_, comment_);
     comments_.Save();
   }
   context_.Log.DisplayMessages(command_.Single, messages);
@@ -303,12 +251,6 @@ void TFileCommandRun::ReportDone() {
 
 void TFileCommandRun::Box(const TResString& caption, const std::string& text, TMsgType kind) {
   context_.Ui.ShowMsgDialog(caption, text, kind);
-}
-
-}  // namespace
-
-void RunFileCommand(TCommandContext& context, const TFileCommand& command, const std::string& fileName) {
-  TFileCommandRun(context, command, fileName).Execute();
 }
 
 }  // namespace kestrel::addin

@@ -41,12 +41,12 @@ inline constexpr TResString sNoFilesAvailable{"No files available"};
 inline constexpr TResString sUserCancelledDialog{"User cancelled dialog"};
 inline constexpr TResString sCommentsFor{"Comments for %s"};
 
-// What progress says while the provider works on all files at once.
+// Progress of provider calls on all files at once.
 inline constexpr TResString sGatheringFiles{"Gathering the files"};
 inline constexpr TResString sAskingStatus{"Asking for the status of the files"};
 inline constexpr TResString sWaitingForProvider{"Waiting for the source control provider"};
 
-// The status column: what the quick difference of a candidate says.
+// The status column: results of the quick difference.
 inline constexpr TResString sProbeCurrent{"Current"};
 inline constexpr TResString sProbeModified{"Modified"};
 inline constexpr TResString sProbeNotControlled{"Not controlled"};

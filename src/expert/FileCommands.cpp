@@ -13,8 +13,8 @@ using enum TFileCommand::Calls;
 using enum TFileCommand::Reload;
 using ExtraBox = TFileListModel::ExtraBox;
 
-// Bits are tested as they stand, so a status of -1 (no information) has all of them: it may be added, fetched, checked
-// in and undone, but not removed or checked out.  That is meant.
+// A status of -1 (no information) has all bits set: such a file may be added, fetched, checked in and undone, but not
+// removed or checked out; intentional.
 constexpr bool All(Long status, Long bits) { return (status & bits) == bits; }
 constexpr bool None(Long status, Long bits) { return (status & bits) == 0; }
 
@@ -62,7 +62,7 @@ const TFileCommand kAddFiles{
     .SeveralDone = sAddFilesSucceeded,
 };
 
-// Asks for no comment, also when the provider would take one: the date is the comment of a removal.
+// Never asks for a comment: a removal is commented with its date.
 const TFileCommand kRemoveFiles{
     .Command = SCC_COMMAND_REMOVE,
     .Eligible = CanRemove,

@@ -1,4 +1,4 @@
-// The six file commands as one table: what differs between them, and nothing else.
+// The six file commands as one table of their differences.
 #pragma once
 
 #include <optional>
@@ -10,7 +10,7 @@
 
 namespace kestrel::addin {
 
-/// What one run of a command hands to the provider.
+/// The arguments of a command's provider call.
 struct TFileCommandCall {
   TStringList Files;
   std::string Comment;
@@ -28,25 +28,25 @@ struct TFileCommand {
   enum class Reload { Never, OnSuccess, Always };
 
   scc::SCCCommand Command;
-  /// Whether a file of that status may be acted on when the user chose no single file.
+  /// Whether a command on the whole project offers a file of that status.
   bool (*Eligible)(scc::Long status);
   TCallResult (*Run)(TSCCProviderProject& project, const TFileCommandCall& call);
   Calls CallKind;
   std::optional<TProviderCapabilityFlags> CommentCapability =
-      {};  ///< asks for a comment when the provider has it
+      {};  ///< asks for a comment if the provider has this capability
 
   bool SaveAllFirst = false;
-  bool OnlyExisting = false;      ///< gathers files on disk, and companions by disk instead of by status
-  bool ProviderPopulates = true;  ///< lets the provider add and remove candidates
+  bool OnlyExisting = false;      ///< gathers only files on disk; companions too
+  bool ProviderPopulates = true;  ///< asks the provider to add and remove candidates
   TFileListModel::ExtraBox Extra = TFileListModel::ExtraBox::None;
-  bool ClearReadOnly = false;  ///< on success sets each file to archive only, unless it is kept checked out
+  bool ClearReadOnly = false;  ///< sets files to archive only on success, unless kept checked out
   Reload ReloadKind = Reload::Never;
 
   const char* HelpKeyword = "";  ///< empty when there is no topic
   TResString NoProvider;
-  TResString Single;  ///< captions each provider call and the refusals
-  TResString List;    ///< captions the file list
-  // The captions of the last box are a mix of the two above, each as its command has always said it; so are the texts.
+  TResString Single;  ///< caption of provider messages and refusals
+  TResString List;    ///< caption of the file list
+  // Caption and text of the last box; inconsistent between commands, kept for compatibility.
   TResString FinalOne;
   TResString FinalSeveral;
   TResString OneDone;  ///< follows the file name
@@ -60,7 +60,7 @@ extern const TFileCommand kCheckInFiles;
 extern const TFileCommand kCheckOutFiles;
 extern const TFileCommand kUndoCheckOut;
 
-// Status rules that the menu shares with the commands.
+// Status rules, shared by menu and commands.
 bool CanAdd(scc::Long status);
 bool CanRemove(scc::Long status);
 bool CanGet(scc::Long status);

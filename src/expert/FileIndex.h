@@ -1,4 +1,4 @@
-// Finds files of a list by name without walking it.
+// Index of a file list by name.
 #pragma once
 
 #include <cstddef>
@@ -8,12 +8,12 @@
 
 namespace kestrel::addin {
 
-/// The rows of a list of file names, by name ignoring case.  Asking is constant time on average.
+/// Finds the rows of a file name, ignoring case, in constant time on average.
 class TFileIndex {
  public:
   TFileIndex() = default;
   explicit TFileIndex(const std::vector<std::string>& files);
-  /// Calls `visit` with each row of that name, in list order.
+  /// Calls `visit(row)` for each row of that name, in list order.
   void ForEachRow(const std::string& fileName, const auto& visit) const {
     for (auto row = First(fileName); row != kNone; row = next_[row]) visit(row);
   }

@@ -10,7 +10,7 @@ namespace kestrel::addin {
 
 namespace {
 
-/// Makes one line of a pasted text: each line break, of whatever system, becomes one blank.
+/// Replaces each line break, of any platform, by one blank.
 void JoinLines(std::string& text) {
   for (std::size_t cr = text.find("\r\n"); cr != text.npos; cr = text.find("\r\n", cr)) text.erase(cr, 1);
   std::ranges::replace_if(
@@ -41,14 +41,14 @@ void TFileListModel::ChangeAllCheckedStates(bool checked) {
 }
 
 std::string TFileListModel::TickCurrent(const std::string& currentFile) {
-  // The extension is asked for exactly as the IDE writes it: a form file that somebody renamed is any other file.
+  // Compared exactly: only the spelling that the IDE writes is a form file.
   const bool form = ExtractFileExt(currentFile) == kFormExtension;
-  const auto meant = form ? ChangeFileExt(currentFile, kSourceExtension) : currentFile;
-  const auto file = FoldCase(meant);
+  const auto target = form ? ChangeFileExt(currentFile, kSourceExtension) : currentFile;
+  const auto file = FoldCase(target);
   for (std::size_t i = 0; i < rows_.size(); ++i)
     if (FoldCase(GetFile(static_cast<int>(i))) == file) SetChecked(i, true);
   if (rows_.size() == 1) ChangeAllCheckedStates(true);
-  return meant;
+  return target;
 }
 
 TFileListModel::TButtons TFileListModel::CheckState() const {
@@ -56,7 +56,7 @@ TFileListModel::TButtons TFileListModel::CheckState() const {
   return {.Ok = some, .CheckAll = checked_ < rows_.size(), .UncheckAll = some};
 }
 
-TCommentEdit CutComment(TCommentEdit edit) {
+TCommentEdit TruncateComment(TCommentEdit edit) {
   edit.After = TruncateUtf8(edit.After, kMaxComment);
   edit.Before = TruncateUtf8(edit.Before, kMaxComment - edit.After.size());
   return edit;
@@ -65,7 +65,7 @@ TCommentEdit CutComment(TCommentEdit edit) {
 TCommentEdit FitComment(TCommentEdit edit) {
   JoinLines(edit.Before);
   JoinLines(edit.After);
-  return CutComment(std::move(edit));
+  return TruncateComment(std::move(edit));
 }
 
 }  // namespace kestrel::addin

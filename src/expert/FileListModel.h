@@ -1,5 +1,4 @@
-// What the file-list and comment dialogs show and answer, without a window: a file command fills it, a dialog edits it,
-// the command reads it again.
+// Models of the file-list and comment dialogs: a file command fills them, a dialog edits them, the command reads the result.
 #pragma once
 
 #include <cstddef>
@@ -12,12 +11,12 @@
 
 namespace kestrel::addin {
 
-/// The candidate files of one command.  Up to kMaxFiles rows; every operation but the All ones is constant time.
+/// The candidate files of one command.  Up to kMaxFiles rows.  Row operations take constant time.
 class TFileListModel {
  public:
-  /// Which of the two boxes under the list the command shows.
+  /// The check box under the list.
   enum class ExtraBox { None, KeepCheckedOut, CheckOutAfterAdd };
-  /// What the buttons may do.
+  /// Which buttons are enabled.
   struct TButtons {
     bool Ok = false;
     bool CheckAll = false;
@@ -28,7 +27,7 @@ class TFileListModel {
   std::string Caption;
   std::string HelpKeyword;
   TCommandOptions CommandKind = coGet;
-  bool HasOptions = false;  ///< the provider offers an options dialog for this command
+  bool HasOptions = false;  ///< the provider has an options dialog for this command
   ExtraBox Extra = ExtraBox::None;
   bool KeepCheckedOut = true;
   bool CheckOutAfterAdd = true;
@@ -46,10 +45,9 @@ class TFileListModel {
   int ItemsChecked() const { return static_cast<int>(checked_); }
   void ChangeAllCheckedStates(bool checked);
 
-  /// First ticks: every row that is `currentFile`, or the only row.  A form file stands for its unit; returns the file
-  /// that was meant.
+  /// Ticks the rows of `currentFile`, or the only row.  A form file stands for its unit.  Returns the file looked for.
   std::string TickCurrent(const std::string& currentFile);
-  /// Empty lists leave the buttons as they were, that is disabled.
+  /// All disabled for an empty list.
   TButtons CheckState() const;
 
  private:
@@ -63,26 +61,25 @@ class TFileListModel {
   std::size_t checked_ = 0;
 };
 
-/// One comment asked for.
+/// One request for a comment.
 struct TCommentModel {
-  std::string Caption;  ///< empty keeps the dialog's own
-  std::string
-      Text;  ///< in: what is offered; out: what the user typed, after Cancel too; at most kMaxComment bytes
-  std::vector<std::string> Recent;  ///< earlier comments at hand, the newest first
+  std::string Caption;  ///< empty for the default
+  std::string Text;  ///< in: the initial text; out: the user's, also after Cancel; at most kMaxComment bytes
+  std::vector<std::string> Recent;  ///< earlier comments, newest first
   bool ShowApplyToAll = false;
   bool ApplyToAll = true;
 };
 
-/// A comment while it is edited: the text on both sides of the caret.
+/// A comment being edited: the text on both sides of the caret.
 struct TCommentEdit {
   std::string Before;
   std::string After;
   bool operator==(const TCommentEdit&) const = default;
 };
-/// What a memo may hold of `edit`: what stands before the caret (typed or pasted just now) is cut at a character border
-/// so that the whole fits kMaxComment bytes.  What stood behind the caret gives way only when it is too long by itself.
-TCommentEdit CutComment(TCommentEdit edit);
-/// The same for the comment dialog, whose comments are one line: line breaks become blanks.
+/// Truncates `edit` to kMaxComment bytes at a character border: first the text before the caret, which was just typed or
+/// pasted, then the text behind it if that alone is too long.
+TCommentEdit TruncateComment(TCommentEdit edit);
+/// The same for the comment dialog, whose comments are one line: also replaces line breaks by blanks.
 TCommentEdit FitComment(TCommentEdit edit);
 
 }  // namespace kestrel::addin

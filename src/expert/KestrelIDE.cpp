@@ -1,5 +1,4 @@
-// The run-time package: what the host calls when it loads and unloads the add-in.  The one place that knows both the
-// expert and the real windows.
+// The entry points of the run-time package.  The only file that knows both the expert and the real windows.
 #include <memory>
 #include <optional>
 
@@ -15,7 +14,7 @@ namespace kestrel::addin {
 
 namespace {
 
-/// Waits for the host's main form, then creates the expert and hands it to the host.  Created by IDERegister.
+/// Creates the expert and registers it once the host's main form exists.  Created by IDERegister.
 class TProductStartup {
  public:
   TProductStartup() {
@@ -27,7 +26,7 @@ class TProductStartup {
   ~TProductStartup() {
     auto* wizards = IdeService<IOTAWizardServices>();
     if (wizards && wizard_index_)
-      wizards->RemoveWizard(*wizard_index_);  // the host lets go, and the expert goes
+      wizards->RemoveWizard(*wizard_index_);  // drops the last reference and destroys the expert
     auto* options = IdeService<IOTAOptionsServices>();
     if (options && options_index_) options->RemoveOptions(*options_index_);
     auto* application = IdeService<IOTAApplication>();

@@ -27,18 +27,6 @@ TIniText ReadMapping(const std::string& path) {
 
 TMappingFile::TMappingFile(std::string path) : path_(std::move(path)), ini_(ReadMapping(path_)) {}
 
-std::vector<std::string> TMappingFile::Sections() const { return ini_.Sections(); }
-
-bool TMappingFile::HasSection(const std::string& section) const { return ini_.HasSection(section); }
-
-bool TMappingFile::HasKey(const std::string& section, const std::string& key) const {
-  return ini_.Value(section, key).has_value();
-}
-
-std::string TMappingFile::Read(const std::string& section, const std::string& key) const {
-  return ini_.Value(section, key).value_or("");
-}
-
 std::string TMappingFile::Damage() const {
   const auto damage = ini_.Damage();
   return damage ? Format(sMappingFileDamaged, {path_, static_cast<long long>(damage->Line), damage->Text})
@@ -49,7 +37,7 @@ void TMappingFile::Write(const std::string& section, const std::string& key, con
   ini_ = ReadMapping(path_);
   auto changed = ini_;
   if (!changed.SetValue(section, key, value)) return;
-  // The line may be the rest of a key that this section should have.
+  // The damaged line may be the rest of a key of this section.
   if (const auto damage = Damage(); !damage.empty()) throw std::runtime_error(damage);
   WriteFileAtomically(path_, changed.Text());
   ini_ = std::move(changed);

@@ -1,5 +1,5 @@
-// The project mapping file: an INI file beside the project that binds it to a provider project, one section per
-// provider display name.  A change of one key leaves every other byte as it is.
+// The project mapping file: an INI file beside the project that binds it to a provider project, one section per provider
+// display name.  Changing one key preserves every other byte.
 #pragma once
 
 #include <string>
@@ -22,21 +22,25 @@ std::string MappingFileName(const std::string& projectFile);
 
 class TMappingFile {
  public:
-  /// Reads the file; a missing one is empty.  Throws std::runtime_error with a sentence that names the file when it
-  /// cannot be read or holds binary data.
+  /// Reads the file; a missing one is empty.  Throws std::runtime_error, naming the file, when it cannot be read or is
+  /// binary.
   explicit TMappingFile(std::string path);
 
   /// Section names in the order of the file.
-  std::vector<std::string> Sections() const;
-  bool HasSection(const std::string& section) const;
-  bool HasKey(const std::string& section, const std::string& key) const;
-  /// Empty, or a sentence about the first damaged line.
+  std::vector<std::string> Sections() const { return ini_.Sections(); }
+  bool HasSection(const std::string& section) const { return ini_.HasSection(section); }
+  bool HasKey(const std::string& section, const std::string& key) const {
+    return ini_.Value(section, key).has_value();
+  }
+  /// Describes the first damaged line; empty without damage.
   std::string Damage() const;
   /// Empty when section or key is missing.
-  std::string Read(const std::string& section, const std::string& key) const;
-  /// Reads the file again, as others write it too, changes one key and stores the file at once, wholly or not at all.
-  /// Writes nothing when the key has that value already.  Throws std::runtime_error with a sentence that names the file
-  /// when it cannot be read or stored, or has a damaged line.
+  std::string Read(const std::string& section, const std::string& key) const {
+    return ini_.Value(section, key).value_or("");
+  }
+  /// Re-reads the file, which others write too, changes one key and replaces the file atomically.  Writes nothing when the
+  /// key already has that value.  Throws std::runtime_error, naming the file, when it cannot be read or stored or is
+  /// damaged.
   void Write(const std::string& section, const std::string& key, const std::string& value);
 
  private:

@@ -101,7 +101,7 @@ scc::Bool SCC_CALL PopListFunc(void*, scc::Bool addKeep, scc::Long, const char* 
   return AppendPopulatedName(fileName, addKeep ? addList : removeList) ? -1 : 0;
 }
 
-/// Deletes from `list`, for each of `names`, the first entry that matches it.
+/// Removes, for each of `names`, its first match from `list`.
 void DeleteFirstMatches(TStringList& list, const TStringList& names) {
   std::unordered_map<std::string, int> due;
   for (const auto& name : names) ++due[FoldCase(name)];
@@ -112,7 +112,7 @@ void DeleteFirstMatches(TStringList& list, const TStringList& names) {
   });
 }
 
-/// Appends, in order, the entries of `names` that are not blank and not yet in `list`.
+/// Appends the `names` that are neither blank nor in `list`, in order.
 void AppendMissing(TStringList& list, const TStringList& names) {
   std::unordered_set<std::string> known;
   known.reserve(list.size() + names.size());

@@ -83,7 +83,7 @@ void TSccExpert::RunMenuOpening(std::string_view format, const std::function<voi
 
 void TSccExpert::ViewChange(const std::string& fileName) {
   // Commands open views, too: no refusal is reported for that.
-  if (context_.Activities.Ask(TActivity::Command) != TActivities::TVerdict::Start) return;
+  if (context_.Activities.Check(TActivity::Command) != TActivities::TVerdict::Start) return;
   RunCommand(sViewChangeError, [&] { ShowStatus(context_, fileName); });
 }
 
@@ -114,21 +114,23 @@ void TSccExpert::AddAssociatedFiles(TStringList* list, bool removeMissing) {
   *list = CurrentProjectFiles(removeMissing);
 }
 
-void TSccExpert::AddFiles(const std::string& fileName) { RunFileCommand(context_, kAddFiles, fileName); }
+void TSccExpert::AddFiles(const std::string& fileName) {
+  TFileCommandRun(context_, kAddFiles, fileName).Execute();
+}
 void TSccExpert::RemoveFiles(const std::string& fileName) {
-  RunFileCommand(context_, kRemoveFiles, fileName);
+  TFileCommandRun(context_, kRemoveFiles, fileName).Execute();
 }
 void TSccExpert::GetLatestVersion(const std::string& fileName) {
-  RunFileCommand(context_, kGetLatestVersion, fileName);
+  TFileCommandRun(context_, kGetLatestVersion, fileName).Execute();
 }
 void TSccExpert::CheckInFiles(const std::string& fileName) {
-  RunFileCommand(context_, kCheckInFiles, fileName);
+  TFileCommandRun(context_, kCheckInFiles, fileName).Execute();
 }
 void TSccExpert::CheckOutFiles(const std::string& fileName) {
-  RunFileCommand(context_, kCheckOutFiles, fileName);
+  TFileCommandRun(context_, kCheckOutFiles, fileName).Execute();
 }
 void TSccExpert::UndoCheckOut(const std::string& fileName) {
-  RunFileCommand(context_, kUndoCheckOut, fileName);
+  TFileCommandRun(context_, kUndoCheckOut, fileName).Execute();
 }
 
 }  // namespace kestrel::addin

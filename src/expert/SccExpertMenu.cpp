@@ -1,4 +1,4 @@
-// Which menu items are available, from the current project, its mapping file and the status of its files.
+// Enables the menu items according to the current project, its mapping file and the status of its files.
 #include <algorithm>
 #include <array>
 #include <span>
@@ -20,7 +20,7 @@ void TSccExpert::MainMenu() {
   const auto project = Trim(GetCurrentProjectFile());
   const auto mapping = ChangeFileExt(project, kMappingExtension);
   const bool mapped = FileExists(mapping);
-  menu_->EnableMenus(false);  // holds if what follows fails
+  menu_->EnableMenus(false);  // stays so if the rest fails
   menu_->EnablePlaceMenu(!mapped && !project.empty());
   try {
     if (auto& provider = context_.Provider;
@@ -57,12 +57,12 @@ void TSccExpert::EnableActiveMenu() {
     AddAssociatedFiles(&files, false);
     const TCallProgress progress(context_.Ui, sTeam, TCallProgress::Kind::Status, sAskingStatus, files);
     SelectHostProject(context_).Query(files, statuses, messages);
-  } catch (...) {  // no status, no commands; the reason goes to the message window
+  } catch (...) {  // without the status no command is available
     menu_->EnableMenus(false);
     throw;
   }
 
-  // Companions that a unit never had are uncontrolled, too; the command offers only what is on disk.
+  // Missing companions are uncontrolled, too; only files on disk can be added.
   menu_->actAddFiles.Enabled = false;
   for (std::size_t i = 0; i < files.size() && !menu_->actAddFiles.Enabled; ++i)
     menu_->actAddFiles.Enabled = CanAdd(statuses[i]) && FileExists(files[i]);
@@ -75,7 +75,7 @@ void TSccExpert::EnableActiveMenu() {
       TRule{menu_->actRemoveFiles, CanRemove},
       TRule{menu_->actCheckInFiles, CanCheckIn},
       TRule{menu_->actCheckOutFiles, CanCheckOut},
-      // Undo wants a controlled file here although the command itself does not ask: the menu follows check-in.
+      // Stricter than the command itself, which also takes uncontrolled files; intentional.
       TRule{menu_->actUndoCheckOutFiles, CanCheckIn},
   };
   const std::span words(statuses.data(), files.size());

@@ -1,4 +1,4 @@
-// Opening and closing the provider project as the host opens, switches and closes projects.
+// Opens and closes the provider project as the host opens, switches and closes projects.
 #include "expert/MappingFile.h"
 #include "expert/SccExpert.h"
 #include "expert/SccExpertStrings.h"
@@ -39,7 +39,7 @@ void TSccExpert::Handle(TOTAFileNotification code, const std::string& fileName) 
   }
 }
 
-// A host may name the new project as current before it says so; the provider project to close is the one opened here.
+// The project to close.  The host may have switched its current project before it notifies.
 std::string TSccExpert::OpenProjectFile() {
   const auto& file = context_.Provider.OpenProjectFile();
   return file.empty() ? GetCurrentProjectFile() : file;

@@ -28,7 +28,7 @@ inline constexpr TResString sViewChangeError{"ViewChange: %s"};
 
 // Projects.
 inline constexpr TResString sProviderNotAssigned{
-    "AProvider not assigned"};  // named like the field, which is meant
+    "AProvider not assigned"};  // named after the field; intentional
 inline constexpr TResString sProviderNotInstalled{"The source code control provider \"%s\" is not installed"};
 inline constexpr TResString sNoMatchingPath{"Unable to set current project, no matching path"};
 inline constexpr TResString sNoProjectFile{"No project or package file found in current project"};
@@ -45,7 +45,7 @@ inline constexpr TResString sShowDiff{"Show Diff"};
 inline constexpr TResString sShowHistory{"Show History"};
 inline constexpr TResString sProperties{"Properties"};
 inline constexpr TResString sSaveAllFailed{
-    // "Unkown" is meant: the message is known and searched for by it
+    // "Unkown" is intentional: users search for this message
     "Project and project related files must be saved before mapping: Unkown save error."};
 inline constexpr TResString sPulledNotOpened{"%s could not be opened"};
 inline constexpr TResString sFailure{"%s: %s"};

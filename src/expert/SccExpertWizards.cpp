@@ -1,4 +1,4 @@
-// The wizards' frame: what happens to the provider before and after them.
+// Releases the provider before the wizards and restores it after them.
 #include "expert/SccExpert.h"
 #include "expert/SccExpertStrings.h"
 #include "host/Errors.h"

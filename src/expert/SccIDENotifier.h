@@ -1,4 +1,4 @@
-// The host's file notifications, passed on to the expert.
+// Forwards the host's file notifications to the expert.
 #pragma once
 
 #include "host/Notifiers.h"
@@ -9,7 +9,7 @@ class TSccExpert;
 
 class TSccIDENotifier final : public TNotifierObject, public IOTAIDENotifier {
  public:
-  /// `expert` is borrowed; the expert removes the notifier from the host before it goes.
+  /// `expert` is borrowed; it unregisters the notifier before it is destroyed.
   explicit TSccIDENotifier(TSccExpert& expert) : expert_(expert) {}
 
   void* QueryInterface(const TGuid& iid) noexcept override;

@@ -7,7 +7,7 @@ namespace kestrel::addin {
 
 inline constexpr TResString sMessageWindowNAError{"Message window is not available"};
 inline constexpr TResString sIDESourceNAError{
-    "Source interface is ot available"};  // "ot" is meant: it always read so
+    "Source interface is ot available"};  // "ot" is intentional: users search for this message
 inline constexpr TResString sEmptyString{""};
 
 }  // namespace kestrel::addin

@@ -1,5 +1,4 @@
-// The picture of the pull-project wizard in the gallery: an SVG document of 32 by 32 units, the menu's picture of the
-// same command drawn for that size.
+// The pull-project wizard's picture in the gallery: an SVG document of 32 by 32 units.
 #pragma once
 
 namespace kestrel::addin {

@@ -332,9 +332,9 @@ void TCommitBrowser::RememberComments() {
   TCommentMemory memory(projectFile_);
   const auto* current = CurrentRow();
   for (const auto& row : FRows)
-    memory.Typed(CommitCommentPlace(row.FileName),
-                 &row == current ? FromWx(TMemoIndividualComment->GetValue()) : row.Comment);
-  memory.Typed(CommitCommentPlace(), FromWx(TMemoSummaryComments->GetValue()));
+    memory.RecordTyped(CommitCommentPlace(row.FileName),
+                       &row == current ? FromWx(TMemoIndividualComment->GetValue()) : row.Comment);
+  memory.RecordTyped(CommitCommentPlace(), FromWx(TMemoSummaryComments->GetValue()));
   memory.Save();
 }
 

@@ -107,7 +107,7 @@ void TCommitBrowser::CreateSummaryPage() {
 }
 
 TCommentMemo TCommitBrowser::CreateComment(wxPanel* page, wxCheckBox* box) {
-  const auto comment = TCommentMemo::Create(page, CutComment);
+  const auto comment = TCommentMemo::Create(page, TruncateComment);
   comment.Memo->MoveBeforeInTabOrder(box);
   auto* column = new wxBoxSizer(wxVERTICAL);
   column->Add(comment.Memo, wxSizerFlags(1).Expand());

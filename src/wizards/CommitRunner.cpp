@@ -92,7 +92,7 @@ class TCommitRunner {
     if (!result.Done)
       WriteFailure(row.FileName, result.Messages);
     else if (step.TakesComment)
-      memory_.Used(CommitCommentPlace(comments_.Individual ? row.FileName : std::string()), comment);
+      memory_.RecordUsed(CommitCommentPlace(comments_.Individual ? row.FileName : std::string()), comment);
     return result.Done;
   }
 

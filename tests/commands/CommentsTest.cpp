@@ -112,14 +112,14 @@ TEST(CommentHistory, LosesNothingThatWasTyped) {
   EXPECT_EQ(same.Newer(), "same");
   TCommentHistory history({"b", "a"}, "forgotten long ago");
   EXPECT_THAT(history.Entries(), ElementsAre("forgotten long ago", "b", "a", "forgotten long ago"));
-  history.Keep("draft");
+  history.Record("draft");
   EXPECT_EQ(history.Older(), "b");
-  history.Keep("b, changed");
+  history.Record("b, changed");
   EXPECT_THAT(history.Entries(), ElementsAre("draft", "b, changed", "b", "a", "forgotten long ago"));
   EXPECT_EQ(history.Older(), "b");
-  history.Keep(" ");  // cleared: nothing to keep
+  history.Record(" ");  // cleared: nothing to keep
   EXPECT_EQ(history.Newer(), "b, changed");
-  history.Keep("b, changed");
+  history.Record("b, changed");
   EXPECT_EQ(history.Newer(), "draft");
   EXPECT_EQ(history.Newer(), std::nullopt);
   EXPECT_EQ(history.Choose(4), "forgotten long ago");

@@ -17,8 +17,8 @@ TEST(Activities, OneRuleForWhatMayStart) {
   TActivities activities([&] { return inCall; });
   const auto expect = [&](TActivities::TVerdict ofUser, TActivities::TVerdict ofHost) {
     for (const auto wanted : {TActivity::Command, TActivity::MenuOpening, TActivity::ProviderChoice})
-      EXPECT_EQ(activities.Ask(wanted), ofUser);
-    EXPECT_EQ(activities.Ask(TActivity::Notification), ofHost);
+      EXPECT_EQ(activities.Check(wanted), ofUser);
+    EXPECT_EQ(activities.Check(TActivity::Notification), ofHost);
   };
   expect(Start, Start);
   activities.Run(TActivity::Command, [&] {

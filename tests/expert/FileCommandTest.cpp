@@ -150,8 +150,8 @@ TEST(CommentMemory, IsBounded) {
     TCommentMemory memory("/p" + std::to_string(i % 25) + "/App.qvxproj");
     for (int n = 0; n < 30; ++n) {
       const auto text = std::to_string(i * 30 + n) + "\r\nmore";
-      memory.Typed(TCommentMemory::Place("add", text), text);
-      memory.Used({}, text);
+      memory.RecordTyped(TCommentMemory::Place("add", text), text);
+      memory.RecordUsed({}, text);
     }
     memory.Save();
   }
