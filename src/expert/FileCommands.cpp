@@ -18,13 +18,13 @@ using ExtraBox = TFileListModel::ExtraBox;
 constexpr bool All(Long status, Long bits) { return (status & bits) == bits; }
 constexpr bool None(Long status, Long bits) { return (status & bits) == 0; }
 
-TCallResult Call(const auto& body) {
+}  // namespace
+
+TCallResult TFileCommand::Run(TSCCProviderProject& project, const TFileCommandCall& call) const {
   TCallResult result;
-  result.Done = body(result.Messages);
+  result.Done = Call(project, call, result.Messages);
   return result;
 }
-
-}  // namespace
 
 bool CanAdd(Long status) { return status == SCC_STATUS_NOTCONTROLLED || All(status, SCC_STATUS_DELETED); }
 bool CanRemove(Long status) { return All(status, SCC_STATUS_CONTROLLED) && None(status, SCC_STATUS_DELETED); }
@@ -42,10 +42,7 @@ bool CanUndoCheckOut(Long status) { return All(status, SCC_STATUS_OUTBYUSER | SC
 const TFileCommand kAddFiles{
     .Command = SCC_COMMAND_ADD,
     .Eligible = CanAdd,
-    .Run =
-        [](auto& p, auto& c) {
-          return Call([&](auto& m) { return p.AddFile(c.Files, c.Comment, c.KeepCheckedOut, m); });
-        },
+    .Call = [](auto& p, auto& c, auto& m) { return p.AddFile(c.Files, c.Comment, c.KeepCheckedOut, m); },
     .CallKind = PerFileCounting,
     .CommentCapability = pcCommentAdd,
     .SaveAllFirst = true,
@@ -66,7 +63,7 @@ const TFileCommand kAddFiles{
 const TFileCommand kRemoveFiles{
     .Command = SCC_COMMAND_REMOVE,
     .Eligible = CanRemove,
-    .Run = [](auto& p, auto& c) { return Call([&](auto& m) { return p.RemoveFile(c.Files, m); }); },
+    .Call = [](auto& p, auto& c, auto& m) { return p.RemoveFile(c.Files, m); },
     .CallKind = Batch,
     .HelpKeyword = "HC_TeamRemoveFiles",
     .NoProvider = sRemoveFilesNoProvider,
@@ -81,7 +78,7 @@ const TFileCommand kRemoveFiles{
 const TFileCommand kGetLatestVersion{
     .Command = SCC_COMMAND_GET,
     .Eligible = CanGet,
-    .Run = [](auto& p, auto& c) { return Call([&](auto& m) { return p.GetFile(c.Files, m) == SCC_OK; }); },
+    .Call = [](auto& p, auto& c, auto& m) { return p.GetFile(c.Files, m) == SCC_OK; },
     .CallKind = Batch,
     .ReloadKind = OnSuccess,
     .NoProvider = sGetFilesNoProvider,
@@ -96,10 +93,7 @@ const TFileCommand kGetLatestVersion{
 const TFileCommand kCheckInFiles{
     .Command = SCC_COMMAND_CHECKIN,
     .Eligible = CanCheckIn,
-    .Run =
-        [](auto& p, auto& c) {
-          return Call([&](auto& m) { return p.CheckInFile(c.Files, c.Comment, c.KeepCheckedOut, m); });
-        },
+    .Call = [](auto& p, auto& c, auto& m) { return p.CheckInFile(c.Files, c.Comment, c.KeepCheckedOut, m); },
     .CallKind = Batch,
     .CommentCapability = pcCommentCheckIn,
     .SaveAllFirst = true,
@@ -119,8 +113,7 @@ const TFileCommand kCheckInFiles{
 const TFileCommand kCheckOutFiles{
     .Command = SCC_COMMAND_CHECKOUT,
     .Eligible = CanCheckOut,
-    .Run = [](auto& p,
-              auto& c) { return Call([&](auto& m) { return p.CheckOutFile(c.Files, c.Comment, m); }); },
+    .Call = [](auto& p, auto& c, auto& m) { return p.CheckOutFile(c.Files, c.Comment, m); },
     .CallKind = PerFile,
     .CommentCapability = pcCommentCheckOut,
     .ReloadKind = Always,
@@ -137,7 +130,7 @@ const TFileCommand kCheckOutFiles{
 const TFileCommand kUndoCheckOut{
     .Command = SCC_COMMAND_UNCHECKOUT,
     .Eligible = CanUndoCheckOut,
-    .Run = [](auto& p, auto& c) { return Call([&](auto& m) { return p.UnCheckOutFile(c.Files, m); }); },
+    .Call = [](auto& p, auto& c, auto& m) { return p.UnCheckOutFile(c.Files, m); },
     .CallKind = Batch,
     .ClearReadOnly = true,
     .ReloadKind = OnSuccess,

@@ -30,7 +30,7 @@ struct TFileCommand {
   scc::SCCCommand Command;
   /// Whether a command on the whole project offers a file of that status.
   bool (*Eligible)(scc::Long status);
-  TCallResult (*Run)(TSCCProviderProject& project, const TFileCommandCall& call);
+  bool (*Call)(TSCCProviderProject& project, const TFileCommandCall& call, TStateMessages& messages);
   Calls CallKind;
   std::optional<TProviderCapabilityFlags> CommentCapability =
       {};  ///< asks for a comment if the provider has this capability
@@ -51,6 +51,8 @@ struct TFileCommand {
   TResString FinalSeveral;
   TResString OneDone;  ///< follows the file name
   TResString SeveralDone;
+
+  TCallResult Run(TSCCProviderProject& project, const TFileCommandCall& call) const;
 };
 
 extern const TFileCommand kAddFiles;

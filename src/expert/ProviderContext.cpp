@@ -44,23 +44,12 @@ TSCCProviderProject& TProviderContext::SelectProject(const std::string& director
   return *list_->CurrentProject();
 }
 
-// ---------------------------------------------------------------------------------------------- settings
-
-void TProviderContext::ReadSettings() {
-  const auto read = [this] {
-    ReadProviderOption();
-    ReadUserOption();
-    ReadPath();
-    TSCMAddInEnvironmentOptions::SaveChanges();
-  };
-  RunCatching(read, ToLog(mwtError, sReadSettingsError));
-}
-
-void TProviderContext::ReadProjectSettings(const std::string& projectFile) {
+void TProviderContext::ReadSettings(const std::string& projectFile) {
   const auto read = [&] {
     name_.clear();
     user_name_.clear();
-    const TMappingFile mapping(ChangeFileExt(projectFile, kMappingExtension));
+    const auto file = Trim(projectFile).empty() ? "" : ChangeFileExt(projectFile, kMappingExtension);
+    const TMappingFile mapping(file);
     if (const auto sections = mapping.Sections(); !sections.empty()) {
       name_ = sections.front();
       user_name_ = mapping.Read(name_, kMapUserName);
@@ -107,17 +96,11 @@ void TProviderContext::ReadDefaultProvider(std::string& name) {
   RunCatching(read, ToLog(mwtError, sReadDefaultProviderError));
 }
 
-void TProviderContext::Select(const std::string& name) {
+void TProviderContext::Select(const std::string& name, const std::optional<std::string>& userName) {
   name_ = name;
+  user_name_ = userName.value_or(user_name_);
   ReadPath();
 }
-
-void TProviderContext::Select(const std::string& name, const std::string& userName) {
-  Select(name);
-  user_name_ = userName;
-}
-
-// ---------------------------------------------------------------------------------------------- library
 
 bool TProviderContext::Create(TWindowHandle window) {
   Release();
@@ -145,8 +128,6 @@ void TProviderContext::Release() {
   list_.reset();
   open_project_file_.clear();
 }
-
-// ---------------------------------------------------------------------------------------------- mapping file
 
 bool TProviderContext::ProjectExists(const std::string& mappingFile) {
   bool result = false;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "expert/Activities.h"
@@ -26,7 +27,7 @@ class TProviderContext {
   TProviderContext(TMessageLog& log, const TActivities& activities) : log_(log), activities_(activities) {}
   TProviderContext(const TProviderContext&) = delete;
   TProviderContext& operator=(const TProviderContext&) = delete;
-  /// Releases the provider.  While one of its functions is on the stack the library stays loaded instead.
+  /// Releases the provider.  The library stays loaded while one of its functions is on the stack.
   ~TProviderContext();
 
   const std::string& Name() const { return name_; }
@@ -49,15 +50,13 @@ class TProviderContext {
   /// project there.
   TSCCProviderProject& SelectProject(const std::string& directory, const std::string& noProvider) const;
 
-  void ReadSettings();
-  /// The same, but the project's mapping file overrides the user's settings.
-  void ReadProjectSettings(const std::string& projectFile);
+  /// Reads name, path and user name from the project's mapping file; what it lacks, and everything when `projectFile` is
+  /// blank, from the user's settings.
+  void ReadSettings(const std::string& projectFile = {});
   /// Stores the display name of the machine's default provider in `name`; leaves it unchanged when there is none.
   static void ReadDefaultProvider(std::string& name);
   /// Chooses that installed provider; Path() becomes empty when it is not installed.
-  void Select(const std::string& name);
-  void Select(const std::string& name, const std::string& userName);
-
+  void Select(const std::string& name, const std::optional<std::string>& userName = {});
   /// Loads the selected provider in place of the current one; false without a path.  `window` is the parent of the
   /// provider's dialogs, 0 for none.  Throws EAbort when the library cannot be loaded or the old provider not released.
   bool Create(TWindowHandle window);

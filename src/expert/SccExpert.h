@@ -45,7 +45,7 @@ class TSccExpert final : public TNotifierObject, public IOTAWizard, public ITeam
 
   // Settings and mapping file; see TProviderContext.
   void ReadSettings() { context_.Provider.ReadSettings(); }
-  void ReadProjectSettings(const std::string& file) { context_.Provider.ReadProjectSettings(file); }
+  void ReadProjectSettings(const std::string& file) { context_.Provider.ReadSettings(file); }
   void ReadDefaultProvider(std::string& name) { TProviderContext::ReadDefaultProvider(name); }
   bool ProviderCreate(TWindowHandle param) { return context_.Provider.Create(param); }
   bool ReadSCCIniFile(const std::string& projectFile, std::string& projName, std::string& userName,
@@ -134,8 +134,6 @@ class TSccExpert final : public TNotifierObject, public IOTAWizard, public ITeam
   void Run(TActivity activity, std::string_view format, const std::function<void()>& body) noexcept;
   /// Loads the provider and opens its project, unless a provider is loaded.
   void PrepareProvider(const std::string& project);
-  /// Reads the project's settings or, with a blank name, the user's.
-  void ReadSettingsOf(const std::string& project);
   void OpenProviderProject(const std::string& fileName);
   void CloseFailedProject(const std::string& directory);
   std::string OpenProjectFile();

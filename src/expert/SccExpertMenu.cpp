@@ -44,7 +44,7 @@ std::optional<bool> TSccExpert::HasProviderApplication() const {
 
 void TSccExpert::PrepareProvider(const std::string& project) {
   if (ProviderList()) return;
-  ReadSettingsOf(project);
+  ReadProjectSettings(project);
   if (ProviderCreate(0) && !project.empty()) FileNotifyProjectOpen(project);
 }
 

@@ -49,16 +49,9 @@ void TSccExpert::FileNotifyProjectOpen(const std::string& fileName) {
   if (!IsProject(fileName)) return;
   if (!ProjectExists(ChangeFileExt(fileName, kMappingExtension))) return;
   if (ProviderList()) FileNotifyProjectClose(OpenProjectFile());
-  ReadSettingsOf(fileName);
+  ReadProjectSettings(fileName);
   if (!ProviderCreate(0)) throw EAbort(sProviderNotAssigned);
   OpenProviderProject(fileName);
-}
-
-void TSccExpert::ReadSettingsOf(const std::string& project) {
-  if (Trim(project).empty())
-    ReadSettings();
-  else
-    ReadProjectSettings(project);
 }
 
 void TSccExpert::OpenProviderProject(const std::string& fileName) {

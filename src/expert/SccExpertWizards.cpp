@@ -42,7 +42,7 @@ void TSccExpert::PullProjectWizard() {
   context_.Activities.RunWaiting();
   if (provider.List()) return;
   const auto project = Trim(GetCurrentProjectFile());
-  ReadSettingsOf(project);  // a project is only opened for the provider that is selected
+  ReadProjectSettings(project);  // a project is only opened for the provider that is selected
   FileNotifyProjectOpen(project);
 }
 

@@ -182,7 +182,7 @@ void TExpertMainMenuModule::EnableMenus(bool enable) {
     item->Enabled = item->Action->Enabled = enable;
   act_get_files_.Enabled = enable;
   actPullProject.Enabled = PullProject.Enabled = true;  // pulling needs no open project
-  actMessages.Visible = Messages1.Visible = false;      // meant, in both cases
+  actMessages.Visible = Messages1.Visible = false;      // intentional, in both cases
 }
 
 void TExpertMainMenuModule::EnablePlaceMenu(bool enable) {
@@ -198,67 +198,18 @@ void TExpertMainMenuModule::SetMenuCapabilities() {
 }
 
 void TExpertMainMenuModule::MapClick() {
-  commands_.RunMenuOpening(sMainMenuError.Text, [this] {
+  commands_.RunMenuOpening(sMainMenuError, [this] {
     commands_.MainMenu();
     SetMenuCapabilities();
   });
 }
 
-void TExpertMainMenuModule::actPlaceProjectExecute() {
-  Run(sPlaceProjectError, &ITeamCommands::PlaceProject);
-}
-void TExpertMainMenuModule::actPullProjectExecute() {
-  Run(sPullProjectError, &ITeamCommands::PullProjectWizard);
-}
-void TExpertMainMenuModule::actRunSccAppExecute() { Run(sRunSccAppError, &ITeamCommands::RunSccApp); }
-void TExpertMainMenuModule::actCommitBrowserExecute() {
-  Run(sCommitBrowserError, &ITeamCommands::CommitBrowser);
-}
-void TExpertMainMenuModule::actMessagesExecute() { Run(sMessagesError, &ITeamCommands::ViewMessages); }
-
-// A command of the whole project is called with an empty file name.
-void TExpertMainMenuModule::actAddFilesExecute() { actAddSingleExecute({}); }
-void TExpertMainMenuModule::actRemoveFilesExecute() { actRemoveSingleExecute({}); }
-void TExpertMainMenuModule::actGetFilesExecute() { actGetSingleExecute({}); }
-void TExpertMainMenuModule::actCheckInFilesExecute() { actCheckInSingleExecute({}); }
-void TExpertMainMenuModule::actCheckOutFilesExecute() { actCheckOutSingleExecute({}); }
-void TExpertMainMenuModule::actUndoCheckOutFilesExecute() { actUndoCheckOutSingleExecute({}); }
-void TExpertMainMenuModule::actShowDiffExecute() { ShowDiffSingle(commands_.CurrentFile()); }
-void TExpertMainMenuModule::actShowHistoryExecute() { ShowHistorySingle(commands_.CurrentFile()); }
-
 void TExpertMainMenuModule::Run(const TResString& error, void (ITeamCommands::*command)()) {
-  commands_.RunCommand(error.Text, [&] { (commands_.*command)(); });
+  commands_.RunCommand(error, [&] { (commands_.*command)(); });
 }
 void TExpertMainMenuModule::Run(const TResString& error, void (ITeamCommands::*command)(const std::string&),
                                 const std::string& fileName) {
-  commands_.RunCommand(error.Text, [&] { (commands_.*command)(fileName); });
-}
-void TExpertMainMenuModule::actAddSingleExecute(const std::string& fileName) {
-  Run(sAddFilesError, &ITeamCommands::AddFiles, fileName);
-}
-void TExpertMainMenuModule::actRemoveSingleExecute(const std::string& fileName) {
-  Run(sRemoveFilesError, &ITeamCommands::RemoveFiles, fileName);
-}
-void TExpertMainMenuModule::actGetSingleExecute(const std::string& fileName) {
-  Run(sGetLatestVersionError, &ITeamCommands::GetLatestVersion, fileName);
-}
-void TExpertMainMenuModule::actCheckInSingleExecute(const std::string& fileName) {
-  Run(sCheckFilesInError, &ITeamCommands::CheckInFiles, fileName);
-}
-void TExpertMainMenuModule::actCheckOutSingleExecute(const std::string& fileName) {
-  Run(sCheckFilesOutError, &ITeamCommands::CheckOutFiles, fileName);
-}
-void TExpertMainMenuModule::actUndoCheckOutSingleExecute(const std::string& fileName) {
-  Run(sUndoFilesCheckOutError, &ITeamCommands::UndoCheckOut, fileName);
-}
-void TExpertMainMenuModule::ShowDiffSingle(const std::string& fileName) {
-  Run(sShowDiffError, &ITeamCommands::ShowDiff, fileName);
-}
-void TExpertMainMenuModule::ShowHistorySingle(const std::string& fileName) {
-  Run(sShowHistoryError, &ITeamCommands::ShowHistory, fileName);
-}
-void TExpertMainMenuModule::PropertiesSingle(const std::string& fileName) {
-  Run(sPropertiesError, &ITeamCommands::Properties, fileName);
+  commands_.RunCommand(error, [&] { (commands_.*command)(fileName); });
 }
 
 }  // namespace kestrel::addin

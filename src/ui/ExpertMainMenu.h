@@ -9,11 +9,12 @@
 
 #include "host/Menus.h"
 #include "system/Text.h"
+#include "ui/ExpertMainMenuStrings.h"
 
 namespace kestrel::addin {
 
-/// The commands behind the menu, declared by the layer that calls them; the expert implements them.  A command that
-/// takes a file name works on the whole project when the name is empty.
+/// The commands behind the menu; the expert implements them.  A command that takes a file name works on the whole project
+/// when the name is empty.
 class ITeamCommands {
  public:
   virtual void PlaceProject() = 0;
@@ -64,34 +65,43 @@ class TExpertMainMenuModule {
   TExpertMainMenuModule(const TExpertMainMenuModule&) = delete;
   TExpertMainMenuModule& operator=(const TExpertMainMenuModule&) = delete;
 
-  /// The file commands, the commit browser and the provider's application.  Pulling stays enabled, and the message
-  /// item goes out of sight, whatever `enable` is.
+  /// Applies to the file commands, the commit browser and the provider's application.  Always enables pulling and hides
+  /// the message item.
   void EnableMenus(bool enable);
   void EnablePlaceMenu(bool enable);
   void EnableRunScc(bool enable);
-  /// Shows the provider's application only when the provider has one; does nothing without a provider.
+  /// Shows the application item only if the provider has one.  Does nothing without a provider.
   void SetMenuCapabilities();
 
-  // Handlers of the actions.
-  void actPlaceProjectExecute();
-  void actPullProjectExecute();
-  void actAddFilesExecute();
-  void actRemoveFilesExecute();
-  void actGetFilesExecute();
-  void actCheckInFilesExecute();
-  void actCheckOutFilesExecute();
-  void actUndoCheckOutFilesExecute();
-  void actRunSccAppExecute();
-  void actCommitBrowserExecute();
-  void actMessagesExecute();
+  // Handlers of the actions.  Those of the file commands are for the whole project.
+  void actPlaceProjectExecute() { Run(sPlaceProjectError, &ITeamCommands::PlaceProject); }
+  void actPullProjectExecute() { Run(sPullProjectError, &ITeamCommands::PullProjectWizard); }
+  void actAddFilesExecute() { actAddSingleExecute({}); }
+  void actRemoveFilesExecute() { actRemoveSingleExecute({}); }
+  void actGetFilesExecute() { actGetSingleExecute({}); }
+  void actCheckInFilesExecute() { actCheckInSingleExecute({}); }
+  void actCheckOutFilesExecute() { actCheckOutSingleExecute({}); }
+  void actUndoCheckOutFilesExecute() { actUndoCheckOutSingleExecute({}); }
+  void actRunSccAppExecute() { Run(sRunSccAppError, &ITeamCommands::RunSccApp); }
+  void actCommitBrowserExecute() { Run(sCommitBrowserError, &ITeamCommands::CommitBrowser); }
+  void actMessagesExecute() { Run(sMessagesError, &ITeamCommands::ViewMessages); }
 
-  // Handlers of the per-file variants, for the host's menus of files.
-  void actAddSingleExecute(const std::string& fileName);
-  void actRemoveSingleExecute(const std::string& fileName);
-  void actGetSingleExecute(const std::string& fileName);
-  void actCheckInSingleExecute(const std::string& fileName);
-  void actCheckOutSingleExecute(const std::string& fileName);
-  void actUndoCheckOutSingleExecute(const std::string& fileName);
+  // Handlers for one file, for the host's menus of files.
+  using TFileName = const std::string&;
+  void actAddSingleExecute(TFileName file) { Run(sAddFilesError, &ITeamCommands::AddFiles, file); }
+  void actRemoveSingleExecute(TFileName file) { Run(sRemoveFilesError, &ITeamCommands::RemoveFiles, file); }
+  void actGetSingleExecute(TFileName file) {
+    Run(sGetLatestVersionError, &ITeamCommands::GetLatestVersion, file);
+  }
+  void actCheckInSingleExecute(TFileName file) {
+    Run(sCheckFilesInError, &ITeamCommands::CheckInFiles, file);
+  }
+  void actCheckOutSingleExecute(TFileName file) {
+    Run(sCheckFilesOutError, &ITeamCommands::CheckOutFiles, file);
+  }
+  void actUndoCheckOutSingleExecute(TFileName file) {
+    Run(sUndoFilesCheckOutError, &ITeamCommands::UndoCheckOut, file);
+  }
 
   std::vector<TMenuItem*> ExpertMainMenu;  ///< what goes into the host's main menu: Map
   std::vector<TAction*> ExpertActionList;  ///< what goes into the host's action list
@@ -106,7 +116,7 @@ class TExpertMainMenuModule {
   TAction actRunSccApp, actCommitBrowser, actMessages;
 
  private:
-  using TFileHandler = void (TExpertMainMenuModule::*)(const std::string& fileName);
+  using TFileHandler = void (TExpertMainMenuModule::*)(TFileName);
 
   void DataModuleCreate();
   void CreateActions();
@@ -117,17 +127,17 @@ class TExpertMainMenuModule {
   void CreateFileMenu();
 
   void MapClick();
-  void actShowDiffExecute();
-  void actShowHistoryExecute();
-  void ShowDiffSingle(const std::string& fileName);
-  void ShowHistorySingle(const std::string& fileName);
-  void PropertiesSingle(const std::string& fileName);
+  void actShowDiffExecute() { ShowDiffSingle(commands_.CurrentFile()); }
+  void actShowHistoryExecute() { ShowHistorySingle(commands_.CurrentFile()); }
+  void ShowDiffSingle(TFileName file) { Run(sShowDiffError, &ITeamCommands::ShowDiff, file); }
+  void ShowHistorySingle(TFileName file) { Run(sShowHistoryError, &ITeamCommands::ShowHistory, file); }
+  void PropertiesSingle(TFileName file) { Run(sPropertiesError, &ITeamCommands::Properties, file); }
   void Run(const TResString& error, void (ITeamCommands::*command)());
   void Run(const TResString& error, void (ITeamCommands::*command)(const std::string&),
            const std::string& fileName);
 
   ITeamCommands& commands_;
-  TAction act_get_files_;  // of GetFiles, which the menu hides: the action list has it all the same
+  TAction act_get_files_;  // of GetFiles; hidden in the menu, but in the host's action list
   TFileMenu file_menu_;
 };
 

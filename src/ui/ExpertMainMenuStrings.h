@@ -21,17 +21,16 @@ inline constexpr TResString sActCommitBrowser{"File Explorer"};
 inline constexpr TResString sActMessages{"Messages"};
 inline constexpr TResString sGetLatestVersion{"Get Latest Version"};
 
-// Captions of items without an action, and of two that differ from their action's.  The difference is meant: the menu
-// names the window that opens, the host's list of commands what it is for.
+// Captions of items without an action, and of two that intentionally differ from their action's.
 inline constexpr TResString sItemCommitBrowser{"Commit Browser..."};
 inline constexpr TResString sItemPlaceProject{"Place Project Into Source Control..."};
 inline constexpr TResString sItemShowDifferences{"Show Differences..."};
 inline constexpr TResString sItemShowHistory{"Show History..."};
 
-// Items of the menu of one file; the others are called as in the menu above.
+// The file menu shares the other captions.
 inline constexpr TResString sItemProperties{"Properties..."};
 
-// Names of the pictures that the pictured commands bring into the host's image list.
+// Names of the pictures added to the host's image list.
 inline constexpr TResString sSCC0{"SCC0"};
 inline constexpr TResString sSCC1{"SCC1"};
 inline constexpr TResString sSCC2{"SCC2"};
@@ -44,7 +43,7 @@ inline constexpr TResString sSCC8{"SCC8"};
 
 inline constexpr TResString sUnableToGetIDEServices{"Unable to get IDE services"};
 
-// What a handler writes when its command ends early; %s is the reason.
+// Line of a handler whose command failed; %s is the reason.
 inline constexpr TResString sMainMenuError{"MainMenu; %s"};
 inline constexpr TResString sPlaceProjectError{"PlaceProjectClick; %s"};
 inline constexpr TResString sPullProjectError{"PullProjectClick; %s"};
