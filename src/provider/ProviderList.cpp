@@ -132,14 +132,11 @@ void TSCCProviderList::UnInitialize() {
 void TSCCProviderList::Add(const std::string& localPath) { Add(localPath, userName_); }
 
 void TSCCProviderList::Add(const std::string& localPath, const std::string& userName) {
-  auto project = std::make_unique<TSCCProviderProject>(localPath, window_, userName);
-  project->context_ = context_;
-  projects_.push_back(std::move(project));
+  projects_.push_back(std::make_unique<TSCCProviderProject>(localPath, window_, userName, context_));
 }
 
 TSCCProviderList::TProjects::iterator TSCCProviderList::Find(const std::string& localPath) {
-  return std::ranges::find_if(
-      projects_, [&](const auto& project) { return SameText(project->localPath_.Str(), localPath); });
+  return std::ranges::find_if(projects_, [&](const auto& project) { return project->IsAt(localPath); });
 }
 
 void TSCCProviderList::Remove(const std::string& localPath) {

@@ -43,8 +43,8 @@ void CopyBack(std::initializer_list<TReturned> lines, std::initializer_list<TRet
 }  // namespace
 
 TSCCProviderProject::TSCCProviderProject(const std::string& localPath, TWindowHandle window,
-                                         const std::string& userName)
-    : window_(window) {
+                                         const std::string& userName, void* context)
+    : context_(context), window_(window) {
   localPath_.SetUntruncated(localPath);
   userName_.Set(userName);
 }
@@ -59,6 +59,9 @@ std::string TSCCProviderProject::get_ProjPath() const { return projPath_.Str(); 
 void TSCCProviderProject::set_ProjPath(const std::string& value) { projPath_.Set(value); }
 std::string TSCCProviderProject::get_LocalPath() const { return localPath_.Truncated(); }
 void TSCCProviderProject::set_LocalPath(const std::string& value) { localPath_.SetUntruncated(value); }
+bool TSCCProviderProject::IsAt(const std::string& localPath) const {
+  return SameText(localPath_.Str(), localPath);
+}
 std::string TSCCProviderProject::get_UserName() const { return userName_.Str(); }
 void TSCCProviderProject::set_UserName(const std::string& value) { userName_.Set(value); }
 

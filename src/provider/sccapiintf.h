@@ -157,7 +157,9 @@ enum TCommandOptionFlags { coQuery, coShowAdvDialog };
 /// One provider project for one local directory.  Created and owned by TSCCProviderList.
 class TSCCProviderProject {
  public:
-  TSCCProviderProject(const std::string& localPath, TWindowHandle window, const std::string& userName);
+  /// `context` is the list's, which outlives the project.
+  TSCCProviderProject(const std::string& localPath, TWindowHandle window, const std::string& userName,
+                      void* context = nullptr);
   ~TSCCProviderProject();
   TSCCProviderProject(const TSCCProviderProject&) = delete;
   TSCCProviderProject& operator=(const TSCCProviderProject&) = delete;
@@ -171,6 +173,8 @@ class TSCCProviderProject {
   void set_ProjPath(const std::string& value);
   std::string get_LocalPath() const;  // [261]
   void set_LocalPath(const std::string& value);
+  /// Whether this is the project of that directory, compared ignoring case.
+  bool IsAt(const std::string& localPath) const;
   std::string get_UserName() const;  // [33]
   void set_UserName(const std::string& value);
 
@@ -222,8 +226,6 @@ class TSCCProviderProject {
   void AddFromScc(TStateMessages& messages);
 
  private:
-  friend class TSCCProviderList;
-
   scc::Long OpenAt(TStateMessages& messages, const TBoundedText& localPath);
   scc::Long Get(const TStringList& names, scc::Long flags, TStateMessages& messages);
   scc::Long Diff(const std::string& fileName, scc::Long flags, TStateMessages& messages);
@@ -232,7 +234,7 @@ class TSCCProviderProject {
   scc::WindowHandle Window() const;
   void* Options() { return options_.data(); }
 
-  void* context_ = nullptr;  // owned by the list
+  void* context_;  // owned by the list
   TWindowHandle window_;
   TBoundedText localPath_{261};
   TBoundedText userName_{33};
