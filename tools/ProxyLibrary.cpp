@@ -40,12 +40,15 @@ std::string ConfigFileOf(const std::string& library) {
 
 }  // namespace
 
-std::string InstallProxyLibrary(const std::string& name, const std::string& path, const std::string& host) {
+std::string InstallProxyLibrary(const std::string& name, const std::string& path, bool searchPath,
+                                const std::string& host) {
   const auto library = ProxyLibraryPath(name);
   try {
     fs::create_directories(ToFilePath(ExtractFileDir(library)));
     WriteFileAtomically(ConfigFileOf(library), isolation::kProviderKey + path + "\n" + isolation::kHostKey +
-                                                   ResolvePath(ProgramFolder(), host) + "\n");
+                                                   ResolvePath(ProgramFolder(), host) + "\n" +
+                                                   isolation::kSearchPathKey + (searchPath ? "1" : "0") +
+                                                   "\n");
     // Replaced by renaming, because a client may have the old one loaded.
     const auto fresh = ToFilePath(library + ".new");
     fs::copy_file(ToFilePath(ResolvePath(ProgramFolder(), std::string(kLibrary) + LIBRARY_SUFFIX)), fresh,

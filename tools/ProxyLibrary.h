@@ -10,8 +10,9 @@ inline constexpr const char* kProviderHost = "scc-provider-host" PROGRAM_SUFFIX;
 inline constexpr const char* kProviderHostPlayer = "scc-provider-host-player" PROGRAM_SUFFIX;
 
 /// Installs or replaces the library that stands for the provider `name` at `path` and runs it in `host`; returns its path.
-/// Throws std::runtime_error with a sentence for the user.
-std::string InstallProxyLibrary(const std::string& name, const std::string& path,
+/// With `searchPath` the libraries that the provider needs are also searched in PATH (Windows).  Throws std::runtime_error
+/// with a sentence for the user.
+std::string InstallProxyLibrary(const std::string& name, const std::string& path, bool searchPath = false,
                                 const std::string& host = kProviderHost);
 /// Returns the path of the provider that `library` stands for; empty if it is not an isolating library.
 std::string ProviderBehindProxy(const std::string& library);

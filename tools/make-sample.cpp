@@ -117,7 +117,7 @@ void Make(const TArguments& arguments) {
   setenv("CORVANE_REGISTRY_DIR", registry.c_str(), 1);
   fs::copy(fs::absolute(arguments.Project), work, fs::copy_options::recursive);
   const auto* host = arguments.Player ? kProviderHostPlayer : kProviderHost;
-  RegisterProvider(arguments.Direct ? library : InstallProxyLibrary(kProviderName, library, host));
+  RegisterProvider(arguments.Direct ? library : InstallProxyLibrary(kProviderName, library, false, host));
   const auto url = svnscc::CreateRepository((folder / "repository").string());
   svnscc::MarkProjectUsed(url, kProjectName);  // as choosing it in the provider's dialog does
 

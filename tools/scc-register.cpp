@@ -131,7 +131,8 @@ void Add(const TArguments& arguments) {
   const auto key = known.empty() ? OwnKey(name) : known;
   // The list is written last, so that a concurrent reader finds complete entries only.
   WriteValue(key, kServerName, name);
-  WriteValue(key, kServerPath, arguments.Isolated ? InstallProxyLibrary(name, path) : path);
+  WriteValue(key, kServerPath,
+             arguments.Isolated ? InstallProxyLibrary(name, path, arguments.SearchPath) : path);
   if (arguments.SearchPath)
     WriteValue(key, kSearchPath, "1");
   else
@@ -172,7 +173,9 @@ std::string ProviderPath(const std::string& path) {
 void MakeIsolated(const TArguments& arguments) {
   const auto& name = arguments.Name;
   const auto key = InstalledKeyOf(name);
-  WriteValue(key, kServerPath, InstallProxyLibrary(name, ProviderPath(ReadValue(key, kServerPath))));
+  WriteValue(key, kServerPath,
+             InstallProxyLibrary(name, ProviderPath(ReadValue(key, kServerPath)),
+                                 ReadValue(key, kSearchPath) == "1"));
   std::cout << Format(sIsIsolated, {name});
 }
 

@@ -30,10 +30,16 @@ FrameHeader HeaderOf(const std::string& bytes) {
   return header;
 }
 
+std::vector<std::string> Arguments(const ProxyConfig& config) {
+  std::vector<std::string> arguments{config.Provider};
+  if (config.SearchPath) arguments.emplace_back(kSearchPathOption);
+  return arguments;
+}
+
 }  // namespace
 
 HostConnection::HostConnection(const ProxyConfig& config)
-    : process_(Process::Start(config.Host, config.Provider)) {}
+    : process_(Process::Start(config.Host, Arguments(config))) {}
 
 void HostConnection::Send(FrameKind kind, const std::string& body) {
   if (out_.Empty()) out_ = {};

@@ -4,6 +4,7 @@
 #include <chrono>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace kestrel::isolation {
 
@@ -17,9 +18,10 @@ struct SendBuffer {
 
 class Process {
  public:
-  /// Starts `program` (absolute path) with one argument.  It inherits one end of a private channel and the three standard
+  /// Starts `program` (absolute path).  It inherits one end of a private channel and the three standard
   /// streams, nothing else, and ends when this process ends.  Throws std::runtime_error with the system's message.
-  static std::unique_ptr<Process> Start(const std::string& program, const std::string& argument);
+  static std::unique_ptr<Process> Start(const std::string& program,
+                                        const std::vector<std::string>& arguments);
   /// Closes the channel and kills the process unless it has been detached.
   virtual ~Process() = default;
 

@@ -17,6 +17,7 @@ ProxyConfig ReadProxyConfig(const std::string& file) {
   std::ifstream lines(ToPath(file));
   for (std::string line; std::getline(lines, line);) {
     if (line.ends_with('\r')) line.pop_back();
+    if (line == std::string(kSearchPathKey) + "1") config.SearchPath = true;
     for (auto& [key, path] :
          {std::pair<std::string, std::string&>{kProviderKey, config.Provider}, {kHostKey, config.Host}})
       if (line.starts_with(key)) {

@@ -10,10 +10,13 @@ namespace kestrel::isolation {
 constexpr const char* kConfigExtension = ".provider";
 constexpr const char* kProviderKey = "Provider=";
 constexpr const char* kHostKey = "Host=";
+constexpr const char* kSearchPathKey = "SearchPath=";
+constexpr const char* kSearchPathOption = "--search-path";  ///< the same for the program
 
 struct ProxyConfig {
-  std::string Provider;  ///< absolute path of the real provider library
-  std::string Host;      ///< absolute path of the program that loads it
+  std::string Provider;     ///< absolute path of the real provider library
+  std::string Host;         ///< absolute path of the program that loads it
+  bool SearchPath = false;  ///< Windows: search PATH, too, for the libraries that the provider needs
 };
 
 /// Reads a configuration file; settings that it lacks are empty.  Relative paths are resolved against its folder.

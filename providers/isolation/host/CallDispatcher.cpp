@@ -70,9 +70,9 @@ std::string Invoke(FrameReader& in) {
 
 }  // namespace
 
-std::string LoadProvider(const std::string& path) {
+std::string LoadProvider(const std::string& path, TDependencySearch search) {
   std::string error;
-  library = LoadModule(path, &error);
+  library = LoadModule(path, &error, search);
   return library != nullptr ? std::string() : error;
 }
 

@@ -9,7 +9,7 @@
 namespace kestrel::isolation {
 
 /// Loads the provider; returns the reason if that fails, otherwise an empty text.
-std::string LoadProvider(const std::string& path);
+std::string LoadProvider(const std::string& path, TDependencySearch search);
 /// Executes the call in the body of a Call frame; returns the body of the Answer.
 std::string DispatchCall(const std::string& call);
 

@@ -14,6 +14,8 @@ Frame Read();
 int Descriptor();
 /// Sends a frame.  Thread-safe.
 void Write(FrameKind kind, const std::string& body);
+/// Ends the program at once.  Exit handlers are not run: they may wait for what a fault left locked.
+[[noreturn]] void EndProcess();
 /// From now on the program has a few seconds to end after the client closes the channel.
 void ExpectClose();
 

@@ -5,11 +5,12 @@
 #include <wx/init.h>
 #include <wx/log.h>
 
-#include <cstdlib>
+#include <algorithm>
 #include <memory>
 
 #include "CallDispatcher.h"
 #include "Channel.h"
+#include "ProxyConfig.h"
 #include "ServeLoop.h"
 #include "WindowWatch.h"
 #include "system/System.h"
@@ -39,7 +40,7 @@ bool StartToolkit(int& argc, char** argv) {
 bool Serve() {
   const auto frame = channel::Read();
   if (frame.Kind == FrameKind::Call) channel::Write(FrameKind::Answer, DispatchCall(frame.Body));
-  if (HasFaulted()) std::_Exit(EXIT_FAILURE);
+  if (HasFaulted()) channel::EndProcess();
   return frame.Kind != FrameKind::Shutdown;
 }
 
@@ -55,7 +56,9 @@ int RunHost(int argc, char** argv, const PlayerMaker& makePlayer) {
     WatchWindows();
     if (makePlayer) player = makePlayer();
   }
-  const auto fault = LoadProvider(arguments.front());
+  const bool searchPath = std::ranges::find(arguments, kSearchPathOption) != arguments.end();
+  const auto fault = LoadProvider(
+      arguments.front(), searchPath ? TDependencySearch::OwnFolderPath : TDependencySearch::OwnFolder);
   channel::Write(FrameKind::Hello, Serialize(fault));
   ServeUntilBye(windows, Serve);
   channel::ExpectClose();

@@ -67,7 +67,7 @@ void ThrowOnError(int error, const char* what) {
   if (error != 0) throw std::runtime_error(std::string(what) + ": " + std::strerror(error));
 }
 
-pid_t Spawn(const std::string& program, const std::string& argument, int channel) {
+pid_t Spawn(const std::string& program, const std::vector<std::string>& arguments, int channel) {
   posix_spawn_file_actions_t files;
   posix_spawnattr_t attributes;
   posix_spawn_file_actions_init(&files);
@@ -80,9 +80,11 @@ pid_t Spawn(const std::string& program, const std::string& argument, int channel
   sigfillset(&signals);
   posix_spawnattr_setsigdefault(&attributes, &signals);
   posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF);
-  char* words[] = {const_cast<char*>(program.c_str()), const_cast<char*>(argument.c_str()), nullptr};
+  std::vector<char*> argv{const_cast<char*>(program.c_str())};
+  for (const auto& argument : arguments) argv.push_back(const_cast<char*>(argument.c_str()));
+  argv.push_back(nullptr);
   pid_t process = 0;
-  const int error = posix_spawn(&process, program.c_str(), &files, &attributes, words, environ);
+  const int error = posix_spawn(&process, program.c_str(), &files, &attributes, argv.data(), environ);
   posix_spawnattr_destroy(&attributes);
   posix_spawn_file_actions_destroy(&files);
   ThrowOnError(error, program.c_str());
@@ -91,12 +93,12 @@ pid_t Spawn(const std::string& program, const std::string& argument, int channel
 
 class PosixProcess final : public Process {
  public:
-  PosixProcess(const std::string& program, const std::string& argument) {
+  PosixProcess(const std::string& program, const std::vector<std::string>& arguments) {
     int ends[2];
     ThrowOnError(socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends) == 0 ? 0 : errno, "socketpair");
     channel_.Set(ends[0]);
     const Handle other(ends[1]);
-    pid_ = Spawn(program, argument, other.Get());
+    pid_ = Spawn(program, arguments, other.Get());
     // A process that the provider forks keeps the channel open; the pidfd reports the end of the host itself.
     life_.Set(pidfd_open(pid_, 0));
   }
@@ -174,9 +176,10 @@ class PosixProcess final : public Process {
 
 }  // namespace
 
-std::unique_ptr<Process> Process::Start(const std::string& program, const std::string& argument) {
+std::unique_ptr<Process> Process::Start(const std::string& program,
+                                        const std::vector<std::string>& arguments) {
   DetachedProcesses::Reap();
-  return std::make_unique<PosixProcess>(program, argument);
+  return std::make_unique<PosixProcess>(program, arguments);
 }
 
 }  // namespace kestrel::isolation

@@ -86,10 +86,10 @@ HANDLE MakeJob() {
 
 class WindowsProcess final : public Process {
  public:
-  WindowsProcess(const std::string& program, const std::string& argument) : job_(MakeJob()) {
+  WindowsProcess(const std::string& program, const std::vector<std::string>& arguments) : job_(MakeJob()) {
     Handle other;
     MakePipe(pipe_, other);
-    Spawn(program, argument, other.Get());
+    Spawn(program, arguments, other.Get());
   }
   ~WindowsProcess() override {
     if (detached_) {
@@ -136,7 +136,7 @@ class WindowsProcess final : public Process {
   }
 
  private:
-  void Spawn(const std::string& program, const std::string& argument, HANDLE channel) {
+  void Spawn(const std::string& program, const std::vector<std::string>& arguments, HANDLE channel) {
     SIZE_T size = 0;
     InitializeProcThreadAttributeList(nullptr, 1, 0, &size);
     std::vector<char> memory(size);
@@ -147,8 +147,10 @@ class WindowsProcess final : public Process {
     UpdateProcThreadAttribute(start.lpAttributeList, 0, PROC_THREAD_ATTRIBUTE_HANDLE_LIST, &channel,
                               sizeof channel, nullptr, nullptr);
     const auto name = ToWide(program);
-    auto line = ToWide("\"" + program + "\" \"" + argument + "\" " +
-                       std::to_string(reinterpret_cast<std::uintptr_t>(channel)));
+    std::string words = "\"" + program + "\"";
+    for (const auto& argument : arguments) words += " \"" + argument + "\"";
+    words += " " + std::to_string(reinterpret_cast<std::uintptr_t>(channel));
+    auto line = ToWide(words);
     PROCESS_INFORMATION made{};
     const bool done = CreateProcessW(name.c_str(), line.data(), nullptr, nullptr, TRUE,
                                      CREATE_SUSPENDED | EXTENDED_STARTUPINFO_PRESENT | CREATE_NO_WINDOW,
@@ -207,8 +209,9 @@ class WindowsProcess final : public Process {
 
 }  // namespace
 
-std::unique_ptr<Process> Process::Start(const std::string& program, const std::string& argument) {
-  return std::make_unique<WindowsProcess>(program, argument);
+std::unique_ptr<Process> Process::Start(const std::string& program,
+                                        const std::vector<std::string>& arguments) {
+  return std::make_unique<WindowsProcess>(program, arguments);
 }
 
 }  // namespace kestrel::isolation

@@ -22,15 +22,13 @@ int socketFd = -1;
 std::mutex writing;
 std::atomic<bool> closing = false;
 
-[[noreturn]] void EndNow() { _exit(0); }
-
 /// Runs in a thread of its own, as the main thread may never return from the provider.
 void EndWithOtherSide(int fd) {
   pollfd hangUp{fd, 0, 0};
   while (poll(&hangUp, 1, -1) < 0 && errno == EINTR) {
   }
   if (closing) sleep(kExitSeconds);
-  EndNow();
+  EndProcess();
 }
 
 void ReadAll(void* place, std::size_t size) {
@@ -38,7 +36,7 @@ void ReadAll(void* place, std::size_t size) {
   while (size > 0) {
     const auto got = recv(socketFd, next, size, 0);
     if (got < 0 && errno == EINTR) continue;
-    if (got <= 0) EndNow();
+    if (got <= 0) EndProcess();
     next += got;
     size -= static_cast<std::size_t>(got);
   }
@@ -49,7 +47,7 @@ void WriteAll(const void* bytes, std::size_t size) {
   while (size > 0) {
     const auto sent = send(socketFd, next, size, MSG_NOSIGNAL);
     if (sent < 0 && errno == EINTR) continue;
-    if (sent <= 0) EndNow();
+    if (sent <= 0) EndProcess();
     next += sent;
     size -= static_cast<std::size_t>(sent);
   }
@@ -57,9 +55,11 @@ void WriteAll(const void* bytes, std::size_t size) {
 
 }  // namespace
 
+[[noreturn]] void EndProcess() { _exit(0); }
+
 void Open(const std::string&) {
   socketFd = fcntl(kChannelFd, F_DUPFD_CLOEXEC, kHighFd);
-  if (socketFd < 0) EndNow();
+  if (socketFd < 0) EndProcess();
   close(kChannelFd);
   std::thread(EndWithOtherSide, socketFd).detach();
 }

@@ -13,11 +13,6 @@ OVERLAPPED arriving{};
 FrameHeader header{};
 bool awaited = false;
 
-[[noreturn]] void EndNow() {
-  TerminateProcess(GetCurrentProcess(), 0);
-  ExitProcess(0);
-}
-
 struct Event {
   HANDLE Handle = CreateEventW(nullptr, TRUE, FALSE, nullptr);
 };
@@ -32,8 +27,8 @@ void All(char* next, std::size_t size, Transfer transfer) {
     DWORD done = 0;
     constexpr std::size_t kChunk = 256 << 10;
     const auto now = static_cast<DWORD>(size < kChunk ? size : kChunk);
-    if (!transfer(next, now, &overlapped) && GetLastError() != ERROR_IO_PENDING) EndNow();
-    if (!GetOverlappedResult(pipe, &overlapped, &done, TRUE) || done == 0) EndNow();
+    if (!transfer(next, now, &overlapped) && GetLastError() != ERROR_IO_PENDING) EndProcess();
+    if (!GetOverlappedResult(pipe, &overlapped, &done, TRUE) || done == 0) EndProcess();
     next += done;
     size -= done;
   }
@@ -59,6 +54,11 @@ LONG WINAPI EndWithFault(EXCEPTION_POINTERS* fault) {
 
 }  // namespace
 
+[[noreturn]] void EndProcess() {
+  TerminateProcess(GetCurrentProcess(), 0);
+  ExitProcess(0);
+}
+
 void Open(const std::string& argument) {
   // No dialogs about crashes: the client reports them.
   SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOGPFAULTERRORBOX | SEM_NOOPENFILEERRORBOX);
@@ -75,13 +75,13 @@ HANDLE ArrivalEvent() {
   arriving = {};
   arriving.hEvent = event;
   if (!ReadFile(pipe, &header, sizeof header, nullptr, &arriving) && GetLastError() != ERROR_IO_PENDING)
-    EndNow();
+    EndProcess();
   return event;
 }
 
 Frame Read() {
   DWORD got = 0;
-  if (awaited && !GetOverlappedResult(pipe, &arriving, &got, TRUE)) EndNow();
+  if (awaited && !GetOverlappedResult(pipe, &arriving, &got, TRUE)) EndProcess();
   awaited = false;
   ReadAll(reinterpret_cast<char*>(&header) + got, sizeof header - got);
   Frame frame{header.Kind, {}};
