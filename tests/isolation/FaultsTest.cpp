@@ -1,4 +1,4 @@
-// A provider that misbehaves costs its own process and one call.
+// A faulty provider loses its process and the current call; the client goes on.
 #include <gmock/gmock.h>
 
 #include <csignal>
@@ -20,12 +20,12 @@ using testing::HasSubstr;
 
 namespace {
 
-struct TSpoken {
+struct TFatalFault {
   const char* Fault;
   const char* Words;
 };
-// Each ends the call, and the sentence says how.
-const TSpoken kEnds[] = {
+// Each makes the call fail with a message about how.
+const TFatalFault kFatalFaults[] = {
 #if defined(_WIN32)
     {"crash", ""},
     {"exit", "exit code 7"},
@@ -41,11 +41,11 @@ const char* const kEntries[] = {
 #undef SCC_ENTRY
 };
 
-using TCase = std::tuple<TSpoken, const char*>;
+using TFaultAtEntry = std::tuple<TFatalFault, const char*>;
 
-class Faults : public testing::TestWithParam<TCase> {};
+class Faults : public testing::TestWithParam<TFaultAtEntry> {};
 
-/// Brings the client to where the entry point may be called.
+/// Brings the client into the state in which the entry point may be called.
 void Prepare(TIsolatedClient& client, const std::string& entry) {
   if (entry == "SccInitialize") return;
   ASSERT_EQ(scc::SCC_OK, client.Initialize());
@@ -53,12 +53,12 @@ void Prepare(TIsolatedClient& client, const std::string& entry) {
   ASSERT_EQ(scc::SCC_OK, client.Open());
 }
 
-/// The client goes on as if nothing had been.
-void ExpectGoesOn(TIsolatedClient& client, const std::string& entry) {
+/// The next calls succeed.
+void ExpectClientWorks(TIsolatedClient& client, const std::string& entry) {
   if (client.Context == nullptr) {
     ASSERT_EQ(scc::SCC_OK, client.Initialize());
   }
-  if (entry == "SccCloseProject") client.Call(entry);  // for the one that only threw
+  if (entry == "SccCloseProject") client.Call(entry);  // its first call threw
   if (entry == "SccInitialize" || entry == "SccUninitialize" || entry == "SccOpenProject" ||
       entry == "SccCloseProject") {
     ASSERT_EQ(scc::SCC_OK, client.Open());
@@ -68,27 +68,28 @@ void ExpectGoesOn(TIsolatedClient& client, const std::string& entry) {
   EXPECT_EQ(scc::SCC_STATUS_CONTROLLED, client.Words[0]);
 }
 
-TEST_P(Faults, CostOneCall) {
-  const auto& [spoken, entryName] = GetParam();
+TEST_P(Faults, FailOneCallOnly) {
+  const auto& [fault, entryName] = GetParam();
   const std::string entry = entryName;
   TIsolatedClient client;
   Prepare(client, entry);
-  client.Arm(entry, spoken.Fault);
+  client.Arm(entry, fault.Fault);
   EXPECT_EQ(scc::SCC_E_NONSPECIFICERROR, client.Call(entry));
-  if (entry == "SccUninitialize") return ExpectGoesOn(client, entry);  // nobody listens any more
-  ExpectGoesOn(client, entry);
+  if (entry == "SccUninitialize") return ExpectClientWorks(client, entry);  // there is no callback any more
+  ExpectClientWorks(client, entry);
   EXPECT_THAT(lines, Contains(AllOf(
-                         HasSubstr(entry), HasSubstr(spoken.Words),
+                         HasSubstr(entry), HasSubstr(fault.Words),
                          HasSubstr(entry == "SccInitialize" ? "scripted_provider" : "Scripted provider"))));
 }
 
-INSTANTIATE_TEST_SUITE_P(All, Faults, testing::Combine(testing::ValuesIn(kEnds), testing::ValuesIn(kEntries)),
+INSTANTIATE_TEST_SUITE_P(All, Faults,
+                         testing::Combine(testing::ValuesIn(kFatalFaults), testing::ValuesIn(kEntries)),
                          [](const auto& row) {
                            return std::string(std::get<0>(row.param).Fault) + "_" + std::get<1>(row.param);
                          });
 
-#if !defined(_WIN32)  // there the test of the waiting window ends one
-TEST(FaultsWithoutEnd, AnEndlessLoopEndsWithItsProcess) {
+#if !defined(_WIN32)  // WaitingTest covers it there
+TEST(EndlessLoop, FailsTheCallWhenItsProcessIsKilled) {
   for (const char* entry : kEntries) {
     SCOPED_TRACE(entry);
     TIsolatedClient client;
@@ -100,13 +101,13 @@ TEST(FaultsWithoutEnd, AnEndlessLoopEndsWithItsProcess) {
     });
     EXPECT_EQ(scc::SCC_E_NONSPECIFICERROR, client.Call(entry));
     killer.join();
-    ExpectGoesOn(client, entry);
+    ExpectClientWorks(client, entry);
   }
 }
 #endif
 
-// The provider may last for another call, with memory that is no longer what it was.
-TEST(FaultsOfMemory, NeitherHarmNorStopTheClient) {
+// The provider may survive another call with damaged memory.
+TEST(DamagedMemory, LeavesTheClientWorking) {
   for (const char* fault : {"garble", "junk"})
     for (const char* entry : {"SccQueryInfo", "SccGetProjPath", "SccPopulateList", "SccAddFromScc"}) {
       SCOPED_TRACE(std::string(fault) + " in " + entry);
@@ -115,11 +116,11 @@ TEST(FaultsOfMemory, NeitherHarmNorStopTheClient) {
       client.Arm(entry, fault);
       client.Call(entry);
       client.Status();
-      ExpectGoesOn(client, entry);
+      ExpectClientWorks(client, entry);
     }
 }
 
-TEST(Lines, ArriveWholeAndInOrderWhateverTheirLengthAndThread) {
+TEST(Messages, ArriveCompleteAndInOrderFromAnyThread) {
   TIsolatedClient client;
   Prepare(client, "SccCheckout");
   client.Arm("SccCheckout", "text");
@@ -132,7 +133,7 @@ TEST(Lines, ArriveWholeAndInOrderWhateverTheirLengthAndThread) {
   EXPECT_THAT(lines, Each("threaded"));
 }
 
-TEST(Restarts, EndWhenTheyLeadNowhere) {
+TEST(Restarts, StopAfterThreeFailures) {
   TIsolatedClient client;
   for (int i = 0; i < 3; ++i) {
     client.Arm("SccInitialize", "exit");

@@ -1,4 +1,4 @@
-// The client's windows while a call runs.
+// The client's windows during a long call.
 #include <gmock/gmock.h>
 #include <wx/button.h>
 #include <wx/dialog.h>
@@ -14,7 +14,7 @@ namespace {
 using testing::Contains;
 using testing::HasSubstr;
 
-/// Looks, while a loop runs, for the window that says what is waited for.
+/// Calls `seen` whenever the waiting window is open.
 class TWatcher : public wxTimer {
  public:
   explicit TWatcher(std::function<void(wxDialog&)> seen) : seen_(std::move(seen)) { Start(20); }
@@ -29,7 +29,7 @@ class TWatcher : public wxTimer {
   std::function<void(wxDialog&)> seen_;
 };
 
-TEST(Waiting, PaintsAndOffersStopAndLetsNobodyIn) {
+TEST(Waiting, RepaintsOffersStopAndRefusesNestedCalls) {
   wxFrame frame(nullptr, wxID_ANY, "Client");
   frame.Show();
   int painted = 0;

@@ -1,4 +1,4 @@
-// Frames of a process whose memory is damaged.
+// Frames from a process with damaged memory.
 #include <gtest/gtest.h>
 
 #include "Wire.h"
@@ -11,10 +11,10 @@ using isolation::WireError;
 
 namespace {
 
-/// A length of four bytes, and a few bytes behind it.
+/// A length of four bytes, followed by four bytes.
 std::string WithLength(std::uint32_t length) { return isolation::Serialize(length, std::uint32_t{0}); }
 
-TEST(Wire, RefusesLengthsBeyondTheFrameBeforeItAllocates) {
+TEST(Wire, RejectsLengthsBeyondTheFrame) {
   for (const std::uint32_t length : {5U, 0x7FFFFFFFU, 0xFFFFFFFFU}) {
     const auto body = WithLength(length);
     std::string text;
@@ -26,7 +26,7 @@ TEST(Wire, RefusesLengthsBeyondTheFrameBeforeItAllocates) {
   EXPECT_THROW(FrameReader{"abc"}(word), WireError);
 }
 
-TEST(Wire, KeepsNullNamesAndRefusesListsThatAreNone) {
+TEST(Wire, KeepsNullNamesAndRejectsInvalidLists) {
   NameList names;
   for (const char* name : {"a", static_cast<const char*>(nullptr), ""}) names.Add(name);
   const auto body = isolation::Serialize(names);
@@ -45,7 +45,7 @@ TEST(Wire, KeepsNullNamesAndRefusesListsThatAreNone) {
     try {
       FrameReader{damaged}(list);
       list.Pointers();
-    } catch (const WireError&) {  // or something else that is a list
+    } catch (const WireError&) {  // it may also be a valid list
     }
   }
 }
