@@ -42,7 +42,7 @@ void RegisterProvider(const std::string& library) {
 
 class TProviderLines final : public IProviderSink {
  public:
-  void Line(Kind, const std::string& text) override { std::puts(text.c_str()); }
+  void Line(TSeverity, const std::string& text) override { std::puts(text.c_str()); }
   void Box(const std::string& text) override { std::puts(text.c_str()); }
 };
 
