@@ -39,9 +39,9 @@ scc::Bool SCC_CALL TakeFile(void* callerData, scc::Bool add, scc::Long status, c
 }
 
 /// Names as the API takes them.
-class NameArray {
+class NamePointers {
  public:
-  NameArray(const TDeveloper& developer, const std::vector<std::string>& names) {
+  NamePointers(const TDeveloper& developer, const std::vector<std::string>& names) {
     for (const auto& name : names) texts_.push_back(name.empty() ? developer.Folder() : developer.File(name));
     for (const auto& text : texts_) pointers_.push_back(text.c_str());
     said.clear();
@@ -113,34 +113,34 @@ bool TDeveloper::IsWritable(const std::string& name) const {
 
 scc::Long TDeveloper::Add(const std::vector<std::string>& names, const std::string& comment,
                           scc::Long flags) {
-  NameArray array(*this, names);
+  NamePointers array(*this, names);
   return library_->SccAdd(context_, nullptr, array.Count(), array.Data(), comment.c_str(), &flags, nullptr);
 }
 
 scc::Long TDeveloper::CheckOut(const std::vector<std::string>& names, const std::string& comment) {
-  NameArray array(*this, names);
+  NamePointers array(*this, names);
   return library_->SccCheckOut(context_, nullptr, array.Count(), array.Data(), comment.c_str(), 0, nullptr);
 }
 
 scc::Long TDeveloper::CheckIn(const std::vector<std::string>& names, const std::string& comment,
                               scc::Long flags) {
-  NameArray array(*this, names);
+  NamePointers array(*this, names);
   return library_->SccCheckin(context_, nullptr, array.Count(), array.Data(), comment.c_str(), flags,
                               nullptr);
 }
 
 scc::Long TDeveloper::Undo(const std::vector<std::string>& names) {
-  NameArray array(*this, names);
+  NamePointers array(*this, names);
   return library_->SccUncheckout(context_, nullptr, array.Count(), array.Data(), 0, nullptr);
 }
 
 scc::Long TDeveloper::Remove(const std::vector<std::string>& names, const std::string& comment) {
-  NameArray array(*this, names);
+  NamePointers array(*this, names);
   return library_->SccRemove(context_, nullptr, array.Count(), array.Data(), comment.c_str(), 0, nullptr);
 }
 
 scc::Long TDeveloper::Get(const std::vector<std::string>& names, scc::Long flags) {
-  NameArray array(*this, names);
+  NamePointers array(*this, names);
   return library_->SccGet(context_, nullptr, array.Count(), array.Data(), flags, nullptr);
 }
 
@@ -150,7 +150,7 @@ scc::Long TDeveloper::QuickDiff(const std::string& name, scc::Long flags) {
 }
 
 std::vector<scc::Long> TDeveloper::Statuses(const std::vector<std::string>& names, scc::Long expected) {
-  NameArray array(*this, names);
+  NamePointers array(*this, names);
   std::vector<scc::Long> statuses(names.size(), scc::SCC_STATUS_INVALID);
   EXPECT_EQ(expected, library_->SccQueryInfo(context_, array.Count(), array.Data(), statuses.data())) << said;
   return statuses;
@@ -158,7 +158,7 @@ std::vector<scc::Long> TDeveloper::Statuses(const std::vector<std::string>& name
 
 TPopulated TDeveloper::Populate(scc::SCCCommand command, const std::vector<std::string>& names,
                                 scc::Long flags) {
-  NameArray array(*this, names);
+  NamePointers array(*this, names);
   TPopulated list;
   list.Statuses.assign(names.size(), scc::SCC_STATUS_INVALID);
   list.Result = library_->SccPopulateList(context_, command, array.Count(), array.Data(), TakeFile, &list,

@@ -15,10 +15,10 @@ namespace kestrel::svnscc {
 namespace {
 
 using std::filesystem::path;
-using Names = std::vector<std::string>;
+using NameList = std::vector<std::string>;
 
-const Names kFiles{"a.txt", "d/b.txt", "d/c.dat", "d/e/f.txt", "g/h.txt"};
-const Names kFolders{"d", "d/e", "g"};
+const NameList kFiles{"a.txt", "d/b.txt", "d/c.dat", "d/e/f.txt", "g/h.txt"};
+const NameList kFolders{"d", "d/e", "g"};
 
 constexpr scc::Long kOut =
     scc::SCC_STATUS_OUTBYUSER | scc::SCC_STATUS_OUTOTHER | scc::SCC_STATUS_OUTEXCLUSIVE;
@@ -28,8 +28,8 @@ std::set<std::string> TokensIn(const std::string& text) {
   return {std::sregex_token_iterator(text.begin(), text.end(), token), std::sregex_token_iterator()};
 }
 
-Names LinesOf(const std::string& text) {
-  Names lines;
+NameList LinesOf(const std::string& text) {
+  NameList lines;
   std::istringstream stream(text);
   for (std::string line; std::getline(stream, line);) lines.push_back(line);
   return lines;
@@ -88,8 +88,8 @@ void TRandomWork::Run(int steps) {
 
 const std::string& TRandomWork::AnyFile() { return kFiles[Roll(static_cast<unsigned>(kFiles.size()))]; }
 
-Names TRandomWork::SomeFiles() {
-  Names names{AnyFile()};
+NameList TRandomWork::SomeFiles() {
+  NameList names{AnyFile()};
   while (Chance(35)) names.push_back(AnyFile());
   return names;
 }
@@ -106,7 +106,7 @@ void TRandomWork::Save(TUser& user, const std::string& name, const std::string& 
 
 /// Somebody who edits a file keeps what stands there, but for the line in hand; marks of a conflict are edited away.
 void TRandomWork::Type(TUser& user, const std::string& name) {
-  Names lines = user.developer.Has(name) ? LinesOf(user.developer.Read(name)) : Names{"", "-", "", "-", ""};
+  NameList lines = user.developer.Has(name) ? LinesOf(user.developer.Read(name)) : NameList{"", "-", "", "-", ""};
   if (std::any_of(lines.begin(), lines.end(), IsMark)) {
     std::erase_if(lines, IsMark);
     lines.push_back(Token());
@@ -136,7 +136,7 @@ void TRandomWork::Step(TUser& user) {
 
 void TRandomWork::Command(TUser& user) {
   TDeveloper& work = user.developer;
-  Names names = SomeFiles();
+  NameList names = SomeFiles();
   const Texts diskBefore = OnDisk(user);
   const Texts headBefore = InHead();
   const scc::Long keep = Chance(30) ? scc::SCC_KEEP_CHECKEDOUT : 0;
@@ -209,8 +209,8 @@ void TRandomWork::WorkWithPlainSvn() {
     case 1:
     case 2: {
       const std::string name = AnyFile();
-      Names lines = repository_.Exists("p/" + name) ? LinesOf(repository_.Contents("p/" + name))
-                                                    : Names{"", "-", "", "-", ""};
+      NameList lines = repository_.Exists("p/" + name) ? LinesOf(repository_.Contents("p/" + name))
+                                                    : NameList{"", "-", "", "-", ""};
       lines[Roll(static_cast<unsigned>(lines.size()))] = Token();
       std::string text;
       for (const auto& line : lines) text += line + "\n";
@@ -289,7 +289,7 @@ void TRandomWork::CheckHandedIn(const TUser& user, const Texts& before, const Te
 }
 
 /// Copies and what Subversion puts beside a conflict may come; what was there stays, but for conflicts that end.
-void TRandomWork::CheckUnnamed(const TUser& user, const Texts& before, const Names& named) {
+void TRandomWork::CheckUnnamed(const TUser& user, const Texts& before, const NameList& named) {
   const Texts after = OnDisk(user);
   for (const auto& [name, text] : before) {
     if (IsArtefact(name) || std::find(named.begin(), named.end(), name) != named.end()) continue;
@@ -350,7 +350,7 @@ void TRandomWork::CheckPlainStatus(TUser& user) {
   const std::string output = temporary / "status";
   const std::string line = "cd '" + user.developer.Folder() + "' && svn status -uv >" + output;
   Require(std::system(line.c_str()) == 0, "svn status -u failed");
-  const Names words = LinesOf(ReadWholeFile(output));
+  const NameList words = LinesOf(ReadWholeFile(output));
   const auto find = [&](const std::string& name) {
     return std::find_if(words.begin(), words.end(),
                         [&](const auto& word) { return word.size() > 9 && word.ends_with(" " + name); });
