@@ -29,7 +29,7 @@ TEST_F(WizardsCodePage, BoundsATargetAsTheProviderGetsIt) {
       {"C:\\名前", "Providers cannot take C:\\名前"},
   };
   for (const auto& row : rows) {
-    TPullProjectController pages(*expert_);
+    TPullProjectController pages(expert_->Context());
     pages.FormCreate(0);
     pages.NextFinishButtonClick();
     pages.TargetDirectoryChange(row.target);
