@@ -33,7 +33,8 @@ foreach(name program IN ZIP_LISTS link_names link_programs)
 endforeach()
 install(FILES ${packaging}/kestrelide.desktop DESTINATION share/applications)
 install(FILES ${packaging}/kestrelide.svg DESTINATION share/icons/hicolor/scalable/apps)
-install(FILES ${packaging}/copyright README.md SECURITY.md docs/architecture.md DESTINATION share/doc/kestrelide)
+install(FILES ${packaging}/copyright README.md CHANGELOG.md CONTRIBUTING.md SECURITY.md DESTINATION share/doc/kestrelide)
+install(DIRECTORY docs DESTINATION share/doc/kestrelide)  # where README.md links to
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME kestrelide)
