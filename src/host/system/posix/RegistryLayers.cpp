@@ -28,7 +28,7 @@ std::string HomeDirectory() {
   return user ? user->pw_dir : "/";
 }
 
-/// The user's directory for registry files.  A relative XDG_CONFIG_HOME is ignored, as its specification demands.
+/// The user's directory for registry files.  A relative XDG_CONFIG_HOME is ignored, as the XDG rules demand.
 std::string UserDirectory() {
   const auto config = Environment("XDG_CONFIG_HOME");
   const auto base =
