@@ -93,6 +93,10 @@ void CommitAll(benchmark::State& state) {
 }
 BENCHMARK(CommitAll)->Arg(1024)->Arg(8192)->Arg(65536)->Unit(benchmark::kMillisecond)->MinTime(2);
 
+}  // namespace
+
+namespace kestrel {
+
 class TBenchApp final : public wxApp {
  public:
   bool OnInit() override {
@@ -101,9 +105,9 @@ class TBenchApp final : public wxApp {
   }
 };
 
-}  // namespace
+}  // namespace kestrel
 
-wxIMPLEMENT_APP_NO_MAIN(TBenchApp);
+wxIMPLEMENT_APP_NO_MAIN(kestrel::TBenchApp);
 
 int main(int argc, char** argv) {
   benchmark::Initialize(&argc, argv);
