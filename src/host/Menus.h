@@ -55,10 +55,13 @@ struct TFileMenu {
     std::string Caption;                                         ///< "-" is a separator
     int ImageIndex = -1;                                         ///< in the host's image list; -1 for none
     std::function<void(const std::string& fileName)> OnExecute;  ///< must not throw
+    /// Whether this item is enabled for that file, if the menu is; null: always.
+    std::function<bool(const std::string& fileName)> IsEnabled = {};
   };
   std::string Caption;  ///< of the submenu
   std::vector<TItem> Items;
-  /// Whether the items are enabled for that file.  Called each time the menu is about to show, so it must be fast.
+  /// Whether any item is enabled for that file.  Called, like that of the items, each time the menu is about to show, so
+  /// it must be fast.
   std::function<bool(const std::string& fileName)> IsEnabled;
 };
 
