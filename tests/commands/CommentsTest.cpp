@@ -1,12 +1,8 @@
-#include <gmock/gmock.h>
-
 #include "commands/Comments.h"
 #include "support/ModalScript.h"
 #include "toolkit/WxText.h"
 
 namespace kestrel::addin {
-
-using testing::ElementsAre;
 
 namespace {
 

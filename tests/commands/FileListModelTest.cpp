@@ -1,11 +1,8 @@
-#include <gmock/gmock.h>
-
 #include "expert/FileListModel.h"
 #include "support/NativePath.h"
+#include "support/Testing.h"
 
 namespace kestrel::addin {
-
-using testing::ElementsAre;
 
 namespace {
 

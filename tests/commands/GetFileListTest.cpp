@@ -1,5 +1,3 @@
-#include <gmock/gmock.h>
-
 #include "commands/GetFileList.h"
 #include "expert/SccExpert.h"
 #include "support/ModalScript.h"
@@ -11,8 +9,6 @@
 #include "toolkit/WxText.h"
 
 namespace kestrel::addin {
-
-using testing::ElementsAre;
 
 namespace {
 

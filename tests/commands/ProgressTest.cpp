@@ -1,4 +1,3 @@
-#include <gmock/gmock.h>
 #include <wx/eventfilter.h>
 #include <wx/evtloop.h>
 
@@ -9,8 +8,6 @@
 
 namespace kestrel::addin {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
 using namespace std::chrono_literals;
 
 namespace {

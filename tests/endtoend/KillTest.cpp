@@ -1,6 +1,4 @@
 // The Subversion provider's process is killed in the middle of its work.
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <csignal>

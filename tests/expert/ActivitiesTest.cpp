@@ -69,8 +69,7 @@ TEST_F(Reentrance, AProviderCallHasTheProviderToItself) {
   provider_->Calls.clear();
   expert.RunCommand("%s", [&] { expert.ShowDiff(units_[0]); });
   EXPECT_THAT(provider_->Entries(), ElementsAre("SccDiff", "SccCloseProject", "SccUninitialize"));
-  EXPECT_THAT(forms_.LinesOf(mwtInfo),
-              testing::IsSupersetOf({"CheckFilesInClick; " + kBusy, "MainMenu; " + kBusy}));
+  EXPECT_THAT(forms_.LinesOf(mwtInfo), IsSupersetOf({"CheckFilesInClick; " + kBusy, "MainMenu; " + kBusy}));
 }
 
 TEST_F(Reentrance, WhatTheHostSaysWhileAProviderIsChosenIsHandledAfterwards) {

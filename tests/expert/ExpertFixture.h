@@ -2,13 +2,8 @@
 // every window.
 #pragma once
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <memory>
-#include <string>
-#include <vector>
 
 #include "expert/SccExpert.h"
 #include "host/Errors.h"
@@ -18,18 +13,12 @@
 #include "support/ScriptedProvider.h"
 #include "support/TemporaryFolder.h"
 #include "support/TestRegistry.h"
+#include "support/Testing.h"
 #include "system/Paths.h"
 #include "system/Registry.h"
 #include "ui/ExpertMainMenu.h"
 
 namespace kestrel::addin {
-
-using testing::Contains;
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
-using testing::Not;
-using testing::UnorderedElementsAre;
 
 inline constexpr const char* kScripted = "Scripted";
 

@@ -54,7 +54,7 @@ TEST_F(TeamMenu, FollowsTheStatusOfTheFiles) {
     SCOPED_TRACE(row.Name);
     SetMappedStatus(row.Status);
     Drop();
-    EXPECT_THAT(Enabled(), testing::ElementsAreArray(row.Items));
+    EXPECT_THAT(Enabled(), ElementsAreArray(row.Items));
   }
 }
 

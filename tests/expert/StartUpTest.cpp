@@ -44,9 +44,9 @@ TEST_F(StartUp, ProviderTextReachesTheWindowWithItsKind) {
   provider_->Texts["SccOpenProject"] = {
       {1, "hello"}, {2, "careful"}, {3, "broken"}, {4, "status"}, {1, std::nullopt}};
   Open();
-  EXPECT_THAT(forms_.Lines, testing::IsSupersetOf({std::pair(mwtInfo, std::string("hello")),
-                                                   std::pair(mwtWarning, std::string("careful")),
-                                                   std::pair(mwtError, std::string("broken"))}));
+  EXPECT_THAT(forms_.Lines, IsSupersetOf({std::pair(mwtInfo, std::string("hello")),
+                                          std::pair(mwtWarning, std::string("careful")),
+                                          std::pair(mwtError, std::string("broken"))}));
 }
 
 TEST_F(StartUp, MessagesComeErrorFirst) {

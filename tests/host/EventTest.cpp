@@ -1,13 +1,7 @@
-#include <gmock/gmock.h>
-
-#include <string>
-#include <vector>
-
 #include "host/Event.h"
+#include "support/Testing.h"
 
 namespace kestrel {
-
-using testing::ElementsAre;
 
 TEST(Event, HandlersMayUnsubscribeThemselvesAndLaterOnesAndSubscribeWhileItFires) {
   TEvent<> event;

@@ -1,24 +1,17 @@
-#include <gmock/gmock.h>
 #include <unistd.h>
 
 #include <chrono>
-#include <filesystem>
 #include <functional>
 #include <stdexcept>
 #include <thread>
-#include <vector>
 
 #include "support/TemporaryFolder.h"
+#include "support/Testing.h"
 #include "system/FileName.h"
 #include "system/Paths.h"
 #include "system/System.h"
 
 namespace kestrel {
-
-namespace fs = std::filesystem;
-using testing::HasSubstr;
-using testing::ThrowsMessage;
-using testing::UnorderedElementsAre;
 
 namespace {
 

@@ -1,16 +1,12 @@
-#include <gmock/gmock.h>
-
 #include <functional>
 #include <random>
 
+#include "support/Testing.h"
 #include "system/IniText.h"
 #include "system/Text.h"
 
 namespace kestrel {
 
-using testing::ElementsAre;
-using testing::ElementsAreArray;
-using testing::IsEmpty;
 using TPercent = TIniText::TPercent;
 
 namespace {

@@ -1,16 +1,9 @@
-#include <gmock/gmock.h>
-
-#include <filesystem>
-
 #include "support/TemporaryFolder.h"
+#include "support/Testing.h"
 #include "system/Library.h"
 #include "system/Paths.h"
 
 namespace kestrel {
-
-using testing::HasSubstr;
-using testing::IsEmpty;
-using testing::Not;
 
 TEST(Library, LoadsFindsAndReleases) {
   const auto module = LoadModule(TINY_PROVIDER);

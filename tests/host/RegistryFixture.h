@@ -1,12 +1,8 @@
 // Values and keys in a registry that is empty at the beginning.
 #pragma once
 
-#include <gmock/gmock.h>
-
-#include <string>
-#include <vector>
-
 #include "support/TestRegistry.h"
+#include "support/Testing.h"
 #include "system/Registry.h"
 
 namespace kestrel {

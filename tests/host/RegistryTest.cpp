@@ -4,9 +4,6 @@
 
 namespace kestrel {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
-
 namespace {
 
 TEST_F(Registry, KeepsValuesUnderNamesWhoseCaseDoesNotCount) {

@@ -1,23 +1,18 @@
 // Drives the real program: on POSIX with a registry of its own, on Windows with the machine's.
-#include <gmock/gmock.h>
 
-#include <filesystem>
 #include <sstream>
 
 #include "provider/sccapiintf.h"
 #include "support/Environment.h"
 #include "support/RunProgram.h"
 #include "support/TemporaryFolder.h"
+#include "support/Testing.h"
 #include "system/FileName.h"
 #include "system/Paths.h"
 #include "system/Registry.h"
 #include "system/System.h"
 
 namespace kestrel {
-
-using testing::HasSubstr;
-using testing::IsEmpty;
-using testing::UnorderedElementsAre;
 
 using namespace addin;
 

@@ -1,16 +1,12 @@
-#include <gtest/gtest.h>
-
-#include <filesystem>
 #include <map>
 
 #include "support/TemporaryFolder.h"
+#include "support/Testing.h"
 #include "system/FileName.h"
 #include "system/Paths.h"
 #include "system/System.h"
 
 namespace kestrel {
-
-namespace fs = std::filesystem;
 
 TEST(System, CompletesANameFromTheCurrentDirectory) {
   const auto here = FromFilePath(fs::current_path());

@@ -1,5 +1,4 @@
-#include <gtest/gtest.h>
-
+#include "support/Testing.h"
 #include "system/Text.h"
 
 namespace kestrel {

@@ -1,22 +1,16 @@
 // A faulty provider loses its process and the current call; the client goes on.
-#include <gmock/gmock.h>
 
 #include <csignal>
-#include <filesystem>
 #include <thread>
 #include <tuple>
 
 #include "isolation/Client.h"
+#include "support/Testing.h"
 #if !defined(_WIN32)
 #include "isolation/ChildProcesses.h"
 #endif
 
 namespace kestrel::isolation {
-
-using testing::AllOf;
-using testing::Contains;
-using testing::Each;
-using testing::HasSubstr;
 
 namespace {
 
@@ -125,7 +119,7 @@ TEST(Messages, ArriveCompleteAndInOrderFromAnyThread) {
   Prepare(client, "SccCheckout");
   client.Arm("SccCheckout", "text");
   EXPECT_EQ(scc::SCC_OK, client.Call("SccCheckout"));
-  EXPECT_THAT(lines, testing::ElementsAre(std::string(10 << 20, 'x')));
+  EXPECT_THAT(lines, ElementsAre(std::string(10 << 20, 'x')));
   lines.clear();
   client.Arm("SccCheckout", "threads");
   EXPECT_EQ(scc::SCC_OK, client.Call("SccCheckout"));

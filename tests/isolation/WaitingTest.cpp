@@ -1,18 +1,15 @@
 // The client's windows during a long call.
-#include <gmock/gmock.h>
 #include <wx/button.h>
 #include <wx/dialog.h>
 #include <wx/frame.h>
 #include <wx/timer.h>
 
 #include "isolation/Client.h"
+#include "support/Testing.h"
 
 namespace kestrel::isolation {
 
 namespace {
-
-using testing::Contains;
-using testing::HasSubstr;
 
 /// Calls `seen` whenever the waiting window is open.
 class TWatcher : public wxTimer {

@@ -1,7 +1,7 @@
 // Frames from a process with damaged memory.
-#include <gtest/gtest.h>
 
 #include "Wire.h"
+#include "support/Testing.h"
 
 namespace kestrel::isolation {
 

@@ -10,11 +10,6 @@ namespace kestrel::addin {
 
 namespace {
 
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
-using testing::SizeIs;
-
 scc::Bool SCC_CALL Ignore(void*, scc::Bool, scc::Long, const char*) noexcept { return -1; }
 
 /// Every operation of a session, with what it returns after an exception of the provider.

@@ -1,7 +1,6 @@
-#include <gtest/gtest.h>
-
 #include "provider/sccapiintf.h"
 #include "support/TestRegistry.h"
+#include "support/Testing.h"
 #include "system/Registry.h"
 
 namespace kestrel::addin {

@@ -4,10 +4,6 @@ namespace kestrel::addin {
 
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
-using testing::MatchesRegex;
-
 using FileCommands = SessionTest;
 
 const TStringList kFiles = {"/p/a.pas", "/p/\u00fcber.pas", "/p/c d.pas"};

@@ -1,18 +1,14 @@
 // What the provider tests share: a sink that remembers, and a session on the scripted provider.
 #pragma once
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <memory>
-#include <string>
 #include <utility>
-#include <vector>
 
 #include "host/Errors.h"
 #include "provider/sccapi.h"
 #include "provider/sccapiintf.h"
 #include "support/ScriptedProvider.h"
+#include "support/Testing.h"
 
 namespace kestrel::addin {
 

@@ -4,8 +4,6 @@ namespace kestrel::addin {
 
 namespace {
 
-using testing::ElementsAre;
-
 struct ProviderList : testing::Test {
   ScriptedProviderLibrary provider;
   RecordingSink sink;
@@ -67,7 +65,7 @@ TEST_F(ProviderList, GoesOnWhenTheProviderDoesNotStart) {
     EXPECT_EQ(list.InitializeError(), row.Error);
     EXPECT_TRUE(list.Capabilities().test(pcSccRemove));
   }
-  EXPECT_THAT(sink.Lines, testing::IsEmpty());
+  EXPECT_THAT(sink.Lines, IsEmpty());
 }
 
 TEST_F(ProviderList, FindsSessionsByWholePathIgnoringCase) {

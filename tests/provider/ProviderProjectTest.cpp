@@ -4,10 +4,6 @@ namespace kestrel::addin {
 
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
-using testing::StartsWith;
-
 using ProviderProject = SessionTest;
 
 TEST_F(ProviderProject, ChoosingAProjectBringsBackWhatTheProviderWrote) {

@@ -6,9 +6,6 @@ namespace kestrel::addin {
 
 namespace {
 
-using testing::ElementsAre;
-using testing::SizeIs;
-
 TStateMessages Decoded(scc::Long code) {
   TStateMessages messages{"old", "old", "old"};
   DecodeReturnCode(code, messages);

@@ -1,5 +1,4 @@
 // Getting files that only the repository has, and the dialogs of command options: through the loaded library.
-#include <gmock/gmock.h>
 #include <wx/listctrl.h>
 #include <wx/radiobut.h>
 #include <wx/spinctrl.h>
@@ -8,8 +7,6 @@
 #include "WindowControls.h"
 
 namespace kestrel::svnscc {
-
-using testing::ElementsAre;
 
 namespace {
 
@@ -54,7 +51,7 @@ TEST_F(Picking, GetsTheFilesThatAreTickedAndHandsTheirNamesOut) {
 
   ann.GetEverything();
   script.Expect<wxDialog>([](wxDialog& dialog) {
-    EXPECT_THAT(Offered(dialog), testing::IsEmpty());
+    EXPECT_THAT(Offered(dialog), IsEmpty());
     dialog.SetReturnCode(wxID_CANCEL);
   });
   names = nullptr;

@@ -1,12 +1,8 @@
 // Adding, removing and getting files.
-#include <gmock/gmock.h>
 
 #include "Developer.h"
 
 namespace kestrel::svnscc {
-
-using testing::HasSubstr;
-using testing::Not;
 
 namespace {
 using Files = TTeam;

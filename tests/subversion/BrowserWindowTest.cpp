@@ -1,5 +1,4 @@
 // The repository browser and the window of properties, through the loaded library.
-#include <gmock/gmock.h>
 #include <wx/listctrl.h>
 #include <wx/treectrl.h>
 
@@ -7,8 +6,6 @@
 #include "WindowControls.h"
 
 namespace kestrel::svnscc {
-
-using testing::HasSubstr;
 
 namespace {
 

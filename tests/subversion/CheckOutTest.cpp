@@ -1,12 +1,9 @@
 // Check-out, check-in and undo, alone and with a colleague.
-#include <gmock/gmock.h>
 
 #include "Developer.h"
 #include "subversion/commands/Commands.h"
 
 namespace kestrel::svnscc {
-
-using testing::HasSubstr;
 
 namespace {
 
@@ -141,7 +138,7 @@ TEST_F(CheckOut, AsksAboutAConflictThatCannotBeMerged) {
     const svnscc::Names get(paths.data(), 2);
     questions.Answer = false;
     EXPECT_EQ(scc::SCC_E_FIXMERGE, svnscc::GetFiles(session, get, {}));
-    EXPECT_THAT(questions.Asked, testing::AllOf(HasSubstr("kept.dat"), HasSubstr("gone.pas")));
+    EXPECT_THAT(questions.Asked, AllOf(HasSubstr("kept.dat"), HasSubstr("gone.pas")));
     EXPECT_EQ("bob\n", bob.Read("kept.dat"));
     EXPECT_EQ("bob\n", bob.Read("gone.pas"));
     questions.Answer = true;
@@ -166,7 +163,7 @@ TEST_F(CheckOut, ReportsALostLockAndWhoTookIt) {
   bob.CheckOut({"unit1.pas"});
   EXPECT_EQ(kOutByOther | kModified, ann.Status("unit1.pas"));
   EXPECT_NE(scc::SCC_OK, ann.CheckIn({"unit1.pas"}));
-  EXPECT_THAT(ann.Said(), testing::EndsWith("\nE unit1.pas: bob has it checked out\n"));
+  EXPECT_THAT(ann.Said(), EndsWith("\nE unit1.pas: bob has it checked out\n"));
 
   bob.Write("unit1.pas", "his\n");
   bob.CheckIn({"unit1.pas"});

@@ -1,5 +1,4 @@
 // Options of commands: the blocks that travel through a client, and what the options do.
-#include <gmock/gmock.h>
 #include <svn_props.h>
 
 #include <list>

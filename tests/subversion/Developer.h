@@ -1,15 +1,12 @@
 // Somebody at work: the provider library loaded as clients load it, a folder, and verbs.
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <map>
-#include <string>
-#include <vector>
 
 #include "TestRepository.h"
 #include "subversion/svn/ProviderContext.h"
 #include "support/EntryPoints.h"
+#include "support/Testing.h"
 
 namespace kestrel::svnscc {
 

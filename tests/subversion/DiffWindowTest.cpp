@@ -1,12 +1,9 @@
 // The difference window, through SccDiff of the loaded library.
-#include <gmock/gmock.h>
 
 #include "Developer.h"
 #include "WindowControls.h"
 
 namespace kestrel::svnscc {
-
-using testing::HasSubstr;
 
 namespace {
 

@@ -1,12 +1,8 @@
 // Status events, and the cancel button.
-#include <gmock/gmock.h>
 
 #include "Developer.h"
 
 namespace kestrel::svnscc {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 namespace {
 
@@ -52,7 +48,7 @@ TEST_F(Events, ReportWhatTheClientDoesNotKnow) {
   EXPECT_THAT(Drain(), IsEmpty());
   bob.Undo({"a.pas", "b.pas"});
   ann.Populate(scc::SCC_COMMAND_CHECKOUT, {});
-  EXPECT_THAT(Drain(), testing::UnorderedElementsAre("a.pas=1", "b.pas=1"));
+  EXPECT_THAT(Drain(), UnorderedElementsAre("a.pas=1", "b.pas=1"));
 }
 
 TEST_F(Events, ReportWhatOwnCommandsDidUnlessTheQueueIsDisabled) {
@@ -73,12 +69,12 @@ TEST_F(Events, ReportWhatOwnCommandsDidUnlessTheQueueIsDisabled) {
 TEST_F(Events, CancelButtonEndsACommand) {
   ann.CheckOut({"a.pas"});
   EXPECT_THAT(ann.Said(),
-              testing::Not(testing::HasSubstr("?")));  // no such client: nothing of the kind is sent
+              Not(HasSubstr("?")));  // no such client: nothing of the kind is sent
   Set(scc::SCC_OPT_HASCANCELMODE, 1);
   ann.Undo({"a.pas"});
-  EXPECT_THAT(ann.Said(), testing::StartsWith("? 6\n? 5\n"));
-  EXPECT_THAT(ann.Said(), testing::HasSubstr("? 4 a.pas\n"));
-  EXPECT_THAT(ann.Said(), testing::EndsWith("? 7\n"));
+  EXPECT_THAT(ann.Said(), StartsWith("? 6\n? 5\n"));
+  EXPECT_THAT(ann.Said(), HasSubstr("? 4 a.pas\n"));
+  EXPECT_THAT(ann.Said(), EndsWith("? 7\n"));
   {
     const TCancelPressed pressed;
     EXPECT_EQ(scc::SCC_I_OPERATIONCANCELED, ann.CheckOut({"a.pas", "b.pas"}));
@@ -111,7 +107,7 @@ TEST_F(Events, ACancelledCommandLeavesNoLockBehind) {
   }
   EXPECT_EQ(0, std::system(("svn update -q --non-interactive --depth empty '" + ann.Folder() + "'").c_str()));
   EXPECT_EQ(scc::SCC_OK, ann.GetEverything()) << ann.Said();
-  EXPECT_THAT(ann.Statuses(names), testing::Each(1));
+  EXPECT_THAT(ann.Statuses(names), Each(1));
 }
 
 }  // namespace kestrel::svnscc

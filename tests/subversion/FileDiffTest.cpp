@@ -1,10 +1,10 @@
 // The rules of the side-by-side view.
-#include <gmock/gmock.h>
 
 #include <random>
 
 #include "common/text/FileDiff.h"
 #include "subversion/svn/Client.h"
+#include "support/Testing.h"
 
 namespace kestrel::svnscc {
 
@@ -91,7 +91,7 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(FileDiff, WalksFromDifferenceToDifference) {
   EnsureRuntime();
   FileDiff diff("1\nb\nc\n2\nd\n", "one\nb\nc\ntwo\nd\ne\n", kExact);
-  EXPECT_THAT(diff.Differences(), testing::ElementsAre(0, 3, 5));
+  EXPECT_THAT(diff.Differences(), ElementsAre(0, 3, 5));
   EXPECT_EQ(3U, diff.Next(0));
   EXPECT_EQ(5U, diff.Next(4));
   EXPECT_EQ(std::nullopt, diff.Next(5));

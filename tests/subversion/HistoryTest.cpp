@@ -1,13 +1,10 @@
 // The revisions of a file, and getting one of them, without the window.
-#include <gmock/gmock.h>
 
 #include "Developer.h"
 #include "subversion/commands/GetRevision.h"
 #include "subversion/svn/History.h"
 
 namespace kestrel::svnscc {
-
-using testing::ElementsAre;
 
 namespace {
 

@@ -1,13 +1,10 @@
 // The history window, through SccHistory of the loaded library.
-#include <gmock/gmock.h>
 #include <wx/listctrl.h>
 
 #include "Developer.h"
 #include "WindowControls.h"
 
 namespace kestrel::svnscc {
-
-using testing::HasSubstr;
 
 namespace {
 

@@ -1,5 +1,4 @@
 // The library itself: loading, the names it exports, clients that call it wrongly.
-#include <gmock/gmock.h>
 
 #include <array>
 #include <clocale>

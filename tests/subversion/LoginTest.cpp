@@ -1,13 +1,10 @@
 // The login that a server asks for, answered in the provider's window.
-#include <gmock/gmock.h>
 
 #include "Developer.h"
 #include "Server.h"
 #include "WindowControls.h"
 
 namespace kestrel::svnscc {
-
-using testing::HasSubstr;
 
 namespace {
 

@@ -1,14 +1,8 @@
 // Filling a client's file list.
-#include <gmock/gmock.h>
 
 #include "Developer.h"
 
 namespace kestrel::svnscc {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
-using testing::Pair;
-using testing::UnorderedElementsAre;
 
 namespace {
 

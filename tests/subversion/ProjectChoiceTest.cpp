@@ -1,5 +1,4 @@
 // The rules of the project dialog, without its window.
-#include <gmock/gmock.h>
 
 #include "Developer.h"
 #include "subversion/project/ProjectChoice.h"
@@ -10,9 +9,6 @@ namespace kestrel::svnscc {
 
 using svnscc::ProjectChoice;
 using svnscc::ProjectRequest;
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
 
 namespace {
 

@@ -1,5 +1,4 @@
 // The project dialog as a client gets it: through SccGetProjPath of the loaded library.
-#include <gmock/gmock.h>
 #include <wx/treectrl.h>
 
 #include <array>
@@ -53,7 +52,7 @@ TEST_F(ProjectDialog, ShowsTheProjectThatWasBoundBefore) {
     wxTheApp->CallAfter([dialog, this] {
       auto* tree = Find<wxTreeCtrl>(*dialog, "folders");
       EXPECT_EQ(wxString::FromUTF8("Größe"), tree->GetItemText(tree->GetSelection()));
-      EXPECT_THAT(Message(*dialog), testing::HasSubstr(repository.Url() + "/trunk/Größe"));
+      EXPECT_THAT(Message(*dialog), HasSubstr(repository.Url() + "/trunk/Größe"));
       EXPECT_TRUE(Ok(*dialog)->IsEnabled());
       dialog->EndModal(wxID_CANCEL);
     });
@@ -74,14 +73,14 @@ TEST_F(ProjectDialog, AsksBeforeAProjectUsesARepositoryForTheFirstTime) {
       const std::string text = box.GetMessage().utf8_string();
       for (const std::string& part : {ann.File("Flight.cdp"), url, std::string("/trunk"),
                                       std::string("User name: ann"), std::string(expected)})
-        EXPECT_THAT(text, testing::HasSubstr(part));
+        EXPECT_THAT(text, HasSubstr(part));
       EXPECT_NE(0, box.GetMessageDialogStyle() & wxNO_DEFAULT);
       box.SetReturnCode(code);
     });
   };
   answer(wxID_NO, "created there if it does not exist");
   EXPECT_EQ(scc::SCC_E_OPNOTPERFORMED, ann.OpenMapped(url, "trunk"));
-  EXPECT_THAT(ann.Said(), testing::HasSubstr("You chose not to use the repository"));
+  EXPECT_THAT(ann.Said(), HasSubstr("You chose not to use the repository"));
   EXPECT_FALSE(std::filesystem::exists(ann.File(".svn")));
   EXPECT_EQ(scc::SCC_E_OPNOTPERFORMED, ann.OpenMapped(url, "trunk", scc::SCC_OP_SILENTOPEN))
       << "asks nothing";
@@ -93,7 +92,7 @@ TEST_F(ProjectDialog, AsksBeforeAProjectUsesARepositoryForTheFirstTime) {
   TDeveloper bob("bob");
   EXPECT_EQ(scc::SCC_OK, bob.OpenMapped(url, "trunk")) << "the same repository, from another folder";
   script.Expect<wxMessageDialog>([](wxMessageDialog& box) {
-    EXPECT_THAT(box.GetMessage().utf8_string(), testing::HasSubstr("The folder will be created there."));
+    EXPECT_THAT(box.GetMessage().utf8_string(), HasSubstr("The folder will be created there."));
     box.SetReturnCode(wxID_CANCEL);
   });
   TDeveloper carla("carla");

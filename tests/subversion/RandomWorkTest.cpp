@@ -1,5 +1,4 @@
 // Two users and plain `svn` at random: no command loses work, and every state has a way out.
-#include <gtest/gtest.h>
 
 #include "RandomWork.h"
 

@@ -1,12 +1,9 @@
 // Renaming in the repository: the file on disk is the client's.
-#include <gmock/gmock.h>
 
 #include "Developer.h"
 #include "system/System.h"
 
 namespace kestrel::svnscc {
-
-using testing::HasSubstr;
 
 namespace {
 

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <arpa/inet.h>
-#include <gtest/gtest.h>
 #include <signal.h>
 #include <spawn.h>
 #include <sys/socket.h>
@@ -11,10 +10,9 @@
 
 #include <array>
 #include <fstream>
-#include <string>
-#include <vector>
 
 #include "TestRepository.h"
+#include "support/Testing.h"
 
 namespace kestrel::svnscc {
 

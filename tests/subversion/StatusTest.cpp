@@ -1,14 +1,10 @@
 // Status queries as a whole: all cells, all names, with and without a repository.
-#include <gmock/gmock.h>
 
 #include <fstream>
 
 #include "Developer.h"
 
 namespace kestrel::svnscc {
-
-using testing::Each;
-using testing::HasSubstr;
 
 namespace {
 

@@ -1,12 +1,10 @@
 // The provider's windows as a user meets them: found by the names and labels of their controls.
 #pragma once
 
-#include <gtest/gtest.h>
 #include <wx/stc/stc.h>
 #include <wx/wx.h>
 
 #include <functional>
-#include <string>
 
 #include "support/ModalScript.h"
 

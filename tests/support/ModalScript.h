@@ -7,14 +7,14 @@
 // A dialog that is expected and does not appear, or that appears unexpected, fails the test.
 #pragma once
 
-#include <gtest/gtest.h>
 #include <wx/modalhook.h>
 #include <wx/wx.h>
 
 #include <deque>
 #include <functional>
-#include <string>
 #include <typeinfo>
+
+#include "support/Testing.h"
 
 namespace kestrel {
 

@@ -1,6 +1,6 @@
-#include <gtest/gtest.h>
 #include <wx/wx.h>
 
+#include "support/Testing.h"
 #include "ui/Icons.h"
 #include "ui/MenuImages.h"
 

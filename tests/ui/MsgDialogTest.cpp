@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include "support/ModalScript.h"
 #include "toolkit/WxText.h"
 #include "ui/MsgDialog.h"

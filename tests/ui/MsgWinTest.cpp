@@ -1,4 +1,3 @@
-#include <gmock/gmock.h>
 #include <wx/clipbrd.h>
 
 #include "support/ModalScript.h"
@@ -6,9 +5,6 @@
 #include "ui/MsgWin.h"
 
 namespace kestrel::addin {
-
-using testing::HasSubstr;
-using testing::MatchesRegex;
 
 namespace {
 

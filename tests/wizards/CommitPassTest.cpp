@@ -75,7 +75,7 @@ TEST_F(CommitPass, CarriesOutEachRowInRowOrderAndSaysSo) {
     const auto& call = provider_->Calls[i];
     EXPECT_EQ(call.Entry, calls[i].Entry);
     EXPECT_THAT(call.Files, ElementsAre(At(calls[i].File)));
-    EXPECT_THAT(call.Comment, testing::StartsWith(calls[i].Comment));
+    EXPECT_THAT(call.Comment, StartsWith(calls[i].Comment));
     EXPECT_EQ(call.Flags, 0);
   }
   EXPECT_THAT(host_.Log, ElementsAre("ReloadFile " + At("a.pas"), "ReloadFile " + At("c.pas"),
@@ -101,10 +101,9 @@ TEST_F(CommitPass, AFailureMarksOnlyItsRow) {
             "\r\n + Undoing checkout on unit2.pas: Succeeded");
   EXPECT_THAT(host_.Log, Not(Contains("ReloadFile " + At("unit1.pas"))));
   EXPECT_TRUE(Writable("unit1.pas"));
-  EXPECT_THAT(
-      forms_.LinesOf(mwtError),
-      ElementsAre(testing::StartsWith(At("unit1.pas") + ": "), At("gone.pas") + ": Operation was cancelled",
-                  testing::AllOf(testing::StartsWith(At("unit1.kfm")), HasSubstr("SccAdd"))));
+  EXPECT_THAT(forms_.LinesOf(mwtError),
+              ElementsAre(StartsWith(At("unit1.pas") + ": "), At("gone.pas") + ": Operation was cancelled",
+                          AllOf(StartsWith(At("unit1.kfm")), HasSubstr("SccAdd"))));
 }
 
 TEST_F(CommitPass, NothingChosenCallsNoProviderButFreesTheFiles) {

@@ -1,21 +1,15 @@
-#include <gmock/gmock.h>
-
 #include <algorithm>
-#include <filesystem>
 
 #include "support/PlainUser.h"
 #include "support/TemporaryFolder.h"
+#include "support/Testing.h"
 #include "system/Paths.h"
 #include "wizards/FileSearch.h"
 
 namespace kestrel::addin {
 
-using testing::ElementsAre;
-using testing::UnorderedElementsAre;
-
 namespace {
 
-namespace fs = std::filesystem;
 using TList = std::vector<std::string>;
 
 /// p/a.pas  p/.hidden  p/sub/  p/sub/b.pas  p/sub/deep/  p/sub/deep/c.pas  p/empty/  p/.svn/

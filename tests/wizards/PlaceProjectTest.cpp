@@ -1,5 +1,4 @@
 // Placing a project: pages, buttons, what is written when.
-#include <filesystem>
 
 #include "expert/ExpertFixture.h"
 #include "support/NativePath.h"

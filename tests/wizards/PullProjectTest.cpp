@@ -1,5 +1,4 @@
 // Pulling a project: pages, target directory, what is fetched, listed and written.
-#include <filesystem>
 #include <map>
 
 #include "expert/ExpertFixture.h"

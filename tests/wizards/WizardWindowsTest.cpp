@@ -1,8 +1,6 @@
 // The wizards' windows: what they show of their pages, and their keyboard.
 #include <wx/wx.h>
 
-#include <filesystem>
-
 #include "expert/ExpertFixture.h"
 #include "support/ModalScript.h"
 #include "toolkit/WxText.h"

@@ -1,16 +1,12 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <CLI/CLI.hpp>
 
+#include "support/Testing.h"
 #include "workbench/macro/MacroOptions.h"
 #include "workbench/model/CommandLine.h"
 
 namespace kestrel::workbench {
 
 namespace {
-
-using testing::ElementsAre;
 
 struct TParsed {
   TCommandLine Line;
@@ -42,7 +38,7 @@ TEST(CommandLine, HasPackagesMacroAndFile) {
 
 TEST(CommandLine, NamesTheArgumentThatIsWrong) {
   EXPECT_EQ(Parse({"--pakage"}).Error, "The following argument was not expected: --pakage");
-  EXPECT_THAT(Parse({"--play"}).Error, testing::StartsWith("--play: 1 required"));
+  EXPECT_THAT(Parse({"--play"}).Error, StartsWith("--play: 1 required"));
   EXPECT_EQ(Parse({"a.pas", "b.pas"}).Error, "The following argument was not expected: b.pas");
 }
 

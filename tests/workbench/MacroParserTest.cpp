@@ -1,13 +1,9 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
+#include "support/Testing.h"
 #include "workbench/macro/MacroParser.h"
 
 namespace kestrel::workbench {
 
 namespace {
-
-using testing::ElementsAre;
 
 TEST(MacroParser, ReadsStepsWithQuotedArgumentsAndComments) {
   const auto steps = ParseMacro(

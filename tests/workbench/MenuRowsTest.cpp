@@ -1,7 +1,6 @@
-#include <gtest/gtest.h>
-
 #include <deque>
 
+#include "support/Testing.h"
 #include "workbench/model/MenuRows.h"
 
 namespace kestrel::workbench {

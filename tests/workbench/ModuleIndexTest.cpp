@@ -1,6 +1,5 @@
-#include <gtest/gtest.h>
-
 #include "support/TemporaryFolder.h"
+#include "support/Testing.h"
 #include "workbench/model/ModuleIndex.h"
 
 namespace kestrel::workbench {

@@ -1,14 +1,10 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include "host/Errors.h"
+#include "support/Testing.h"
 #include "workbench/model/Notifications.h"
 
 namespace kestrel::workbench {
 
 namespace {
-
-using testing::ElementsAre;
 
 TEST(PackageCaller, KeepsQuietAboutAbortsAndReportsTheRest) {
   std::vector<std::string> lines;

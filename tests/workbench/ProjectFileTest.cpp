@@ -1,14 +1,10 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include "support/NativePath.h"
+#include "support/Testing.h"
 #include "workbench/model/ProjectFile.h"
 
 namespace kestrel::workbench {
 
 namespace {
-
-using testing::ElementsAre;
 
 TEST(ProjectFile, ReadsNamesAsEarlierVersionsWroteThem) {
   const auto file = TProjectFile::Parse(

@@ -1,14 +1,10 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include "support/TestRegistry.h"
+#include "support/Testing.h"
 #include "workbench/model/Settings.h"
 
 namespace kestrel::workbench {
 
 namespace {
-
-using testing::ElementsAre;
 
 class Settings : public testing::Test {
  protected:

@@ -1,21 +1,14 @@
 // Stories that a macro plays on the real workbench with a real package in it.
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <csignal>
 
 #include "MacroTest.h"
+#include "support/Testing.h"
 #include "system/System.h"
 
 namespace kestrel::workbench {
 
 namespace {
-
-using testing::Contains;
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsSupersetOf;
-using testing::Not;
 
 TEST(Workbench, LoadsAndUnloadsAPackageInOrder) {
   TMacroTest test;

@@ -1,11 +1,8 @@
 // The workspace on real files, with windows that only remember what they were told.
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <filesystem>
 
 #include "support/NativePath.h"
 #include "support/TemporaryFolder.h"
+#include "support/Testing.h"
 #include "system/Paths.h"
 #include "workbench/model/Workspace.h"
 #include "workbench/model/WorkspaceServices.h"
@@ -13,10 +10,6 @@
 namespace kestrel::workbench {
 
 namespace {
-
-using testing::Contains;
-using testing::ElementsAre;
-using testing::HasSubstr;
 
 class TPlainView final : public IDocumentView {
  public:

@@ -1,16 +1,13 @@
-#include <gtest/gtest.h>
 #include <sys/resource.h>
 
 #include <csignal>
-#include <filesystem>
 #include <stdexcept>
 
 #include "support/TemporaryFolder.h"
+#include "support/Testing.h"
 #include "system/System.h"
 
 namespace kestrel {
-
-namespace fs = std::filesystem;
 
 namespace {
 

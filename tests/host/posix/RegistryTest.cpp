@@ -1,5 +1,4 @@
 // The registry as files.
-#include <filesystem>
 #include <stdexcept>
 #include <thread>
 
@@ -9,12 +8,6 @@
 #include "system/posix/RegistryLayers.h"
 
 namespace kestrel {
-
-namespace fs = std::filesystem;
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
-using testing::ThrowsMessage;
 
 namespace {
 

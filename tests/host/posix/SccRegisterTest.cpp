@@ -1,8 +1,7 @@
-#include <gmock/gmock.h>
-
 #include "support/Environment.h"
 #include "support/RunProgram.h"
 #include "support/TemporaryFolder.h"
+#include "support/Testing.h"
 
 namespace kestrel {
 
@@ -12,7 +11,7 @@ TEST(SccRegisterOfAFolder, SaysThatTheRegistryCannotBeWritten) {
   folder.MakeFolder("local-machine.ini");
   const auto result = RunProgram(SCC_REGISTER, {"add", "Tiny", TINY_PROVIDER});
   EXPECT_EQ(result.Status, 1);
-  EXPECT_THAT(result.Errors, testing::HasSubstr("Cannot write " + folder.Path()));
+  EXPECT_THAT(result.Errors, HasSubstr("Cannot write " + folder.Path()));
 }
 
 }  // namespace kestrel

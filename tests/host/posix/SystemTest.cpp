@@ -1,14 +1,8 @@
-#include <gmock/gmock.h>
-
-#include <filesystem>
-
 #include "support/TemporaryFolder.h"
+#include "support/Testing.h"
 #include "system/System.h"
 
 namespace kestrel {
-
-namespace fs = std::filesystem;
-using testing::ElementsAre;
 
 namespace {
 

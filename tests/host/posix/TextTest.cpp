@@ -1,8 +1,7 @@
-#include <gtest/gtest.h>
-
 #include <ctime>
 
 #include "support/Environment.h"
+#include "support/Testing.h"
 #include "system/Text.h"
 
 namespace kestrel {

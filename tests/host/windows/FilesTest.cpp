@@ -1,4 +1,3 @@
-#include <gmock/gmock.h>
 // clang-format off
 #include <windows.h>
 #include <aclapi.h>
@@ -6,19 +5,16 @@
 // clang-format on
 #include <process.h>
 
-#include <filesystem>
 #include <stdexcept>
 #include <thread>
 
 #include "support/TemporaryFolder.h"
+#include "support/Testing.h"
 #include "system/FileName.h"
 #include "system/System.h"
 #include "system/windows/Wide.h"
 
 namespace kestrel {
-
-using testing::HasSubstr;
-using testing::ThrowsMessage;
 
 namespace {
 

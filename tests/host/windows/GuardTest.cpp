@@ -1,9 +1,9 @@
-#include <gtest/gtest.h>
 #include <windows.h>
 
 #include <array>
 #include <stdexcept>
 
+#include "support/Testing.h"
 #include "system/Guard.h"
 
 namespace kestrel {

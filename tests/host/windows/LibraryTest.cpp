@@ -1,20 +1,14 @@
-#include <gmock/gmock.h>
-
 #include <cstdint>
 #include <cstring>
-#include <filesystem>
 
 #include "support/Environment.h"
 #include "support/TemporaryFolder.h"
+#include "support/Testing.h"
 #include "system/Library.h"
 #include "system/Paths.h"
 #include "system/System.h"
 
 namespace kestrel {
-
-namespace fs = std::filesystem;
-using testing::HasSubstr;
-using testing::Not;
 
 namespace {
 

@@ -1,12 +1,9 @@
-#include <gmock/gmock.h>
-
 #include "support/TemporaryFolder.h"
+#include "support/Testing.h"
 #include "system/Paths.h"
 #include "system/System.h"
 
 namespace kestrel {
-
-using testing::ElementsAre;
 
 TEST(System, SetsTheAttributesOfAFile) {
   const TTemporaryFolder folder;

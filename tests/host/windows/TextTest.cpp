@@ -1,11 +1,10 @@
-#include <gtest/gtest.h>
 #include <windows.h>
 
 #include <array>
 #include <map>
-#include <string>
 #include <utility>
 
+#include "support/Testing.h"
 #include "system/Text.h"
 
 namespace kestrel {

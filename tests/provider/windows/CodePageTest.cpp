@@ -8,8 +8,6 @@
 
 namespace kestrel::addin {
 
-using testing::HasSubstr;
-
 namespace {
 
 template <UINT page>
@@ -73,7 +71,7 @@ TEST_F(CodePage, IsWhatTheProviderReadsAndWrites) {
             "C:\\Gr\xF6\xDF"
             "e.pas");
   EXPECT_EQ(provider->Last("SccCheckin").Comment, "f\xFCr Ann");
-  EXPECT_THAT(sink.Of(TSeverity::Info), testing::Contains("für Größe"));
+  EXPECT_THAT(sink.Of(TSeverity::Info), Contains("für Größe"));
 }
 
 TEST_F(CodePage, RefusesANameThatItCannotHold) {
@@ -118,16 +116,15 @@ TEST_F(CodePage, CountsBytesAsTheProviderDoes) {
 // Characters of two bytes, the second of which may be a letter or a backslash.
 TEST_F(CodePage932, ShowsWhatItCanOfATextAndRefusesSuchNames) {
   EXPECT_EQ(FromCodePageLossy("\x95\x5C\x8E\xA6"), "表示");
-  EXPECT_THAT(FromCodePageLossy("a \xFF b \x95\x5C"),
-              testing::AllOf(testing::StartsWith("a "), testing::EndsWith(" b 表")));
+  EXPECT_THAT(FromCodePageLossy("a \xFF b \x95\x5C"), AllOf(StartsWith("a "), EndsWith(" b 表")));
   provider->GetProjPath.ProjName = "$/a\x95";
   EXPECT_EQ(session().GetProjectPath(messages, true, true), -15);
   EXPECT_THAT(messages[2], HasSubstr("gave a name that cannot be passed back to it"));
   EXPECT_EQ(session().get_ProjName(), "");
   TStringList taken;
   for (const char* name : {"C:\\\x95\x5C.pas", "C:\\a\x95"}) EXPECT_TRUE(AppendPopulatedName(name, taken));
-  EXPECT_THAT(taken, testing::ElementsAre("C:\\表.pas"));
-  EXPECT_THAT(sink.Of(TSeverity::Warning), testing::ElementsAre(HasSubstr("(SccPopulateList)")));
+  EXPECT_THAT(taken, ElementsAre("C:\\表.pas"));
+  EXPECT_THAT(sink.Of(TSeverity::Warning), ElementsAre(HasSubstr("(SccPopulateList)")));
 }
 
 TEST_F(CodePage932, CutsBetweenCharacters) {

@@ -7,11 +7,6 @@ namespace kestrel::addin {
 
 namespace {
 
-using testing::AllOf;
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::StartsWith;
-
 using Crash = SessionTest;
 
 volatile int* volatile nowhere = nullptr;

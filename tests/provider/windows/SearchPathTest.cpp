@@ -1,5 +1,4 @@
 // Where a provider's library finds the libraries that it needs itself.
-#include <filesystem>
 
 #include "provider/Fixture.h"
 #include "support/TemporaryFolder.h"
@@ -8,9 +7,6 @@
 #include "system/Registry.h"
 
 namespace kestrel::addin {
-
-using testing::ElementsAre;
-using testing::HasSubstr;
 
 TEST(SearchPath, IsThatOfAProviderWhoseKeySaysSo) {
   const TTestRegistry registry;

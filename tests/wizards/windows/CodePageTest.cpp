@@ -34,8 +34,8 @@ TEST_F(WizardsCodePage, BoundsATargetAsTheProviderGetsIt) {
     pages.NextFinishButtonClick();
     pages.TargetDirectoryChange(row.target);
     pages.NextFinishButtonClick();
-    EXPECT_THAT(pages.Page().Problem, row.problem.empty() ? testing::Matcher<std::string>(testing::IsEmpty())
-                                                          : testing::HasSubstr(row.problem));
+    EXPECT_THAT(pages.Page().Problem,
+                row.problem.empty() ? testing::Matcher<std::string>(IsEmpty()) : HasSubstr(row.problem));
   }
 }
 
@@ -48,7 +48,7 @@ TEST_F(WizardsCodePage, CommitRowsKnowTheProvidersNames) {
     EXPECT_NE(row.Status, "Not Controlled") << row.FileName;
     names.push_back(row.FileName);
   }
-  EXPECT_THAT(names, testing::Contains(At("sub/Größe.pas")));
+  EXPECT_THAT(names, Contains(At("sub/Größe.pas")));
 }
 
 }  // namespace

@@ -1,13 +1,11 @@
 // Stored paths where there are drives and shares, and where case does not count.
-#include <gmock/gmock.h>
 
+#include "support/Testing.h"
 #include "workbench/model/Modules.h"
 
 namespace kestrel::workbench {
 
 namespace {
-
-using testing::ElementsAre;
 
 TEST(StoredPath, StaysOnItsDriveOrShare) {
   const struct {
