@@ -13,16 +13,9 @@ using namespace std::chrono_literals;
 
 namespace {
 constexpr auto kLong = 500ms;
+constexpr auto kBetweenUpdates = 100ms;
 constexpr auto kAppearing = 100ms;  // what a window needs until it is on the screen
 }  // namespace
-
-bool TProgressClock::Due(TTime now) {
-  if (now < next_) return false;
-  next_ = now + 100ms;
-  return true;
-}
-
-void TProgressClock::Restart(TTime now) { next_ = now + kLong; }
 
 bool TCallPace::IsLong(const std::string& call, std::size_t files, TDuration perFileAtFirst) const {
   const auto known = per_file_.find(call);
@@ -114,7 +107,11 @@ void PaintWindows(std::chrono::milliseconds duration) {
 }
 
 TProgress::TProgress(const std::string& caption, std::size_t total, TCallPace& pace, TNow now)
-    : caption_(caption), total_(total), pace_(pace), now_(std::move(now)), clock_(now_()) {
+    : caption_(caption),
+      total_(total),
+      pace_(pace),
+      now_(std::move(now)),
+      clock_(now_(), kLong, kBetweenUpdates) {
   Register();
 }
 

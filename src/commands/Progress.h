@@ -10,25 +10,11 @@
 #include <string>
 
 #include "expert/ExpertUi.h"
+#include "expert/ProgressClock.h"
 
 namespace kestrel::addin {
 
 class TProgressForm;
-
-/// When the window is due: first after half a second of work, then ten times a second at most.
-class TProgressClock {
- public:
-  using TTime = std::chrono::steady_clock::time_point;
-
-  explicit TProgressClock(TTime start) { Restart(start); }
-  /// Whether to show the window, or to bring it up to date, at that moment.
-  bool Due(TTime now);
-  /// The work begins, or begins anew, at that moment.
-  void Restart(TTime now);
-
- private:
-  TTime next_;
-};
 
 /// What calls took, so that the next of their kind is known to be long before it starts.
 class TCallPace {

@@ -33,22 +33,14 @@ TCallProgress::TCallProgress(IExpertUi& ui, const std::string& caption, Kind kin
                              const TStringList& files)
     : files_(files), progress_(ui.StartProgress(caption, files.size())) {
   progress_->BeginCall(what, kPerFile[static_cast<int>(kind)]);
-  previous_ = SetProviderSink(this);
 }
 
-TCallProgress::~TCallProgress() { SetProviderSink(previous_); }
-
-void TCallProgress::Line(TSeverity severity, const std::string& text) {
-  if (previous_) previous_->Line(severity, text);
-  if (const auto file = FileNamedIn(text); !file.empty()) {
+void TCallProgress::OnLine(const std::string& line) {
+  if (const auto file = FileNamedIn(line); !file.empty()) {
     named_.insert(FoldCase(file));
     latest_ = file;
   }
   if (!named_.empty()) progress_->Step(std::min(named_.size(), files_.size()) - 1, latest_);
-}
-
-void TCallProgress::Box(const std::string& text) {
-  if (previous_) previous_->Box(text);
 }
 
 std::string TCallProgress::FileNamedIn(const std::string& line) {

@@ -1,6 +1,5 @@
 #include "wizards/CommitBrowser.h"
 
-#include <wx/evtloop.h>
 #include <wx/notebook.h>
 #include <wx/statusbr.h>
 #include <wx/wx.h>
@@ -14,12 +13,14 @@
 
 #include "expert/CommandContext.h"
 #include "expert/CommentMemory.h"
+#include "expert/ProgressClock.h"
 #include "expert/ProviderWindows.h"
 #include "expert/SccSystem.h"
 #include "system/FileName.h"
 #include "system/Paths.h"
 #include "system/System.h"
 #include "toolkit/WxText.h"
+#include "toolkit/WxWaiting.h"
 #include "wizards/CommitBrowserStrings.h"
 #include "wizards/CommitGrid.h"
 #include "wizards/CommitRowsStrings.h"
@@ -56,34 +57,25 @@ class TCommitBrowser::TProgressLine final : public IProgress {
   TProgressLine(wxStaticText& line, std::size_t total) : line_(line), total_(total) {}
   TProgressLine(const TProgressLine&) = delete;
   TProgressLine& operator=(const TProgressLine&) = delete;
-  ~TProgressLine() override {
-    line_.SetLabel({});
-    HandleEvents();
-  }
+  ~TProgressLine() override { Show({}); }
 
   void Step(std::size_t done, const std::string& what) override {
-    const auto now = TClock::now();
-    if (now < next_) return;
-    next_ = now + 50ms;
-    line_.SetLabelText(
-        ToWx(Format(sCommitProgress, {static_cast<long long>(done + 1), static_cast<long long>(total_),
-                                      ExtractFileName(what)})));
-    HandleEvents();
+    if (!clock_.Due(TClock::now())) return;
+    Show(Format(sCommitProgress,
+                {static_cast<long long>(done + 1), static_cast<long long>(total_), ExtractFileName(what)}));
   }
 
  private:
-  /// Paints the window and discards keyboard and mouse input: a queued Escape would close the summary immediately.
-  void HandleEvents() {
-    wxGetTopLevelParent(&line_)->Update();
-    if (auto* loop = wxEventLoopBase::GetActive())
-      loop->YieldFor(wxEVT_CATEGORY_UI | wxEVT_CATEGORY_USER_INPUT);
-  }
-
   using TClock = std::chrono::steady_clock;
+
+  void Show(const std::string& text) {
+    line_.SetLabelText(ToWx(text));
+    DispatchInput(*wxGetTopLevelParent(&line_));
+  }
 
   wxStaticText& line_;
   std::size_t total_;
-  TClock::time_point next_{};
+  TProgressClock clock_{TClock::now(), 0ms, 50ms};
 };
 
 TCommitBrowser::TCommitBrowser(TCommandContext& expert)

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "expert/CommandContext.h"
-#include "wizards/ProviderMessageRecorder.h"
+#include "expert/ProviderMessageRecorder.h"
 
 namespace kestrel::addin {
 

@@ -1,10 +1,10 @@
 #include "wizards/WizardForm.h"
 
-#include <wx/evtloop.h>
 #include <wx/statline.h>
 #include <wx/wx.h>
 
 #include "toolkit/WxText.h"
+#include "toolkit/WxWaiting.h"
 #include "toolkit/WxWheel.h"
 #include "wizards/WizardControllerStrings.h"
 #include "wizards/WizardFormStrings.h"
@@ -20,11 +20,14 @@ constexpr int kHeight = 360;
 constexpr int kGap = 8;
 constexpr int kStatusPanel = 4;
 constexpr auto kBetweenUpdates = 60ms;
+using TClock = std::chrono::steady_clock;
 
 }  // namespace
 
 TWizardForm::TWizardForm(TWizardController& controller)
-    : TModalForm({}, wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER), controller_(controller) {
+    : TModalForm({}, wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER),
+      controller_(controller),
+      clock_(TClock::now(), kBetweenUpdates, kBetweenUpdates) {
   for (auto** panel : {&Page1Panel, &Page2Panel, &Page3Panel, &Page4Panel}) *panel = new wxPanel(this);
   CreateProviderPage();
   CreateProjectPage();
@@ -43,7 +46,7 @@ void TWizardForm::FormCreate() {
   BindEvents();
   controller_.OnChange = [this] { Changed(); };
   controller_.OnProgress = [this] {
-    if (TClock::now() >= nextUpdate_) Changed();
+    if (clock_.Due(TClock::now())) Changed();
   };
   controller_.FormCreate(reinterpret_cast<TWindowHandle>(GetHandle()));
 }
@@ -140,12 +143,8 @@ void TWizardForm::SetSentence(wxStaticText* label, const std::string& text) {
 void TWizardForm::Changed() {
   UpdatePage();
   if (!controller_.Page().Working) return;
-  Update();
-  // Dispatches input as well: no control of this form but Cancel is enabled, and input that stayed queued would apply to
-  // the page that is shown after the work.
-  auto* loop = wxEventLoopBase::GetActive();
-  if (loop && !loop->IsYielding()) loop->YieldFor(wxEVT_CATEGORY_UI | wxEVT_CATEGORY_USER_INPUT);
-  nextUpdate_ = TClock::now() + kBetweenUpdates;
+  DispatchInput(*this);  // only Cancel is enabled
+  clock_.Restart(TClock::now());
 }
 
 void TWizardForm::UpdatePage() {

@@ -2,8 +2,7 @@
 // buttons.  The logic is in TWizardController.
 #pragma once
 
-#include <chrono>
-
+#include "expert/ProgressClock.h"
 #include "ui/ModalForm.h"
 #include "wizards/LinesView.h"
 #include "wizards/WizardController.h"
@@ -66,8 +65,6 @@ class TWizardForm : public TModalForm {
   void SetSentence(wxStaticText* label, const std::string& text);
 
  private:
-  using TClock = std::chrono::steady_clock;
-
   void CreateProviderPage();
   void CreateProjectPage();
   void CreateButtons();
@@ -82,7 +79,7 @@ class TWizardForm : public TModalForm {
   TWizardController& controller_;
   wxStaticText* problemLabel_;
   int panel_ = 0;  // the visible one
-  TClock::time_point nextUpdate_;
+  TProgressClock clock_;
 };
 
 }  // namespace kestrel::addin

@@ -15,8 +15,8 @@ namespace {
 using TTime = TProgressClock::TTime;
 constexpr TTime At(int milliseconds) { return TTime(std::chrono::milliseconds(milliseconds)); }
 
-TEST(ProgressClock, IsDueAfterHalfASecondAndThenTenTimesASecond) {
-  TProgressClock clock(At(0));
+TEST(ProgressClock, IsDueAfterTheDelayAndThenAtIntervals) {
+  TProgressClock clock(At(0), 500ms, 100ms);
   const struct {
     int Now;
     bool Due;

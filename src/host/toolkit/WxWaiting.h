@@ -4,6 +4,7 @@
 #include <wx/event.h>
 #include <wx/eventfilter.h>
 #include <wx/evtloop.h>
+#include <wx/window.h>
 
 namespace kestrel {
 
@@ -25,10 +26,20 @@ class TNoClosing final : private wxEventFilter {
   }
 };
 
-/// Dispatches pending paint events.  Keyboard and mouse input stays queued.
-inline void PaintPending() {
+/// Dispatches pending events of these categories; others stay queued.
+inline void DispatchPending(long categories) {
   auto* loop = wxEventLoopBase::GetActive();
-  if (loop && !loop->IsYielding()) loop->YieldFor(wxEVT_CATEGORY_UI);
+  if (loop && !loop->IsYielding()) loop->YieldFor(categories);
+}
+
+/// Dispatches pending paint events.  Keyboard and mouse input stays queued.
+inline void PaintPending() { DispatchPending(wxEVT_CATEGORY_UI); }
+
+/// Paints `window` and dispatches input.  For windows that disable what must not be used meanwhile: input that stayed
+/// queued would apply to what is shown after the call.
+inline void DispatchInput(wxWindow& window) {
+  window.Update();
+  DispatchPending(wxEVT_CATEGORY_UI | wxEVT_CATEGORY_USER_INPUT);
 }
 
 }  // namespace kestrel
