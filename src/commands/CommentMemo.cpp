@@ -25,7 +25,8 @@ void TCommentMemo::Update() const {
     Memo->ChangeValue(ToWx(fitted.Before + fitted.After));
     Memo->SetInsertionPoint(static_cast<long>(ToWx(fitted.Before).length()));
   }
-  const auto used = static_cast<long long>(fitted.Before.size() + fitted.After.size());
+  const auto used =
+      static_cast<long long>(fitted.Before.size()) + static_cast<long long>(fitted.After.size());
   Length->SetLabel(ToWx(Format(sCommentLength, {used, static_cast<long long>(kMaxComment)})));
   Memo->GetParent()->Layout();
 }

@@ -18,12 +18,12 @@ constexpr auto kAppearing = 100ms;  // what a window needs until it is on the sc
 }  // namespace
 
 bool TCallPace::IsLong(const std::string& call, std::size_t files, TDuration perFileAtFirst) const {
-  const auto known = per_file_.find(call);
-  return (known == per_file_.end() ? perFileAtFirst : known->second) * files >= kLong;
+  const auto known = perFile_.find(call);
+  return (known == perFile_.end() ? perFileAtFirst : known->second) * files >= kLong;
 }
 
 void TCallPace::Took(const std::string& call, std::size_t files, TDuration whole) {
-  per_file_[call] = whole / files;
+  perFile_[call] = whole / files;
 }
 
 class TProgressForm final : public wxFrame {
@@ -71,7 +71,7 @@ wxStaticText* TProgressForm::AddText(wxWindow* panel, long style) {
 }
 
 void TProgressForm::ShowStep(std::size_t done, std::size_t total, const std::string& what) {
-  const auto number = static_cast<long long>(done + 1);
+  const auto number = static_cast<long long>(done) + 1;
   count_->SetLabelText(ToWx(Format(sFileOf.Text, {number, static_cast<long long>(total)})));
   what_->SetLabelText(ToWx(ExtractFileName(what)));
   gauge_->SetValue(static_cast<int>(done * kGaugeSteps / total));

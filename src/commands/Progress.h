@@ -27,7 +27,7 @@ class TCallPace {
   void Took(const std::string& call, std::size_t files, TDuration whole);
 
  private:
-  std::map<std::string, TDuration> per_file_;
+  std::map<std::string, TDuration> perFile_;
 };
 
 /// Paints what is due and lets windows appear and go, for that long.  Meanwhile keys and clicks wait, and no window can

@@ -31,7 +31,7 @@ constexpr TRule kInProviderCall{TVerdict::Refuse, TVerdict::Wait};
 
 TVerdict TActivities::Check(TActivity wanted) const {
   const auto of = wanted == TActivity::Notification ? &TRule::OfHost : &TRule::OfUser;
-  auto verdict = in_provider_call_() ? kInProviderCall.*of : TVerdict::Start;
+  auto verdict = inProviderCall_() ? kInProviderCall.*of : TVerdict::Start;
   for (const auto running : running_)
     verdict = std::max(verdict, kRules[static_cast<std::size_t>(running)].*of);
   return verdict;
@@ -64,7 +64,7 @@ void TActivities::RunWaiting() {
 }
 
 void TActivities::RequireNoProviderCall() const {
-  if (in_provider_call_()) throw EAbort(sProviderBusy);
+  if (inProviderCall_()) throw EAbort(sProviderBusy);
 }
 
 }  // namespace kestrel::addin

@@ -19,7 +19,7 @@ class TActivities {
   enum class TVerdict { Start, Wait, Refuse };
 
   /// `inProviderCall` returns whether a function of the provider is on the call stack.
-  explicit TActivities(std::function<bool()> inProviderCall) : in_provider_call_(std::move(inProviderCall)) {}
+  explicit TActivities(std::function<bool()> inProviderCall) : inProviderCall_(std::move(inProviderCall)) {}
   TActivities(const TActivities&) = delete;
   TActivities& operator=(const TActivities&) = delete;
 
@@ -33,7 +33,7 @@ class TActivities {
   /// Runs the queued notifications that may start now, in order.
   void RunWaiting();
 
-  bool InProviderCall() const { return in_provider_call_(); }
+  bool InProviderCall() const { return inProviderCall_(); }
   /// Precondition of calling or releasing the provider.  Throws EAbort while one of its functions runs: most providers are
   /// not reentrant, and the library must not be unloaded while one of its functions is on the stack.
   void RequireNoProviderCall() const;
@@ -53,7 +53,7 @@ class TActivities {
   };
 
  private:
-  std::function<bool()> in_provider_call_;
+  std::function<bool()> inProviderCall_;
   std::vector<TActivity> running_;  // the innermost last
   std::deque<std::function<void()>> waiting_;
 };

@@ -56,14 +56,14 @@ TStored ParseStored(std::string_view text) {
 
 }  // namespace
 
-TCommentMemory::TCommentMemory(std::string projectFile) : project_file_(std::move(projectFile)) {
+TCommentMemory::TCommentMemory(std::string projectFile) : projectFile_(std::move(projectFile)) {
   auto* settings = Settings();
   if (!settings) return;
   settings->Load();
   for (std::size_t i = 0; i < kProjects; ++i) {
     const auto text = settings->GetValue(FieldName(i));
     const auto stored = ParseStored(text);
-    if (SameText(stored.Project, project_file_)) Load(stored.Comments);
+    if (SameText(stored.Project, projectFile_)) Load(stored.Comments);
   }
 }
 
@@ -80,7 +80,7 @@ void TCommentMemory::Load(std::string_view comments) {
 
 std::string TCommentMemory::Text(long long turn) const {
   if (recent_.empty() && pending_.empty()) return {};
-  auto text = std::to_string(turn) + '&' + Encoded(project_file_);
+  auto text = std::to_string(turn) + '&' + Encoded(projectFile_);
   for (const auto& comment : recent_)
     text.append("&").append(kRecentKind).append("=").append(Encoded(comment));
   for (const auto& [place, comment] : pending_)
@@ -131,7 +131,7 @@ void TCommentMemory::Store() {
     const auto stored = ParseStored(text);
     last = std::max(last, stored.Turn);
     // Prefer the project's own field, then a free one, then the least recently used.
-    const auto rank = SameText(stored.Project, project_file_) ? -1 : stored.Turn;
+    const auto rank = SameText(stored.Project, projectFile_) ? -1 : stored.Turn;
     if (rank >= lowest) continue;
     lowest = rank;
     field = i;

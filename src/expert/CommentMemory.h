@@ -44,7 +44,7 @@ class TCommentMemory {
   void Load(std::string_view comments);
   void Store();
 
-  std::string project_file_;
+  std::string projectFile_;
   std::vector<std::string> recent_;
   std::vector<std::pair<std::string, std::string>> pending_;  // place and text, newest first
   bool changed_ = false;

@@ -38,7 +38,7 @@ void TEditorManager<TNotifier>::Remove(const std::string& fileName) {
   const auto found =
       std::ranges::find_if(items_, [&](auto& item) { return SameText(item->FileName(), fileName); });
   if (found == items_.end()) return;
-  const auto removed = *found;  // keeps it alive until it is detached
+  const auto removed = std::move(*found);  // keeps it alive until it is detached
   items_.erase(found);
   removed->Detach();
 }
@@ -68,7 +68,7 @@ void* TSccEditorNotifier::QueryInterface(const TGuid& iid) noexcept {
 }
 
 IOTAEditor* TSccEditorNotifier::FindEditor() {
-  auto* module = FindModule(file_name_);
+  auto* module = FindModule(fileName_);
   return module ? Supports<IOTASourceEditor>(module->GetEditor(0)) : nullptr;
 }
 
@@ -86,18 +86,18 @@ void TSccEditorNotifier::ViewNotification(TOTAOperation operation) {
   if (form) expert_.FormEditors()->Add(form->GetFileName());
 }
 
-void TSccEditorNotifier::Destroyed() { expert_.SourceEditors()->Remove(file_name_); }
+void TSccEditorNotifier::Destroyed() { expert_.SourceEditors()->Remove(fileName_); }
 
 void* TSccFormNotifier::QueryInterface(const TGuid& iid) noexcept {
   return FindInterface<IOTAFormNotifier, IOTANotifier>(this, iid);
 }
 
 IOTAEditor* TSccFormNotifier::FindEditor() {
-  return GetFormEditor(FindModule(ChangeFileExt(file_name_, kSourceExtension)), ExtractFileExt(file_name_));
+  return GetFormEditor(FindModule(ChangeFileExt(fileName_, kSourceExtension)), ExtractFileExt(fileName_));
 }
 
 void TSccFormNotifier::Attach(const std::shared_ptr<IOTANotifier>& self) {
-  if (!FindModule(ChangeFileExt(file_name_, kSourceExtension))) throw EAbort(sFormModuleNil);
+  if (!FindModule(ChangeFileExt(fileName_, kSourceExtension))) throw EAbort(sFormModuleNil);
   auto* editor = FindEditor();
   if (!editor) throw EAbort(sFormEditorNil);
   index_ = editor->AddNotifier(self);
@@ -113,6 +113,6 @@ void TSccFormNotifier::FormActivated() {
   expert_.ViewChange(ChangeFileExt(form->GetFileName(), kSourceExtension));
 }
 
-void TSccFormNotifier::Destroyed() { expert_.FormEditors()->Remove(file_name_); }
+void TSccFormNotifier::Destroyed() { expert_.FormEditors()->Remove(fileName_); }
 
 }  // namespace kestrel::addin

@@ -43,8 +43,8 @@ class TEditorManager {
 class TAttachedNotifier : public TNotifierObject {
  public:
   TAttachedNotifier(TSccExpert& expert, std::string fileName)
-      : expert_(expert), file_name_(std::move(fileName)) {}
-  const std::string& FileName() const { return file_name_; }
+      : expert_(expert), fileName_(std::move(fileName)) {}
+  const std::string& FileName() const { return fileName_; }
 
   /// Attaches `self`, which must point to this object, to the editor.
   virtual void Attach(const std::shared_ptr<IOTANotifier>& self) = 0;
@@ -55,7 +55,7 @@ class TAttachedNotifier : public TNotifierObject {
   virtual IOTAEditor* FindEditor() = 0;
 
   TSccExpert& expert_;
-  std::string file_name_;
+  std::string fileName_;
   int index_ = -1;
 };
 

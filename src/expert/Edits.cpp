@@ -38,7 +38,8 @@ void ReloadProject(const std::string& projectFile) {
   if (!modules || !actions) return;
   auto* group = modules->GetMainProjectGroup();
   const auto groupFile = group ? group->GetFileName() : std::string();
-  const std::string project = projectFile;  // the argument may belong to a module that closes now
+  // The argument may belong to a module that closes now.
+  const std::string project = projectFile;  // NOLINT(performance-unnecessary-copy-initialization)
   modules->CloseAll();
   if (FileExists(groupFile))
     actions->OpenFile(groupFile);

@@ -48,7 +48,7 @@ TFileCommandRun::TFileCommandRun(TCommandContext& context, const TFileCommand& c
                                  const std::string& fileName)
     : context_(context),
       command_(command),
-      file_name_(Trim(fileName).empty() ? std::string() : fileName),
+      fileName_(Trim(fileName).empty() ? std::string() : fileName),
       comments_(GetCurrentProjectFile()) {}
 
 void TFileCommandRun::Execute() {
@@ -94,27 +94,27 @@ TSCCProviderProject& TFileCommandRun::Project() {
 
 void TFileCommandRun::Gather() {
   context_.Provider.RequireList(sGetFilesNoProvider);
-  all_files_ = CurrentProjectFiles(command_.OnlyExisting);
+  allFiles_ = CurrentProjectFiles(command_.OnlyExisting);
   if (command_.ProviderPopulates) {
     const TCallProgress progress(context_.Ui, command_.List, TCallProgress::Kind::Status, sGatheringFiles,
-                                 all_files_);
-    ProviderAddRemove(context_, all_files_, command_.Command);
+                                 allFiles_);
+    ProviderAddRemove(context_, allFiles_, command_.Command);
   }
-  all_index_ = TFileIndex(all_files_);
+  allIndex_ = TFileIndex(allFiles_);
   TStateMessages messages;
   const TCallProgress progress(context_.Ui, command_.List, TCallProgress::Kind::Status, sAskingStatus,
-                               all_files_);
+                               allFiles_);
   // Files of unknown status are not offered; the message window has the reason.
-  if (!Project().Query(all_files_, statuses_, messages)) WriteFailure(command_.Single, messages);
+  if (!Project().Query(allFiles_, statuses_, messages)) WriteFailure(command_.Single, messages);
 }
 
 void TFileCommandRun::SelectEligible() {
-  if (!file_name_.empty()) {
-    selected_ = {file_name_};
+  if (!fileName_.empty()) {
+    selected_ = {fileName_};
     return;
   }
-  for (std::size_t i = 0; i < all_files_.size(); ++i)
-    if (command_.Eligible(statuses_[i])) selected_.push_back(all_files_[i]);
+  for (std::size_t i = 0; i < allFiles_.size(); ++i)
+    if (command_.Eligible(statuses_[i])) selected_.push_back(allFiles_[i]);
 }
 
 void TFileCommandRun::FillList(TFileListModel& model) {
@@ -131,29 +131,29 @@ void TFileCommandRun::AppendTicked(const TFileListModel& model) {
     if (!model.IsChecked(row)) continue;
     auto file = model.GetFile(static_cast<int>(row));
     selected_.push_back(file);
-    AppendCompanions(file, all_index_, selected_, command_.OnlyExisting, statuses_);
+    AppendCompanions(file, allIndex_, selected_, command_.OnlyExisting, statuses_);
   }
-  keep_checked_out_ = command_.Extra == TFileListModel::ExtraBox::KeepCheckedOut     ? model.KeepCheckedOut
-                      : command_.Extra == TFileListModel::ExtraBox::CheckOutAfterAdd ? model.CheckOutAfterAdd
-                                                                                     : false;
+  keepCheckedOut_ = command_.Extra == TFileListModel::ExtraBox::KeepCheckedOut     ? model.KeepCheckedOut
+                    : command_.Extra == TFileListModel::ExtraBox::CheckOutAfterAdd ? model.CheckOutAfterAdd
+                                                                                   : false;
 }
 
 void TFileCommandRun::AskComment(const std::string& caption, const std::string& fileName) {
-  comment_place_ = TCommentMemory::Place(std::to_string(command_.Command), fileName);
+  commentPlace_ = TCommentMemory::Place(std::to_string(command_.Command), fileName);
   TCommentModel model;
   model.Caption = caption;
   model.ShowApplyToAll = !fileName.empty();
-  model.Text = comments_.Pending(comment_place_);
+  model.Text = comments_.Pending(commentPlace_);
   model.Recent = comments_.Recent();
   const int result = context_.Ui.ShowComments(model);
-  comments_.RecordTyped(comment_place_, model.Text);
+  comments_.RecordTyped(commentPlace_, model.Text);
   comments_.Save();
   if (result != mrOk) {
     Box(command_.Single, sUserCancelledDialog);
     throw EAbort(sUserCancelledDialog);
   }
   comment_ = model.Text;
-  apply_to_all_ = model.ShowApplyToAll && model.ApplyToAll;
+  applyToAll_ = model.ShowApplyToAll && model.ApplyToAll;
 }
 
 bool TFileCommandRun::WantsComment() {
@@ -183,9 +183,9 @@ bool TFileCommandRun::SaveSelected() {
 }
 
 bool TFileCommandRun::CallProvider(const TStringList& files) {
-  const auto [done, messages] = command_.Run(Project(), {files, comment_, keep_checked_out_});
+  const auto [done, messages] = command_.Run(Project(), {files, comment_, keepCheckedOut_});
   if (done) {  // the comment has reached the provider, even if later calls fail
-    comments_.RecordUsed(comment_place_, comment_);
+    comments_.RecordUsed(commentPlace_, comment_);
     comments_.Save();
   }
   context_.Log.DisplayMessages(command_.Single, messages);
@@ -197,7 +197,7 @@ void TFileCommandRun::CallTogether() {
   const bool allSaved = SaveSelected();
   if (selected_.empty()) return;
   const bool done = command_.CallKind == TFileCommand::Calls::Batch ? CallBatch() : CallOneByOne();
-  if (done && command_.ClearReadOnly && !keep_checked_out_)
+  if (done && command_.ClearReadOnly && !keepCheckedOut_)
     for (const auto& file : selected_) SetFileAttributesOf(file, faArchive);
   Reload(done);
   if (done && allSaved) ReportDone();
@@ -226,8 +226,7 @@ void TFileCommandRun::CallCounting() {
   for (const auto& file : selected_) {
     progress->Step(done++, file);
     if (!SaveFile(file)) continue;
-    if (WantsComment() && !apply_to_all_)
-      AskComment(Format(sCommentsFor.Text, {ExtractFileName(file)}), file);
+    if (WantsComment() && !applyToAll_) AskComment(Format(sCommentsFor.Text, {ExtractFileName(file)}), file);
     if (CallProvider({file})) ++succeeded;
   }
   if (succeeded == selected_.size())

@@ -50,17 +50,17 @@ class TFileCommandRun {
 
   TCommandContext& context_;
   const TFileCommand& command_;
-  const std::string file_name_;
+  const std::string fileName_;
   std::string directory_;
-  TStringList all_files_;
-  TFileIndex all_index_;
+  TStringList allFiles_;
+  TFileIndex allIndex_;
   TStringList selected_;
   TStatusArray statuses_;
   TCommentMemory comments_;
   std::string comment_;
-  std::string comment_place_;  // key in TCommentMemory
-  bool apply_to_all_ = false;
-  bool keep_checked_out_ = false;
+  std::string commentPlace_;  // key in TCommentMemory
+  bool applyToAll_ = false;
+  bool keepCheckedOut_ = false;
 };
 
 }  // namespace kestrel::addin

@@ -25,10 +25,10 @@ class TProductStartup {
   TProductStartup& operator=(const TProductStartup&) = delete;
   ~TProductStartup() {
     auto* wizards = IdeService<IOTAWizardServices>();
-    if (wizards && wizard_index_)
-      wizards->RemoveWizard(*wizard_index_);  // drops the last reference and destroys the expert
+    if (wizards && wizardIndex_)
+      wizards->RemoveWizard(*wizardIndex_);  // drops the last reference and destroys the expert
     auto* options = IdeService<IOTAOptionsServices>();
-    if (options && options_index_) options->RemoveOptions(*options_index_);
+    if (options && optionsIndex_) options->RemoveOptions(*optionsIndex_);
     auto* application = IdeService<IOTAApplication>();
     if (application && cookie_) application->MainFormCreated().Unsubscribe(*cookie_);
   }
@@ -39,9 +39,9 @@ class TProductStartup {
     auto expert = std::make_shared<TSccExpert>(ui_);
     aSccExpert = expert.get();
     if (auto* wizards = IdeService<IOTAWizardServices>())
-      wizard_index_ = wizards->AddWizard(std::move(expert));
+      wizardIndex_ = wizards->AddWizard(std::move(expert));
     if (auto* options = IdeService<IOTAOptionsServices>())
-      options_index_ = options->AddOptions(std::make_shared<TSCMAddInEnvironmentOptions>(CreateOptionsPage));
+      optionsIndex_ = options->AddOptions(std::make_shared<TSCMAddInEnvironmentOptions>(CreateOptionsPage));
   }
 
   static wxWindow* CreateOptionsPage(wxWindow* parent, IOTAOptionsPageHost& host) {
@@ -52,8 +52,8 @@ class TProductStartup {
 
   TWxExpertUiWithWizards ui_;
   std::optional<int> cookie_;
-  std::optional<int> wizard_index_;
-  std::optional<int> options_index_;
+  std::optional<int> wizardIndex_;
+  std::optional<int> optionsIndex_;
 };
 
 std::unique_ptr<TProductStartup> startup;

@@ -63,7 +63,7 @@ void TMessageLog::ShowWindow(bool show) {
 }
 
 void TMessageLog::WarnOnce(const std::string& text) {
-  if (std::exchange(last_warning_, text) != text) WriteMessage(mwtWarning, text);
+  if (std::exchange(lastWarning_, text) != text) WriteMessage(mwtWarning, text);
 }
 
 void TMessageLog::DisplayMessages(const std::string& title, const TStateMessages& messages) {

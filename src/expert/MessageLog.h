@@ -63,7 +63,7 @@ class TMessageLog final : private IProviderSink {
 
   IExpertUi& ui_;
   IProviderSink* previous_ = nullptr;
-  std::string last_warning_;
+  std::string lastWarning_;
 };
 
 }  // namespace kestrel::addin

@@ -47,15 +47,15 @@ TSCCProviderProject& TProviderContext::SelectProject(const std::string& director
 void TProviderContext::ReadSettings(const std::string& projectFile) {
   const auto read = [&] {
     name_.clear();
-    user_name_.clear();
+    userName_.clear();
     const auto file = Trim(projectFile).empty() ? "" : ChangeFileExt(projectFile, kMappingExtension);
     const TMappingFile mapping(file);
     if (const auto sections = mapping.Sections(); !sections.empty()) {
       name_ = sections.front();
-      user_name_ = mapping.Read(name_, kMapUserName);
+      userName_ = mapping.Read(name_, kMapUserName);
     }
     if (name_.empty()) ReadProviderOption();
-    if (user_name_.empty()) ReadUserOption();
+    if (userName_.empty()) ReadUserOption();
     ReadPath();
     TSCMAddInEnvironmentOptions::SaveChanges();
   };
@@ -75,7 +75,7 @@ void TProviderContext::ReadProviderOption() {
 void TProviderContext::ReadUserOption() {
   TSCMAddInEnvironmentOptions options;
   if (options.UserName().empty()) options.SetUserName(GetUserNameText(kUserNameBuffer));
-  user_name_ = options.UserName();
+  userName_ = options.UserName();
 }
 
 void TProviderContext::ReadPath() {
@@ -98,7 +98,7 @@ void TProviderContext::ReadDefaultProvider(std::string& name) {
 
 void TProviderContext::Select(const std::string& name, const std::optional<std::string>& userName) {
   name_ = name;
-  user_name_ = userName.value_or(user_name_);
+  userName_ = userName.value_or(userName_);
   ReadPath();
 }
 
@@ -115,30 +115,30 @@ bool TProviderContext::Create(TWindowHandle window) {
 
 void TProviderContext::Load(TWindowHandle window) {
   Release();
-  list_ = std::make_unique<TSCCProviderList>(path_, window, user_name_);
+  list_ = std::make_unique<TSCCProviderList>(path_, window, userName_);
 }
 
 // Providers may require that SccUninitialize is called with no project open.
 void TProviderContext::Release() {
   activities_.RequireNoProviderCall();
-  if (list_ && list_->SetCurrentProject(ExtractFileDir(open_project_file_))) {
+  if (list_ && list_->SetCurrentProject(ExtractFileDir(openProjectFile_))) {
     TStateMessages ignored;
     list_->CurrentProject()->CloseProject(ignored);
   }
   list_.reset();
-  open_project_file_.clear();
+  openProjectFile_.clear();
 }
 
 bool TProviderContext::ProjectExists(const std::string& mappingFile) {
   bool result = false;
-  unread_mapping_ = mappingFile;
+  unreadMapping_ = mappingFile;
   const auto read = [&] {
     if (!FileExists(mappingFile)) return;
     const TMappingFile mapping(mappingFile);
     const auto damage = mapping.Damage();
-    if (damage.empty()) unread_mapping_.clear();
+    if (damage.empty()) unreadMapping_.clear();
     result = mapping.HasSection(name_);
-    project_not_mapped_ = !result;
+    projectNotMapped_ = !result;
     if (!damage.empty())
       log_.WarnOnce(damage);
     else if (mapping.Sections().empty())
@@ -149,7 +149,7 @@ bool TProviderContext::ProjectExists(const std::string& mappingFile) {
 }
 
 bool TProviderContext::MappingAppeared(const std::string& mappingFile) const {
-  if (!open_project_file_.empty() || mappingFile != unread_mapping_ || !FileExists(mappingFile)) return false;
+  if (!openProjectFile_.empty() || mappingFile != unreadMapping_ || !FileExists(mappingFile)) return false;
   bool intact = false;
   // ProjectExists() has already reported the error.
   RunCatching([&] { intact = TMappingFile(mappingFile).Damage().empty(); }, [](const std::exception&) {});

@@ -32,16 +32,16 @@ class TProviderContext {
 
   const std::string& Name() const { return name_; }
   const std::string& Path() const { return path_; }  ///< of the library; empty when it is not installed
-  const std::string& UserName() const { return user_name_; }
+  const std::string& UserName() const { return userName_; }
   /// The loaded provider, or null.
   TSCCProviderList* List() const { return list_.get(); }
   /// The current provider project, or null.
   TSCCProviderProject* CurrentProject() const { return list_ ? list_->CurrentProject() : nullptr; }
-  bool ProjectNotMapped() const { return project_not_mapped_; }
-  void SetProjectNotMapped(bool notMapped) { project_not_mapped_ = notMapped; }
+  bool ProjectNotMapped() const { return projectNotMapped_; }
+  void SetProjectNotMapped(bool notMapped) { projectNotMapped_ = notMapped; }
   /// The host project whose provider project is open; empty when none is.
-  const std::string& OpenProjectFile() const { return open_project_file_; }
-  void SetOpenProjectFile(const std::string& projectFile) { open_project_file_ = projectFile; }
+  const std::string& OpenProjectFile() const { return openProjectFile_; }
+  void SetOpenProjectFile(const std::string& projectFile) { openProjectFile_ = projectFile; }
 
   /// Throws EAbort with `noProvider` when no provider is loaded.
   TSCCProviderList& RequireList(const std::string& noProvider) const;
@@ -84,12 +84,11 @@ class TProviderContext {
   const TActivities& activities_;
   std::string name_;
   std::string path_;
-  std::string user_name_;
+  std::string userName_;
   std::unique_ptr<TSCCProviderList> list_;
-  std::string open_project_file_;
-  std::string
-      unread_mapping_;  // the file that ProjectExists() could not read completely; empty when it could
-  bool project_not_mapped_ = false;
+  std::string openProjectFile_;
+  std::string unreadMapping_;  // the file that ProjectExists() could not read completely; empty when it could
+  bool projectNotMapped_ = false;
 };
 
 }  // namespace kestrel::addin

@@ -29,16 +29,16 @@ void TSccExpert::Create() {
   menu_->EnableMenus(false);  // no project is open, and the host may show the state before the menu opens
   WriteMessage(mwtInfo, sStartUp);
   WriteMessageFmt(mwtInfo, sProviderLine, {ProviderName()});
-  ide_notifier_ = std::make_shared<TSccIDENotifier>(*this);
-  ide_notifier_index_ = services->AddNotifier(ide_notifier_);
-  form_editor_manager_ = std::make_unique<TFormEditorManager>(*this);
-  source_editor_manager_ = std::make_unique<TSourceEditorManager>(*this);
+  ideNotifier_ = std::make_shared<TSccIDENotifier>(*this);
+  ideNotifierIndex_ = services->AddNotifier(ideNotifier_);
+  formEditorManager_ = std::make_unique<TFormEditorManager>(*this);
+  sourceEditorManager_ = std::make_unique<TSourceEditorManager>(*this);
 }
 
 TSccExpert::~TSccExpert() {
   menu_.reset();
-  if (ide_notifier_index_)
-    if (auto* services = IdeService<IOTAServices>()) services->RemoveNotifier(*ide_notifier_index_);
+  if (ideNotifierIndex_)
+    if (auto* services = IdeService<IOTAServices>()) services->RemoveNotifier(*ideNotifierIndex_);
   if (aSccExpert == this) aSccExpert = nullptr;
 }
 

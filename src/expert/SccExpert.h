@@ -126,8 +126,8 @@ class TSccExpert final : public TNotifierObject, public IOTAWizard, public ITeam
   const std::string& ProviderPath() const { return context_.Provider.Path(); }
   const std::string& UserName() const { return context_.Provider.UserName(); }
   bool ProjectNotMapped() const { return context_.Provider.ProjectNotMapped(); }
-  TSourceEditorManager* SourceEditors() const { return source_editor_manager_.get(); }
-  TFormEditorManager* FormEditors() const { return form_editor_manager_.get(); }
+  TSourceEditorManager* SourceEditors() const { return sourceEditorManager_.get(); }
+  TFormEditorManager* FormEditors() const { return formEditorManager_.get(); }
 
  private:
   void Create();
@@ -140,10 +140,10 @@ class TSccExpert final : public TNotifierObject, public IOTAWizard, public ITeam
   void Handle(TOTAFileNotification code, const std::string& fileName);
 
   TCommandContext context_;
-  std::shared_ptr<TSccIDENotifier> ide_notifier_;
-  std::unique_ptr<TFormEditorManager> form_editor_manager_;
-  std::unique_ptr<TSourceEditorManager> source_editor_manager_;
-  std::optional<int> ide_notifier_index_;  // set while the notifier is registered
+  std::shared_ptr<TSccIDENotifier> ideNotifier_;
+  std::unique_ptr<TFormEditorManager> formEditorManager_;
+  std::unique_ptr<TSourceEditorManager> sourceEditorManager_;
+  std::optional<int> ideNotifierIndex_;  // set while the notifier is registered
   std::unique_ptr<TExpertMainMenuModule> menu_;
 };
 

@@ -12,7 +12,8 @@ void TBoundedText::Set(std::string_view text) {
 }
 
 std::string TBoundedText::Truncated() const {
-  return Fits() ? text_ : FromCodePageLossy(TruncateInCodePage(*ToCodePageExact(text_), size_ - 1));
+  const auto bytes = ToCodePageExact(text_);
+  return bytes && bytes->size() >= size_ ? FromCodePageLossy(TruncateInCodePage(*bytes, size_ - 1)) : text_;
 }
 
 bool TBoundedText::Fits() const {

@@ -51,7 +51,7 @@ TExpertMainMenuModule::TExpertMainMenuModule(ITeamCommands& commands) : commands
 TExpertMainMenuModule::~TExpertMainMenuModule() {
   auto* services = IdeService<IOTAMenuServices>();
   if (!services) return;
-  services->RemoveFileMenu(file_menu_);
+  services->RemoveFileMenu(fileMenu_);
   for (auto* top : ExpertMainMenu) services->RemoveMenu(*top);
   for (auto* action : ExpertActionList) services->DetachAction(*action);
 }
@@ -78,7 +78,7 @@ void TExpertMainMenuModule::InstallMenuItems() {
     item->ImageIndex = services.AddImage(MenuImageDocument(item->ImageIndex));
   CreateFileMenu();  // its items show the host's copies
   for (auto* top : ExpertMainMenu) services.InsertMenu(*top);
-  services.InsertFileMenu(file_menu_);
+  services.InsertFileMenu(fileMenu_);
 }
 
 void TExpertMainMenuModule::CreateActions() {
@@ -103,7 +103,7 @@ void TExpertMainMenuModule::CreateActions() {
       {actRunSccApp, "actRunSccApp", sActRunSccApp, true, 7, &TModule::actRunSccAppExecute},
       {actCommitBrowser, "actCommitBrowser", sActCommitBrowser, true, 3, &TModule::actCommitBrowserExecute},
       {actMessages, "actMessages", sActMessages, true, kNoImage, &TModule::actMessagesExecute},
-      {act_get_files_, "actGetFiles", sGetLatestVersion, true, 9, &TModule::actGetFilesExecute},
+      {actGetFiles_, "actGetFiles", sGetLatestVersion, true, 9, &TModule::actGetFilesExecute},
   };
   for (const auto& row : rows) {
     auto& action = row.Action;
@@ -131,7 +131,7 @@ void TExpertMainMenuModule::CreateItems() {
   MainSep3.Visible = false;
   ShowDifferences1 =
       HiddenItem("ShowDifferences1", sItemShowDifferences.Text, 18, [this] { actShowDiffExecute(); });
-  GetFiles = Item("GetFiles", act_get_files_);
+  GetFiles = Item("GetFiles", actGetFiles_);
   GetFiles.Enabled = GetFiles.Visible = false;
   ShowHistory1 = HiddenItem("ShowHistory1", sItemShowHistory.Text, 19, [this] { actShowHistoryExecute(); });
   MainSep4 = Separator("MainSep4");
@@ -158,8 +158,8 @@ void TExpertMainMenuModule::CreateFileMenu() {
     return item(shown.Caption, shown.ImageIndex, handler);
   };
   using TModule = TExpertMainMenuModule;
-  file_menu_.Caption = sTeam;
-  file_menu_.Items = {
+  fileMenu_.Caption = sTeam;
+  fileMenu_.Items = {
       action(actCheckOutFiles, &TModule::actCheckOutSingleExecute),
       action(actCheckInFiles, &TModule::actCheckInSingleExecute),
       action(actAddFiles, &TModule::actAddSingleExecute),
@@ -167,11 +167,11 @@ void TExpertMainMenuModule::CreateFileMenu() {
       action(actUndoCheckOutFiles, &TModule::actUndoCheckOutSingleExecute),
       {sSeparator, kNoImage, {}},
       item(ShowDifferences1.Caption, ShowDifferences1.ImageIndex, &TModule::ShowDiffSingle),
-      action(act_get_files_, &TModule::actGetSingleExecute),
+      action(actGetFiles_, &TModule::actGetSingleExecute),
       item(ShowHistory1.Caption, ShowHistory1.ImageIndex, &TModule::ShowHistorySingle),
       item(sItemProperties, kNoImage, &TModule::PropertiesSingle),
   };
-  file_menu_.IsEnabled = [this](const std::string& fileName) {
+  fileMenu_.IsEnabled = [this](const std::string& fileName) {
     return !Trim(fileName).empty() && commands_.HasProviderProject();
   };
 }
@@ -180,7 +180,7 @@ void TExpertMainMenuModule::EnableMenus(bool enable) {
   for (auto* item : {&CheckOutFiles, &CheckInFiles, &AddFiles, &RemoveFiles, &UndoCheckOutFiles,
                      &CommitBrowser, &RunSccApplication1})
     item->Enabled = item->Action->Enabled = enable;
-  act_get_files_.Enabled = enable;
+  actGetFiles_.Enabled = enable;
   actPullProject.Enabled = PullProject.Enabled = true;  // pulling needs no open project
   actMessages.Visible = Messages1.Visible = false;      // intentional, in both cases
 }

@@ -137,8 +137,8 @@ class TExpertMainMenuModule {
            const std::string& fileName);
 
   ITeamCommands& commands_;
-  TAction act_get_files_;  // of GetFiles; hidden in the menu, but in the host's action list
-  TFileMenu file_menu_;
+  TAction actGetFiles_;  // of GetFiles; hidden in the menu, but in the host's action list
+  TFileMenu fileMenu_;
 };
 
 }  // namespace kestrel::addin

@@ -62,7 +62,7 @@ class TCommitBrowser::TProgressLine final : public IProgress {
   void Step(std::size_t done, const std::string& what) override {
     if (!clock_.Due(TClock::now())) return;
     Show(Format(sCommitProgress,
-                {static_cast<long long>(done + 1), static_cast<long long>(total_), ExtractFileName(what)}));
+                {static_cast<long long>(done) + 1, static_cast<long long>(total_), ExtractFileName(what)}));
   }
 
  private:
