@@ -30,8 +30,9 @@ struct Context : Input<void*> {
 };
 
 struct Window : Input<scc::WindowHandle> {
-  static void Write(ProviderProxy&, FrameWriter& out, Arg window) {
-    out(static_cast<std::uint64_t>(OwnerWindowId(window)));
+  static void Write(ProviderProxy& proxy, FrameWriter& out, Arg window) {
+    proxy.Owner = OwnerWindowId(window);
+    out(proxy.Owner);
   }
 };
 

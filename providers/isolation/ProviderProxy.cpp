@@ -5,6 +5,7 @@
 
 #include "IsolationStrings.h"
 #include "Waiting.h"
+#include "WindowId.h"
 
 using namespace std::chrono_literals;
 
@@ -144,14 +145,20 @@ std::string ProviderProxy::Execute(EntryPoint entry, const std::string& body, st
   return answer;
 }
 
+/// False also if the provider hangs with a window open.
+bool ProviderProxy::ShowsLiveWindow() const {
+  return windows_ > 0 && std::chrono::steady_clock::now() - windowsReported_ < 3 * kWindowCountInterval;
+}
+
 std::string ProviderProxy::AwaitAnswer(const char* call, std::size_t answerLimit) {
   call_ = call;
+  windowsReported_ = std::chrono::steady_clock::now();
   answer_.reset();
   failure_.clear();
   stopped_ = false;
   lastLine_.clear();
   WaitForCall({[&](std::chrono::milliseconds wait) { return Step(wait, answerLimit); },
-               [this] { return windows_ > 0; }, [this] { return lastLine_; },
+               [this] { return ShowsLiveWindow(); }, [this] { return lastLine_; },
                [this] {
                  stopped_ = true;
                  connection_->Kill();
@@ -160,6 +167,7 @@ std::string ProviderProxy::AwaitAnswer(const char* call, std::size_t answerLimit
   if (answer_) return *std::move(answer_);
   const auto sentence = DescribeFailure(call);
   connection_.reset();
+  if (windows_ > 0) ReleaseOwner(Owner);
   throw CallFailed(sentence);
 }
 
@@ -219,6 +227,7 @@ bool ProviderProxy::HandleFrame(const Frame& frame) {
       return false;
     case FrameKind::WindowCount:
       FrameReader{frame.Body}(windows_);
+      windowsReported_ = std::chrono::steady_clock::now();
       return false;
     default:
       throw WireError("a frame that is not for the library");

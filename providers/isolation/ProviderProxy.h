@@ -80,6 +80,7 @@ class ProviderProxy {
 
   // Used by the arguments of the current call.
   std::uint64_t Context = 0;     ///< the provider's context, a pointer of its process
+  std::uint64_t Owner = 0;       ///< the client's window that owns the provider's, see WindowId.h
   bool HasAddInBuffers = false;  ///< the client is the add-in, see BufferSizes.h
   scc::Long Count = 0;           ///< number of files
   OptionsTable Options;
@@ -104,6 +105,7 @@ class ProviderProxy {
   bool HandleFrame(const Frame& frame);
   scc::Long ForwardMessage(const std::string& line);
   scc::Long ForwardListItem(const std::string& item);
+  bool ShowsLiveWindow() const;
   std::string AwaitAnswer(const char* call, std::size_t answerLimit);
   std::string DescribeFailure(const char* call);
 
@@ -118,6 +120,7 @@ class ProviderProxy {
   std::optional<std::string> answer_;
   std::string failure_;
   std::uint32_t windows_ = 0;
+  std::chrono::steady_clock::time_point windowsReported_;
   std::string lastLine_;
   std::vector<std::pair<scc::MessageKind, std::string>> queued_;
   std::mutex busy_;

@@ -10,7 +10,7 @@ namespace kestrel::isolation {
 struct PendingCall {
   /// Works on the call for at most the given time; returns true when the call has finished.  Does not throw.
   std::function<bool(std::chrono::milliseconds)> Step;
-  /// Whether the provider currently shows a window of its own.
+  /// Whether the provider shows a window of its own that responds.
   std::function<bool()> ProviderShowsWindow;
   /// The provider's most recent message.
   std::function<std::string()> LastLine;

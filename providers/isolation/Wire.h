@@ -5,6 +5,7 @@
 #include <cereal/cereal.hpp>
 #include <cereal/types/string.hpp>
 #include <cereal/types/vector.hpp>
+#include <chrono>
 #include <cstdint>
 #include <stdexcept>
 #include <string>
@@ -38,10 +39,11 @@ enum class FrameKind : std::uint32_t {
   Hello,  ///< the first frame: empty, or why the provider cannot be loaded
   /// text of an exception (null for none), whether the host ends because of it, result, output arguments
   Answer,
-  Message,     ///< for the text callback: kind, text; no reply
-  Query,       ///< the same with a Reply
-  ListItem,    ///< for the list callback; with a Reply
-  WindowCount  ///< number of windows that the provider shows
+  Message,   ///< for the text callback: kind, text; no reply
+  Query,     ///< the same with a Reply
+  ListItem,  ///< for the list callback; with a Reply
+  /// number of windows that the provider shows; repeated every kWindowCountInterval while a call runs and there are any
+  WindowCount
 };
 
 struct Frame {
@@ -55,6 +57,7 @@ struct FrameHeader {
   FrameKind Kind;
 };
 
+constexpr std::chrono::milliseconds kWindowCountInterval{1000};
 constexpr std::size_t kSmallFrameSize = 64 << 10;
 constexpr std::size_t kMaxMessageSize = 16 << 20;
 constexpr std::size_t kMaxNames = 65'536;

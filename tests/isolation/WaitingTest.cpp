@@ -26,7 +26,9 @@ class TWatcher : public wxTimer {
   std::function<void(wxDialog&)> seen_;
 };
 
-TEST(Waiting, RepaintsOffersStopAndRefusesNestedCalls) {
+class Waiting : public testing::TestWithParam<const char*> {};
+
+TEST_P(Waiting, RepaintsOffersStopAndRefusesNestedCalls) {
   wxFrame frame(nullptr, wxID_ANY, "Client");
   frame.Show();
   int painted = 0;
@@ -37,7 +39,7 @@ TEST(Waiting, RepaintsOffersStopAndRefusesNestedCalls) {
   TIsolatedClient client;
   ASSERT_EQ(scc::SCC_OK, client.Initialize());
   ASSERT_EQ(scc::SCC_OK, client.Open());
-  client.Arm("SccCheckout", "loop");
+  client.Arm("SccCheckout", GetParam());
   scc::Long inside = 0;
   int seen = 0;
   TWatcher watcher([&](wxDialog& dialog) {
@@ -57,6 +59,8 @@ TEST(Waiting, RepaintsOffersStopAndRefusesNestedCalls) {
   EXPECT_EQ(scc::SCC_OK, client.Status());
   EXPECT_THAT(lines, Contains(HasSubstr("started again; the project is open again")));
 }
+
+INSTANTIATE_TEST_SUITE_P(All, Waiting, testing::Values("loop", "window"));
 
 }  // namespace
 

@@ -11,7 +11,9 @@
 
 #if defined(_WIN32)
 #include <io.h>
+#include <windows.h>
 #else
+#include <dlfcn.h>
 #include <unistd.h>
 #endif
 
@@ -31,6 +33,21 @@ void Exit(TText) { std::_Exit(7); }
 void Loop(TText) {
   for (volatile bool go = true; go;) {
   }
+}
+/// With a window open that never responds.
+void ShowWindowAndLoop(TText textOut) {
+#if defined(_WIN32)
+  ShowWindow(CreateWindowW(L"STATIC", L"Scripted", WS_OVERLAPPEDWINDOW, 0, 0, 200, 100, nullptr, nullptr,
+                           nullptr, nullptr),
+             SW_SHOW);
+#else
+  const auto gtk = [](const char* name) {
+    return dlsym(RTLD_DEFAULT, name);
+  };  // of the process, if it has windows
+  if (const auto make = reinterpret_cast<void* (*)(int)>(gtk("gtk_window_new")))
+    reinterpret_cast<void (*)(void*)>(gtk("gtk_widget_show"))(make(0));
+#endif
+  Loop(textOut);
 }
 void Throw(TText) { throw std::runtime_error("scripted failure"); }
 
@@ -84,9 +101,18 @@ struct TFaultRow {
   void (*Commit)(TText);
 };
 constexpr TFaultRow kFaults[] = {
-    {"crash", Crash},    {"abort", Abort},    {"exit", Exit},      {"loop", Loop},
-    {"throw", Throw},    {"garble", Garble},  {"text", WriteMuch}, {"threads", WriteFromThreads},
-    {"close", CloseAll}, {"junk", WriteJunk}, {"copy", LeaveCopy},
+    {"crash", Crash},
+    {"abort", Abort},
+    {"exit", Exit},
+    {"loop", Loop},
+    {"window", ShowWindowAndLoop},
+    {"throw", Throw},
+    {"garble", Garble},
+    {"text", WriteMuch},
+    {"threads", WriteFromThreads},
+    {"close", CloseAll},
+    {"junk", WriteJunk},
+    {"copy", LeaveCopy},
 };
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include "Callbacks.h"
 
+#include <atomic>
 #include <cstring>
 #include <mutex>
 
@@ -10,7 +11,7 @@ namespace {
 
 // Queries are serialised and refused outside of a call, so that only one thread reads the channel.
 std::mutex askMutex;
-bool callRunning = false;
+std::atomic<bool> callRunning = false;
 
 scc::Long Ask(FrameKind kind, const std::string& body, scc::Long otherwise) {
   const std::lock_guard lock(askMutex);
@@ -39,6 +40,8 @@ CallScope::~CallScope() {
   const std::lock_guard lock(askMutex);
   callRunning = false;
 }
+
+bool IsCallRunning() { return callRunning; }
 
 scc::Long SCC_CALL TextOutProc(const char* text, scc::Dword kind) noexcept {
   // Later versions of the API pass addresses of structures with these.

@@ -16,5 +16,7 @@ class CallScope {
   CallScope(const CallScope&) = delete;
   CallScope& operator=(const CallScope&) = delete;
 };
+/// Whether a call is being executed.  Any thread.
+bool IsCallRunning();
 
 }  // namespace kestrel::isolation

@@ -11,4 +11,6 @@ std::uint64_t WindowId(scc::WindowHandle, wxWindow* fallback) {
   return window != nullptr && GDK_IS_X11_WINDOW(window) ? gdk_x11_window_get_xid(window) : 0;
 }
 
+void ReleaseOwner(std::uint64_t) {}
+
 }  // namespace kestrel::isolation

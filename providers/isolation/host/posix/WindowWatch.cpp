@@ -3,6 +3,10 @@
 #include <gdk/gdkx.h>
 #include <gtk/gtk.h>
 
+#include <utility>
+
+#undef Bool  // of X11
+#include "Callbacks.h"
 #include "Channel.h"
 
 namespace kestrel::isolation {
@@ -10,6 +14,7 @@ namespace {
 
 Window owner = 0;
 std::uint32_t shown = 0;
+guint repeating = 0;  // the timer's number, while windows are shown
 
 /// Returns the widget of a signal if it is a top-level window; null for others and for menus and tooltips.
 GtkWindow* WindowOf(const GValue* values) {
@@ -32,11 +37,23 @@ gboolean OnRealize(GSignalInvocationHint*, guint, const GValue* values, gpointer
   return TRUE;
 }
 
+void ReportShown() { channel::Write(FrameKind::WindowCount, Serialize(shown)); }
+
+/// Shows the client that the windows respond.
+gboolean RepeatShown(gpointer) {
+  if (IsCallRunning()) ReportShown();
+  return TRUE;
+}
+
 template <int Change>
 gboolean OnShown(GSignalInvocationHint*, guint, const GValue* values, gpointer) {
   if (WindowOf(values) == nullptr) return TRUE;
   shown += static_cast<std::uint32_t>(Change);
-  channel::Write(FrameKind::WindowCount, Serialize(shown));
+  ReportShown();
+  if (shown == 0)
+    g_source_remove(std::exchange(repeating, 0));
+  else if (repeating == 0)
+    repeating = g_timeout_add(static_cast<guint>(kWindowCountInterval.count()), RepeatShown, nullptr);
   return TRUE;
 }
 

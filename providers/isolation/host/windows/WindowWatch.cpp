@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <map>
+#include <utility>
 
+#include "Callbacks.h"
 #include "Channel.h"
 #include "system/windows/Api.h"
 
@@ -13,6 +15,12 @@ HWND owner = nullptr;
 std::map<HWND, HWND>
     owned;  // top-level windows of this thread, each with the owner that it was given or null
 std::uint32_t shown = 0;
+UINT_PTR repeating = 0;  // the timer's number, while windows are shown
+
+/// Shows the client that the windows respond.
+void CALLBACK RepeatShown(HWND, UINT, UINT_PTR, DWORD) {
+  if (IsCallRunning()) channel::Write(FrameKind::WindowCount, Serialize(shown));
+}
 
 void ReportShown() {
   const auto now = static_cast<std::uint32_t>(
@@ -20,6 +28,10 @@ void ReportShown() {
   if (now == shown) return;
   shown = now;
   channel::Write(FrameKind::WindowCount, Serialize(shown));
+  if (shown == 0)
+    KillTimer(nullptr, std::exchange(repeating, 0));
+  else if (repeating == 0)
+    repeating = SetTimer(nullptr, 0, static_cast<UINT>(kWindowCountInterval.count()), RepeatShown);
 }
 
 bool IsTopLevel(HWND window) {
