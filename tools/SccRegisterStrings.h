@@ -45,6 +45,8 @@ inline constexpr TResString sPathNotAbsolute{"%s is not an absolute path."};
 inline constexpr TResString sFileNotFound{"%s does not exist."};
 inline constexpr TResString sNotLoadable{"%s cannot be loaded: %s"};
 inline constexpr TResString sNotAProvider{"%s is not a source control provider: it does not export %s."};
+inline constexpr TResString sOnlyIsolated{
+    "%s is a %d-bit library. It can only run in a separate process, with --isolated."};
 inline constexpr TResString sNotInstalled{"No provider is installed under the name \"%s\"."};
 inline constexpr TResString sNoKey{
     "The entry of \"%s\" names no key of the registry; install the provider again."};
@@ -56,6 +58,7 @@ inline constexpr TResString sProviderLine{"%s %s  %s"};
 inline constexpr TResString sNoSuchFile{" (not found)"};
 inline constexpr TResString sInPath{" (searches PATH)"};
 inline constexpr TResString sInOwnProcess{" (isolated)"};
+inline constexpr TResString sForOtherBits{" (for %d-bit programs; \"isolate\" makes it usable here)"};
 inline constexpr TResString sAdded{"Installed \"%s\".\n"};
 inline constexpr TResString sRemoved{"Removed \"%s\".\n"};
 inline constexpr TResString sIsIsolated{"\"%s\" runs in a process of its own.\n"};

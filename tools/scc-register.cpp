@@ -43,8 +43,9 @@ struct TArguments {
 
 // ------------------------------------------------------------------------------------------------- registry
 
-std::string ReadValue(const std::string& key, const std::string& name) {
-  TRegistry registry;
+std::string ReadValue(const std::string& key, const std::string& name,
+                      TRegRoot root = TRegRoot::LocalMachine) {
+  TRegistry registry(root);
   return registry.OpenKeyReadOnly(key) ? registry.ReadString(name) : std::string();
 }
 
@@ -60,8 +61,8 @@ void DeleteValue(const std::string& key, const std::string& name) {
   registry.DeleteValue(name);
 }
 
-std::vector<std::string> InstalledProviders() {
-  TRegistry registry;
+std::vector<std::string> InstalledProviders(TRegRoot root = TRegRoot::LocalMachine) {
+  TRegistry registry(root);
   return registry.OpenKeyReadOnly(kInstalledProvidersKey) ? registry.GetValueNames()
                                                           : std::vector<std::string>();
 }
@@ -90,6 +91,13 @@ std::string InstalledKeyOf(const std::string& name) {
   return key;
 }
 
+/// The library of a provider that is only installed for programs of the other bitness; empty for others.
+std::string PathForOtherBits(const std::string& name) {
+  constexpr auto kOther = TRegRoot::LocalMachineOtherBits;
+  if (IsInstalled(name)) return {};
+  return ReadValue(ReadValue(kInstalledProvidersKey, name, kOther), kServerPath, kOther);
+}
+
 bool IsDefault(const std::string& key) { return SameText(ReadValue(kProviderKey, kProviderRegKey), key); }
 
 // ------------------------------------------------------------------------------------------------- commands
@@ -112,9 +120,31 @@ void CheckLibrary(const std::string& path, TDependencySearch search) {
   if (!isProvider) throw EFailure(Format(sNotAProvider, {path, kEntryPoint}));
 }
 
+/// Throws EFailure for a library of the other bitness.
+void RequireDirect(const std::string& path) {
+  if (!CanLoadDirectly(path)) throw EFailure(Format(sOnlyIsolated, {path, LibraryBits(path)}));
+}
+
 void Choose(const std::string& name) {
   WriteValue(kProviderKey, kProviderRegKey, InstalledKeyOf(name));
   std::cout << Format(sIsDefault, {name});
+}
+
+/// Writes the provider's entry, or changes it.
+void Install(const TArguments& arguments) {
+  const auto& name = arguments.Name;
+  const auto known = KeyOf(name);
+  const auto key = known.empty() ? OwnKey(name) : known;
+  const auto library =
+      arguments.Isolated ? InstallProxyLibrary(name, arguments.Path, arguments.SearchPath) : arguments.Path;
+  // The list is written last, so that a concurrent reader finds complete entries only.
+  WriteValue(key, kServerName, name);
+  WriteValue(key, kServerPath, library);
+  if (arguments.SearchPath)
+    WriteValue(key, kSearchPath, "1");
+  else
+    DeleteValue(key, kSearchPath);
+  WriteValue(kInstalledProvidersKey, name, key);
 }
 
 void Add(const TArguments& arguments) {
@@ -122,22 +152,12 @@ void Add(const TArguments& arguments) {
   const auto& path = arguments.Path;
   CheckName(name);
   if (!IsAbsolutePath(path)) throw EFailure(Format(sPathNotAbsolute, {path}));
-  if (!arguments.Force)
+  if (!arguments.Isolated) RequireDirect(path);
+  if (!arguments.Force && CanLoadDirectly(path))
     CheckLibrary(path,
                  arguments.SearchPath ? TDependencySearch::OwnFolderPath : TDependencySearch::OwnFolder);
-
   const bool isFirst = InstalledProviders().empty();
-  const auto known = KeyOf(name);
-  const auto key = known.empty() ? OwnKey(name) : known;
-  // The list is written last, so that a concurrent reader finds complete entries only.
-  WriteValue(key, kServerName, name);
-  WriteValue(key, kServerPath,
-             arguments.Isolated ? InstallProxyLibrary(name, path, arguments.SearchPath) : path);
-  if (arguments.SearchPath)
-    WriteValue(key, kSearchPath, "1");
-  else
-    DeleteValue(key, kSearchPath);
-  WriteValue(kInstalledProvidersKey, name, key);
+  Install(arguments);
   std::cout << Format(sAdded, {name});
   if (isFirst || arguments.Default) Choose(name);
 }
@@ -172,24 +192,32 @@ std::string ProviderPath(const std::string& path) {
 /// For a provider that is isolated already this updates its library, e.g. after an update of this program.
 void MakeIsolated(const TArguments& arguments) {
   const auto& name = arguments.Name;
-  const auto key = InstalledKeyOf(name);
-  WriteValue(key, kServerPath,
-             InstallProxyLibrary(name, ProviderPath(ReadValue(key, kServerPath)),
-                                 ReadValue(key, kSearchPath) == "1"));
+  if (const auto path = PathForOtherBits(name); !path.empty()) {
+    if (!FileExists(path)) throw EFailure(Format(sFileNotFound, {path}));
+    Install({.Name = name, .Path = path, .Isolated = true});
+  } else {
+    const auto key = InstalledKeyOf(name);
+    WriteValue(key, kServerPath,
+               InstallProxyLibrary(name, ProviderPath(ReadValue(key, kServerPath)),
+                                   ReadValue(key, kSearchPath) == "1"));
+  }
   std::cout << Format(sIsIsolated, {name});
 }
 
 void MakeDirect(const TArguments& arguments) {
   const auto& name = arguments.Name;
   const auto key = InstalledKeyOf(name);
-  WriteValue(key, kServerPath, ProviderPath(ReadValue(key, kServerPath)));
+  const auto path = ProviderPath(ReadValue(key, kServerPath));
+  RequireDirect(path);
+  WriteValue(key, kServerPath, path);
   RemoveProxyLibrary(name);
   std::cout << Format(sIsDirect, {name});
 }
 
 void List(const TArguments&) {
   const auto names = InstalledProviders();
-  if (names.empty()) std::cout << sNoProviders.str();
+  const auto others = InstalledProviders(TRegRoot::LocalMachineOtherBits);
+  if (names.empty() && others.empty()) std::cout << sNoProviders.str();
   for (const auto& name : names) {
     const auto key = KeyOf(name);
     const auto library = ReadValue(key, kServerPath);
@@ -199,6 +227,10 @@ void List(const TArguments&) {
               << (path != library ? sInOwnProcess.Text : "")
               << (ReadValue(key, kSearchPath) == "1" ? sInPath.Text : "") << '\n';
   }
+  constexpr int kOtherBits = sizeof(void*) == 8 ? 32 : 64;
+  for (const auto& name : others)
+    if (const auto path = PathForOtherBits(name); !path.empty())
+      std::cout << Format(sProviderLine, {" ", name, path}) << Format(sForOtherBits, {kOtherBits}) << '\n';
 }
 
 // --------------------------------------------------------------------------------------------- command line

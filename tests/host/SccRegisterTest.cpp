@@ -11,6 +11,9 @@
 #include "system/Paths.h"
 #include "system/Registry.h"
 #include "system/System.h"
+#if defined(_WIN64)
+#include "support/OtherBitness.h"
+#endif
 
 namespace kestrel {
 
@@ -30,7 +33,8 @@ class SccRegister : public testing::Test {
     if (IsSkipped()) return;
     for (const auto& key :
          {std::string(kProviderKey), std::string("Software\\Tiny"), std::string("Software\\Größe = 2"),
-          std::string("Software\\Third"), std::string("Software\\Vendor")})
+          std::string("Software\\Third"), std::string("Software\\Vendor"),
+          kFor32Bits + "SourceCodeControlProvider", kFor32Bits + "Vendor"})
       TRegistry().DeleteKey(key);
   }
 
@@ -62,6 +66,7 @@ class SccRegister : public testing::Test {
   }
   static std::string Default() { return Read(kProviderKey, kProviderRegKey); }
 
+  const std::string kFor32Bits = "Software\\WOW6432Node\\";
   static constexpr const char* kNoKey = "no such key";
   const TTemporaryFolder folder_;
   const std::string missing_ = folder_ / "no such/library.so";
@@ -177,5 +182,28 @@ TEST_F(SccRegister, RefusesBadArgumentsWithAReason) {
   EXPECT_EQ(Default(), kNoKey) << "nothing was written";
   EXPECT_THAT(Run({"--help"}).Output, HasSubstr("Usage: "));
 }
+
+#if defined(_WIN64)
+TEST_F(SccRegister, IsolatesProvidersOfTheOtherBitnessOnly) {
+  const auto library = folder_.Write("other.dll", ForTheOtherBitness(ReadWholeFile(kTiny)));
+  const auto folder = NormalizePath(ExtractFileDir(SCC_REGISTER)) + "\\32-bit";
+  const auto host = folder + "\\scc-provider-host.exe";
+  std::filesystem::remove_all(ToFilePath(folder));
+  EXPECT_THAT(Run({"add", "Tiny", library}).Errors,
+              HasSubstr("32-bit library. It can only run in a separate"));
+  EXPECT_THAT(Run({"add", "Tiny", library, "--isolated"}).Errors, HasSubstr(host + ", does not exist"));
+
+  Write(kFor32Bits + "SourceCodeControlProvider\\InstalledSCCProviders", "Vendor", "Software\\Vendor");
+  Write(kFor32Bits + "Vendor", kServerPath, library);
+  EXPECT_THAT(List(), UnorderedElementsAre(HasSubstr("  Vendor  " + library + " (for 32-bit programs")));
+  std::filesystem::create_directory(ToFilePath(folder));
+  std::filesystem::copy(ToFilePath(kTiny), ToFilePath(host));
+  Do({"isolate", "Vendor"});
+  EXPECT_THAT(List(), UnorderedElementsAre("  Vendor  " + library + " (isolated)"));
+  EXPECT_THAT(Run({"direct", "Vendor"}).Errors, HasSubstr("can only run in a separate process"));
+  Do({"remove", "Vendor"});
+  std::filesystem::remove_all(ToFilePath(folder));
+}
+#endif
 
 }  // namespace kestrel

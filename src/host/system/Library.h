@@ -21,6 +21,8 @@ TModuleHandle LoadModule(const std::string& path, std::string* error = nullptr,
                          TDependencySearch search = TDependencySearch::OwnFolder);
 /// The address of an exported symbol, or null.
 void* FindSymbol(TModuleHandle module, const char* name);
+/// The address width of the programs that can load a library, by its header: 32 or 64; 0 if unknown, always so on POSIX.
+int LibraryBits(const std::string& path);
 /// Releases a library once.  Null is allowed.
 void UnloadModule(TModuleHandle module);
 

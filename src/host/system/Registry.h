@@ -10,7 +10,11 @@
 
 namespace kestrel {
 
-enum class TRegRoot { LocalMachine, CurrentUser };
+enum class TRegRoot {
+  LocalMachine,
+  CurrentUser,
+  LocalMachineOtherBits  ///< that of 32-bit programs for 64-bit ones and the reverse, on Windows only; do not write to it
+};
 
 /// The folder for files that belong to registered providers: that of the registry's files, or on Windows the program's.
 std::string RegistryFolder();

@@ -1,7 +1,5 @@
-#include <cstdint>
-#include <cstring>
-
 #include "support/Environment.h"
+#include "support/OtherBitness.h"
 #include "support/TemporaryFolder.h"
 #include "support/Testing.h"
 #include "system/Library.h"
@@ -16,15 +14,6 @@ bool Loads(const std::string& path, TDependencySearch search = TDependencySearch
   const auto module = LoadModule(path, nullptr, search);
   UnloadModule(module);
   return module != nullptr;
-}
-
-/// The machine's number in the header.
-std::string ForTheOtherBitness(std::string library) {
-  std::int32_t header = 0;
-  std::memcpy(&header, library.data() + 0x3C, sizeof header);
-  const std::uint16_t machine = sizeof(void*) == 4 ? 0x8664 : 0x014C;
-  std::memcpy(library.data() + header + 4, &machine, sizeof machine);
-  return library;
 }
 
 }  // namespace

@@ -16,6 +16,8 @@ TModuleHandle LoadModule(const std::string& path, std::string* error, TDependenc
 
 void* FindSymbol(TModuleHandle module, const char* name) { return module ? dlsym(module, name) : nullptr; }
 
+int LibraryBits(const std::string&) { return 0; }
+
 void UnloadModule(TModuleHandle module) {
   if (module) dlclose(module);
 }

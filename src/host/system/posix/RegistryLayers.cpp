@@ -37,6 +37,7 @@ std::string UserDirectory() {
 }
 
 std::vector<std::string> DirectoriesOf(TRegRoot root) {
+  if (root == TRegRoot::LocalMachineOtherBits) return {};
   const auto only = Environment("CORVANE_REGISTRY_DIR");
   if (!only.empty()) return {only};
   if (root == TRegRoot::CurrentUser) return {UserDirectory()};

@@ -13,7 +13,7 @@ namespace kestrel {
 /// Reads all files and writes the topmost.  Nothing is cached, so that changes by other programs are visible.
 class TRegistryLayers final : public IRegistryRoot {
  public:
-  /// `files` from the topmost down, at least one; they need not exist.
+  /// `files` from the topmost down; they need not exist.  Changes require at least one.
   explicit TRegistryLayers(std::vector<std::string> files) : files_(std::move(files)) {}
 
   bool HasKey(const std::string& key) const override;

@@ -128,6 +128,11 @@ void* FindSymbol(TModuleHandle module, const char* name) {
   return symbol || !kIs32Bit ? symbol : Find(module, std::string("_") + name);
 }
 
+int LibraryBits(const std::string& path) {
+  const auto machine = MachineOf(path);
+  return machine == IMAGE_FILE_MACHINE_I386 ? 32 : machine == IMAGE_FILE_MACHINE_AMD64 ? 64 : 0;
+}
+
 void UnloadModule(TModuleHandle module) {
   if (module) FreeLibrary(static_cast<HMODULE>(module));
 }

@@ -31,7 +31,8 @@ using TOpenKey = std::unique_ptr<HKEY, TCloseKey>;
 
 class TSystemRegistry final : public IRegistryRoot {
  public:
-  explicit TSystemRegistry(HKEY root) : root_(root) {}
+  /// `view` is added to the access rights.
+  TSystemRegistry(HKEY root, REGSAM view) : root_(root), view_(view) {}
 
   bool HasKey(const std::string& key) const override { return static_cast<bool>(OpenForReading(key)); }
 
@@ -75,8 +76,8 @@ class TSystemRegistry final : public IRegistryRoot {
     const auto wide = ToWide(value);
     const auto bytes = static_cast<DWORD>((wide.size() + 1) * sizeof(wchar_t));
     HKEY created = nullptr;
-    auto error = RegCreateKeyExW(root_, WideKey(key).c_str(), 0, nullptr, 0, KEY_SET_VALUE, nullptr, &created,
-                                 nullptr);
+    auto error = RegCreateKeyExW(root_, WideKey(key).c_str(), 0, nullptr, 0, KEY_SET_VALUE | view_, nullptr,
+                                 &created, nullptr);
     const TOpenKey opened(created);
     if (error == ERROR_SUCCESS)
       error = RegSetValueExW(opened.get(), ToWide(name).c_str(), 0, REG_SZ,
@@ -86,7 +87,7 @@ class TSystemRegistry final : public IRegistryRoot {
 
   bool DeleteValue(const std::string& key, const std::string& name) const override {
     HKEY found = nullptr;
-    const auto error = RegOpenKeyExW(root_, WideKey(key).c_str(), 0, KEY_SET_VALUE, &found);
+    const auto error = RegOpenKeyExW(root_, WideKey(key).c_str(), 0, KEY_SET_VALUE | view_, &found);
     const TOpenKey opened(found);
     return Check(key, error) && Check(key, RegDeleteValueW(opened.get(), ToWide(name).c_str()));
   }
@@ -98,11 +99,12 @@ class TSystemRegistry final : public IRegistryRoot {
  private:
   TOpenKey OpenForReading(const std::string& key) const {
     HKEY opened = nullptr;
-    RegOpenKeyExW(root_, WideKey(key).c_str(), 0, KEY_READ, &opened);
+    RegOpenKeyExW(root_, WideKey(key).c_str(), 0, KEY_READ | view_, &opened);
     return TOpenKey(opened);
   }
 
   HKEY root_;
+  REGSAM view_;
 };
 
 }  // namespace
@@ -110,8 +112,10 @@ class TSystemRegistry final : public IRegistryRoot {
 std::string RegistryFolder() { return ProgramFolder(); }
 
 std::unique_ptr<IRegistryRoot> IRegistryRoot::Open(TRegRoot root) {
-  return std::make_unique<TSystemRegistry>(root == TRegRoot::LocalMachine ? HKEY_LOCAL_MACHINE
-                                                                          : HKEY_CURRENT_USER);
+  constexpr REGSAM kOtherView = sizeof(void*) == 8 ? KEY_WOW64_32KEY : KEY_WOW64_64KEY;
+  return std::make_unique<TSystemRegistry>(
+      root == TRegRoot::CurrentUser ? HKEY_CURRENT_USER : HKEY_LOCAL_MACHINE,
+      root == TRegRoot::LocalMachineOtherBits ? kOtherView : 0);
 }
 
 }  // namespace kestrel
