@@ -2,7 +2,11 @@
 if(WIN32)
   set(wx_search CONFIG)  # there is no wx-config there
 endif()
-find_package(wxWidgets 3.2 REQUIRED ${wx_search} COMPONENTS stc aui core base)
+set(wx_parts stc aui core base)
+if(NOT WIN32)  # tools/windows-libraries leaves HTML out to build faster
+  list(PREPEND wx_parts html)
+endif()
+find_package(wxWidgets 3.2 REQUIRED ${wx_search} COMPONENTS ${wx_parts})
 add_library(wx INTERFACE)
 target_include_directories(wx SYSTEM INTERFACE ${wxWidgets_INCLUDE_DIRS})
 target_compile_definitions(wx INTERFACE ${wxWidgets_DEFINITIONS})

@@ -35,6 +35,7 @@ class TCommentsForm final : public TModalForm {
 
  protected:
   void CloseWith(int modalResult) override;
+  std::string HelpKeyword() const override { return "HC_TeamComments"; }
 
  private:
   void CreateControls();

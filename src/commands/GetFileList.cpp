@@ -24,6 +24,7 @@ constexpr int kNameWidth = 180;
 constexpr int kStatusWidth = 100;
 constexpr int kMinPathWidth = 120;
 constexpr int kCellMargins = 16;
+constexpr const char* kHelpKeyword = "HC_TeamFileList";  // of a command without one
 
 std::size_t Row(long item) { return static_cast<std::size_t>(item); }
 
@@ -186,9 +187,7 @@ void TGetFileListForm::FormShow() {
 
 void TGetFileListForm::FormKeyDown(wxKeyEvent& event) {
   const bool inList = FilesListView->IsDescendant(FindFocus());
-  if (event.GetKeyCode() == WXK_F1)
-    ShowHelp();
-  else if (inList && event.GetKeyCode() == WXK_SPACE && !event.HasAnyModifiers())
+  if (inList && event.GetKeyCode() == WXK_SPACE && !event.HasAnyModifiers())
     ToggleSelected();
   else if (inList && event.GetKeyCode() == 'A' && event.GetModifiers() == wxMOD_CONTROL)
     FilesListView->SelectAll();
@@ -196,9 +195,8 @@ void TGetFileListForm::FormKeyDown(wxKeyEvent& event) {
     TModalForm::FormKeyDown(event);
 }
 
-void TGetFileListForm::ShowHelp() {
-  auto* application = IdeService<IOTAApplication>();
-  if (application && !model_.HelpKeyword.empty()) application->HelpKeyword(model_.HelpKeyword);
+std::string TGetFileListForm::HelpKeyword() const {
+  return model_.HelpKeyword.empty() ? kHelpKeyword : model_.HelpKeyword;
 }
 
 void TGetFileListForm::ToggleSelected() {

@@ -74,7 +74,7 @@ class TGetFileListForm final : public TModalForm {
   void CreateControls();
   void LayOut();
   void BindEvents();
-  void ShowHelp();
+  std::string HelpKeyword() const override;
   void ToggleSelected();
 
   TCommandContext& Expert;

@@ -61,6 +61,7 @@ std::unique_ptr<TProductStartup> startup;
 }  // namespace
 
 extern "C" {
+const char* PackageVersion() { return KESTREL_VERSION; }
 void Initialize() { CreateDebugForm(); }
 void IDERegister() { startup = std::make_unique<TProductStartup>(); }
 void Finalize() {

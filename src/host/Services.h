@@ -76,7 +76,7 @@ class IOTAApplication : public virtual IInterface {
   static constexpr TGuid IID{0x7C3E5B62, 0x24A1, 0x4E0D, {0x9A, 0x11, 0x52, 0x6B, 0x0C, 0x7E, 0x31, 0x52}};
   /// Fires after each creation of a main form.  Packages are loaded before the first one is created.
   virtual TEvent<>& MainFormCreated() = 0;
-  /// Opens the help topic for a keyword.  Returns false if there is none.
+  /// Opens the help topic for a keyword, the contents for an empty one.  Returns false if there is none.
   virtual bool HelpKeyword(const std::string& keyword) = 0;
 };
 

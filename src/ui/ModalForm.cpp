@@ -2,7 +2,13 @@
 
 #include <wx/wx.h>
 
+#include "host/Services.h"
+
 namespace kestrel::addin {
+
+void ShowHelpTopic(const std::string& keyword) {
+  if (auto* application = IdeService<IOTAApplication>()) application->HelpKeyword(keyword);
+}
 
 TModalForm::TModalForm(const wxString& caption, long style)
     : wxDialog(nullptr, wxID_ANY, caption, wxDefaultPosition, wxDefaultSize, style) {
@@ -21,6 +27,8 @@ void TModalForm::FormKeyDown(wxKeyEvent& event) {
   const bool enter = key == WXK_RETURN || key == WXK_NUMPAD_ENTER;
   if (key == WXK_ESCAPE)
     CloseWith(mrCancel);
+  else if (key == WXK_F1)
+    ShowHelp();
   else if (!enter || !PressDefaultButton())
     event.Skip();
 }

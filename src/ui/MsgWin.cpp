@@ -10,6 +10,7 @@
 #include "toolkit/WindowSize.h"
 #include "toolkit/WxText.h"
 #include "ui/Icons.h"
+#include "ui/ModalForm.h"
 #include "ui/MsgWinStrings.h"
 
 namespace kestrel::addin {
@@ -22,6 +23,7 @@ enum TColumn { colMessage, colDate };
 constexpr int kMessageWidth = 400;
 constexpr int kDateWidth = 226;
 constexpr int kNoImage = -1;
+constexpr const char* kHelpKeyword = "HC_TeamMessages";
 static_assert(kLineIcons.size() == mwtStatus + 1);
 constexpr long kBorder =
     wxCAPTION | wxSYSTEM_MENU | wxMINIMIZE_BOX | wxCLOSE_BOX | wxRESIZE_BORDER | wxCLIP_CHILDREN;
@@ -148,6 +150,8 @@ void TMsgWinForm::FormKeyDown(wxKeyEvent& event) {
   const int key = event.GetKeyCode();
   if (key == WXK_ESCAPE)
     Hide();
+  else if (key == WXK_F1)
+    ShowHelpTopic(kHelpKeyword);
   else if (event.ControlDown() && key == 'C')
     CopySelection();
   else if (event.ControlDown() && key == 'A')

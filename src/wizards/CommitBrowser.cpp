@@ -32,7 +32,6 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr const char* kHelpKeyword = "HC_TeamCommitBrowser";
 /// Preview limit; keeps row navigation responsive for huge files.
 constexpr std::size_t kShownBytes = 1 << 20;
 
@@ -236,11 +235,9 @@ void TCommitBrowser::TCheckBoxPathTrimClick(wxCommandEvent&) {
 void TCommitBrowser::FormKeyDown(wxKeyEvent& event) {
   if (busy_ || CMDialogKey(event) || TurnToPage(event) || GridKeyDown(event)) return;
   const bool open = ActivityComboBox->IsPopupShown();
-  if (event.GetKeyCode() == WXK_F1)
-    HelpButtonClick();
-  else if (open && event.GetKeyCode() == WXK_ESCAPE)
+  if (open && event.GetKeyCode() == WXK_ESCAPE)
     ActivityComboBox->Dismiss();
-  else if (open)
+  else if (open && event.GetKeyCode() != WXK_F1)
     event.Skip();
   else
     TModalForm::FormKeyDown(event);
@@ -297,9 +294,7 @@ bool TCommitBrowser::TurnToPage(const wxKeyEvent& event) {
   return false;
 }
 
-void TCommitBrowser::HelpButtonClick() {
-  if (auto* application = IdeService<IOTAApplication>()) application->HelpKeyword(kHelpKeyword);
-}
+void TCommitBrowser::HelpButtonClick() { ShowHelp(); }
 
 // ------------------------------------------------------------------------------------------------ comments
 

@@ -97,6 +97,7 @@ class TCommitBrowser final : public TModalForm {
   void BindEvents();
 
   void CloseWith(int modalResult) override;
+  std::string HelpKeyword() const override { return "HC_TeamCommitBrowser"; }
   /// Restores comments that were typed and not used in an earlier browser.
   void RestoreComments();
   /// Records the typed comments, even if the dialog is cancelled or the commit fails.

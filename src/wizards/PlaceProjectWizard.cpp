@@ -12,7 +12,7 @@ constexpr int kFilesPanel = 3;
 }
 
 TPlaceProjectWizard::TPlaceProjectWizard(TCommandContext& expert)
-    : TWizardForm(controller_), controller_(expert) {
+    : TWizardForm(controller_, "HC_TeamPlaceProject"), controller_(expert) {
   CreateFilesPage();
   CreateStatusPage();
   FormCreate();

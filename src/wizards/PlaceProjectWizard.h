@@ -23,7 +23,6 @@ class TPlaceProjectWizard final : public TWizardForm {
   void CreateStatusPage();
   void UpdateControls() override;
   wxWindow* FirstControl(int panel) const override;
-  std::string HelpKeyword() const override { return "HC_TeamPlaceProject"; }
   void FormKeyDown(wxKeyEvent& event) override;
 
   TPlaceProjectController controller_;

@@ -15,7 +15,7 @@ constexpr int kTargetPanel = 3;
 }
 
 TPullProjectWizard::TPullProjectWizard(TCommandContext& expert)
-    : TWizardForm(controller_), controller_(expert) {
+    : TWizardForm(controller_, "HC_TeamPullProject"), controller_(expert) {
   CreateTargetPage();
   CreateStatusPage();
   FormCreate();

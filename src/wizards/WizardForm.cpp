@@ -13,6 +13,8 @@ namespace kestrel::addin {
 
 namespace {
 
+constexpr const char* kInstallHelpKeyword = "HC_TeamInstallProvider";
+
 using namespace std::chrono_literals;
 
 constexpr int kWidth = 520;
@@ -24,9 +26,10 @@ using TClock = std::chrono::steady_clock;
 
 }  // namespace
 
-TWizardForm::TWizardForm(TWizardController& controller)
+TWizardForm::TWizardForm(TWizardController& controller, const char* helpKeyword)
     : TModalForm({}, wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER),
       controller_(controller),
+      helpKeyword_(helpKeyword),
       clock_(TClock::now(), kBetweenUpdates, kBetweenUpdates) {
   for (auto** panel : {&Page1Panel, &Page2Panel, &Page3Panel, &Page4Panel}) *panel = new wxPanel(this);
   CreateProviderPage();
@@ -197,15 +200,17 @@ void TWizardForm::MoveFocus() {
 void TWizardForm::FormKeyDown(wxKeyEvent& event) {
   const bool control = event.GetModifiers() == wxMOD_CONTROL;
   const int key = event.GetKeyCode();
-  auto* application = IdeService<IOTAApplication>();
-  if (key == WXK_F1 && application && !HelpKeyword().empty() && !controller_.Page().Working)
-    application->HelpKeyword(HelpKeyword());
-  else if (control && key == 'A' && lbStatus->IsDescendant(FindFocus()))
+  if (key == WXK_F1 && controller_.Page().Working) return;
+  if (control && key == 'A' && lbStatus->IsDescendant(FindFocus()))
     lbStatus->SelectAll();
   else if (control && key == 'C' && lbStatus->IsDescendant(FindFocus()))
     lbStatus->CopySelected();
   else
     TModalForm::FormKeyDown(event);
+}
+
+std::string TWizardForm::HelpKeyword() const {
+  return controller_.Page().NoProviders ? kInstallHelpKeyword : helpKeyword_;
 }
 
 void TWizardForm::BackButtonClick(wxCommandEvent&) { controller_.BackButtonClick(); }

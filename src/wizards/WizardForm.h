@@ -41,17 +41,16 @@ class TWizardForm : public TModalForm {
   TLinesView* lbStatus;
 
  protected:
-  /// `controller` is borrowed and need not be constructed before FormCreate().
-  explicit TWizardForm(TWizardController& controller);
+  /// `controller` is borrowed and need not be constructed before FormCreate().  `helpKeyword` is a literal.
+  TWizardForm(TWizardController& controller, const char* helpKeyword);
   /// Call at the end of the derived constructor, when all controls exist.
   void FormCreate();
   /// Updates the controls of the derived form from its controller.
   virtual void UpdateControls() {}
   /// The control that gets the focus on that panel.  Null means the Next button, or the status list during the work.
   virtual wxWindow* FirstControl(int panel) const;
-  /// The help keyword of the form; may be empty.
-  virtual std::string HelpKeyword() const { return {}; }
   void FormKeyDown(wxKeyEvent& event) override;
+  std::string HelpKeyword() const override;
   /// Ignores close requests while work is in progress.
   void CloseWith(int modalResult) override;
 
@@ -77,6 +76,7 @@ class TWizardForm : public TModalForm {
   void MoveFocus();
 
   TWizardController& controller_;
+  const char* helpKeyword_;
   wxStaticText* problemLabel_;
   int panel_ = 0;  // the visible one
   TProgressClock clock_;

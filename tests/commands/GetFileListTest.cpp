@@ -113,7 +113,7 @@ TEST_F(FileList, EscapeCancelsFromEveryControl) {
   EXPECT_TRUE(model.KeepCheckedOut) << "what was cancelled does not count";
 }
 
-TEST_F(FileList, F1OpensTheHelpOfTheCommand) {
+TEST_F(FileList, F1OpensTheHelpOfTheCommandOrOfTheList) {
   Fill(1);
   Show([this](TGetFileListForm& form) {
     Preview(form.btnOK, WXK_F1);
@@ -121,7 +121,7 @@ TEST_F(FileList, F1OpensTheHelpOfTheCommand) {
     Preview(form.btnOK, WXK_F1);
     form.Close();
   });
-  EXPECT_THAT(host.Log, ElementsAre("HelpKeyword HC_TeamCheckInFiles"));
+  EXPECT_THAT(host.Log, ElementsAre("HelpKeyword HC_TeamFileList", "HelpKeyword HC_TeamCheckInFiles"));
 }
 
 }  // namespace

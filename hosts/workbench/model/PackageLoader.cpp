@@ -3,7 +3,9 @@
 #include <bit>
 #include <ranges>
 
+#include "host/PackageVersion.h"
 #include "host/Services.h"
+#include "system/Paths.h"
 #include "system/System.h"
 #include "workbench/model/ModelStrings.h"
 
@@ -41,6 +43,15 @@ bool TPackageLoader::Load(const std::string& path) {
     Entry(module, kPackageRegister)();
   });
   return true;
+}
+
+std::string TPackageLoader::Describe() const {
+  std::string lines;
+  for (const TPackage& package : packages_) {
+    const auto version = std::bit_cast<TPackageVersion>(FindSymbol(package.Module, kPackageVersion));
+    lines += ExtractFileName(package.Path) + (version ? std::string(" ") + version() : std::string()) + "\n";
+  }
+  return lines;
 }
 
 void TPackageLoader::Finalize() {

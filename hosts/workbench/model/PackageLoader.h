@@ -18,6 +18,8 @@ class TPackageLoader {
 
   /// Loads the package and calls Initialize and IDERegister. If it cannot be loaded, logs why and returns false.
   bool Load(const std::string& path);
+  /// A line per loaded package: the file's name, and its version if it has one.
+  std::string Describe() const;
   /// Calls Finalize of each package in reverse order of loading. The code stays in memory until Unload.
   void Finalize();
   /// Releases the libraries; no object of theirs may exist any more.

@@ -66,7 +66,7 @@ bool TWorkbenchApp::OnInit() {
   services_ = std::make_unique<TIdeServices>([this](const std::string& line) { Log(line); });
   packages_ = std::make_unique<TPackageLoader>(services_->Caller());
   for (const auto& package : PackagesToLoad(line_, services_->Options())) packages_->Load(package);
-  frame_ = new TMainFrame(*services_);
+  frame_ = new TMainFrame(*services_, *packages_);
   SetTopWindow(frame_);
   for (const auto& line : early_) frame_->AddMessage(line);
   frame_->Show();

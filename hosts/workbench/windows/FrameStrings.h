@@ -7,7 +7,8 @@ namespace kestrel::workbench {
 
 inline constexpr TResString sProgramName{"Workbench"};
 inline constexpr TResString sFrameTitle{"%s - Workbench"};
-inline constexpr TResString sAboutText{"Workbench %s\nA small IDE that hosts run-time packages."};
+inline constexpr TResString sAboutText{
+    "Workbench %s\nA small IDE that hosts run-time packages.\n\nLoaded packages:\n%s"};
 inline constexpr TResString sProgramHelp{"A small IDE that loads run-time packages."};
 inline constexpr TResString sHelpHelp{"Print this help"};
 inline constexpr TResString sVersionHelp{"Print the version"};
@@ -70,6 +71,7 @@ inline constexpr TResString sSaveGroupAs{"Save Project &Group As..."};
 
 inline constexpr TResString sCommands{"&Commands...\tCtrl+Shift+P"};
 inline constexpr TResString sOptions{"&Options..."};
+inline constexpr TResString sContents{"&Contents\tF1"};
 inline constexpr TResString sAbout{"&About Workbench"};
 
 inline constexpr TResString sMessagesCopy{"&Copy"};

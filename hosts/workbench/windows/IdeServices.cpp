@@ -7,13 +7,17 @@
 
 #include "system/FileName.h"
 #include "system/Paths.h"
+#include "system/System.h"
 #include "system/Text.h"
 #include "toolkit/WxText.h"
 #include "workbench/windows/FrameStrings.h"
 
 namespace kestrel::workbench {
 
+TApplicationService::TApplicationService() : help_(ResolvePath(ProgramFolder(), "help")) {}
+
 bool TApplicationService::HelpKeyword(const std::string& keyword) {
+  if (help_.Show(keyword)) return true;
   wxMessageBox(ToWx(Format(sNoHelp, {keyword})), ToWx(sProgramName), wxOK | wxICON_INFORMATION,
                wxGetActiveWindow());
   return false;
@@ -33,7 +37,10 @@ TIdeServices::TIdeServices(TLogLine log)
 
 TIdeServices::~TIdeServices() { CorvaneIDEServices = nullptr; }
 
-void TIdeServices::WithdrawWindowServices() { published_.resize(windowless_); }
+void TIdeServices::WithdrawWindowServices() {
+  published_.resize(windowless_);
+  application_.Help().Close();
+}
 
 std::size_t TIdeServices::DropRegistrations() {
   const std::size_t left =

@@ -5,6 +5,7 @@
 #include <map>
 #include <memory>
 
+#include "toolkit/HelpWindow.h"
 #include "workbench/model/Gallery.h"
 #include "workbench/model/PropertySets.h"
 
@@ -13,14 +14,17 @@ namespace kestrel::workbench {
 /// The event for the main form, and help.
 class TApplicationService final : public IOTAApplication {
  public:
+  TApplicationService();
   TEvent<>& MainFormCreated() override { return created_; }
   bool HelpKeyword(const std::string& keyword) override;
+  THelpWindow& Help() { return help_; }
   void* QueryInterface(const TGuid& iid) noexcept override {
     return FindInterface<IOTAApplication>(this, iid);
   }
 
  private:
   TEvent<> created_;
+  THelpWindow help_;
 };
 
 /// The target of CorvaneIDEServices. Services that need windows can be queried once the main form exists.
@@ -34,7 +38,7 @@ class TIdeServices final : public IOTAServices {
   void Publish(T& service) {
     published_.push_back({T::IID, &service});
   }
-  /// Withdraws the services that need the main form.
+  /// Withdraws the services that need the main form, and closes the help.
   void WithdrawWindowServices();
   /// Drops the objects that packages did not unregister; returns their number.
   std::size_t DropRegistrations();

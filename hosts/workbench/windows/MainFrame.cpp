@@ -41,9 +41,10 @@ void FillPanel(wxPanel* panel, wxWindow* content) {
 
 }  // namespace
 
-TMainFrame::TMainFrame(TIdeServices& services)
+TMainFrame::TMainFrame(TIdeServices& services, const TPackageLoader& packages)
     : wxFrame(nullptr, wxID_ANY, ToWx(sProgramName)),
       services_(services),
+      packages_(packages),
       workspace_(*this, services.Caller(), services.Notifications()),
       recent_(services.Options().PropertySet(kRecentSet)) {
   SetName(ToWx(sProgramName));

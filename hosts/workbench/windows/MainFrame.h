@@ -18,12 +18,13 @@ namespace kestrel::workbench {
 class TEditorBook;
 class TFindReplace;
 class TMessagePane;
+class TPackageLoader;
 class TProjectTree;
 
 class TMainFrame final : public wxFrame, public IWorkspaceUi {
  public:
-  /// Publishes the services that need windows.
-  explicit TMainFrame(TIdeServices& services);
+  /// Publishes the services that need windows.  `services` and `packages` are borrowed.
+  TMainFrame(TIdeServices& services, const TPackageLoader& packages);
   ~TMainFrame() override;
 
   TWorkspace& Workspace() { return workspace_; }
@@ -110,6 +111,7 @@ class TMainFrame final : public wxFrame, public IWorkspaceUi {
   void SaveGroupAs();
   void ShowOptions();
   void ShowCommands();
+  void ShowContents();
   void ShowAbout();
   bool HasEditor() const;
   bool CanEdit() const;
@@ -123,6 +125,7 @@ class TMainFrame final : public wxFrame, public IWorkspaceUi {
   bool HasSelectedModule() const;
 
   TIdeServices& services_;
+  const TPackageLoader& packages_;
   TWorkspace workspace_;
   TModuleServices moduleServices_{workspace_};
   TEditorServices editorServices_{workspace_};

@@ -10,6 +10,7 @@
 #include "system/Paths.h"
 #include "system/Text.h"
 #include "toolkit/WxText.h"
+#include "workbench/model/PackageLoader.h"
 #include "workbench/windows/CommandsDialog.h"
 #include "workbench/windows/EditorBook.h"
 #include "workbench/windows/FindDialog.h"
@@ -64,6 +65,7 @@ enum TCommandId {
   cmSaveGroupAs,
   cmCommands,
   cmOptions,
+  cmContents,
   cmAbout,
   cmLast = cmAbout,
   cmRecentFirst,
@@ -124,6 +126,7 @@ const TMainFrame::TCommand* TMainFrame::FindCommand(int id) {
       {cmSaveGroupAs, sSaveGroupAs, &F::SaveGroupAs, &F::HasProject},
       {cmCommands, sCommands, &F::ShowCommands},
       {cmOptions, sOptions, &F::ShowOptions},
+      {cmContents, sContents, &F::ShowContents},
       {cmAbout, sAbout, &F::ShowAbout},
   };
   static_assert(std::size(commands) == cmLast - cmFirst + 1);
@@ -142,7 +145,7 @@ const std::vector<TMainFrame::TCommandMenu>& TMainFrame::CommandMenus() {
        {cmAddToProject, cmRemoveFromProject, cmSeparator, cmAddProject, cmSetActive, cmCloseProject,
         cmSeparator, cmSaveGroupAs}},
       {sMenuTools, {cmCommands, cmSeparator, cmOptions}},
-      {sMenuHelp, {cmAbout}},
+      {sMenuHelp, {cmContents, cmSeparator, cmAbout}},
   };
   return menus;
 }
@@ -357,15 +360,17 @@ void TMainFrame::ShowCommands() {
 }
 
 void TMainFrame::ShowOptions() {
-  if (!ShowOptionsDialog(this, services_.Options(), services_.Caller())) return;
+  if (!ShowOptionsDialog(this, services_)) return;
   book_->SetFontSize(services_.Options()
                          .PropertySet(kGeneralSet)
                          .GetNumber(kFontSizeField, kDefaultFontSize, kMinFontSize, kMaxFontSize));
 }
 
+void TMainFrame::ShowContents() { services_.Application().HelpKeyword({}); }
+
 void TMainFrame::ShowAbout() {
-  wxMessageBox(ToWx(Format(sAboutText, {kWorkbenchVersion})), ToWx(sProgramName), wxOK | wxICON_INFORMATION,
-               this);
+  wxMessageBox(ToWx(Format(sAboutText, {kWorkbenchVersion, packages_.Describe()})), ToWx(sProgramName),
+               wxOK | wxICON_INFORMATION, this);
 }
 
 void TMainFrame::AddWizards() {

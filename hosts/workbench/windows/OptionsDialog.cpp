@@ -11,8 +11,10 @@
 
 #include "system/Text.h"
 #include "toolkit/WxText.h"
+#include "workbench/model/Settings.h"
 #include "workbench/windows/FrameStrings.h"
 #include "workbench/windows/GeneralPage.h"
+#include "workbench/windows/IdeServices.h"
 
 namespace kestrel::workbench {
 
@@ -68,14 +70,15 @@ class TBindings final : public IOTAOptionsPageHost {
 
 class TOptionsDialog final : public wxDialog {
  public:
-  TOptionsDialog(wxWindow* parent, TOptionsServices& options, const TPackageCaller& caller)
+  TOptionsDialog(wxWindow* parent, TIdeServices& services)
       : wxDialog(parent, wxID_ANY, ToWx(sOptionsTitle), wxDefaultPosition, wxDefaultSize,
                  wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER),
-        options_(options),
-        caller_(caller),
+        options_(services.Options()),
+        caller_(services.Caller()),
+        help_(services.Application().Help()),
         list_(new wxListBox(this, wxID_ANY, wxDefaultPosition, FromDIP(wxSize(190, -1)))),
         book_(new wxSimplebook(this)),
-        general_(options.PropertySet(kGeneralSet)) {
+        general_(options_.PropertySet(kGeneralSet)) {
     AddPage(GeneralOptionsPage(), general_);
     options_.AddIns().ForEach([&](IOTAAddInOptions& addIn) { AddAddIn(addIn); });
     auto* sizer = new wxBoxSizer(wxVERTICAL);
@@ -83,7 +86,7 @@ class TOptionsDialog final : public wxDialog {
     columns->Add(list_, wxSizerFlags().Border().Expand());
     columns->Add(book_, wxSizerFlags(1).Border().Expand());
     sizer->Add(columns, wxSizerFlags(1).Expand());
-    sizer->Add(CreateSeparatedButtonSizer(wxOK | wxCANCEL), wxSizerFlags().Border().Expand());
+    sizer->Add(CreateSeparatedButtonSizer(wxOK | wxCANCEL | wxHELP), wxSizerFlags().Border().Expand());
     SetSizerAndFit(sizer);
     SetSize(wxSize(FromDIP(680), FromDIP(480)));
     SetMinSize(GetBestSize());
@@ -101,6 +104,13 @@ class TOptionsDialog final : public wxDialog {
           if (Store()) event.Skip();
         },
         wxID_OK);
+    const auto help = [this] { help_.Show(helpTopics_[static_cast<std::size_t>(book_->GetSelection())]); };
+    Bind(
+        wxEVT_BUTTON, [help](wxCommandEvent&) { help(); }, wxID_HELP);
+    Bind(wxEVT_CHAR_HOOK, [help](wxKeyEvent& event) {
+      if (event.GetKeyCode() != WXK_F1) return event.Skip();
+      help();
+    });
   }
 
  private:
@@ -123,6 +133,7 @@ class TOptionsDialog final : public wxDialog {
     const wxString caption = ToWx(page.Caption);
     book_->AddPage(page.Create(book_, bindings), caption);
     list_->Append(caption);
+    helpTopics_.push_back(page.HelpContext ? std::to_string(page.HelpContext) : std::string());
   }
 
   void AddAddIn(IOTAAddInOptions& addIn) {
@@ -152,16 +163,18 @@ class TOptionsDialog final : public wxDialog {
 
   TOptionsServices& options_;
   const TPackageCaller& caller_;
+  THelpWindow& help_;
   wxListBox* list_;
   wxSimplebook* book_;
   TBindings general_;
   std::vector<TAddIn> addIns_;
+  std::vector<std::string> helpTopics_;  // of each page
 };
 
 }  // namespace
 
-bool ShowOptionsDialog(wxWindow* parent, TOptionsServices& options, const TPackageCaller& caller) {
-  TOptionsDialog dialog(parent, options, caller);
+bool ShowOptionsDialog(wxWindow* parent, TIdeServices& services) {
+  TOptionsDialog dialog(parent, services);
   return dialog.ShowModal() == wxID_OK;
 }
 
