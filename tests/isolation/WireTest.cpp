@@ -5,18 +5,14 @@
 
 namespace kestrel::isolation {
 
-using isolation::FrameReader;
-using isolation::NameList;
-using isolation::WireError;
+using testing::IsNull;
+using testing::StrEq;
 
 namespace {
 
-/// A length of four bytes, followed by four bytes.
-std::string WithLength(std::uint32_t length) { return isolation::Serialize(length, std::uint32_t{0}); }
-
 TEST(Wire, RejectsLengthsBeyondTheFrame) {
   for (const std::uint32_t length : {5U, 0x7FFFFFFFU, 0xFFFFFFFFU}) {
-    const auto body = WithLength(length);
+    const auto body = Serialize(length, std::uint32_t{0});  // a length of four bytes, followed by four bytes
     std::string text;
     std::vector<scc::Long> words;
     EXPECT_THROW(FrameReader{body}(text), WireError);
@@ -29,15 +25,10 @@ TEST(Wire, RejectsLengthsBeyondTheFrame) {
 TEST(Wire, KeepsNullNamesAndRejectsInvalidLists) {
   NameList names;
   for (const char* name : {"a", static_cast<const char*>(nullptr), ""}) names.Add(name);
-  const auto body = isolation::Serialize(names);
+  const auto body = Serialize(names);
   NameList read;
   FrameReader{body}(read);
-  const auto pointers = read.Pointers();
-  ASSERT_EQ(4u, pointers.size());
-  EXPECT_STREQ("a", pointers[0]);
-  EXPECT_EQ(nullptr, pointers[1]);
-  EXPECT_STREQ("", pointers[2]);
-  EXPECT_EQ(nullptr, pointers[3]);
+  EXPECT_THAT(read.Pointers(), ElementsAre(StrEq("a"), IsNull(), StrEq(""), IsNull()));
   for (std::size_t i = 0; i < body.size(); ++i) {
     auto damaged = body;
     damaged[i] = '\x7F';
