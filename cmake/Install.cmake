@@ -34,7 +34,10 @@ foreach(name program IN ZIP_LISTS link_names link_programs)
 endforeach()
 install(FILES ${packaging}/kestrelide.desktop DESTINATION share/applications)
 install(FILES ${packaging}/kestrelide.svg DESTINATION share/icons/hicolor/scalable/apps)
-install(FILES ${packaging}/copyright README.md CHANGELOG.md CONTRIBUTING.md SECURITY.md DESTINATION share/doc/kestrelide)
+install(FILES ${packaging}/kestrelide.xml DESTINATION share/mime/packages)
+install(FILES ${packaging}/kestrelide.1 ${packaging}/scc-register.1 DESTINATION share/man/man1)
+install(DIRECTORY samples/ DESTINATION share/doc/kestrelide/examples)
+install(FILES ${packaging}/README.Debian ${packaging}/copyright README.md CHANGELOG.md CONTRIBUTING.md SECURITY.md DESTINATION share/doc/kestrelide)
 install(DIRECTORY docs DESTINATION share/doc/kestrelide)  # where README.md links to
 
 set(CPACK_GENERATOR DEB)
