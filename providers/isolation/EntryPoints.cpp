@@ -80,6 +80,15 @@ Long CloseProject(void* context) {
   return result;
 }
 
+/// The user waits for its window, mostly before a project is open and with it the callback for text.
+Long GetProjPath(void* context, WindowHandle window, char* user, char* projectName, char* localPath,
+                 char* auxPath, Bool allowChangePath, Bool* isNew) {
+  const Long result = SccGetProjPathCall::Forward(context, context, window, user, projectName, localPath,
+                                                  auxPath, allowChangePath, isNew);
+  if (auto* proxy = ProviderProxy::FromContext(context)) proxy->ShowQueued();
+  return result;
+}
+
 Long GetEvents(void* context, char* name, Long* status, Long* remaining) {
   // Clients poll this function: it does not start a process.
   if (name != nullptr) *name = '\0';
@@ -166,7 +175,7 @@ Long SCC_CALL SccGetCommandOptions(void* c, WindowHandle w, SCCCommand i, void**
   FORWARD(SccGetCommandOptions, w, i, o);
 }
 Long SCC_CALL SccGetProjPath(void* c, WindowHandle w, char* u, char* p, char* l, char* a, Bool m, Bool* n) {
-  FORWARD(SccGetProjPath, w, u, p, l, a, m, n);
+  return GetProjPath(c, w, u, p, l, a, m, n);
 }
 Long SCC_CALL SccHistory(void* c, WindowHandle w, Long n, const char** f, Long g, void* o) {
   FORWARD(SccHistory, w, n, f, g, o);

@@ -79,6 +79,12 @@ void ProviderProxy::SetTextOut(scc::TTextOutProc textOut) {
   for (const auto& [kind, text] : std::exchange(queued_, {})) TextOut(text.c_str(), kind);
 }
 
+void ProviderProxy::ShowQueued() {
+  std::string lines;
+  for (const auto& [kind, text] : queued_) lines += text + "\n";
+  if (!lines.empty() && ShowMessageBox(ProviderName(), lines)) queued_.clear();
+}
+
 bool ProviderProxy::IsRunning() {
   failure_.clear();
   if (connection_ != nullptr)

@@ -75,6 +75,8 @@ class ProviderProxy {
   void SetTextOut(scc::TTextOutProc textOut);
   /// Queues messages from now on, as the project is closed.  The provider may still write to the callback.
   void ClearTextOut() { listening_ = false; }
+  /// Shows the queued messages in a box, if the program has windows.
+  void ShowQueued();
   /// The provider's display name.
   std::string ProviderName() const;
 

@@ -1,10 +1,12 @@
 #include "Waiting.h"
 
 #include <wx/app.h>
+#include <wx/msgdlg.h>
 #include <wx/thread.h>
 
 #include "UserInput.h"
 #include "WaitingWindow.h"
+#include "toolkit/WxText.h"
 #include "toolkit/WxWaiting.h"
 
 using namespace std::chrono_literals;
@@ -50,6 +52,12 @@ void WaitForCall(const PendingCall& call) {
   if (call.Step(kSilentWait)) return;
   while (!PaintDuringCall(call, kWindowDelay - kSilentWait))
     if (ShowWaitingWindow(call, begun)) return;
+}
+
+bool ShowMessageBox(const std::string& provider, const std::string& text) {
+  if (!MayHandleEvents()) return false;
+  wxMessageBox(ToWx(text), ToWx(provider), wxOK | wxICON_WARNING);
+  return true;
 }
 
 }  // namespace kestrel::isolation

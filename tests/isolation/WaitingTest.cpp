@@ -5,6 +5,7 @@
 #include <wx/timer.h>
 
 #include "isolation/Client.h"
+#include "support/ModalScript.h"
 #include "support/Testing.h"
 
 namespace kestrel::isolation {
@@ -58,6 +59,18 @@ TEST_P(Waiting, RepaintsOffersStopAndRefusesNestedCalls) {
   EXPECT_THAT(lines, Contains(HasSubstr("Scripted provider was stopped in SccCheckout")));
   EXPECT_EQ(scc::SCC_OK, client.Status());
   EXPECT_THAT(lines, Contains(HasSubstr("started again; the project is open again")));
+}
+
+TEST(Choosing, FailsWithABoxAsTheClientHasNoCallbackYet) {
+  TIsolatedClient client;
+  ASSERT_EQ(scc::SCC_OK, client.Initialize());
+  client.Arm("SccGetProjPath", "exit");
+  TModalScript script;
+  script.Expect<wxMessageDialog>([](wxMessageDialog& box) {
+    EXPECT_THAT(box.GetMessage().utf8_string(), HasSubstr("Scripted provider ended in SccGetProjPath"));
+    box.SetReturnCode(wxID_OK);
+  });
+  EXPECT_EQ(scc::SCC_E_NONSPECIFICERROR, client.Call("SccGetProjPath"));
 }
 
 INSTANTIATE_TEST_SUITE_P(All, Waiting, testing::Values("loop", "window"));
