@@ -49,7 +49,8 @@ void ExpectClientWorks(TIsolatedClient& client, const std::string& entry) {
   if (entry == "SccCloseProject") client.Call(entry);  // its first call threw
   if (entry == "SccInitialize" || entry == "SccUninitialize" || entry == "SccOpenProject" ||
       entry == "SccCloseProject") {
-    ASSERT_EQ(SCC_OK, client.Open());
+    ASSERT_THAT(client.Open(),
+                testing::AnyOf(SCC_OK, SCC_E_PROJECTALREADYOPEN));  // it may have survived the fault
   }
   client.Words[0] = 77;
   EXPECT_EQ(SCC_OK, client.Status());
@@ -92,8 +93,8 @@ TEST(EndlessLoop, FailsTheCallWhenItsProcessIsKilled) {
 // The provider may survive another call with damaged memory.
 TEST(DamagedMemory, LeavesTheClientWorking) {
   for (const char* fault : {"garble", "junk"})
-    for (const char* entry : {"SccQueryInfo", "SccGetProjPath", "SccPopulateList", "SccAddFromScc"}) {
-      SCOPED_TRACE(std::string(fault) + " in " + entry);
+    for (const std::string entry : kEntries) {
+      SCOPED_TRACE(fault + (" in " + entry));
       TIsolatedClient client;
       Prepare(client, entry);
       client.Arm(entry, fault);
@@ -104,12 +105,17 @@ TEST(DamagedMemory, LeavesTheClientWorking) {
 }
 
 TEST(Messages, ArriveCompleteAndInOrderFromAnyThread) {
+  for (const std::string entry : kEntries) {
+    if (entry == "SccInitialize") continue;  // there is no callback yet
+    SCOPED_TRACE(entry);
+    TIsolatedClient client;
+    Prepare(client, entry);
+    client.Arm(entry, "text");
+    client.Call(entry);
+    EXPECT_THAT(lines, ElementsAre(std::string(10 << 20, 'x')));
+  }
   TIsolatedClient client;
   Prepare(client, "SccCheckout");
-  client.Arm("SccCheckout", "text");
-  EXPECT_EQ(SCC_OK, client.Call("SccCheckout"));
-  EXPECT_THAT(lines, ElementsAre(std::string(10 << 20, 'x')));
-  lines.clear();
   client.Arm("SccCheckout", "threads");
   EXPECT_EQ(SCC_OK, client.Call("SccCheckout"));
   EXPECT_EQ(4000u, lines.size());
