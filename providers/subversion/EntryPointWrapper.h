@@ -2,6 +2,7 @@
 #pragma once
 
 #include "subversion/EntryPointStrings.h"
+#include "subversion/svn/ConnectionWatch.h"
 #include "subversion/svn/ProviderContext.h"
 #include "subversion/svn/SvnStrings.h"
 #include "subversion/svn/WorkingCopyLocks.h"
@@ -14,6 +15,7 @@ scc::Long RunEntryPoint(void* handle, Body&& body) noexcept {
   auto* context = static_cast<ProviderContext*>(handle);
   if (context == nullptr) return scc::SCC_E_INITIALIZEFAILED;
   const OptionBlocks::Call call(context->Options());
+  const ConnectionWatch watch;
   try {
     return body(*context);
   } catch (const Failure& failure) {

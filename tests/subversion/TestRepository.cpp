@@ -58,6 +58,11 @@ TTestRepository::TTestRepository()
       folder_(temporary_ / "repository"),
       url_(svnscc::CreateRepository(folder_)) {
   svnscc::MarkUsed(url_);
+  SetLimit("remember-seconds", 0);  // users see each other's work at once
+}
+
+void TTestRepository::SetLimit(const std::string& name, int seconds) const {
+  temporary_.Write("config/config", "[subversion-scc]\n" + name + " = " + std::to_string(seconds) + "\n");
 }
 
 void TTestRepository::Choose(const std::string& project) const { svnscc::MarkProjectUsed(url_, project); }

@@ -21,6 +21,8 @@ class TTestRepository {
   const std::string& Folder() const { return folder_; }
   const std::string& Url() const { return url_; }
 
+  /// Sets a limit for clients made from now on (subversion/svn/Limits.h).
+  void SetLimit(const std::string& name, int seconds) const;
   /// As if the user had chosen the project in the provider's dialog.  The repository itself is one that was used before.
   void Choose(const std::string& project) const;
 

@@ -14,6 +14,7 @@
 #include <cstdlib>
 #include <mutex>
 
+#include "subversion/svn/ConnectionWatch.h"
 #include "subversion/svn/Login.h"
 #include "subversion/svn/SvnStrings.h"
 
@@ -51,6 +52,16 @@ void StartRuntime() {
 std::string WithUnixLines(std::string text) {
   text.erase(std::remove(text.begin(), text.end(), '\r'), text.end());
   return text;
+}
+
+svn_config_t* Category(apr_hash_t* config, const char* category) {
+  return static_cast<svn_config_t*>(apr_hash_get(config, category, APR_HASH_KEY_STRING));
+}
+
+void SetDefault(svn_config_t* config, const char* section, const char* option, const std::string& value) {
+  const char* set = nullptr;
+  svn_config_get(config, &set, section, option, nullptr);
+  if (set == nullptr) svn_config_set(config, section, option, value.c_str());
 }
 
 svn_opt_revision_t OfKind(svn_opt_revision_kind kind) {
@@ -97,6 +108,7 @@ Client::Client(const std::string& user) : givenUser_(user), user_(user) {
   const char* directory = std::getenv("SUBVERSION_SCC_CONFIG_DIR");
   apr_hash_t* config = nullptr;
   Check(svn_config_get_config(&config, directory, pool_));
+  ApplyLimits(config);
   Check(svn_client_create_context2(&context_, config, pool_));
   context_->auth_baton = OpenAuthentication(config, directory);
   context_->notify_func2 = Notify;
@@ -108,9 +120,22 @@ Client::Client(const std::string& user) : givenUser_(user), user_(user) {
   context_->client_name = "SubversionScc";
 }
 
+// http: libsvn has one limit of its own for connection and silence.  ssh: the program has its own, too.
+void Client::ApplyLimits(apr_hash_t* config) {
+  svn_config_t* general = Category(config, SVN_CONFIG_CATEGORY_CONFIG);
+  limits_ = ReadLimits(general);
+  ConnectionWatch::SetLimits(limits_);
+  const std::string connect = std::to_string(limits_.Connect.count());
+  const std::string silence = std::to_string(limits_.Silence.count());
+  SetDefault(Category(config, SVN_CONFIG_CATEGORY_SERVERS), SVN_CONFIG_SECTION_GLOBAL,
+             SVN_CONFIG_OPTION_HTTP_TIMEOUT, silence);
+  SetDefault(general, SVN_CONFIG_SECTION_TUNNELS, "ssh",
+             "$SVN_SSH ssh -q -o ConnectTimeout=" + connect + " -o ServerAliveInterval=" + silence +
+                 " -o ServerAliveCountMax=1 --");
+}
+
 svn_auth_baton_t* Client::OpenAuthentication(apr_hash_t* config, const char* directory) {
-  auto* general =
-      static_cast<svn_config_t*>(apr_hash_get(config, SVN_CONFIG_CATEGORY_CONFIG, APR_HASH_KEY_STRING));
+  svn_config_t* general = Category(config, SVN_CONFIG_CATEGORY_CONFIG);
   apr_array_header_t* providers = nullptr;
   Check(svn_auth_get_platform_specific_client_providers(&providers, general, pool_));
   const auto add = [&](auto get, auto... arguments) {
@@ -152,6 +177,14 @@ svn_error_t* Client::AskForLogin(svn_auth_cred_simple_t** answer, void* baton, c
 
 void Client::Run(svn_error_t* error, const std::exception_ptr& exception) {
   const auto earlier = std::exchange(callbackException_, nullptr);
+  const auto gaveUp = ConnectionWatch::DrainReason();
+  if (error != SVN_NO_ERROR && gaveUp) {
+    svn_error_clear(error);
+    const bool isSilent = *gaveUp == ConnectionWatch::Reason::Silent;
+    throw Failure(scc::SCC_E_CONNECTIONFAILURE,
+                  isSilent ? Format(sServerSilent.Text, {static_cast<long long>(limits_.Silence.count())})
+                           : Format(sNoConnection.Text, {static_cast<long long>(limits_.Connect.count())}));
+  }
   Check(error, exception ? exception : earlier);
 }
 

@@ -8,6 +8,7 @@
 #include <set>
 #include <string>
 
+#include "subversion/svn/Limits.h"
 #include "subversion/svn/SvnHandles.h"
 
 namespace kestrel::svnscc {
@@ -36,6 +37,7 @@ class Client {
   svn_client_ctx_t* ClientContext() const { return context_; }
   /// The user who last logged in, else the one given to the constructor.
   const std::string& User() const { return user_; }
+  const Limits& TimeLimits() const { return limits_; }
   /// Sets the handler of libsvn's notifications.  An exception it throws ends the call in progress.
   void OnNotice(NoticeHandler handler) { notice_ = std::move(handler); }
 
@@ -45,7 +47,7 @@ class Client {
   void OnPoll(std::function<bool()> poll) { poll_ = std::move(poll); }
 
   /// Throws the exception of a callback, else the Failure of `error`.  Every call that uses ClientContext() passes its
-  /// result here.  `exception` is that of the call's own callbacks (see RunInCallback).
+  /// result here.  A connection that was given up is a Failure of its own.  `exception` is that of the call's own callbacks (see RunInCallback).
   void Run(svn_error_t* error, const std::exception_ptr& exception = nullptr);
   /// Runs `commit(callback, baton)` with `log` as the log message.  Returns the new revision, or SVN_INVALID_REVNUM if
   /// there was nothing to commit.  `warning` receives what failed after the commit: the output of a post-commit hook, or
@@ -59,6 +61,8 @@ class Client {
                                      void* baton, apr_pool_t* pool) noexcept;
   static svn_error_t* CheckCancelled(void* baton) noexcept;
 
+  /// Applies the limits of this provider where the user's configuration has none.
+  void ApplyLimits(apr_hash_t* config);
   svn_auth_baton_t* OpenAuthentication(apr_hash_t* config, const char* directory);
   static svn_error_t* AskForLogin(svn_auth_cred_simple_t** answer, void* baton, const char* realm,
                                   const char* user, svn_boolean_t maySave, apr_pool_t* pool) noexcept;
@@ -66,6 +70,7 @@ class Client {
   Pool pool_;
   const std::string givenUser_;
   std::string user_;
+  Limits limits_;
   svn_client_ctx_t* context_ = nullptr;
   NoticeHandler notice_;
   std::function<bool()> poll_;

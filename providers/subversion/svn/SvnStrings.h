@@ -39,6 +39,9 @@ inline constexpr TResString sCopyReadOnly{"the working copy cannot be written to
 inline constexpr TResString sBusy{"another program is at work in the working copy"};
 inline constexpr TResString sNoRepository{"there is no repository that can be opened at this address"};
 inline constexpr TResString sNoRepositoryAt{"there is no repository that can be opened at %s"};
+inline constexpr TResString sNoConnection{"no connection to the server came about within %d s"};
+inline constexpr TResString sServerSilent{
+    "the server has sent nothing for %d s: the connection was given up"};
 inline constexpr TResString sNotUtf8{"its name is not UTF-8, which Subversion needs"};
 inline constexpr TResString sNameNotUtf8{"%s is left out: its name is not UTF-8, which Subversion needs."};
 inline constexpr TResString sStatusFailed{"The repository could not be asked: %s"};
