@@ -155,7 +155,7 @@ SCC_EXPORT Long SCC_CALL SccQueryInfo(void* handle, Long count, const char** nam
   return RunWithFiles(handle, count, names, [&](ProviderContext& context, Names files) -> Long {
     if (files.empty()) return SCC_OK;
     if (statuses == nullptr) return SCC_E_NONSPECIFICERROR;
-    const StatusTable& table = WalkProject(context);
+    const StatusTable& table = WalkProject(context, Answer::MayBeRecent);
     for (std::size_t i = 0; i < files.size(); ++i) {
       const std::string path = context.InsidePath(files[i]);
       statuses[i] = table.Of(path).Bits;

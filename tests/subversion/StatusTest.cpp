@@ -3,6 +3,7 @@
 #include <fstream>
 
 #include "Developer.h"
+#include "Server.h"
 
 namespace kestrel::svnscc {
 
@@ -95,11 +96,47 @@ TEST_F(Status, FilesThatOnlyTheRepositoryHasAreControlledAndOld) {
   EXPECT_EQ(0x100B, ann.Status("sub/theirs.pas"));
 }
 
-TEST_F(Status, AnswersManyFilesInOneQuery) {
-  std::vector<std::string> names;
-  for (int i = 0; i < 65536; ++i)
-    names.push_back("d" + std::to_string(i % 100) + "/unit" + std::to_string(i) + ".pas");
-  EXPECT_THAT(ann.Statuses(names), Each(0));
+// What a client asks between the click on its menu and the list on screen.
+TEST_F(Status, AsksServerOnceForQueriesThatFollowEachOther) {
+  ann.AddNew({"one.pas", "sub/two.pas"});
+  ann.AddNew({"new/three.pas"});
+  repository.SetLimit("remember-seconds", 600);
+  const TServer server(repository, "write");
+  TDeveloper eve("eve");
+  ASSERT_EQ(scc::SCC_OK, eve.Open(server.Url(), "project")) << eve.Said();
+  ASSERT_EQ(scc::SCC_OK, eve.Get({"one.pas", "sub/two.pas"})) << eve.Said();
+  ann.CheckOut({"one.pas"});
+  eve.Write("new.pas", "1\n");
+
+  const std::vector<std::string> names{"one.pas", "sub/two.pas", "new/three.pas", "new.pas"};
+  TStatuses expected{kOutByOther, kControlled, kControlled | kOutOfDate, 0};
+  EXPECT_EQ(expected, eve.Statuses(names));
+  const auto connections = server.Connections();
+  EXPECT_EQ(expected, eve.Populate(scc::SCC_COMMAND_CHECKOUT, names).Statuses);
+  eve.EditWithoutCheckOut("sub/two.pas", "changed after the server was asked\n");
+  expected[1] |= kModified;
+  EXPECT_EQ(expected, eve.Statuses(names));
+  EXPECT_EQ(connections, server.Connections());
+
+  ann.Undo({"one.pas"});
+  EXPECT_EQ(expected, eve.Statuses(names)) << "the server's part is remembered";
+  ASSERT_EQ(scc::SCC_OK, eve.Get({"new/three.pas"})) << eve.Said();
+  expected[0] = expected[2] = kControlled;
+  EXPECT_EQ(expected, eve.Statuses(names)) << "a command makes it forget";
+}
+
+TEST_F(Status, GivesUpServerThatStaysSilent) {
+  repository.SetLimit("silence-seconds", 1);
+  const TListener silent;
+  EXPECT_EQ(scc::SCC_E_CONNECTIONFAILURE, bob.Open(silent.Url(), "project"));
+  EXPECT_EQ("E The server has sent nothing for 1 s: the connection was given up.\n", bob.Said());
+}
+
+TEST_F(Status, GivesUpConnectionThatDoesNotComeAbout) {
+  repository.SetLimit("connect-seconds", 1);
+  const TListener full(TListener::Queue::Full);
+  EXPECT_EQ(scc::SCC_E_CONNECTIONFAILURE, bob.Open(full.Url(), "project"));
+  EXPECT_EQ("E No connection to the server came about within 1 s.\n", bob.Said());
 }
 
 }  // namespace kestrel::svnscc

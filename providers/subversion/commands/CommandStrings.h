@@ -14,6 +14,7 @@ inline constexpr TResString sNotChanged{"%s was not changed: its lock is release
 // Failures; the first argument is the file
 inline constexpr TResString sFileMissing{"there is no such file on this computer"};
 inline constexpr TResString sNotCheckedOut{"the file is not checked out here"};
+inline constexpr TResString sOtherRefused{"nothing was sent, because another file of the call was refused"};
 inline constexpr TResString sAlreadyOut{"%s is checked out already."};
 inline constexpr TResString sStillOut{"the file is checked out: check it in or undo the check-out first"};
 inline constexpr TResString sDeletedInRepository{"the file was deleted in the repository"};
@@ -23,12 +24,10 @@ inline constexpr TResString sConflictMarks{
     "the file still has conflict marks: edit the marked places and check it in, or undo the check-out"};
 inline constexpr TResString sOpenConflict{
     "it was changed here and in the repository, and the two versions could not be merged: Get Latest Version "
-    "or "
-    "Undo Check Out takes the repository's and keeps yours in a copy"};
+    "or Undo Check Out takes the repository's and keeps yours in a copy"};
 inline constexpr TResString sLostConflict{
     "it was changed here, and moved or deleted in the repository: Add brings your version back, Get Latest "
-    "Version "
-    "or Undo Check Out gives it up and keeps a copy"};
+    "Version or Undo Check Out gives it up and keeps a copy"};
 inline constexpr TResString sGiveUpTitle{"Take the Repository's Version?"};
 inline constexpr TResString sGiveUp{
     "These files were changed here, and in the repository they were changed, moved or deleted; the versions "

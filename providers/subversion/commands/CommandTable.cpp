@@ -1,5 +1,6 @@
 #include "subversion/commands/CommandTable.h"
 
+#include <algorithm>
 #include <array>
 
 #include "subversion/commands/CommandStrings.h"
@@ -69,6 +70,9 @@ constexpr bool IsInOrder() {
 }
 static_assert(IsInOrder());
 
+/// A unit and its form are two files.
+constexpr std::size_t kFew = 2;
+
 FileState StateOf(Conflict conflict) {
   switch (conflict) {
     case Conflict::Marked:
@@ -136,15 +140,24 @@ FileState StateOf(const ProviderContext& context, const std::string& path, const
 }
 
 Survey::Survey(ProviderContext& context, const std::vector<std::string>& paths)
-    : context_(context), alone_(paths.size() == 1) {
-  if (alone_) {
-    walked_.Put(paths.front(), FetchStatus(context, paths.front()));
-  } else if (!paths.empty()) {
-    walked_ = WalkProject(context);
-    result_ = walked_.Result;
+    : context_(context), isWalk_(paths.size() > kFew) {
+  if (isWalk_) {
+    statuses_ = WalkProject(context);
+    result_ = statuses_.Result;
+  } else {
+    for (const auto& path : paths) statuses_.Put(path, FetchStatus(context, path));
   }
 }
 
-FileStatus Survey::StatusOf(const std::string& path) const { return walked_.Of(path); }
+FileStatus Survey::StatusOf(const std::string& path) const { return statuses_.Of(path); }
+
+bool Survey::AreAllStale(std::vector<std::string> paths) const {
+  if (!isWalk_) return false;
+  std::sort(paths.begin(), paths.end());
+  const auto files = statuses_.Files();
+  return std::all_of(files.begin(), files.end(), [&](const std::string& file) {
+    return !statuses_.Of(file).NeedsGet || std::binary_search(paths.begin(), paths.end(), file);
+  });
+}
 
 }  // namespace kestrel::svnscc

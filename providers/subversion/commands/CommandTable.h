@@ -56,7 +56,8 @@ FileState StateOf(const LocalStatus& local);
 /// The state by a status from the repository; reads the working copy and the disk where `status` is not sufficient.
 FileState StateOf(const ProviderContext& context, const std::string& path, const FileStatus& status);
 
-/// The statuses of some files, fetched in the cheapest way: one file alone, more by a walk.
+/// The statuses of some files, fetched in the cheapest way: a few files one by one, which costs the same in a project of any
+/// size, more by one walk.
 class Survey {
  public:
   Survey(ProviderContext& context, const std::vector<std::string>& paths);
@@ -64,12 +65,16 @@ class Survey {
   scc::Long Result() const { return result_; }
   FileStatus StatusOf(const std::string& path) const;
   FileState StateOf(const std::string& path) const { return svnscc::StateOf(context_, path, StatusOf(path)); }
+  /// Whether it has the statuses of the whole project.
+  bool IsWalk() const { return isWalk_; }
+  /// Whether these are all files of the project that an update would change.
+  bool AreAllStale(std::vector<std::string> paths) const;
 
  private:
   ProviderContext& context_;
   scc::Long result_ = scc::SCC_OK;
-  StatusTable walked_;
-  bool alone_;
+  StatusTable statuses_;
+  bool isWalk_;
 };
 
 }  // namespace kestrel::svnscc

@@ -72,6 +72,9 @@ std::map<std::string, Failure> LockAvailable(ProviderContext& context, const std
 /// The same; records the refused files in `outcome`.
 void Lock(ProviderContext& context, const std::vector<std::string>& paths, const std::string& comment,
           ForeignLocks others, Outcome& outcome);
+/// Records the failure of one request for all of `paths`; if a lock is the reason, asks once which and whose.
+void FailAll(ProviderContext& context, const std::vector<std::string>& paths, const Failure& failure,
+             Outcome& outcome);
 /// Reports files that are not checked out: as information if others of the call were, else as failures.
 void ReportNotCheckedOut(ProviderContext& context, const std::vector<std::string>& paths, bool othersWereOut,
                          Outcome& outcome);

@@ -28,11 +28,10 @@ std::string OutermostUnknown(const ProviderContext& context, const std::string& 
 }
 
 /// Whether the repository has folders above the file that are not in the working copy.
-bool HasUnfetchedFolders(ProviderContext& context, const Survey& survey, bool isAlone,
-                         const std::string& path) {
+bool HasUnfetchedFolders(ProviderContext& context, const Survey& survey, const std::string& path) {
   const std::string unknown = OutermostUnknown(context, path);
   if (unknown == path) return false;  // the file has a status of its own
-  if (!isAlone) return survey.StatusOf(unknown).Bits != 0;
+  if (survey.IsWalk()) return survey.StatusOf(unknown).Bits != 0;
   const Project& project = context.CurrentProject();
   const char* inside = svn_dirent_skip_ancestor(project.Folder.c_str(), unknown.c_str());
   return KindOf(context.Svn(), UrlOf(project.Url, inside)) != svn_node_none;
@@ -48,21 +47,20 @@ std::string KnownFolderAbove(const ProviderContext& context, const std::string& 
 }
 
 /// Prepares the folders above a new file: fetches those that the repository has, unversions those it has deleted.
-void PrepareFoldersAbove(ProviderContext& context, const Survey& survey, bool isAlone,
-                         const std::string& path) {
+void PrepareFoldersAbove(ProviderContext& context, const Survey& survey, const std::string& path) {
   const std::string folder = KnownFolderAbove(context, path);
   if (folder != context.CurrentProject().Folder) {
-    const FileStatus status = isAlone ? FetchStatus(context, folder) : survey.StatusOf(folder);
+    const FileStatus status = survey.IsWalk() ? survey.StatusOf(folder) : FetchStatus(context, folder);
     if ((status.Bits & scc::SCC_STATUS_DELETED) != 0) Unversion(context, folder);
   }
-  if (HasUnfetchedFolders(context, survey, isAlone, path)) Update(context, {path});
+  if (HasUnfetchedFolders(context, survey, path)) Update(context, {path});
 }
 
-void CheckAddable(ProviderContext& context, const Survey& survey, bool isAlone, const std::string& path) {
+void CheckAddable(ProviderContext& context, const Survey& survey, const std::string& path) {
   if (!IsOnDisk(path)) throw Failure(scc::SCC_E_FILENOTEXIST, sFileMissing);
   if (!FileExists(path)) throw Failure(scc::SCC_E_TYPENOTSUPPORTED, sNotAFile);
   if (Require(survey.StateOf(path), Command::Add) == Step::Drop) Unversion(context, path);
-  PrepareFoldersAbove(context, survey, isAlone, path);
+  PrepareFoldersAbove(context, survey, path);
   if (ReadLocalStatus(context, path).IsControlled())
     throw Failure(scc::SCC_E_FILEALREADYEXISTS, sAlreadyControlled);
 }
@@ -100,9 +98,9 @@ class Addition {
   Addition(ProviderContext& context, const std::string& comment, Outcome& outcome)
       : context_(context), comment_(comment), outcome_(outcome) {}
 
-  void Schedule(const std::string& path, scc::Long type, const CommandOptions& options, const Survey& survey,
-                bool isAlone) {
-    CheckAddable(context_, survey, isAlone, path);
+  void Schedule(const std::string& path, scc::Long type, const CommandOptions& options,
+                const Survey& survey) {
+    CheckAddable(context_, survey, path);
     const auto folders = NewFoldersAbove(context_, path);
     folders_.insert(folders.begin(), folders.end());
     scheduled_.push_back(path);
@@ -237,14 +235,12 @@ scc::Long Add(ProviderContext& context, Names names, const std::string& comment,
   ResolveFoldersAbove(context, paths);
   const Survey survey(context, paths);
   if (survey.Result() < 0) return survey.Result();
-  const bool isAlone = paths.size() == 1;
   const std::vector<std::string> known = ExtractJustAdded(context, survey, paths);
 
   Addition addition(context, comment, outcome);
   std::vector<std::string> added;
   try {
-    for (const auto& path : paths)
-      outcome.Try(path, [&] { addition.Schedule(path, type, options, survey, isAlone); });
+    for (const auto& path : paths) outcome.Try(path, [&] { addition.Schedule(path, type, options, survey); });
     added = addition.Run();
   } catch (const Failure&) {
     addition.Abandon();

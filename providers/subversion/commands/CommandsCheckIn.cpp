@@ -95,7 +95,7 @@ scc::Long CheckIn(ProviderContext& context, Names names, const std::string& comm
     try {
       CommitChanged(context, batch.changed, comment, after, outcome);
     } catch (const Failure& failure) {
-      for (const auto& path : batch.changed) outcome.Fail(path, failure);
+      FailAll(context, batch.changed, failure, outcome);
     }
   }
   if (after == AfterCommit::Release && !options.KeepUnchangedOut) {

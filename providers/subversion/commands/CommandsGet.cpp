@@ -154,15 +154,6 @@ void GetOld(ProviderContext& context, const std::string& path, svn_revnum_t revi
   RequireNoConflict(context, path);
 }
 
-/// Whether `stale` contains every file of the project that an update would change.
-bool CoverEverything(const StatusTable& statuses, std::vector<std::string> stale) {
-  std::sort(stale.begin(), stale.end());
-  const auto files = statuses.Files();
-  return std::all_of(files.begin(), files.end(), [&](const std::string& file) {
-    return !statuses.Of(file).NeedsGet || std::binary_search(stale.begin(), stale.end(), file);
-  });
-}
-
 void ReportUpToDate(ProviderContext& context, const std::vector<std::string>& paths) {
   context.Out().Info(paths.size() == 1 ? Format(sUpToDate.Text, {context.Label(paths.front())})
                                        : std::string(sAllUpToDate));
@@ -179,7 +170,7 @@ void UpdateTo(ProviderContext& context, const std::vector<std::string>& paths,
   UpdateTo(context, paths, svn_depth_unknown, Depth::Keep, revision);
 }
 
-// One walk finds the files to fetch.  An update of a file costs a connection, as does one of the whole tree.
+// An update of a file costs a connection, as does one of the whole tree.
 scc::Long GetFiles(ProviderContext& context, Names names, const CommandOptions& options) {
   Outcome outcome(context);
   const auto paths = outcome.PathsOf(names);
@@ -189,24 +180,23 @@ scc::Long GetFiles(ProviderContext& context, Names names, const CommandOptions& 
     for (const auto& path : paths) outcome.Try(path, [&] { GetOld(context, path, options.GetRevision); });
     return outcome.Result();
   }
-  const StatusTable& statuses = WalkProject(context);
-  if (statuses.Result < 0) return statuses.Result;
+  const Survey survey(context, paths);
+  if (survey.Result() < 0) return survey.Result();
 
   std::vector<std::string> stale;
   std::vector<MovedObstruction> rooms;
   std::map<std::string, FileState> offered;
   for (const auto& path : paths)
     outcome.Try(path, [&] {
-      const FileStatus status = statuses.Of(path);
-      const FileState state = StateOf(context, path, status);
+      const FileState state = survey.StateOf(path);
       if (RuleFor(state, Command::Get).step == Step::Offer) return void(offered.emplace(path, state));
       const Step step = Require(state, Command::Get);
       if (step == Step::Resolve) MarkResolved(context, path);
       if (step == Step::MoveObstruction) rooms.emplace_back(context, path);
-      if (step != Step::Nothing && status.NeedsGet) stale.push_back(path);
+      if (step != Step::Nothing && survey.StatusOf(path).NeedsGet) stale.push_back(path);
     });
   if (stale.empty() && offered.empty() && outcome.Result() == scc::SCC_OK) ReportUpToDate(context, paths);
-  if (stale.size() > 1 && CoverEverything(statuses, stale) && UpdateProject(context)) {
+  if (stale.size() > 1 && survey.AreAllStale(stale) && UpdateProject(context)) {
     for (const auto& path : stale) outcome.Try(path, [&] { RequireNoConflict(context, path); });
   } else {
     for (const auto& path : stale)

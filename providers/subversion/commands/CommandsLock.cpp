@@ -39,13 +39,12 @@ std::map<std::string, Failure> TryLock(ProviderContext& context, const std::vect
 }
 
 /// Offers to take over refused locks that an interrupted check-out here left.
-void OfferTakeOver(ProviderContext& context, const std::string& comment,
+void OfferTakeOver(ProviderContext& context, const std::string& comment, const Survey& survey,
                    std::map<std::string, Failure>& refused) {
   std::vector<std::string> left;
   std::string labels;
   for (const auto& [path, refusal] : refused) {
-    if (!refusal.Has(SVN_ERR_FS_PATH_ALREADY_LOCKED) || !context.Journal().Has(path)) continue;
-    if (!FetchStatus(context, path).LeftOver) continue;
+    if (!refusal.Has(SVN_ERR_FS_PATH_ALREADY_LOCKED) || !survey.StatusOf(path).LeftOver) continue;
     left.push_back(path);
     labels += (labels.empty() ? "" : "\n") + context.Label(path);
   }
@@ -58,10 +57,13 @@ void OfferTakeOver(ProviderContext& context, const std::string& comment,
 }
 
 /// The reason for a refused lock, which depends on its owner.
-Failure ToLockFailure(ProviderContext& context, const std::string& path, const Failure& refusal) {
+Failure ToLockFailure(const Survey& survey, const std::string& path, const Failure& refusal) {
   if (refusal.Has(SVN_ERR_FS_PATH_ALREADY_LOCKED)) {
-    if ((FetchStatus(context, path).Bits & scc::SCC_STATUS_OUTBYUSER) != 0)
+    const FileStatus status = survey.StatusOf(path);
+    if ((status.Bits & scc::SCC_STATUS_OUTBYUSER) != 0)
       return Failure(scc::SCC_E_ALREADYCHECKEDOUT, sOutElsewhere);
+    if (!status.LockOwner.empty())
+      return Failure(scc::SCC_E_FILEOUTEXCLUSIVE, Format(sOutBy.Text, {status.LockOwner}));
   }
   if (refusal.Has(SVN_ERR_FS_NOT_FOUND)) return Failure(scc::SCC_E_FILENOTCONTROLLED, sDeletedInRepository);
   return refusal;
@@ -69,11 +71,26 @@ Failure ToLockFailure(ProviderContext& context, const std::string& path, const F
 
 /// Whether a lock was refused because the file is checked out here already, which is no failure: a client that checks out a
 /// form with its unit names the form twice.
-bool IsOutHere(ProviderContext& context, const std::string& path, const Failure& refusal) {
+bool IsOutHere(ProviderContext& context, const Survey& survey, const std::string& path,
+               const Failure& refusal) {
   if (!refusal.Has(SVN_ERR_FS_PATH_ALREADY_LOCKED)) return false;
-  if ((FetchStatus(context, path).Bits & scc::SCC_STATUS_CHECKEDOUT) == 0) return false;
+  if ((survey.StatusOf(path).Bits & scc::SCC_STATUS_CHECKEDOUT) == 0) return false;
   context.Out().Info(Format(sAlreadyOut, {context.Label(path)}));
   return true;
+}
+
+/// Replaces the reasons of locks that were refused because there is one: asks the repository once for all.
+void ExplainRefusals(ProviderContext& context, const std::string& comment,
+                     std::map<std::string, Failure>& refused) {
+  std::vector<std::string> locked;
+  for (const auto& [path, refusal] : refused)
+    if (refusal.Has(SVN_ERR_FS_PATH_ALREADY_LOCKED)) locked.push_back(path);
+  const Survey survey(context, locked);
+  if (survey.Result() < 0) return;
+  OfferTakeOver(context, comment, survey, refused);
+  std::erase_if(refused,
+                [&](const auto& entry) { return IsOutHere(context, survey, entry.first, entry.second); });
+  for (auto& [path, refusal] : refused) refusal = ToLockFailure(survey, path, refusal);
 }
 
 /// Updates an outdated file.  Throws Failure for a deleted file, which an update would remove.
@@ -112,7 +129,8 @@ bool Prepare(ProviderContext& context, const std::string& path, Outcome& outcome
     const FileState state = StateFor(context, path, local);
     const bool givenUp =
         RuleFor(state, Command::CheckOut).step == Step::Offer && AskToAcceptRepository(context, {path});
-    switch (givenUp ? Step::AcceptRepository : Require(state, Command::CheckOut)) {
+    const Step step = givenUp ? Step::AcceptRepository : Require(state, Command::CheckOut);
+    switch (step) {
       case Step::AcceptRepository:
         AcceptRepository(context, path);
         Update(context, {path});
@@ -129,7 +147,7 @@ bool Prepare(ProviderContext& context, const std::string& path, Outcome& outcome
       default:
         break;
     }
-    if (!ReadLocalStatus(context, path).IsControlled())
+    if (step != Step::Proceed && !ReadLocalStatus(context, path).IsControlled())
       throw Failure(scc::SCC_E_FILENOTCONTROLLED, sNotControlled);
   });
 }
@@ -163,9 +181,7 @@ std::map<std::string, Failure> LockAvailable(ProviderContext& context, const std
   }
   for (const auto& path : updated) refused.erase(path);
   refused.merge(TryLock(context, updated, comment, others));
-  OfferTakeOver(context, comment, refused);
-  std::erase_if(refused, [&](const auto& entry) { return IsOutHere(context, entry.first, entry.second); });
-  for (auto& [path, refusal] : refused) refusal = ToLockFailure(context, path, refusal);
+  ExplainRefusals(context, comment, refused);
   for (const auto& path : paths)
     if (!refused.contains(path)) MakeWritable(path);
   return refused;
@@ -190,6 +206,23 @@ void Unlock(ProviderContext& context, const std::vector<std::string>& paths, Out
       ReportBrokenLock(context, path);
     else
       outcome.Fail(path, refusal);
+  }
+}
+
+void FailAll(ProviderContext& context, const std::vector<std::string>& paths, const Failure& failure,
+             Outcome& outcome) {
+  if (paths.size() == 1 || !failure.MeansOthersLock()) {
+    for (const auto& path : paths) outcome.Fail(path, failure);
+    return;
+  }
+  const Survey survey(context, paths);
+  for (const auto& path : paths) {
+    const FileStatus status = survey.StatusOf(path);
+    const bool isOut = (status.Bits & scc::SCC_STATUS_CHECKEDOUT) != 0;
+    const std::string reason = isOut                       ? sOtherRefused.str()
+                               : !status.LockOwner.empty() ? Format(sOutBy.Text, {status.LockOwner})
+                                                           : failure.what();
+    outcome.Fail(path, failure.Result(), reason.c_str());
   }
 }
 

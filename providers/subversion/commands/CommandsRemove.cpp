@@ -14,7 +14,8 @@ Step PrepareRemoval(const Survey& survey, const std::string& path) {
   const auto has = [&](scc::Long bits) { return (status.Bits & bits) != 0; };
   if (status.IsFolder) throw Failure(scc::SCC_E_TYPENOTSUPPORTED, sNotAFile);
   if (has(scc::SCC_STATUS_OUTBYUSER)) throw Failure(scc::SCC_E_FILEISCHECKEDOUT, sStillOut);
-  if (has(scc::SCC_STATUS_OUTOTHER)) throw Failure(scc::SCC_E_FILEOUTEXCLUSIVE, sOutByOther);
+  if (has(scc::SCC_STATUS_OUTOTHER))
+    throw Failure(scc::SCC_E_FILEOUTEXCLUSIVE, Format(sOutBy.Text, {status.LockOwner}));
   return Require(survey.StateOf(path), Command::Remove);
 }
 
@@ -54,7 +55,7 @@ scc::Long Remove(ProviderContext& context, Names names, const std::string& comme
     Commit(context, all, comment, AfterCommit::Release);
   } catch (const Failure& failure) {
     Unschedule(context, all);
-    for (const auto& path : all) outcome.Fail(path, failure);
+    FailAll(context, all, failure, outcome);
     return outcome.Result();
   }
   for (const auto& path : kept) outcome.Try(path, [&] { MakeWritable(path); });

@@ -17,10 +17,11 @@ bool CheckSource(ProviderContext& context, const std::string& path) {
   const LocalStatus local = ReadLocalStatus(context, path);
   if (!local.IsControlled()) throw Failure(scc::SCC_E_FILENOTCONTROLLED, sNotControlled);
   if (local.IsFolder) throw Failure(scc::SCC_E_TYPENOTSUPPORTED, sNotAFile);
-  const scc::Long bits = FetchStatus(context, path).Bits;
-  const auto has = [&](scc::Long bit) { return (bits & bit) != 0; };
+  const FileStatus status = FetchStatus(context, path);
+  const auto has = [&](scc::Long bit) { return (status.Bits & bit) != 0; };
   if (has(scc::SCC_STATUS_DELETED)) throw Failure(scc::SCC_E_FILENOTCONTROLLED, sDeletedInRepository);
-  if (has(scc::SCC_STATUS_OUTOTHER)) throw Failure(scc::SCC_E_FILEOUTEXCLUSIVE, sOutByOther);
+  if (has(scc::SCC_STATUS_OUTOTHER))
+    throw Failure(scc::SCC_E_FILEOUTEXCLUSIVE, Format(sOutBy.Text, {status.LockOwner}));
   // The rename would put the local edits over changes that others checked in.
   if (has(scc::SCC_STATUS_OUTOFDATE) || local.IsConflicted())
     throw Failure(scc::SCC_E_OPNOTPERFORMED, sGetBeforeRename);

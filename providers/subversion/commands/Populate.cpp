@@ -72,7 +72,7 @@ bool Fits(scc::SCCCommand command, scc::Long bits) {
 
 scc::Long Populate(ProviderContext& context, scc::SCCCommand command, Names names, Named named,
                    scc::TPopListFunc callback, void* callerData, scc::Long* statuses) {
-  const StatusTable& table = WalkProject(context);
+  const StatusTable& table = WalkProject(context, Answer::MayBeRecent);
   std::vector<std::string> paths;
   std::vector<FileStatus> found;
   for (std::size_t i = 0; i < names.size(); ++i) {

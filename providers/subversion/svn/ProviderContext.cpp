@@ -22,11 +22,15 @@ void ProviderContext::Open(std::unique_ptr<Client> client, Project project) {
   project_ = std::move(project);
   client_->OnNotice([this](const svn_wc_notify_t& notice) { HandleNotice(notice); });
   client_->OnPoll([this] { return IsCancelled(); });
-  client_->OnCommitted([this] { canCancel_ = false; });
+  client_->OnCommitted([this] {
+    canCancel_ = false;
+    recent_.Forget();
+  });
   const std::string root = WorkingCopyRoot(project_.Folder);
   mark_ = UseMarker(root);
   journal_ = {};  // first: the new one would find its file in use
   journal_ = LockJournal(root);
+  recent_ = RecentAnswer(root, client_->TimeLimits().Remember);
 }
 
 void ProviderContext::Reconnect() {
@@ -41,6 +45,7 @@ void ProviderContext::Close() {
   mark_ = {};
   journal_ = {};
   lastStatuses_ = {};
+  recent_.Forget();
   justAdded_.clear();
   refusals_.clear();
   leftOut_.clear();
@@ -77,11 +82,13 @@ void NameArray::Assign(std::vector<std::string> names) {
 void ProviderContext::BeginCommand() {
   canCancel_ = ClientCancels;
   nextPoll_ = {};
+  recent_.Forget();
   if (canCancel_) output_.Signal(scc::SCC_MSG_STARTCANCEL);
 }
 
 void ProviderContext::EndCommand() {
   canCancel_ = false;
+  recent_.Forget();
   if (ClientCancels) output_.Signal(scc::SCC_MSG_STOPCANCEL);
 }
 

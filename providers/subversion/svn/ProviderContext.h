@@ -14,6 +14,7 @@
 #include "subversion/svn/CommandOptions.h"
 #include "subversion/svn/Events.h"
 #include "subversion/svn/Output.h"
+#include "subversion/svn/RecentAnswer.h"
 #include "subversion/svn/Status.h"
 #include "subversion/svn/WorkingCopyUse.h"
 
@@ -67,6 +68,8 @@ class ProviderContext {
 
   /// The result of the last WalkProject().
   StatusTable& LastStatuses() { return lastStatuses_; }
+  /// What the repository answered to it.
+  RecentAnswer& Recent() { return recent_; }
 
   /// Files added since the project was opened, with the revision that added them.
   std::map<std::string, svn_revnum_t>& JustAdded() { return justAdded_; }
@@ -112,6 +115,7 @@ class ProviderContext {
   bool canCancel_ = false;  // a command runs and was not cancelled
   std::chrono::steady_clock::time_point nextPoll_;
   StatusTable lastStatuses_;
+  RecentAnswer recent_;
   std::map<std::string, svn_revnum_t> justAdded_;
   std::map<std::string, Failure> refusals_;
   std::set<std::string> leftOut_;

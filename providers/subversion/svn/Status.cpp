@@ -5,8 +5,10 @@
 #include <algorithm>
 #include <cstring>
 #include <set>
+#include <unordered_set>
 
 #include "subversion/svn/LocalStatus.h"
+#include "subversion/svn/NodeInfo.h"
 #include "subversion/svn/NonUtf8Names.h"
 #include "subversion/svn/ProviderContext.h"
 #include "subversion/svn/Repository.h"
@@ -64,7 +66,14 @@ void ApplyLeftOverLock(ProviderContext& context, const svn_client_status_t& stat
 /// Fills in the local fields, which a walk without the working copy does not set.
 void AddLocalState(ProviderContext& context, svn_client_status_t& status, apr_pool_t* pool) {
   svn_wc_status3_t* local = nullptr;
-  Check(svn_wc_status3(&local, context.ClientContext()->wc_ctx, status.local_abspath, pool, pool));
+  svn_error_t* error =
+      svn_wc_status3(&local, context.ClientContext()->wc_ctx, status.local_abspath, pool, pool);
+  if (error != SVN_NO_ERROR) {
+    const Failure failure = ToFailure(error);
+    svn_error_clear(error);
+    if (!failure.MeansNoWorkingCopy()) throw failure;
+    return;  // below a folder that is not versioned
+  }
   if (local->versioned) status.kind = local->kind;
   status.versioned = local->versioned;
   status.node_status = local->node_status;
@@ -83,12 +92,20 @@ struct Root {
   bool mayHoldFiles;  // the repository has a folder of that name
 };
 
+enum class Source {
+  Repository,   // asks it, and stores its answer
+  Memory,       // a stored answer, with the local states of now
+  WorkingCopy,  // alone
+};
+
 struct Walk {
   ProviderContext& context;
   const std::string& user;
-  bool online;
+  Source source;
   bool byName;  // libsvn could not read the folders: reads local states file by file
+  RepositoryAnswer& answer;
   StatusTable& table;
+  std::unordered_set<const RemoteState*> applied;  // of the answer
   std::vector<std::string>
       shadowed;  // in the repository, and a local file of that name that is not controlled
   std::vector<Root> roots;
@@ -105,38 +122,84 @@ void RecordRoot(Walk& walk, const svn_client_status_t& status) {
     walk.roots.push_back({status.local_abspath, false, true});
 }
 
+/// Stores the repository's part of a status, or replaces it by what was stored.
+void AddRemoteState(Walk& walk, svn_client_status_t& status) {
+  auto& states = walk.answer.States;
+  if (walk.source == Source::WorkingCopy) {
+    status.repos_lock = status.lock;
+  } else if (walk.source == Source::Repository) {
+    RemoteState state(status);
+    if (!state.IsPlain()) states.insert_or_assign(status.local_abspath, std::move(state));
+  } else if (const auto stored = states.find(status.local_abspath); stored != states.end()) {
+    stored->second.ApplyTo(status);
+    walk.applied.insert(&stored->second);
+  }
+}
+
+void RecordStatus(Walk& walk, svn_client_status_t seen, apr_pool_t* pool) {
+  if (walk.byName) AddLocalState(walk.context, seen, pool);
+  AddRemoteState(walk, seen);
+  RecordRoot(walk, seen);
+  FileStatus file = ToFileStatus(seen, walk.user);
+  if (walk.source != Source::WorkingCopy) ApplyLeftOverLock(walk.context, seen, file);
+  if (IsCopy(seen))
+    walk.copies.emplace_back(seen.local_abspath, file);
+  else if (file.Bits != 0)
+    walk.table.Put(seen.local_abspath, file);
+  if (IsOnlyInRepository(seen) && seen.node_status != svn_wc_status_none)
+    walk.shadowed.emplace_back(seen.local_abspath);
+}
+
 svn_error_t* OnStatus(void* baton, const char*, const svn_client_status_t* status,
                       apr_pool_t* pool) noexcept {
   auto& walk = *static_cast<Walk*>(baton);
-  return RunInCallback(walk.exception, [&] {
-    svn_client_status_t seen = *status;
-    if (walk.byName) AddLocalState(walk.context, seen, pool);
-    if (!walk.online) seen.repos_lock = seen.lock;
-    RecordRoot(walk, seen);
-    FileStatus file = ToFileStatus(seen, walk.user);
-    if (walk.online) ApplyLeftOverLock(walk.context, seen, file);
-    if (IsCopy(seen))
-      walk.copies.emplace_back(seen.local_abspath, file);
-    else if (file.Bits != 0)
-      walk.table.Put(seen.local_abspath, file);
-    if (IsOnlyInRepository(seen) && seen.node_status != svn_wc_status_none)
-      walk.shadowed.emplace_back(seen.local_abspath);
-  });
+  return RunInCallback(walk.exception, [&] { RecordStatus(walk, *status, pool); });
+}
+
+svn_client_status_t UnknownStatus(const char* path) {
+  svn_client_status_t status{};
+  status.local_abspath = path;
+  status.node_status = status.text_status = status.prop_status = svn_wc_status_none;
+  status.repos_node_status = status.repos_text_status = status.repos_prop_status = svn_wc_status_none;
+  return status;
+}
+
+/// Adds the files of a stored answer that the working copy does not report.
+void RecordUnreported(Walk& walk) {
+  const Pool pool;
+  for (const auto& [path, state] : walk.answer.States) {
+    if (walk.applied.contains(&state)) continue;
+    svn_client_status_t status = UnknownStatus(path.c_str());
+    AddLocalState(walk.context, status, pool);
+    RecordStatus(walk, status, pool);
+  }
 }
 
 /// Fetches the locks of files that libsvn reports without them, all at once.
-void AddLocksOfShadowed(StatusTable& table, ProviderContext& context,
-                        const std::vector<std::string>& shadowed) {
-  if (shadowed.empty()) return;
-  const Project& project = context.CurrentProject();
-  const auto owners = LockOwnersBelow(context.Svn(), project.Url);
-  for (const auto& path : shadowed) {
-    const auto owner = owners.find(svn_dirent_skip_ancestor(project.Folder.c_str(), path.c_str()));
-    if (owner == owners.end()) continue;
-    FileStatus status = table.Of(path);
-    status.Bits |= OutBits(context.Svn().User(), owner->second);
-    table.Put(path, status);
+void AddLocksOfShadowed(Walk& walk) {
+  if (walk.shadowed.empty()) return;
+  const Project& project = walk.context.CurrentProject();
+  auto& owners = walk.answer.LockOwners;
+  if (!owners) owners = LockOwnersBelow(walk.context.Svn(), project.Url);
+  for (const auto& path : walk.shadowed) {
+    const auto owner = owners->find(svn_dirent_skip_ancestor(project.Folder.c_str(), path.c_str()));
+    if (owner == owners->end()) continue;
+    FileStatus status = walk.table.Of(path);
+    status.Bits |= OutBits(walk.user, owner->second);
+    status.LockOwner = owner->second;
+    walk.table.Put(path, status);
   }
+}
+
+/// The files of the repository below a folder, as local paths.
+std::set<std::string> FetchFilesBelow(Walk& walk, const std::string& folder) {
+  const Project& project = walk.context.CurrentProject();
+  const char* inside = svn_dirent_skip_ancestor(project.Folder.c_str(), folder.c_str());
+  const auto [known, isNew] = walk.answer.FilesBelow.try_emplace(inside);
+  if (isNew) known->second = FilesBelow(walk.context.Svn(), UrlOf(project.Url, inside));
+  std::set<std::string> paths;
+  for (const auto& file : known->second) paths.insert(file.empty() ? folder : folder + "/" + file);
+  return paths;
 }
 
 bool IsBelow(const std::string& path, const std::string& folder) {
@@ -160,12 +223,8 @@ void Inherit(Walk& walk, ProviderContext& context) {
             [](const Root& a, const Root& b) { return a.path < b.path; });
   for (const Root& root : walk.roots) {
     std::set<std::string> inRepository;
-    if (root.mayHoldFiles && walk.online) {
-      const char* inside =
-          svn_dirent_skip_ancestor(context.CurrentProject().Folder.c_str(), root.path.c_str());
-      for (const auto& file : FilesBelow(context.Svn(), UrlOf(context.CurrentProject().Url, inside)))
-        inRepository.insert(file.empty() ? root.path : root.path + "/" + file);
-    }
+    if (root.mayHoldFiles && walk.source != Source::WorkingCopy)
+      inRepository = FetchFilesBelow(walk, root.path);
     for (const auto& [path, status] : walk.copies)
       if (root.inConflict && IsBelow(path, root.path))
         walk.table.Put(path, InConflict(status, inRepository.contains(path)));
@@ -182,9 +241,7 @@ void Inherit(Walk& walk, ProviderContext& context) {
 }
 
 svn_error_t* OnNode(void* baton, const char* path, const svn_client_info2_t*, apr_pool_t* pool) noexcept {
-  svn_client_status_t status{};
-  status.local_abspath = path;
-  status.repos_node_status = status.repos_text_status = status.repos_prop_status = svn_wc_status_none;
+  const svn_client_status_t status = UnknownStatus(path);
   return OnStatus(baton, path, &status, pool);
 }
 
@@ -197,16 +254,14 @@ svn_error_t* WalkKnown(Walk& walk, const std::string& path, svn_depth_t depth) {
                           walk.context.ClientContext(), pool);
 }
 
-enum class Source { Repository, WorkingCopy };
-
 enum class Read { Folders, NamedFiles };
 
 void WalkInto(StatusTable& table, ProviderContext& context, const std::string& path, svn_depth_t depth,
-              Source source, Read read) {
+              Source source, RepositoryAnswer& answer, Read read) {
   const Pool pool;
   const bool online = source == Source::Repository;
   const bool byName = read == Read::NamedFiles;
-  Walk walk{context, context.Svn().User(), online, byName, table, {}, {}, {}, nullptr};
+  Walk walk{context, context.Svn().User(), source, byName, answer, table, {}, {}, {}, {}, nullptr};
   const svn_opt_revision_t head = Newest();
   svn_error_t* error =
       byName && !online
@@ -217,22 +272,31 @@ void WalkInto(StatusTable& table, ProviderContext& context, const std::string& p
                                /*ignore_externals*/ TRUE, /*depth_as_sticky*/ TRUE, nullptr, OnStatus, &walk,
                                pool);
   context.Svn().Run(error, walk.exception);
+  if (source == Source::Memory) RecordUnreported(walk);
   Inherit(walk, context);
-  AddLocksOfShadowed(table, context, walk.shadowed);
+  AddLocksOfShadowed(walk);
+}
+
+void WalkInto(StatusTable& table, ProviderContext& context, const std::string& path, svn_depth_t depth,
+              Source source, RepositoryAnswer& answer) {
+  try {
+    WalkInto(table, context, path, depth, source, answer, Read::Folders);
+  } catch (const Failure& failure) {
+    // libsvn fails on a folder that contains a name which is not UTF-8, also if one file in it is asked for.
+    const Pool pool;
+    const std::string folder = depth == svn_depth_empty ? svn_dirent_dirname(path.c_str(), pool) : path;
+    const auto names = failure.Has(APR_EINVAL) ? NamesNotUtf8(folder) : std::vector<std::string>();
+    if (names.empty()) throw;
+    context.ReportNonUtf8Names(names);
+    table = {};
+    WalkInto(table, context, path, depth, source, answer, Read::NamedFiles);
+  }
 }
 
 void WalkInto(StatusTable& table, ProviderContext& context, const std::string& path, svn_depth_t depth,
               Source source) {
-  try {
-    WalkInto(table, context, path, depth, source, Read::Folders);
-  } catch (const Failure& failure) {
-    // libsvn fails on a folder that contains a name which is not UTF-8.
-    const auto names = failure.Has(APR_EINVAL) ? NamesNotUtf8(path) : std::vector<std::string>();
-    if (names.empty()) throw;
-    context.ReportNonUtf8Names(names);
-    table = {};
-    WalkInto(table, context, path, depth, source, Read::NamedFiles);
-  }
+  RepositoryAnswer answer;
+  WalkInto(table, context, path, depth, source, answer);
 }
 
 bool IsFolderKnown(ProviderContext& context, const std::string& path) {
@@ -269,6 +333,57 @@ StatusTable LocalWalk(ProviderContext& context, const Failure& reason) {
   return table;
 }
 
+/// The status of a file below a folder that is not in the working copy.
+FileStatus FetchStatusOfUnknown(ProviderContext& context, const std::string& path) {
+  const Project& project = context.CurrentProject();
+  const char* inside = svn_dirent_skip_ancestor(project.Folder.c_str(), path.c_str());
+  FileStatus status;
+  try {
+    const NodeInfo node = FetchNodeInfo(context.Svn(), UrlOf(project.Url, inside), Newest());
+    status.Bits = scc::SCC_STATUS_CONTROLLED | scc::SCC_STATUS_OUTOFDATE;
+    status.IsFolder = node.IsFolder;
+    status.NeedsGet = true;
+    status.LockOwner = node.Lock.Owner;
+    if (!node.Lock.Owner.empty()) status.Bits |= OutBits(context.Svn().User(), node.Lock.Owner);
+  } catch (const Failure& failure) {
+    if (!failure.Has(SVN_ERR_RA_ILLEGAL_URL) && !failure.Has(SVN_ERR_FS_NOT_FOUND)) throw;
+  }
+  return status;
+}
+
+/// The status of one file from the working copy alone; cheaper than a walk.
+FileStatus LocalFileStatus(ProviderContext& context, const std::string& path) {
+  const Pool pool;
+  svn_client_status_t status = UnknownStatus(path.c_str());
+  AddLocalState(context, status, pool);
+  status.repos_lock = status.lock;
+  if (!IsCopy(status)) return ToFileStatus(status, context.Svn().User());
+  StatusTable table;
+  WalkInto(table, context, path, svn_depth_empty, Source::WorkingCopy);
+  return table.Of(path);
+}
+
+/// Asks the repository, unless its last answer is recent.
+void WalkFromAnswer(StatusTable& table, ProviderContext& context) {
+  const std::string& folder = context.CurrentProject().Folder;
+  if (RepositoryAnswer* known = context.Recent().Find()) {
+    if (known->Unreachable) throw Failure(*known->Unreachable);
+    return WalkInto(table, context, folder, svn_depth_infinity, Source::Memory, *known);
+  }
+  RepositoryAnswer answer;
+  const auto stamp = context.Recent().StampNow();
+  try {
+    WalkInto(table, context, folder, svn_depth_infinity, Source::Repository, answer);
+  } catch (const Failure& failure) {
+    if (failure.Result() != scc::SCC_E_CONNECTIONFAILURE) throw;
+    answer = {};
+    answer.Unreachable = failure;
+    context.Recent().Store(std::move(answer), stamp);
+    throw;
+  }
+  context.Recent().Store(std::move(answer), stamp);
+}
+
 }  // namespace
 
 void StatusTable::Put(const std::string& path, const FileStatus& status) { entries_[path] = status; }
@@ -297,6 +412,8 @@ FileStatus ToFileStatus(const svn_client_status_t& status, const std::string& us
                                    IsChange(status.repos_prop_status)));
   FileStatus result;
   result.IsHere = IsHere(status);
+  if (status.repos_lock != nullptr && status.repos_lock->owner != nullptr)
+    result.LockOwner = status.repos_lock->owner;
   result.Bits = scc::SCC_STATUS_CONTROLLED | LockBits(status.lock, status.repos_lock, user);
   if (deleted) result.Bits |= scc::SCC_STATUS_DELETED;
   if (newer) result.Bits |= scc::SCC_STATUS_OUTOFDATE;
@@ -308,10 +425,11 @@ FileStatus ToFileStatus(const svn_client_status_t& status, const std::string& us
   return result;
 }
 
-const StatusTable& WalkProject(ProviderContext& context) {
+const StatusTable& WalkProject(ProviderContext& context, Answer which) {
   StatusTable table;
   try {
-    WalkInto(table, context, context.CurrentProject().Folder, svn_depth_infinity, Source::Repository);
+    if (which == Answer::New) context.Recent().Forget();
+    WalkFromAnswer(table, context);
   } catch (const Failure& failure) {
     table = failure.MeansNoWorkingCopy() ? StatusTable{} : LocalWalk(context, failure);
   }
@@ -321,12 +439,13 @@ const StatusTable& WalkProject(ProviderContext& context) {
 
 FileStatus FetchStatus(ProviderContext& context, const std::string& path) {
   const LocalStatus local = ReadLocalStatus(context, path);
-  if (!local.IsConflicted() && IsFolderKnown(context, path)) {
+  // libsvn reports nothing about a file below a folder that it does not know, or that is in conflict.
+  if (!local.IsConflicted()) {
+    if (!IsFolderKnown(context, path)) return FetchStatusOfUnknown(context, path);
     StatusTable table;
     WalkInto(table, context, path, svn_depth_empty, Source::Repository);
     return table.Of(path);
   }
-  // libsvn reports nothing about a file below a folder that it does not know, or that is in conflict.
   const StatusTable& walked = WalkProject(context);
   if (walked.Result < 0) throw Failure(walked.Result, sNotAsked);
   return walked.Of(path);
@@ -344,10 +463,7 @@ void RecordCommandResult(ProviderContext& context, std::span<const char* const> 
   if (names.size() > kMost) return;
   for (const char* name : names) {
     const std::string path = context.InsidePath(name);
-    if (!context.Events().Covers(path)) continue;
-    StatusTable table;
-    WalkInto(table, context, path, svn_depth_empty, Source::WorkingCopy);
-    context.Events().Update(path, table.Of(path).Bits);
+    if (context.Events().Covers(path)) context.Events().Update(path, LocalFileStatus(context, path).Bits);
   }
 }
 

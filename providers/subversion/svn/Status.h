@@ -24,6 +24,7 @@ struct FileStatus {
   bool LeftOver = false;
   /// Known to the working copy, though perhaps not on disk.
   bool IsHere = false;
+  std::string LockOwner;  // in the repository; empty if not locked
 };
 
 /// Statuses by canonical absolute path.
@@ -42,8 +43,12 @@ class StatusTable {
   std::unordered_map<std::string, FileStatus> entries_;
 };
 
-/// Walks the whole project folder and the repository; one server contact.  Stores the result in LastStatuses().
-const StatusTable& WalkProject(ProviderContext& context);
+enum class Answer {
+  New,
+  MayBeRecent,  // that of the last walk, unless it is too old (RecentAnswer.h)
+};
+/// Walks the whole project folder and the repository; at most one server contact.  Stores the result in LastStatuses().
+const StatusTable& WalkProject(ProviderContext& context, Answer which = Answer::New);
 /// Fetches the status of one path, which is cheaper than a walk.  Throws Failure.
 FileStatus FetchStatus(ProviderContext& context, const std::string& path);
 /// The statuses of a folder and everything below it, by path, from the working copy alone.

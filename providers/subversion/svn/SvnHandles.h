@@ -51,9 +51,9 @@ class Failure : public std::runtime_error {
   bool Has(apr_status_t code) const;
   /// Whether a path belongs to no working copy.
   bool MeansNoWorkingCopy() const;
-  /// Whether the repository holds a lock that this working copy has no token for.
+  /// Whether libsvn reports, without the owner, a lock that this working copy has no token for.
   bool MeansOthersLock() const {
-    return result_ == scc::SCC_E_FILEOUTEXCLUSIVE || result_ == scc::SCC_E_FILEISLOCKED;
+    return !codes_.empty() && (result_ == scc::SCC_E_FILEOUTEXCLUSIVE || result_ == scc::SCC_E_FILEISLOCKED);
   }
   /// Whether the working copy is locked by another process, or by one that died.
   bool MeansBusyWorkingCopy() const;
