@@ -47,7 +47,8 @@ TParts SplitPath(std::string_view path) {
   for (auto at = path.begin() + static_cast<std::ptrdiff_t>(root);; ++at) {
     const auto end = std::find_if(at, path.end(), IsPathDelim);
     Append(parts, {at, end});
-    if ((at = end) == path.end()) return parts;
+    if (end == path.end()) return parts;
+    at = end;
   }
 }
 

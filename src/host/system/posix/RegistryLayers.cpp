@@ -22,7 +22,7 @@ std::string Environment(const char* name) {
 }
 
 std::string HomeDirectory() {
-  const auto home = Environment("HOME");
+  auto home = Environment("HOME");
   if (!home.empty()) return home;
   const passwd* user = getpwuid(getuid());
   return user ? user->pw_dir : "/";
