@@ -4,6 +4,7 @@
 
 #include "common/text/FileDiff.h"
 #include "subversion/svn/Client.h"
+#include "subversion/svn/CommonLines.h"
 #include "support/Testing.h"
 
 namespace kestrel::svnscc {
@@ -52,7 +53,7 @@ std::string Lines(int count, const std::function<std::string(int)>& line) {
 
 TEST_P(FileDiffs, AlignBothSides) {
   const Row& row = GetParam();
-  const FileDiff diff(row.left, row.right, row.options);
+  const FileDiff diff(row.left, row.right, row.options, MatchCommonLines);
   EXPECT_EQ(row.picture, Picture(diff));
   EXPECT_EQ(row.same, diff.Same());
   EXPECT_EQ(row.ends, diff.Ends());
@@ -90,7 +91,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(FileDiff, WalksFromDifferenceToDifference) {
   EnsureRuntime();
-  FileDiff diff("1\nb\nc\n2\nd\n", "one\nb\nc\ntwo\nd\ne\n", kExact);
+  FileDiff diff("1\nb\nc\n2\nd\n", "one\nb\nc\ntwo\nd\ne\n", kExact, MatchCommonLines);
   EXPECT_THAT(diff.Differences(), ElementsAre(0, 3, 5));
   EXPECT_EQ(3U, diff.Next(0));
   EXPECT_EQ(5U, diff.Next(4));
@@ -124,12 +125,13 @@ TEST(FileDiff, HandlesTheLongestFiles) {
   };
   const std::string left = Lines(kCount, mixed);
   const std::string right = Lines(kCount, mixed);
-  const FileDiff different(left, right, kExact);
+  const FileDiff different(left, right, kExact, MatchCommonLines);
   EXPECT_FALSE(different.Same());
   const FileDiff reversed(Lines(kCount, [](int i) { return std::to_string(i); }),
-                          Lines(kCount, [](int i) { return std::to_string(kCount - i); }), kNoCase);
+                          Lines(kCount, [](int i) { return std::to_string(kCount - i); }), kNoCase,
+                          MatchCommonLines);
   EXPECT_GE(reversed.Rows().size(), std::size_t{kCount});
-  EXPECT_TRUE(FileDiff(left, left, kNoSpace).Same());
+  EXPECT_TRUE(FileDiff(left, left, kNoSpace, MatchCommonLines).Same());
 }
 
 }  // namespace kestrel::svnscc

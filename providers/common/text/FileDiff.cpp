@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <unordered_map>
 
-#include "common/text/LineMatch.h"
 #include "system/Text.h"
 
 namespace kestrel {
@@ -86,8 +85,9 @@ DiffOptions ToDiffOptions(scc::Long flags) {
   return {(flags & scc::SCC_DIFF_IGNORECASE) != 0, (flags & scc::SCC_DIFF_IGNORESPACE) != 0};
 }
 
-FileDiff::FileDiff(std::string left, std::string right, const DiffOptions& options)
-    : left_(std::move(left)),
+FileDiff::FileDiff(std::string left, std::string right, const DiffOptions& options, LineMatcher matchCommon)
+    : matchCommon_(std::move(matchCommon)),
+      left_(std::move(left)),
       right_(std::move(right)),
       leftLines_(SplitLines(left_)),
       rightLines_(SplitLines(right_)),
@@ -101,7 +101,7 @@ void FileDiff::Compare(const DiffOptions& options) {
   LineNumbers numbers(options);
   const LineIds left = numbers.Of(left_);
   const LineIds right = numbers.Of(right_);
-  auto matches = MatchLines(left, right);
+  auto matches = MatchLines(left, right, matchCommon_);
   matches.emplace_back(left.size(), right.size());  // sentinel
   int nextLeft = 0;
   int nextRight = 0;

@@ -8,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include "common/text/LineMatch.h"
 #include "scc/sccdefs.h"
 
 namespace kestrel {
@@ -46,7 +47,7 @@ struct Span {
 class FileDiff {
  public:
   /// Texts are UTF-8 with any line ends.
-  FileDiff(std::string left, std::string right, const DiffOptions& options);
+  FileDiff(std::string left, std::string right, const DiffOptions& options, LineMatcher matchCommon);
   FileDiff(const FileDiff&) = delete;
   FileDiff& operator=(const FileDiff&) = delete;
 
@@ -71,6 +72,7 @@ class FileDiff {
   static std::string_view LineOf(const Lines& lines, int number);
   void AppendDifference(int left, int leftCount, int right, int rightCount);
 
+  LineMatcher matchCommon_;
   std::string left_;
   std::string right_;
   Lines leftLines_;

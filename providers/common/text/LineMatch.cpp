@@ -1,7 +1,6 @@
 #include "common/text/LineMatch.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <limits>
 #include <unordered_map>
 #include <unordered_set>
@@ -17,101 +16,10 @@ struct Gap {
 
 std::size_t At(int index) { return static_cast<std::size_t>(index); }
 
-/// A longest common subsequence: E. W. Myers, "An O(ND) Difference Algorithm and Its Variations", in linear space.
-class ShortestEdit {
- public:
-  ShortestEdit(LineIds left, LineIds right) : left_(std::move(left)), right_(std::move(right)) {}
-  LineMatches Match() {
-    MatchGap({0, static_cast<int>(left_.size()), 0, static_cast<int>(right_.size())});
-    return std::move(matches_);
-  }
-
- private:
-  static constexpr int kUnreached = -1;
-
-  /// How far paths from one end of a gap reach, by diagonal (left minus right index).
-  class Front {
-   public:
-    Front(int size, int leftSize, int rightSize)
-        : middle_(size + 1),
-          leftSize_(leftSize),
-          rightSize_(rightSize),
-          reached_(At(2 * size + 3), kUnreached) {}
-    int& operator[](int diagonal) { return reached_[At(middle_ + diagonal)]; }
-    /// One edit further: where the next run of equal lines on `diagonal` starts; kUnreached outside the gap.
-    int Step(int diagonal, int edits) {
-      if (edits == 0) return 0;
-      const int above = (*this)[diagonal + 1];
-      const int before = (*this)[diagonal - 1];
-      const int down = above != kUnreached && above - diagonal <= rightSize_ ? above : kUnreached;
-      const int across = before != kUnreached && before < leftSize_ ? before + 1 : kUnreached;
-      return std::max(down, across);
-    }
-
-   private:
-    int middle_, leftSize_, rightSize_;
-    std::vector<int> reached_;
-  };
-
-  void MatchGap(Gap gap) {
-    for (; !gap.IsOneSided() && left_[At(gap.left)] == right_[At(gap.right)]; ++gap.left, ++gap.right)
-      matches_.emplace_back(gap.left, gap.right);
-    int tail = 0;
-    for (; !gap.IsOneSided() && left_[At(gap.leftEnd - 1)] == right_[At(gap.rightEnd - 1)];
-         --gap.leftEnd, --gap.rightEnd)
-      ++tail;
-    if (!gap.IsOneSided()) {
-      const Gap run = MiddleRun(gap);
-      MatchGap({gap.left, run.left, gap.right, run.right});
-      for (int i = 0; i < run.leftEnd - run.left; ++i) matches_.emplace_back(run.left + i, run.right + i);
-      MatchGap({run.leftEnd, gap.leftEnd, run.rightEnd, gap.rightEnd});
-    }
-    for (int i = 0; i < tail; ++i) matches_.emplace_back(gap.leftEnd + i, gap.rightEnd + i);
-  }
-
-  /// The run of equal lines, perhaps an empty one, in the middle of a shortest edit.  The gap's ends differ.
-  Gap MiddleRun(const Gap& gap) const {
-    const int n = gap.leftEnd - gap.left;
-    const int m = gap.rightEnd - gap.right;
-    const int delta = n - m;
-    const int most = (n + m + 1) / 2;
-    Front forward(most, n, m);
-    Front backward(most, n, m);
-    for (int edits = 0;; ++edits) {
-      for (int k = -edits; k <= edits; k += 2) {
-        const int start = forward.Step(k, edits);
-        if (start == kUnreached) continue;
-        int x = start;
-        while (x < n && x - k < m && left_[At(gap.left + x)] == right_[At(gap.right + x - k)]) ++x;
-        forward[k] = x;
-        const int other = delta - k;
-        if (delta % 2 != 0 && std::abs(other) < edits && backward[other] != kUnreached &&
-            x + backward[other] >= n)
-          return {gap.left + start, gap.left + x, gap.right + start - k, gap.right + x - k};
-      }
-      for (int k = -edits; k <= edits; k += 2) {
-        const int start = backward.Step(k, edits);
-        if (start == kUnreached) continue;
-        int x = start;
-        while (x < n && x - k < m && left_[At(gap.leftEnd - 1 - x)] == right_[At(gap.rightEnd - 1 - x + k)])
-          ++x;
-        backward[k] = x;
-        const int other = delta - k;
-        if (delta % 2 == 0 && std::abs(other) <= edits && forward[other] != kUnreached &&
-            x + forward[other] >= n)
-          return {gap.leftEnd - x, gap.leftEnd - start, gap.rightEnd - x + k, gap.rightEnd - start + k};
-      }
-    }
-  }
-
-  LineIds left_;
-  LineIds right_;
-  LineMatches matches_;
-};
-
 class Matcher {
  public:
-  Matcher(const LineIds& left, const LineIds& right) : left_(left), right_(right) {}
+  Matcher(const LineIds& left, const LineIds& right, const LineMatcher& matchCommon)
+      : left_(left), right_(right), matchCommon_(matchCommon) {}
   LineMatches Match() {
     Gap all{0, static_cast<int>(left_.size()), 0, static_cast<int>(right_.size())};
     const int tail = MatchEnds(all);
@@ -206,7 +114,7 @@ class Matcher {
   void MatchCommonLines(const Gap& gap) {
     const auto left = Shared(left_, gap.left, gap.leftEnd, right_, gap.right, gap.rightEnd);
     const auto right = Shared(right_, gap.right, gap.rightEnd, left_, gap.left, gap.leftEnd);
-    for (const auto& [i, j] : ShortestEdit(Chosen(left_, left), Chosen(right_, right)).Match())
+    for (const auto& [i, j] : matchCommon_(Chosen(left_, left), Chosen(right_, right)))
       matches_.emplace_back(left[At(i)], right[At(j)]);
   }
 
@@ -227,11 +135,14 @@ class Matcher {
 
   const LineIds& left_;
   const LineIds& right_;
+  const LineMatcher& matchCommon_;
   LineMatches matches_;
 };
 
 }  // namespace
 
-LineMatches MatchLines(const LineIds& left, const LineIds& right) { return Matcher(left, right).Match(); }
+LineMatches MatchLines(const LineIds& left, const LineIds& right, const LineMatcher& matchCommon) {
+  return Matcher(left, right, matchCommon).Match();
+}
 
 }  // namespace kestrel

@@ -9,9 +9,11 @@
 namespace kestrel {
 namespace {
 
-std::unique_ptr<FileDiff> DiffOf(const DiffSide& left, const DiffSide& right, const DiffOptions& options) {
+std::unique_ptr<FileDiff> DiffOf(const DiffSide& left, const DiffSide& right, const DiffOptions& options,
+                                 LineMatcher matchCommon) {
   if (left.Text.IsBinary || right.Text.IsBinary) return nullptr;
-  return std::make_unique<FileDiff>(ToUtf8(left.Text.Bytes), ToUtf8(right.Text.Bytes), options);
+  return std::make_unique<FileDiff>(ToUtf8(left.Text.Bytes), ToUtf8(right.Text.Bytes), options,
+                                    std::move(matchCommon));
 }
 
 std::string Count(const TResString& text, std::size_t a, std::size_t b) {
@@ -35,11 +37,11 @@ std::string Joined(std::string text, LineEnds ends) {
 }  // namespace
 
 DiffWindow::DiffWindow(wxWindow* parent, const std::string& name, DiffSide left, DiffSide right,
-                       const DiffOptions& options)
+                       const DiffOptions& options, LineMatcher matchCommon)
     : ToolWindow(parent, Format(sDiffTitle.Text, {name})),
       left_(std::move(left)),
       right_(std::move(right)),
-      diff_(DiffOf(left_, right_, options)) {
+      diff_(DiffOf(left_, right_, options, std::move(matchCommon))) {
   auto* all = new wxBoxSizer(wxVERTICAL);
   const int gap = FromDIP(8);
   all->Add(CreateTools(options), wxSizerFlags().Expand().Border(wxALL, gap));

@@ -20,7 +20,7 @@ class DiffWindow : public ToolWindow {
  public:
   /// `name` is the file's name for the title.
   DiffWindow(wxWindow* parent, const std::string& name, DiffSide left, DiffSide right,
-             const DiffOptions& options);
+             const DiffOptions& options, LineMatcher matchCommon);
   ~DiffWindow() override;
 
   /// Whether the versions are equal apart from what the check boxes ignore.

@@ -129,7 +129,7 @@ void HistoryWindow::CompareWithLocal() {
 }
 
 void HistoryWindow::Compare(DiffSide left, DiffSide right) {
-  DiffWindow(this, name_, std::move(left), std::move(right), {}).ShowModal();
+  DiffWindow(this, name_, std::move(left), std::move(right), {}, source_.Matcher()).ShowModal();
 }
 
 void HistoryWindow::Get() {

@@ -28,6 +28,8 @@ class HistorySource {
   virtual bool IsFolder() const = 0;
   /// The file as that revision left it.  Files only, as all that follow.
   virtual Contents FetchContents(std::size_t index) = 0;
+  /// Compares revisions.
+  virtual LineMatcher Matcher() const = 0;
 
   /// Whether the revisions are those of a file on this computer.  The functions below need one.
   virtual bool HasLocalFile() const = 0;

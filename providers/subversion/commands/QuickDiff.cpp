@@ -1,5 +1,6 @@
 #include "common/text/FileDiff.h"
 #include "subversion/commands/Commands.h"
+#include "subversion/svn/CommonLines.h"
 #include "subversion/svn/LocalStatus.h"
 #include "subversion/svn/NodeInfo.h"
 
@@ -10,7 +11,8 @@ bool Differs(ProviderContext& context, const std::string& path, const DiffOption
   if (!options.IgnoreCase && !options.IgnoreSpace) return true;
   const Contents pristine = FetchContents(context.Svn(), path, Pristine());
   const Contents local = ReadLocalContents(path);
-  return pristine.IsBinary || local.IsBinary || !FileDiff(pristine.Bytes, local.Bytes, options).Same();
+  return pristine.IsBinary || local.IsBinary ||
+         !FileDiff(pristine.Bytes, local.Bytes, options, MatchCommonLines).Same();
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "common/windows/HistoryWindow.h"
+#include "subversion/svn/CommonLines.h"
 #include "subversion/svn/History.h"
 
 namespace kestrel::svnscc {
@@ -23,6 +24,7 @@ class NodeHistory : public HistorySource {
   void LoadMore() override { history_.LoadMore(); }
   bool IsFolder() const override { return isFolder_; }
   Contents FetchContents(std::size_t index) override { return history_.TextOf(index); }
+  LineMatcher Matcher() const override { return MatchCommonLines; }
   bool HasLocalFile() const override { return !path_.empty(); }
   bool IsOnDisk() const override;
   Contents ReadLocalContents() override;

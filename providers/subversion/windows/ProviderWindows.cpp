@@ -4,6 +4,7 @@
 #include "common/windows/PropertiesWindow.h"
 #include "common/windows/WindowStrings.h"
 #include "subversion/commands/CommandStrings.h"
+#include "subversion/svn/CommonLines.h"
 #include "subversion/svn/LocalStatus.h"
 #include "subversion/svn/NodeInfo.h"
 #include "subversion/svn/NodeProperties.h"
@@ -45,7 +46,7 @@ scc::Long ShowDifferences(ProviderContext& context, scc::WindowHandle parent, co
   if (!IsOnDisk(node.Path)) throw Failure(scc::SCC_E_FILENOTEXIST, sFileMissing);
   if (!FileExists(node.Path)) throw Failure(scc::SCC_E_TYPENOTSUPPORTED, sNotAFile);
   DiffWindow window(ParentFor(parent), context.Label(node.Path), RepositorySide(context, node),
-                    {sOnDisk, ReadLocalContents(node.Path)}, ToDiffOptions(flags));
+                    {sOnDisk, ReadLocalContents(node.Path)}, ToDiffOptions(flags), MatchCommonLines);
   const bool same = window.Same();
   window.ShowModal();
   return same ? scc::SCC_OK : static_cast<scc::Long>(scc::SCC_I_FILEDIFFERS);
