@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <stdexcept>
 
-#include "ProxyConfig.h"
+#include "isolation/ProxyConfig.h"
 #include "system/FileName.h"
 #include "system/Library.h"
 #include "system/Paths.h"

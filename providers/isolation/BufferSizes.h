@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cstddef>
 
-#include "Wire.h"
+#include "isolation/Wire.h"
 
 namespace kestrel::isolation {
 

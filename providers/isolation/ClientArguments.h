@@ -5,11 +5,11 @@
 #include <algorithm>
 #include <cstring>
 
-#include "BufferSizes.h"
-#include "IsolationStrings.h"
-#include "OwnerWindow.h"
-#include "ProviderProxy.h"
-#include "TryReadMemory.h"
+#include "isolation/BufferSizes.h"
+#include "isolation/IsolationStrings.h"
+#include "isolation/OwnerWindow.h"
+#include "isolation/ProviderProxy.h"
+#include "isolation/TryReadMemory.h"
 
 namespace kestrel::isolation::client {
 

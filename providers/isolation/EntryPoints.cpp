@@ -1,6 +1,6 @@
 // The 23 exported functions.  entry_arguments.def defines how each is forwarded; this file adds the handling of contexts,
 // records the state to be restored after a restart, and answers calls that need no process.
-#include "RemoteCall.h"
+#include "isolation/RemoteCall.h"
 
 namespace kestrel::isolation {
 
@@ -11,7 +11,7 @@ namespace {
 #define SCC_ENTRY_ARGUMENTS(name, ...) \
   using name##Call = RemoteCall<EntryPoint::name __VA_OPT__(, ) __VA_ARGS__>;
 using namespace client;
-#include "entry_arguments.def"
+#include "isolation/entry_arguments.def"
 #undef SCC_ENTRY_ARGUMENTS
 
 /// Made for a call before SccInitialize; becomes the first context.

@@ -1,4 +1,4 @@
-#include "HostConnection.h"
+#include "isolation/HostConnection.h"
 
 #include <algorithm>
 #include <cstring>

@@ -6,9 +6,9 @@
 #include <optional>
 #include <string>
 
-#include "Process.h"
-#include "ProxyConfig.h"
-#include "Wire.h"
+#include "isolation/Process.h"
+#include "isolation/ProxyConfig.h"
+#include "isolation/Wire.h"
 
 namespace kestrel::isolation {
 

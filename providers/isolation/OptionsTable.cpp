@@ -1,4 +1,4 @@
-#include "OptionsTable.h"
+#include "isolation/OptionsTable.h"
 
 namespace kestrel::isolation {
 

@@ -9,7 +9,7 @@
 #include <set>
 #include <vector>
 
-#include "Wire.h"
+#include "isolation/Wire.h"
 
 namespace kestrel::isolation {
 

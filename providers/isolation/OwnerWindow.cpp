@@ -1,10 +1,10 @@
-#include "OwnerWindow.h"
+#include "isolation/OwnerWindow.h"
 
 #include <wx/app.h>
 #include <wx/dialog.h>
 #include <wx/thread.h>
 
-#include "WindowId.h"
+#include "isolation/WindowId.h"
 
 namespace kestrel::isolation {
 namespace {

@@ -1,11 +1,11 @@
-#include "ProviderProxy.h"
+#include "isolation/ProviderProxy.h"
 
 #include <set>
 #include <utility>
 
-#include "IsolationStrings.h"
-#include "Waiting.h"
-#include "WindowId.h"
+#include "isolation/IsolationStrings.h"
+#include "isolation/Waiting.h"
+#include "isolation/WindowId.h"
 
 using namespace std::chrono_literals;
 

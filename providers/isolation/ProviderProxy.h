@@ -11,8 +11,8 @@
 #include <thread>
 #include <vector>
 
-#include "HostConnection.h"
-#include "OptionsTable.h"
+#include "isolation/HostConnection.h"
+#include "isolation/OptionsTable.h"
 
 namespace kestrel::isolation {
 

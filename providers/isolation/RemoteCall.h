@@ -1,7 +1,7 @@
 // A call of one entry point in the provider's process, built from the kinds of its arguments.
 #pragma once
 
-#include "ClientArguments.h"
+#include "isolation/ClientArguments.h"
 
 namespace kestrel::isolation {
 

@@ -1,11 +1,11 @@
-#include "Waiting.h"
+#include "isolation/Waiting.h"
 
 #include <wx/app.h>
 #include <wx/msgdlg.h>
 #include <wx/thread.h>
 
-#include "UserInput.h"
-#include "WaitingWindow.h"
+#include "isolation/UserInput.h"
+#include "isolation/WaitingWindow.h"
 #include "toolkit/WxText.h"
 #include "toolkit/WxWaiting.h"
 

@@ -1,4 +1,4 @@
-#include "WaitingWindow.h"
+#include "isolation/WaitingWindow.h"
 
 #include <wx/button.h>
 #include <wx/dialog.h>
@@ -6,7 +6,7 @@
 #include <wx/stattext.h>
 #include <wx/timer.h>
 
-#include "IsolationStrings.h"
+#include "isolation/IsolationStrings.h"
 #include "toolkit/WxText.h"
 
 using namespace std::chrono_literals;

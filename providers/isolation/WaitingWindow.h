@@ -3,7 +3,7 @@
 
 #include <chrono>
 
-#include "Waiting.h"
+#include "isolation/Waiting.h"
 
 namespace kestrel::isolation {
 

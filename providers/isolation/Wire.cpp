@@ -1,4 +1,4 @@
-#include "Wire.h"
+#include "isolation/Wire.h"
 
 #include <cstring>
 
@@ -7,7 +7,7 @@ namespace kestrel::isolation {
 const char* NameOf(EntryPoint entry) {
   static constexpr const char* kNames[] = {
 #define SCC_ENTRY_ARGUMENTS(name, ...) #name,
-#include "entry_arguments.def"
+#include "isolation/entry_arguments.def"
 #undef SCC_ENTRY_ARGUMENTS
   };
   return entry < EntryPoint::Count ? kNames[static_cast<std::size_t>(entry)] : "";

@@ -23,7 +23,7 @@ struct WireError : std::runtime_error {
 /// The entry points, in the order of the table.
 enum class EntryPoint : std::uint8_t {
 #define SCC_ENTRY_ARGUMENTS(name, ...) name,
-#include "entry_arguments.def"
+#include "isolation/entry_arguments.def"
 #undef SCC_ENTRY_ARGUMENTS
   Count
 };

@@ -1,6 +1,6 @@
 // Frames from a process with damaged memory.
 
-#include "Wire.h"
+#include "isolation/Wire.h"
 #include "support/Testing.h"
 
 namespace kestrel::isolation {

@@ -1,7 +1,7 @@
 // scc-provider-host-player: scc-provider-host whose windows the macro player can operate.  Not installed.
 #include <cstdlib>
 
-#include "Host.h"
+#include "isolation/host/Host.h"
 #include "workbench/macro/ProviderWindowServer.h"
 #include "workbench/macro/ProviderWindows.h"
 

@@ -1,10 +1,10 @@
-#include "CallDispatcher.h"
+#include "isolation/host/CallDispatcher.h"
 
 #include <array>
 #include <tuple>
 
-#include "OptionsTable.h"
-#include "ProviderArguments.h"
+#include "isolation/OptionsTable.h"
+#include "isolation/host/ProviderArguments.h"
 #include "system/Guard.h"
 
 namespace kestrel::isolation {
@@ -82,7 +82,7 @@ std::string DispatchCall(const std::string& call) {
   using namespace provider;
   static constexpr std::string (*kEntries[])(FrameReader&) = {
 #define SCC_ENTRY_ARGUMENTS(name, ...) Invoke<EntryPoint::name __VA_OPT__(, ) __VA_ARGS__>,
-#include "entry_arguments.def"
+#include "isolation/entry_arguments.def"
 #undef SCC_ENTRY_ARGUMENTS
   };
   FrameReader in(call);

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "Wire.h"
+#include "isolation/Wire.h"
 #include "system/Library.h"
 
 namespace kestrel::isolation {

@@ -1,10 +1,10 @@
-#include "Callbacks.h"
+#include "isolation/host/Callbacks.h"
 
 #include <atomic>
 #include <cstring>
 #include <mutex>
 
-#include "Channel.h"
+#include "isolation/host/Channel.h"
 
 namespace kestrel::isolation {
 namespace {

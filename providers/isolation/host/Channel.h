@@ -1,7 +1,7 @@
 // The host's end of the channel to the library.
 #pragma once
 
-#include "Wire.h"
+#include "isolation/Wire.h"
 
 namespace kestrel::isolation::channel {
 

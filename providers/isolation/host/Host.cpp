@@ -1,4 +1,4 @@
-#include "Host.h"
+#include "isolation/host/Host.h"
 
 #include <wx/app.h>
 #include <wx/evtloop.h>
@@ -8,11 +8,11 @@
 #include <algorithm>
 #include <memory>
 
-#include "CallDispatcher.h"
-#include "Channel.h"
-#include "ProxyConfig.h"
-#include "ServeLoop.h"
-#include "WindowWatch.h"
+#include "isolation/ProxyConfig.h"
+#include "isolation/host/CallDispatcher.h"
+#include "isolation/host/Channel.h"
+#include "isolation/host/ServeLoop.h"
+#include "isolation/host/WindowWatch.h"
 #include "system/System.h"
 
 namespace kestrel::isolation {

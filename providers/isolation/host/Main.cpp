@@ -1,4 +1,4 @@
 // scc-provider-host: loads a provider and executes the calls of the isolating library, which starts this program.
-#include "Host.h"
+#include "isolation/host/Host.h"
 
 int main(int argc, char** argv) { return kestrel::isolation::RunHost(argc, argv); }

@@ -7,10 +7,10 @@
 #include <map>
 #include <memory>
 
-#include "BufferSizes.h"
-#include "Callbacks.h"
-#include "OptionsTable.h"
-#include "WindowWatch.h"
+#include "isolation/BufferSizes.h"
+#include "isolation/OptionsTable.h"
+#include "isolation/host/Callbacks.h"
+#include "isolation/host/WindowWatch.h"
 
 namespace kestrel::isolation::provider {
 

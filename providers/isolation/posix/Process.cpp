@@ -1,4 +1,4 @@
-#include "Process.h"
+#include "isolation/Process.h"
 
 #include <fcntl.h>
 #include <poll.h>
@@ -14,7 +14,7 @@
 #include <stdexcept>
 #include <vector>
 
-#include "ChannelFd.h"
+#include "isolation/ChannelFd.h"
 
 extern "C" {  // missing in the header of glibc 2.36
 #include <sys/pidfd.h>

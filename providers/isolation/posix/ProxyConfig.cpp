@@ -1,4 +1,4 @@
-#include "ProxyConfig.h"
+#include "isolation/ProxyConfig.h"
 
 #include <dlfcn.h>
 

@@ -1,4 +1,4 @@
-#include "TryReadMemory.h"
+#include "isolation/TryReadMemory.h"
 
 #include <sys/uio.h>
 #include <unistd.h>

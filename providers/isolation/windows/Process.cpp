@@ -1,4 +1,4 @@
-#include "Process.h"
+#include "isolation/Process.h"
 
 #include <algorithm>
 #include <array>

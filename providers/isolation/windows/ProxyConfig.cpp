@@ -1,4 +1,4 @@
-#include "ProxyConfig.h"
+#include "isolation/ProxyConfig.h"
 
 #include "system/windows/Api.h"
 #include "system/windows/Wide.h"

@@ -1,4 +1,4 @@
-#include "TryReadMemory.h"
+#include "isolation/TryReadMemory.h"
 
 #include "system/windows/Api.h"
 

@@ -1,4 +1,4 @@
-#include "UserInput.h"
+#include "isolation/UserInput.h"
 
 #include <utility>
 

@@ -1,4 +1,4 @@
-#include "WindowId.h"
+#include "isolation/WindowId.h"
 
 #include <wx/window.h>
 

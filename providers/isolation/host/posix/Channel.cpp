@@ -1,4 +1,4 @@
-#include "Channel.h"
+#include "isolation/host/Channel.h"
 
 #include <fcntl.h>
 #include <poll.h>
@@ -10,7 +10,7 @@
 #include <mutex>
 #include <thread>
 
-#include "ChannelFd.h"
+#include "isolation/ChannelFd.h"
 
 namespace kestrel::isolation::channel {
 namespace {

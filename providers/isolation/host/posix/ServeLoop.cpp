@@ -1,11 +1,11 @@
-#include "ServeLoop.h"
+#include "isolation/host/ServeLoop.h"
 
 #include <wx/evtloop.h>
 #include <wx/evtloopsrc.h>
 
 #include <memory>
 
-#include "Channel.h"
+#include "isolation/host/Channel.h"
 
 namespace kestrel::isolation {
 namespace {

@@ -1,4 +1,4 @@
-#include "WindowWatch.h"
+#include "isolation/host/WindowWatch.h"
 
 #include <gdk/gdkx.h>
 #include <gtk/gtk.h>
@@ -6,8 +6,8 @@
 #include <utility>
 
 #undef Bool  // of X11
-#include "Callbacks.h"
-#include "Channel.h"
+#include "isolation/host/Callbacks.h"
+#include "isolation/host/Channel.h"
 
 namespace kestrel::isolation {
 namespace {

@@ -1,8 +1,8 @@
-#include "Channel.h"
+#include "isolation/host/Channel.h"
 
 #include <mutex>
 
-#include "ArrivalEvent.h"
+#include "isolation/host/windows/ArrivalEvent.h"
 
 namespace kestrel::isolation::channel {
 namespace {

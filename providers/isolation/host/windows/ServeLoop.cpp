@@ -1,9 +1,9 @@
-#include "ServeLoop.h"
+#include "isolation/host/ServeLoop.h"
 
 #include <wx/app.h>
 #include <wx/evtloop.h>
 
-#include "ArrivalEvent.h"
+#include "isolation/host/windows/ArrivalEvent.h"
 
 namespace kestrel::isolation {
 

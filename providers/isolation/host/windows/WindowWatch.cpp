@@ -1,11 +1,11 @@
-#include "WindowWatch.h"
+#include "isolation/host/WindowWatch.h"
 
 #include <algorithm>
 #include <map>
 #include <utility>
 
-#include "Callbacks.h"
-#include "Channel.h"
+#include "isolation/host/Callbacks.h"
+#include "isolation/host/Channel.h"
 #include "system/windows/Api.h"
 
 namespace kestrel::isolation {
