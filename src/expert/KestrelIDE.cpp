@@ -8,7 +8,7 @@
 #include "provider/SCMAddInOptions.h"
 #include "provider/SCMOptions.h"
 #include "ui/Debug.h"
-#include "wizards/WxExpertUiWithWizards.h"
+#include "wizards/WxExpertUi.h"
 
 namespace kestrel::addin {
 
@@ -50,7 +50,7 @@ class TProductStartup {
     });
   }
 
-  TWxExpertUiWithWizards ui_;
+  TWxExpertUi ui_;
   std::optional<int> cookie_;
   std::optional<int> wizardIndex_;
   std::optional<int> optionsIndex_;

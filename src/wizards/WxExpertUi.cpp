@@ -1,4 +1,4 @@
-#include "commands/WxExpertUi.h"
+#include "wizards/WxExpertUi.h"
 
 #include <wx/msgdlg.h>
 
@@ -9,6 +9,9 @@
 #include "ui/MsgDialog.h"
 #include "ui/MsgDialogStrings.h"
 #include "ui/MsgWin.h"
+#include "wizards/CommitBrowser.h"
+#include "wizards/PlaceProjectWizard.h"
+#include "wizards/PullProjectWizard.h"
 
 namespace kestrel::addin {
 
@@ -58,8 +61,18 @@ int TWxExpertUi::ShowFileList(TCommandContext& context, TFileListModel& model) {
 
 int TWxExpertUi::ShowComments(TCommentModel& model) { return ShowAndClear(TCommentsForm(model)); }
 
+void TWxExpertUi::ShowCommitBrowser(TCommandContext& context) { TCommitBrowser(context).ShowModal(); }
+
 std::unique_ptr<IProgress> TWxExpertUi::StartProgress(const std::string& caption, std::size_t total) {
   return std::make_unique<TProgress>(caption, total, pace_);
+}
+
+void TWxExpertUi::ShowPlaceProject(TCommandContext& context) { TPlaceProjectWizard(context).ShowModal(); }
+
+std::string TWxExpertUi::ShowPullProject(TCommandContext& context) {
+  TPullProjectWizard form(context);
+  form.ShowModal();
+  return form.FileToOpen();
 }
 
 }  // namespace kestrel::addin

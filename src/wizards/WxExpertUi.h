@@ -1,4 +1,4 @@
-// The windows of the file commands that the expert is given in the IDE.
+// The windows that the expert shows in the IDE.
 #pragma once
 
 #include "commands/Progress.h"
@@ -6,15 +6,17 @@
 
 namespace kestrel::addin {
 
-/// Wizards are windows of a layer above, which completes this class.
-class TWxExpertUi : public IExpertUi {
+class TWxExpertUi final : public IExpertUi {
  public:
   std::unique_ptr<IMessageWindow> CreateMessageWindow() override;
   void ShowMsgDialog(const std::string& title, const std::string& text, TMsgType kind) override;
   void ShowBox(const std::string& text, TMsgType kind) override;
   int ShowFileList(TCommandContext& context, TFileListModel& model) override;
   int ShowComments(TCommentModel& model) override;
+  void ShowCommitBrowser(TCommandContext& context) override;
   std::unique_ptr<IProgress> StartProgress(const std::string& caption, std::size_t total) override;
+  void ShowPlaceProject(TCommandContext& context) override;
+  std::string ShowPullProject(TCommandContext& context) override;
 
  private:
   TCallPace pace_;
