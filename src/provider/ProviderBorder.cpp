@@ -111,7 +111,7 @@ void WriteProviderLine(TSeverity severity, const std::string& text) noexcept {
 
 void ReportOverrun(const char* entry, TOverrun overrun) noexcept {
   if (overrun == TOverrun::None) return;
-  const auto& text = overrun == TOverrun::Caught ? sBufferOverrun : sGuardOverrun;
+  const auto& text = overrun == TOverrun::Caught ? sBufferOverrun : sCanaryOverrun;
   WriteProviderLine(TSeverity::Warning, Format(text, {providerName, entry}));
 }
 

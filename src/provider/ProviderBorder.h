@@ -12,7 +12,7 @@
 #include "provider/BoundedText.h"
 #include "provider/sccapi.h"
 #include "provider/sccapiintf.h"
-#include "system/Guard.h"
+#include "system/SehFrame.h"
 #include "system/Text.h"
 
 namespace kestrel::addin {

@@ -21,7 +21,7 @@ inline constexpr TResString sInitFailed{"System could not be initialized"};
 inline constexpr TResString sBufferOverrun{
     "The provider \"%s\" wrote past the end of a buffer (%s). Nothing was damaged, but its answer may be "
     "wrong."};
-inline constexpr TResString sGuardOverrun{
+inline constexpr TResString sCanaryOverrun{
     "The provider \"%s\" wrote far past the end of a buffer (%s). Memory of this program may be damaged: "
     "save "
     "your work and start it again."};

@@ -144,8 +144,8 @@ TEST_F(Border, CutsATextThatIsTooLongAndReportsIt) {
                           "(SccOpenProject): it was cut to 261 bytes."));
 }
 
-TEST_F(Border, WritingFarBehindABufferIsCaughtByTheGuard) {
-  provider->Faults.WriteFarBehind = 1024;  // all of the guard
+TEST_F(Border, ReportsWritesThatPassTheWholeCanary) {
+  provider->Faults.WriteFarBehind = 1024;  // the whole canary
   session().GetEvents(messages);
   EXPECT_THAT(sink.Of(TSeverity::Warning),
               ElementsAre(HasSubstr("far past the end of a buffer (SccGetEvents)")));

@@ -5,7 +5,7 @@
 
 #include "isolation/OptionsTable.h"
 #include "isolation/host/ProviderArguments.h"
-#include "system/Guard.h"
+#include "system/SehFrame.h"
 
 namespace kestrel::isolation {
 namespace provider {

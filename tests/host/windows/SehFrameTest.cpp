@@ -4,7 +4,7 @@
 #include <stdexcept>
 
 #include "support/Testing.h"
-#include "system/Guard.h"
+#include "system/SehFrame.h"
 
 namespace kestrel {
 
@@ -22,7 +22,7 @@ void __attribute__((noinline)) TakeTooMuchStack() {
 
 }  // namespace
 
-TEST(Guard, NamesTheFaultThatEndedTheCall) {
+TEST(SehFrame, NamesTheFaultThatEndedTheCall) {
   const struct {
     void (*Fail)();
     const char* Name;
@@ -41,7 +41,7 @@ TEST(Guard, NamesTheFaultThatEndedTheCall) {
   for (const auto& row : rows) EXPECT_EQ(CallWithSehFrame(row.Fail), row.Name);
 }
 
-TEST(Guard, LetsExceptionsOutAndKeepsTheRegisters) {
+TEST(SehFrame, LetsExceptionsOutAndKeepsTheRegisters) {
   // Enough that the compiler keeps some in registers across the call.
   int a = zero + 1, b = zero + 2, c = zero + 3, d = zero + 4;
   for (int i = 0; i < 3; ++i) {
@@ -52,7 +52,7 @@ TEST(Guard, LetsExceptionsOutAndKeepsTheRegisters) {
   EXPECT_EQ((std::array{a, b, c, d}), (std::array{20, 26, 29, 35}));
 }
 
-TEST(Guard, StopsTheInnermostOfCallsInCalls) {
+TEST(SehFrame, StopsTheInnermostOfCallsInCalls) {
   std::string inner;
   const auto outer = CallWithSehFrame([&] {
     inner = CallWithSehFrame([] { *nowhere = 1; });

@@ -1,4 +1,4 @@
-#include "system/Guard.h"
+#include "system/SehFrame.h"
 
 #include <malloc.h>
 
@@ -10,7 +10,7 @@
 #include <optional>
 
 #include "system/windows/Api.h"
-#include "system/windows/GuardStrings.h"
+#include "system/windows/FaultStrings.h"
 
 namespace kestrel {
 

@@ -1,4 +1,4 @@
-#include "system/Guard.h"
+#include "system/SehFrame.h"
 
 namespace kestrel {
 
