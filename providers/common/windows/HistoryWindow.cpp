@@ -108,27 +108,21 @@ void HistoryWindow::ShowTextOf() {
 }
 
 void HistoryWindow::CompareWithPrevious() {
-  std::optional<DiffSide> left;
-  std::optional<DiffSide> right;
-  RunAndShowError([&] {
+  Compare([this] {
     if (Row() + 1 == source_.Count()) More();
-    left = SideOf(Row() + 1);
-    right = SideOf(Row());
+    return Sides{SideOf(Row() + 1), SideOf(Row())};
   });
-  if (right) Compare(std::move(*left), std::move(*right));
 }
 
 void HistoryWindow::CompareWithLocal() {
-  std::optional<DiffSide> left;
-  std::optional<DiffSide> right;
-  RunAndShowError([&] {
-    left = SideOf(Row());
-    right = DiffSide{sOnDisk, source_.ReadLocalContents()};
-  });
-  if (right) Compare(std::move(*left), std::move(*right));
+  Compare([this] { return Sides{SideOf(Row()), DiffSide{sOnDisk, source_.ReadLocalContents()}}; });
 }
 
-void HistoryWindow::Compare(DiffSide left, DiffSide right) {
+void HistoryWindow::Compare(const std::function<Sides()>& fetch) {
+  std::optional<Sides> sides;
+  RunAndShowError([&] { sides = fetch(); });
+  if (!sides) return;
+  auto& [left, right] = *sides;
   DiffWindow(this, name_, std::move(left), std::move(right), {}, source_.Matcher()).ShowModal();
 }
 

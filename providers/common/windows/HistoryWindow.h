@@ -1,7 +1,9 @@
 // The revisions of a file or folder: show, compare, get.
 #pragma once
 
+#include <functional>
 #include <string>
+#include <utility>
 
 #include "common/windows/DiffWindow.h"
 #include "common/windows/WindowTools.h"
@@ -55,7 +57,8 @@ class HistoryWindow : public ToolWindow {
   void CompareWithLocal();
   void Get();
   void More();
-  void Compare(DiffSide left, DiffSide right);
+  using Sides = std::pair<DiffSide, DiffSide>;
+  void Compare(const std::function<Sides()>& fetch);
   DiffSide SideOf(std::size_t row);
   /// Runs `body` if a revision is selected; shows the text of an exception.
   template <class Body>

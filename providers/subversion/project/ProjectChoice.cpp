@@ -133,7 +133,7 @@ std::optional<std::string> ProjectChoice::AddFolder(const std::string& parent, c
     Refuse(Format(sFolderExists.Text, {trimmed}));
     return std::nullopt;
   }
-  const std::string path = PathBelow(parent, trimmed);
+  std::string path = PathBelow(parent, trimmed);
   planned_.insert(path);
   ShowNextStep();
   return path;

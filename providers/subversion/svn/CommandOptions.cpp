@@ -51,7 +51,7 @@ CommandOptions* OptionBlocks::Find(void* argument) const {
   if (argument == nullptr || blocks_.empty()) return nullptr;
   if (CommandOptions* block = Live(argument)) return block;
   const void* held = nullptr;
-  std::memcpy(&held, argument, sizeof held);
+  std::memcpy(static_cast<void*>(&held), argument, sizeof held);
   return Live(held);
 }
 

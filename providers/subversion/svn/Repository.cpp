@@ -112,7 +112,7 @@ std::optional<std::string> ToRepositoryUrl(const std::string& text) {
 std::optional<std::string> ToProjectPath(const std::string& text) {
   std::string path = Trim(text);
   path.erase(0, std::min(path.find_first_not_of('/'), path.size()));
-  const auto canonical = Canonical(path, RelativeFromText);
+  auto canonical = Canonical(path, RelativeFromText);
   if (!canonical || svn_path_is_backpath_present(canonical->c_str())) return std::nullopt;
   return canonical;
 }

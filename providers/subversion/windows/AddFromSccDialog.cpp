@@ -110,6 +110,7 @@ scc::Long ChooseMissingFiles(ProviderContext& context, scc::WindowHandle parent,
   for (const auto& path : dialog.Chosen()) names.push_back(NativeName(path));
   if (names.empty()) return scc::SCC_I_OPERATIONCANCELED;
   std::vector<const char*> pointers;
+  pointers.reserve(names.size());
   for (const auto& name : names) pointers.push_back(name.c_str());
   return GetFiles(context, pointers, {});
 }
