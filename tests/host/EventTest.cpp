@@ -1,3 +1,4 @@
+
 #include "host/Event.h"
 #include "support/Testing.h"
 

@@ -1,3 +1,4 @@
+
 #include "support/TemporaryFolder.h"
 #include "support/Testing.h"
 #include "system/Library.h"
@@ -11,6 +12,8 @@ TEST(Library, LoadsFindsAndReleases) {
   EXPECT_TRUE(FindSymbol(module, "SccInitialize"));
   EXPECT_FALSE(FindSymbol(module, "SccNoSuchThing"));
   UnloadModule(module);
+  EXPECT_FALSE(FindSymbol(nullptr, "SccInitialize"));
+  UnloadModule(nullptr);
 }
 
 TEST(Library, RefusesWhatIsNoAbsolutePathOfALibrary) {
@@ -26,18 +29,13 @@ TEST(Library, RefusesWhatIsNoAbsolutePathOfALibrary) {
 }
 
 TEST(Library, RefusesARelativePathThatLeadsToALibrary) {
-  const auto before = std::filesystem::current_path();
-  std::filesystem::current_path(ExtractFileDir(TINY_PROVIDER));
+  const auto before = fs::current_path();
+  fs::current_path(ExtractFileDir(TINY_PROVIDER));
   std::string error;
   const auto module = LoadModule("./" + ExtractFileName(TINY_PROVIDER), &error);
-  std::filesystem::current_path(before);
+  fs::current_path(before);
   EXPECT_FALSE(module);
   EXPECT_THAT(error, HasSubstr("absolute"));
-}
-
-TEST(Library, ToleratesNoLibrary) {
-  EXPECT_FALSE(FindSymbol(nullptr, "SccInitialize"));
-  UnloadModule(nullptr);
 }
 
 }  // namespace kestrel

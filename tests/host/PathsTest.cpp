@@ -1,7 +1,6 @@
 #include "host/PathRows.h"
 #include "support/NativePath.h"
 #include "support/Testing.h"
-#include "system/Paths.h"
 
 namespace kestrel {
 

@@ -1,10 +1,6 @@
-#include <stdexcept>
-
 #include "host/RegistryFixture.h"
 
 namespace kestrel {
-
-namespace {
 
 TEST_F(Registry, KeepsValuesUnderNamesWhoseCaseDoesNotCount) {
   const std::string texts[] = {"plain",
@@ -17,22 +13,23 @@ TEST_F(Registry, KeepsValuesUnderNamesWhoseCaseDoesNotCount) {
                                "Größe 名前 😀",
                                std::string(40'000, 'x')};
   for (const auto& text : texts) {
-    Write("Software\\Ä\\SCC", "Wert " + text.substr(0, 20), text);
-    EXPECT_EQ(Read("software\\ä\\scc\\", "WERT " + text.substr(0, 20)), text);
+    WriteValue("Software\\Ä\\SCC", "Wert " + text.substr(0, 20), text);
+    EXPECT_EQ(ReadValue("software\\ä\\scc\\", "WERT " + text.substr(0, 20)), text);
   }
   EXPECT_EQ(Names("Software\\Ä\\SCC").size(), std::size(texts));
-  EXPECT_EQ(Read("Software\\Ä\\SCC", "missing"), "");
+  EXPECT_EQ(ReadValue("Software\\Ä\\SCC", "missing"), "");
 }
 
 TEST_F(Registry, KeepsItsRootsApart) {
-  Write("Key", "name", "machine");
-  Write("Key", "name", "user", TRegRoot::CurrentUser);
-  EXPECT_EQ(Read("Key", "name"), "machine");
-  EXPECT_EQ(Read("Key", "name", TRegRoot::CurrentUser), "user");
+  WriteValue("Key", "name", "machine");
+  WriteValue("Key", "name", "user", TRegRoot::CurrentUser);
+  EXPECT_EQ(ReadValue("Key", "name"), "machine");
+  EXPECT_EQ(ReadValue("Key", "name", TRegRoot::CurrentUser), "user");
 }
 
 TEST_F(Registry, DeletesValuesAndKeysWithAllBelow) {
-  for (const char* key : {"Software\\A", "Software\\A\\SCC", "Software\\AB"}) Write(key, "name", "value");
+  for (const char* key : {"Software\\A", "Software\\A\\SCC", "Software\\AB"})
+    WriteValue(key, "name", "value");
   EXPECT_TRUE(KeyExists("Software")) << "a key above one that exists";
   EXPECT_FALSE(KeyExists("Soft"));
 
@@ -55,23 +52,21 @@ TEST_F(Registry, DeletesValuesAndKeysWithAllBelow) {
 }
 
 TEST_F(Registry, LooksIntoAKeyOnlyWhileItIsOpen) {
-  Write("Key", "name", "value");
+  WriteValue("Key", "name", "value");
   TRegistry registry;
   EXPECT_EQ(registry.ReadString("name"), "");
   ASSERT_TRUE(registry.OpenKeyReadOnly("Key"));
   EXPECT_THROW(registry.WriteString("name", "other"), std::runtime_error) << "opened for reading";
   EXPECT_THROW(registry.DeleteValue("name"), std::runtime_error);
   EXPECT_FALSE(registry.OpenKeyReadOnly("Missing"));
-  Write("Missing", "name", "too late");
+  WriteValue("Missing", "name", "too late");
   EXPECT_EQ(registry.ReadString("name"), "") << "the key opened before is closed, and no other open";
   EXPECT_THAT(registry.GetValueNames(), IsEmpty());
   registry.OpenKey("Key");
   EXPECT_EQ(registry.ReadString("name"), "value");
   registry.CloseKey();
   EXPECT_THROW(registry.WriteString("name", "other"), std::runtime_error);
-  EXPECT_EQ(Read("Key", "name"), "value");
+  EXPECT_EQ(ReadValue("Key", "name"), "value");
 }
-
-}  // namespace
 
 }  // namespace kestrel

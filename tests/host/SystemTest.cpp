@@ -2,9 +2,7 @@
 
 #include "support/TemporaryFolder.h"
 #include "support/Testing.h"
-#include "system/FileName.h"
 #include "system/Paths.h"
-#include "system/System.h"
 
 namespace kestrel {
 
@@ -16,17 +14,12 @@ TEST(System, CompletesANameFromTheCurrentDirectory) {
   EXPECT_EQ(FullPath(""), "");
 }
 
-TEST(System, TellsFilesFoldersAndNothingApart) {
+TEST(System, DistinguishesFilesAndFolders) {
   const TTemporaryFolder folder;
   const auto file = folder.Write("Größe.pas", "");
-  const struct {
-    std::string path;
-    bool isFile, isFolder;
-  } rows[] = {
-      {file, true, false}, {folder.Path(), false, true}, {folder / "b", false, false}, {"", false, false}};
-  for (const auto& row : rows) {
-    EXPECT_EQ(FileExists(row.path), row.isFile) << row.path;
-    EXPECT_EQ(DirectoryExists(row.path), row.isFolder) << row.path;
+  for (const auto& path : {file, folder.Path(), folder / "b", std::string()}) {
+    EXPECT_EQ(FileExists(path), path == file) << path;
+    EXPECT_EQ(DirectoryExists(path), path == folder.Path()) << path;
   }
 }
 

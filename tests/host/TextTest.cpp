@@ -35,11 +35,7 @@ TEST(Text, ComparesIgnoringCase) {
       {"ЖУК", "жук", true},
       {"a", "ä", false},
       {"\xFF\xC3", "\xFF\xC3", true},  // no UTF-8: compared as they stand
-      {"\xFF"
-       "A",
-       "\xFF"
-       "a",
-       true},
+      {"\xFFX", "\xFFx", true},
       {"\xC3", "\xC4", false},
   };
   for (const auto& row : rows) EXPECT_EQ(SameText(row.a, row.b), row.same) << row.a << " " << row.b;
@@ -69,13 +65,9 @@ TEST(Text, RepairsWhatIsNoUtf8AndNothingElse) {
       {"ge\xE4ndert: Größe", "ge<1>ndert: Größe"},
       {"\xFF\xFE", "<2>"},
       {"a\xC3", "a<1>"},  // ends too early
-      {"\xE2\x82"
-       "a",
-       "<2>a"},
+      {"\xE2\x82x", "<2>x"},
       {"\xF0\x9F\x98", "<3>"},
-      {"\x80"
-       "é",
-       "<1>é"},                     // begins too late
+      {"\x80é", "<1>é"},            // begins too late
       {"\xC0\xAF\xC1\xBF", "<4>"},  // a longer spelling
       {"\xE0\x9F\xBF", "<3>"},
       {"\xF0\x8F\xBF\xBF", "<4>"},
@@ -86,11 +78,8 @@ TEST(Text, RepairsWhatIsNoUtf8AndNothingElse) {
   for (const auto& row : rows) EXPECT_EQ(ReplaceInvalidUtf8(row.text, mark), row.repaired) << row.text;
 }
 
-TEST(Text, OfANameNoByteIsLost) {
-  for (const char* name : {"/p/Größe",
-                           "/p/Gr\xF6\xDF"
-                           "e",
-                           "\x81\xFF"}) {
+TEST(Text, KeepsEveryByteOfAName) {
+  for (const char* name : {"/p/Größe", "/p/gr\xFCn", "\x81\xFF"}) {
     EXPECT_EQ(FromCodePageExact(name), name);
     EXPECT_EQ(ToCodePageExact(name), name);
   }

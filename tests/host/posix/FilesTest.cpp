@@ -5,7 +5,6 @@
 
 #include "support/TemporaryFolder.h"
 #include "support/Testing.h"
-#include "system/System.h"
 
 namespace kestrel {
 

@@ -1,9 +1,9 @@
 // The registry as files.
-#include <stdexcept>
 #include <thread>
 
 #include "host/RegistryFixture.h"
 #include "support/Environment.h"
+#include "support/RunProgram.h"
 #include "support/TemporaryFolder.h"
 #include "system/posix/RegistryLayers.h"
 
@@ -36,40 +36,39 @@ TEST_F(RegistryFiles, ReadsWhatAPersonTyped) {
                 "Licence%3D=two%0D%0Alines\r\n"
                 "SccServerPath=\"C:\\Program Files\\100%20;x = y # z.dll\"");
   EXPECT_THAT(Names(kInstalled), ElementsAre("Zebra SCC", "Über", "alpha"));
-  EXPECT_EQ(Read(kInstalled, "ÜBER"), "Software\\Über");
-  EXPECT_EQ(Read("\\SOFTWARE\\zebra\\scc\\", "SCCServerPath"), "C:\\Program Files\\100%20;x = y # z.dll");
-  EXPECT_EQ(Read("Software\\Zebra\\SCC", "Licence="), "two\r\nlines") << "as earlier versions wrote it";
-  EXPECT_EQ(Read("Software\\Zebra\\SCC", "SccServerName"), "");
+  EXPECT_EQ(ReadValue(kInstalled, "ÜBER"), "Software\\Über");
+  EXPECT_EQ(ReadValue("\\SOFTWARE\\zebra\\scc\\", "SCCServerPath"),
+            "C:\\Program Files\\100%20;x = y # z.dll");
+  EXPECT_EQ(ReadValue("Software\\Zebra\\SCC", "Licence="), "two\r\nlines") << "as earlier versions wrote it";
+  EXPECT_EQ(ReadValue("Software\\Zebra\\SCC", "SccServerName"), "");
 }
 
 TEST_F(RegistryFiles, ChangesOneValueAndLeavesTheRestOfTheFile) {
   const std::string before = "# Mine\n\n# Installed\n[Software\\A]\nFirst=1\nno value\n# why\n";
   folder_.Write("registry/local-machine.ini", before);
-  Write("SOFTWARE\\a\\", "FIRST", "two\nlines");
-  Write("Software\\B]", "a=b", "x");
+  WriteValue("SOFTWARE\\a\\", "FIRST", "two\nlines");
+  WriteValue("Software\\B]", "a=b", "x");
   EXPECT_EQ(
       ReadWholeFile(machine_),
       "# Mine\n\n# Installed\n[Software\\A]\nFirst=%\"two%0Alines\"\nno value\n# why\n\n[Software\\B]]\n"
       "%\"a%3Db\"=x\n");
   EXPECT_TRUE(TRegistry().DeleteKey("Software\\b]"));
-  Write("Software\\A", "First", "1");
+  WriteValue("Software\\A", "First", "1");
   EXPECT_EQ(ReadWholeFile(machine_), before);
 }
 
 TEST_F(RegistryFiles, KeepsItsRootsApartInTheUsersConfiguration) {
   const TEnvironmentVariable noDirectory("CORVANE_REGISTRY_DIR", nullptr);
   const TEnvironmentVariable config("XDG_CONFIG_HOME", folder_.Path().c_str());
-  Write("Kestrel host test\\A", "name", "user", TRegRoot::CurrentUser);
-  Write("Kestrel host test\\A", "name", "machine", TRegRoot::LocalMachine);
+  WriteValue("Kestrel host test\\A", "name", "user", TRegRoot::CurrentUser);
+  WriteValue("Kestrel host test\\A", "name", "machine", TRegRoot::LocalMachine);
   EXPECT_TRUE(fs::exists(folder_ / "corvane/current-user.ini"));
   EXPECT_TRUE(fs::exists(folder_ / "corvane/local-machine.ini"));
-  EXPECT_EQ(Read("Kestrel host test\\A", "name", TRegRoot::CurrentUser), "user");
-  EXPECT_EQ(Read("Kestrel host test\\A", "name"), "machine");
 
   const TEnvironmentVariable home("HOME", (folder_ / "home").c_str());
   for (const char* none : {static_cast<const char*>(nullptr), "", "relative"}) {
     const TEnvironmentVariable noConfig("XDG_CONFIG_HOME", none);
-    Write("A", "name", "home", TRegRoot::CurrentUser);
+    WriteValue("A", "name", "home", TRegRoot::CurrentUser);
     EXPECT_TRUE(fs::remove_all(folder_ / "home/.config/corvane")) << (none ? none : "unset");
   }
 }
@@ -101,44 +100,50 @@ TEST_F(RegistryFiles, KeepsABackupOfAFileThatIsNotText) {
                       "ELF";
   folder_.Write("registry/local-machine.ini", broken);
   EXPECT_FALSE(KeyExists("Key"));
-  Write("Key", "name", "new");
-  EXPECT_EQ(Read("Key", "name"), "new");
+  WriteValue("Key", "name", "new");
+  EXPECT_EQ(ReadValue("Key", "name"), "new");
   EXPECT_EQ(ReadWholeFile(machine_ + ".broken"), broken);
 
   for (const char* text :
        {"[", "[Key", "=", "]\n[]\n==", "[Key]\nname", "\xFF\xFE[\n", "[Key\nname=value\n[Key"}) {
     folder_.Write("registry/local-machine.ini", text);
     Names("Key");
-    Write("Key", "other", "kept");
-    EXPECT_EQ(Read("Key", "other"), "kept") << text;
+    WriteValue("Key", "other", "kept");
+    EXPECT_EQ(ReadValue("Key", "other"), "kept") << text;
   }
 }
 
 TEST_F(RegistryFiles, ReportsWhatItCannotStoreAndKeepsTheOldValues) {
-  Write("Key", "name", "old");
+  WriteValue("Key", "name", "old");
   SetFileAttributesOf(machine_, faReadOnly);
-  EXPECT_THAT([] { Write("Key", "name", "new"); }, ThrowsMessage<std::runtime_error>(HasSubstr(machine_)));
+  const auto expectFailure = [](const std::string& named) {
+    EXPECT_THAT([] { WriteValue("Key", "name", "new"); },
+                ThrowsMessage<std::runtime_error>(HasSubstr(named)));
+  };
+  expectFailure(machine_);
   EXPECT_THAT([] { TRegistry().DeleteKey("Key"); }, ThrowsMessage<std::runtime_error>(HasSubstr(machine_)));
-  EXPECT_EQ(Read("Key", "name"), "old");
+  EXPECT_EQ(ReadValue("Key", "name"), "old");
 
   fs::remove(machine_);
   fs::create_directory(machine_);
-  EXPECT_THAT([] { Write("Key", "name", "new"); }, ThrowsMessage<std::runtime_error>(HasSubstr(machine_)));
+  expectFailure(machine_);
   EXPECT_FALSE(KeyExists("Key"));
+  const auto result = RunProgram(SCC_REGISTER, {"add", "Tiny", TINY_PROVIDER});
+  EXPECT_EQ(result.Status, 1);
+  EXPECT_THAT(result.Errors, HasSubstr("Cannot write " + machine_));
 
   fs::remove_all(directory_);
   folder_.Write("registry", "a file where the folder should be");
-  EXPECT_THAT([] { Write("Key", "name", "new"); }, ThrowsMessage<std::runtime_error>(HasSubstr(directory_)));
+  expectFailure(directory_);
   EXPECT_FALSE(TRegistry().DeleteKey("Key")) << "nothing there to delete is no failure";
 }
 
 TEST_F(RegistryFiles, LosesNoValueOfConcurrentWriters) {
-  constexpr int kWriters = 8;
-  constexpr int kValues = 10;
+  constexpr int kWriters = 8, kValues = 10;
   std::vector<std::thread> writers;
   for (int writer = 0; writer < kWriters; ++writer)
     writers.emplace_back([writer] {
-      for (int i = 0; i < kValues; ++i) Write("Key", std::to_string(writer * kValues + i), "value");
+      for (int i = 0; i < kValues; ++i) WriteValue("Key", std::to_string(writer * kValues + i), "value");
     });
   for (auto& writer : writers) writer.join();
   EXPECT_EQ(Names("Key").size(), std::size_t{kWriters * kValues});

@@ -10,8 +10,6 @@
 
 #include "support/TemporaryFolder.h"
 #include "support/Testing.h"
-#include "system/FileName.h"
-#include "system/System.h"
 #include "system/windows/Wide.h"
 
 namespace kestrel {
@@ -55,13 +53,13 @@ HANDLE Hold(const std::string& path, DWORD share) {
 
 /// Windows makes links for administrators and developers; Wine leaves them to the system below it.
 bool MakeLink(const std::string& folder, const char* name, const char* target) {
-  const auto before = std::filesystem::current_path();
-  std::filesystem::current_path(ToFilePath(folder));
+  const auto before = fs::current_path();
+  fs::current_path(ToFilePath(folder));
   CreateSymbolicLinkA(name, target, SYMBOLIC_LINK_FLAG_ALLOW_UNPRIVILEGED_CREATE);
   if (!FileExists(name)) _spawnl(_P_NOWAIT, "Z:\\bin\\ln", "ln", "-s", target, name, nullptr);
   for (int i = 0; i < 100 && !FileExists(name); ++i) Sleep(20);
   const bool made = FileExists(name);
-  std::filesystem::current_path(before);
+  fs::current_path(before);
   return made;
 }
 
@@ -75,7 +73,7 @@ TEST(Files, AreWrittenThroughLinks) {
   EXPECT_EQ(ReadWholeFile(file), "new");
   EXPECT_EQ(ReadWholeFile(folder / "link.cdp"), "new");
   // Under Wine a link that leads nowhere cannot be deleted: no link is left behind.
-  std::filesystem::rename(ToFilePath(folder.Write("other", "")), ToFilePath(folder / "link.cdp"));
+  fs::rename(ToFilePath(folder.Write("other", "")), ToFilePath(folder / "link.cdp"));
 }
 
 TEST(Files, KeepWhoMayDoWhat) {

@@ -4,7 +4,6 @@
 #include "support/Testing.h"
 #include "system/Library.h"
 #include "system/Paths.h"
-#include "system/System.h"
 
 namespace kestrel {
 
@@ -42,30 +41,27 @@ TEST(Library, FindsWhatItNeedsInItsOwnFolderOrInPathWhereThatIsWanted) {
   EXPECT_TRUE(Loads(library));
 }
 
-TEST(Library, SaysWhyItCannotBeLoaded) {
+TEST(Library, ReportsWhyItCannotBeLoaded) {
   const TTemporaryFolder folder;
   const auto alone = folder.MakeFolder("alone") + "\\needy_library.dll";
   fs::copy(ToFilePath(NEEDY_LIBRARY), ToFilePath(alone));
   const std::string own = sizeof(void*) == 4 ? "32-bit" : "64-bit";
   const std::string other = sizeof(void*) == 4 ? "64-bit" : "32-bit";
-  const struct {
-    std::string path, words;
-  } rows[] = {
+  const auto damaged = "it, or a library that it needs, is damaged or no library for a " + own + " program";
+  const std::pair<std::string, std::string> rows[] = {
       {alone,
        "a library that it needs is neither in its folder nor in the system's; PATH is searched only for "
        "providers "
        "that were registered with --search-path"},
-      {folder.Write("text.dll", "not a library"),
-       "it, or a library that it needs, is damaged or no library for a " + own + " program"},
-      {folder.Write("short.dll", "MZ"),
-       "it, or a library that it needs, is damaged or no library for a " + own + " program"},
+      {folder.Write("text.dll", "not a library"), damaged},
+      {folder.Write("short.dll", "MZ"), damaged},
       {folder.Write("other.dll", ForTheOtherBitness(ReadWholeFile(TINY_PROVIDER))),
        "it is a " + other + " library; this is a " + own + " program"},
   };
-  for (const auto& row : rows) {
+  for (const auto& [path, reason] : rows) {
     std::string error;
-    EXPECT_FALSE(LoadModule(row.path, &error)) << row.path;
-    EXPECT_EQ(error, row.words) << row.path;
+    EXPECT_FALSE(LoadModule(path, &error)) << path;
+    EXPECT_EQ(error, reason) << path;
   }
   std::string error;
   EXPECT_FALSE(LoadModule(folder / "missing.dll", &error));

@@ -16,9 +16,9 @@ TEST_F(Registry, ReadsWhatInstallersWrite) {
   set("no end", REG_SZ, "C:\\scc.dll", 10);
   set("number", REG_DWORD, "\1\0\0", 4);
   RegCloseKey(key);
-  EXPECT_EQ(Read("Software\\Vendor", "expanded"), "C:\\windows\\scc.dll");
-  EXPECT_EQ(Read("Software\\Vendor", "no end"), "C:\\scc.dll");
-  EXPECT_EQ(Read("Software\\Vendor", "number"), "") << "no text at all";
+  EXPECT_EQ(ReadValue("Software\\Vendor", "expanded"), "C:\\windows\\scc.dll");
+  EXPECT_EQ(ReadValue("Software\\Vendor", "no end"), "C:\\scc.dll");
+  EXPECT_EQ(ReadValue("Software\\Vendor", "number"), "") << "no text at all";
 }
 
 }  // namespace kestrel

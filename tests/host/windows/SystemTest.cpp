@@ -1,7 +1,6 @@
 #include "support/TemporaryFolder.h"
 #include "support/Testing.h"
 #include "system/Paths.h"
-#include "system/System.h"
 
 namespace kestrel {
 
@@ -38,15 +37,15 @@ TEST(System, ReachesFilesBehindLongPaths) {
   const TTemporaryFolder folder;
   std::string path = folder.Path();
   for (int i = 0; i < 6; ++i) path += "\\" + std::string(50, 'x');
-  std::filesystem::create_directories(L"\\\\?\\" + ToFilePath(path).wstring());
+  fs::create_directories(L"\\\\?\\" + ToFilePath(path).wstring());
   WriteFileAtomically(path + "/unit1.pas", "text");  // delimiters of both kinds
   EXPECT_EQ(ReadWholeFile(path + "\\unit1.pas"), "text");
   std::vector<std::string> names;
   ForEachEntry(path, [&](const TDirectoryEntry& entry) { names.emplace_back(entry.Name); });
   EXPECT_THAT(names, ElementsAre("unit1.pas"));
   // The standard library cannot remove them all at once.
-  auto left = std::filesystem::path(L"\\\\?\\" + ToFilePath(path + "\\unit1.pas").wstring());
-  for (int i = 0; i < 7; ++i, left = left.parent_path()) EXPECT_TRUE(std::filesystem::remove(left));
+  auto left = fs::path(L"\\\\?\\" + ToFilePath(path + "\\unit1.pas").wstring());
+  for (int i = 0; i < 7; ++i, left = left.parent_path()) EXPECT_TRUE(fs::remove(left));
 }
 
 }  // namespace kestrel
