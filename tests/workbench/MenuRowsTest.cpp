@@ -25,14 +25,11 @@ std::string Shown(const std::string& picture) {
 }
 
 TEST(MenuRows, LeaveNoSeparatorWithoutItemsOnBothSides) {
-  const struct {
-    const char* Menu;
-    const char* Shown;
-  } rows[] = {
+  const std::pair<const char*, const char*> rows[] = {
       {"ab-c", "ab-c"}, {"a--b", "a-b"}, {"-a-", "a"}, {"a-b.-c", "a-c"},
       {"a.-b", "b"},    {"a-.b", "ab"},  {"a.b.", ""}, {"a-b.", "a"},
   };
-  for (const auto& row : rows) EXPECT_EQ(Shown(row.Menu), row.Shown) << row.Menu;
+  for (const auto& [menu, shown] : rows) EXPECT_EQ(Shown(menu), shown) << menu;
 }
 
 TEST(MenuRows, HideAnItemWhoseActionIsHidden) {

@@ -4,8 +4,6 @@
 
 namespace kestrel::workbench {
 
-namespace {
-
 const TPackageCaller caller([](const std::string&) {});
 
 TEST(ModuleIndex, FindsAModuleByEachOfItsFilesIgnoringCase) {
@@ -34,7 +32,5 @@ TEST(ModuleIndex, KeepsTheOrderOfOpening) {
   EXPECT_EQ(index.InOrder()[0]->FileName(), "/a.pas");
   EXPECT_EQ(index.InOrder()[1]->FileName(), "/c.pas");
 }
-
-}  // namespace
 
 }  // namespace kestrel::workbench

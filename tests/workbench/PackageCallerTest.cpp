@@ -4,9 +4,7 @@
 
 namespace kestrel::workbench {
 
-namespace {
-
-TEST(PackageCaller, KeepsQuietAboutAbortsAndReportsTheRest) {
+TEST(PackageCaller, ReportsErrorsButNotAborts) {
   std::vector<std::string> lines;
   const TPackageCaller caller([&](const std::string& line) { lines.push_back(line); });
   EXPECT_TRUE(caller.Run("fine", [] {}));
@@ -32,7 +30,5 @@ TEST(Registrations, VisitThoseThatAreStillThereWhenTheirTurnComes) {
   EXPECT_EQ(numbers.Remove(first), nullptr);
   EXPECT_EQ(numbers.Add(nullptr), -1);
 }
-
-}  // namespace
 
 }  // namespace kestrel::workbench

@@ -4,8 +4,6 @@
 
 namespace kestrel::workbench {
 
-namespace {
-
 TEST(ProjectFile, ReadsNamesAsEarlierVersionsWroteThem) {
   const auto file = TProjectFile::Parse(
       "[Project]\n[Modules]\nModule=%20leading.pas\nModule=100%25.pas\nModule=new%0Aline.pas\n"
@@ -24,12 +22,10 @@ TEST(ProjectFile, ChangesOnlyItsLists) {
 }
 
 TEST(ProjectFile, RefusesWhatIsNoProject) {
-  for (const std::string& text :
-       {std::string(), std::string("unit Main;\n"), std::string("[Group]\n[Projects]\n"),
-        std::string("[Project]\nVersion=2\n"), "[Project]\n" + std::string(1, '\0')}) {
-    SCOPED_TRACE(text);
-    EXPECT_THROW(TProjectFile::Parse(text), std::runtime_error);
-  }
+  using namespace std::string_literals;
+  for (const auto& text :
+       {""s, "unit Main;\n"s, "[Group]\n[Projects]\n"s, "[Project]\nVersion=2\n"s, "[Project]\n\0"s})
+    EXPECT_THROW(TProjectFile::Parse(text), std::runtime_error) << text;
 }
 
 TEST(GroupFile, RemembersProjectsAndTheActiveOne) {
@@ -46,9 +42,7 @@ TEST(GroupFile, RemembersProjectsAndTheActiveOne) {
 
 TEST(StoredPath, IsRelativeWithSlashesAndComesBack) {
   const struct {
-    const char* Base;
-    const char* Path;
-    const char* Stored;
+    const char *Base, *Path, *Stored;
   } rows[] = {
       {"/p", "/p/Main.pas", "Main.pas"},
       {"/p", "/p/sub/Main.pas", "sub/Main.pas"},
@@ -70,7 +64,5 @@ TEST(ProjectFile, HoldsTheLargestProject) {
   again.Items().push_back("One.pas");
   EXPECT_EQ(TProjectFile::Parse(again.Text()).Items().size(), 65537u);
 }
-
-}  // namespace
 
 }  // namespace kestrel::workbench

@@ -4,8 +4,6 @@
 
 namespace kestrel::workbench {
 
-namespace {
-
 class Settings : public testing::Test {
  protected:
   TTestRegistry registry_;
@@ -49,7 +47,5 @@ TEST(PackagePaths, ComeOnePerLineOrWithSemicolons) {
   EXPECT_THAT(SplitPaths(" a.so \r\n\n;b c.so;; "), ElementsAre("a.so", "b c.so"));
   EXPECT_TRUE(SplitPaths("").empty());
 }
-
-}  // namespace
 
 }  // namespace kestrel::workbench

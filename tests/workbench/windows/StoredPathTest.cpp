@@ -1,11 +1,8 @@
 // Stored paths where there are drives and shares, and where case does not count.
-
 #include "support/Testing.h"
 #include "workbench/model/Modules.h"
 
 namespace kestrel::workbench {
-
-namespace {
 
 TEST(StoredPath, StaysOnItsDriveOrShare) {
   const struct {
@@ -35,7 +32,5 @@ TEST(StoredPath, IsTheSameHoweverAFileIsNamed) {
   EXPECT_EQ(project.IndexOfModuleFile("c:/P/U.pas"), 2);
   EXPECT_EQ(project.IndexOfModuleFile("C:\\P\\sub\\B.pas"), 0);
 }
-
-}  // namespace
 
 }  // namespace kestrel::workbench
