@@ -5,8 +5,6 @@
 
 namespace kestrel::addin {
 
-namespace {
-
 using enum TActivities::TVerdict;
 using enum TOTAFileNotification;
 
@@ -101,13 +99,16 @@ TEST_F(Reentrance, CommandsAreRefusedWhileAnotherOrANotificationShowsABox) {
 
 TEST_F(Reentrance, LinesOfAProvidersThreadsReachTheMessageWindow) {
   Open();
-  std::jthread([&] { provider_->TextOut("from afar", scc::SCC_MSG_INFO); }).join();
-  EXPECT_THAT(forms_.LinesOf(mwtInfo), Not(Contains("from afar")));
+  const auto before = forms_.Lines.size();
+  std::jthread([&] {
+    for (const scc::Dword kind : {scc::SCC_MSG_INFO, scc::SCC_MSG_WARNING, scc::SCC_MSG_ERROR})
+      provider_->TextOut("from afar", kind);
+  }).join();
+  EXPECT_EQ(forms_.Lines.size(), before);
   ASSERT_EQ(forms_.Soon.size(), 1U);
   forms_.Soon.front()();
-  EXPECT_THAT(forms_.LinesOf(mwtInfo), Contains("from afar"));
+  for (const auto kind : {mwtInfo, mwtWarning, mwtError})
+    EXPECT_THAT(forms_.LinesOf(kind), Contains("from afar"));
 }
-
-}  // namespace
 
 }  // namespace kestrel::addin

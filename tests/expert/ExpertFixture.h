@@ -38,15 +38,11 @@ class TExpertTest : public testing::Test {
   }
 
   void InstallProvider(const std::string& name, const std::string& path, bool isDefault) {
-    TRegistry registry;
     const auto key = "Software\\" + name;
-    registry.OpenKey(key);
-    registry.WriteString("SccServerName", name);
-    registry.WriteString("SccServerPath", path);
-    registry.OpenKey(kInstalledProvidersKey);
-    registry.WriteString(name, key);
-    registry.OpenKey(kProviderKey);
-    if (isDefault) registry.WriteString(kProviderRegKey, key);
+    WriteValue(key, kServerName, name);
+    WriteValue(key, kServerPath, path);
+    WriteValue(kInstalledProvidersKey, name, key);
+    if (isDefault) WriteValue(kProviderKey, kProviderRegKey, key);
   }
   void WriteMapping(const std::string& text) { folder_.Write("work/App.cdp", text); }
   std::string Mapping() const { return WithoutReturns(ReadWholeFile(folder_ / "work/App.cdp")); }
@@ -77,6 +73,13 @@ class TExpertTest : public testing::Test {
       model.Text = text;
       return mrOk;
     });
+  }
+  /// The files that the calls of an entry point were given, in order.
+  std::vector<std::string> GivenTo(const std::string& entry) {
+    std::vector<std::string> files;
+    for (const auto& call : provider_->Calls)
+      if (call.Entry == entry) files.insert(files.end(), call.Files.begin(), call.Files.end());
+    return files;
   }
   /// The names that the next file list offers; the user cancels it.
   std::vector<std::string> Offered(void (TSccExpert::*command)(const std::string&),

@@ -1,13 +1,8 @@
 // The project mapping file, also when somebody broke it.
-#include <stdexcept>
-
 #include "expert/ExpertFixture.h"
 #include "expert/MappingFile.h"
-#include "support/NativePath.h"
 
 namespace kestrel::addin {
-
-namespace {
 
 class MappingFile : public testing::Test {
  protected:
@@ -50,7 +45,5 @@ TEST_F(MappingFile, DamageIsReportedAndNothingIsLost) {
     EXPECT_EQ(ReadWholeFile(path_), damaged);
   }
 }
-
-}  // namespace
 
 }  // namespace kestrel::addin

@@ -1,10 +1,7 @@
 // What the "Team" menu offers when it opens.
 #include "expert/ExpertFixture.h"
-#include "system/System.h"
 
 namespace kestrel::addin {
-
-namespace {
 
 using namespace scc;
 
@@ -25,24 +22,18 @@ class TeamMenu : public TExpertTest {
   }
 };
 
-constexpr const char* kOut = "Check Out Files...";
-constexpr const char* kIn = "Check In Files...";
-constexpr const char* kAdd = "Add Files...";
-constexpr const char* kRemove = "Remove Files...";
-constexpr const char* kUndo = "Undo Check Out Files...";
-constexpr const char* kBrowser = "Commit Browser...";
-constexpr const char* kPlace = "Place Project Into Source Control...";
-constexpr const char* kPull = "Pull Project from Source Control...";
-constexpr const char* kRun = "Run Scc Application";
+constexpr const char *kOut = "Check Out Files...", *kIn = "Check In Files...", *kAdd = "Add Files...",
+                     *kRemove = "Remove Files...", *kUndo = "Undo Check Out Files...",
+                     *kBrowser = "Commit Browser...", *kPlace = "Place Project Into Source Control...",
+                     *kPull = "Pull Project from Source Control...", *kRun = "Run Scc Application";
 
 TEST_F(TeamMenu, FollowsTheStatusOfTheFiles) {
   Open();
-  struct TRow {
+  const struct {
     const char* Name;
     Long Status;
     std::vector<std::string> Items;
-  };
-  const TRow rows[] = {
+  } rows[] = {
       {"all checked in", 1, {kOut, kRemove, kBrowser, kPull, kRun}},
       {"all mine", 0x1003, {kIn, kRemove, kUndo, kBrowser, kPull, kRun}},
       {"all exclusively another's", 0xD, {kRemove, kBrowser, kPull, kRun}},
@@ -73,7 +64,7 @@ TEST_F(TeamMenu, WithoutAMappingOnlyPlacingAndPullingRemain) {
   Start();
   Drop();
   EXPECT_THAT(Enabled(), ElementsAre(kPull, kRun)) << "no project";
-  std::filesystem::remove(At("App.cdp"));
+  fs::remove(At("App.cdp"));
   host_.AddProject(project_file_, units_);
   host_.Notify(TOTAFileNotification::fnFileOpened, project_file_);
   Drop();
@@ -89,7 +80,7 @@ TEST_F(TeamMenu, SeesAMappingThatAppearsOrIsRepaired) {
   const auto mapping = Mapping();
   const auto starts = [this] { return std::ranges::count(provider_->Entries(), "SccInitialize"); };
   SetMappedStatus(1);
-  std::filesystem::remove(At("App.cdp"));
+  fs::remove(At("App.cdp"));
   Open();
   for (const auto& unreadable : {std::string(), std::string("[Scripted]\n\0", 12), mapping + "cut"}) {
     if (!unreadable.empty()) {
@@ -133,7 +124,5 @@ TEST_F(TeamMenu, IsOfferedForAFileOnlyWhileAProviderProjectIsOpen) {
   host_.Notify(TOTAFileNotification::fnFileClosing, project_file_);
   EXPECT_FALSE(menu.IsEnabled(units_[0]));
 }
-
-}  // namespace
 
 }  // namespace kestrel::addin

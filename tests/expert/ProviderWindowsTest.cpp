@@ -3,8 +3,6 @@
 
 namespace kestrel::addin {
 
-namespace {
-
 using namespace scc;
 
 class ProviderWindows : public TExpertTest {};
@@ -72,7 +70,5 @@ TEST_F(ProviderWindows, ReloadingAProjectFileReopensTheGroupOrTheProject) {
   expert.ReloadFiles({At("Other.qvxproj"), units_[0], At("notopen.pas")});
   EXPECT_THAT(host_.Log, ElementsAre("ReloadFile " + units_[0]));
 }
-
-}  // namespace
 
 }  // namespace kestrel::addin

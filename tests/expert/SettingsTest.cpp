@@ -1,10 +1,7 @@
 // Which provider, library and user: registry, user's settings and mapping file.
 #include "expert/ExpertFixture.h"
-#include "system/Registry.h"
 
 namespace kestrel::addin {
-
-namespace {
 
 class Settings : public TExpertTest {};
 
@@ -19,11 +16,9 @@ TEST_F(Settings, EmptyOptionsAreFilledFromTheMachine) {
 }
 
 TEST_F(Settings, DefaultIsFoundByItsKeyIgnoringCase) {
-  TRegistry registry;
-  registry.OpenKey(kProviderKey);
-  registry.WriteString(kProviderRegKey, "SOFTWARE\\SCRIPTED");
+  WriteValue(kProviderKey, kProviderRegKey, "SOFTWARE\\SCRIPTED");
   EXPECT_EQ(Start().ProviderName(), kScripted);
-  registry.WriteString(kProviderRegKey, "Software\\Nobody");
+  WriteValue(kProviderKey, kProviderRegKey, "Software\\Nobody");
   host_.Options.Values.clear();
   expert_->ReadSettings();
   EXPECT_EQ(expert_->ProviderName(), "");
@@ -101,31 +96,5 @@ TEST_F(Settings, ChoosingAProviderEndsTheOldOneBeforeTheNewOneStarts) {
             "A provider path was not specified (SCC provider installed?)");
   EXPECT_EQ(expert.ProviderList(), nullptr);
 }
-
-/// Marks a scripted provider's library; whether it bore the mark.  Its data start afresh with every loading.
-bool MarkLibrary(const std::string& path) {
-  const auto library = LoadModule(path, nullptr);
-  const auto control =
-      reinterpret_cast<ScriptedProvider* (*)()>(FindSymbol(library, "ScriptedProviderControl"));
-  const bool marked = std::exchange(control()->Name, "marked") == "marked";
-  UnloadModule(library);
-  return marked;
-}
-
-TEST_F(Settings, OldLibraryIsUnloadedBeforeTheNewProviderStarts) {
-  const auto first = At("first.so");
-  std::filesystem::copy_file(ScriptedProviderLibrary::Path(), first);
-  InstallProvider("First", first, false);
-  auto& expert = Start();
-  expert.ChooseProvider("First", "ann");
-  MarkLibrary(first);
-  EXPECT_TRUE(MarkLibrary(first)) << "in use";
-  bool stillLoaded = true;
-  provider_->OnCall["SccInitialize"] = [&](const ScriptedCall&) { stillLoaded = MarkLibrary(first); };
-  expert.ChooseProvider(kScripted, "ann");
-  EXPECT_FALSE(stillLoaded);
-}
-
-}  // namespace
 
 }  // namespace kestrel::addin

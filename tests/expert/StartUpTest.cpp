@@ -3,8 +3,6 @@
 
 namespace kestrel::addin {
 
-namespace {
-
 class StartUp : public TExpertTest {};
 
 TEST_F(StartUp, InstallsMenuAndNotifierAndTakesThemAway) {
@@ -40,15 +38,6 @@ TEST_F(StartUp, BlankLinesAreDroppedAndNoWindowIsAnError) {
   EXPECT_THROW(WriteMessage(mwtInfo, "x"), std::runtime_error);
 }
 
-TEST_F(StartUp, ProviderTextReachesTheWindowWithItsKind) {
-  provider_->Texts["SccOpenProject"] = {
-      {1, "hello"}, {2, "careful"}, {3, "broken"}, {4, "status"}, {1, std::nullopt}};
-  Open();
-  EXPECT_THAT(forms_.Lines, IsSupersetOf({std::pair(mwtInfo, std::string("hello")),
-                                          std::pair(mwtWarning, std::string("careful")),
-                                          std::pair(mwtError, std::string("broken"))}));
-}
-
 TEST_F(StartUp, MessagesComeErrorFirst) {
   auto& expert = Start();
   expert.DisplayMessages("Title", {"line", "info", "error"});
@@ -60,7 +49,5 @@ TEST_F(StartUp, MessagesComeErrorFirst) {
   expert.DisplayMessages("Title", {});
   EXPECT_THAT(forms_.Boxes, IsEmpty());
 }
-
-}  // namespace
 
 }  // namespace kestrel::addin

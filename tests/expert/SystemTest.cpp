@@ -4,8 +4,6 @@
 
 namespace kestrel::addin {
 
-namespace {
-
 TEST(HostAccess, CurrentProjectIsTheGroupsActiveOneElseTheLast) {
   TScriptedHost host;
   EXPECT_EQ(CurrentProject(), nullptr);
@@ -46,7 +44,5 @@ TEST(HostAccess, EditorsAndTheirState) {
   form.Editors.front().IsForm = true;
   EXPECT_THROW(IsUnitModified("/f.pas"), std::runtime_error);
 }
-
-}  // namespace
 
 }  // namespace kestrel::addin

@@ -3,8 +3,6 @@
 
 namespace kestrel::addin {
 
-namespace {
-
 class Wizards : public TExpertTest {};
 
 TEST_F(Wizards, PullingHasTheProviderToItselfAndTheOpenProjectComesBack) {
@@ -58,7 +56,5 @@ TEST_F(Wizards, PlacedProjectStaysOpenAndAnAbandonedOneDoesNot) {
   expert_->PlaceProject();
   EXPECT_EQ(expert_->ProviderList(), nullptr) << "the window that its dialogs belonged to is gone";
 }
-
-}  // namespace
 
 }  // namespace kestrel::addin
