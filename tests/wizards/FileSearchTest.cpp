@@ -8,8 +8,6 @@
 
 namespace kestrel::addin {
 
-namespace {
-
 using TList = std::vector<std::string>;
 
 /// p/a.pas  p/.hidden  p/sub/  p/sub/b.pas  p/sub/deep/  p/sub/deep/c.pas  p/empty/  p/.svn/
@@ -85,7 +83,5 @@ TEST_F(FileSearch, ListsLinksAndDoesNotEnterThem) {
   EXPECT_THAT(Found(SearchRecursiveFiles, "p/away"), ElementsAre("p/away/d.pas"))
       << "the start may be a link";
 }
-
-}  // namespace
 
 }  // namespace kestrel::addin

@@ -1,18 +1,13 @@
 // Placing a project: pages, buttons, what is written when.
-
 #include "expert/ExpertFixture.h"
-#include "support/NativePath.h"
-#include "system/System.h"
 #include "wizards/PlaceProjectController.h"
 
 namespace kestrel::addin {
 
-namespace {
-
 class PlaceProject : public TExpertTest {
  protected:
   PlaceProject() {
-    std::filesystem::remove(At("App.cdp"));
+    fs::remove(At("App.cdp"));
     provider_->GetProjPath = {{}, "trunk/App", {}, "repo"};
   }
   /// The wizard on its first page, for the project that the host has open.
@@ -47,19 +42,11 @@ TEST_F(PlaceProject, GoesThroughItsPagesAndLeavesTheProjectOpen) {
   units_.push_back(folder_.Write("work/UNIT2.pas", "x"));
   units_.push_back(folder_.Write("lib/shared.pas", "x"));
   Show();
-  EXPECT_EQ(Page().Caption, "Place project Wizard: Step 1 of 3");
   EXPECT_FALSE(Page().Back);
-  EXPECT_EQ(Page().NextCaption, "&Next >");
-  EXPECT_EQ(provider_->Count("SccGetProjPath"), 0);
-
   Next();
-  EXPECT_EQ(Page().Panel, 2);
   EXPECT_TRUE(provider_->Last("SccGetProjPath").IsNew) << "the browser opens by itself, and may create";
-  EXPECT_EQ(pages_->ProjectName(), "trunk/App");
   EXPECT_TRUE(Page().Back && Page().Next);
-
   Next();
-  EXPECT_EQ(Page().Caption, "Place project Wizard: Step 3 of 3");
   EXPECT_THAT(Files(),
               ElementsAre("unit1.pas", "unit2.pas", "unit1.kfm", Native("../lib/shared.pas"), "App.qvxproj"));
   pages_->SetTicked(1, false);
@@ -72,25 +59,18 @@ TEST_F(PlaceProject, GoesThroughItsPagesAndLeavesTheProjectOpen) {
   provider_->Calls.clear();
 
   Next();
-  EXPECT_EQ(Page().Caption, "Place project Wizard: Status page");
-  EXPECT_EQ(Page().NextCaption, "&Close");
   EXPECT_FALSE(Page().Back);
   EXPECT_THAT(provider_->Entries(), ElementsAre("SccOpenProject", "SccCloseProject", "SccOpenProject",
                                                 "SccAdd", "SccAdd", "SccAdd", "SccAdd"));
   EXPECT_EQ(provider_->Last("SccAdd").FileFlags[0], scc::SCC_KEEP_CHECKEDOUT);
-  const auto& status = pages_->Status();
-  ASSERT_EQ(status.size(), 8u);
-  EXPECT_EQ(status[0], "Initializing Project App.qvxproj");
-  EXPECT_EQ(status[1], "Add unit1.pas: ok");
-  EXPECT_EQ(status[2], "Add unit1.kfm: ok");
-  EXPECT_EQ(status[3], "Add " + Native("lib/shared.pas") + ": failed");
-  EXPECT_THAT(status[4], HasSubstr("      ")) << "and why";
-  EXPECT_EQ(status[5], "Add " + Native("work/App.qvxproj") + ": failed");
-  EXPECT_EQ(status[7], "Succeeded");
+  const auto reason = StartsWith("      ");
+  EXPECT_THAT(pages_->Status(),
+              ElementsAre("Initializing Project App.qvxproj", "Add unit1.pas: ok", "Add unit1.kfm: ok",
+                          "Add " + Native("lib/shared.pas") + ": failed", reason,
+                          "Add " + Native("work/App.qvxproj") + ": failed", reason, "Succeeded"));
   EXPECT_EQ(GetFileAttributesOf(units_[0]), faArchive) << "writable";
   EXPECT_EQ(Mapping(), "[Scripted]\nProjName=trunk/App\nAuxProjPath=repo\nUserName=ann@repo\n");
 
-  EXPECT_FALSE(pages_->Finished());
   Next();
   EXPECT_TRUE(pages_->Finished());
   EXPECT_TRUE(provider_->Open);
@@ -110,40 +90,35 @@ TEST_F(PlaceProject, RefusedOpenRollsBackAndCanBeTriedAgain) {
                                             "Add " + Native("work/unit1.pas") + ": failed"));
   EXPECT_THAT(Page().Problem, HasSubstr("could not login")) << "below the list, and whole";
   EXPECT_EQ(Mapping(), "[Scripted]\nProjName=trunk/App\nAuxProjPath=repo\n") << "stays";
-  EXPECT_EQ(expert_->ProviderList()->GetCount(), 0);
   EXPECT_EQ(expert_->ProviderList()->CurrentProject(), nullptr);
 
   provider_->Results.clear();
-  EXPECT_TRUE(Page().Back);
   pages_->BackButtonClick();
   EXPECT_TRUE(pages_->IsTicked(1)) << "a new list";
   for (std::size_t row = 0; row < 4; ++row) pages_->SetTicked(row, false);
   provider_->Calls.clear();
   Next();
   EXPECT_EQ(provider_->Last("SccOpenProject").ProjName, "trunk/App") << "what was picked is not lost";
-  EXPECT_EQ(provider_->Count("SccAdd"), 0);
   EXPECT_THAT(pages_->Status(), ElementsAre("Initializing Project App.qvxproj", "Succeeded"));
 }
 
 TEST_F(PlaceProject, MappingFileThatCannotBeWrittenEndsIt) {
-  std::filesystem::create_directories(At("App.cdp"));
+  fs::create_directories(At("App.cdp"));
   Show();
   Next(3);
   EXPECT_THAT(pages_->Status(), ElementsAre("Initializing Project App.qvxproj", HasSubstr("App.cdp")));
-  EXPECT_EQ(provider_->Count("SccAdd"), 0);
+  EXPECT_THAT(GivenTo("SccAdd"), IsEmpty());
   EXPECT_FALSE(provider_->Open);
 }
 
-TEST_F(PlaceProject, ProviderThatNeedsNoBrowserSkipsItsPageBothWays) {
+TEST_F(PlaceProject, ProviderThatNeedsNoBrowserSkipsItsPage) {
   InstallProvider("ClearCase", ScriptedProviderLibrary::Path(), false);
   Show();
   EXPECT_THAT(pages_->Providers(), UnorderedElementsAre("Scripted", "ClearCase"));
   Choose("ClearCase");
-  EXPECT_EQ(expert_->ProviderName(), "ClearCase");
   Next();
   EXPECT_EQ(Page().Panel, 3);
   EXPECT_EQ(provider_->Count("SccGetProjPath"), 0);
-  EXPECT_EQ(expert_->ProviderList()->CurrentProject()->get_ProjName(), At(""));
   provider_->Results["SccOpenProject"] = scc::SCC_E_UNKNOWNPROJECT;
   Next();
   pages_->BackButtonClick();
@@ -152,12 +127,6 @@ TEST_F(PlaceProject, ProviderThatNeedsNoBrowserSkipsItsPageBothWays) {
   Next();
   EXPECT_THAT(Mapping(), HasSubstr("ProjName=" + At("") + "\n")) << "a second try names the same project";
   EXPECT_EQ(provider_->Last("SccOpenProject").ProjName, At(""));
-
-  Show();
-  Choose("ClearCase");
-  Next();
-  pages_->BackButtonClick();
-  EXPECT_EQ(Page().Panel, 1);
 }
 
 TEST_F(PlaceProject, CanBeStoppedBetweenTwoFiles) {
@@ -171,7 +140,6 @@ TEST_F(PlaceProject, CanBeStoppedBetweenTwoFiles) {
   Next();
   EXPECT_EQ(provider_->Count("SccAdd"), 2);
   EXPECT_EQ(pages_->Status().back(), "Stopped. Files that were not added: 2. Team | Add Files... adds them.");
-  EXPECT_THAT(pages_->Status(), Not(Contains("Succeeded")));
   EXPECT_TRUE(provider_->Open) << "for the rest";
   EXPECT_TRUE(pages_->CancelButtonClick());
 }
@@ -193,11 +161,7 @@ TEST_F(PlaceProject, NothingPickedMeansNoFurther) {
 }
 
 TEST_F(PlaceProject, WithoutAUsableProviderTheFirstPageSaysSo) {
-  {
-    TRegistry registry;
-    registry.OpenKey("Software\\Scripted");
-    registry.WriteString("SccServerPath", "/nowhere/none.so");
-  }
+  WriteValue("Software\\Scripted", kServerPath, "/nowhere/none.so");
   Show();
   EXPECT_FALSE(Page().Next);
   EXPECT_TRUE(Page().NoProviders);
@@ -235,7 +199,5 @@ TEST_F(PlaceProject, HostThatClosesTheProjectMeanwhileEndsItInWords) {
   EXPECT_EQ(provider_->Count("SccAdd"), 1);
   EXPECT_EQ(pages_->Status().back(), "Unable to place project, provider not assigned");
 }
-
-}  // namespace
 
 }  // namespace kestrel::addin

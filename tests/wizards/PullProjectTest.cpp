@@ -1,14 +1,8 @@
 // Pulling a project: pages, target directory, what is fetched, listed and written.
-#include <map>
-
 #include "expert/ExpertFixture.h"
-#include "support/NativePath.h"
-#include "system/System.h"
 #include "wizards/PullProjectController.h"
 
 namespace kestrel::addin {
-
-namespace {
 
 class PullProject : public TExpertTest {
  protected:
@@ -55,17 +49,12 @@ TEST_F(PullProject, FetchesListsAndMaps) {
   pages_->NextFinishButtonClick();
   EXPECT_EQ(Page().Panel, 3) << "the target directory comes first";
   EXPECT_EQ(pages_->TargetDirectory(), folder_.Path());
-  EXPECT_NE(pages_->TargetNote(), "") << "not empty";
   pages_->TargetDirectoryChange(Target() + "/ ");
-  EXPECT_NE(pages_->TargetNote(), "") << "not there yet";
   pages_->NextFinishButtonClick();
-  EXPECT_EQ(Page().Caption, "Pull project Wizard: Step 3 of 3");
   EXPECT_EQ(Page().Panel, 2);
-  EXPECT_EQ(Page().NextCaption, "&Pull");
   const auto& asked = provider_->Last("SccGetProjPath");
   EXPECT_EQ(asked.LocalPath, Target());
-  EXPECT_FALSE(asked.IsNew);
-  EXPECT_FALSE(asked.Allowed);
+  EXPECT_FALSE(asked.IsNew || asked.Allowed);
   EXPECT_FALSE(DirectoryExists(Target())) << "nothing is made before it has to be";
 
   folder_.Write("böb's copy/own.txt", "mine");                       // is not listed
@@ -73,7 +62,6 @@ TEST_F(PullProject, FetchesListsAndMaps) {
   provider_->Results["SccGet"] = scc::SCC_I_FILENOTAFFECTED;
   provider_->Texts["SccGet"] = {{scc::SCC_MSG_INFO, "Fetched"}, {scc::SCC_MSG_WARNING, "unit1.pas was kept"}};
   pages_->NextFinishButtonClick();
-  EXPECT_EQ(Page().Caption, "Pull project Wizard: Status page");
   EXPECT_THAT(pages_->Status(),
               ElementsAre("unit1.pas was kept", "Get of \"unit1.pas\" SUCCEEDED",
                           "Get of \"" + Native("Sub/App.QVXPROJ") + "\" SUCCEEDED", "Done"));
@@ -94,12 +82,10 @@ TEST_F(PullProject, FailuresAreListedAndCanBeTriedAgain) {
   pages_->NextFinishButtonClick();
   EXPECT_THAT(pages_->Status(), ElementsAre("Connection failure", "Corvane project file not found", "Done"));
   EXPECT_EQ(Page().Problem, "Connection failure") << "whole, below the list";
-  EXPECT_THAT(forms_.Boxes, IsEmpty());
   EXPECT_EQ(provider_->Count("SccPopulateList"), 0);
 
   provider_->Results.clear();
   pages_->BackButtonClick();
-  EXPECT_EQ(provider_->Last("SccGetProjPath").ProjName, "trunk/App");
   provider_->Results["SccGet"] = scc::SCC_E_ACCESSFAILURE;
   provider_->Texts["SccGet"] = {{scc::SCC_MSG_ERROR, "disk full"}};
   pages_->NextFinishButtonClick();
@@ -124,7 +110,7 @@ TEST_F(PullProject, ShowsWhatItWaitsFor) {
   // A form that has just been painted does nothing for a line either.
   pages_->OnProgress = [&] { shown.emplace(pages_->Progress().substr(0, 12), pages_->Progress()); };
   provider_->Texts["SccGet"] = {{scc::SCC_MSG_INFO, "unit1.pas"}};
-  for (const char* entry : {"SccOpenProject", "SccPopulateList", "SccGet", "SccQueryInfo"})
+  for (const char* entry : {"SccOpenProject", "SccGet", "SccQueryInfo"})
     provider_->OnCall[entry] = [&, work = provider_->OnCall[entry]](const ScriptedCall& call) {
       if (work) work(call);
       shown[call.Entry] = last;
@@ -133,7 +119,6 @@ TEST_F(PullProject, ShowsWhatItWaitsFor) {
     };
   pages_->NextFinishButtonClick();
   EXPECT_EQ(shown["SccOpenProject"], "Opening the project...");
-  EXPECT_EQ(shown["SccPopulateList"], "Asking for the project's files...");
   EXPECT_EQ(shown["SccGet"], "Fetching the project's files...");
   EXPECT_EQ(shown["Fetching: 1 "], "Fetching: 1 of 3 - unit1.pas") << "the host's own units are not counted";
   EXPECT_EQ(shown["SccQueryInfo"], "Checking what was fetched...");
@@ -167,12 +152,10 @@ TEST_F(PullProject, RefusesAnUnusableTargetWithAReason) {
 }
 
 TEST_F(PullProject, ProviderMayRedirectTheTarget) {
-  TRegistry registry;
-  registry.OpenKey("software\\Mirelda\\MSIntegration3");
   auto path = ScriptedProviderLibrary::Path();
   std::ranges::transform(path, path.begin(),
                          [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
-  registry.WriteString("SccServerPath", path);
+  WriteValue("software\\Mirelda\\MSIntegration3", kServerPath, path);
   provider_->GetProjPath.LocalPath = Target();
   Aim(folder_ / "elsewhere");
   EXPECT_TRUE(provider_->Last("SccGetProjPath").Allowed);
@@ -181,7 +164,5 @@ TEST_F(PullProject, ProviderMayRedirectTheTarget) {
   EXPECT_EQ(provider_->Last("SccOpenProject").LocalPath, Target());
   EXPECT_TRUE(pages_->CanOpen());
 }
-
-}  // namespace
 
 }  // namespace kestrel::addin

@@ -8,8 +8,6 @@
 
 namespace kestrel::addin {
 
-namespace {
-
 class WizardsCodePage : public TExpertTest {
  protected:
   void SetUp() override {
@@ -50,7 +48,5 @@ TEST_F(WizardsCodePage, CommitRowsKnowTheProvidersNames) {
   }
   EXPECT_THAT(names, Contains(At("sub/Größe.pas")));
 }
-
-}  // namespace
 
 }  // namespace kestrel::addin
