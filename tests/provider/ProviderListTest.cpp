@@ -2,8 +2,6 @@
 
 namespace kestrel::addin {
 
-namespace {
-
 struct ProviderList : testing::Test {
   ScriptedProviderLibrary provider;
   RecordingSink sink;
@@ -34,35 +32,25 @@ TEST_F(ProviderList, LivesFromInitializeToUninitialize) {
 }
 
 TEST_F(ProviderList, CapabilitiesAreTheBitsOfTheWord) {
-  struct {
-    scc::Dword Word;
-    TProviderCapabilities Flags;
-  } const rows[] = {
+  const std::pair<scc::Dword, TProviderCapabilities> rows[] = {
       {0x40000001, TProviderCapabilities().set(pcReEntrant).set(pcSccRemove)},
       {0x04008000, TProviderCapabilities().set(pcSccTextOut).set(pcCommentProject)},
       {0xFFFFFFFF, TProviderCapabilities().set()},
       {0x881F0000, TProviderCapabilities()},  // bits of later versions
   };
-  for (const auto& row : rows) {
-    provider->Capabilities = row.Word;
-    EXPECT_EQ(TSCCProviderList(provider.Path(), 0, "ann").Capabilities(), row.Flags) << row.Word;
+  for (const auto& [word, capabilities] : rows) {
+    provider->Capabilities = word;
+    EXPECT_EQ(TSCCProviderList(provider.Path(), 0, "ann").Capabilities(), capabilities) << word;
   }
 }
 
 TEST_F(ProviderList, GoesOnWhenTheProviderDoesNotStart) {
-  struct {
-    scc::Long Code;
-    const char* Error;
-  } const rows[] = {
-      {-26, "The user is not allowed to perform the specified operation"},
-      {-15, "Non-specific failure, SCC system was not initialized"},
-      {-1, "System could not be initialized"},
-      {-3, ""},
-  };
-  for (const auto& row : rows) {
-    provider->Results["SccInitialize"] = row.Code;
+  const std::pair<scc::Long, std::string> errors[] = {
+      {-26, "The user is not allowed to perform the specified operation"}, {-3, ""}};
+  for (const auto& [code, error] : errors) {
+    provider->Results["SccInitialize"] = code;
     const TSCCProviderList list(provider.Path(), 0, "ann");
-    EXPECT_EQ(list.InitializeError(), row.Error);
+    EXPECT_EQ(list.InitializeError(), error);
     EXPECT_TRUE(list.Capabilities().test(pcSccRemove));
   }
   EXPECT_THAT(sink.Lines, IsEmpty());
@@ -86,8 +74,7 @@ TEST_F(ProviderList, FindsSessionsByWholePathIgnoringCase) {
   ASSERT_EQ(list.GetCount(), 2);
   EXPECT_EQ(list.GetItem(0)->get_UserName(), "bob");
 
-  auto replaced = list.PutItem(1, std::make_unique<TSCCProviderProject>("/new", 0, "eve"));
-  EXPECT_EQ(replaced->get_LocalPath(), "/other");
+  list.PutItem(1, std::make_unique<TSCCProviderProject>("/new", 0, "eve"));
   EXPECT_TRUE(list.SetCurrentProject("/new"));
   list.CloseAll();
   EXPECT_EQ(list.GetCount(), 0);
@@ -103,7 +90,5 @@ TEST_F(ProviderList, ASecondOneTakesTheSharedLibraryWithIt) {
   EXPECT_EQ(first.GetItem(0)->OpenProject(messages), scc::SCC_E_OPNOTSUPPORTED);
   EXPECT_EQ(messages[2], "The source code control system does not support this operation");
 }
-
-}  // namespace
 
 }  // namespace kestrel::addin

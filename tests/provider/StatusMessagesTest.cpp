@@ -12,31 +12,24 @@ TStateMessages Decoded(scc::Long code) {
   return messages;
 }
 
-TEST(ReturnCode, UnlistedOnesAreErrors) {
-  const auto extremes = std::numeric_limits<scc::Long>();
-  for (scc::Long code : {8, 100, -30, extremes.min(), extremes.max()})
-    EXPECT_EQ(Decoded(code)[2], "Undefined error or warning") << code;
-}
-
-TEST(ReturnCode, TheRowsStandAtTheirNumbers) {
+TEST(ReturnCode, MapsToItsTextAndKind) {
   EXPECT_EQ(Decoded(-29)[2], "Connection failure");
   EXPECT_EQ(Decoded(-14)[2], "The source code control system does not support this operation");
   EXPECT_EQ(Decoded(-1)[2], "Project could not be initialized");
   EXPECT_EQ(Decoded(2)[1], "Operation was cancelled");
   EXPECT_EQ(Decoded(4), Decoded(5)) << "'not affected' speaks of reloading as well";
   EXPECT_EQ(Decoded(7)[1], "Share subproject ok");
+  const auto extremes = std::numeric_limits<scc::Long>();
+  for (scc::Long code : {8, 100, -30, extremes.min(), extremes.max()})
+    EXPECT_EQ(Decoded(code)[2], "Undefined error or warning") << code;
 }
 
 TEST(QueryStatus, WritesALinePerBit) {
   RecordingSink sink;
-  DecodeQueryStatus("/src/unit1.pas", 0x1003);
+  DecodeQueryStatus("/src/100%s.pas", 0x1003);
   EXPECT_THAT(sink.Of(TSeverity::Info),
-              ElementsAre("[unit1.pas]: Under source code control", "[unit1.pas]: Checked out by you",
-                          "[unit1.pas]: Checked out to current user"));
-
-  sink.Lines.clear();
-  DecodeQueryStatus("/src/100%s.pas", 0);
-  EXPECT_THAT(sink.Of(TSeverity::Info), ElementsAre("[100%s.pas]: Not under source code control"));
+              ElementsAre("[100%s.pas]: Under source code control", "[100%s.pas]: Checked out by you",
+                          "[100%s.pas]: Checked out to current user"));
 
   sink.Lines.clear();
   DecodeQueryStatus("/src/unit1.pas", -1);
@@ -45,10 +38,7 @@ TEST(QueryStatus, WritesALinePerBit) {
 }
 
 TEST(QueryStatus, MapsToFlags) {
-  struct {
-    scc::Long Status;
-    TQueryStatus Flags;
-  } const rows[] = {
+  const std::pair<scc::Long, TQueryStatus> rows[] = {
       {0, TQueryStatus().set(qsNotControlled)},
       {-1, TQueryStatus().set().reset(qsNotControlled)},
       {0x0001, TQueryStatus().set(qsControlled)},
@@ -56,17 +46,14 @@ TEST(QueryStatus, MapsToFlags) {
        TQueryStatus().set(qsDeletedFromProject).set(qsHasBeenModified).set(qsCheckedOutToCurrentUser)},
       {0x6000, TQueryStatus()},  // bits of later versions
   };
-  for (const auto& row : rows) EXPECT_EQ(ToQueryStatus(row.Status), row.Flags) << row.Status;
+  for (const auto& [status, flags] : rows) EXPECT_EQ(ToQueryStatus(status), flags) << status;
 }
 
 TEST(TextOut, WritesKnownKindsAndIgnoresTheRest) {
   RecordingSink sink;
-  const struct {
-    const char* Text;
-    scc::Dword Kind;
-  } calls[] = {{"a", 1},      {"b\r\n", 2}, {"", 3},     {nullptr, 1},
-               {"status", 4}, {nullptr, 5}, {"zero", 0}, {"far", 0xFFFFFFFF}};
-  for (const auto& call : calls) EXPECT_EQ(TextOutProc(call.Text, call.Kind), 0);
+  const std::pair<const char*, scc::Dword> calls[] = {{"a", 1},      {"b\r\n", 2}, {"", 3},     {nullptr, 1},
+                                                      {"status", 4}, {nullptr, 5}, {"zero", 0}, {"far", ~0u}};
+  for (const auto& [text, kind] : calls) EXPECT_EQ(TextOutProc(text, kind), 0);
   using Line = std::pair<TSeverity, std::string>;
   EXPECT_THAT(sink.Lines, ElementsAre(Line{TSeverity::Info, "a"}, Line{TSeverity::Warning, "b"},
                                       Line{TSeverity::Error, ""}));
