@@ -38,7 +38,7 @@ TFigures Measure(TDeveloper& developer, const std::vector<std::string>& names) {
   const auto& one = names.front();
   TFigures figures{};
   figures.Status = Best(7, [&] { developer.Statuses(names); });
-  figures.QuickDiff = kMicroseconds * Best(300, [&] { developer.QuickDiff(one); });
+  figures.QuickDiff = kMicroseconds * Best(300, [&] { developer.Diff(one); });
   figures.Call = kMicroseconds * Best(1000, [&] { developer.Library()->SccGetVersion(); });
   figures.CheckOut = std::numeric_limits<double>::max();
   for (int i = 0; i < 5; ++i) {

@@ -27,16 +27,15 @@ TEST(Kills, AtAnyMomentCostNeitherTheClientNorTheWorkingCopy) {
   const TEnvironmentVariable isolated("KESTREL_ISOLATED_PROVIDER", ISOLATED_SUBVERSION);
   const TTestRepository repository;
   TDeveloper ann("ann");
-  ASSERT_EQ(scc::SCC_OK, ann.Open(repository.Url(), "project")) << ann.Said();
-  std::vector<std::string> names;
+  ASSERT_EQ(SCC_OK, ann.Open(repository.Url(), "project")) << ann.Said();
+  NameList names;
   for (int i = 0; i < 40; ++i) names.push_back("deep/unit" + std::to_string(i) + ".pas");
-  for (const auto& name : names) ann.Write(name, "0\n");
-  ASSERT_EQ(scc::SCC_OK, ann.Add(names)) << ann.Said();
+  ann.AddNew(names, "0\n");
 
   using Clock = std::chrono::steady_clock;
-  const std::function<scc::Long()> commands[] = {[&] { return ann.CheckOut(names); },
-                                                 [&] { return ann.CheckIn(names); },
-                                                 [&] { return ann.GetEverything(); }};
+  const std::function<Long()> commands[] = {[&] { return ann.CheckOut(names); },
+                                            [&] { return ann.CheckIn(names); },
+                                            [&] { return ann.GetEverything(); }};
   Clock::duration longest[3] = {};  // of each command, so that the kills hit it
   std::mt19937 random(7);
   int hits = 0;
@@ -57,14 +56,13 @@ TEST(Kills, AtAnyMomentCostNeitherTheClientNorTheWorkingCopy) {
       for (const pid_t child : children) kill(child, SIGKILL);
     });
     const auto begun = Clock::now();
-    hits += commands[command]() == scc::SCC_E_NONSPECIFICERROR;
+    hits += commands[command]() == SCC_E_NONSPECIFICERROR;
     longest[command] = std::max(longest[command], Clock::now() - begun);
     killer.join();
-    ann.QuickDiff(names.front());  // the end may still be on its way
-    ASSERT_EQ(scc::SCC_OK, ann.GetEverything()) << ann.Said();
+    ann.Diff(names.front());  // the end may still be on its way
+    ASSERT_EQ(SCC_OK, ann.GetEverything()) << ann.Said();
     // A lock that the repository has and the folder never heard of is another folder's, as far as anybody can tell.
-    ASSERT_THAT(ann.CheckOut({names.front()}), testing::AnyOf(scc::SCC_OK, scc::SCC_E_ALREADYCHECKEDOUT))
-        << ann.Said();
+    ASSERT_THAT(ann.CheckOut({names.front()}), testing::AnyOf(SCC_OK, SCC_E_ALREADYCHECKEDOUT)) << ann.Said();
     ann.Undo(names);
   }
   std::cout << hits << " of " << Rounds() << " kills ended a call\n";

@@ -5,31 +5,12 @@
 
 #include "subversion/project/OpenProject.h"
 #include "subversion/project/UsedRepositories.h"
-#include "subversion/svn/Question.h"
-#include "system/System.h"
 
 namespace kestrel::svnscc {
 
 namespace {
 
-std::string said;  // the callback has no argument to find its owner by
-
-bool cancelPressed = false;
-std::string cancelSince;
-
-bool IsCancelPressed() {
-  return cancelPressed && (cancelSince.empty() || std::filesystem::exists(cancelSince));
-}
-
-scc::Long SCC_CALL TakeText(const char* text, scc::Dword kind) {
-  const bool isLine = kind < scc::SCC_MSG_STATUS;
-  said += isLine ? std::string(1, "?IWE"[kind]) : "? " + std::to_string(kind);
-  if (text != nullptr) said += std::string(" ") + text;
-  said += "\n";
-  return kind == scc::SCC_MSG_DOCANCEL && IsCancelPressed() ? scc::SCC_MSG_RTN_CANCEL : scc::SCC_MSG_RTN_OK;
-}
-
-scc::Bool SCC_CALL TakeFile(void* callerData, scc::Bool add, scc::Long status, const char* name) {
+Bool SCC_CALL TakeFile(void* callerData, Bool add, Long status, const char* name) {
   auto& list = *static_cast<TPopulated*>(callerData);
   if (add != 0)
     list.Added[name] = status;
@@ -37,22 +18,6 @@ scc::Bool SCC_CALL TakeFile(void* callerData, scc::Bool add, scc::Long status, c
     list.Dropped.push_back(name);
   return 1;
 }
-
-/// Names as the API takes them.
-class NamePointers {
- public:
-  NamePointers(const TDeveloper& developer, const std::vector<std::string>& names) {
-    for (const auto& name : names) texts_.push_back(name.empty() ? developer.Folder() : developer.File(name));
-    for (const auto& text : texts_) pointers_.push_back(text.c_str());
-    said.clear();
-  }
-  scc::Long Count() const { return static_cast<scc::Long>(pointers_.size()); }
-  const char** Data() { return pointers_.data(); }
-
- private:
-  std::vector<std::string> texts_;
-  std::vector<const char*> pointers_;
-};
 
 template <std::size_t Size>
 void Fill(std::array<char, Size>& buffer, const std::string& text) {
@@ -63,19 +28,21 @@ void Fill(std::array<char, Size>& buffer, const std::string& text) {
 
 }  // namespace
 
-TCancelPressed::TCancelPressed(const std::string& since) {
-  cancelPressed = true;
-  cancelSince = since;
+Long SCC_CALL TDeveloper::TakeText(const char* text, Dword kind) {
+  said_ += kind < SCC_MSG_STATUS ? std::string(1, "?IWE"[kind]) : "? " + std::to_string(kind);
+  if (text) said_ += std::string(" ") + text;
+  said_ += "\n";
+  const bool pressed = !TCancelPressed::Since.empty() && fs::exists(TCancelPressed::Since);
+  return kind == SCC_MSG_DOCANCEL && pressed ? SCC_MSG_RTN_CANCEL : SCC_MSG_RTN_OK;
 }
-TCancelPressed::~TCancelPressed() { cancelPressed = false; }
 
 TDeveloper::TDeveloper(const std::string& user, const std::string& folder)
     : work_(folder), folder_(temporary_.MakeFolder(folder)), user_(user) {
-  std::array<char, scc::SCC_NAME_SIZE> name{};
-  std::array<char, scc::SCC_AUXLABEL_SIZE> label{};
-  std::array<scc::Long, 3> words{};
-  EXPECT_EQ(scc::SCC_OK, library_->SccInitialize(&context_, nullptr, "tests", name.data(), &words[0],
-                                                 label.data(), &words[1], &words[2]));
+  std::array<char, SCC_NAME_SIZE> name{};
+  std::array<char, SCC_AUXLABEL_SIZE> label{};
+  std::array<Long, 3> words{};
+  EXPECT_EQ(SCC_OK, library_->SccInitialize(&context_, nullptr, "tests", name.data(), &words[0], label.data(),
+                                            &words[1], &words[2]));
 }
 
 TDeveloper::~TDeveloper() {
@@ -83,132 +50,82 @@ TDeveloper::~TDeveloper() {
   library_->SccUninitialize(context_);
 }
 
-scc::Long TDeveloper::Open(const std::string& url, const std::string& project, scc::Long flags) {
-  svnscc::MarkProjectUsed(url, project);
+Long TDeveloper::Open(const std::string& url, const std::string& project, Long flags) {
+  MarkProjectUsed(url, project);
   return OpenMapped(url, project, flags);
 }
 
-scc::Long TDeveloper::OpenMapped(const std::string& url, const std::string& project, scc::Long flags) {
+Long TDeveloper::OpenMapped(const std::string& url, const std::string& project, Long flags) {
   std::array<char, 33> user;  // as small as clients make them
   std::array<char, 261> name;
-  std::array<char, scc::SCC_PRJPATH_SIZE> aux;
+  std::array<char, SCC_PRJPATH_SIZE> aux;
   Fill(user, user_);
   Fill(name, project);
   Fill(aux, url);
-  said.clear();
-  const scc::Long result =
-      library_->SccOpenProject(context_, nullptr, user.data(), name.data(), folder_.c_str(), aux.data(),
-                               "Made for the tests", TakeText, flags);
+  said_.clear();
+  const Long result = library_->SccOpenProject(context_, nullptr, user.data(), name.data(), folder_.c_str(),
+                                               aux.data(), "Made for the tests", TakeText, flags);
   user_ = user.data();
   return result;
 }
 
-scc::Long TDeveloper::Close() { return library_->SccCloseProject(context_); }
-
-std::string TDeveloper::Read(const std::string& name) const { return ReadWholeFile(File(name)); }
-bool TDeveloper::Has(const std::string& name) const { return FileExists(File(name)); }
-bool TDeveloper::IsWritable(const std::string& name) const {
-  return (GetFileAttributesOf(File(name)) & faReadOnly) == 0;
-}
-
-scc::Long TDeveloper::Add(const std::vector<std::string>& names, const std::string& comment,
-                          scc::Long flags) {
-  NamePointers array(*this, names);
-  return library_->SccAdd(context_, nullptr, array.Count(), array.Data(), comment.c_str(), &flags, nullptr);
-}
-
-scc::Long TDeveloper::CheckOut(const std::vector<std::string>& names, const std::string& comment) {
-  NamePointers array(*this, names);
-  return library_->SccCheckOut(context_, nullptr, array.Count(), array.Data(), comment.c_str(), 0, nullptr);
-}
-
-scc::Long TDeveloper::CheckIn(const std::vector<std::string>& names, const std::string& comment,
-                              scc::Long flags) {
-  NamePointers array(*this, names);
-  return library_->SccCheckin(context_, nullptr, array.Count(), array.Data(), comment.c_str(), flags,
-                              nullptr);
-}
-
-scc::Long TDeveloper::Undo(const std::vector<std::string>& names) {
-  NamePointers array(*this, names);
-  return library_->SccUncheckout(context_, nullptr, array.Count(), array.Data(), 0, nullptr);
-}
-
-scc::Long TDeveloper::Remove(const std::vector<std::string>& names, const std::string& comment) {
-  NamePointers array(*this, names);
-  return library_->SccRemove(context_, nullptr, array.Count(), array.Data(), comment.c_str(), 0, nullptr);
-}
-
-scc::Long TDeveloper::Get(const std::vector<std::string>& names, scc::Long flags) {
-  NamePointers array(*this, names);
-  return library_->SccGet(context_, nullptr, array.Count(), array.Data(), flags, nullptr);
-}
-
-scc::Long TDeveloper::QuickDiff(const std::string& name, scc::Long flags) {
-  said.clear();
+Long TDeveloper::Diff(const std::string& name, Long flags) {
+  said_.clear();
   return library_->SccDiff(context_, nullptr, File(name).c_str(), flags, nullptr);
 }
 
-std::vector<scc::Long> TDeveloper::Statuses(const std::vector<std::string>& names, scc::Long expected) {
-  NamePointers array(*this, names);
-  std::vector<scc::Long> statuses(names.size(), scc::SCC_STATUS_INVALID);
-  EXPECT_EQ(expected, library_->SccQueryInfo(context_, array.Count(), array.Data(), statuses.data())) << said;
+TStatuses TDeveloper::Statuses(const NameList& names, Long expected) {
+  TNamePointers paths(Files(names));
+  said_.clear();
+  TStatuses statuses(names.size(), SCC_STATUS_INVALID);
+  EXPECT_EQ(expected, library_->SccQueryInfo(context_, paths.Count(), paths.Data(), statuses.data()))
+      << said_;
   return statuses;
 }
 
-TPopulated TDeveloper::Populate(scc::SCCCommand command, const std::vector<std::string>& names,
-                                scc::Long flags) {
-  NamePointers array(*this, names);
+TPopulated TDeveloper::Populate(SCCCommand command, const NameList& names, Long flags) {
+  TNamePointers paths(Files(names));
+  said_.clear();
   TPopulated list;
-  list.Statuses.assign(names.size(), scc::SCC_STATUS_INVALID);
-  list.Result = library_->SccPopulateList(context_, command, array.Count(), array.Data(), TakeFile, &list,
+  list.Statuses.assign(names.size(), SCC_STATUS_INVALID);
+  list.Result = library_->SccPopulateList(context_, command, paths.Count(), paths.Data(), TakeFile, &list,
                                           list.Statuses.data(), flags);
   return list;
 }
 
-void TDeveloper::AddNew(const std::vector<std::string>& names, const std::string& text, scc::Long flags) {
+void TDeveloper::AddNew(const NameList& names, const std::string& text, Long flags) {
   for (const auto& name : names) Write(name, text);
-  ASSERT_EQ(scc::SCC_OK, Add(names, "", flags)) << said;
+  ASSERT_EQ(SCC_OK, Add(names, "", flags)) << said_;
 }
 
 void TDeveloper::Edit(const std::string& name, const std::string& text) {
-  ASSERT_EQ(scc::SCC_OK, CheckOut({name})) << said;
+  ASSERT_EQ(SCC_OK, CheckOut({name})) << said_;
   Write(name, text);
 }
 
 void TDeveloper::EditAndCheckIn(const std::string& name, const std::string& text,
                                 const std::string& comment) {
   Edit(name, text);
-  ASSERT_EQ(scc::SCC_OK, CheckIn({name}, comment)) << said;
+  ASSERT_EQ(SCC_OK, CheckIn({name}, comment)) << said_;
 }
 
 void TDeveloper::EditWithoutCheckOut(const std::string& name, const std::string& text) const {
-  std::filesystem::permissions(File(name), std::filesystem::perms::owner_all);
+  fs::permissions(File(name), fs::perms::owner_all);
   Write(name, text);
 }
 
-std::string TDeveloper::Said() const { return said; }
-
-TTeam::TTeam() { EXPECT_EQ(scc::SCC_OK, ann.Open(repository.Url(), "project")) << ann.Said(); }
+TTeam::TTeam() { EXPECT_EQ(SCC_OK, ann.Open(repository.Url(), "project")) << ann.Said(); }
 
 void TTeam::Join(TDeveloper& colleague) {
-  ASSERT_EQ(scc::SCC_OK, colleague.Open(repository.Url(), "project")) << colleague.Said();
-  ASSERT_EQ(scc::SCC_OK, colleague.GetEverything()) << colleague.Said();
+  ASSERT_EQ(SCC_OK, colleague.Open(repository.Url(), "project")) << colleague.Said();
+  ASSERT_EQ(SCC_OK, colleague.GetEverything()) << colleague.Said();
 }
 
-TDirectSession::TDirectSession(const TTestRepository& repository, const TDeveloper& developer) {
+TDirectSession::TDirectSession(const TTestRepository& repository, const TDeveloper& developer)
+    : Developer(developer) {
   repository.Choose("project");
-  svnscc::ProjectNames names{developer.User(), "project", repository.Url(), developer.Folder(), ""};
-  svnscc::OpenProject(Session, names, {.MayCreate = true});
+  ProjectNames names{developer.User(), "project", repository.Url(), developer.Folder(), ""};
+  OpenProject(Session, names, {.MayCreate = true});
 }
-
-TAnsweredQuestions::TAnsweredQuestions() {
-  Asked.clear();
-  svnscc::SetQuestionPrompt([](scc::WindowHandle, const svnscc::Question& question) {
-    Asked += question.Text;
-    return std::optional(Answer);
-  });
-}
-TAnsweredQuestions::~TAnsweredQuestions() { svnscc::SetQuestionPrompt(nullptr); }
 
 }  // namespace kestrel::svnscc

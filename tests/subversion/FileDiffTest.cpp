@@ -29,20 +29,6 @@ std::string Picture(const FileDiff& diff) {
   return picture;
 }
 
-struct Row {
-  const char* what;
-  const char* left;
-  const char* right;
-  DiffOptions options;
-  const char* picture;
-  bool same;
-  LineEnds ends;
-};
-
-struct FileDiffs : testing::TestWithParam<Row> {
-  void SetUp() override { EnsureRuntime(); }
-};
-
 std::string Lines(int count, const std::function<std::string(int)>& line) {
   std::string text;
   for (int i = 0; i < count; ++i) text += line(i) + "\n";
@@ -51,43 +37,44 @@ std::string Lines(int count, const std::function<std::string(int)>& line) {
 
 }  // namespace
 
-TEST_P(FileDiffs, AlignBothSides) {
-  const Row& row = GetParam();
-  const FileDiff diff(row.left, row.right, row.options, MatchCommonLines);
-  EXPECT_EQ(row.picture, Picture(diff));
-  EXPECT_EQ(row.same, diff.Same());
-  EXPECT_EQ(row.ends, diff.Ends());
+TEST(FileDiff, AlignsBothSides) {
+  EnsureRuntime();
+  struct Row {
+    const char* what;
+    std::string left, right;
+    DiffOptions options;
+    const char* picture;
+    bool same = false;
+    LineEnds ends = LineEnds::Alike;
+  };
+  for (const auto& row : {
+           Row{"both empty", "", "", kExact, "", true},
+           Row{"left empty", "", "a\nb\n", kExact, "~+a  ~+b"},
+           Row{"right empty", "a\n", "", kExact, "a-~"},
+           Row{"equal", "a\nb\n", "a\nb\n", kExact, "a|a  b|b", true},
+           Row{"one changed", "a\nb\nc\n", "a\nB\nc\n", kExact, "a|a  b*B  c|c"},
+           Row{"changed and longer", "a\nb\nz\n", "a\nx\ny\nz\n", kExact, "a|a  b*x  ~+y  z|z"},
+           Row{"changed and shorter", "b\nc\nz\n", "x\nz\n", kExact, "b*x  c-~  z|z"},
+           Row{"case", "Größe\n", "GRÖßE\n", kExact, "Größe*GRÖßE"},
+           Row{"case ignored", "Größe\nx\n", "GRÖßE\ny\n", kNoCase, "Größe|GRÖßE  x*y"},
+           Row{"space ignored", "if (a)\n", "if( a )\t\n", kNoSpace, "if (a)|if( a )\t", true},
+           Row{"space matters", "a b\n", "a  b\n", kNoCase, "a b*a  b"},
+           Row{"other line ends", "a\nb\n", "a\r\nb\r\n", kExact, "a|a  b|b", false, LineEnds::OtherStyle},
+           Row{"line ends are space", "a\n", "a\r\n", kNoSpace, "a|a", true, LineEnds::OtherStyle},
+           Row{"one line end differs", "a\nb\n", "a\nb\r\n", kExact, "a|a  b|b"},
+           Row{"old line ends", "a\rb\r", "a\rb\r", kExact, "a|a  b|b", true},
+           Row{"last line not ended", "a\nb", "a\nb\n", kExact, "a|a  b|b", false, LineEnds::LeftUnended},
+           Row{"neither last line ended", "a\nb", "a\nc", kExact, "a|a  b*c"},
+           Row{"end missing is space", "a\n", "a", kNoSpace, "a|a", true, LineEnds::RightUnended},
+           Row{"blank lines", "a\n\n\nb\n", "a\n\nb\n", kExact, "a|a  |  -~  b|b"},
+       }) {
+    SCOPED_TRACE(row.what);
+    const FileDiff diff(row.left, row.right, row.options, MatchCommonLines);
+    EXPECT_EQ(row.picture, Picture(diff));
+    EXPECT_EQ(row.same, diff.Same());
+    EXPECT_EQ(row.ends, diff.Ends());
+  }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    All, FileDiffs,
-    testing::Values(
-        Row{"both empty", "", "", kExact, "", true, LineEnds::Alike},
-        Row{"left empty", "", "a\nb\n", kExact, "~+a  ~+b", false, LineEnds::Alike},
-        Row{"right empty", "a\n", "", kExact, "a-~", false, LineEnds::Alike},
-        Row{"equal", "a\nb\n", "a\nb\n", kExact, "a|a  b|b", true, LineEnds::Alike},
-        Row{"one changed", "a\nb\nc\n", "a\nB\nc\n", kExact, "a|a  b*B  c|c", false, LineEnds::Alike},
-        Row{"changed and longer", "a\nb\nz\n", "a\nx\ny\nz\n", kExact, "a|a  b*x  ~+y  z|z", false,
-            LineEnds::Alike},
-        Row{"changed and shorter", "b\nc\nz\n", "x\nz\n", kExact, "b*x  c-~  z|z", false, LineEnds::Alike},
-        Row{"case", "Größe\n", "GRÖßE\n", kExact, "Größe*GRÖßE", false, LineEnds::Alike},
-        Row{"case ignored", "Größe\nx\n", "GRÖßE\ny\n", kNoCase, "Größe|GRÖßE  x*y", false, LineEnds::Alike},
-        Row{"space ignored", "if (a)\n", "if( a )\t\n", kNoSpace, "if (a)|if( a )\t", true, LineEnds::Alike},
-        Row{"space matters", "a b\n", "a  b\n", kNoCase, "a b*a  b", false, LineEnds::Alike},
-        Row{"other line ends", "a\nb\n", "a\r\nb\r\n", kExact, "a|a  b|b", false, LineEnds::OtherStyle},
-        Row{"other line ends are space", "a\nb\n", "a\r\nb\r\n", kNoSpace, "a|a  b|b", true,
-            LineEnds::OtherStyle},
-        Row{"one line end differs", "a\nb\n", "a\nb\r\n", kExact, "a|a  b|b", false, LineEnds::Alike},
-        Row{"old line ends", "a\rb\r", "a\rb\r", kExact, "a|a  b|b", true, LineEnds::Alike},
-        Row{"last line not ended", "a\nb", "a\nb\n", kExact, "a|a  b|b", false, LineEnds::LeftUnended},
-        Row{"neither last line ended", "a\nb", "a\nc", kExact, "a|a  b*c", false, LineEnds::Alike},
-        Row{"end missing is space", "a\n", "a", kNoSpace, "a|a", true, LineEnds::RightUnended},
-        Row{"blank lines", "a\n\n\nb\n", "a\n\nb\n", kExact, "a|a  |  -~  b|b", false, LineEnds::Alike}),
-    [](const auto& parameter) {
-      std::string name = parameter.param.what;
-      std::replace(name.begin(), name.end(), ' ', '_');
-      return name;
-    });
 
 TEST(FileDiff, WalksFromDifferenceToDifference) {
   EnsureRuntime();
@@ -103,7 +90,7 @@ TEST(FileDiff, WalksFromDifferenceToDifference) {
   EXPECT_EQ(3U, diff.Differences().size());
 }
 
-TEST(FileDiff, ChangedPartsKeepCharactersWhole) {
+TEST(FileDiff, KeepsCharactersWholeInChangedParts) {
   const auto parts = [](std::string left, std::string right) {
     const auto [a, b] = ChangedParts(left, right);
     return left.substr(a.Start, a.Length) + "/" + right.substr(b.Start, b.Length);

@@ -30,27 +30,27 @@ struct Logins : testing::Test {
 
 TEST_F(Logins, AreAskedForOnceAndAgainWhenRefused) {
   Answer("asks for a login", nullptr);
-  EXPECT_EQ(scc::SCC_E_INVALIDUSER, ann.Open(server.Url(), "project"));
+  EXPECT_EQ(SCC_E_INVALIDUSER, ann.Open(server.Url(), "project"));
 
   Answer("asks for a login", "wrong");
   Answer("did not accept", "secret");
-  ASSERT_EQ(scc::SCC_OK, ann.Open(server.Url(), "project")) << ann.Said();
+  ASSERT_EQ(SCC_OK, ann.Open(server.Url(), "project")) << ann.Said();
   ann.Write("unit1.pas", "1\n");
-  EXPECT_EQ(scc::SCC_OK, ann.Add({"unit1.pas"})) << ann.Said();
+  EXPECT_EQ(SCC_OK, ann.Add({"unit1.pas"})) << ann.Said();
   EXPECT_EQ("ann", repository.Author(repository.Youngest()));
 
   ann.Close();
-  EXPECT_EQ(scc::SCC_OK, ann.Open(server.Url(), "project")) << "remembered";
-  EXPECT_EQ(scc::SCC_OK, ann.CheckOut({"unit1.pas"})) << ann.Said();
+  EXPECT_EQ(SCC_OK, ann.Open(server.Url(), "project")) << "remembered";
+  EXPECT_EQ(SCC_OK, ann.CheckOut({"unit1.pas"})) << ann.Said();
 }
 
 TEST_F(Logins, MayBeAnotherUsers) {
   Answer("asks for a login", "other", "bob");
-  ASSERT_EQ(scc::SCC_OK, ann.Open(server.Url(), "project")) << ann.Said();
+  ASSERT_EQ(SCC_OK, ann.Open(server.Url(), "project")) << ann.Said();
   EXPECT_EQ("bob", repository.Author(repository.Youngest()));
   ann.Write("unit1.pas", "1\n");
-  EXPECT_EQ(scc::SCC_OK, ann.Add({"unit1.pas"}, "", scc::SCC_KEEP_CHECKEDOUT)) << ann.Said();
-  EXPECT_EQ(0x100B, ann.Status("unit1.pas")) << "out here, to whoever logged in";
+  EXPECT_EQ(SCC_OK, ann.Add({"unit1.pas"}, "", SCC_KEEP_CHECKEDOUT)) << ann.Said();
+  EXPECT_EQ(kOutHere, ann.Status("unit1.pas")) << "out here, to whoever logged in";
 }
 
 }  // namespace kestrel::svnscc

@@ -7,48 +7,41 @@
 
 namespace kestrel::svnscc {
 
-using svnscc::ProjectChoice;
-using svnscc::ProjectRequest;
-
 namespace {
 
 struct Choice : testing::Test {
   Choice() {
-    svnscc::EnsureRuntime();
-    svnscc::Client client("ann");
-    svnscc::MakeFolder(client, svnscc::UrlOf(repository.Url(), "trunk/app one"), "");
-    svnscc::MakeFolder(client, svnscc::UrlOf(repository.Url(), "trunk/lib"), "");
+    EnsureRuntime();
+    Client client("ann");
+    for (const char* folder : {"trunk/app one", "trunk/lib"})
+      MakeFolder(client, UrlOf(repository.Url(), folder), "");
   }
   static ProjectRequest Request() { return {"ann", "", "", "/home/ann/app", true, false}; }
   TTestRepository repository;
+  ProjectChoice choice{Request()};
 };
 
 }  // namespace
 
 TEST(RepositoryAddress, IsAUrlOrAnAbsoluteFolder) {
-  svnscc::EnsureRuntime();
-  struct Row {
-    std::string text;
-    std::optional<std::string> url;
-  };
-  for (const auto& row :
+  EnsureRuntime();
+  using Row = std::pair<const char*, std::optional<std::string>>;
+  for (const auto& [text, url] :
        {Row{"file:///srv/repo/", "file:///srv/repo"}, Row{"  svn://Host/a b ", "svn://host/a%20b"},
         Row{"http://host/%7euser//x", "http://host/~user/x"}, Row{"/srv/my repo", "file:///srv/my%20repo"},
         Row{"/srv/Größe", "file:///srv/Gr%C3%B6%C3%9Fe"}, Row{"", std::nullopt}, Row{"repo", std::nullopt},
         Row{"http://", std::nullopt}, Row{"svn://host/a/../b", std::nullopt}})
-    EXPECT_EQ(row.url, svnscc::ToRepositoryUrl(row.text)) << row.text;
+    EXPECT_EQ(url, ToRepositoryUrl(text)) << text;
 }
 
-TEST_F(Choice, NothingIsAcceptedBeforeARepositoryAndAFolderAreChosen) {
-  ProjectChoice choice(Request());
+TEST_F(Choice, AcceptsNothingBeforeARepositoryAndAFolderAreChosen) {
   EXPECT_FALSE(choice.CanAccept());
-  EXPECT_FALSE(choice.Connect("no address"));
-  EXPECT_TRUE(choice.IsError());
-  EXPECT_THAT(choice.Message(), HasSubstr("\"no address\""));
-  EXPECT_FALSE(choice.Connect("file:///no/such/repository"));
-  EXPECT_THAT(choice.Message(), HasSubstr("/no/such/repository"));
-  EXPECT_FALSE(choice.IsConnected());
-
+  for (const std::string address : {"no address", "file:///no/such/repository"}) {
+    EXPECT_FALSE(choice.Connect(address));
+    EXPECT_TRUE(choice.IsError());
+    EXPECT_THAT(choice.Message(), HasSubstr(address.substr(address.rfind('/') + 1)));
+    EXPECT_FALSE(choice.IsConnected());
+  }
   ASSERT_TRUE(choice.Connect(repository.Folder()));
   EXPECT_EQ(repository.Url(), choice.Root());
   choice.Select(std::nullopt);
@@ -57,26 +50,20 @@ TEST_F(Choice, NothingIsAcceptedBeforeARepositoryAndAFolderAreChosen) {
   EXPECT_TRUE(choice.CanAccept()) << choice.Message();
   EXPECT_EQ("trunk/app one", choice.Result().ProjectName);
   EXPECT_EQ(repository.Url(), choice.Result().Repository);
-  EXPECT_FALSE(choice.Result().IsNew);
   choice.SetUser("  ");
   EXPECT_FALSE(choice.CanAccept());
 }
 
-TEST_F(Choice, AnAddressInsideARepositoryChoosesItsFolder) {
-  ProjectChoice choice(Request());
-  ASSERT_TRUE(choice.Connect(svnscc::UrlOf(repository.Url(), "trunk/lib"))) << choice.Message();
+TEST_F(Choice, SelectsTheFolderOfAnAddressInsideARepository) {
+  ASSERT_TRUE(choice.Connect(UrlOf(repository.Url(), "trunk/lib"))) << choice.Message();
   EXPECT_EQ(repository.Url(), choice.Root());
   EXPECT_EQ("trunk/lib", choice.Selected());
-  EXPECT_THAT(choice.FoldersOf("trunk"), ElementsAre("app one", "lib"));
   EXPECT_THAT(choice.FoldersOf("trunk/lib"), IsEmpty());
 }
 
-TEST_F(Choice, NewFoldersArePlannedNotMade) {
-  ProjectChoice choice(Request());
+TEST_F(Choice, PlansNewFoldersAndDoesNotMakeThem) {
   choice.Connect(repository.Url());
-  EXPECT_EQ(std::nullopt, choice.AddFolder("trunk", "lib"));
-  EXPECT_EQ(std::nullopt, choice.AddFolder("trunk", "a/b"));
-  EXPECT_EQ(std::nullopt, choice.AddFolder("trunk", ".."));
+  for (const char* bad : {"lib", "a/b", ".."}) EXPECT_EQ(std::nullopt, choice.AddFolder("trunk", bad));
   EXPECT_EQ("trunk/new", choice.AddFolder("trunk", " new "));
   EXPECT_EQ("trunk/new/inner", choice.AddFolder("trunk/new", "inner"));
   EXPECT_THAT(choice.FoldersOf("trunk"), ElementsAre("app one", "lib", "new"));
@@ -88,9 +75,8 @@ TEST_F(Choice, NewFoldersArePlannedNotMade) {
   EXPECT_FALSE(choice.Result().IsNew);
 }
 
-TEST_F(Choice, ANewRepositoryNeedsAnEmptyFolder) {
+TEST_F(Choice, MakesANewRepositoryInAnEmptyFolderOnly) {
   const TTemporaryFolder place;
-  ProjectChoice choice(Request());
   EXPECT_FALSE(choice.CreateRepository(repository.Folder()));
   EXPECT_THAT(choice.Message(), HasSubstr("is not empty"));
   ASSERT_TRUE(choice.CreateRepository(place / "new repository")) << choice.Message();
@@ -100,11 +86,9 @@ TEST_F(Choice, ANewRepositoryNeedsAnEmptyFolder) {
 }
 
 TEST_F(Choice, ProposesWhatWasThereBefore) {
-  EXPECT_EQ("", ProjectChoice(Request()).ProposedRepository());
-  svnscc::RememberRepository("svn://host/one");
-  svnscc::RememberRepository("svn://host/two");
-  svnscc::RememberRepository("svn://host/one");
-  EXPECT_THAT(svnscc::RecentRepositories(), ElementsAre("svn://host/one", "svn://host/two"));
+  EXPECT_EQ("", choice.ProposedRepository());
+  for (const char* name : {"one", "two", "one"}) RememberRepository(std::string("svn://host/") + name);
+  EXPECT_THAT(RecentRepositories(), ElementsAre("svn://host/one", "svn://host/two"));
   EXPECT_EQ("svn://host/one", ProjectChoice(Request()).ProposedRepository());
   EXPECT_FALSE(ProjectChoice(Request()).ShouldConnectAtOnce());
 

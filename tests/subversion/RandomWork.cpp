@@ -14,14 +14,10 @@ namespace kestrel::svnscc {
 
 namespace {
 
-using std::filesystem::path;
-using NameList = std::vector<std::string>;
-
 const NameList kFiles{"a.txt", "d/b.txt", "d/c.dat", "d/e/f.txt", "g/h.txt"};
 const NameList kFolders{"d", "d/e", "g"};
 
-constexpr scc::Long kOut =
-    scc::SCC_STATUS_OUTBYUSER | scc::SCC_STATUS_OUTOTHER | scc::SCC_STATUS_OUTEXCLUSIVE;
+constexpr Long kOut = SCC_STATUS_OUTBYUSER | SCC_STATUS_OUTOTHER | SCC_STATUS_OUTEXCLUSIVE;
 
 std::set<std::string> TokensIn(const std::string& text) {
   static const std::regex token("t[0-9]+\\.");
@@ -35,9 +31,15 @@ NameList LinesOf(const std::string& text) {
   return lines;
 }
 
+std::string TextOf(const NameList& lines) {
+  std::string text;
+  for (const auto& line : lines) text += line + "\n";
+  return text;
+}
+
 bool IsMark(const std::string& line) {
-  return line.starts_with("<<<<<<<") || line.starts_with("|||||||") || line.starts_with("=======") ||
-         line.starts_with(">>>>>>>");
+  static const std::regex mark("(<{7}|\\|{7}|={7}|>{7}).*");
+  return std::regex_match(line, mark);
 }
 
 bool IsBinary(const std::string& name) { return name.ends_with(".dat"); }
@@ -49,8 +51,7 @@ bool IsArtefact(const std::string& name) {
 }
 
 std::string MemoryFolder() {
-  return std::filesystem::is_directory("/dev/shm") ? "/dev/shm"
-                                                   : std::filesystem::temp_directory_path().string();
+  return fs::is_directory("/dev/shm") ? "/dev/shm" : fs::temp_directory_path().string();
 }
 
 }  // namespace
@@ -64,11 +65,11 @@ TRandomWork::TRandomWork(unsigned seed)
   for (TUser* user : {&ann_, &bob_}) user->developer.Open(repository_.Url(), "p");
   for (const auto& name : kFiles) {
     Save(ann_, name, Token() + "\n-\n" + Token() + "\n-\n" + Token() + "\n");
-    ann_.developer.Add({name}, "", IsBinary(name) ? scc::SCC_FILETYPE_BINARY : 0);
+    ann_.developer.Add({name}, "", IsBinary(name) ? SCC_FILETYPE_BINARY : 0);
   }
   bob_.developer.GetEverything();
-  for (const auto& [name, text] : InHead()) stored_.merge(TokensIn(text));
-  for (TUser* user : {&ann_, &bob_}) CheckNothingVanished(*user);
+  NoteStored();
+  CheckNothingVanished();
 }
 
 void TRandomWork::Run(int steps) {
@@ -77,7 +78,7 @@ void TRandomWork::Run(int steps) {
       WorkWithPlainSvn();
     else
       Step(Chance(50) ? ann_ : bob_);
-    for (TUser* user : {&ann_, &bob_}) CheckNothingVanished(*user);
+    CheckNothingVanished();
     if (step % 8 == 0) CheckPlainStatus(Chance(50) ? ann_ : bob_);
   }
   for (const auto& name : kFiles) {
@@ -95,18 +96,17 @@ NameList TRandomWork::SomeFiles() {
 }
 
 void TRandomWork::Save(TUser& user, const std::string& name, const std::string& text) {
-  const auto writable = std::filesystem::perms::owner_all;
-  if (user.developer.Has(name)) std::filesystem::permissions(user.developer.File(name), writable);
+  if (user.developer.Has(name)) fs::permissions(user.developer.File(name), fs::perms::owner_all);
   user.developer.Write(name, text);
   using namespace std::chrono_literals;
-  const auto start = std::filesystem::file_time_type::clock::now() - 100h;
-  std::filesystem::last_write_time(user.developer.File(name), start + 1s * tokens_);
+  fs::last_write_time(user.developer.File(name), fs::file_time_type::clock::now() - 100h + 1s * tokens_);
   user.typed.merge(TokensIn(text));
 }
 
 /// Somebody who edits a file keeps what stands there, but for the line in hand; marks of a conflict are edited away.
 void TRandomWork::Type(TUser& user, const std::string& name) {
-  NameList lines = user.developer.Has(name) ? LinesOf(user.developer.Read(name)) : NameList{"", "-", "", "-", ""};
+  NameList lines =
+      user.developer.Has(name) ? LinesOf(user.developer.Read(name)) : NameList{"", "-", "", "-", ""};
   if (std::any_of(lines.begin(), lines.end(), IsMark)) {
     std::erase_if(lines, IsMark);
     lines.push_back(Token());
@@ -115,10 +115,8 @@ void TRandomWork::Type(TUser& user, const std::string& name) {
     for (const auto& token : TokensIn(line)) user.typed.erase(token);
     line = Token();
   }
-  std::string text;
-  for (const auto& line : lines) text += line + "\n";
   story_.push_back(user.name + " types t" + std::to_string(tokens_) + ". in " + name);
-  Save(user, name, text);
+  Save(user, name, TextOf(lines));
 }
 
 void TRandomWork::Step(TUser& user) {
@@ -128,7 +126,7 @@ void TRandomWork::Step(TUser& user) {
     if (!user.developer.Has(name)) return;
     story_.push_back(user.name + " deletes " + name);
     for (const auto& token : TokensIn(user.developer.Read(name))) user.typed.erase(token);
-    std::filesystem::remove(user.developer.File(name));
+    user.developer.Delete(name);
     return;
   }
   Command(user);
@@ -139,51 +137,33 @@ void TRandomWork::Command(TUser& user) {
   NameList names = SomeFiles();
   const Texts diskBefore = OnDisk(user);
   const Texts headBefore = InHead();
-  const scc::Long keep = Chance(30) ? scc::SCC_KEEP_CHECKEDOUT : 0;
-  std::string command;
-  scc::Long result = 0;
-  switch (Roll(9)) {
-    case 0:
-      command = "get";
-      result = work.Get(names);
-      break;
-    case 1:
-      command = "get all";
-      names = {Chance(60) ? "" : kFolders[Roll(3)]};
-      result = work.Get(names, scc::SCC_GET_ALL | (Chance(60) ? scc::SCC_GET_RECURSIVE : 0));
-      break;
-    case 2:
-    case 3:
-      command = "check out";
-      result = work.CheckOut(names);
-      break;
-    case 4:
-    case 5:
-      command = "check in";
-      result = work.CheckIn(names, "", keep);
-      break;
-    case 6:
-      command = "undo";
-      result = work.Undo(names);
-      break;
-    case 7:
-      command = "add";
-      names.resize(1);
-      result = work.Add(names, "", keep | (IsBinary(names.front()) ? scc::SCC_FILETYPE_BINARY : 0));
-      break;
-    default:
-      command = "remove";
-      result = work.Remove(names);
-      break;
-  }
+  const Long keep = Chance(30) ? SCC_KEEP_CHECKEDOUT : 0;
+  const auto getAll = [&] {
+    names = {Chance(60) ? "" : kFolders[Roll(3)]};
+    return work.Get(names, SCC_GET_ALL | (Chance(60) ? SCC_GET_RECURSIVE : 0));
+  };
+  const auto add = [&] {
+    names.resize(1);
+    return work.Add(names, "", keep | (IsBinary(names.front()) ? SCC_FILETYPE_BINARY : 0));
+  };
+  const std::vector<std::pair<std::string, std::function<Long()>>> commands{
+      {"get", [&] { return work.Get(names); }},
+      {"get all", getAll},
+      {"check out", [&] { return work.CheckOut(names); }},
+      {"check in", [&] { return work.CheckIn(names, "", keep); }},
+      {"undo", [&] { return work.Undo(names); }},
+      {"add", add},
+      {"remove", [&] { return work.Remove(names); }}};
+  const auto& [command, run] = commands[std::array<std::size_t, 9>{0, 1, 2, 2, 3, 3, 4, 5, 6}[Roll(9)]];
+  const Long result = run();
   std::string line = user.name + " " + command;
   for (const auto& name : names) line += " " + name;
   story_.push_back(line + ": " + std::to_string(result) + "\n" + work.Said());
-  for (const auto& [name, text] : InHead()) stored_.merge(TokensIn(text));
+  NoteStored();
   CheckHandedIn(user, headBefore, diskBefore, command == "remove");
   if (command != "get all") CheckUnnamed(user, diskBefore, names);
   CheckStatuses(user);
-  if (result == scc::SCC_OK && command != "get all")
+  if (result == SCC_OK && command != "get all")
     for (const auto& name : names) CheckAnswer(user, command, name, diskBefore);
 }
 
@@ -204,57 +184,53 @@ void TRandomWork::WorkWithPlainSvn() {
         Svn("unlock --force " + root + name);
   };
   if (Chance(70)) breakLocks(Chance(50) ? file : folder);
+  const auto moveAwayAndBack = [&](const std::string& what, unsigned backPercent) {
+    Svn("-m away mv " + what + " " + root + "away", true);
+    if (Chance(backPercent)) Svn("-m back mv " + root + "away " + what, true);
+    Svn("-m rest rm " + root + "away", true);
+  };
   switch (Roll(8)) {
     case 0:
-    case 1:
-    case 2: {
-      const std::string name = AnyFile();
-      NameList lines = repository_.Exists("p/" + name) ? LinesOf(repository_.Contents("p/" + name))
-                                                    : NameList{"", "-", "", "-", ""};
-      lines[Roll(static_cast<unsigned>(lines.size()))] = Token();
-      std::string text;
-      for (const auto& line : lines) text += line + "\n";
-      const TTemporaryFolder temporary;
-      std::string make;
-      for (auto above = path(name).parent_path(); !above.empty(); above = above.parent_path())
-        if (!repository_.Exists("p/" + above.string())) make = "mkdir " + root + above.string() + " " + make;
-      Svn("-m edit " + make + "put " + temporary.Write("text", text) + " " + root + name, true);
-      break;
-    }
-    case 3:
       Svn("-m delete rm " + file, true);
       break;
-    case 4:
+    case 1:
       Svn("-m delete rm " + folder, true);
       break;
-    case 5:
-      Svn("-m away mv " + folder + " " + root + "away", true);
-      if (Chance(80)) Svn("-m back mv " + root + "away " + folder, true);
-      Svn("-m rest rm " + root + "away", true);
+    case 2:
+      moveAwayAndBack(folder, 80);
       break;
-    case 6:
-      Svn("-m away mv " + file + " " + root + "away", true);
-      Svn("-m back mv " + root + "away " + file, true);
-      Svn("-m rest rm " + root + "away", true);
+    case 3:
+      moveAwayAndBack(file, 100);
       break;
-    default:
+    case 4:
       Svn("lock --force " + file);
       break;
+    default:
+      PutWithPlainSvn(AnyFile());
   }
-  for (const auto& [name, text] : InHead()) stored_.merge(TokensIn(text));
+  NoteStored();
+}
+
+void TRandomWork::PutWithPlainSvn(const std::string& name) {
+  const std::string root = repository_.Url() + "/p/";
+  NameList lines{"", "-", "", "-", ""};
+  if (repository_.Exists("p/" + name)) lines = LinesOf(repository_.Contents("p/" + name));
+  lines[Roll(static_cast<unsigned>(lines.size()))] = Token();
+  std::string make;
+  for (auto above = fs::path(name).parent_path(); !above.empty(); above = above.parent_path())
+    if (!repository_.Exists("p/" + above.string())) make = "mkdir " + root + above.string() + " " + make;
+  const TTemporaryFolder temporary;
+  Svn("-m edit " + make + "put " + temporary.Write("text", TextOf(lines)) + " " + root + name, true);
 }
 
 TRandomWork::Texts TRandomWork::OnDisk(const TUser& user) const {
   Texts texts;
-  for (auto entry = std::filesystem::recursive_directory_iterator(user.developer.Folder());
-       entry != std::filesystem::recursive_directory_iterator(); ++entry) {
-    if (entry->path().filename() == ".svn") {
+  for (auto entry = fs::recursive_directory_iterator(user.developer.Folder()); entry != end(entry); ++entry)
+    if (entry->path().filename() == ".svn")
       entry.disable_recursion_pending();
-    } else if (entry->is_regular_file()) {
-      const std::string name = path(entry->path()).lexically_relative(user.developer.Folder()).string();
-      texts[name] = ReadWholeFile(entry->path().string());
-    }
-  }
+    else if (entry->is_regular_file())
+      texts[entry->path().lexically_relative(user.developer.Folder()).string()] =
+          ReadWholeFile(entry->path().string());
   return texts;
 }
 
@@ -265,15 +241,21 @@ TRandomWork::Texts TRandomWork::InHead() const {
   return texts;
 }
 
-void TRandomWork::CheckNothingVanished(TUser& user) {
-  Tokens here;
-  for (const auto& [name, text] : OnDisk(user)) {
-    here.merge(TokensIn(text));
-    if (!IsArtefact(name)) user.seen.merge(TokensIn(text));
+void TRandomWork::NoteStored() {
+  for (const auto& [name, text] : InHead()) stored_.merge(TokensIn(text));
+}
+
+void TRandomWork::CheckNothingVanished() {
+  for (TUser* user : {&ann_, &bob_}) {
+    Tokens here;
+    for (const auto& [name, text] : OnDisk(*user)) {
+      here.merge(TokensIn(text));
+      if (!IsArtefact(name)) user->seen.merge(TokensIn(text));
+    }
+    for (const auto& token : user->typed)
+      Require(here.contains(token) || stored_.contains(token),
+              user->name + " typed " + token + ", and it is gone");
   }
-  for (const auto& token : user.typed)
-    Require(here.contains(token) || stored_.contains(token),
-            user.name + " typed " + token + ", and it is gone");
 }
 
 void TRandomWork::CheckHandedIn(const TUser& user, const Texts& before, const Texts& disk, bool removed) {
@@ -304,21 +286,19 @@ void TRandomWork::CheckAnswer(TUser& user, const std::string& command, const std
   const std::string stored = "p/" + name;
   const bool inHead = repository_.Exists(stored);
   const auto owner = repository_.LockOwner(stored);
-  const scc::Long bits = user.developer.Status(name);
+  const Long bits = user.developer.Status(name);
   const bool had = before.contains(name);
   const std::string what = command + " of " + name + " answered 0, but ";
   if (command == "get") {
-    Require((bits & (scc::SCC_STATUS_OUTOFDATE | scc::SCC_STATUS_DELETED | scc::SCC_STATUS_MERGED)) == 0,
-            what + "it is not the newest");
+    Require((bits & (kOutOfDate | kDeleted | kMerged)) == 0, what + "it is not the newest");
     Require(user.developer.Has(name) == inHead, what + "it is not here as it is in HEAD");
   } else if (command == "check out") {
-    Require(owner == user.name && (bits & scc::SCC_STATUS_CHECKEDOUT) != 0, what + "it is not locked here");
+    Require(owner == user.name && (bits & SCC_STATUS_CHECKEDOUT) != 0, what + "it is not locked here");
     Require(user.developer.IsWritable(name), what + "it is read-only");
   } else if (command == "check in") {
-    if ((bits & scc::SCC_STATUS_MODIFIED) != 0) Require(false, what + "it is still modified");
+    Require((bits & kModified) == 0, what + "it is still modified");
   } else if (command == "undo") {
-    Require((bits & (scc::SCC_STATUS_CHECKEDOUT | scc::SCC_STATUS_MERGED | scc::SCC_STATUS_MODIFIED)) == 0,
-            what + "it is not undone");
+    Require((bits & (SCC_STATUS_CHECKEDOUT | kMerged | kModified)) == 0, what + "it is not undone");
   } else if (command == "add") {
     Require(inHead && had && repository_.Contents(stored) == before.at(name), what + "HEAD does not have it");
   } else {
@@ -330,17 +310,17 @@ void TRandomWork::CheckAnswer(TUser& user, const std::string& command, const std
 void TRandomWork::CheckStatuses(TUser& user) {
   const auto words = user.developer.Statuses(kFiles);
   for (std::size_t i = 0; i < kFiles.size(); ++i) {
-    const auto has = [&](scc::Long bits) { return (words[i] & bits) != 0; };
+    const auto has = [&](Long bits) { return (words[i] & bits) != 0; };
     const bool inHead = repository_.Exists("p/" + kFiles[i]);
     const auto owner = repository_.LockOwner("p/" + kFiles[i]);
     char word[32];
     std::snprintf(word, sizeof word, " is %x", static_cast<unsigned>(words[i]));
     const std::string what = user.name + ": " + kFiles[i] + word + ", and in HEAD it is ";
     if (inHead) {
-      Require(has(scc::SCC_STATUS_CONTROLLED) && !has(scc::SCC_STATUS_DELETED), what + "there");
+      Require(has(SCC_STATUS_CONTROLLED) && !has(SCC_STATUS_DELETED), what + "there");
       Require(has(kOut) == owner.has_value(), what + (owner ? "locked by " + *owner : "not locked"));
     } else {
-      Require(words[i] == 0 || has(scc::SCC_STATUS_DELETED), what + "not there");
+      Require(words[i] == 0 || has(SCC_STATUS_DELETED), what + "not there");
     }
   }
 }
@@ -350,37 +330,38 @@ void TRandomWork::CheckPlainStatus(TUser& user) {
   const std::string output = temporary / "status";
   const std::string line = "cd '" + user.developer.Folder() + "' && svn status -uv >" + output;
   Require(std::system(line.c_str()) == 0, "svn status -u failed");
-  const NameList words = LinesOf(ReadWholeFile(output));
-  const auto find = [&](const std::string& name) {
-    return std::find_if(words.begin(), words.end(),
-                        [&](const auto& word) { return word.size() > 9 && word.ends_with(" " + name); });
+  const NameList lines = LinesOf(ReadWholeFile(output));
+  const auto lineOf = [&](const std::string& name) -> std::string {
+    const auto found = std::ranges::find_if(
+        lines, [&](const auto& each) { return each.size() > 9 && each.ends_with(" " + name); });
+    return found != lines.end() ? *found : "?         no line";
   };
   // Of a folder that was deleted and made again Subversion says that all in it is old.
   const auto isFolderOld = [&](const std::string& name) {
-    return std::any_of(kFolders.begin(), kFolders.end(), [&](const auto& folder) {
-      const auto told = find(folder);
-      return name.starts_with(folder + "/") && told != words.end() && told->at(8) == '*';
+    return std::ranges::any_of(kFolders, [&](const auto& folder) {
+      return name.starts_with(folder + "/") && lineOf(folder)[8] == '*';
     });
   };
+  struct TRow {
+    std::size_t Column;
+    char Letter;
+    Long Bits;
+  };
+  static constexpr TRow kRows[] = {{0, 'M', kModified}, {0, 'C', kModified}, {0, 'C', kMerged},
+                                   {5, 'O', kOut},      {5, 'T', kOut},      {6, 'C', kMerged}};
   for (const auto& name : kFiles) {
-    const auto told = find(name);
-    const scc::Long bits = user.developer.Status(name);
-    const auto has = [&](scc::Long bit) { return (bits & bit) != 0; };
-    const std::string what = user.name + ": svn status says '" + (told != words.end() ? *told : "") +
-                             "', we " + std::to_string(bits);
-    if (told == words.end() || told->front() == '?') {
-      if (told == words.end() || told->at(8) != '*') Require(bits == 0 || has(0x20), what);
+    const std::string letters = lineOf(name);
+    const Long bits = user.developer.Status(name);
+    const auto has = [&](Long bit) { return (bits & bit) != 0; };
+    const std::string what = user.name + ": svn status says '" + letters + "', we " + std::to_string(bits);
+    if (letters[0] == '?') {
+      if (letters[8] != '*') Require(bits == 0 || has(kOutOfDate), what);
       continue;
     }
-    if (told->at(8) == '*' && !isFolderOld(name))
-      Require(has(scc::SCC_STATUS_OUTOFDATE | scc::SCC_STATUS_DELETED), what);
-    Require(has(scc::SCC_STATUS_CHECKEDOUT) == (told->at(5) == 'K'), what);
-    if (told->at(5) == 'O' || told->at(5) == 'T')
-      Require(has(kOut) && !has(scc::SCC_STATUS_CHECKEDOUT), what);
-    if (told->at(0) == 'M' || told->at(0) == 'C') Require(has(scc::SCC_STATUS_MODIFIED), what);
-    if (told->at(0) == 'C' || told->at(6) == 'C') Require(has(scc::SCC_STATUS_MERGED), what);
-    if (told->starts_with("         "))
-      Require(!has(scc::SCC_STATUS_MODIFIED | scc::SCC_STATUS_MERGED), what);
+    if (letters[8] == '*' && !isFolderOld(name)) Require(has(kOutOfDate | kDeleted), what);
+    Require(has(SCC_STATUS_CHECKEDOUT) == (letters[5] == 'K'), what);
+    for (const auto& row : kRows) Require(letters[row.Column] != row.Letter || has(row.Bits), what);
+    if (letters.starts_with("         ")) Require(!has(kModified | kMerged), what);
   }
 }
 
@@ -390,23 +371,23 @@ void TRandomWork::LeadOut(TUser& user, TUser& other, const std::string& name) {
   other.developer.Undo({name});
   if (repository_.LockOwner("p/" + name)) Svn("unlock --force " + repository_.Url() + "/p/" + name);
   std::string said = "lead out " + user.name + " " + name + "\n";
-  const auto note = [&](const char* what, scc::Long result) {
+  const auto note = [&](const char* what, Long result) {
     said += what + std::string(": ") + std::to_string(result) + "\n" + work.Said();
     return result;
   };
   note("undo", work.Undo({name}));
-  if (note("get", work.Get({name})) == scc::SCC_E_FIXMERGE) note("undo", work.Undo({name}));
+  if (note("get", work.Get({name})) == SCC_E_FIXMERGE) note("undo", work.Undo({name}));
   if (!repository_.Exists("p/" + name)) {
     if (!work.Has(name)) Save(user, name, Token() + "\n");
     note("add", work.Add({name}));
   }
-  const bool out = note("check out", work.CheckOut({name})) == scc::SCC_OK;
+  const bool out = note("check out", work.CheckOut({name})) == SCC_OK;
   Save(user, name, Token() + "\n" + (work.Has(name) ? work.Read(name) : ""));
-  const bool in = note("check in", work.CheckIn({name})) == scc::SCC_OK;
+  const bool in = note("check in", work.CheckIn({name})) == SCC_OK;
   story_.push_back(said);
   Require(out && in && repository_.Contents("p/" + name) == work.Read(name), "no way out of " + name);
-  for (const auto& [file, text] : InHead()) stored_.merge(TokensIn(text));
-  for (TUser* each : {&ann_, &bob_}) CheckNothingVanished(*each);
+  NoteStored();
+  CheckNothingVanished();
 }
 
 void TRandomWork::Require(bool holds, const std::string& what) {

@@ -31,21 +31,23 @@ class TRandomWork {
   unsigned Roll(unsigned count) { return std::uniform_int_distribution<unsigned>(0, count - 1)(random_); }
   bool Chance(unsigned percent) { return Roll(100) < percent; }
   const std::string& AnyFile();
-  std::vector<std::string> SomeFiles();
+  NameList SomeFiles();
 
   void Step(TUser& user);
   void Type(TUser& user, const std::string& name);
   void Command(TUser& user);
   void WorkWithPlainSvn();
+  void PutWithPlainSvn(const std::string& name);
   void Svn(const std::string& arguments, bool mucc = false);
   std::string Token() { return "t" + std::to_string(++tokens_) + "."; }
   void Save(TUser& user, const std::string& name, const std::string& text);
 
   Texts OnDisk(const TUser& user) const;
   Texts InHead() const;
-  void CheckNothingVanished(TUser& user);
+  void NoteStored();
+  void CheckNothingVanished();
   void CheckHandedIn(const TUser& user, const Texts& before, const Texts& disk, bool removed);
-  void CheckUnnamed(const TUser& user, const Texts& before, const std::vector<std::string>& named);
+  void CheckUnnamed(const TUser& user, const Texts& before, const NameList& named);
   void CheckAnswer(TUser& user, const std::string& command, const std::string& name, const Texts& before);
   void CheckStatuses(TUser& user);
   void CheckPlainStatus(TUser& user);
@@ -60,7 +62,7 @@ class TRandomWork {
   std::mt19937 random_;
   int tokens_ = 0;
   Tokens stored_;  // in any revision
-  std::vector<std::string> story_;
+  NameList story_;
 };
 
 }  // namespace kestrel::svnscc

@@ -1,7 +1,6 @@
 #include "TestRepository.h"
 
 #include <svn_fs.h>
-#include <svn_props.h>
 #include <svn_repos.h>
 
 #include <cstdlib>
@@ -11,9 +10,6 @@
 #include "subversion/svn/Repository.h"
 
 namespace kestrel::svnscc {
-
-using svnscc::Check;
-using svnscc::Pool;
 
 namespace {
 
@@ -32,14 +28,7 @@ struct Open {
   svn_revnum_t youngest = 0;
 };
 
-std::string RevisionProperty(const std::string& folder, svn_revnum_t revision, const char* name) {
-  const Open open(folder);
-  svn_string_t* value = nullptr;
-  Check(svn_fs_revision_prop2(&value, open.fs, revision, name, TRUE, open.pool, open.pool));
-  return value != nullptr ? value->data : "";
-}
-
-svn_lock_t* LockOf(const Open& open, const std::string& path) {
+const svn_lock_t* LockOf(const Open& open, const std::string& path) {
   svn_lock_t* lock = nullptr;
   Check(svn_fs_get_lock(&lock, open.fs, ("/" + path).c_str(), open.pool));
   return lock;
@@ -56,8 +45,8 @@ TTestRepository::TTestRepository()
     : configuration_("SUBVERSION_SCC_CONFIG_DIR", temporary_.MakeFolder("config").c_str()),
       registry_("CORVANE_REGISTRY_DIR", temporary_.MakeFolder("registry").c_str()),
       folder_(temporary_ / "repository"),
-      url_(svnscc::CreateRepository(folder_)) {
-  svnscc::MarkUsed(url_);
+      url_(CreateRepository(folder_)) {
+  MarkUsed(url_);
   SetLimit("remember-seconds", 0);  // users see each other's work at once
 }
 
@@ -65,16 +54,15 @@ void TTestRepository::SetLimit(const std::string& name, int seconds) const {
   temporary_.Write("config/config", "[subversion-scc]\n" + name + " = " + std::to_string(seconds) + "\n");
 }
 
-void TTestRepository::Choose(const std::string& project) const { svnscc::MarkProjectUsed(url_, project); }
+void TTestRepository::Choose(const std::string& project) const { MarkProjectUsed(url_, project); }
 
 svn_revnum_t TTestRepository::Youngest() const { return Open(folder_).youngest; }
 
-std::string TTestRepository::Log(svn_revnum_t revision) const {
-  return RevisionProperty(folder_, revision, SVN_PROP_REVISION_LOG);
-}
-
-std::string TTestRepository::Author(svn_revnum_t revision) const {
-  return RevisionProperty(folder_, revision, SVN_PROP_REVISION_AUTHOR);
+std::string TTestRepository::RevisionProperty(svn_revnum_t revision, const char* name) const {
+  const Open open(folder_);
+  svn_string_t* value = nullptr;
+  Check(svn_fs_revision_prop2(&value, open.fs, revision, name, TRUE, open.pool, open.pool));
+  return value ? value->data : "";
 }
 
 bool TTestRepository::Exists(const std::string& path) const {
@@ -106,12 +94,6 @@ std::optional<std::string> TTestRepository::LockOwner(const std::string& path) c
   return lock != nullptr ? std::optional<std::string>(lock->owner) : std::nullopt;
 }
 
-std::string TTestRepository::LockComment(const std::string& path) const {
-  const Open open(folder_);
-  const svn_lock_t* lock = LockOf(open, path);
-  return lock != nullptr && lock->comment != nullptr ? lock->comment : "";
-}
-
 void TTestRepository::BreakLock(const std::string& path) const {
   const Open open(folder_);
   const svn_lock_t* lock = LockOf(open, path);
@@ -123,7 +105,7 @@ void TTestRepository::BreakLock(const std::string& path) const {
 
 void TTestRepository::WriteHook(const std::string& name, const std::string& script) const {
   const std::string file = temporary_.Write("repository/hooks/" + name, "#!/bin/sh\n" + script);
-  std::filesystem::permissions(file, std::filesystem::perms::owner_all);
+  fs::permissions(file, fs::perms::owner_all);
 }
 
 }  // namespace kestrel::svnscc

@@ -4,10 +4,10 @@
 #include <svn_types.h>
 
 #include <optional>
-#include <string>
 
 #include "support/Environment.h"
 #include "support/TemporaryFolder.h"
+#include "support/Testing.h"
 
 namespace kestrel::svnscc {
 
@@ -27,21 +27,25 @@ class TTestRepository {
   void Choose(const std::string& project) const;
 
   svn_revnum_t Youngest() const;
-  std::string Log(svn_revnum_t revision) const;
-  std::string Author(svn_revnum_t revision) const;
+  std::string Log(svn_revnum_t revision) const { return RevisionProperty(revision, "svn:log"); }
+  std::string Author(svn_revnum_t revision) const { return RevisionProperty(revision, "svn:author"); }
   bool Exists(const std::string& path) const;
   /// Contents at the newest revision.
   std::string Contents(const std::string& path) const;
   std::optional<std::string> Property(const std::string& path, const char* name) const;
   std::optional<std::string> LockOwner(const std::string& path) const;
-  std::string LockComment(const std::string& path) const;
 
   /// Takes a lock away as an administrator does.
   void BreakLock(const std::string& path) const;
+  /// Makes the repository unreachable.
+  void Hide() const { fs::rename(folder_, folder_ + "-gone"); }
+  void Show() const { fs::rename(folder_ + "-gone", folder_); }
   /// An executable hook, run by the repository.
   void WriteHook(const std::string& name, const std::string& script) const;
 
  private:
+  std::string RevisionProperty(svn_revnum_t revision, const char* name) const;
+
   TTemporaryFolder temporary_;
   TEnvironmentVariable configuration_;  // nobody's own settings
   TEnvironmentVariable registry_;

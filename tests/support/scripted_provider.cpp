@@ -59,11 +59,23 @@ Long Play(const ScriptedCall& call, Long result = SCC_OK) {
   return scripted != script.Results.end() ? scripted->second : result;
 }
 
-ScriptedCall Called(const char* entry, const void* context, WindowHandle window = nullptr) {
+ScriptedCall Called(const char* entry, const void* context, WindowHandle window = nullptr,
+                    std::vector<std::string> files = {}) {
   ScriptedCall call;
   call.Entry = entry;
   call.Context = context;
   call.Window = window;
+  call.Files = std::move(files);
+  return call;
+}
+
+ScriptedCall Identified(const char* entry, const void* context, WindowHandle window, const char* user,
+                        const char* projectName, const char* localPath, const char* auxPath) {
+  ScriptedCall call = Called(entry, context, window);
+  call.User = user;
+  call.ProjName = projectName;
+  call.LocalPath = localPath;
+  call.AuxPath = auxPath;
   return call;
 }
 
@@ -158,11 +170,7 @@ Long SCC_CALL SccSetOption(void* context, Long option, Long value) {
 
 Long SCC_CALL SccGetProjPath(void* context, WindowHandle window, char* user, char* projectName,
                              char* localPath, char* auxPath, Bool allowChangePath, Bool* isNew) {
-  ScriptedCall call = Called("SccGetProjPath", context, window);
-  call.User = user;
-  call.ProjName = projectName;
-  call.LocalPath = localPath;
-  call.AuxPath = auxPath;
+  ScriptedCall call = Identified("SccGetProjPath", context, window, user, projectName, localPath, auxPath);
   call.Allowed = allowChangePath == -1;
   call.IsNew = *isNew == -1;
   PutIdentity(script.GetProjPath, user, projectName, auxPath);
@@ -174,11 +182,7 @@ Long SCC_CALL SccGetProjPath(void* context, WindowHandle window, char* user, cha
 Long SCC_CALL SccOpenProject(void* context, WindowHandle window, char* user, char* projectName,
                              const char* localPath, char* auxPath, const char* comment, TTextOutProc textOut,
                              Long flags) {
-  ScriptedCall call = Called("SccOpenProject", context, window);
-  call.User = user;
-  call.ProjName = projectName;
-  call.LocalPath = localPath;
-  call.AuxPath = auxPath;
+  ScriptedCall call = Identified("SccOpenProject", context, window, user, projectName, localPath, auxPath);
   call.Comment = Text(comment);
   call.Flags = flags;
   call.TextOut = textOut != nullptr;
@@ -214,35 +218,25 @@ Long SCC_CALL SccPopulateList(void* context, SCCCommand command, Long count, con
   return Play(call);
 }
 
-Long SCC_CALL SccCheckout(void* context, WindowHandle window, Long count, const char** names,
-                          const char* comment, Long flags, void* options) {
-  return PlayFiles("SccCheckout", context, window, count, names, comment, flags, options);
-}
-
-Long SCC_CALL SccCheckin(void* context, WindowHandle window, Long count, const char** names,
-                         const char* comment, Long flags, void* options) {
-  return PlayFiles("SccCheckin", context, window, count, names, comment, flags, options);
-}
-
-Long SCC_CALL SccRemove(void* context, WindowHandle window, Long count, const char** names,
-                        const char* comment, Long flags, void* options) {
-  return PlayFiles("SccRemove", context, window, count, names, comment, flags, options);
-}
-
-Long SCC_CALL SccGet(void* context, WindowHandle window, Long count, const char** names, Long flags,
-                     void* options) {
-  return PlayFiles("SccGet", context, window, count, names, nullptr, flags, options);
-}
-
-Long SCC_CALL SccUncheckout(void* context, WindowHandle window, Long count, const char** names, Long flags,
-                            void* options) {
-  return PlayFiles("SccUncheckout", context, window, count, names, nullptr, flags, options);
-}
-
-Long SCC_CALL SccHistory(void* context, WindowHandle window, Long count, const char** names, Long flags,
-                         void* options) {
-  return PlayFiles("SccHistory", context, window, count, names, nullptr, flags, options);
-}
+// These differ in their names only.
+#define SCRIPTED_COMMAND(name)                                                           \
+  Long SCC_CALL name(void* context, WindowHandle window, Long count, const char** names, \
+                     const char* comment, Long flags, void* options) {                   \
+    return PlayFiles(#name, context, window, count, names, comment, flags, options);     \
+  }
+SCRIPTED_COMMAND(SccCheckout)
+SCRIPTED_COMMAND(SccCheckin)
+SCRIPTED_COMMAND(SccRemove)
+#undef SCRIPTED_COMMAND
+#define SCRIPTED_COMMAND(name)                                                                       \
+  Long SCC_CALL name(void* context, WindowHandle window, Long count, const char** names, Long flags, \
+                     void* options) {                                                                \
+    return PlayFiles(#name, context, window, count, names, nullptr, flags, options);                 \
+  }
+SCRIPTED_COMMAND(SccGet)
+SCRIPTED_COMMAND(SccUncheckout)
+SCRIPTED_COMMAND(SccHistory)
+#undef SCRIPTED_COMMAND
 
 Long SCC_CALL SccAdd(void* context, WindowHandle window, Long count, const char** names, const char* comment,
                      Long* flags, void* options) {
@@ -256,8 +250,7 @@ Long SCC_CALL SccAdd(void* context, WindowHandle window, Long count, const char*
 }
 
 Long SCC_CALL SccDiff(void* context, WindowHandle window, const char* name, Long flags, void* options) {
-  ScriptedCall call = Called("SccDiff", context, window);
-  call.Files = {name};
+  ScriptedCall call = Called("SccDiff", context, window, {name});
   call.Flags = flags;
   call.Options = options;
   // For a program that the script cannot reach: how long a difference takes.
@@ -267,15 +260,11 @@ Long SCC_CALL SccDiff(void* context, WindowHandle window, const char* name, Long
 }
 
 Long SCC_CALL SccProperties(void* context, WindowHandle window, const char* name) {
-  ScriptedCall call = Called("SccProperties", context, window);
-  call.Files = {name};
-  return Play(call);
+  return Play(Called("SccProperties", context, window, {name}));
 }
 
 Long SCC_CALL SccRename(void* context, WindowHandle window, const char* name, const char* newName) {
-  ScriptedCall call = Called("SccRename", context, window);
-  call.Files = {name, newName};
-  return Play(call);
+  return Play(Called("SccRename", context, window, {name, newName}));
 }
 
 Long SCC_CALL SccRunScc(void* context, WindowHandle window, Long count, const char** names) {

@@ -1,5 +1,4 @@
-#include "support/RunProgram.h"
-
+// What the tests need of the platform.
 #include <fcntl.h>
 #include <spawn.h>
 #include <sys/wait.h>
@@ -7,9 +6,32 @@
 
 #include <stdexcept>
 
+#include "support/Environment.h"
+#include "support/PlainUser.h"
+#include "support/RunProgram.h"
 #include "support/TemporaryFolder.h"
+#include "support/TestRegistry.h"
 
 namespace kestrel {
+
+void SetEnvironment(const char* name, const char* value) { value ? setenv(name, value, 1) : unsetenv(name); }
+
+TPlainUser::TPlainUser() {
+  constexpr uid_t kNobody = 65534;
+  changed_ = geteuid() == 0 && seteuid(kNobody) == 0;
+}
+
+TPlainUser::~TPlainUser() {
+  if (changed_ && seteuid(0) != 0) _exit(1);  // nobody could clean up
+}
+
+struct TTestRegistry::TImpl {
+  TTemporaryFolder Folder;
+  TEnvironmentVariable Variable{"CORVANE_REGISTRY_DIR", Folder.Path().c_str()};
+};
+
+TTestRegistry::TTestRegistry() : impl_(std::make_unique<TImpl>()) {}
+TTestRegistry::~TTestRegistry() = default;
 
 TProgramResult RunProgram(const std::string& program, const std::vector<std::string>& arguments) {
   const TTemporaryFolder folder;

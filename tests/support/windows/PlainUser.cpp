@@ -1,8 +1,0 @@
-#include "support/PlainUser.h"
-
-namespace kestrel {
-
-TPlainUser::TPlainUser() = default;
-TPlainUser::~TPlainUser() = default;
-
-}  // namespace kestrel
