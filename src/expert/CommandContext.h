@@ -5,6 +5,7 @@
 
 #include "expert/Activities.h"
 #include "expert/ExpertUi.h"
+#include "expert/FileStatuses.h"
 #include "expert/MessageLog.h"
 #include "expert/ProviderContext.h"
 
@@ -15,7 +16,8 @@ struct TCommandContext {
   IExpertUi& Ui;
   TMessageLog Log{Ui};
   TActivities Activities{ProviderCallInProgress};
-  TProviderContext Provider{Log, Activities};
+  TFileStatuses Statuses{};
+  TProviderContext Provider{Log, Activities, Statuses};
 };
 
 }  // namespace kestrel::addin

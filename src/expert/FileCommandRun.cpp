@@ -87,6 +87,20 @@ void TFileCommandRun::Execute() {
     CallTogether();
 }
 
+bool TFileCommandRun::ExecuteAtOnce() {
+  directory_ = ExtractFileDir(GetCurrentProjectFile());
+  Gather();
+  AppendCompanions(fileName_, allIndex_, selected_, command_.OnlyExisting, statuses_);
+  std::erase_if(selected_, [&](const std::string& companion) {
+    return !command_.Eligible(context_.Statuses.Of(companion).value_or(scc::SCC_STATUS_INVALID));
+  });
+  selected_.push_back(fileName_);  // last: CallOneByOne() returns its result
+  SaveSelected();
+  const bool done = !selected_.empty() && SameText(selected_.back(), fileName_) && CallOneByOne();
+  Reload(done);
+  return done;
+}
+
 TSCCProviderProject& TFileCommandRun::Project() {
   context_.Activities.RunWaiting();
   return context_.Provider.SelectProject(directory_, command_.NoProvider);
@@ -105,7 +119,8 @@ void TFileCommandRun::Gather() {
   const TCallProgress progress(context_.Ui, command_.List, TCallProgress::Kind::Status, sAskingStatus,
                                allFiles_);
   // Files of unknown status are not offered; the message window has the reason.
-  if (!Project().Query(allFiles_, statuses_, messages)) WriteFailure(command_.Single, messages);
+  if (!context_.Statuses.Query(Project(), allFiles_, statuses_, messages))
+    WriteFailure(command_.Single, messages);
 }
 
 void TFileCommandRun::SelectEligible() {
@@ -183,7 +198,8 @@ bool TFileCommandRun::SaveSelected() {
 }
 
 bool TFileCommandRun::CallProvider(const TStringList& files) {
-  const auto [done, messages] = command_.Run(Project(), {files, comment_, keepCheckedOut_});
+  const auto [done, messages] =
+      command_.Run(Project(), context_.Statuses, {files, comment_, keepCheckedOut_});
   if (done) {  // the comment has reached the provider, even if later calls fail
     comments_.RecordUsed(commentPlace_, comment_);
     comments_.Save();

@@ -16,6 +16,9 @@ class TFileCommandRun {
   TFileCommandRun(TCommandContext& context, const TFileCommand& command, const std::string& fileName);
   /// Throws EAbort when the command cannot continue.
   void Execute();
+  /// For a named file: without list, comment and final box.  Includes the companions that are eligible.  Returns whether
+  /// the provider succeeded for the file itself; otherwise the reason has been shown.
+  bool ExecuteAtOnce();
 
  private:
   /// To be called before every provider call: the dialogs in between run message loops in which the host may close the

@@ -18,20 +18,26 @@ using ExtraBox = TFileListModel::ExtraBox;
 constexpr bool All(Long status, Long bits) { return (status & bits) == bits; }
 constexpr bool None(Long status, Long bits) { return (status & bits) == 0; }
 
+constexpr Long kOutToMe = SCC_STATUS_CONTROLLED | SCC_STATUS_CHECKEDOUT | SCC_STATUS_OUTBYUSER;
+constexpr Long StoredOrOut(Long, bool keepCheckedOut) {
+  return keepCheckedOut ? kOutToMe : Long{SCC_STATUS_CONTROLLED};
+}
+
 }  // namespace
 
-TCallResult TFileCommand::Run(TSCCProviderProject& project, const TFileCommandCall& call) const {
+TCallResult TFileCommand::Run(TSCCProviderProject& project, TFileStatuses& statuses,
+                              const TFileCommandCall& call) const {
   TCallResult result;
   result.Done = Call(project, call, result.Messages);
+  if (result.Done)
+    statuses.Apply(call.Files, [&](Long before) { return StatusAfter(before, call.KeepCheckedOut); });
   return result;
 }
 
 bool CanAdd(Long status) { return status == SCC_STATUS_NOTCONTROLLED || All(status, SCC_STATUS_DELETED); }
 bool CanRemove(Long status) { return All(status, SCC_STATUS_CONTROLLED) && None(status, SCC_STATUS_DELETED); }
 bool CanGet(Long status) { return All(status, SCC_STATUS_CONTROLLED); }
-bool CanCheckIn(Long status) {
-  return All(status, SCC_STATUS_CONTROLLED | SCC_STATUS_CHECKEDOUT | SCC_STATUS_OUTBYUSER);
-}
+bool CanCheckIn(Long status) { return All(status, kOutToMe); }
 // A file that another user has out, but not exclusively, may be checked out.
 bool CanCheckOut(Long status) {
   return All(status, SCC_STATUS_CONTROLLED) && None(status, SCC_STATUS_OUTBYUSER | SCC_STATUS_DELETED) &&
@@ -43,6 +49,7 @@ const TFileCommand kAddFiles{
     .Command = SCC_COMMAND_ADD,
     .Eligible = CanAdd,
     .Call = [](auto& p, auto& c, auto& m) { return p.AddFile(c.Files, c.Comment, c.KeepCheckedOut, m); },
+    .StatusAfter = StoredOrOut,
     .CallKind = PerFileCounting,
     .CommentCapability = pcCommentAdd,
     .SaveAllFirst = true,
@@ -64,6 +71,7 @@ const TFileCommand kRemoveFiles{
     .Command = SCC_COMMAND_REMOVE,
     .Eligible = CanRemove,
     .Call = [](auto& p, auto& c, auto& m) { return p.RemoveFile(c.Files, m); },
+    .StatusAfter = [](Long, bool) { return Long{SCC_STATUS_NOTCONTROLLED}; },
     .CallKind = Batch,
     .HelpKeyword = "HC_TeamRemoveFiles",
     .NoProvider = sRemoveFilesNoProvider,
@@ -79,6 +87,7 @@ const TFileCommand kGetLatestVersion{
     .Command = SCC_COMMAND_GET,
     .Eligible = CanGet,
     .Call = [](auto& p, auto& c, auto& m) { return p.GetFile(c.Files, m) == SCC_OK; },
+    .StatusAfter = [](Long before, bool) { return before & ~SCC_STATUS_OUTOFDATE; },
     .CallKind = Batch,
     .ReloadKind = OnSuccess,
     .NoProvider = sGetFilesNoProvider,
@@ -94,6 +103,7 @@ const TFileCommand kCheckInFiles{
     .Command = SCC_COMMAND_CHECKIN,
     .Eligible = CanCheckIn,
     .Call = [](auto& p, auto& c, auto& m) { return p.CheckInFile(c.Files, c.Comment, c.KeepCheckedOut, m); },
+    .StatusAfter = StoredOrOut,
     .CallKind = Batch,
     .CommentCapability = pcCommentCheckIn,
     .SaveAllFirst = true,
@@ -114,6 +124,7 @@ const TFileCommand kCheckOutFiles{
     .Command = SCC_COMMAND_CHECKOUT,
     .Eligible = CanCheckOut,
     .Call = [](auto& p, auto& c, auto& m) { return p.CheckOutFile(c.Files, c.Comment, m); },
+    .StatusAfter = [](Long before, bool) { return kOutToMe | (before & SCC_STATUS_MODIFIED); },
     .CallKind = PerFile,
     .CommentCapability = pcCommentCheckOut,
     .ReloadKind = Always,
@@ -131,6 +142,7 @@ const TFileCommand kUndoCheckOut{
     .Command = SCC_COMMAND_UNCHECKOUT,
     .Eligible = CanUndoCheckOut,
     .Call = [](auto& p, auto& c, auto& m) { return p.UnCheckOutFile(c.Files, m); },
+    .StatusAfter = [](Long, bool) { return Long{SCC_STATUS_CONTROLLED}; },
     .CallKind = Batch,
     .ClearReadOnly = true,
     .ReloadKind = OnSuccess,

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "expert/FileListModel.h"
+#include "expert/FileStatuses.h"
 #include "provider/sccapiintf.h"
 #include "system/Text.h"
 
@@ -31,6 +32,8 @@ struct TFileCommand {
   /// Whether a command on the whole project offers a file of that status.
   bool (*Eligible)(scc::Long status);
   bool (*Call)(TSCCProviderProject& project, const TFileCommandCall& call, TStateMessages& messages);
+  /// The status of a file after a call that succeeded.
+  scc::Long (*StatusAfter)(scc::Long before, bool keepCheckedOut);
   Calls CallKind;
   std::optional<TProviderCapabilityFlags> CommentCapability =
       {};  ///< asks for a comment if the provider has this capability
@@ -52,7 +55,8 @@ struct TFileCommand {
   TResString OneDone;  ///< follows the file name
   TResString SeveralDone;
 
-  TCallResult Run(TSCCProviderProject& project, const TFileCommandCall& call) const;
+  /// Calls the provider; records in `statuses` what that changed.
+  TCallResult Run(TSCCProviderProject& project, TFileStatuses& statuses, const TFileCommandCall& call) const;
 };
 
 extern const TFileCommand kAddFiles;

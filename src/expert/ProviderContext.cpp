@@ -118,6 +118,11 @@ void TProviderContext::Load(TWindowHandle window) {
   list_ = std::make_unique<TSCCProviderList>(path_, window, userName_);
 }
 
+void TProviderContext::SetOpenProjectFile(const std::string& projectFile) {
+  openProjectFile_ = projectFile;
+  statuses_.Show(projectFile);
+}
+
 // Providers may require that SccUninitialize is called with no project open.
 void TProviderContext::Release() {
   activities_.RequireNoProviderCall();
@@ -127,6 +132,7 @@ void TProviderContext::Release() {
   }
   list_.reset();
   openProjectFile_.clear();
+  statuses_.Hide();
 }
 
 bool TProviderContext::ProjectExists(const std::string& mappingFile) {

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "expert/Activities.h"
+#include "expert/FileStatuses.h"
 #include "expert/MessageLog.h"
 #include "provider/sccapiintf.h"
 
@@ -23,8 +24,9 @@ struct TProjectBinding {
 /// of the message window and do not throw.
 class TProviderContext {
  public:
-  /// `log` and `activities` are borrowed.
-  TProviderContext(TMessageLog& log, const TActivities& activities) : log_(log), activities_(activities) {}
+  /// All are borrowed.  `statuses` are shown while a project is open.
+  TProviderContext(TMessageLog& log, const TActivities& activities, TFileStatuses& statuses)
+      : log_(log), activities_(activities), statuses_(statuses) {}
   TProviderContext(const TProviderContext&) = delete;
   TProviderContext& operator=(const TProviderContext&) = delete;
   /// Releases the provider.  The library stays loaded while one of its functions is on the stack.
@@ -41,7 +43,7 @@ class TProviderContext {
   void SetProjectNotMapped(bool notMapped) { projectNotMapped_ = notMapped; }
   /// The host project whose provider project is open; empty when none is.
   const std::string& OpenProjectFile() const { return openProjectFile_; }
-  void SetOpenProjectFile(const std::string& projectFile) { openProjectFile_ = projectFile; }
+  void SetOpenProjectFile(const std::string& projectFile);
 
   /// Throws EAbort with `noProvider` when no provider is loaded.
   TSCCProviderList& RequireList(const std::string& noProvider) const;
@@ -82,6 +84,7 @@ class TProviderContext {
 
   TMessageLog& log_;
   const TActivities& activities_;
+  TFileStatuses& statuses_;
   std::string name_;
   std::string path_;
   std::string userName_;

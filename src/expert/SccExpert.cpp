@@ -1,5 +1,9 @@
 #include "expert/SccExpert.h"
 
+#include <algorithm>
+#include <array>
+#include <utility>
+
 #include "expert/EditorNotifiers.h"
 #include "expert/FileCommandRun.h"
 #include "expert/SccExpertStrings.h"
@@ -14,7 +18,11 @@ namespace kestrel::addin {
 
 TSccExpert* aSccExpert = nullptr;
 
-TSccExpert::TSccExpert(IExpertUi& ui) : context_(ui) {
+TSccExpert::TSccExpert(IExpertUi& ui, TClock clock)
+    : context_(ui),
+      reopening_(std::move(clock)),
+      checkOutOffer_{[this](const auto& file) { return IsCheckOutOffered(file); },
+                     [this](const auto& file) { return CheckOutAtOnce(file); }} {
   RunCatching(
       [this] { Create(); },
       [&](const std::exception& error) { ui.ShowBox(Format(sExpertCreateError, {error.what()}), metError); });
@@ -31,11 +39,13 @@ void TSccExpert::Create() {
   WriteMessageFmt(mwtInfo, sProviderLine, {ProviderName()});
   ideNotifier_ = std::make_shared<TSccIDENotifier>(*this);
   ideNotifierIndex_ = services->AddNotifier(ideNotifier_);
+  if (auto* states = IdeService<IOTAFileStateServices>()) states->InsertCheckOutOffer(checkOutOffer_);
   formEditorManager_ = std::make_unique<TFormEditorManager>(*this);
   sourceEditorManager_ = std::make_unique<TSourceEditorManager>(*this);
 }
 
 TSccExpert::~TSccExpert() {
+  if (auto* states = IdeService<IOTAFileStateServices>()) states->RemoveCheckOutOffer(checkOutOffer_);
   menu_.reset();
   if (ideNotifierIndex_)
     if (auto* services = IdeService<IOTAServices>()) services->RemoveNotifier(*ideNotifierIndex_);
@@ -131,6 +141,29 @@ void TSccExpert::CheckOutFiles(const std::string& fileName) {
 }
 void TSccExpert::UndoCheckOut(const std::string& fileName) {
   TFileCommandRun(context_, kUndoCheckOut, fileName).Execute();
+}
+
+bool TSccExpert::IsAllowed(TFileAction action, const std::string& fileName) const {
+  // In the order of TFileAction.
+  static constexpr std::array kEligible{CanCheckOut,     CanCheckIn, CanAdd, CanRemove,
+                                        CanUndoCheckOut, CanGet,     CanGet};
+  const auto status = context_.Statuses.Of(fileName);
+  return !status || kEligible[static_cast<std::size_t>(action)](*status);
+}
+
+bool TSccExpert::IsCheckOutOffered(const std::string& fileName) const {
+  if (!HasProviderProject() || context_.Activities.Check(TActivity::Command) != TActivities::TVerdict::Start)
+    return false;
+  if (const auto status = context_.Statuses.Of(fileName)) return CanCheckOut(*status);
+  return std::ranges::any_of(CurrentProjectFiles(/*onlyExisting*/ false),
+                             [&](const auto& file) { return SameText(file, fileName); });
+}
+
+bool TSccExpert::CheckOutAtOnce(const std::string& fileName) {
+  bool done = false;
+  RunCommand(sCheckFilesOutError,
+             [&] { done = TFileCommandRun(context_, kCheckOutFiles, fileName).ExecuteAtOnce(); });
+  return done;
 }
 
 }  // namespace kestrel::addin

@@ -12,6 +12,7 @@
 #include "expert/Edits.h"
 #include "expert/ProjectFiles.h"
 #include "expert/ProviderWindows.h"
+#include "expert/Reopening.h"
 #include "expert/SccSystem.h"
 #include "host/Services.h"
 #include "ui/ExpertMainMenu.h"
@@ -26,7 +27,7 @@ class TSccExpert final : public TNotifierObject, public IOTAWizard, public ITeam
  public:
   /// `ui` is borrowed and must outlive the expert.  Never throws: a failure is shown in a box, and the expert keeps what
   /// was set before it.
-  explicit TSccExpert(IExpertUi& ui);
+  explicit TSccExpert(IExpertUi& ui, TClock clock = std::chrono::steady_clock::now);
   ~TSccExpert() override;
 
   // Identity, called by the host.
@@ -71,6 +72,7 @@ class TSccExpert final : public TNotifierObject, public IOTAWizard, public ITeam
   void EnableActiveMenu();
   std::string CurrentFile() const override { return rv_GetCurrentFile(); }
   bool HasProviderProject() const override { return context_.Provider.CurrentProject() != nullptr; }
+  bool IsAllowed(TFileAction action, const std::string& fileName) const override;
   std::optional<bool> HasProviderApplication() const override;
   void RunCommand(std::string_view format, const std::function<void()>& command) noexcept override;
   void RunMenuOpening(std::string_view format, const std::function<void()>& refresh) noexcept override;
@@ -97,6 +99,10 @@ class TSccExpert final : public TNotifierObject, public IOTAWizard, public ITeam
   void CheckInFiles(const std::string& fileName) override;
   void CheckOutFiles(const std::string& fileName) override;
   void UndoCheckOut(const std::string& fileName) override;
+
+  // For the host, when the user edits a read-only file; see TCheckOutOffer.
+  bool IsCheckOutOffered(const std::string& fileName) const;
+  bool CheckOutAtOnce(const std::string& fileName);
 
   // The provider's own windows.
   void ShowDiff(const std::string& fileName) override { addin::ShowDiff(context_, fileName); }
@@ -134,16 +140,21 @@ class TSccExpert final : public TNotifierObject, public IOTAWizard, public ITeam
   void Run(TActivity activity, std::string_view format, const std::function<void()>& body) noexcept;
   /// Loads the provider and opens its project, unless a provider is loaded.
   void PrepareProvider(const std::string& project);
-  void OpenProviderProject(const std::string& fileName);
+  /// How the opening of a project reports that it failed: with a box, or in the message window only.
+  enum class TReport { Box, Lines };
+  void OpenProject(const std::string& fileName, TReport report);
+  void OpenProviderProject(const std::string& fileName, TReport report);
   void CloseFailedProject(const std::string& directory);
   std::string OpenProjectFile();
   void Handle(TOTAFileNotification code, const std::string& fileName);
 
   TCommandContext context_;
+  TReopening reopening_;
   std::shared_ptr<TSccIDENotifier> ideNotifier_;
   std::unique_ptr<TFormEditorManager> formEditorManager_;
   std::unique_ptr<TSourceEditorManager> sourceEditorManager_;
   std::optional<int> ideNotifierIndex_;  // set while the notifier is registered
+  TCheckOutOffer checkOutOffer_;
   std::unique_ptr<TExpertMainMenuModule> menu_;
 };
 

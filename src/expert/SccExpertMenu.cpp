@@ -28,6 +28,7 @@ void TSccExpert::MainMenu() {
       provider.Release();
       provider.SetProjectNotMapped(false);
     }
+    if (reopening_.IsDue(project)) OpenProject(project, TReport::Lines);
     PrepareProvider(project);
     if (mapped && ProviderList() && ProviderList()->GetCount() > 0) EnableActiveMenu();
   } catch (...) {
@@ -56,7 +57,7 @@ void TSccExpert::EnableActiveMenu() {
   try {
     AddAssociatedFiles(&files, false);
     const TCallProgress progress(context_.Ui, sTeam, TCallProgress::Kind::Status, sAskingStatus, files);
-    SelectHostProject(context_).Query(files, statuses, messages);
+    context_.Statuses.Query(SelectHostProject(context_), files, statuses, messages);
   } catch (...) {  // without the status no command is available
     menu_->EnableMenus(false);
     throw;

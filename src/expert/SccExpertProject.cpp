@@ -45,16 +45,18 @@ std::string TSccExpert::OpenProjectFile() {
   return file.empty() ? GetCurrentProjectFile() : file;
 }
 
-void TSccExpert::FileNotifyProjectOpen(const std::string& fileName) {
+void TSccExpert::FileNotifyProjectOpen(const std::string& fileName) { OpenProject(fileName, TReport::Box); }
+
+void TSccExpert::OpenProject(const std::string& fileName, TReport report) {
   if (!IsProject(fileName)) return;
   if (!ProjectExists(ChangeFileExt(fileName, kMappingExtension))) return;
   if (ProviderList()) FileNotifyProjectClose(OpenProjectFile());
   ReadProjectSettings(fileName);
   if (!ProviderCreate(0)) throw EAbort(sProviderNotAssigned);
-  OpenProviderProject(fileName);
+  OpenProviderProject(fileName, report);
 }
 
-void TSccExpert::OpenProviderProject(const std::string& fileName) {
+void TSccExpert::OpenProviderProject(const std::string& fileName, TReport report) {
   const TActivities::TScope handling(context_.Activities, TActivity::Notification);
   auto& provider = context_.Provider;
   auto& list = *provider.List();
@@ -67,22 +69,27 @@ void TSccExpert::OpenProviderProject(const std::string& fileName) {
   project.set_UserName(binding.UserName);
 
   TStateMessages messages;
+  reopening_.Begin(fileName);
   const auto code = project.OpenProject(messages);
+  reopening_.End(code);
   // The boxes below do not show the reason, and a provider that let an exception out counts as opened.
   WriteMessage(mwtInfo, messages[1]);
   WriteMessage(mwtError, messages[2]);
   if (code == scc::SCC_OK) {
     provider.SetOpenProjectFile(fileName);
     provider.UpdateUserName(fileName, project.get_UserName());
+    if (report == TReport::Lines) WriteMessageFmt(mwtInfo, sOpenAgain, {ExtractFileName(fileName)});
     return;
   }
-  const bool refused = code == scc::SCC_E_INVALIDUSER;
-  context_.Ui.ShowMsgDialog(sOpenProject, refused ? sInvalidUserName : sUnknownOpenError, metError);
+  if (report == TReport::Box) {
+    const bool refused = code == scc::SCC_E_INVALIDUSER;
+    context_.Ui.ShowMsgDialog(sOpenProject, refused ? sInvalidUserName : sUnknownOpenError, metError);
+    context_.Log.ShowWindow(false);
+  }
   CloseFailedProject(directory);
 }
 
 void TSccExpert::CloseFailedProject(const std::string& directory) {
-  context_.Log.ShowWindow(false);
   TStateMessages messages;
   auto& list = *ProviderList();
   list.CurrentProject()->CloseProject(messages);

@@ -35,6 +35,7 @@ inline constexpr TResString sNoProjectFile{"No project or package file found in 
 inline constexpr TResString sOpenProject{"Open Project"};
 inline constexpr TResString sInvalidUserName{"Invalid username, unable to open provider project"};
 inline constexpr TResString sUnknownOpenError{"Unknown error, unable to open provider project"};
+inline constexpr TResString sOpenAgain{"%s is connected to its source control provider again"};
 inline constexpr TResString sCloseProject{"CloseProject"};
 
 // Commands.

@@ -25,7 +25,7 @@ enum class TFileMark {
 struct TFileState {
   std::string FileName;  ///< full path in UTF-8; compares ignoring case
   TFileMark Mark = TFileMark::Unknown;
-  /// Everything that applies, for a tool tip: "Checked out by you, changed".  Empty for Unknown.
+  /// Everything that applies, one line each, for a tool tip: "Checked out by you\nChanged".  Empty for Unknown.
   std::string Hint;
 
   bool operator==(const TFileState&) const = default;

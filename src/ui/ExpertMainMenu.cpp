@@ -151,25 +151,27 @@ void TExpertMainMenuModule::CreateItems() {
 }
 
 void TExpertMainMenuModule::CreateFileMenu() {
-  const auto item = [this](const std::string& caption, int image, TFileHandler handler) {
-    return TFileMenu::TItem{caption, image, [=, this](const std::string& file) { (this->*handler)(file); }};
+  using enum TFileAction;
+  const auto item = [this](TFileAction action, const std::string& caption, int image, TFileHandler handler) {
+    return TFileMenu::TItem{caption, image, [=, this](const std::string& file) { (this->*handler)(file); },
+                            [=, this](const std::string& file) { return commands_.IsAllowed(action, file); }};
   };
-  const auto action = [&](const TAction& shown, TFileHandler handler) {
-    return item(shown.Caption, shown.ImageIndex, handler);
+  const auto command = [&](TFileAction action, const TAction& shown, TFileHandler handler) {
+    return item(action, shown.Caption, shown.ImageIndex, handler);
   };
   using TModule = TExpertMainMenuModule;
   fileMenu_.Caption = sTeam;
   fileMenu_.Items = {
-      action(actCheckOutFiles, &TModule::actCheckOutSingleExecute),
-      action(actCheckInFiles, &TModule::actCheckInSingleExecute),
-      action(actAddFiles, &TModule::actAddSingleExecute),
-      action(actRemoveFiles, &TModule::actRemoveSingleExecute),
-      action(actUndoCheckOutFiles, &TModule::actUndoCheckOutSingleExecute),
+      command(CheckOut, actCheckOutFiles, &TModule::actCheckOutSingleExecute),
+      command(CheckIn, actCheckInFiles, &TModule::actCheckInSingleExecute),
+      command(Add, actAddFiles, &TModule::actAddSingleExecute),
+      command(Remove, actRemoveFiles, &TModule::actRemoveSingleExecute),
+      command(UndoCheckOut, actUndoCheckOutFiles, &TModule::actUndoCheckOutSingleExecute),
       {sSeparator, kNoImage, {}},
-      item(ShowDifferences1.Caption, ShowDifferences1.ImageIndex, &TModule::ShowDiffSingle),
-      action(actGetFiles_, &TModule::actGetSingleExecute),
-      item(ShowHistory1.Caption, ShowHistory1.ImageIndex, &TModule::ShowHistorySingle),
-      item(sItemProperties, kNoImage, &TModule::PropertiesSingle),
+      item(Inspect, ShowDifferences1.Caption, ShowDifferences1.ImageIndex, &TModule::ShowDiffSingle),
+      command(Get, actGetFiles_, &TModule::actGetSingleExecute),
+      item(Inspect, ShowHistory1.Caption, ShowHistory1.ImageIndex, &TModule::ShowHistorySingle),
+      item(Inspect, sItemProperties, kNoImage, &TModule::PropertiesSingle),
   };
   fileMenu_.IsEnabled = [this](const std::string& fileName) {
     return !Trim(fileName).empty() && commands_.HasProviderProject();

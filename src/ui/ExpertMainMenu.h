@@ -13,6 +13,9 @@
 
 namespace kestrel::addin {
 
+/// What a user can do with one file.  Inspecting shows its differences, history and properties.
+enum class TFileAction { CheckOut, CheckIn, Add, Remove, UndoCheckOut, Get, Inspect };
+
 /// The commands behind the menu; the expert implements them.  A command that takes a file name works on the whole project
 /// when the name is empty.
 class ITeamCommands {
@@ -37,6 +40,8 @@ class ITeamCommands {
   /// The file in the front-most editor; empty when there is none.
   virtual std::string CurrentFile() const = 0;
   virtual bool HasProviderProject() const = 0;
+  /// Whether the file's last known status allows the action; true if none is known.
+  virtual bool IsAllowed(TFileAction action, const std::string& fileName) const = 0;
   /// Whether the provider has an application of its own; nullopt without a provider.
   virtual std::optional<bool> HasProviderApplication() const = 0;
 

@@ -148,7 +148,7 @@ class TCommitRowCollector {
     TStateMessages messages;
     const auto progress = Progress(sAskingStatus);
     // Without a status all files would look as if they were not controlled yet, so the failure has to be reported.
-    if (!Project().Query(files_, statuses_, messages))
+    if (!context_.Statuses.Query(Project(), files_, statuses_, messages))
       context_.Log.DisplayMessages(sCommitBrowserCaption, messages);
   }
 

@@ -86,7 +86,8 @@ class TCommitRunner {
     TCallResult result;
     const auto call = [&] {
       SaveEdits(row.FileName);
-      result = step.Command->Run(Project(), {{row.FileName}, comment, /*KeepCheckedOut*/ false});
+      result = step.Command->Run(Project(), context_.Statuses,
+                                 {{row.FileName}, comment, /*KeepCheckedOut*/ false});
     };
     RunCatching(call, [&](const std::exception& error) { result = {false, {"", "", error.what()}}; });
     if (!result.Done)

@@ -47,6 +47,32 @@ TEST(FileCommandRules, DecideByStatusBits) {
   }
 }
 
+TEST_F(FileCommand, EditedFileIsCheckedOutAtOnceWithItsCompanions) {
+  auto& expert = Open();
+  auto& offer = *host_.CheckOutOffer;
+  EXPECT_TRUE(offer.IsOffered(units_[0]));
+  EXPECT_FALSE(offer.IsOffered(At("other.pas"))) << "not in the project, and nothing is known";
+  provider_->Statuses = {{units_[0], 1}, {At("unit1.kfm"), 1}, {At("unit1.kdp"), 0xD}};
+  provider_->DefaultStatus = 0;
+  host_.AddUnit(units_[0]);
+  EXPECT_TRUE(offer.Run(units_[0])) << "without list, comment and box";
+  EXPECT_THAT(GivenTo("SccCheckout"), ElementsAre(At("unit1.kfm"), units_[0]));
+  EXPECT_THAT(host_.Log, ElementsAre("ReloadFile " + units_[0]));
+  EXPECT_EQ(host_.States[units_[0]].Mark, TFileMark::OutToMe) << "without another query";
+  EXPECT_FALSE(offer.IsOffered(units_[0])) << "it is out";
+
+  provider_->Statuses[units_[1]] = 1;
+  provider_->Results["SccCheckout"] = SCC_E_FILEOUTEXCLUSIVE;
+  EXPECT_FALSE(offer.Run(units_[1]));
+  EXPECT_EQ(forms_.Boxes.back().Text, "Someone else has done an exclusive checkout on this file");
+  provider_->OnCall["SccHistory"] = [&](const ScriptedCall&) {
+    EXPECT_FALSE(offer.IsOffered(units_[1]));
+    EXPECT_FALSE(offer.Run(units_[1])) << "the provider is not called while it runs";
+  };
+  expert.ShowHistory(units_[1]);
+  EXPECT_EQ(provider_->Count("SccCheckout"), 3);
+}
+
 TEST_F(FileCommand, OffersEligibleFilesInOrderOfGathering) {
   Open();
   SetStatuses({{"unit1.pas", 0x5}, {"unit2.pas", 0xD}, {"App.qvxproj", 1}, {"unit2.kfm", 0x41}});

@@ -27,17 +27,6 @@ TEST_F(StartUp, WithoutServicesTheExpertExistsAndSaysWhy) {
   EXPECT_EQ(expert.ProviderName(), kScripted) << "what came before the failure was set";
 }
 
-TEST_F(StartUp, BlankLinesAreDroppedAndNoWindowIsAnError) {
-  Start();
-  const auto lines = forms_.Lines.size();
-  WriteMessage(mwtInfo, " \t ");
-  EXPECT_EQ(forms_.Lines.size(), lines);
-  WriteMessageFmt(mwtWarning, "%s is %d", {"x", 3});
-  EXPECT_EQ(forms_.Lines.back(), std::pair(mwtWarning, std::string("x is 3")));
-  expert_.reset();
-  EXPECT_THROW(WriteMessage(mwtInfo, "x"), std::runtime_error);
-}
-
 TEST_F(StartUp, MessagesComeErrorFirst) {
   auto& expert = Start();
   expert.DisplayMessages("Title", {"line", "info", "error"});

@@ -28,21 +28,4 @@ TEST(HostAccess, ProjectUnitsLeaveOutLibrariesAndPrograms) {
   EXPECT_EQ(rv_GetUnitCount(), 4);
 }
 
-TEST(HostAccess, EditorsAndTheirState) {
-  TScriptedHost host;
-  EXPECT_FALSE(IsUnitModified("/u.pas"));
-  auto& unit = host.AddUnit("/u.pas");
-  unit.Editors.front().Modified = true;
-  EXPECT_TRUE(IsUnitModified("/U.PAS"));
-
-  host.TopBuffer = "/loose.txt";
-  EXPECT_EQ(rv_GetCurrentFile(), "") << "shown, but not open as a module";
-  host.TopBuffer = "/u.pas";
-  EXPECT_EQ(rv_GetCurrentFile(), "/u.pas");
-
-  auto& form = host.AddUnit("/f.pas");
-  form.Editors.front().IsForm = true;
-  EXPECT_THROW(IsUnitModified("/f.pas"), std::runtime_error);
-}
-
 }  // namespace kestrel::addin

@@ -31,7 +31,8 @@ TScriptedHost::~TScriptedHost() { CorvaneIDEServices = nullptr; }
 void* TScriptedHost::QueryInterface(const TGuid& iid) noexcept {
   if (!HasServices && iid == IOTAServices::IID) return nullptr;
   return FindInterface<IOTAServices, IOTAModuleServices, IOTAActionServices, IOTAEditorServices,
-                       IOTAMenuServices, IOTAOptionsServices, IOTAWizardServices, IOTAApplication>(this, iid);
+                       IOTAMenuServices, IOTAFileStateServices, IOTAOptionsServices, IOTAWizardServices,
+                       IOTAApplication>(this, iid);
 }
 
 TScriptedModule& TScriptedHost::Add(std::unique_ptr<TScriptedModule> module) {
@@ -95,6 +96,14 @@ IOTAProjectGroup* TScriptedHost::GetMainProjectGroup() {
   const auto isGroup = [](const auto& module) { return module->ModuleKind == TScriptedModule::Kind::Group; };
   const auto found = std::ranges::find_if(modules_, isGroup);
   return found == modules_.end() ? nullptr : found->get();
+}
+
+void TScriptedHost::SetFileStates(const std::vector<TFileState>& states) {
+  for (const auto& state : states)
+    if (state.Mark == TFileMark::Unknown)
+      States.erase(state.FileName);
+    else
+      States[state.FileName] = state;
 }
 
 bool TScriptedHost::Did(const char* what, const std::string& fileName) {

@@ -14,6 +14,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include "host/FileStates.h"
 #include "host/Menus.h"
 #include "host/Options.h"
 #include "host/Services.h"
@@ -85,6 +86,7 @@ class TScriptedHost final : public IOTAServices,
                             public IOTAEditorServices,
                             public IOTAEditBuffer,
                             public IOTAMenuServices,
+                            public IOTAFileStateServices,
                             public IOTAOptionsServices,
                             public IOTAWizardServices,
                             public IOTAApplication {
@@ -114,6 +116,8 @@ class TScriptedHost final : public IOTAServices,
   std::vector<TMenuItem*> Menus;
   std::vector<TFileMenu*> FileMenus;
   std::vector<TAction*> Actions;
+  std::map<std::string, TFileState> States;  // by file name; of what is Unknown: none
+  TCheckOutOffer* CheckOutOffer = nullptr;
   std::vector<std::string> Images;  // SVG documents; the first one has index kFirstImage
   static constexpr int kFirstImage = 100;
   std::map<int, std::shared_ptr<IOTAIDENotifier>> Notifiers;
@@ -146,6 +150,10 @@ class TScriptedHost final : public IOTAServices,
     Images.push_back(svg);
     return kFirstImage + static_cast<int>(Images.size()) - 1;
   }
+  void SetFileStates(const std::vector<TFileState>& states) override;
+  void ClearFileStates() override { States.clear(); }
+  void InsertCheckOutOffer(TCheckOutOffer& offer) override { CheckOutOffer = &offer; }
+  void RemoveCheckOutOffer(TCheckOutOffer&) override { CheckOutOffer = nullptr; }
   IOTAPropertySet& PropertySet(const std::string&) override { return Options; }
   int AddOptions(std::shared_ptr<IOTAAddInOptions>) override { return 0; }
   void RemoveOptions(int) override {}
