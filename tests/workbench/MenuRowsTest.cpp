@@ -32,14 +32,6 @@ TEST(MenuRows, LeaveNoSeparatorWithoutItemsOnBothSides) {
   for (const auto& [menu, shown] : rows) EXPECT_EQ(Shown(menu), shown) << menu;
 }
 
-TEST(MenuRows, HideAnItemWhoseActionIsHidden) {
-  TAction action;
-  action.Visible = false;
-  TMenuItem item;
-  item.Action = &action;
-  EXPECT_TRUE(VisibleRows({&item}).empty());
-}
-
 }  // namespace
 
 }  // namespace kestrel::workbench

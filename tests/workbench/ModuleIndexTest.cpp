@@ -24,13 +24,4 @@ TEST(ModuleIndex, FindsAModuleByEachOfItsFilesIgnoringCase) {
   EXPECT_EQ(index.Find(folder / "Other.pas"), nullptr);
 }
 
-TEST(ModuleIndex, KeepsTheOrderOfOpening) {
-  TModuleIndex index;
-  for (const char* name : {"/a.pas", "/b.pas", "/c.pas"}) index.Add(std::make_unique<TUnit>(name, caller));
-  index.Remove(*index.Find("/b.pas"));
-  ASSERT_EQ(index.InOrder().size(), 2u);
-  EXPECT_EQ(index.InOrder()[0]->FileName(), "/a.pas");
-  EXPECT_EQ(index.InOrder()[1]->FileName(), "/c.pas");
-}
-
 }  // namespace kestrel::workbench

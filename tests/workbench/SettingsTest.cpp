@@ -22,16 +22,6 @@ TEST_F(Settings, LastOnlyWhenSaved) {
   EXPECT_EQ(&set, &first.PropertySet("scmOPTIONS"));
 }
 
-TEST_F(Settings, IgnoreNumbersThatMakeNoSense) {
-  TPropertySet set(kWindowSet);
-  for (const char* value : {"", "wide", "12px", "-5", "99999999999999999999", "3"}) {
-    set.SetValue("Width", value);
-    EXPECT_EQ(TWindowState::Load(set).Width, TWindowState().Width) << value;
-  }
-  set.SetValue("Width", "900");
-  EXPECT_EQ(TWindowState::Load(set).Width, 900);
-}
-
 TEST_F(Settings, RememberTheLastFilesFirst) {
   TOptionsServices services;
   TRecentFiles recent(services.PropertySet(kRecentSet));

@@ -205,30 +205,6 @@ TEST_F(Workbench, SurvivesPackagesThatThrow) {
   EXPECT_THAT(output_, Not(HasSubstr("nobody hears this")));
 }
 
-TEST_F(Workbench, NoticesFilesThatChangedOnDisk) {
-  Run(R"(
-    open Boat.qvxproj
-    open Main.pas
-    write-file Main.pas "unit Fresh;"
-    refocus
-    expect-editor Main.pas "unit Fresh;"
-    expect-message "was reloaded"
-    edit Main.pas "// mine"
-    write-file Main.pas "unit Theirs;"
-    refocus
-    expect-text "has changed on disk"
-    press "Keep Mine"
-    expect-editor Main.pas "// mine"
-    write-file Main.pas "unit Again;"
-    refocus
-    press Reload
-    expect-editor Main.pas "unit Again;"
-    set-read-only Main.pas yes
-    refocus
-    expect-read-only Main.pas
-  )");
-}
-
 TEST_F(Workbench, AsksBeforeUnsavedChangesAreLost) {
   Run(R"(
     open Boat.qvxproj

@@ -279,35 +279,4 @@ TEST_F(Workspace, FollowsAUnitThatIsSavedUnderAnotherName) {
   EXPECT_THROW(workspace_.SaveUnitAs(dynamic_cast<TUnit&>(Module("Moved.pas"))), std::runtime_error);
 }
 
-/// Counts what an editor notifier hears.
-class TEditorListener final : public IOTAEditorNotifier {
- public:
-  void AfterSave() override { Heard += "after "; }
-  void BeforeSave() override { Heard += "before "; }
-  void Destroyed() override { Heard += "destroyed "; }
-  void Modified() override { Heard += "modified "; }
-  void ViewActivated() override { Heard += "activated "; }
-  void ViewNotification(TOTAOperation operation) override {
-    Heard += operation == TOTAOperation::opInsert ? "insert " : "remove ";
-  }
-  void* QueryInterface(const TGuid& iid) noexcept override {
-    return FindInterface<IOTANotifier, IOTAEditorNotifier>(this, iid);
-  }
-  std::string Heard;
-};
-
-TEST_F(Workspace, NotifiesEditorNotifiersOfSavesViewsAndTheEnd) {
-  ASSERT_TRUE(workspace_.Open(Path("A1.pas")));
-  auto listener = std::make_shared<TEditorListener>();
-  IOTAEditor* editor = Module("A1.pas").GetEditor(0);
-  EXPECT_GE(editor->AddNotifier(listener), 0);
-  ui_.Front->TextModified();
-  ui_.Front->Activated();
-  EXPECT_TRUE(actions_.SaveFile(Path("A1.pas"))) << "nothing to save is success";
-  Type("A1.pas", "unit Mine;\n");
-  EXPECT_TRUE(actions_.SaveFile(Path("A1.pas")));
-  workspace_.Close(Module("A1.pas"));
-  EXPECT_EQ(listener->Heard, "modified activated before after remove destroyed ");
-}
-
 }  // namespace kestrel::workbench

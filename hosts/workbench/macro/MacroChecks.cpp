@@ -153,6 +153,11 @@ std::string TMacroPlayer::DoExpectFileDisabled(const TArguments& arguments) {
   return CheckFileMenu(frame_, arguments[0], arguments[1], false);
 }
 
+std::string TMacroPlayer::DoExpectState(const TArguments& arguments) {
+  const std::string& hint = frame_.FileStates().StateOf(FullPath(arguments[0])).Hint;
+  return hint == arguments[1] ? std::string() : Format(sOtherState, {arguments[0], hint});
+}
+
 std::string TMacroPlayer::DoExpectEditor(const TArguments& arguments) {
   TOpenModule* module = frame_.Workspace().Modules().Find(FullPath(arguments[0]));
   const auto* editor =

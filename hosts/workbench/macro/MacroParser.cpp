@@ -49,6 +49,8 @@ const std::vector<TMacroVerbRow>& MacroVerbs() {
       {ExpectFileDisabled, "expect-file-disabled", 2, "PATH \"Menu|Item\": the item must be disabled"},
       {ExpectTicked, "expect-ticked", 1, "TEXT: see tick"},
       {ExpectUnticked, "expect-unticked", 1, "TEXT: see tick"},
+      {ExpectState, "expect-state", 2,
+       "PATH TEXT: the mark of the file has that hint; empty: it has no mark"},
       {ExpectEditor, "expect-editor", 2, "PATH TEXT: its editor contains TEXT"},
       {ExpectFile, "expect-file", 2, "PATH TEXT: the file on disk contains TEXT"},
       {ExpectReadOnly, "expect-read-only", 1, "PATH: the file, and its editor when open, are read-only"},

@@ -51,6 +51,7 @@ enum class TMacroVerb {
   ExpectFileDisabled,
   ExpectTicked,
   ExpectUnticked,
+  ExpectState,
   ExpectEditor,
   ExpectFile,
   ExpectReadOnly,

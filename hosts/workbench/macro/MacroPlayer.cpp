@@ -173,6 +173,7 @@ std::string TMacroPlayer::Run(const TMacroStep& step) {
                                          &P::DoExpectFileDisabled,
                                          nullptr,
                                          nullptr,
+                                         &P::DoExpectState,
                                          &P::DoExpectEditor,
                                          &P::DoExpectFile,
                                          &P::DoExpectReadOnly,

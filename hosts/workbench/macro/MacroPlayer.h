@@ -70,6 +70,7 @@ class TMacroPlayer final : public wxTimer {
   std::string DoExpectHidden(const TArguments& arguments);
   std::string DoExpectFileEnabled(const TArguments& arguments);
   std::string DoExpectFileDisabled(const TArguments& arguments);
+  std::string DoExpectState(const TArguments& arguments);
   std::string DoExpectEditor(const TArguments& arguments);
   std::string DoExpectFile(const TArguments& arguments);
   std::string DoExpectReadOnly(const TArguments& arguments);

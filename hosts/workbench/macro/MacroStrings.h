@@ -44,6 +44,7 @@ inline constexpr TResString sHasText{"a window shows \"%s\""};
 inline constexpr TResString sCommandFailed{"it failed (%d)\n%s"};
 inline constexpr TResString sNoMessage{"no message contains \"%s\""};
 inline constexpr TResString sNotOpen{"%s is not open"};
+inline constexpr TResString sOtherState{"%s is marked \"%s\""};
 inline constexpr TResString sNoEditorText{"the editor of %s does not contain \"%s\""};
 inline constexpr TResString sNoFileText{"the file %s does not contain \"%s\""};
 inline constexpr TResString sIsReadOnly{"%s is read-only"};

@@ -16,9 +16,8 @@ class TEditorBook::TPageOwner final : public IEditorPageOwner {
   explicit TPageOwner(TEditorBook& book) : book_(book) {}
   void PageChanged(TTextEditor& editor) override { book_.RefreshEditor(editor); }
   void CaretMoved() override { book_.hooks_.StateChanged(); }
-  void TypingRefused(TTextEditor& editor) override {
-    wxBell();
-    book_.hooks_.Status(Format(sCannotType, {ExtractFileName(editor.FileName())}));
+  void TypingRefused(TTextEditor& editor, const wxKeyEvent* key) override {
+    if (!key || !book_.hooks_.TypingRefused(editor.FileName(), *key)) book_.ShowReadOnlyHint(editor);
   }
 
  private:
@@ -52,8 +51,7 @@ TEditorBook::TEditorBook(wxWindow* parent, THooks hooks, int fontSize)
     event.Veto();
     const std::string file = PageAt(static_cast<std::size_t>(event.GetSelection()))->Editor().FileName();
     CallAfter([this, file] {
-      for (std::size_t i = 0; i < GetPageCount(); ++i)
-        if (PageAt(i)->Editor().FileName() == file) return hooks_.CloseWanted(PageAt(i)->Editor());
+      if (TEditorPage* page = PageOf(file)) hooks_.CloseWanted(page->Editor());
     });
   });
 }
@@ -66,6 +64,12 @@ TEditorPage* TEditorBook::FrontPage() const {
 TEditorPage* TEditorBook::PageOf(const TTextEditor& editor) const {
   for (std::size_t i = 0; i < GetPageCount(); ++i)
     if (&PageAt(i)->Editor() == &editor) return PageAt(i);
+  return nullptr;
+}
+
+TEditorPage* TEditorBook::PageOf(const std::string& fileName) const {
+  for (std::size_t i = 0; i < GetPageCount(); ++i)
+    if (PageAt(i)->Editor().FileName() == fileName) return PageAt(i);
   return nullptr;
 }
 
@@ -91,14 +95,26 @@ void TEditorBook::ShowEditor(TTextEditor& editor) {
 }
 
 void TEditorBook::RefreshEditor(TTextEditor& editor) {
-  TEditorPage* page = PageOf(editor);
-  if (!page) return;
-  const auto index = static_cast<std::size_t>(GetPageIndex(page));
+  if (TEditorPage* page = PageOf(editor)) RefreshPage(static_cast<std::size_t>(GetPageIndex(page)));
+}
+
+void TEditorBook::RefreshEditors() {
+  for (std::size_t i = 0; i < GetPageCount(); ++i) RefreshPage(i);
+}
+
+void TEditorBook::RefreshPage(std::size_t index) {
+  TTextEditor& editor = PageAt(index)->Editor();
   const std::string name = ExtractFileName(editor.FileName());
+  const TFileState& state = hooks_.StateOf(editor.FileName());
   SetPageText(index, ToWx(editor.GetModified() ? "*" + name : name));
-  SetPageBitmap(index, editor.IsReadOnly() ? IconBundle(TIcon::Lock) : wxBitmapBundle());
-  SetPageToolTip(index, ToWx(editor.FileName()));
+  SetPageBitmap(index, TabImage(state.Mark, editor.IsReadOnly()));
+  SetPageToolTip(index, FileHint(editor.FileName(), state));
   hooks_.StateChanged();
+}
+
+void TEditorBook::ShowReadOnlyHint(TTextEditor& editor) {
+  wxBell();
+  hooks_.Status(Format(sCannotType, {ExtractFileName(editor.FileName())}));
 }
 
 void TEditorBook::SetFontSize(int points) {

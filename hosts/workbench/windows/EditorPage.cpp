@@ -1,6 +1,7 @@
 #include "workbench/windows/EditorPage.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "toolkit/WxText.h"
 #include "workbench/windows/PascalStyle.h"
@@ -26,7 +27,16 @@ TEditorPage::TEditorPage(wxWindow* parent, IEditorPageOwner& owner, TTextEditor&
   Bind(wxEVT_STC_SAVEPOINTLEFT, stateChanged);
   Bind(wxEVT_STC_SAVEPOINTREACHED, stateChanged);
   Bind(wxEVT_STC_UPDATEUI, [this](wxStyledTextEvent&) { owner_.CaretMoved(); });
-  Bind(wxEVT_STC_ROMODIFYATTEMPT, [this](wxStyledTextEvent&) { owner_.TypingRefused(editor_); });
+  const auto onKey = [this](wxKeyEvent& event) {
+    event.Skip();
+    key_ = event;
+  };
+  Bind(wxEVT_KEY_DOWN, onKey);
+  Bind(wxEVT_CHAR, onKey);
+  Bind(wxEVT_STC_ROMODIFYATTEMPT, [this](wxStyledTextEvent&) {
+    const auto key = std::exchange(key_, {});  // one key may try twice, as when it replaces a selection
+    owner_.TypingRefused(editor_, key ? &*key : nullptr);
+  });
 }
 
 std::string TEditorPage::ReadText() const {
@@ -57,12 +67,13 @@ void TEditorPage::ShowText(const std::string& text) {
 void TEditorPage::ReplaceText(const std::string& text) {
   // One undoable step, so that a reload over unsaved changes can be undone.
   const int line = GetCurrentLine();
+  const int column = GetColumn(GetCurrentPos());
   const int top = GetFirstVisibleLine();
   BeginUndoAction();
   ClearAll();
   AddTextRaw(text.data(), static_cast<int>(text.size()));
   EndUndoAction();
-  GotoLine(line);
+  GotoPos(FindColumn(line, column));
   SetFirstVisibleLine(top);
 }
 
@@ -71,6 +82,10 @@ bool TEditorPage::TypeAtEnd(const std::string& text) {
   DocumentEnd();
   AddTextRaw(text.data(), static_cast<int>(text.size()));
   return true;
+}
+
+void TEditorPage::Type(const std::vector<wxKeyEvent>& keys) {
+  for (wxKeyEvent key : keys) ProcessWindowEvent(key);
 }
 
 }  // namespace kestrel::workbench

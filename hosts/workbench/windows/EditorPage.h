@@ -3,6 +3,9 @@
 
 #include <wx/stc/stc.h>
 
+#include <optional>
+#include <vector>
+
 #include "workbench/model/Editors.h"
 
 namespace kestrel::workbench {
@@ -13,7 +16,8 @@ class IEditorPageOwner {
   virtual ~IEditorPageOwner() = default;
   virtual void PageChanged(TTextEditor& editor) = 0;
   virtual void CaretMoved() = 0;
-  virtual void TypingRefused(TTextEditor& editor) = 0;
+  /// The user typed into a read-only text; `key` is null if it was not by a key.
+  virtual void TypingRefused(TTextEditor& editor, const wxKeyEvent* key) = 0;
 };
 
 class TEditorPage final : public wxStyledTextCtrl, public IDocumentView {
@@ -30,11 +34,14 @@ class TEditorPage final : public wxStyledTextCtrl, public IDocumentView {
   void LockText(bool locked) override { SetReadOnly(locked); }
   /// Types at the end as a user would. False if the page is read-only.
   bool TypeAtEnd(const std::string& text);
+  /// Handles keys that were pressed earlier.
+  void Type(const std::vector<wxKeyEvent>& keys);
 
  private:
   void ReplaceText(const std::string& text);
   IEditorPageOwner& owner_;
   TTextEditor& editor_;
+  std::optional<wxKeyEvent> key_;  // the last one, unless it was refused
   bool filled_ = false;
   bool replacing_ = false;
 };

@@ -100,6 +100,11 @@ inline constexpr TResString sAskReloadHint{"Reload it and lose the changes you m
 inline constexpr TResString sAskReloadYes{"&Reload"};
 inline constexpr TResString sAskReloadNo{"&Keep Mine"};
 
+inline constexpr TResString sAskCheckOut{"%s is read-only."};
+inline constexpr TResString sAskCheckOutHint{"Check out now?"};
+inline constexpr TResString sAskCheckOutYes{"Check &Out"};
+inline constexpr TResString sAskCheckOutNo{"&Leave Read-Only"};
+
 inline constexpr TResString sAllFilesFilter{
     "All workbench files|*.pas;*.kfm;*.qvxproj;*.qvxgroup|Units (*.pas)|*.pas|Forms (*.kfm)|*.kfm|"
     "Projects (*.qvxproj;*.qvxgroup)|*.qvxproj;*.qvxgroup|All files|*"};

@@ -9,6 +9,7 @@
 #include "system/System.h"
 #include "system/Text.h"
 #include "toolkit/WxText.h"
+#include "workbench/windows/CheckOutQuestion.h"
 #include "workbench/windows/EditorBook.h"
 #include "workbench/windows/FindDialog.h"
 #include "workbench/windows/FrameStrings.h"
@@ -58,6 +59,7 @@ TMainFrame::TMainFrame(TIdeServices& services, const TPackageLoader& packages)
   services_.Publish<IOTAEditorServices>(editorServices_);
   services_.Publish<IOTAActionServices>(actionServices_);
   services_.Publish<IOTAMenuServices>(*menus_);
+  services_.Publish<IOTAFileStateServices>(fileStates_);
   AddWizards();
   Bind(wxEVT_CLOSE_WINDOW, &TMainFrame::OnClose, this);
   Bind(wxEVT_ACTIVATE, [this](wxActivateEvent& event) {
@@ -80,11 +82,15 @@ void TMainFrame::CreateWindows() {
   const int fontSize = services_.Options()
                            .PropertySet(kGeneralSet)
                            .GetNumber(kFontSizeField, kDefaultFontSize, kMinFontSize, kMaxFontSize);
+  const auto stateOf = [this](const std::string& file) -> const TFileState& {
+    return fileStates_.StateOf(file);
+  };
   columns_ = new wxSplitterWindow(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxSP_LIVE_UPDATE);
   treePanel_ = CaptionedPanel(columns_, sProjectTreeCaption);
-  tree_ = new TProjectTree(treePanel_, workspace_,
-                           {[this](const std::string& file) { OpenForUser(file); },
-                            [this](wxMenu& menu, const std::string& file) { FillTreeMenu(menu, file); }});
+  tree_ = new TProjectTree(
+      treePanel_, workspace_,
+      {[this](const std::string& file) { OpenForUser(file); },
+       [this](wxMenu& menu, const std::string& file) { FillTreeMenu(menu, file); }, stateOf});
   FillPanel(treePanel_, tree_);
   rows_ = new wxSplitterWindow(columns_, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxSP_LIVE_UPDATE);
   book_ =
@@ -96,9 +102,13 @@ void TMainFrame::CreateWindows() {
                              workspace_.Close(*module);
                          });
                        },
-                       [this](const std::string& text) { SetStatusText(ToWx(text), sfText); },
+                       [this](const std::string& text) { SetStatusText(ToWx(text), sfText); }, stateOf,
+                       [this](const std::string& file, const wxKeyEvent& key) {
+                         return checkOutQuestion_->OnTyping(file, key);
+                       },
                        [this](wxMenu& menu, TTextEditor& editor) { FillTabMenu(menu, editor.FileName()); }},
                       fontSize);
+  checkOutQuestion_ = std::make_unique<TCheckOutQuestion>(*this, *book_, fileStates_, services_.Caller());
   messagePanel_ = CaptionedPanel(rows_, sMessagesCaption);
   messages_ = new TMessagePane(messagePanel_);
   FillPanel(messagePanel_, messages_);
@@ -172,9 +182,20 @@ void TMainFrame::ShowState() {
 }
 
 void TMainFrame::EditorOpened(TTextEditor& editor) { book_->AddEditor(editor); }
-void TMainFrame::EditorClosing(TTextEditor& editor) { book_->RemoveEditor(editor); }
+void TMainFrame::EditorClosing(TTextEditor& editor) {
+  checkOutQuestion_->Forget(editor.FileName());
+  book_->RemoveEditor(editor);
+}
 void TMainFrame::ShowEditor(TTextEditor& editor) { book_->ShowEditor(editor); }
-void TMainFrame::EditorChanged(TTextEditor& editor) { book_->RefreshEditor(editor); }
+void TMainFrame::EditorChanged(TTextEditor& editor) {
+  if (!editor.IsReadOnly()) checkOutQuestion_->Forget(editor.FileName());
+  book_->RefreshEditor(editor);
+}
+
+void TMainFrame::ShowFileStates(const std::vector<TFileState>& states) {
+  tree_->ShowStates(states);
+  book_->RefreshEditors();
+}
 
 TTextEditor* TMainFrame::ActiveEditor() {
   TEditorPage* page = book_->FrontPage();

@@ -8,6 +8,7 @@
 #include <string>
 
 #include "system/Text.h"
+#include "workbench/model/FileStates.h"
 #include "workbench/model/Settings.h"
 #include "workbench/model/WorkspaceServices.h"
 #include "workbench/windows/IdeServices.h"
@@ -15,6 +16,7 @@
 
 namespace kestrel::workbench {
 
+class TCheckOutQuestion;
 class TEditorBook;
 class TFindReplace;
 class TMessagePane;
@@ -31,6 +33,7 @@ class TMainFrame final : public wxFrame, public IWorkspaceUi {
   TEditorBook& Book() { return *book_; }
   TMessagePane& Messages() { return *messages_; }
   TMenuBridge& PackageMenus() { return *menus_; }
+  const TFileStateServices& FileStates() const { return fileStates_; }
   void AddMessage(const std::string& line);
   /// Opens a file; shows failures in a message box.
   void OpenForUser(const std::string& fileName);
@@ -69,6 +72,7 @@ class TMainFrame final : public wxFrame, public IWorkspaceUi {
   /// window may be touched.
   void StateChanged();
   void ShowState();
+  void ShowFileStates(const std::vector<TFileState>& states);
   void SaveWindowState();
   void AddWizards();
   /// Runs an operation; shows its failure in a message box.
@@ -130,10 +134,12 @@ class TMainFrame final : public wxFrame, public IWorkspaceUi {
   TModuleServices moduleServices_{workspace_};
   TEditorServices editorServices_{workspace_};
   TActionServices actionServices_{workspace_};
+  TFileStateServices fileStates_{[this](const auto& states) { ShowFileStates(states); }};
   TRecentFiles recent_;
   std::vector<int> ownWizards_;
   std::unique_ptr<TMenuBridge> menus_;
   std::unique_ptr<TFindReplace> find_;
+  std::unique_ptr<TCheckOutQuestion> checkOutQuestion_;
   wxMenu* recentMenu_ = nullptr;
   wxMenu* viewMenu_ = nullptr;
   wxSplitterWindow* columns_ = nullptr;

@@ -169,9 +169,12 @@ void TMenuBridge::AppendFileMenus(wxMenu& menu, const std::string& fileName) con
         submenu->AppendSeparator();
         continue;
       }
+      bool itemEnabled = enabled;
+      if (enabled && item.IsEnabled)
+        caller_.Run(item.Caption, [&] { itemEnabled = item.IsEnabled(fileName); });
       auto* shown = new wxMenuItem(submenu, wxID_ANY, ToWx(item.Caption));
-      ShowImage(*shown, ImageOf(item.ImageIndex, enabled));
-      submenu->Append(shown)->Enable(enabled);
+      ShowImage(*shown, ImageOf(item.ImageIndex, itemEnabled));
+      submenu->Append(shown)->Enable(itemEnabled);
       submenu->Bind(
           wxEVT_MENU,
           [&item, fileName, this](wxCommandEvent&) {

@@ -7,7 +7,6 @@
 #include "system/Text.h"
 #include "toolkit/WxText.h"
 #include "workbench/windows/FrameStrings.h"
-#include "workbench/windows/Icons.h"
 
 namespace kestrel::workbench {
 
@@ -15,7 +14,10 @@ namespace {
 
 constexpr TIcon kTreeIcons[] = {TIcon::Group, TIcon::Project, TIcon::ActiveProject,
                                 TIcon::Unit,  TIcon::Form,    TIcon::Module};
-int ImageOf(TIcon icon) { return static_cast<int>(icon); }  // TIcon begins with kTreeIcons
+/// In the list of images, which has each icon with each mark.
+int ImageOf(TIcon icon, TFileMark mark) {
+  return static_cast<int>(icon) * kFileMarks + static_cast<int>(mark);  // TIcon begins with kTreeIcons
+}
 
 TIcon ModuleIcon(const std::string& fileName) {
   const std::string extension = ExtractFileExt(fileName);
@@ -28,6 +30,7 @@ TIcon ModuleIcon(const std::string& fileName) {
 struct TProjectTree::TNode final : wxTreeItemData {
   TNode(std::string file, std::string project = {}, int module = -1)
       : File(std::move(file)), Project(std::move(project)), Module(module) {}
+  TIcon Icon{};
   std::string File;
   std::string Project;  // empty for the group
   int Module;           // in the project; -1 for the project itself
@@ -41,7 +44,9 @@ TProjectTree::TProjectTree(wxWindow* parent, TWorkspace& workspace, THooks hooks
       hooks_(std::move(hooks)) {
   SetName(ToWx(sProjectTreeCaption));
   wxVector<wxBitmapBundle> images;
-  for (const TIcon icon : kTreeIcons) images.push_back(IconBundle(icon));
+  for (const TIcon icon : kTreeIcons)
+    for (int mark = 0; mark < kFileMarks; ++mark)
+      images.push_back(RowImage(static_cast<TFileMark>(mark), icon));
   SetImages(images);
   Bind(wxEVT_TREE_ITEM_ACTIVATED, [this](wxTreeEvent& event) {
     event.Skip();
@@ -55,6 +60,10 @@ TProjectTree::TProjectTree(wxWindow* parent, TWorkspace& workspace, THooks hooks
   });
   Bind(wxEVT_TREE_ITEM_COLLAPSED,
        [this](wxTreeEvent& event) { collapsed_.insert(NodeOf(event.GetItem())->File); });
+  Bind(wxEVT_TREE_ITEM_GETTOOLTIP, [this](wxTreeEvent& event) {
+    const std::string& file = NodeOf(event.GetItem())->File;
+    event.SetToolTip(FileHint(file, hooks_.StateOf(file)));
+  });
   Bind(wxEVT_TREE_ITEM_MENU, [this](wxTreeEvent& event) {
     SelectItem(event.GetItem());
     wxMenu menu;
@@ -67,20 +76,40 @@ TProjectTree::TNode* TProjectTree::NodeOf(const wxTreeItemId& item) const {
   return item.IsOk() ? static_cast<TNode*>(GetItemData(item)) : nullptr;
 }
 
-wxTreeItemId TProjectTree::AddNode(const wxTreeItemId& parent, const std::string& label, int icon,
+wxTreeItemId TProjectTree::AddNode(const wxTreeItemId& parent, const std::string& label, TIcon icon,
                                    TNode* node) {
+  node->Icon = icon;
   const wxString text = ToWx(label);
-  return parent.IsOk() ? AppendItem(parent, text, icon, icon, node) : AddRoot(text, icon, icon, node);
+  const int image = ImageOf(icon, hooks_.StateOf(node->File).Mark);
+  const auto row =
+      parent.IsOk() ? AppendItem(parent, text, image, image, node) : AddRoot(text, image, image, node);
+  rows_.emplace(FoldCase(node->File), row);
+  return row;
+}
+
+void TProjectTree::ShowStates(const std::vector<TFileState>& states) {
+  Freeze();
+  for (const auto& state : states) {
+    const auto [first, last] = rows_.equal_range(FoldCase(state.FileName));
+    for (auto row = first; row != last; ++row) {
+      const int image = ImageOf(NodeOf(row->second)->Icon, state.Mark);
+      // The toolkit measures the row's text after each change.
+      for (const auto which : {wxTreeItemIcon_Normal, wxTreeItemIcon_Selected})
+        if (GetItemImage(row->second, which) != image) SetItemImage(row->second, image, which);
+    }
+  }
+  Thaw();
 }
 
 void TProjectTree::Rebuild() {
   const TNode* selected = NodeOf(GetSelection());
   const std::string selectedFile = selected ? selected->File : std::string();
   Freeze();
+  rows_.clear();
   DeleteAllItems();
   if (const TProjectGroup* group = workspace_.Group()) {
     const auto root =
-        AddNode({}, ExtractFileName(group->FileName()), ImageOf(TIcon::Group), new TNode(group->FileName()));
+        AddNode({}, ExtractFileName(group->FileName()), TIcon::Group, new TNode(group->FileName()));
     for (TProject* project : group->Projects()) AddProject(root, *project);
     Expand(root);
     // Only top-level nodes: searching modules would fill every project.
@@ -94,7 +123,7 @@ void TProjectTree::Rebuild() {
 void TProjectTree::AddProject(const wxTreeItemId& parent, TProject& project) {
   const bool active = workspace_.ActiveProject() == &project;
   const std::string name = ExtractFileName(project.FileName());
-  const auto item = AddNode(parent, name, ImageOf(active ? TIcon::ActiveProject : TIcon::Project),
+  const auto item = AddNode(parent, name, active ? TIcon::ActiveProject : TIcon::Project,
                             new TNode(project.FileName(), project.FileName()));
   SetItemBold(item, active);
   SetItemHasChildren(item, project.GetModuleCount() > 0);
@@ -107,11 +136,10 @@ void TProjectTree::FillProject(const wxTreeItemId& item, TProject& project) {
   for (int i = 0; i < project.GetModuleCount(); ++i) {
     const std::string file = project.ModuleFileName(i);
     const std::string shown = project.Definition().Get().Items()[static_cast<std::size_t>(i)];
-    const auto module =
-        AddNode(item, shown, ImageOf(ModuleIcon(file)), new TNode(file, project.FileName(), i));
+    const auto module = AddNode(item, shown, ModuleIcon(file), new TNode(file, project.FileName(), i));
     const std::string form = ChangeFileExt(file, kFormExt);
     if (SameText(ExtractFileExt(file), kUnitExt) && FileExists(form))
-      AddNode(module, ExtractFileName(form), ImageOf(TIcon::Form), new TNode(form, project.FileName(), i));
+      AddNode(module, ExtractFileName(form), TIcon::Form, new TNode(form, project.FileName(), i));
   }
 }
 
