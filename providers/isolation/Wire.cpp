@@ -15,7 +15,7 @@ const char* NameOf(EntryPoint entry) {
 
 void NameList::Add(const char* name) {
   ++count_;
-  bytes_.push_back(name != nullptr);
+  bytes_.push_back(name != nullptr ? '\1' : '\0');
   if (name != nullptr) bytes_.insert(bytes_.end(), name, name + std::strlen(name));
   bytes_.push_back('\0');
 }

@@ -137,6 +137,7 @@ std::size_t TWorkspace::AddToProject(const std::vector<std::string>& fileNames) 
   TProject* project = ActiveProject();
   if (!project) throw std::runtime_error(sNoProject);
   std::vector<std::string> full;
+  full.reserve(fileNames.size());
   for (const auto& name : fileNames) full.push_back(FullPath(name));
   const std::size_t added = project->AddModuleFiles(full);
   if (added) ui_.ProjectsChanged();

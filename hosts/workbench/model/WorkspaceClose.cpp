@@ -81,6 +81,7 @@ void TWorkspace::RememberActive() {
 bool TWorkspace::CloseEach(const std::vector<TOpenModule*>& modules) {
   // By name: a package that is notified of one closing may close others.
   std::vector<std::string> names;
+  names.reserve(modules.size());
   for (const TOpenModule* module : modules) names.push_back(module->FileName());
   return std::ranges::all_of(names, [&](const std::string& name) {
     TOpenModule* module = index_.Find(name);
