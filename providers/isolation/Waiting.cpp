@@ -26,12 +26,14 @@ bool MayHandleEvents() {
 }
 
 /// Repaints until the call has finished (returns true) or `timeout` has passed without a window of the provider (false).
-bool PaintDuringCall(const PendingCall& call, Clock::duration timeout) {
+bool PaintDuringCall(PendingCall& call, Clock::duration timeout) {
   const TNoClosing noClosing;
   auto since = Clock::now();
   while (Clock::now() - since < timeout) {
     if (call.Step(kTick)) return true;
     PaintPending();
+    // The user wants to close this program: the provider's window does not keep Stop away.
+    if (noClosing.Vetoed()) call.ProviderShowsWindow = [] { return false; };
     if (!call.ProviderShowsWindow()) continue;
     // The user works in the provider's window; input to this program must not take effect after the call.
     DiscardUserInput();
@@ -42,7 +44,7 @@ bool PaintDuringCall(const PendingCall& call, Clock::duration timeout) {
 
 }  // namespace
 
-void WaitForCall(const PendingCall& call) {
+void WaitForCall(PendingCall call) {
   if (!MayHandleEvents()) {
     while (!call.Step(1h)) {
     }

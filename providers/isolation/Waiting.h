@@ -21,7 +21,7 @@ struct PendingCall {
 };
 
 /// Returns when the call has finished.  Windows are repainted meanwhile; a call that takes long gets a window with Stop.
-void WaitForCall(const PendingCall& call);
+void WaitForCall(PendingCall call);
 
 /// Shows a message of the provider in a box and waits for the user.  Returns false if the program has no windows.
 bool ShowMessageBox(const std::string& provider, const std::string& text);

@@ -153,6 +153,8 @@ void TWorkbenchApp::EndStep() {
       dialog->EndModal(wxID_CANCEL);
     else if (dialog)
       wxUIActionSimulator().Char(WXK_ESCAPE);  // a native box, which the toolkit cannot end
+    else if (endSteps_ == 1)
+      frame_->Close();  // vetoed, but an isolated provider that shows a window offers Stop then, in a dialog
     auto* next = new wxTimer;
     next->Bind(wxEVT_TIMER, [this, next](wxTimerEvent&) {
       CallAfter([next] { delete next; });

@@ -15,6 +15,8 @@ class TNoClosing final : private wxEventFilter {
   TNoClosing(const TNoClosing&) = delete;
   TNoClosing& operator=(const TNoClosing&) = delete;
   ~TNoClosing() override { wxEvtHandler::RemoveFilter(this); }
+  /// Whether a close request was vetoed.
+  bool Vetoed() const { return vetoed_; }
 
  private:
   int FilterEvent(wxEvent& event) override {
@@ -22,8 +24,11 @@ class TNoClosing final : private wxEventFilter {
     auto& close = static_cast<wxCloseEvent&>(event);
     if (!close.CanVeto()) return Event_Skip;
     close.Veto();
+    vetoed_ = true;
     return Event_Processed;
   }
+
+  bool vetoed_ = false;
 };
 
 /// Dispatches pending events of these categories; others stay queued.
