@@ -1,7 +1,6 @@
 // The library itself: the names it exports, clients that call it wrongly.
 
 #include <array>
-#include <clocale>
 #include <cstdlib>
 #include <memory>
 
@@ -60,19 +59,6 @@ TEST(Library, CannotAskForAProjectWithoutWindows) {
             ann.Library()->SccGetProjPath(ann.Context(), nullptr, user.data(), project.data(), local.data(),
                                           aux.data(), 0, &isNew));
   EXPECT_STREQ("ann", user.data());
-}
-
-TEST(Library, ReadsNamesAsUtf8InAnyLocale) {
-  const std::string before = std::setlocale(LC_ALL, nullptr);
-  ASSERT_NE(nullptr, std::setlocale(LC_ALL, "C"));
-  const TTestRepository repository;
-  TDeveloper ann("ann", "Übung");
-  ASSERT_EQ(SCC_OK, ann.Open(repository.Url(), "Prüfung")) << ann.Said();
-  ann.Write("Maß.pas", "1\n");
-  EXPECT_EQ(SCC_OK, ann.Add({"Maß.pas"}, "für alle")) << ann.Said();
-  EXPECT_EQ("für alle", repository.Log(2));
-  EXPECT_TRUE(repository.Exists("Prüfung/Maß.pas"));
-  std::setlocale(LC_ALL, before.c_str());
 }
 
 namespace {
