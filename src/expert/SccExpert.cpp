@@ -18,7 +18,7 @@ namespace kestrel::addin {
 
 TSccExpert* aSccExpert = nullptr;
 
-TSccExpert::TSccExpert(IExpertUi& ui, TClock clock)
+TSccExpert::TSccExpert(IExpertUi& ui, TTimeSource clock)
     : context_(ui),
       reopening_(std::move(clock)),
       checkOutOffer_{[this](const auto& file) { return IsCheckOutOffered(file); },

@@ -27,7 +27,7 @@ class TSccExpert final : public TNotifierObject, public IOTAWizard, public ITeam
  public:
   /// `ui` is borrowed and must outlive the expert.  Never throws: a failure is shown in a box, and the expert keeps what
   /// was set before it.
-  explicit TSccExpert(IExpertUi& ui, TClock clock = std::chrono::steady_clock::now);
+  explicit TSccExpert(IExpertUi& ui, TTimeSource clock = std::chrono::steady_clock::now);
   ~TSccExpert() override;
 
   // Identity, called by the host.
