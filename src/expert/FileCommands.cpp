@@ -29,8 +29,10 @@ TCallResult TFileCommand::Run(TSCCProviderProject& project, TFileStatuses& statu
                               const TFileCommandCall& call) const {
   TCallResult result;
   result.Done = Call(project, call, result.Messages);
-  if (result.Done)
-    statuses.Apply(call.Files, [&](Long before) { return StatusAfter(before, call.KeepCheckedOut); });
+  // Nobody knows what a call that failed has changed, such as a get that ended in a conflict.
+  statuses.Apply(call.Files, [&](Long before) {
+    return result.Done ? StatusAfter(before, call.KeepCheckedOut) : Long{SCC_STATUS_INVALID};
+  });
   return result;
 }
 

@@ -55,7 +55,7 @@ struct TFileCommand {
   TResString OneDone;  ///< follows the file name
   TResString SeveralDone;
 
-  /// Calls the provider; records in `statuses` what that changed.
+  /// Calls the provider; records in `statuses` what that changed, or that it is unknown after a failure.
   TCallResult Run(TSCCProviderProject& project, TFileStatuses& statuses, const TFileCommandCall& call) const;
 };
 

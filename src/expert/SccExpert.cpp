@@ -144,11 +144,24 @@ void TSccExpert::UndoCheckOut(const std::string& fileName) {
 }
 
 bool TSccExpert::IsAllowed(TFileAction action, const std::string& fileName) const {
-  // In the order of TFileAction.
-  static constexpr std::array kEligible{CanCheckOut,     CanCheckIn, CanAdd, CanRemove,
-                                        CanUndoCheckOut, CanGet,     CanGet};
+  constexpr auto kChange = scc::SCC_STATUS_MODIFIED | scc::SCC_STATUS_MERGED;
+  struct TRule {
+    bool (*Eligible)(scc::Long status);
+    scc::Long OrAny;  // what was changed without a check-out can be handed in or given up, too
+  };
+  static constexpr std::array kRules{
+      // in the order of TFileAction
+      TRule{CanCheckOut, 0},
+      TRule{CanCheckIn, kChange},
+      TRule{CanAdd, 0},
+      TRule{CanRemove, 0},
+      TRule{CanUndoCheckOut, kChange | scc::SCC_STATUS_DELETED},
+      TRule{CanGet, 0},
+      TRule{CanGet, 0},
+  };
   const auto status = context_.Statuses.Of(fileName);
-  return !status || kEligible[static_cast<std::size_t>(action)](*status);
+  const auto& rule = kRules[static_cast<std::size_t>(action)];
+  return !status || rule.Eligible(*status) || (*status & rule.OrAny) != 0;
 }
 
 bool TSccExpert::IsCheckOutOffered(const std::string& fileName) const {

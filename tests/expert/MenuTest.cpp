@@ -210,6 +210,9 @@ TEST_F(TeamMenu, IsOfferedForAFileOnlyWhileAProviderProjectIsOpen) {
   Drop();
   EXPECT_THAT(enabled(), ElementsAre(kIn, kRemove, kUndo, "Show Differences...", "Get Latest Version",
                                      "Show History...", "Properties..."));
+  SetMappedStatus(0x101);
+  Drop();
+  EXPECT_THAT(enabled(), IsSupersetOf({kOut, kIn, kUndo})) << "a conflict can be settled or given up";
   host_.Notify(TOTAFileNotification::fnFileClosing, project_file_);
   EXPECT_FALSE(menu.IsEnabled(units_[0]));
 }
