@@ -32,7 +32,7 @@ TEST(Comments, AreCutToTheProvidersLimitAndKeepTheCaret) {
   EXPECT_EQ(model.Text, "xxxy" + std::string(124, 'x'));
 }
 
-TEST(Comments, EndAsTheUserEndsThem) {
+TEST(Comments, ReturnWhatTheUserPressed) {
   const struct {
     const char* Case;
     int Result;

@@ -10,7 +10,7 @@ using enum TOTAFileNotification;
 
 const std::string kBusy = "Another source control command is still running";
 
-TEST(Activities, OneRuleForWhatMayStart) {
+TEST(Activities, ChecksWhatMayStartWhileSomethingRuns) {
   bool inCall = false;
   TActivities activities([&] { return inCall; });
   const auto expect = [&](TActivities::TVerdict ofUser, TActivities::TVerdict ofHost) {
@@ -33,7 +33,7 @@ TEST(Activities, OneRuleForWhatMayStart) {
   expect(Refuse, Wait);
 }
 
-TEST(Activities, WhatWaitsRunsInOrderWhateverEndsBefore) {
+TEST(Activities, RunsWaitingNotificationsInOrderAlsoAfterAFailure) {
   TActivities activities([] { return false; });
   std::vector<int> order;
   const auto notify = [&](int number) { activities.Notify([&, number] { order.push_back(number); }); };
@@ -70,7 +70,7 @@ TEST_F(Reentrance, AProviderCallHasTheProviderToItself) {
   EXPECT_THAT(forms_.LinesOf(mwtInfo), IsSupersetOf({"CheckFilesInClick; " + kBusy, "MainMenu; " + kBusy}));
 }
 
-TEST_F(Reentrance, WhatTheHostSaysWhileAProviderIsChosenIsHandledAfterwards) {
+TEST_F(Reentrance, NotificationsDuringTheChoiceOfAProviderAreHandledAfterwards) {
   auto& expert = Start();
   provider_->OnCall["SccInitialize"] = [&](const ScriptedCall&) {
     if (host_.FindModule(project_file_)) return;

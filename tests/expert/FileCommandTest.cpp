@@ -328,7 +328,7 @@ TEST_F(FileCommand, CheckOutCallsFileByFileAndTheLastOneDecidesAboutTheReport) {
   }
 }
 
-TEST_F(FileCommand, AddAsksPerFileUntilTheCommentIsToldToServeAll) {
+TEST_F(FileCommand, AddAsksForACommentPerFileUntilOneAppliesToAll) {
   auto& expert = Open();
   provider_->DefaultStatus = 0;
   folder_.Write("work/unit2.kfm", "form");

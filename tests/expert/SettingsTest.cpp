@@ -43,7 +43,7 @@ TEST_F(Settings, FirstSectionOfTheMappingWins) {
   }
 }
 
-TEST_F(Settings, BrokenMappingIsALineAndStaysAsItIs) {
+TEST_F(Settings, BrokenMappingIsReportedAndStaysAsItIs) {
   auto& expert = Start();
   const std::string binary("[Scripted]\n\0\xFF\xFE", 14);
   WriteMapping(binary);
@@ -56,7 +56,7 @@ TEST_F(Settings, BrokenMappingIsALineAndStaysAsItIs) {
   EXPECT_EQ(Mapping(), binary);
 }
 
-TEST_F(Settings, MappingThatSaysNothingIsAWarningOnce) {
+TEST_F(Settings, MappingWithoutAProviderIsReportedOnce) {
   for (const char* text : {"", "ProjName=x\n", "[Script"}) {
     SCOPED_TRACE(text);
     WriteMapping(text);

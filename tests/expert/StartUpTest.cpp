@@ -19,7 +19,7 @@ TEST_F(StartUp, InstallsMenuAndNotifierAndTakesThemAway) {
   EXPECT_THAT(host_.Notifiers, IsEmpty());
 }
 
-TEST_F(StartUp, WithoutServicesTheExpertExistsAndSaysWhy) {
+TEST_F(StartUp, ReportsMissingServices) {
   host_.HasServices = false;
   auto& expert = Start();
   EXPECT_THAT(forms_.PlainBoxes, ElementsAre("Expert create error: Unable to get IDE services"));

@@ -4,7 +4,7 @@
 
 namespace kestrel {
 
-TEST(Paths, TakeNamesApart) {
+TEST(Paths, SplitIntoDirectoryNameAndExtension) {
   for (const auto& row : kNames) {
     SCOPED_TRACE(row.Path);
     EXPECT_EQ(ExtractFileDir(row.Path), row.Directory);
@@ -41,24 +41,24 @@ TEST(Paths, AreShownAsSeenFromADirectory) {
   }
 }
 
-TEST(Paths, HaveOneNormalForm) {
+TEST(Paths, AreNormalised) {
   for (const auto& row : kNormals) {
     EXPECT_EQ(NormalizePath(row.Path), row.Normal) << row.Path;
     EXPECT_EQ(NormalizePath(row.Normal), row.Normal) << "normal already";
   }
 }
 
-TEST(Paths, BeginInADirectoryUnlessTheySayWhere) {
+TEST(Paths, AreResolvedAgainstADirectoryUnlessAbsolute) {
   for (const auto& row : kWithin)
     EXPECT_EQ(ResolvePath(row.Directory, row.Path), row.Within) << row.Directory << " " << row.Path;
 }
 
-TEST(Paths, KnowAbsoluteOnes) {
+TEST(Paths, AreAbsoluteOrRelative) {
   for (const char* path : kAbsolute) EXPECT_TRUE(IsAbsolutePath(path)) << path;
   for (const char* path : kNotAbsolute) EXPECT_FALSE(IsAbsolutePath(path)) << path;
 }
 
-TEST(Paths, KnowSpellingsOfOneName) {
+TEST(Paths, CompareSpellingsOfOneFile) {
   for (const auto& row : kSame) {
     EXPECT_EQ(SameFileName(row.A, row.B), row.Same) << row.A << " " << row.B;
     EXPECT_EQ(FoldFileName(row.A) == FoldFileName(row.B), row.OneName) << row.A << " " << row.B;

@@ -32,7 +32,7 @@ TEST_F(Binding, BindsWhatTheLibraryExports) {
   EXPECT_EQ(BoundEntries(), 23);
 }
 
-TEST_F(Binding, ALoadedLibraryStaysWhateverThePathSays) {
+TEST_F(Binding, KeepsTheLoadedLibraryWhenAnotherPathIsGiven) {
   ASSERT_TRUE(scc::LoadSCCDLL(EMPTY_LIBRARY_PATH));
   const TModuleHandle first = scc::hSosScc;
   EXPECT_TRUE(scc::LoadSCCDLL(SCRIPTED_PROVIDER_PATH));

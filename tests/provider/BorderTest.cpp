@@ -93,7 +93,7 @@ TEST_F(Border, ExceptionsWithoutATextToFillAreLogged) {
   EXPECT_EQ(sink.Of(TSeverity::Error), expected);
 }
 
-TEST_F(Border, MissingEntryPointsAreNotSupportedAndAMissingNameIsTheLibrarys) {
+TEST_F(Border, ReportsMissingEntryPointsByTheLibrarysName) {
   list.reset();
   sink.Lines.clear();
   list = std::make_unique<TSCCProviderList>(PARTIAL_LIBRARY_PATH, 0, "ann");

@@ -27,7 +27,7 @@ TEST_F(Discovery, AProviderIsInstalledWhenTheKeyHoldsAValue) {
   EXPECT_FALSE(SCCProviderInstalled());
 }
 
-TEST_F(Discovery, TheDefaultProviderIsWhatItsKeySays) {
+TEST_F(Discovery, ReadsTheDefaultProviderFromItsKey) {
   EXPECT_EQ(Default(), Pair("", ""));
   WriteValue(kProviderKey, kProviderRegKey, "Software\\Example");
   EXPECT_EQ(Default(), Pair("", "")) << "the provider's own key is missing";

@@ -82,7 +82,7 @@ TEST_F(ProviderList, FindsSessionsByWholePathIgnoringCase) {
   EXPECT_EQ(provider->Count("SccCloseProject"), 0);
 }
 
-TEST_F(ProviderList, ASecondOneTakesTheSharedLibraryWithIt) {
+TEST_F(ProviderList, ASecondListUnloadsTheSharedLibrary) {
   TSCCProviderList first(provider.Path(), 0, "ann");
   first.Add("/p");
   { TSCCProviderList second(EMPTY_LIBRARY_PATH, 0, "bob"); }

@@ -7,7 +7,7 @@ namespace kestrel::addin {
 
 using User = std::function<void(TMsgDialogForm&)>;
 
-TEST(MsgDialog, EndsAsTheUserEndsIt) {
+TEST(MsgDialog, ReturnsWhatTheUserPressed) {
   const struct {
     const char* Case;
     int Result;

@@ -105,7 +105,7 @@ TEST_F(CommitBrowser, ShowsTheLocalSource) {
   });
 }
 
-TEST_F(CommitBrowser, StaysOpenWhenThePassCannotBegin) {
+TEST_F(CommitBrowser, StaysOpenWhenTheCommitCannotBegin) {
   EXPECT_EQ(Show([this](TCommitBrowser& form) {
               provider_->OnCall["SccDiff"] = [&](const ScriptedCall&) { Click(form.TButtonCommit); };
               Click(form.TButtonShowDiff);
@@ -125,7 +125,7 @@ TEST_F(CommitBrowser, StaysOpenWhenThePassCannotBegin) {
           TShownBox{"Commit Browser", "Unable to run Commit Browser, provider not assigned", metError}));
 }
 
-TEST_F(CommitBrowser, CannotBeWorkedWhileThePassRuns) {
+TEST_F(CommitBrowser, RefusesInputWhileTheCommitRuns) {
   std::string progress;
   Show([&](TCommitBrowser& form) {
     form.FRows[3].Activity = caCommit;

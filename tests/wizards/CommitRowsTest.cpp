@@ -45,7 +45,7 @@ TEST(CommitRowRules, ProposeAnActivityByStatusAndDifference) {
   }
 }
 
-TEST(CommitRowRules, ALetterLeadsToTheNextActivityThatBeginsWithIt) {
+TEST(CommitRowRules, ALetterSelectsTheNextActivityThatBeginsWithIt) {
   EXPECT_EQ(NextActivityWith('c', caNone), caCommit);
   EXPECT_EQ(NextActivityWith('C', caCommit), caCheckout);
   EXPECT_EQ(NextActivityWith('c', caCheckout), caCommit);
@@ -53,7 +53,7 @@ TEST(CommitRowRules, ALetterLeadsToTheNextActivityThatBeginsWithIt) {
   EXPECT_EQ(NextActivityWith('x', caNone), std::nullopt);
 }
 
-class CommitRowsOf : public TExpertTest {
+class CommitRowList : public TExpertTest {
  protected:
   /// "name: state/activity" of each row.
   std::vector<std::string> Rows() {
@@ -67,7 +67,7 @@ class CommitRowsOf : public TExpertTest {
   }
 };
 
-TEST_F(CommitRowsOf, AProjectAreItsFilesAndWhatTheProviderKnows) {
+TEST_F(CommitRowList, HoldsTheProjectsFilesAndThoseThatTheProviderKnows) {
   folder_.MakeFolder("work/sub/deep");
   units_.push_back(At("UNIT1.pas"));
   units_.push_back(folder_.Write("lib/shared.pas", "x"));
@@ -110,7 +110,7 @@ TEST_F(CommitRowsOf, AProjectAreItsFilesAndWhatTheProviderKnows) {
   EXPECT_THAT(forms_.Boxes, IsEmpty());
 }
 
-TEST_F(CommitRowsOf, AProviderThatCannotTellIsNotTakenForOneThatKnowsNothing) {
+TEST_F(CommitRowList, KeepsItsRowsWhenTheQueryFails) {
   Open();
   provider_->Results["SccQueryInfo"] = SCC_E_ACCESSFAILURE;
   EXPECT_EQ(Rows().size(), 4U);
@@ -120,7 +120,7 @@ TEST_F(CommitRowsOf, AProviderThatCannotTellIsNotTakenForOneThatKnowsNothing) {
                   "Problem accessing the SCC system, network or contention problem. Try later", metError}));
 }
 
-TEST_F(CommitRowsOf, AProviderThatFloodsTheListIsRefused) {
+TEST_F(CommitRowList, RefusesAListWithoutEnd) {
   auto& expert = Open();
   provider_->Faults.FloodList = true;
   EXPECT_THAT(AbortOf([&] { GatherCommitRows(expert.Context()); }), HasSubstr("65536"));

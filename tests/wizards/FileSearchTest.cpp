@@ -45,13 +45,13 @@ TEST_F(FileSearch, FindsTheSameWithAndWithoutATrailingDelimiter) {
   }
 }
 
-TEST_F(FileSearch, FindsNothingWhereThereIsNothing) {
+TEST_F(FileSearch, FindsNothingInEmptyOrMissingDirectories) {
   EXPECT_THAT(Found(SearchRecursiveDirectories, "p/empty"), ElementsAre("p/empty/"));
   EXPECT_THAT(Found(SearchRecursiveFiles, "p/empty"), ElementsAre());
   for (const char* none : {"none", "p/a.pas"}) EXPECT_THAT(Found(SearchRecursiveFiles, none), ElementsAre());
 }
 
-TEST_F(FileSearch, GoesOnBehindADirectoryThatCannotBeRead) {
+TEST_F(FileSearch, SkipsADirectoryThatCannotBeRead) {
   fs::permissions(folder_ / "p/sub", fs::perms::none);
   {
     const TPlainUser user;

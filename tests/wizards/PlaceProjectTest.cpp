@@ -144,7 +144,7 @@ TEST_F(PlaceProject, CanBeStoppedBetweenTwoFiles) {
   EXPECT_TRUE(pages_->CancelButtonClick());
 }
 
-TEST_F(PlaceProject, NothingPickedMeansNoFurther) {
+TEST_F(PlaceProject, NeedsAProjectToContinue) {
   provider_->Results["SccGetProjPath"] = scc::SCC_I_OPERATIONCANCELED;
   provider_->GetProjPath = {};
   Show();
@@ -160,7 +160,7 @@ TEST_F(PlaceProject, NothingPickedMeansNoFurther) {
   EXPECT_THAT(Mapping(), HasSubstr("ProjName=typed/App"));
 }
 
-TEST_F(PlaceProject, WithoutAUsableProviderTheFirstPageSaysSo) {
+TEST_F(PlaceProject, FirstPageReportsThatNoProviderCanBeUsed) {
   WriteValue("Software\\Scripted", kServerPath, "/nowhere/none.so");
   Show();
   EXPECT_FALSE(Page().Next);
@@ -189,7 +189,7 @@ TEST_F(PlaceProject, NothingElseStartsWhileTheProvidersBrowserIsOpen) {
   EXPECT_EQ(Page().Problem, "");
 }
 
-TEST_F(PlaceProject, HostThatClosesTheProjectMeanwhileEndsItInWords) {
+TEST_F(PlaceProject, ReportsWhenTheHostClosesTheProject) {
   Show();
   Next(2);
   provider_->OnCall["SccAdd"] = [&](const ScriptedCall&) {

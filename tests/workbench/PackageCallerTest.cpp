@@ -14,7 +14,7 @@ TEST(PackageCaller, ReportsErrorsButNotAborts) {
   EXPECT_THAT(lines, ElementsAre("error: disk full", "odd: unknown error"));
 }
 
-TEST(Registrations, VisitThoseThatAreStillThereWhenTheirTurnComes) {
+TEST(Registrations, SkipThoseRemovedDuringTheLoop) {
   TRegistrations<int> numbers;
   const int first = numbers.Add(std::make_shared<int>(1));
   const int second = numbers.Add(std::make_shared<int>(2));

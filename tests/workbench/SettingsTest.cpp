@@ -9,7 +9,7 @@ class Settings : public testing::Test {
   TTestRegistry registry_;
 };
 
-TEST_F(Settings, LastOnlyWhenSaved) {
+TEST_F(Settings, KeepValuesOnlyWhenSaved) {
   TOptionsServices first;
   TPropertySet& set = first.PropertySet("SCMOptions");
   set.SetValue("UserName", "J\xC3\xBCrgen");

@@ -173,7 +173,7 @@ TEST_F(Workbench, ShowsABoxThatComesUpWhileAMenuOpensAndThenTheMenu) {
     )");
 }
 
-TEST_F(Workbench, StaysOpenAroundAPackagesOwnWindowAndTheMacroEnds) {
+TEST_F(Workbench, RefusesToExitWhileAPackageRunsItsOwnEventLoop) {
   const std::string macro = R"(
     open Boat.qvxproj
     menu Crew|Watch

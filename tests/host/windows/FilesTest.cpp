@@ -76,7 +76,7 @@ TEST(Files, AreWrittenThroughLinks) {
   fs::rename(ToFilePath(folder.Write("other", "")), ToFilePath(folder / "link.cdp"));
 }
 
-TEST(Files, KeepWhoMayDoWhat) {
+TEST(Files, KeepTheirAccessControlList) {
   const TTemporaryFolder folder;
   const auto file = folder.Write("a.cdp", "old");
   const auto before = PermissionsOf(file);

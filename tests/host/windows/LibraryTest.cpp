@@ -17,7 +17,7 @@ bool Loads(const std::string& path, TDependencySearch search = TDependencySearch
 
 }  // namespace
 
-TEST(Library, FindsWhatItNeedsInItsOwnFolderOrInPathWhereThatIsWanted) {
+TEST(Library, FindsDependenciesInItsFolderAndInPathOnRequest) {
   const TTemporaryFolder folder;
   const auto provider = folder.MakeFolder("名前");
   const auto elsewhere = folder.MakeFolder("elsewhere");

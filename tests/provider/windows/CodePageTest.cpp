@@ -44,7 +44,7 @@ std::string Repeat(std::string_view text, int times) {
 
 }  // namespace
 
-TEST_F(CodePage, LosesNothingOfAText) {
+TEST_F(CodePage, ConvertsTextsWithoutLoss) {
   EXPECT_EQ(ToCodePageExact("grün €"), "gr\xFCn \x80");
   EXPECT_EQ(FromCodePageLossy("gr\xFCn \x80"), "grün €");
   // Ā would become A, which is another file.
@@ -76,7 +76,7 @@ TEST_F(CodePage, RefusesANameThatItCannotHold) {
   EXPECT_TRUE(provider->Calls.empty()) << "the provider was asked nothing";
 }
 
-TEST_F(CodePage, KeepsNothingFromHappeningWhereOurOwnTextsDoNotFit) {
+TEST_F(CodePage, ReplacesOnlyInTextsOfOurOwnWhatDoesNotFit) {
   const TTimeFormat format(L"'오전' HH:mm:ss");
   session().OpenProject(messages);
   EXPECT_EQ(messages[2], "");

@@ -53,7 +53,7 @@ TEST_F(Crash, InTheMiddleOfAListLeavesWhatCameBefore) {
   EXPECT_FALSE(ProviderCallInProgress());
 }
 
-TEST_F(Crash, AtTheBeginningAndTheEndIsLogged) {
+TEST_F(Crash, DuringInitializeAndUninitializeIsLogged) {
   list.reset();
   provider->OnCall["SccInitialize"] = provider->OnCall["SccUninitialize"] = Violate;
   list = std::make_unique<TSCCProviderList>(provider.Path(), 0, "ann");

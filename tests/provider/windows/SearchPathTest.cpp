@@ -6,7 +6,7 @@
 
 namespace kestrel::addin {
 
-TEST(SearchPath, IsThatOfAProviderWhoseKeySaysSo) {
+TEST(SearchPath, AppliesOnlyToProvidersRegisteredWithIt) {
   const TTestRegistry registry;
   const TTemporaryFolder folder;
   const RecordingSink sink;
