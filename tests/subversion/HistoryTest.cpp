@@ -38,17 +38,6 @@ TEST_F(FileHistory, LoadsPageByPageNewestFirst) {
   EXPECT_EQ("first", history.Revisions().back().Comment);
 }
 
-TEST_F(FileHistory, ContainsWhatOthersDid) {
-  Join(bob);
-  bob.EditAndCheckIn("unit1.pas", "4\n");
-  TDirectSession session(repository, ann);
-  History history(session->Svn(), ann.File("unit1.pas"));
-  EXPECT_THAT(Load(history), ElementsAre(5, 4, 3, 2));
-  bob.Remove({"unit1.pas"});
-  History removed(session->Svn(), ann.File("unit1.pas"));
-  EXPECT_THAT(Load(removed), ElementsAre(4, 3, 2));
-}
-
 TEST_F(FileHistory, GetsARevisionAndKeepsACopyOfEdits) {
   EXPECT_EQ("", GetRevision(TDirectSession(repository, ann), ann.File("unit1.pas"), 2).Copy);
   EXPECT_EQ("1\n", ann.Read("unit1.pas"));

@@ -19,16 +19,14 @@ namespace kestrel::svnscc {
 /// A port on the loopback interface that accepts connections and never answers, or no longer accepts any.
 class TListener {
  public:
-  enum class Queue { Free, Full };
-  explicit TListener(Queue queue = Queue::Free) {
+  explicit TListener(bool isFull = false) {
     sockaddr_in address = Address(0);
     socklen_t size = sizeof address;
     EXPECT_EQ(0, bind(sockets_[0], reinterpret_cast<sockaddr*>(&address), size));
     EXPECT_EQ(0, getsockname(sockets_[0], reinterpret_cast<sockaddr*>(&address), &size));
     port_ = ntohs(address.sin_port);
     EXPECT_EQ(0, listen(sockets_[0], 0));
-    if (queue == Queue::Free) return;
-    EXPECT_EQ(0, connect(sockets_[1], reinterpret_cast<sockaddr*>(&address), size));
+    if (isFull) connect(sockets_[1], reinterpret_cast<sockaddr*>(&address), size);
   }
   TListener(const TListener&) = delete;
   TListener& operator=(const TListener&) = delete;

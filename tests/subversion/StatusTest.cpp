@@ -100,17 +100,12 @@ TEST_F(Status, AsksServerOnceForQueriesThatFollowEachOther) {
   EXPECT_EQ(expected, eve.Statuses(names)) << "a command makes it forget";
 }
 
-TEST_F(Status, GivesUpServerThatStaysSilent) {
+TEST_F(Status, GivesUpServerThatStaysSilentOrDoesNotConnect) {
   repository.SetLimit("silence-seconds", 1);
-  const TListener silent;
-  EXPECT_EQ(SCC_E_CONNECTIONFAILURE, bob.Open(silent.Url(), "project"));
+  EXPECT_EQ(SCC_E_CONNECTIONFAILURE, bob.Open(TListener().Url(), "project"));
   EXPECT_EQ("E The server has sent nothing for 1 s: the connection was given up.\n", bob.Said());
-}
-
-TEST_F(Status, GivesUpConnectionThatDoesNotComeAbout) {
   repository.SetLimit("connect-seconds", 1);
-  const TListener full(TListener::Queue::Full);
-  EXPECT_EQ(SCC_E_CONNECTIONFAILURE, bob.Open(full.Url(), "project"));
+  EXPECT_EQ(SCC_E_CONNECTIONFAILURE, bob.Open(TListener(/*isFull*/ true).Url(), "project"));
   EXPECT_EQ("E No connection to the server came about within 1 s.\n", bob.Said());
 }
 
