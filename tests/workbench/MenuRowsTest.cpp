@@ -1,7 +1,7 @@
 #include <deque>
 
+#include "hosts/common/MenuRows.h"
 #include "support/Testing.h"
-#include "workbench/model/MenuRows.h"
 
 namespace kestrel::workbench {
 

@@ -1,6 +1,6 @@
 #include "host/Errors.h"
+#include "hosts/common/Notifications.h"
 #include "support/Testing.h"
-#include "workbench/model/Notifications.h"
 
 namespace kestrel::workbench {
 

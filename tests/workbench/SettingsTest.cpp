@@ -10,12 +10,12 @@ class Settings : public testing::Test {
 };
 
 TEST_F(Settings, KeepValuesOnlyWhenSaved) {
-  TOptionsServices first;
+  TOptionsServices first(kSettingsKey);
   TPropertySet& set = first.PropertySet("SCMOptions");
   set.SetValue("UserName", "J\xC3\xBCrgen");
-  EXPECT_EQ(TOptionsServices().PropertySet("SCMOptions").GetValue("UserName"), "");
+  EXPECT_EQ(TOptionsServices(kSettingsKey).PropertySet("SCMOptions").GetValue("UserName"), "");
   set.Save();
-  EXPECT_EQ(TOptionsServices().PropertySet("scmoptions").GetValue("username"), "J\xC3\xBCrgen");
+  EXPECT_EQ(TOptionsServices(kSettingsKey).PropertySet("scmoptions").GetValue("username"), "J\xC3\xBCrgen");
   set.SetValue("UserName", "lost");
   set.Load();
   EXPECT_EQ(set.GetValue("UserName"), "J\xC3\xBCrgen");
@@ -23,7 +23,7 @@ TEST_F(Settings, KeepValuesOnlyWhenSaved) {
 }
 
 TEST_F(Settings, RememberTheLastFilesFirst) {
-  TOptionsServices services;
+  TOptionsServices services(kSettingsKey);
   TRecentFiles recent(services.PropertySet(kRecentSet));
   for (int i = 0; i < 10; ++i) recent.Add("/p/" + std::to_string(i) + ".qvxproj");
   recent.Add("/p/5.QVXPROJ");

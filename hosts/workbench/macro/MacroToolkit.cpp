@@ -4,7 +4,7 @@
 #include <wx/graphics.h>
 #include <wx/menu.h>
 
-#include "workbench/windows/LoadedLibrary.h"
+#include "hosts/common/LoadedLibrary.h"
 
 namespace kestrel::workbench {
 

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "host/Modules.h"
-#include "workbench/model/Notifications.h"
+#include "hosts/common/Notifications.h"
 
 namespace kestrel::workbench {
 

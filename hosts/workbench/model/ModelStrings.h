@@ -1,4 +1,4 @@
-// Texts of the workbench's model: projects, documents, packages, command line.
+// Texts of the workbench's model: projects, documents, command line.
 #pragma once
 
 #include "system/Text.h"
@@ -17,19 +17,9 @@ inline constexpr TResString sCannotReload{"Cannot reload %s: %s"};
 inline constexpr TResString sProjectMissing{"%s lists a project that cannot be opened: %s"};
 inline constexpr TResString sReloaded{"%s has changed on disk and was reloaded."};
 inline constexpr TResString sGone{"%s no longer exists on disk; its text is kept in the editor."};
-inline constexpr TResString sPackageFailure{"%s: %s"};
-inline constexpr TResString sUnknownFailure{"unknown error"};
 inline constexpr TResString sOpenElsewhere{"%s is open in another editor; close that first."};
 inline constexpr TResString sNoProject{"There is no open project."};
 inline constexpr TResString sNewUnitText{"unit %s;\n\ninterface\n\nimplementation\n\nend.\n"};
-
-inline constexpr TResString sCategoryNew{"New Files"};
-inline constexpr TResString sCategoryOther{"Other Files"};
-
-inline constexpr TResString sPackageNotFound{"Package %s does not exist."};
-inline constexpr TResString sPackageNotLoaded{"Package %s could not be loaded: %s"};
-inline constexpr TResString sPackageNoEntry{"Package %s has no entry point \"%s\" and was not loaded."};
-inline constexpr TResString sPackageLeftovers{"Package left %d registrations behind when it was unloaded."};
 
 inline constexpr TResString sFileHelp{
     "A unit (.pas), a form (.kfm), a project (.qvxproj) or a project group (.qvxgroup)"};

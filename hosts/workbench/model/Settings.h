@@ -4,11 +4,12 @@
 #include <string>
 #include <vector>
 
-#include "workbench/model/PropertySets.h"
+#include "hosts/common/PropertySets.h"
 
 namespace kestrel::workbench {
 
-/// Keys of property sets and their fields.
+/// The workbench's key in the current user's registry, and below it the property sets and their fields.
+inline constexpr const char* kSettingsKey = "Software\\Corvane\\Workbench";
 inline constexpr const char* kGeneralSet = "General";
 inline constexpr const char* kFontSizeField = "FontSize";
 inline constexpr const char* kPackagesField = "Packages";

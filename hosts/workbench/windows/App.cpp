@@ -9,18 +9,19 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "hosts/common/IdeServices.h"
+#include "hosts/common/PackageLoader.h"
+#include "hosts/common/PackageStrings.h"
+#include "hosts/common/Toolkit.h"
 #include "system/Paths.h"
 #include "system/System.h"
 #include "workbench/model/ModelStrings.h"
-#include "workbench/model/PackageLoader.h"
 #include "workbench/model/Settings.h"
 #include "workbench/windows/FrameStrings.h"
-#include "workbench/windows/IdeServices.h"
 #include "workbench/windows/MainFrame.h"
 #include "workbench/windows/ModalStack.h"
 #include "workbench/windows/OpenMenus.h"
 #include "workbench/windows/Player.h"
-#include "workbench/windows/Toolkit.h"
 
 namespace kestrel::workbench {
 
@@ -63,7 +64,8 @@ bool TWorkbenchApp::OnInit() {
   SetBeepHandler([](TBeep) { wxBell(); });
   modals_ = std::make_unique<TModalStack>();
   menus_ = std::make_unique<TOpenMenus>();
-  services_ = std::make_unique<TIdeServices>([this](const std::string& line) { Log(line); });
+  services_ = std::make_unique<TIdeServices>(kSettingsKey, ResolvePath(ProgramFolder(), "help"),
+                                             [this](const std::string& line) { Log(line); });
   packages_ = std::make_unique<TPackageLoader>(services_->Caller());
   for (const auto& package : PackagesToLoad(line_, services_->Options())) packages_->Load(package);
   frame_ = new TMainFrame(*services_, *packages_);

@@ -7,6 +7,11 @@
 
 #include "workbench/model/CommandLine.h"
 
+namespace kestrel {
+class TIdeServices;
+class TPackageLoader;
+}  // namespace kestrel
+
 namespace kestrel::workbench {
 
 /// Exit codes.
@@ -16,8 +21,6 @@ inline constexpr int kExitNoDisplay = 3;
 
 class IPlayer;
 class TMainFrame;
-class TIdeServices;
-class TPackageLoader;
 class TModalStack;
 class TOpenMenus;
 

@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "hosts/common/Notifications.h"
 #include "workbench/model/FileStates.h"
-#include "workbench/model/Notifications.h"
 
 class wxWindow;
 

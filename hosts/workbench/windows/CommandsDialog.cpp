@@ -10,7 +10,7 @@
 #include "system/Text.h"
 #include "toolkit/WxText.h"
 #include "workbench/windows/FrameStrings.h"
-#include "workbench/windows/MenuBridge.h"
+#include "hosts/common/MenuBridge.h"
 
 namespace kestrel::workbench {
 

@@ -4,12 +4,11 @@
 class wxWindow;
 
 namespace kestrel {
+class TMenuBridge;
 struct TAction;
-}
+}  // namespace kestrel
 
 namespace kestrel::workbench {
-
-class TMenuBridge;
 
 /// Lets the user choose an enabled action; null if the user cancelled. The caller runs it after the dialog has closed.
 const TAction* ChooseAction(wxWindow* parent, const TMenuBridge& menus);

@@ -19,7 +19,6 @@ inline constexpr TResString sNoDisplay{
 inline constexpr TResString sCommandRunning{
     "The workbench cannot be closed while a command is running. Finish the command, or close its window, "
     "first."};
-inline constexpr TResString sNoHelp{"There is no help for %s."};
 
 inline constexpr TResString sMenuFile{"&File"};
 inline constexpr TResString sMenuNew{"&New"};

@@ -1,7 +1,7 @@
 // File > New > Other: the wizards of the workbench and of packages, by category.
 #pragma once
 
-#include "workbench/model/Gallery.h"
+#include "hosts/common/Gallery.h"
 
 class wxWindow;
 

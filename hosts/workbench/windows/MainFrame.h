@@ -7,12 +7,16 @@
 #include <memory>
 #include <string>
 
+#include "hosts/common/IdeServices.h"
+#include "hosts/common/MenuBridge.h"
 #include "system/Text.h"
 #include "workbench/model/FileStates.h"
 #include "workbench/model/Settings.h"
 #include "workbench/model/WorkspaceServices.h"
-#include "workbench/windows/IdeServices.h"
-#include "workbench/windows/MenuBridge.h"
+
+namespace kestrel {
+class TPackageLoader;
+}
 
 namespace kestrel::workbench {
 
@@ -20,7 +24,6 @@ class TCheckOutQuestion;
 class TEditorBook;
 class TFindReplace;
 class TMessagePane;
-class TPackageLoader;
 class TProjectTree;
 
 class TMainFrame final : public wxFrame, public IWorkspaceUi {

@@ -7,10 +7,11 @@
 
 #include <algorithm>
 
+#include "hosts/common/PackageLoader.h"
+#include "hosts/common/WindowMenu.h"
 #include "system/Paths.h"
 #include "system/Text.h"
 #include "toolkit/WxText.h"
-#include "workbench/model/PackageLoader.h"
 #include "workbench/windows/CommandsDialog.h"
 #include "workbench/windows/EditorBook.h"
 #include "workbench/windows/FindDialog.h"
@@ -22,7 +23,6 @@
 #include "workbench/windows/OwnWizard.h"
 #include "workbench/windows/ProjectTree.h"
 #include "workbench/windows/Version.h"
-#include "workbench/windows/WindowMenu.h"
 
 namespace kestrel::workbench {
 

@@ -1,6 +1,6 @@
 #include "workbench/windows/OpenMenus.h"
 
-#include "workbench/windows/Toolkit.h"
+#include "hosts/common/Toolkit.h"
 
 namespace kestrel::workbench {
 

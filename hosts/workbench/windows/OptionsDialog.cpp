@@ -1,72 +1,22 @@
 #include "workbench/windows/OptionsDialog.h"
 
-#include <wx/choice.h>
-#include <wx/combobox.h>
 #include <wx/dialog.h>
 #include <wx/listbox.h>
 #include <wx/msgdlg.h>
 #include <wx/simplebook.h>
 #include <wx/sizer.h>
-#include <wx/textctrl.h>
 
+#include "hosts/common/IdeServices.h"
+#include "hosts/common/OptionBindings.h"
 #include "system/Text.h"
 #include "toolkit/WxText.h"
 #include "workbench/model/Settings.h"
 #include "workbench/windows/FrameStrings.h"
 #include "workbench/windows/GeneralPage.h"
-#include "workbench/windows/IdeServices.h"
 
 namespace kestrel::workbench {
 
 namespace {
-
-std::string ValueOf(wxControl& control) {
-  if (auto* text = dynamic_cast<wxTextCtrl*>(&control)) return text->GetValue().utf8_string();
-  if (auto* combo = dynamic_cast<wxComboBox*>(&control)) return combo->GetValue().utf8_string();
-  if (auto* choice = dynamic_cast<wxChoice*>(&control)) return choice->GetStringSelection().utf8_string();
-  return {};
-}
-
-void ShowValue(wxControl& control, const std::string& value) {
-  const wxString text = ToWx(value);
-  if (auto* box = dynamic_cast<wxTextCtrl*>(&control)) return box->ChangeValue(text);
-  auto* list = dynamic_cast<wxItemContainerImmutable*>(&control);
-  // A value that is no longer offered keeps the page's own choice.
-  if (const int at = list ? list->FindString(text, true) : wxNOT_FOUND; at != wxNOT_FOUND)
-    list->SetSelection(at);
-  else if (auto* combo = dynamic_cast<wxComboBox*>(&control); combo && !combo->HasFlag(wxCB_READONLY))
-    combo->SetValue(text);
-}
-
-/// Binds controls of the dialog to the fields of one property set.
-class TBindings final : public IOTAOptionsPageHost {
- public:
-  explicit TBindings(IOTAPropertySet& set) : set_(set) {}
-  void Bind(wxControl* control, const std::string& field) override {
-    ShowValue(*control, GetValue(field));
-    bindings_.push_back({control, field});
-  }
-  std::string GetValue(const std::string& field) override { return set_.GetValue(field); }
-
-  /// Writes the controls' values to the set; returns whether one changed.
-  bool Store() {
-    bool changed = false;
-    for (const auto& [control, field] : bindings_) {
-      const std::string value = ValueOf(*control);
-      changed = changed || value != set_.GetValue(field);
-      set_.SetValue(field, value);
-    }
-    return changed;
-  }
-
- private:
-  struct TBinding {
-    wxControl* Control;
-    std::string Field;
-  };
-  IOTAPropertySet& set_;
-  std::vector<TBinding> bindings_;
-};
 
 class TOptionsDialog final : public wxDialog {
  public:
@@ -116,20 +66,20 @@ class TOptionsDialog final : public wxDialog {
  private:
   struct TAddIn {
     IOTAAddInOptions* Options;
-    std::unique_ptr<TBindings> Bindings;
+    std::unique_ptr<TOptionBindings> Bindings;
   };
 
   class TEnvironment final : public IOTAEnvironmentDialog {
    public:
-    TEnvironment(TOptionsDialog& dialog, TBindings& bindings) : dialog_(dialog), bindings_(bindings) {}
+    TEnvironment(TOptionsDialog& dialog, TOptionBindings& bindings) : dialog_(dialog), bindings_(bindings) {}
     void RegisterPage(TOptionsPage page) override { dialog_.AddPage(page, bindings_); }
 
    private:
     TOptionsDialog& dialog_;
-    TBindings& bindings_;
+    TOptionBindings& bindings_;
   };
 
-  void AddPage(const TOptionsPage& page, TBindings& bindings) {
+  void AddPage(const TOptionsPage& page, TOptionBindings& bindings) {
     const wxString caption = ToWx(page.Caption);
     book_->AddPage(page.Create(book_, bindings), caption);
     list_->Append(caption);
@@ -139,7 +89,7 @@ class TOptionsDialog final : public wxDialog {
   void AddAddIn(IOTAAddInOptions& addIn) {
     caller_.Run("CustomizeDialog", [&] {
       addIn.LoadOptions();
-      addIns_.push_back({&addIn, std::make_unique<TBindings>(addIn.GetPropertySet())});
+      addIns_.push_back({&addIn, std::make_unique<TOptionBindings>(addIn.GetPropertySet())});
       TEnvironment environment(*this, *addIns_.back().Bindings);
       addIn.CustomizeDialog(environment);
     });
@@ -166,7 +116,7 @@ class TOptionsDialog final : public wxDialog {
   THelpWindow& help_;
   wxListBox* list_;
   wxSimplebook* book_;
-  TBindings general_;
+  TOptionBindings general_;
   std::vector<TAddIn> addIns_;
   std::vector<std::string> helpTopics_;  // of each page
 };

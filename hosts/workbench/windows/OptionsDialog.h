@@ -3,9 +3,12 @@
 
 class wxWindow;
 
+namespace kestrel {
+class TIdeServices;
+}
+
 namespace kestrel::workbench {
 
-class TIdeServices;
 
 /// Shows the dialog; returns true if it was accepted and everything was saved. Cancel changes nothing.
 bool ShowOptionsDialog(wxWindow* parent, TIdeServices& services);

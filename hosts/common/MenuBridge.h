@@ -10,13 +10,13 @@
 #include <vector>
 
 #include "host/Menus.h"
-#include "workbench/model/Notifications.h"
+#include "hosts/common/Notifications.h"
 
-namespace kestrel::workbench {
+namespace kestrel {
 
 class TMenuBridge final : public IOTAMenuServices {
  public:
-  /// `frame` must have its menu bar.
+  /// Shows menus in the menu bar that `frame` has when they are inserted.
   TMenuBridge(wxFrame& frame, const TPackageCaller& caller);
   ~TMenuBridge() override;
 
@@ -36,6 +36,8 @@ class TMenuBridge final : public IOTAMenuServices {
   /// The actions, in the order in which they were attached.
   const std::vector<TAction*>& Actions() const { return actions_; }
   wxBitmapBundle ImageAt(int index) const;
+  /// Shows the menus in `bar`, before its last menu, unless they are there already. For hosts that replace their bar.
+  void ShowIn(wxMenuBar& bar);
   /// Shows the present items without calling the packages. Called after they have started, so that a menu need not
   /// change when it opens for the first time.
   void ShowAll();
@@ -47,6 +49,7 @@ class TMenuBridge final : public IOTAMenuServices {
   void Refresh(TTopMenu& top);
   void Show(TTopMenu& top);
   wxBitmapBundle ImageOf(int index, bool enabled) const;
+  void Place(TTopMenu& top, wxMenuBar& bar);
   void Fill(TTopMenu& top, wxMenu& menu, const std::vector<TMenuItem*>& items);
   void AppendItem(TTopMenu& top, wxMenu& menu, const TMenuItem& item);
   void OnMenuOpen(wxMenuEvent& event);
@@ -56,7 +59,7 @@ class TMenuBridge final : public IOTAMenuServices {
   TTopMenu* FindTop(const wxMenu* menu) const;
   void OnMenu(wxCommandEvent& event);
 
-  wxMenuBar& bar_;
+  wxFrame& frame_;
   const TPackageCaller& caller_;
   std::vector<std::unique_ptr<TTopMenu>> tops_;
   std::vector<TFileMenu*> fileMenus_;
@@ -65,4 +68,4 @@ class TMenuBridge final : public IOTAMenuServices {
   bool reopening_ = false;
 };
 
-}  // namespace kestrel::workbench
+}  // namespace kestrel

@@ -4,7 +4,7 @@
 #include <wx/dynlib.h>
 #include <wx/log.h>
 
-namespace kestrel::workbench {
+namespace kestrel {
 
 /// A library that the process has loaded already; finds nothing if it has not.
 class TLoadedLibrary {
@@ -23,4 +23,4 @@ class TLoadedLibrary {
   wxDynamicLibrary library_;
 };
 
-}  // namespace kestrel::workbench
+}  // namespace kestrel

@@ -1,4 +1,4 @@
-#include "workbench/windows/Toolkit.h"
+#include "hosts/common/Toolkit.h"
 
 #include <wx/app.h>
 #include <wx/menu.h>
@@ -6,9 +6,9 @@
 #include <cstdint>
 #include <utility>
 
-#include "workbench/windows/LoadedLibrary.h"
+#include "hosts/common/LoadedLibrary.h"
 
-namespace kestrel::workbench {
+namespace kestrel {
 
 namespace {
 
@@ -125,4 +125,4 @@ void TMenuCloser::OnWindowShown() {
   if (IsOnScreen(menu_)) CallGtk<void>("gtk_menu_shell_cancel", WidgetOf(bar_));
 }
 
-}  // namespace kestrel::workbench
+}  // namespace kestrel

@@ -1,17 +1,13 @@
-#include "workbench/model/PropertySets.h"
+#include "hosts/common/PropertySets.h"
 
 #include <charconv>
 
 #include "system/Registry.h"
 #include "system/Text.h"
 
-namespace kestrel::workbench {
+namespace kestrel {
 
-namespace {
-constexpr const char* kSettingsKey = "Software\\Corvane\\Workbench\\";
-}
-
-TPropertySet::TPropertySet(std::string key) : key_(kSettingsKey + std::move(key)) { Load(); }
+TPropertySet::TPropertySet(std::string key) : key_(std::move(key)) { Load(); }
 
 std::string TPropertySet::GetValue(const std::string& field) {
   const auto found = fields_.find(FoldCase(field));
@@ -46,8 +42,8 @@ int TPropertySet::GetNumber(const std::string& field, int fallback, int low, int
 
 TPropertySet& TOptionsServices::PropertySet(const std::string& key) {
   auto& set = sets_[FoldCase(key)];
-  if (!set) set = std::make_unique<TPropertySet>(key);
+  if (!set) set = std::make_unique<TPropertySet>(settingsKey_ + "\\" + key);
   return *set;
 }
 
-}  // namespace kestrel::workbench
+}  // namespace kestrel

@@ -6,7 +6,7 @@
 class wxMenu;
 class wxMenuBar;
 
-namespace kestrel::workbench {
+namespace kestrel {
 
 /// Enables pictures of menu items, which GTK omits by default.
 void ShowMenuImages();
@@ -45,4 +45,4 @@ class TMenuCloser {
   bool hasClosed_ = false;
 };
 
-}  // namespace kestrel::workbench
+}  // namespace kestrel

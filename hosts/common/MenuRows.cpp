@@ -1,6 +1,6 @@
-#include "workbench/model/MenuRows.h"
+#include "hosts/common/MenuRows.h"
 
-namespace kestrel::workbench {
+namespace kestrel {
 
 std::vector<const TMenuItem*> VisibleRows(const std::vector<TMenuItem*>& items) {
   std::vector<const TMenuItem*> rows;
@@ -18,4 +18,4 @@ std::vector<const TMenuItem*> VisibleRows(const std::vector<TMenuItem*>& items) 
   return rows;
 }
 
-}  // namespace kestrel::workbench
+}  // namespace kestrel

@@ -4,10 +4,10 @@
 #include <string>
 #include <vector>
 
+#include "hosts/common/Notifications.h"
 #include "system/Library.h"
-#include "workbench/model/Notifications.h"
 
-namespace kestrel::workbench {
+namespace kestrel {
 
 class TPackageLoader {
  public:
@@ -35,4 +35,4 @@ class TPackageLoader {
   std::vector<TPackage> packages_;
 };
 
-}  // namespace kestrel::workbench
+}  // namespace kestrel

@@ -1,15 +1,15 @@
-#include "workbench/model/PackageLoader.h"
+#include "hosts/common/PackageLoader.h"
 
 #include <bit>
 #include <ranges>
 
 #include "host/PackageVersion.h"
 #include "host/Services.h"
+#include "hosts/common/PackageStrings.h"
 #include "system/Paths.h"
 #include "system/System.h"
-#include "workbench/model/ModelStrings.h"
 
-namespace kestrel::workbench {
+namespace kestrel {
 
 namespace {
 
@@ -66,4 +66,4 @@ void TPackageLoader::Unload() {
   for (; !packages_.empty(); packages_.pop_back()) UnloadModule(packages_.back().Module);
 }
 
-}  // namespace kestrel::workbench
+}  // namespace kestrel

@@ -1,20 +1,20 @@
-// The root of the host's services, and the services that need no window.
+// The root of a host's services, and the services that are the same in every host.
 #pragma once
 
 #include <functional>
 #include <map>
 #include <memory>
 
+#include "hosts/common/Gallery.h"
+#include "hosts/common/PropertySets.h"
 #include "toolkit/HelpWindow.h"
-#include "workbench/model/Gallery.h"
-#include "workbench/model/PropertySets.h"
 
-namespace kestrel::workbench {
+namespace kestrel {
 
 /// The event for the main form, and help.
 class TApplicationService final : public IOTAApplication {
  public:
-  TApplicationService();
+  explicit TApplicationService(std::string helpFolder) : help_(std::move(helpFolder)) {}
   TEvent<>& MainFormCreated() override { return created_; }
   bool HelpKeyword(const std::string& keyword) override;
   THelpWindow& Help() { return help_; }
@@ -30,7 +30,8 @@ class TApplicationService final : public IOTAApplication {
 /// The target of CorvaneIDEServices. Services that need windows can be queried once the main form exists.
 class TIdeServices final : public IOTAServices {
  public:
-  explicit TIdeServices(TLogLine log);
+  /// `settingsKey` is the host's key in the current user's registry.
+  TIdeServices(std::string settingsKey, std::string helpFolder, TLogLine log);
   ~TIdeServices() override;
 
   /// Makes a service, which is borrowed, available to QueryInterface.
@@ -72,4 +73,4 @@ class TIdeServices final : public IOTAServices {
   std::string startupDirectory_;
 };
 
-}  // namespace kestrel::workbench
+}  // namespace kestrel

@@ -1,9 +1,9 @@
-#include "workbench/model/Notifications.h"
+#include "hosts/common/Notifications.h"
 
 #include "host/Errors.h"
-#include "workbench/model/ModelStrings.h"
+#include "hosts/common/PackageStrings.h"
 
-namespace kestrel::workbench {
+namespace kestrel {
 
 namespace {
 
@@ -55,4 +55,4 @@ void TNotifications::ActiveProjectChanged(const std::string& fileName) {
   Send(TOTAFileNotification::fnActiveProjectChanged, fileName);
 }
 
-}  // namespace kestrel::workbench
+}  // namespace kestrel

@@ -1,4 +1,4 @@
-// Per-user settings: named sets of string fields in the registry, for the workbench and for add-ins.
+// Per-user settings: named sets of string fields in the registry, for hosts and packages.
 #pragma once
 
 #include <map>
@@ -6,11 +6,11 @@
 #include <string>
 
 #include "host/Options.h"
-#include "workbench/model/Notifications.h"
+#include "hosts/common/Notifications.h"
 
-namespace kestrel::workbench {
+namespace kestrel {
 
-/// Fields under HKCU\Software\Corvane\Workbench\<key>. Names are case-insensitive, as in the registry.
+/// The values of one key of the current user's registry. Names are case-insensitive, as in the registry.
 class TPropertySet final : public IOTAPropertySet {
  public:
   explicit TPropertySet(std::string key);
@@ -36,6 +36,8 @@ class TPropertySet final : public IOTAPropertySet {
 
 class TOptionsServices final : public IOTAOptionsServices {
  public:
+  /// `settingsKey` is the host's key in the current user's registry, without a trailing backslash.
+  explicit TOptionsServices(std::string settingsKey) : settingsKey_(std::move(settingsKey)) {}
   TPropertySet& PropertySet(const std::string& key) override;
   int AddOptions(std::shared_ptr<IOTAAddInOptions> options) override {
     return addIns_.Add(std::move(options));
@@ -47,8 +49,9 @@ class TOptionsServices final : public IOTAOptionsServices {
   }
 
  private:
+  std::string settingsKey_;
   std::map<std::string, std::unique_ptr<TPropertySet>> sets_;  // by folded key
   TRegistrations<IOTAAddInOptions> addIns_;
 };
 
-}  // namespace kestrel::workbench
+}  // namespace kestrel

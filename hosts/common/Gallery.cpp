@@ -1,8 +1,8 @@
-#include "workbench/model/Gallery.h"
+#include "hosts/common/Gallery.h"
 
-#include "workbench/model/ModelStrings.h"
+#include "hosts/common/PackageStrings.h"
 
-namespace kestrel::workbench {
+namespace kestrel {
 
 namespace {
 struct TCategoryRow {
@@ -31,4 +31,4 @@ void TWizardServices::RemoveWizard(int index) {
   if (const auto wizard = wizards_.Remove(index)) caller_.Run("Destroyed", [&] { wizard->Destroyed(); });
 }
 
-}  // namespace kestrel::workbench
+}  // namespace kestrel

@@ -1,14 +1,15 @@
-#include "workbench/windows/MenuBridge.h"
+#include "hosts/common/MenuBridge.h"
+
+#include <wx/weakref.h>
 
 #include <algorithm>
 #include <utility>
 
+#include "hosts/common/MenuRows.h"
+#include "hosts/common/Toolkit.h"
 #include "toolkit/WxText.h"
-#include "workbench/model/MenuRows.h"
-#include "workbench/windows/Icons.h"
-#include "workbench/windows/Toolkit.h"
 
-namespace kestrel::workbench {
+namespace kestrel {
 
 namespace {
 constexpr int kMenuImageSize = 16;
@@ -25,7 +26,7 @@ wxBitmapBundle DisabledImage(const wxBitmapBundle& image) {
 /// A package's menu, and the toolkit's menu that shows it.
 struct TMenuBridge::TTopMenu {
   TMenuItem* Top;
-  wxMenu* Menu;
+  wxWeakRef<wxMenu> Menu;  // the host may destroy it with its menu bar
   struct TRow {
     const TMenuItem* Item;
     int Image;
@@ -35,27 +36,40 @@ struct TMenuBridge::TTopMenu {
   std::vector<TRow> Rows;  // including separators; items of a submenu follow their parent
 };
 
-TMenuBridge::TMenuBridge(wxFrame& frame, const TPackageCaller& caller)
-    : bar_(*frame.GetMenuBar()), caller_(caller) {
-  frame.Bind(wxEVT_MENU_OPEN, &TMenuBridge::OnMenuOpen, this);
-  bar_.Bind(wxEVT_MENU, &TMenuBridge::OnMenu, this);
+TMenuBridge::TMenuBridge(wxFrame& frame, const TPackageCaller& caller) : frame_(frame), caller_(caller) {
+  frame_.Bind(wxEVT_MENU_OPEN, &TMenuBridge::OnMenuOpen, this);
 }
-TMenuBridge::~TMenuBridge() = default;
+TMenuBridge::~TMenuBridge() { frame_.Unbind(wxEVT_MENU_OPEN, &TMenuBridge::OnMenuOpen, this); }
 
 void TMenuBridge::InsertMenu(TMenuItem& top) {
-  auto owned = std::make_unique<TTopMenu>(TTopMenu{&top, new wxMenu, {}});
-  TTopMenu& shown = *owned;
-  tops_.push_back(std::move(owned));
-  Fill(shown, *shown.Menu, top.Items);
-  bar_.Insert(bar_.GetMenuCount() - 1, shown.Menu, ToWx(top.ShownCaption()));
+  tops_.push_back(std::make_unique<TTopMenu>(TTopMenu{&top, {}, {}}));
+  if (auto* bar = frame_.GetMenuBar()) Place(*tops_.back(), *bar);
+}
+
+void TMenuBridge::ShowIn(wxMenuBar& bar) {
+  for (const auto& top : tops_) {
+    if (!top->Menu || top->Menu->GetMenuBar() != &bar) Place(*top, bar);
+    Show(*top);
+  }
+}
+
+void TMenuBridge::Place(TTopMenu& top, wxMenuBar& bar) {
+  auto* menu = new wxMenu;
+  menu->Bind(wxEVT_MENU, &TMenuBridge::OnMenu, this);
+  top.Menu = menu;
+  top.Rows.clear();
+  Fill(top, *menu, top.Top->Items);
+  bar.Insert(bar.GetMenuCount() - 1, menu, ToWx(top.Top->ShownCaption()));
 }
 
 void TMenuBridge::RemoveMenu(TMenuItem& top) {
   const auto found = std::ranges::find(tops_, &top, [](const auto& t) { return t->Top; });
   if (found == tops_.end()) return;
-  for (std::size_t i = 0; i < bar_.GetMenuCount(); ++i)
-    if (bar_.GetMenu(i) == (*found)->Menu) {
-      delete bar_.Remove(i);
+  wxMenu* menu = (*found)->Menu;
+  wxMenuBar* bar = menu ? menu->GetMenuBar() : nullptr;
+  for (std::size_t i = 0; bar && i < bar->GetMenuCount(); ++i)
+    if (bar->GetMenu(i) == menu) {
+      delete bar->Remove(i);
       break;
     }
   tops_.erase(found);
@@ -99,6 +113,7 @@ void TMenuBridge::Refresh(TTopMenu& top) {
 }
 
 void TMenuBridge::Show(TTopMenu& top) {
+  if (!top.Menu) return;
   std::vector<const TMenuItem*> rows;
   CollectRows(top.Top->Items, rows);
   const auto same = [](const TMenuItem* item, const TTopMenu::TRow& row) {
@@ -132,6 +147,7 @@ void TMenuBridge::AppendItem(TTopMenu& top, wxMenu& menu, const TMenuItem& item)
     return;
   }
   auto submenu = item.Items.empty() ? nullptr : std::make_unique<wxMenu>();
+  if (submenu) submenu->Bind(wxEVT_MENU, &TMenuBridge::OnMenu, this);
   auto* shown = new wxMenuItem(&menu, wxID_ANY, ToWx(item.ShownCaption()), "", wxITEM_NORMAL, submenu.get());
   const bool enabled = item.IsEnabled();
   ShowImage(*shown, ImageOf(ImageIndexOf(item), enabled));
@@ -192,13 +208,15 @@ void TMenuBridge::OnMenuOpen(wxMenuEvent& event) {
   if (!top || reopening_) return;
   if (!IsOnScreen(*top->Menu)) return Refresh(*top);
   // GTK is opening the menu, and a window shown now would crash it.
-  CallNext([this, menu = top->Menu] { RefreshOnScreen(*menu); });
+  CallNext([this, menu = top->Menu] {
+    if (menu) RefreshOnScreen(*menu);
+  });
 }
 
 void TMenuBridge::RefreshOnScreen(wxMenu& menu) {
   auto* top = FindTop(&menu);
   if (!top || !IsOnScreen(menu)) return;
-  const TMenuCloser closer(bar_, menu);
+  const TMenuCloser closer(*menu.GetMenuBar(), menu);
   Refresh(*top);
   if (!closer.HasClosed()) return SelectFirstItem(menu);
   reopening_ = true;  // its items are up to date already
@@ -207,7 +225,7 @@ void TMenuBridge::RefreshOnScreen(wxMenu& menu) {
 }
 
 TMenuBridge::TTopMenu* TMenuBridge::FindTop(const wxMenu* menu) const {
-  const auto found = std::ranges::find(tops_, menu, [](const auto& top) { return top->Menu; });
+  const auto found = std::ranges::find(tops_, menu, [](const auto& top) { return top->Menu.get(); });
   return found != tops_.end() ? found->get() : nullptr;
 }
 
@@ -229,8 +247,8 @@ void TMenuBridge::AttachAction(TAction& action) {
 void TMenuBridge::DetachAction(TAction& action) { std::erase(actions_, &action); }
 
 int TMenuBridge::AddImage(const std::string& svg) {
-  images_.push_back(SvgBundle(svg, kMenuImageSize));
+  images_.push_back(wxBitmapBundle::FromSVG(svg.c_str(), {kMenuImageSize, kMenuImageSize}));
   return static_cast<int>(images_.size()) - 1;
 }
 
-}  // namespace kestrel::workbench
+}  // namespace kestrel

@@ -9,7 +9,7 @@
 
 #include "host/Services.h"
 
-namespace kestrel::workbench {
+namespace kestrel {
 
 /// Shows a line to the user: in the message pane, or on stderr before there is one.
 using TLogLine = std::function<void(const std::string&)>;
@@ -87,4 +87,4 @@ class TNotifications {
   TRegistrations<IOTAIDENotifier> notifiers_;
 };
 
-}  // namespace kestrel::workbench
+}  // namespace kestrel

@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
-#include "workbench/model/Notifications.h"
+#include "hosts/common/Notifications.h"
 
-namespace kestrel::workbench {
+namespace kestrel {
 
 class TGalleryCategory final : public IOTAGalleryCategory {
  public:
@@ -53,4 +53,4 @@ class TWizardServices final : public IOTAWizardServices {
   TRegistrations<IOTAWizard> wizards_;
 };
 
-}  // namespace kestrel::workbench
+}  // namespace kestrel

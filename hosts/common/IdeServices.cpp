@@ -1,30 +1,28 @@
-#include "workbench/windows/IdeServices.h"
+#include "hosts/common/IdeServices.h"
 
 #include <wx/app.h>
 #include <wx/msgdlg.h>
 
 #include <filesystem>
 
+#include "hosts/common/PackageStrings.h"
 #include "system/FileName.h"
 #include "system/Paths.h"
-#include "system/System.h"
-#include "system/Text.h"
 #include "toolkit/WxText.h"
-#include "workbench/windows/FrameStrings.h"
 
-namespace kestrel::workbench {
-
-TApplicationService::TApplicationService() : help_(ResolvePath(ProgramFolder(), "help")) {}
+namespace kestrel {
 
 bool TApplicationService::HelpKeyword(const std::string& keyword) {
   if (help_.Show(keyword)) return true;
-  wxMessageBox(ToWx(Format(sNoHelp, {keyword})), ToWx(sProgramName), wxOK | wxICON_INFORMATION,
+  wxMessageBox(ToWx(Format(sNoHelp, {keyword})), wxTheApp->GetAppDisplayName(), wxOK | wxICON_INFORMATION,
                wxGetActiveWindow());
   return false;
 }
 
-TIdeServices::TIdeServices(TLogLine log)
+TIdeServices::TIdeServices(std::string settingsKey, std::string helpFolder, TLogLine log)
     : caller_(std::move(log)),
+      options_(std::move(settingsKey)),
+      application_(std::move(helpFolder)),
       startupDirectory_(ExcludeTrailingPathDelimiter(FromFilePath(std::filesystem::current_path()))) {
   Publish<IOTAServices>(*this);
   Publish<IOTAWizardServices>(wizards_);
@@ -71,4 +69,4 @@ void* TIdeServices::QueryInterface(const TGuid& iid) noexcept {
   return nullptr;
 }
 
-}  // namespace kestrel::workbench
+}  // namespace kestrel

@@ -5,9 +5,9 @@
 
 #include "host/Menus.h"
 
-namespace kestrel::workbench {
+namespace kestrel {
 
 /// The visible items in order, without leading, trailing or consecutive separators.
 std::vector<const TMenuItem*> VisibleRows(const std::vector<TMenuItem*>& items);
 
-}  // namespace kestrel::workbench
+}  // namespace kestrel
