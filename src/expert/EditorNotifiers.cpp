@@ -93,11 +93,11 @@ void* TSccFormNotifier::QueryInterface(const TGuid& iid) noexcept {
 }
 
 IOTAEditor* TSccFormNotifier::FindEditor() {
-  return GetFormEditor(FindModule(ChangeFileExt(fileName_, kSourceExtension)), ExtractFileExt(fileName_));
+  return GetFormEditor(FindModule(FileTypes().GetUnit(fileName_)), ExtractFileExt(fileName_));
 }
 
 void TSccFormNotifier::Attach(const std::shared_ptr<IOTANotifier>& self) {
-  if (!FindModule(ChangeFileExt(fileName_, kSourceExtension))) throw EAbort(sFormModuleNil);
+  if (!FindModule(FileTypes().GetUnit(fileName_))) throw EAbort(sFormModuleNil);
   auto* editor = FindEditor();
   if (!editor) throw EAbort(sFormEditorNil);
   index_ = editor->AddNotifier(self);
@@ -110,7 +110,7 @@ void TSccFormNotifier::FormActivated() {
     WriteMessage(mwtError, sFormActivatedNil);
     return;
   }
-  expert_.ViewChange(ChangeFileExt(form->GetFileName(), kSourceExtension));
+  expert_.ViewChange(FileTypes().GetUnit(form->GetFileName()));
 }
 
 void TSccFormNotifier::Destroyed() { expert_.FormEditors()->Remove(fileName_); }

@@ -15,7 +15,7 @@ namespace {
 
 bool IsEdited(const std::string& fileName) {
   if (IsUnit(fileName) || IsProject(fileName)) return IsUnitModified(fileName);
-  auto* editor = FindEditor(fileName, ChangeFileExt(fileName, kSourceExtension));
+  auto* editor = FindEditor(fileName, FileTypes().GetUnit(fileName));
   return editor && editor->GetModified();
 }
 
@@ -52,7 +52,7 @@ void ReloadFile(const std::string& fileName) {
   if (SameText(fileName, project)) return ReloadProject(project);
   auto* modules = IdeService<IOTAModuleServices>();
   auto* actions = IdeService<IOTAActionServices>();
-  if (!modules || !actions || SameText(ExtractFileExt(fileName), kProjectExtension)) return;
+  if (!modules || !actions || IsProject(fileName)) return;
   if (modules->FindModule(fileName)) actions->ReloadFile(fileName);
 }
 

@@ -41,9 +41,9 @@ void TFileListModel::ChangeAllCheckedStates(bool checked) {
 }
 
 std::string TFileListModel::TickCurrent(const std::string& currentFile) {
-  // Compared exactly: only the spelling that the IDE writes is a form file.
-  const bool form = ExtractFileExt(currentFile) == kFormExtension;
-  const auto target = form ? ChangeFileExt(currentFile, kSourceExtension) : currentFile;
+  auto& types = FileTypes();
+  const bool form = types.GetKind(currentFile) == TFileKind::Form;
+  const auto target = form ? types.GetUnit(currentFile) : currentFile;
   const auto file = FoldCase(target);
   for (std::size_t i = 0; i < rows_.size(); ++i)
     if (FoldCase(GetFile(static_cast<int>(i))) == file) SetChecked(i, true);

@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "expert/SccSystem.h"
+#include "host/Services.h"
 #include "system/Paths.h"
 #include "system/System.h"
 #include "system/Text.h"
@@ -20,26 +21,47 @@ bool HasExtension(const std::string& fileName, const char* extension) {
   return SameText(ExtractFileExt(fileName), extension);
 }
 
-TStringList Companions(const std::string& fileName) {
-  TStringList companions;
-  const auto append = [&](const auto& extensions) {
-    for (const char* extension : extensions) companions.push_back(ChangeFileExt(fileName, extension));
-  };
-  if (IsUnit(fileName)) append(SRC_EXTENSIONS);
-  if (IsProject(fileName)) append(PRJ_EXTENSIONS);
-  return companions;
-}
+/// The kinds of files of a host without that service.
+class TDefaultFileTypes final : public IOTAFileTypes {
+ public:
+  TFileKind GetKind(const std::string& fileName) override {
+    if (HasExtension(fileName, kSourceExtension)) return TFileKind::Source;
+    if (HasExtension(fileName, kProjectExtension) || HasExtension(fileName, kPackageExtension))
+      return TFileKind::Project;
+    if (HasExtension(fileName, kProjectGroupExtension)) return TFileKind::Group;
+    // Compared exactly: only the spelling that the IDE writes is a form file.
+    return ExtractFileExt(fileName) == kFormExtension ? TFileKind::Form : TFileKind::Other;
+  }
+  std::string GetUnit(const std::string& fileName) override {
+    return ChangeFileExt(fileName, kSourceExtension);
+  }
+  TStringList GetCompanions(const std::string& fileName) override {
+    TStringList companions;
+    const auto append = [&](const auto& extensions) {
+      for (const char* extension : extensions) companions.push_back(ChangeFileExt(fileName, extension));
+    };
+    const auto kind = GetKind(fileName);
+    if (kind == TFileKind::Source) append(SRC_EXTENSIONS);
+    if (kind == TFileKind::Project) append(PRJ_EXTENSIONS);
+    return companions;
+  }
+  void* QueryInterface(const TGuid& iid) noexcept override { return FindInterface<IOTAFileTypes>(this, iid); }
+};
 
 }  // namespace
 
-bool IsUnit(const std::string& fileName) { return HasExtension(fileName, kSourceExtension); }
-
-bool IsProject(const std::string& fileName) {
-  return HasExtension(fileName, kProjectExtension) || HasExtension(fileName, kPackageExtension);
+IOTAFileTypes& FileTypes() {
+  static TDefaultFileTypes defaults;
+  auto* host = IdeService<IOTAFileTypes>();
+  return host ? *host : defaults;
 }
 
+bool IsUnit(const std::string& fileName) { return FileTypes().GetKind(fileName) == TFileKind::Source; }
+
+bool IsProject(const std::string& fileName) { return FileTypes().GetKind(fileName) == TFileKind::Project; }
+
 bool IsProjectFile(const std::string& fileName) {
-  return IsProject(fileName) || HasExtension(fileName, kProjectGroupExtension);
+  return IsProject(fileName) || FileTypes().GetKind(fileName) == TFileKind::Group;
 }
 
 TStringList CurrentProjectFiles(bool onlyExisting) {
@@ -47,7 +69,8 @@ TStringList CurrentProjectFiles(bool onlyExisting) {
   rv_EnumProjectUnits(&files);
   files.push_back(GetCurrentProjectFile());
   TStringList companions;
-  for (const auto& file : files) std::ranges::move(Companions(file), std::back_inserter(companions));
+  for (const auto& file : files)
+    std::ranges::move(FileTypes().GetCompanions(file), std::back_inserter(companions));
   std::ranges::move(companions, std::back_inserter(files));
   if (onlyExisting) std::erase_if(files, [](const std::string& file) { return !FileExists(file); });
   return files;
@@ -55,7 +78,7 @@ TStringList CurrentProjectFiles(bool onlyExisting) {
 
 void AppendCompanions(const std::string& fileName, const TFileIndex& source, TStringList& dest,
                       bool checkDisk, const TStatusArray& statuses) {
-  for (const auto& companion : Companions(fileName))
+  for (const auto& companion : FileTypes().GetCompanions(fileName))
     source.ForEachRow(companion, [&](std::size_t row) {
       if ((checkDisk && FileExists(companion)) || (statuses[row] & scc::SCC_STATUS_CONTROLLED))
         dest.push_back(companion);

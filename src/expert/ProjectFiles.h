@@ -5,10 +5,12 @@
 #include <string>
 
 #include "expert/FileIndex.h"
+#include "host/FileTypes.h"
 #include "provider/sccapiintf.h"
 
 namespace kestrel::addin {
 
+// The kinds of files, unless the host has kinds of its own.
 inline constexpr const char* kSourceExtension = ".pas";
 inline constexpr const char* kFormExtension = ".kfm";
 inline constexpr const char* kProjectExtension = ".qvxproj";
@@ -18,7 +20,8 @@ inline constexpr std::array SRC_EXTENSIONS{".kdp", ".kfm", ".kcr", ".tlb", ".xfm
 inline constexpr std::array PRJ_EXTENSIONS{".kpr",  ".cfg", ".kof", ".dsk",     ".res",
                                            ".todo", ".tlb", ".kcr", "_tlb.pas", "_tlb.kcr"};
 
-// By extension, ignoring case.
+/// The host's kinds of files, or the add-in's own.
+IOTAFileTypes& FileTypes();
 bool IsUnit(const std::string& fileName);
 /// A project or a package.
 bool IsProject(const std::string& fileName);
