@@ -19,6 +19,7 @@ inline constexpr TResString sSearchPathHelp{
     "that the provider needs, not only its own folder and the\n"
     "system's. Other programs ignore this setting"};
 inline constexpr TResString sIsolatedHelp{"Run it in a separate process"};
+inline constexpr TResString sIfNoneHelp{"Do nothing if a provider is installed already"};
 inline constexpr TResString sRemoveHelp{"Remove a provider from the registry; its library is kept."};
 inline constexpr TResString sMakeDefaultHelp{"Choose the provider for projects that do not name one."};
 inline constexpr TResString sIsolateHelp{

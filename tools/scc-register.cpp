@@ -39,6 +39,7 @@ struct TArguments {
   bool Force = false;
   bool SearchPath = false;
   bool Isolated = false;
+  bool IfNone = false;
 };
 
 // ------------------------------------------------------------------------------------------------- registry
@@ -150,13 +151,14 @@ void Install(const TArguments& arguments) {
 void Add(const TArguments& arguments) {
   const auto& name = arguments.Name;
   const auto& path = arguments.Path;
+  const bool isFirst = InstalledProviders().empty();
+  if (arguments.IfNone && !isFirst) return;
   CheckName(name);
   if (!IsAbsolutePath(path)) throw EFailure(Format(sPathNotAbsolute, {path}));
   if (!arguments.Isolated) RequireDirect(path);
   if (!arguments.Force && CanLoadDirectly(path))
     CheckLibrary(path,
                  arguments.SearchPath ? TDependencySearch::OwnFolderPath : TDependencySearch::OwnFolder);
-  const bool isFirst = InstalledProviders().empty();
   Install(arguments);
   std::cout << Format(sAdded, {name});
   if (isFirst || arguments.Default) Choose(name);
@@ -250,6 +252,7 @@ void AddCommands(CLI::App& parser, TArguments& arguments, void (*&command)(const
   install->add_flag("--force", arguments.Force, sForceHelp);
   install->add_flag("--search-path", arguments.SearchPath, sSearchPathHelp);
   install->add_flag("--isolated", arguments.Isolated, sIsolatedHelp);
+  install->add_flag("--if-none", arguments.IfNone, sIfNoneHelp);
   add("remove", sRemoveHelp, Remove);
   add("default", sMakeDefaultHelp, MakeDefault);
   add("isolate", sIsolateHelp, MakeIsolated);
