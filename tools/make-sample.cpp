@@ -26,7 +26,6 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr const char* kProviderName = "Subversion";
-constexpr const char* kProjectName = "/trunk/Flight";
 
 void RegisterProvider(const std::string& library) {
   const std::string key = "Software\\Subversion\\SCC";
@@ -53,11 +52,12 @@ void Check(bool done, const TStateMessages& messages) {
 /// A user's working copy, operated through the provider.
 class TUser {
  public:
-  TUser(const std::string& library, const std::string& work, const std::string& url, const std::string& user)
-      : provider_(library, 0, user), work_(work), url_(url) {
+  TUser(const std::string& library, const std::string& work, const std::string& url, const std::string& name,
+        const std::string& user)
+      : provider_(library, 0, user), work_(work), url_(url), name_(name) {
     provider_.Add(work);
     project_ = provider_.GetItem(0);
-    project_->set_ProjName(kProjectName);
+    project_->set_ProjName(name_);
     project_->set_ProjPath(url);
     TStateMessages messages;
     Check(project_->OpenProject(messages) == scc::SCC_OK, messages);
@@ -83,10 +83,10 @@ class TUser {
   /// Writes the mapping file beside the project file.
   void Map() {
     for (const auto& entry : fs::directory_iterator(work_)) {
-      if (entry.path().extension() != ".qvxproj") continue;
+      if (entry.path().extension() != ".qvxproj" && entry.path().extension() != ".cbp") continue;
       WriteFileAtomically(ChangeFileExt(entry.path().string(), ".cdp"),
                           Format("[%s]\nProjName=%s\nAuxProjPath=%s\nUserName=%s\n",
-                                 {kProviderName, kProjectName, url_, project_->get_UserName()}));
+                                 {kProviderName, name_, url_, project_->get_UserName()}));
     }
   }
 
@@ -95,6 +95,7 @@ class TUser {
   TSCCProviderProject* project_;
   std::string work_;
   std::string url_;
+  std::string name_;  // of the project in the repository
 };
 
 struct TArguments {
@@ -119,14 +120,15 @@ void Make(const TArguments& arguments) {
   const auto* host = arguments.Player ? kProviderHostPlayer : kProviderHost;
   RegisterProvider(arguments.Direct ? library : InstallProxyLibrary(kProviderName, library, false, host));
   const auto url = svnscc::CreateRepository((folder / "repository").string());
-  svnscc::MarkProjectUsed(url, kProjectName);  // as choosing it in the provider's dialog does
+  const auto name = "/trunk/" + fs::absolute(arguments.Project).filename().string();
+  svnscc::MarkProjectUsed(url, name);  // as choosing it in the provider's dialog does
 
   TProviderLines lines;
   auto* before = SetProviderSink(&lines);
   for (std::size_t i = 0; i < users.size(); ++i) {
     const auto own = i == 0 ? work : folder / ("work of " + users[i]);
     fs::create_directories(own);
-    TUser user(library, own.string(), url, users[i]);
+    TUser user(library, own.string(), url, name, users[i]);
     if (i == 0)
       user.AddEverything();
     else
