@@ -7,6 +7,7 @@
 #include <set>
 #include <unordered_set>
 
+#include "common/text/RepositoryPath.h"
 #include "subversion/svn/LocalStatus.h"
 #include "subversion/svn/NodeInfo.h"
 #include "subversion/svn/NonUtf8Names.h"
@@ -198,7 +199,7 @@ std::set<std::string> FetchFilesBelow(Walk& walk, const std::string& folder) {
   const auto [known, isNew] = walk.answer.FilesBelow.try_emplace(inside);
   if (isNew) known->second = FilesBelow(walk.context.Svn(), UrlOf(project.Url, inside));
   std::set<std::string> paths;
-  for (const auto& file : known->second) paths.insert(file.empty() ? folder : folder + "/" + file);
+  for (const auto& file : known->second) paths.insert(file.empty() ? folder : PathBelow(folder, file));
   return paths;
 }
 
