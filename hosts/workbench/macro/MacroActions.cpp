@@ -89,7 +89,7 @@ std::string TMacroPlayer::DoMenu(const TArguments& arguments) {
   const wxMenuItem* item = OpenMenuItem(frame_, ToWx(arguments[0]));
   if (!item) return Format(sNoMenu, {arguments[0]});
   if (!item->IsEnabled()) return Format(sControlDisabled, {arguments[0]});
-  ClickMenuItem(frame_, *item);
+  ClickMenuItem(*item);
   return {};
 }
 

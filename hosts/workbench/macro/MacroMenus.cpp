@@ -55,11 +55,7 @@ wxMenuItem* FindMenuItem(const wxMenu& menu, const wxString& path) {
   return item;
 }
 
-void ClickMenuItem(wxFrame& frame, const wxMenuItem& item) {
-  wxCommandEvent event(wxEVT_MENU, item.GetId());
-  event.SetEventObject(item.GetMenu());
-  frame.GetMenuBar()->HandleWindowEvent(event);
-}
+void ClickMenuItem(const wxMenuItem& item) { item.GetMenu()->SendEvent(item.GetId()); }
 
 wxRect MenuRect(const wxMenuBar& bar, const wxString& path) {
   const wxMenu* menu = TopMenu(bar, path.BeforeFirst('|'));

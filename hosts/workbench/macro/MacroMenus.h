@@ -15,7 +15,7 @@ namespace kestrel::workbench {
 wxMenuItem* OpenMenuItem(wxFrame& frame, const wxString& path);
 /// The item of a path "Submenu|Item" below `menu`; null if there is none.
 wxMenuItem* FindMenuItem(const wxMenu& menu, const wxString& path);
-void ClickMenuItem(wxFrame& frame, const wxMenuItem& item);
+void ClickMenuItem(const wxMenuItem& item);
 /// The screen rectangle of the title of a menu "Menu", or of the item "Menu|Item" of an open menu; empty if it is not
 /// shown or the toolkit does not expose it.
 wxRect MenuRect(const wxMenuBar& bar, const wxString& path);
