@@ -2,7 +2,7 @@
 # A project's life in Code::Blocks, with real keys and clicks; started by tools/play-codeblocks:  tour.sh ROOT BIN FOLDER
 # Clicks are at the places that the IDE's main window has on a screen of 1280 by 1024 pixels.  Every step waits until what
 # it needs is there; the limit only ends a tour that hangs.
-set -euo pipefail
+set -euo pipefail  # grep -q behind a pipe would end the program before it, and so fail
 root=$1 bin=$2 folder=$3
 limit=${TOUR_LIMIT:-120}
 ide=
@@ -30,7 +30,7 @@ until_true() {  # WHAT COMMAND...
 }
 find_window() { xdotool search --onlyvisible --name "^$(sed 's/[()]/\\&/g' <<<"$1")\$" 2>/dev/null; }
 no_window() { ! find_window "$1"; }
-has_focus() { xdotool getactivewindow getwindowname | grep -qxF -- "$1"; }
+has_focus() { xdotool getactivewindow getwindowname | grep -xF -- "$1" >/dev/null; }
 expect() {  # TITLE: waits for the window and activates it
   until_true "the window $1" find_window "$1"
   xdotool windowactivate "$(find_window "$1" | tail -n 1)"
@@ -90,7 +90,7 @@ open_file() {  # NAME: opens a file of the project with the IDE's own dialog
   gone "Open file"
   until_true "the editor of $1" editor_of "$1"
 }
-editor_of() { xdotool getwindowname "$(main_window)" | grep -q "^\*\?$(basename "$1") \["; }
+editor_of() { xdotool getwindowname "$(main_window)" | grep "^\*\?$(basename "$1") \[" >/dev/null; }
 repository() { svn cat "$url/$1"; }
 
 # ---------------------------------------------------------------------------------------------------------- story
@@ -154,9 +154,9 @@ type_on_top() {  # TEXT: inserts a line into the file in front
   keys ctrl+Home
   enter "$1"
   keys Return
-  until_true "unsaved text" eval 'xdotool getwindowname "$(main_window)" | grep -q "^[*]"'
+  until_true "unsaved text" eval 'xdotool getwindowname "$(main_window)" | grep "^[*]"'
 }
-saved() { until_true "a saved editor" eval 'xdotool getwindowname "$(main_window)" | grep -qv "^[*]"'; }
+saved() { until_true "a saved editor" eval 'xdotool getwindowname "$(main_window)" | grep -v "^[*]"'; }
 file_menu() {  # UP: chooses from the Team menu of the file in front, counted from its end
   until_true "an idle IDE" no_menu
   click 700 600 3
@@ -172,13 +172,13 @@ no_questions() { no_window "Reload file?.*" || fail "the IDE asks about a file t
 step "2. Check out the file in front"
 open_file "$ann/Glider.cpp"
 accept check-out "Check Out File(s)" "Wings" 3-check-out
-svn info "$url/Glider/Glider.cpp" | grep -q "^Lock Token" || fail "Glider.cpp is not locked"
+svn info "$url/Glider/Glider.cpp" | grep "^Lock Token" >/dev/null || fail "Glider.cpp is not locked"
 
 step "3. Check in text that was not saved"
 type_on_top "// longer wings"
 accept check-in "Check In File(s)" "Longer wings" 4-check-in
 [ "$(svn cat "$url/Glider/Glider.cpp" | head -n 1)" = "// longer wings" ] || fail "the text was not checked in"
-svn log -r HEAD "$url/Glider" | grep -q "Longer wings" || fail "the comment is missing"
+svn log -r HEAD "$url/Glider" | grep "Longer wings" >/dev/null || fail "the comment is missing"
 saved
 no_questions
 
@@ -203,7 +203,7 @@ team commit "Commit Browser"
 picture 7-commit-browser
 keys alt+c
 confirm
-until_true "the commit" eval "svn cat '$url/Glider/Glider.cpp' | head -n 1 | grep -qx '// not yet checked in'"
+until_true "the commit" eval "svn cat '$url/Glider/Glider.cpp' | sed -n 1p | grep -x '// not yet checked in'"
 saved
 
 step "6. Bob changes a file that ann has open; she gets it"
