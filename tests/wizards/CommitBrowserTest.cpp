@@ -82,7 +82,7 @@ TEST_F(CommitBrowser, CommentsTravelWithTheirRowsAndFitTheProvider) {
   EXPECT_EQ(provider_->Last("SccAdd").Comment, std::string(127, 'x')) << "the row was not left since";
   Show([&](TCommitBrowser& form) {
     EXPECT_EQ(form.FRows[2].Comment, "") << "used";
-    EXPECT_EQ(form.FRows[3].Comment, "n" + std::string(127, 'x'));
+    EXPECT_EQ(form.FRows[3].Comment, std::string("n").append(127, 'x'));
     form.Close();
   });
 }
