@@ -73,7 +73,7 @@ TEST_F(CommitBrowser, CommentsTravelWithTheirRowsAndFitTheProvider) {
   Show([&](TCommitBrowser& form) {
     EXPECT_EQ(form.TMemoSummaryComments->GetValue(), "for all");
     form.StringGrid1->SetGridCursor(3, cgcStatus);
-    EXPECT_EQ(FromWx(form.TMemoIndividualComment->GetValue()), "n" + std::string(127, 'x'));
+    EXPECT_EQ(FromWx(form.TMemoIndividualComment->GetValue()), std::string("n").append(127, 'x'));
     form.FRows[3].Activity = caAdd;
     form.FRows[3].Comment = std::string(127, 'x');
     Click(form.TButtonCommit);
