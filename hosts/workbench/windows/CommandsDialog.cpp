@@ -7,10 +7,10 @@
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
 
+#include "hosts/common/MenuBridge.h"
 #include "system/Text.h"
 #include "toolkit/WxText.h"
 #include "workbench/windows/FrameStrings.h"
-#include "hosts/common/MenuBridge.h"
 
 namespace kestrel::workbench {
 

@@ -9,7 +9,6 @@ class TIdeServices;
 
 namespace kestrel::workbench {
 
-
 /// Shows the dialog; returns true if it was accepted and everything was saved. Cancel changes nothing.
 bool ShowOptionsDialog(wxWindow* parent, TIdeServices& services);
 
