@@ -52,6 +52,7 @@ class TRegistrations {
   template <class Visit>
   void ForEachShared(Visit visit) const {
     std::vector<int> indexes;
+    indexes.reserve(objects_.size());
     for (const auto& [index, object] : objects_) indexes.push_back(index);
     for (const int index : indexes)
       if (const auto found = objects_.find(index); found != objects_.end()) {

@@ -188,7 +188,7 @@ bool ProjectChoice::Refuse(const std::string& text) {
 
 void ProjectChoice::ShowNextStep() {
   const std::string problem = Problem();
-  if (!problem.empty()) return SetMessage(problem, false);
+  if (!problem.empty() || !selected_) return SetMessage(problem, false);
   const std::string url = ReadableUrl(UrlOf(root_, *selected_));
   SetMessage(planned_.contains(*selected_) ? Format(sWillCreate.Text, {url}) : Format(sWillUse.Text, {url}),
              false);

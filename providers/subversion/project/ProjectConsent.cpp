@@ -65,8 +65,7 @@ void Require(const TResString& text, const TResString& note, const std::string& 
                          OneLine("/" + ToProjectPath(names.ProjectName).value_or("")), OneLine(names.User)});
   const auto answer =
       AskUser(mode.Parent, {sConsentTitle.str(), facts + note.str() + sConsentQuestion.str()});
-  if (!answer) refuse(sNotAskedNoWindow);
-  if (!*answer) refuse(sConsentRefused);
+  if (answer != true) refuse(answer ? sConsentRefused : sNotAskedNoWindow);
   MarkUsed(root);
   if (mode.MayCreate) MarkUsed(project.Url);
 }
